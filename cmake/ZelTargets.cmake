@@ -1,0 +1,100 @@
+# Everything a target of this project has in common, and one function per kind of target.
+
+include(GNUInstallDirs)
+include(GenerateExportHeader)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+
+# The build tree mirrors the install tree, so that a library finds its data the same way in both.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
+file(RELATIVE_PATH ZEL_LIBDIR_FROM_BINDIR
+    "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+file(RELATIVE_PATH ZEL_DATADIR_FROM_LIBDIR
+    "/${CMAKE_INSTALL_LIBDIR}" "/${CMAKE_INSTALL_DATADIR}")
+
+set(ZEL_QT "Qt${ZEL_QT_MAJOR}")
+set(ZEL_QT_MINIMUM_5 5.15)
+set(ZEL_QT_MINIMUM_6 6.4)
+find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets)
+find_package(EXPAT 2.5 REQUIRED)
+
+# Warnings and Qt strictness, for our own sources only.
+add_library(zel_strict INTERFACE)
+target_compile_options(zel_strict INTERFACE
+    -Wall -Wextra -Wconversion $<$<BOOL:${ZEL_WERROR}>:-Werror>)
+target_compile_definitions(zel_strict INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER
+    QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+# zel_add_library(<target> NAMESPACE <Zel|Tano> EXPORT_NAME <Name> HEADER_PREFIX <dir>
+#                 SOURCES ... [DEPENDS public-dependency ...] [PRIVATE_DEPENDS ...])
+#
+# A shared library with hidden visibility, its export header <dir>/<target>_export.h, the public
+# headers under include/, an alias of the name that an installed package gives it, and its install
+# rules.
+function(zel_add_library target)
+    cmake_parse_arguments(arg "" "NAMESPACE;EXPORT_NAME;HEADER_PREFIX"
+        "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    set(generated "${CMAKE_CURRENT_BINARY_DIR}/include")
+
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS include/*.h)
+    add_library(${target} SHARED ${arg_SOURCES} ${headers})
+    add_library(${arg_NAMESPACE}::${arg_EXPORT_NAME} ALIAS ${target})
+    generate_export_header(${target}
+        EXPORT_FILE_NAME "${generated}/${arg_HEADER_PREFIX}/${target}_export.h")
+
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${arg_EXPORT_NAME}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_include_directories(${target}
+        PUBLIC
+            "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>"
+            "$<BUILD_INTERFACE:${generated}>"
+            "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>"
+        PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/src")
+    target_link_libraries(${target}
+        PUBLIC ${arg_DEPENDS} PRIVATE ${arg_PRIVATE_DEPENDS} $<BUILD_INTERFACE:zel_strict>)
+
+    set_property(GLOBAL APPEND PROPERTY ZEL_${arg_NAMESPACE}_LIBRARIES ${target})
+    install(DIRECTORY include/ "${generated}/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+        FILES_MATCHING PATTERN "*.h")
+endfunction()
+
+# zel_add_program(<target> SOURCES ... DEPENDS ...): an installed program.
+function(zel_add_program target)
+    cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${target} ${arg_SOURCES})
+    target_link_libraries(${target} PRIVATE ${arg_DEPENDS} zel_strict)
+    set_target_properties(${target} PROPERTIES
+        INSTALL_RPATH "$ORIGIN/${ZEL_LIBDIR_FROM_BINDIR}")
+    install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endfunction()
+
+# zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and
+# with the test data found under ZEL_TEST_DATA.
+function(zel_add_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_DEPENDS} ${ZEL_QT}::Test zel_strict)
+    target_compile_definitions(${name} PRIVATE
+        ZEL_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data"
+        ZEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+        ZEL_BINARY_DIR="${PROJECT_BINARY_DIR}")
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        TIMEOUT 300)
+endfunction()

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <tano/tano_base_export.h>
+
+#include <QString>
+
+#include <utility>
+
+/// Diagnostics in named categories, on top of Qt's logging categories: users filter them as in any
+/// Qt program, for example with QT_LOGGING_RULES="PackageModel.Package.debug=true".
+namespace Tano::log {
+
+/// Severity of a line, on a scale from 0 (nothing) to 6 (everything).
+enum class Level {
+    Silent = 0,
+    Fatal = 1,
+    Error = 2,
+    Warning = 3,
+    Info = 4,
+    Verbose = 5,
+    Debug = 6
+};
+
+/// Tells whether a line of this level in this category would be written. Verbose and debug lines
+/// are off unless a filter rule switches the category's debug messages on.
+[[nodiscard]] TANO_BASE_EXPORT bool isEnabled(const char *category, Level level);
+
+/// Writes "operation: message" in the category, if that is enabled at this level. No level ends
+/// the program.
+TANO_BASE_EXPORT void write(const char *category, Level level, const char *operation,
+                            const QString &message);
+
+inline void error(const char *category, const char *operation, const QString &message) {
+    write(category, Level::Error, operation, message);
+}
+
+/// Writes what `compose()` returns, a QString; `compose` is called only when verbose lines of the
+/// category are enabled.
+template<typename Compose>
+void verbose(const char *category, const char *operation, Compose &&compose) {
+    if (isEnabled(category, Level::Verbose))
+        write(category, Level::Verbose, operation, std::forward<Compose>(compose)());
+}
+
+} // namespace Tano::log

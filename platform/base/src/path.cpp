@@ -1,0 +1,96 @@
+#include "tano/path.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QStringList>
+
+#include <utility>
+
+#include <dlfcn.h>
+
+namespace Tano::path {
+namespace {
+
+/// The directory over the data of all applications in the tree that this library was loaded from,
+/// or the empty text.
+QString besideLibrary() {
+    static const char addressInLibrary = 0;
+    Dl_info info{};
+    if (dladdr(&addressInLibrary, &info) == 0 || !info.dli_fname)
+        return {};
+    // Canonical, because "..", taken from a linked library directory, leads elsewhere.
+    const QString directory = QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
+    if (directory.isEmpty())
+        return {};
+    return QDir::cleanPath(directory % QLatin1String("/" ZEL_DATADIR_FROM_LIBDIR));
+}
+
+/// The relative path in its shortest form, or the empty text for one that does not name something
+/// inside the directory that it is relative to.
+QString insidePath(const std::string &relativePath) {
+    const QString path = QDir::cleanPath(QString::fromStdString(relativePath));
+    const bool leadsOut = path == QLatin1String("..") || path.startsWith(QLatin1String("../"));
+    return leadsOut || QDir::isAbsolutePath(path) ? QString() : path;
+}
+
+QStringList environmentEntries(const QString &application) {
+    const QString variable = application.toUpper() % QLatin1String("_DATA_PATH");
+    return qEnvironmentVariable(QFile::encodeName(variable).constData())
+        .split(QDir::listSeparator(), Qt::SkipEmptyParts);
+}
+
+/// The directories that may exist, those searched first in front.
+QStringList candidates(const QString &application, bool excludeUser) {
+    // Found once: a library path that is relative is so to the first working directory.
+    static const QString beside = besideLibrary();
+
+    QStringList roots = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    if (excludeUser)
+        roots.removeAll(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    if (!beside.isEmpty())
+        roots.append(beside);
+
+    QStringList directories = environmentEntries(application);
+    for (const QString &root : std::as_const(roots))
+        directories.append(root % QLatin1Char('/') % application);
+    return directories;
+}
+
+/// As dataDirectories().
+QStringList directoriesOf(const std::string &application, bool excludeUser) {
+    const QString name = insidePath(application);
+    QStringList existing;
+    if (name.isEmpty())
+        return existing;
+    for (const QString &directory : candidates(name, excludeUser)) {
+        if (const QFileInfo info(directory); info.isDir())
+            existing.append(QDir::cleanPath(info.absoluteFilePath()));
+    }
+    existing.removeDuplicates();
+    return existing;
+}
+
+} // namespace
+
+std::vector<std::string> dataDirectories(const std::string &application, bool excludeUser) {
+    std::vector<std::string> result;
+    for (const QString &directory : directoriesOf(application, excludeUser))
+        result.push_back(directory.toStdString());
+    return result;
+}
+
+std::string findData(const std::string &application, const std::string &relativePath,
+                     bool excludeUser) {
+    const QString path = insidePath(relativePath);
+    if (path.isEmpty())
+        return {};
+    for (const QString &directory : directoriesOf(application, excludeUser)) {
+        const QString file = QDir::cleanPath(directory % QLatin1Char('/') % path);
+        if (QFileInfo::exists(file))
+            return file.toStdString();
+    }
+    return {};
+}
+
+} // namespace Tano::path
