@@ -1,0 +1,274 @@
+#include <tano/behavior_info.h>
+
+#include "manifest_writer.h"
+#include "record_data.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Tano {
+namespace {
+
+const std::string interactive = "interactive";
+const std::string solitary = "solitary";
+
+// The operations that the four kinds of lists have in common.
+
+using Lists = TextListMap BehaviorData::*;
+
+void addTo(BehaviorInfo &record, Lists lists, const std::string &value, const std::string &key) {
+    (RecordAccess::edit(record).*lists)[key].push_back(value);
+}
+
+void insertInto(BehaviorInfo &record, Lists lists, const std::string &value, const std::string &key,
+                int index) {
+    auto &list = (RecordAccess::edit(record).*lists)[key];
+    list.insert(list.begin() + std::clamp(index, 0, int(list.size())), value);
+}
+
+// Where the wanted occurrence of a value stands; -1 where there is none.
+int indexOf(const BehaviorInfo &record, Lists lists, const std::string &value,
+            const std::string &key, int occurrence) {
+    const auto &list = listOf(RecordAccess::data(record).*lists, key);
+    for (int i = 0; i < int(list.size()); ++i) {
+        if (list[std::size_t(i)] == value && occurrence-- == 0)
+            return i;
+    }
+    return -1;
+}
+
+bool updateIn(BehaviorInfo &record, Lists lists, const std::string &oldValue,
+              const std::string &newValue, const std::string &key, int occurrence) {
+    const int index = indexOf(record, lists, oldValue, key, occurrence);
+    if (index < 0)
+        return false;
+    (RecordAccess::edit(record).*lists)[key][std::size_t(index)] = newValue;
+    return true;
+}
+
+bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, const std::string &key,
+                int occurrence) {
+    const int index = indexOf(record, lists, value, key, occurrence);
+    if (index < 0)
+        return false;
+    auto &all = RecordAccess::edit(record).*lists;
+    const auto it = all.find(key);
+    it->second.erase(it->second.begin() + index);
+    if (it->second.empty())
+        all.erase(it);
+    return true;
+}
+
+template<typename Map>
+void keepOnly(Map &map, const std::vector<std::string> &keys) {
+    for (auto it = map.begin(); it != map.end();) {
+        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
+        it = isKept ? std::next(it) : map.erase(it);
+    }
+}
+
+} // namespace
+
+const std::string &BehaviorInfo::natureInteractive() {
+    return interactive;
+}
+
+const std::string &BehaviorInfo::natureSolitary() {
+    return solitary;
+}
+
+const std::string &BehaviorInfo::path() const {
+    return RecordAccess::data(*this).path;
+}
+
+void BehaviorInfo::setPath(const std::string &path) {
+    RecordAccess::edit(*this).path = path;
+}
+
+const std::string &BehaviorInfo::nature() const {
+    return RecordAccess::data(*this).nature;
+}
+
+void BehaviorInfo::setNature(const std::string &nature) {
+    RecordAccess::edit(*this).nature = nature;
+}
+
+bool BehaviorInfo::isUserRequestable() const {
+    return RecordAccess::data(*this).userRequestable;
+}
+
+void BehaviorInfo::setUserRequestable(bool userRequestable) {
+    RecordAccess::edit(*this).userRequestable = userRequestable;
+}
+
+const TextMap &BehaviorInfo::names() const {
+    return RecordAccess::data(*this).names;
+}
+
+const std::string &BehaviorInfo::name(const std::string &code) const {
+    return textOf(names(), code);
+}
+
+void BehaviorInfo::setName(const std::string &name, const std::string &code) {
+    RecordAccess::edit(*this).names[code] = name;
+}
+
+const TextMap &BehaviorInfo::descriptions() const {
+    return RecordAccess::data(*this).descriptions;
+}
+
+const std::string &BehaviorInfo::description(const std::string &code) const {
+    return textOf(descriptions(), code);
+}
+
+void BehaviorInfo::setDescription(const std::string &description, const std::string &code) {
+    RecordAccess::edit(*this).descriptions[code] = description;
+}
+
+const std::vector<std::string> &BehaviorInfo::permissions() const {
+    return RecordAccess::data(*this).permissions;
+}
+
+bool BehaviorInfo::hasPermission(const std::string &permission) const {
+    const auto &all = permissions();
+    return std::find(all.begin(), all.end(), permission) != all.end();
+}
+
+bool BehaviorInfo::addPermission(const std::string &permission) {
+    if (hasPermission(permission))
+        return false;
+    RecordAccess::edit(*this).permissions.push_back(permission);
+    return true;
+}
+
+bool BehaviorInfo::removePermission(const std::string &permission) {
+    if (!hasPermission(permission))
+        return false;
+    auto &all = RecordAccess::edit(*this).permissions;
+    all.erase(std::remove(all.begin(), all.end(), permission), all.end());
+    return true;
+}
+
+const TextListMap &BehaviorInfo::languagesToTags() const {
+    return RecordAccess::data(*this).tags;
+}
+
+void BehaviorInfo::addTag(const std::string &tag, const std::string &code) {
+    addTo(*this, &BehaviorData::tags, tag, code);
+}
+
+void BehaviorInfo::insertTag(const std::string &tag, const std::string &code, int index) {
+    insertInto(*this, &BehaviorData::tags, tag, code, index);
+}
+
+bool BehaviorInfo::updateTag(const std::string &oldTag, const std::string &newTag,
+                             const std::string &code, int occurrence) {
+    return updateIn(*this, &BehaviorData::tags, oldTag, newTag, code, occurrence);
+}
+
+bool BehaviorInfo::removeTag(const std::string &tag, const std::string &code, int occurrence) {
+    return removeFrom(*this, &BehaviorData::tags, tag, code, occurrence);
+}
+
+const TextListMap &BehaviorInfo::languagesToTriggerSentences() const {
+    return RecordAccess::data(*this).triggerSentences;
+}
+
+void BehaviorInfo::addTriggerSentence(const std::string &sentence, const std::string &code) {
+    addTo(*this, &BehaviorData::triggerSentences, sentence, code);
+}
+
+void BehaviorInfo::insertTriggerSentence(const std::string &sentence, const std::string &code,
+                                         int index) {
+    insertInto(*this, &BehaviorData::triggerSentences, sentence, code, index);
+}
+
+bool BehaviorInfo::updateTriggerSentence(const std::string &oldSentence,
+                                         const std::string &newSentence, const std::string &code,
+                                         int occurrence) {
+    return updateIn(*this, &BehaviorData::triggerSentences, oldSentence, newSentence, code,
+                    occurrence);
+}
+
+bool BehaviorInfo::removeTriggerSentence(const std::string &sentence, const std::string &code,
+                                         int occurrence) {
+    return removeFrom(*this, &BehaviorData::triggerSentences, sentence, code, occurrence);
+}
+
+const TextListMap &BehaviorInfo::languagesToLoadingResponses() const {
+    return RecordAccess::data(*this).loadingResponses;
+}
+
+void BehaviorInfo::addLoadingResponse(const std::string &response, const std::string &code) {
+    addTo(*this, &BehaviorData::loadingResponses, response, code);
+}
+
+void BehaviorInfo::insertLoadingResponse(const std::string &response, const std::string &code,
+                                         int index) {
+    insertInto(*this, &BehaviorData::loadingResponses, response, code, index);
+}
+
+bool BehaviorInfo::updateLoadingResponse(const std::string &oldResponse,
+                                         const std::string &newResponse, const std::string &code,
+                                         int occurrence) {
+    return updateIn(*this, &BehaviorData::loadingResponses, oldResponse, newResponse, code,
+                    occurrence);
+}
+
+bool BehaviorInfo::removeLoadingResponse(const std::string &response, const std::string &code,
+                                         int occurrence) {
+    return removeFrom(*this, &BehaviorData::loadingResponses, response, code, occurrence);
+}
+
+const TextListMap &BehaviorInfo::purposesToConditions() const {
+    return RecordAccess::data(*this).conditions;
+}
+
+const std::vector<std::string> &BehaviorInfo::conditions(const std::string &purpose) const {
+    return listOf(purposesToConditions(), purpose);
+}
+
+void BehaviorInfo::addCondition(const std::string &condition, const std::string &purpose) {
+    addTo(*this, &BehaviorData::conditions, condition, purpose);
+}
+
+void BehaviorInfo::insertCondition(const std::string &condition, const std::string &purpose,
+                                   int index) {
+    insertInto(*this, &BehaviorData::conditions, condition, purpose, index);
+}
+
+bool BehaviorInfo::updateCondition(const std::string &oldCondition, const std::string &newCondition,
+                                   const std::string &purpose, int occurrence) {
+    return updateIn(*this, &BehaviorData::conditions, oldCondition, newCondition, purpose,
+                    occurrence);
+}
+
+bool BehaviorInfo::removeCondition(const std::string &condition, const std::string &purpose,
+                                   int occurrence) {
+    return removeFrom(*this, &BehaviorData::conditions, condition, purpose, occurrence);
+}
+
+void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
+                                 const std::vector<std::string> &supportedCodes) {
+    BehaviorData &data = RecordAccess::edit(*this);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    keepOnly(data.tags, supportedCodes);
+    keepOnly(data.triggerSentences, supportedCodes);
+    keepOnly(data.loadingResponses, supportedCodes);
+}
+
+bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
+    if (RecordAccess::sharesData(a, b))
+        return true;
+    const BehaviorData &x = RecordAccess::data(a);
+    const BehaviorData &y = RecordAccess::data(b);
+    const auto fields = [](const BehaviorData &data) {
+        return std::tie(data.path, data.nature, data.userRequestable, data.permissions,
+                        data.conditions, data.names, data.descriptions, data.tags,
+                        data.triggerSentences, data.loadingResponses);
+    };
+    return fields(x) == fields(y) && sameExtras(x, y);
+}
+
+} // namespace Tano

@@ -1,0 +1,55 @@
+#include <tano/dialog_info.h>
+
+#include "manifest_writer.h"
+#include "record_data.h"
+
+#include <tuple>
+
+namespace Tano {
+
+const std::string &DialogInfo::topicName() const {
+    return RecordAccess::data(*this).topicName;
+}
+
+void DialogInfo::setTopicName(const std::string &name) {
+    RecordAccess::edit(*this).topicName = name;
+}
+
+const std::string &DialogInfo::typeVersion() const {
+    return RecordAccess::data(*this).typeVersion;
+}
+
+void DialogInfo::setTypeVersion(const std::string &version) {
+    RecordAccess::edit(*this).typeVersion = version;
+}
+
+const TextMap &DialogInfo::topics() const {
+    return RecordAccess::data(*this).topics;
+}
+
+const std::string &DialogInfo::topic(const std::string &code) const {
+    return textOf(topics(), code);
+}
+
+void DialogInfo::setTopic(const std::string &code, const std::string &path) {
+    RecordAccess::edit(*this).topics[code] = path;
+}
+
+bool DialogInfo::removeTopic(const std::string &code) {
+    if (topics().find(code) == topics().end())
+        return false;
+    RecordAccess::edit(*this).topics.erase(code);
+    return true;
+}
+
+bool operator==(const DialogInfo &a, const DialogInfo &b) {
+    if (RecordAccess::sharesData(a, b))
+        return true;
+    const DialogData &x = RecordAccess::data(a);
+    const DialogData &y = RecordAccess::data(b);
+    return std::tie(x.topicName, x.typeVersion, x.topics) ==
+               std::tie(y.topicName, y.typeVersion, y.topics) &&
+           sameExtras(x, y);
+}
+
+} // namespace Tano

@@ -1,0 +1,660 @@
+#include "manifest_parser.h"
+
+#include "list_keys.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace Tano {
+namespace {
+
+// The bounds of a tag hold exactly where a tag is complete; for one that never ends, twice as many
+// bytes without progress are enough to give up.
+constexpr std::uint64_t hopelessLag = 2 * std::uint64_t(ManifestReader::maxTagLength);
+
+ManifestParser &parserAt(void *self) {
+    return *static_cast<ManifestParser *>(self);
+}
+
+std::string quoted(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+std::string tagged(std::string_view name) {
+    return '<' + std::string(name) + '>';
+}
+
+bool isWhiteSpace(std::string_view text) {
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
+// Line ends as an XML processor passes them on, so that kept text has one kind of them.
+void normalizeLineEnds(std::string &text) {
+    if (text.find('\r') == std::string::npos)
+        return;
+    std::string normalized;
+    normalized.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r')
+            normalized += text[i];
+        else if (i + 1 == text.size() || text[i + 1] != '\n')
+            normalized += '\n';
+    }
+    text = std::move(normalized);
+}
+
+// The parser below would read UTF-16 whatever encoding it is told.
+bool looksLikeUtf16(std::string_view bytes) {
+    using namespace std::string_view_literals;
+    const std::string_view start = bytes.substr(0, 2);
+    return start == "\xFF\xFE"sv || start == "\xFE\xFF"sv || start == "<\0"sv || start == "\0<"sv;
+}
+
+bool isDecimal(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// The text fields of a package that are elements of their own.
+std::string *scalarField(PackageData &package, Element element) {
+    switch (element) {
+    case Element::Installer:
+        return &package.installer;
+    case Element::Author:
+        return &package.author;
+    case Element::Organization:
+        return &package.organization;
+    case Element::Date:
+        return &package.date;
+    case Element::Channel:
+        return &package.channel;
+    case Element::Path:
+        return &package.path;
+    default:
+        return nullptr;
+    }
+}
+
+TextListMap *listsField(BehaviorData &behavior, Element element) {
+    switch (element) {
+    case Element::Tag:
+        return &behavior.tags;
+    case Element::TriggerSentence:
+        return &behavior.triggerSentences;
+    case Element::LoadingResponse:
+        return &behavior.loadingResponses;
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+ManifestParser::ManifestParser(bool keepFieldPositions)
+    : m_parser(XML_ParserCreate("UTF-8"), &XML_ParserFree)
+    , m_keepsPositions(keepFieldPositions)
+    , m_package(std::make_shared<PackageData>()) {
+    XML_Parser parser = m_parser.get();
+    XML_SetUserData(parser, this);
+    XML_SetElementHandler(parser, onStart, onEnd);
+    XML_SetCharacterDataHandler(parser, onText);
+    XML_SetCommentHandler(parser, onComment);
+    XML_SetProcessingInstructionHandler(parser, onInstruction);
+    XML_SetDefaultHandler(parser, onRaw);
+    XML_SetStartDoctypeDeclHandler(parser, onDoctype);
+    XML_SetXmlDeclHandler(parser, onDeclaration);
+}
+
+bool ManifestParser::feed(const char *bytes, std::size_t size, bool isLast) {
+    if (!m_failure.message.empty())
+        return false;
+    if (m_fed == 0 && looksLikeUtf16({bytes, size})) {
+        m_failure = {"The text is UTF-16; a manifest is UTF-8.", {1, 1}};
+        return false;
+    }
+    m_fed += size;
+    const XML_Status status = XML_Parse(m_parser.get(), bytes, int(size), isLast);
+    if (!m_failure.message.empty())
+        return false;
+    if (status == XML_STATUS_ERROR) {
+        failFromExpat();
+        return false;
+    }
+    const XML_Index parsed = XML_GetCurrentByteIndex(m_parser.get());
+    if (!isLast && parsed >= 0 && m_fed - std::uint64_t(parsed) > hopelessLag) {
+        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        return false;
+    }
+    return true;
+}
+
+void ManifestParser::onStart(void *self, const XML_Char *name, const XML_Char **attributes) {
+    parserAt(self).start(name, attributes);
+}
+
+void ManifestParser::onEnd(void *self, const XML_Char *) {
+    parserAt(self).end();
+}
+
+void ManifestParser::onText(void *self, const XML_Char *text, int size) {
+    parserAt(self).text({text, std::size_t(size)});
+}
+
+void ManifestParser::onComment(void *self, const XML_Char *text) {
+    auto &parser = parserAt(self);
+    if (parser.m_unknownDepth > 0)
+        XML_DefaultCurrent(parser.m_parser.get());
+    else if (parser.checkTag())
+        parser.keepRaw("<!--" + std::string(text) + "-->");
+}
+
+void ManifestParser::onInstruction(void *self, const XML_Char *target, const XML_Char *data) {
+    auto &parser = parserAt(self);
+    if (parser.m_unknownDepth > 0)
+        XML_DefaultCurrent(parser.m_parser.get());
+    else if (parser.checkTag())
+        parser.keepRaw("<?" + std::string(target) + (*data ? " " : "") + data + "?>");
+}
+
+void ManifestParser::onRaw(void *self, const XML_Char *raw, int size) {
+    auto &parser = parserAt(self);
+    if (parser.m_unknownDepth > 0)
+        parser.m_raw.append(raw, std::size_t(size));
+}
+
+void ManifestParser::onDoctype(void *self, const XML_Char *, const XML_Char *, const XML_Char *,
+                               int) {
+    parserAt(self).fail("A document type declaration is not allowed.");
+}
+
+void ManifestParser::onDeclaration(void *self, const XML_Char *version, const XML_Char *encoding,
+                                   int) {
+    auto &parser = parserAt(self);
+    if (version && std::string_view(version) != "1.0")
+        parser.fail("XML version " + quoted(version) + " is not supported; a manifest is XML 1.0.");
+    else if (encoding && qstricmp(encoding, "UTF-8") != 0)
+        parser.fail("The encoding " + quoted(encoding) + " is not supported; a manifest is UTF-8.");
+}
+
+bool ManifestParser::checkTag() {
+    if (!m_failure.message.empty())
+        return false;
+    const int length = XML_GetCurrentByteCount(m_parser.get());
+    if (std::size_t(length) > ManifestReader::maxTagLength) {
+        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        return false;
+    }
+    return true;
+}
+
+void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
+    if (!checkTag())
+        return;
+    if (++m_depth > ManifestReader::maxDepth)
+        return fail("More than " + std::to_string(ManifestReader::maxDepth) +
+                    " elements stand within each other.");
+    if (XML_GetSpecifiedAttributeCount(m_parser.get()) / 2 > ManifestReader::maxAttributes)
+        return fail("The element " + tagged(name) + " has more than " +
+                    std::to_string(ManifestReader::maxAttributes) + " attributes.");
+
+    if (m_unknownDepth == 0) {
+        if (m_open == 0) {
+            if (name != ruleOf(Element::Package).name)
+                return fail("The root element is " + tagged(name) + " instead of <package>.");
+            openFrame(Element::Package, attributes);
+            return;
+        }
+        for (const Element child : ruleOf(top().element).children) {
+            if (ruleOf(child).name == name) {
+                openFrame(child, attributes);
+                return;
+            }
+        }
+        m_raw.clear();
+    }
+    ++m_unknownDepth;
+    XML_DefaultCurrent(m_parser.get());
+}
+
+void ManifestParser::end() {
+    if (!m_failure.message.empty())
+        return;
+    --m_depth;
+    if (m_unknownDepth > 0) {
+        XML_DefaultCurrent(m_parser.get());
+        if (--m_unknownDepth == 0)
+            keepRaw(std::move(m_raw));
+        return;
+    }
+
+    Frame &frame = top();
+    if (ruleOf(frame.element).content == Content::Text)
+        storeText(frame);
+    if (frame.extras)
+        storeExtras(frame);
+    endRecord(frame);
+    if (--m_open == 0)
+        m_rootDone = true;
+}
+
+void ManifestParser::text(std::string_view text) {
+    if (!m_failure.message.empty())
+        return;
+    if (m_unknownDepth > 0) {
+        XML_DefaultCurrent(m_parser.get());
+        return;
+    }
+    if (m_open == 0)
+        return;
+    if (ruleOf(top().element).content == Content::Text)
+        m_text += text;
+    else if (!isWhiteSpace(text))
+        fail("Text is not allowed in " + tagged(ruleOf(top().element).name) + '.');
+}
+
+// Comments, processing instructions and unknown elements wait for the child that follows them.
+void ManifestParser::keepRaw(std::string xml) {
+    normalizeLineEnds(xml);
+    if (m_open == 0) {
+        m_outside.push_back(
+            {{m_rootDone ? Element::Epilog : Element::Prolog, {}, 0}, std::move(xml)});
+        return;
+    }
+    Frame &frame = top();
+    Position position;
+    if (ruleOf(frame.element).content == Content::Text)
+        position = {Element::InText, {}, int(m_text.size())};
+    frame.ownExtras().kept.push_back({std::move(position), std::move(xml)});
+}
+
+bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
+    Frame &frame = m_frames[std::size_t(m_open)];
+    frame.element = element;
+    frame.seen = 0;
+    frame.unplaced = 0;
+    frame.keys.clear();
+    frame.extras.reset();
+    if (!readAttributes(frame, attributes))
+        return false;
+
+    const ElementRule &rule = ruleOf(element);
+    if (rule.keyAttribute >= 0)
+        frame.key = m_values[std::size_t(rule.keyAttribute)];
+    else
+        frame.key.clear();
+    ++m_open;
+    frame.index = nextIndex(frame);
+    if (m_open > 1) {
+        Frame &parent = parentOf(frame);
+        if (!checkOccurrence(parent, frame))
+            return false;
+        placeKept(parent, frame);
+    }
+    if (m_keepsPositions)
+        notePosition(frame);
+    if (rule.content == Content::Text)
+        m_text.clear();
+    beginRecord(frame);
+    return true;
+}
+
+bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
+    const ElementRule &rule = ruleOf(frame.element);
+    const std::size_t known = rule.attributes.size();
+    m_present = 0;
+    for (std::size_t i = 0; i < known; ++i)
+        m_values[i].clear();
+
+    for (; *attributes; attributes += 2) {
+        std::size_t i = 0;
+        while (i < known && rule.attributes[i].name != attributes[0])
+            ++i;
+        if (i == known) {
+            frame.ownExtras().attributes.emplace_back(attributes[0], attributes[1]);
+        } else {
+            m_values[i] = attributes[1];
+            m_present |= 1U << i;
+        }
+    }
+
+    for (std::size_t i = 0; i < known; ++i) {
+        if (rule.attributes[i].required && !(m_present & (1U << i))) {
+            fail("The element " + tagged(rule.name) + " lacks the attribute " +
+                 quoted(rule.attributes[i].name) + '.');
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
+    const ElementRule &rule = ruleOf(child.element);
+    bool isNew = true;
+    if (rule.occurs == Occurs::Once) {
+        const std::uint32_t bit = 1U << std::uint32_t(child.element);
+        isNew = !(parent.seen & bit);
+        parent.seen |= bit;
+    } else if (rule.occurs == Occurs::OncePerKey) {
+        isNew = parent.keys.emplace(child.element, child.key).second;
+    }
+    if (!isNew)
+        fail("The element " + describe(child) + " stands twice in " + describe(parent) + '.');
+    return isNew;
+}
+
+void ManifestParser::placeKept(Frame &parent, const Frame &child) {
+    if (!parent.extras)
+        return;
+    auto &kept = parent.extras->kept;
+    for (; parent.unplaced < kept.size(); ++parent.unplaced)
+        kept[parent.unplaced].before = positionOf(child);
+}
+
+// What starts here is filled in by the elements within it and handed over when it ends.
+void ManifestParser::beginRecord(Frame &frame) {
+    switch (frame.element) {
+    case Element::Package:
+        beginPackage();
+        break;
+    case Element::SupportedLanguage:
+        m_package->supportedLanguages.push_back(frame.key);
+        break;
+    case Element::DescriptionLanguage:
+        m_package->descriptionLanguages.push_back(frame.key);
+        break;
+    case Element::RobotRequirement:
+        m_package->robotRequirements.push_back(
+            {take(RobotAttribute::Model), take(RobotAttribute::MinHeadVersion),
+             take(RobotAttribute::MaxHeadVersion), take(RobotAttribute::MinBodyVersion),
+             take(RobotAttribute::MaxBodyVersion)});
+        break;
+    case Element::BrioRequirement:
+        m_package->brioRequirements.push_back(
+            {take(BrioAttribute::MinVersion), take(BrioAttribute::MaxVersion)});
+        break;
+    case Element::Behavior:
+        m_behavior = std::make_shared<BehaviorData>();
+        m_behavior->path = take(BehaviorAttribute::Path);
+        m_behavior->nature = take(BehaviorAttribute::Nature);
+        m_behavior->userRequestable = takeFlag(frame, BehaviorAttribute::UserRequestable);
+        break;
+    case Element::Dialog:
+        m_dialog = std::make_shared<DialogData>();
+        m_dialog->topicName = take(DialogAttribute::TopicName);
+        m_dialog->typeVersion = take(DialogAttribute::TypeVersion);
+        break;
+    case Element::Service:
+        m_service = PackageService();
+        m_service.name = take(ServiceAttribute::Name);
+        m_service.autoRun = takeFlag(frame, ServiceAttribute::AutoRun);
+        break;
+    default:
+        break;
+    }
+}
+
+void ManifestParser::beginPackage() {
+    const std::string format = take(PackageAttribute::Format);
+    if (format != formatVersion) {
+        const bool isNewer = isDecimal(format) && format != "0" && format.front() != '0';
+        return fail("The format " + quoted(format) +
+                    (isNewer ? " is newer than the one that this version reads, "
+                             : " is unknown; this version reads ") +
+                    quoted(formatVersion) + '.');
+    }
+    m_package->uuid = take(PackageAttribute::Uid);
+    m_package->version = take(PackageAttribute::Version);
+    m_package->typeVersion = take(PackageAttribute::TypeVersion);
+}
+
+bool ManifestParser::takeFlag(const Frame &frame, int attribute) {
+    if (!(m_present & (1U << unsigned(attribute))))
+        return false;
+    const std::string value = take(attribute);
+    if (value != "true" && value != "false") {
+        const ElementRule &rule = ruleOf(frame.element);
+        fail("The attribute " + quoted(rule.attributes[std::size_t(attribute)].name) + " of " +
+             tagged(rule.name) + " is " + quoted(value) + R"( instead of "true" or "false".)");
+    }
+    return value == "true";
+}
+
+void ManifestParser::endRecord(const Frame &frame) {
+    switch (frame.element) {
+    case Element::Behavior:
+        m_package->behaviors.emplace_back();
+        RecordAccess::assign(m_package->behaviors.back(), std::move(m_behavior));
+        break;
+    case Element::Dialog:
+        m_package->dialogs.emplace_back();
+        RecordAccess::assign(m_package->dialogs.back(), std::move(m_dialog));
+        break;
+    case Element::Service:
+        m_package->services.push_back(std::move(m_service));
+        break;
+    default:
+        break;
+    }
+}
+
+// An empty text is no text, except in a list, where it holds a place, and as a property's value.
+void ManifestParser::storeText(Frame &frame) {
+    if (std::string *field = scalarField(*m_package, frame.element)) {
+        *field = m_text;
+        return;
+    }
+    switch (frame.element) {
+    case Element::Name:
+    case Element::Description:
+        if (!m_text.empty()) {
+            TextMap &texts = textsField(parentOf(frame).element, frame.element);
+            texts.emplace_hint(texts.end(), parentOf(frame).key, m_text);
+        }
+        break;
+    case Element::Tag:
+    case Element::TriggerSentence:
+    case Element::LoadingResponse:
+        (*listsField(*m_behavior, frame.element))[parentOf(frame).key].push_back(m_text);
+        break;
+    case Element::Permission:
+        m_behavior->permissions.push_back(m_text);
+        break;
+    case Element::Condition:
+        m_behavior->conditions[frame.key].push_back(m_text);
+        break;
+    case Element::Topic:
+        if (!m_text.empty())
+            m_dialog->topics.emplace(frame.key, m_text);
+        break;
+    case Element::ExecStart:
+        m_service.execStart = m_text;
+        break;
+    case Element::Property:
+        m_service.properties.emplace(frame.key, m_text);
+        break;
+    default:
+        break;
+    }
+}
+
+TextMap &ManifestParser::textsField(Element block, Element field) {
+    const bool isName = field == Element::Name;
+    if (block == Element::PackageTexts)
+        return isName ? m_package->names : m_package->descriptions;
+    return isName ? m_behavior->names : m_behavior->descriptions;
+}
+
+void ManifestParser::storeExtras(Frame &frame) {
+    switch (frame.element) {
+    case Element::Package:
+        rememberLists(*frame.extras, [this](const auto &id) { return listKeys(*m_package, id); });
+        m_packageExtras = std::move(frame.extras);
+        return;
+    case Element::Behavior:
+        rememberLists(*frame.extras, [this](const auto &id) { return listKeys(*m_behavior, id); });
+        m_behavior->extras = std::move(frame.extras);
+        return;
+    case Element::Dialog:
+        m_dialog->extras = std::move(frame.extras);
+        return;
+    case Element::BehaviorTexts:
+        rememberLists(*frame.extras,
+                      [&](const auto &id) { return listKeys(*m_behavior, frame.key, id); });
+        break;
+    default:
+        break;
+    }
+    parentOf(frame).ownExtras().children.emplace(positionOf(frame), std::move(frame.extras));
+}
+
+std::shared_ptr<PackageData> ManifestParser::takePackage() {
+    if (!m_outside.empty()) {
+        if (!m_packageExtras)
+            m_packageExtras = std::make_shared<Extras>();
+        std::move(m_outside.begin(), m_outside.end(), std::back_inserter(m_packageExtras->kept));
+    }
+    m_package->extras = std::move(m_packageExtras);
+    return std::move(m_package);
+}
+
+int ManifestParser::nextIndex(const Frame &frame) {
+    switch (frame.element) {
+    case Element::SupportedLanguage:
+        return int(m_package->supportedLanguages.size());
+    case Element::DescriptionLanguage:
+        return int(m_package->descriptionLanguages.size());
+    case Element::RobotRequirement:
+        return int(m_package->robotRequirements.size());
+    case Element::BrioRequirement:
+        return int(m_package->brioRequirements.size());
+    case Element::Behavior:
+        return int(m_package->behaviors.size());
+    case Element::Dialog:
+        return int(m_package->dialogs.size());
+    case Element::Service:
+        return int(m_package->services.size());
+    case Element::Permission:
+        return int(m_behavior->permissions.size());
+    case Element::Condition:
+        return int(listOf(m_behavior->conditions, frame.key).size());
+    case Element::Tag:
+    case Element::TriggerSentence:
+    case Element::LoadingResponse:
+        return int(listOf(*listsField(*m_behavior, frame.element), parentOf(frame).key).size());
+    default:
+        return 0;
+    }
+}
+
+Position ManifestParser::positionOf(const Frame &frame) {
+    const bool byKey = ruleOf(frame.element).sortedByKey;
+    return {frame.element, byKey ? frame.key : std::string(), frame.index};
+}
+
+void ManifestParser::notePosition(Frame &frame) {
+    const SourcePosition place = here();
+    if (m_open == 1) {
+        frame.path.clear();
+        m_positions.add({}, place);
+        return;
+    }
+    const Frame &parent = parentOf(frame);
+    const bool inTexts =
+        parent.element == Element::PackageTexts || parent.element == Element::BehaviorTexts;
+    const std::string_view texts = inTexts ? std::string_view(parent.key) : std::string_view();
+    frame.path = fieldPath(parent.path, frame.element, frame.key, frame.index, texts);
+    if (!ruleOf(frame.element).field.empty()) {
+        m_positions.add(frame.path, place);
+        return;
+    }
+    // A block of texts is where the texts that are missing in it would stand.
+    for (const Element child : ruleOf(frame.element).children) {
+        std::string path = fieldPath(parent.path, child, {}, 0, frame.key);
+        if (ruleOf(child).occurs == Occurs::AnyTimes)
+            path.resize(path.rfind('['));
+        m_positions.addParent(std::move(path), place);
+    }
+}
+
+std::string ManifestParser::describe(const Frame &frame) {
+    const ElementRule &rule = ruleOf(frame.element);
+    std::string text(rule.name);
+    if (rule.keyAttribute >= 0) {
+        const auto &key = rule.attributes[std::size_t(rule.keyAttribute)].name;
+        text += ' ' + std::string(key) + '=' + quoted(frame.key);
+    }
+    return tagged(text);
+}
+
+SourcePosition ManifestParser::here() const {
+    return {XML_GetCurrentLineNumber(m_parser.get()),
+            XML_GetCurrentColumnNumber(m_parser.get()) + 1};
+}
+
+void ManifestParser::fail(std::string message) {
+    if (!m_failure.message.empty())
+        return;
+    m_failure = {std::move(message), here()};
+    XML_StopParser(m_parser.get(), XML_FALSE);
+}
+
+void ManifestParser::failFromExpat() {
+    const auto sentence = [this]() -> std::string {
+        const XML_Error error = XML_GetErrorCode(m_parser.get());
+        switch (error) {
+        case XML_ERROR_NO_ELEMENTS:
+            if (m_open > 0)
+                return "The manifest ends while " + describe(top()) + " is open.";
+            return m_fed == 0 ? "The manifest is empty."
+                              : "The manifest ends before its root element.";
+        case XML_ERROR_UNCLOSED_TOKEN:
+        case XML_ERROR_PARTIAL_CHAR:
+            return "The manifest ends in the middle of a tag or character.";
+        case XML_ERROR_UNCLOSED_CDATA_SECTION:
+            return "The manifest ends in the middle of a CDATA section.";
+        case XML_ERROR_TAG_MISMATCH:
+            return "The end tag does not belong to the element that is open.";
+        case XML_ERROR_DUPLICATE_ATTRIBUTE:
+            return "An attribute stands twice on one element.";
+        case XML_ERROR_UNDEFINED_ENTITY:
+            return "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are.";
+        case XML_ERROR_SYNTAX:
+            return "The text is not XML: it does not begin with a tag.";
+        case XML_ERROR_BAD_CHAR_REF:
+            return "The reference is to a character that XML does not allow.";
+        case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
+            return "Something stands after the end of the root element.";
+        case XML_ERROR_MISPLACED_XML_PI:
+            return "The XML declaration does not stand at the very beginning.";
+        case XML_ERROR_INVALID_TOKEN:
+            return describeBadByte();
+        default:
+            return std::string("The text is not well-formed XML: ") + XML_ErrorString(error) + '.';
+        }
+    }();
+    m_failure = {sentence, here()};
+}
+
+std::string ManifestParser::describeBadByte() const {
+    int offset = 0;
+    int size = 0;
+    const char *context = XML_GetInputContext(m_parser.get(), &offset, &size);
+    const bool hasByte = context && offset < size;
+    const auto byte = hasByte ? static_cast<unsigned char>(context[offset]) : 0x20;
+    if (byte == 0)
+        return "A NUL byte is not allowed.";
+    if (byte >= 0x80)
+        return "The bytes here are not valid UTF-8, or stand for a character that XML does not "
+               "allow.";
+    if (hasByte && offset > 0 && context[offset - 1] == '&')
+        return "An \"&\" begins a reference here; the character itself is written &amp;.";
+    if (isWhiteSpace({context + offset, hasByte ? 1U : 0U}))
+        return "The text is not well-formed XML.";
+    if (byte < 0x20)
+        return "A control character is not allowed.";
+    return "The character " + quoted({context + offset, 1}) + " is not allowed here.";
+}
+
+} // namespace Tano

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "field_positions.h"
+#include "record_data.h"
+
+#include <expat.h>
+
+#include <array>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Tano {
+
+/// Why and where a manifest was refused; the message is empty while all is well.
+struct ManifestFailure {
+    std::string message;
+    SourcePosition position;
+};
+
+/// Builds the record of a package from the bytes of its manifest as they arrive.
+///
+/// The elements that are open stand on a stack of frames, so neither the parser nor the C++ stack
+/// grows with the input; whatever the format does not know is captured as raw text.
+class ManifestParser {
+public:
+    explicit ManifestParser(bool keepFieldPositions);
+    ManifestParser(const ManifestParser &) = delete;
+    ManifestParser &operator=(const ManifestParser &) = delete;
+
+    /// Takes the next bytes; returns false once the manifest is refused.
+    bool feed(const char *bytes, std::size_t size, bool isLast);
+
+    [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
+    /// The record, once all has been fed without a failure.
+    [[nodiscard]] std::shared_ptr<PackageData> takePackage();
+    [[nodiscard]] FieldPositions takeFieldPositions() { return std::move(m_positions); }
+
+private:
+    // An open element that the format knows.
+    struct Frame {
+        Element element = Element::Package;
+        std::string key;          // the value of its key attribute
+        int index = 0;            // among those of its kind (and key) in the parent
+        std::uint32_t seen = 0;   // which children have stood here
+        std::size_t unplaced = 0; // from here on, extras->kept wait for the next child
+        std::set<std::pair<Element, std::string>> keys; // of the children that may not repeat
+        std::shared_ptr<Extras> extras;
+        std::string path; // of the field, while positions are kept
+
+        Extras &ownExtras() {
+            if (!extras)
+                extras = std::make_shared<Extras>();
+            return *extras;
+        }
+    };
+
+    // expat's handlers
+    static void onStart(void *self, const XML_Char *name, const XML_Char **attributes);
+    static void onEnd(void *self, const XML_Char *name);
+    static void onText(void *self, const XML_Char *text, int size);
+    static void onComment(void *self, const XML_Char *text);
+    static void onInstruction(void *self, const XML_Char *target, const XML_Char *data);
+    static void onRaw(void *self, const XML_Char *raw, int size);
+    static void onDoctype(void *self, const XML_Char *name, const XML_Char *systemId,
+                          const XML_Char *publicId, int hasInternalSubset);
+    static void onDeclaration(void *self, const XML_Char *version, const XML_Char *encoding,
+                              int standalone);
+
+    void start(std::string_view name, const XML_Char **attributes);
+    void end();
+    void text(std::string_view text);
+    void keepRaw(std::string xml);
+
+    bool checkTag();
+    bool openFrame(Element element, const XML_Char **attributes);
+    bool readAttributes(Frame &frame, const XML_Char **attributes);
+    bool checkOccurrence(Frame &parent, const Frame &child);
+    void placeKept(Frame &parent, const Frame &child);
+    void beginRecord(Frame &frame);
+    void beginPackage();
+    void endRecord(const Frame &frame);
+    void storeText(Frame &frame);
+    void storeExtras(Frame &frame);
+    void notePosition(Frame &frame);
+
+    [[nodiscard]] int nextIndex(const Frame &frame);
+    [[nodiscard]] TextMap &textsField(Element block, Element field);
+    [[nodiscard]] std::string take(int attribute) {
+        return std::move(m_values[std::size_t(attribute)]);
+    }
+    [[nodiscard]] bool takeFlag(const Frame &frame, int attribute);
+    [[nodiscard]] Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
+    [[nodiscard]] Frame &parentOf(const Frame &frame) {
+        return m_frames[std::size_t(&frame - m_frames.data()) - 1];
+    }
+    [[nodiscard]] static Position positionOf(const Frame &frame);
+    [[nodiscard]] static std::string describe(const Frame &frame);
+    [[nodiscard]] SourcePosition here() const;
+
+    void fail(std::string message);
+    void failFromExpat();
+    [[nodiscard]] std::string describeBadByte() const;
+
+    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_parser;
+    ManifestFailure m_failure;
+    std::uint64_t m_fed = 0;
+    bool m_keepsPositions;
+    FieldPositions m_positions;
+
+    static constexpr int deepestKnown = 4; // package, behavior, texts, name
+    std::array<Frame, deepestKnown> m_frames;
+    int m_open = 0;
+    int m_depth = 0;        // of all open elements
+    int m_unknownDepth = 0; // of the open elements that are captured as raw text
+    bool m_rootDone = false;
+    std::string m_raw;
+    std::string m_text;                  // of the open text element
+    std::array<std::string, 5> m_values; // of the known attributes of the element that starts
+    std::uint32_t m_present = 0;         // which of them it has
+
+    std::shared_ptr<PackageData> m_package;
+    std::shared_ptr<Extras> m_packageExtras;
+    std::vector<Extras::Kept> m_outside; // the root element
+    std::shared_ptr<BehaviorData> m_behavior;
+    std::shared_ptr<DialogData> m_dialog;
+    PackageService m_service;
+};
+
+} // namespace Tano

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "record_data.h"
+
+#include <string>
+
+namespace Tano {
+
+/// The result of writing: the text, or why there is none.
+struct WrittenManifest {
+    std::string text;
+    std::string error; ///< a sentence that names the field; empty after a success
+};
+
+/// Writes the canonical manifest of a package.
+WrittenManifest writeManifest(const PackageData &package);
+
+// One entry alone, as it stands in a manifest.
+WrittenManifest writeElement(const BehaviorData &behavior);
+WrittenManifest writeElement(const DialogData &dialog);
+inline WrittenManifest writeElement(const PackageData &package) {
+    return writeManifest(package);
+}
+
+/// Whether two records with equal fields also agree in what is kept beyond them, which is so when
+/// both are written alike.
+template<typename Data>
+bool sameExtras(const Data &a, const Data &b) {
+    return a.extras == b.extras || writeElement(a).text == writeElement(b).text;
+}
+
+} // namespace Tano

@@ -1,0 +1,361 @@
+#include <tano/package_info.h>
+
+#include <tano/manifest_reader.h>
+
+#include "manifest_file.h"
+#include "manifest_writer.h"
+#include "record_data.h"
+
+#include <QFile>
+#include <QString>
+
+#include <algorithm>
+#include <ostream>
+#include <tuple>
+
+namespace Tano {
+namespace {
+
+void addOnce(PackageInfo &record, std::vector<std::string> PackageData::*list,
+             const std::string &value) {
+    const auto &values = RecordAccess::data(record).*list;
+    if (std::find(values.begin(), values.end(), value) == values.end())
+        (RecordAccess::edit(record).*list).push_back(value);
+}
+
+void removeOnce(PackageInfo &record, std::vector<std::string> PackageData::*list,
+                const std::string &value) {
+    auto &values = RecordAccess::edit(record).*list;
+    values.erase(std::remove(values.begin(), values.end(), value), values.end());
+}
+
+template<typename Entry>
+bool replaceEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int index,
+                  const Entry &entry) {
+    if (index < 0 || std::size_t(index) >= (RecordAccess::data(record).*list).size())
+        return false;
+    (RecordAccess::edit(record).*list)[std::size_t(index)] = entry;
+    return true;
+}
+
+template<typename Entry>
+bool removeEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int index) {
+    if (index < 0 || std::size_t(index) >= (RecordAccess::data(record).*list).size())
+        return false;
+    auto &entries = RecordAccess::edit(record).*list;
+    entries.erase(entries.begin() + index);
+    return true;
+}
+
+template<typename Map>
+void addKeys(std::set<std::string> &keys, const Map &map) {
+    for (const auto &entry : map)
+        keys.insert(entry.first);
+}
+
+} // namespace
+
+bool operator==(const RobotRequirement &a, const RobotRequirement &b) {
+    const auto fields = [](const RobotRequirement &r) {
+        return std::tie(r.model, r.minHeadVersion, r.maxHeadVersion, r.minBodyVersion,
+                        r.maxBodyVersion);
+    };
+    return fields(a) == fields(b);
+}
+
+bool operator==(const BrioRequirement &a, const BrioRequirement &b) {
+    return a.minVersion == b.minVersion && a.maxVersion == b.maxVersion;
+}
+
+bool operator==(const PackageService &a, const PackageService &b) {
+    const auto fields = [](const PackageService &s) {
+        return std::tie(s.name, s.execStart, s.autoRun, s.properties);
+    };
+    return fields(a) == fields(b);
+}
+
+const std::string &PackageInfo::uuid() const {
+    return RecordAccess::data(*this).uuid;
+}
+
+void PackageInfo::setUuid(const std::string &uuid) {
+    RecordAccess::edit(*this).uuid = uuid;
+}
+
+const std::string &PackageInfo::version() const {
+    return RecordAccess::data(*this).version;
+}
+
+void PackageInfo::setVersion(const std::string &version) {
+    RecordAccess::edit(*this).version = version;
+}
+
+const std::string &PackageInfo::typeVersion() const {
+    return RecordAccess::data(*this).typeVersion;
+}
+
+void PackageInfo::setTypeVersion(const std::string &typeVersion) {
+    RecordAccess::edit(*this).typeVersion = typeVersion;
+}
+
+const std::string &PackageInfo::installer() const {
+    return RecordAccess::data(*this).installer;
+}
+
+void PackageInfo::setInstaller(const std::string &installer) {
+    RecordAccess::edit(*this).installer = installer;
+}
+
+const std::string &PackageInfo::author() const {
+    return RecordAccess::data(*this).author;
+}
+
+void PackageInfo::setAuthor(const std::string &author) {
+    RecordAccess::edit(*this).author = author;
+}
+
+const std::string &PackageInfo::organization() const {
+    return RecordAccess::data(*this).organization;
+}
+
+void PackageInfo::setOrganization(const std::string &organization) {
+    RecordAccess::edit(*this).organization = organization;
+}
+
+const std::string &PackageInfo::date() const {
+    return RecordAccess::data(*this).date;
+}
+
+void PackageInfo::setDate(const std::string &date) {
+    RecordAccess::edit(*this).date = date;
+}
+
+const std::string &PackageInfo::channel() const {
+    return RecordAccess::data(*this).channel;
+}
+
+void PackageInfo::setChannel(const std::string &channel) {
+    RecordAccess::edit(*this).channel = channel;
+}
+
+const std::string &PackageInfo::path() const {
+    return RecordAccess::data(*this).path;
+}
+
+void PackageInfo::setPath(const std::string &path) {
+    RecordAccess::edit(*this).path = path;
+}
+
+const TextMap &PackageInfo::names() const {
+    return RecordAccess::data(*this).names;
+}
+
+const std::string &PackageInfo::name(const std::string &code) const {
+    return textOf(names(), code);
+}
+
+void PackageInfo::setName(const std::string &name, const std::string &code) {
+    RecordAccess::edit(*this).names[code] = name;
+}
+
+void PackageInfo::clearNames() {
+    RecordAccess::edit(*this).names.clear();
+}
+
+const TextMap &PackageInfo::descriptions() const {
+    return RecordAccess::data(*this).descriptions;
+}
+
+const std::string &PackageInfo::description(const std::string &code) const {
+    return textOf(descriptions(), code);
+}
+
+void PackageInfo::setDescription(const std::string &description, const std::string &code) {
+    RecordAccess::edit(*this).descriptions[code] = description;
+}
+
+const std::vector<std::string> &PackageInfo::supportedLanguages() const {
+    return RecordAccess::data(*this).supportedLanguages;
+}
+
+void PackageInfo::addSupportedLanguage(const std::string &code) {
+    addOnce(*this, &PackageData::supportedLanguages, code);
+}
+
+void PackageInfo::removeSupportedLanguage(const std::string &code) {
+    removeOnce(*this, &PackageData::supportedLanguages, code);
+}
+
+const std::vector<std::string> &PackageInfo::descriptionLanguages() const {
+    return RecordAccess::data(*this).descriptionLanguages;
+}
+
+void PackageInfo::addDescriptionLanguage(const std::string &code) {
+    addOnce(*this, &PackageData::descriptionLanguages, code);
+}
+
+void PackageInfo::removeDescriptionLanguage(const std::string &code) {
+    removeOnce(*this, &PackageData::descriptionLanguages, code);
+}
+
+const std::vector<RobotRequirement> &PackageInfo::robotRequirements() const {
+    return RecordAccess::data(*this).robotRequirements;
+}
+
+void PackageInfo::clearRobotRequirements() {
+    RecordAccess::edit(*this).robotRequirements.clear();
+}
+
+void PackageInfo::addRobotRequirement(const RobotRequirement &requirement) {
+    RecordAccess::edit(*this).robotRequirements.push_back(requirement);
+}
+
+const std::vector<BrioRequirement> &PackageInfo::brioRequirements() const {
+    return RecordAccess::data(*this).brioRequirements;
+}
+
+void PackageInfo::clearBrioRequirements() {
+    RecordAccess::edit(*this).brioRequirements.clear();
+}
+
+void PackageInfo::addBrioRequirement(const BrioRequirement &requirement) {
+    RecordAccess::edit(*this).brioRequirements.push_back(requirement);
+}
+
+const std::vector<BehaviorInfo> &PackageInfo::behaviors() const {
+    return RecordAccess::data(*this).behaviors;
+}
+
+void PackageInfo::clearBehaviors() {
+    RecordAccess::edit(*this).behaviors.clear();
+}
+
+void PackageInfo::addBehavior(const BehaviorInfo &behavior) {
+    RecordAccess::edit(*this).behaviors.push_back(behavior);
+}
+
+bool PackageInfo::replaceBehavior(int index, const BehaviorInfo &behavior) {
+    return replaceEntry(*this, &PackageData::behaviors, index, behavior);
+}
+
+bool PackageInfo::removeBehavior(int index) {
+    return removeEntry(*this, &PackageData::behaviors, index);
+}
+
+const std::vector<DialogInfo> &PackageInfo::dialogs() const {
+    return RecordAccess::data(*this).dialogs;
+}
+
+void PackageInfo::clearDialogs() {
+    RecordAccess::edit(*this).dialogs.clear();
+}
+
+void PackageInfo::addDialog(const DialogInfo &dialog) {
+    RecordAccess::edit(*this).dialogs.push_back(dialog);
+}
+
+bool PackageInfo::replaceDialog(int index, const DialogInfo &dialog) {
+    return replaceEntry(*this, &PackageData::dialogs, index, dialog);
+}
+
+bool PackageInfo::removeDialog(int index) {
+    return removeEntry(*this, &PackageData::dialogs, index);
+}
+
+const std::vector<PackageService> &PackageInfo::services() const {
+    return RecordAccess::data(*this).services;
+}
+
+void PackageInfo::clearServices() {
+    RecordAccess::edit(*this).services.clear();
+}
+
+void PackageInfo::addService(const PackageService &service) {
+    RecordAccess::edit(*this).services.push_back(service);
+}
+
+bool PackageInfo::replaceService(int index, const PackageService &service) {
+    return replaceEntry(*this, &PackageData::services, index, service);
+}
+
+bool PackageInfo::removeService(int index) {
+    return removeEntry(*this, &PackageData::services, index);
+}
+
+std::set<std::string> PackageInfo::languageCodes() const {
+    std::set<std::string> codes(supportedLanguages().begin(), supportedLanguages().end());
+    codes.insert(descriptionLanguages().begin(), descriptionLanguages().end());
+    addKeys(codes, names());
+    addKeys(codes, descriptions());
+    for (const BehaviorInfo &behavior : behaviors()) {
+        addKeys(codes, behavior.names());
+        addKeys(codes, behavior.descriptions());
+        addKeys(codes, behavior.languagesToTags());
+        addKeys(codes, behavior.languagesToTriggerSentences());
+        addKeys(codes, behavior.languagesToLoadingResponses());
+    }
+    for (const DialogInfo &dialog : dialogs())
+        addKeys(codes, dialog.topics());
+    return codes;
+}
+
+bool PackageInfo::loadFromManifestFile(QFile &file) {
+    ManifestReader reader;
+    const bool succeeded = reader.readFile(file, *this);
+    m_errorString = reader.errorString();
+    return succeeded;
+}
+
+bool PackageInfo::loadFromManifestContent(const std::string &content) {
+    ManifestReader reader;
+    const bool succeeded = reader.readContent(content, *this);
+    m_errorString = reader.errorString();
+    return succeeded;
+}
+
+bool PackageInfo::saveToManifestFile(const std::string &path) const {
+    const std::string text = saveToManifestContent();
+    if (m_errorString.empty())
+        m_errorString = replaceFile(QString::fromStdString(path), text);
+    return m_errorString.empty();
+}
+
+bool PackageInfo::saveToManifestFile(QFile &file) const {
+    const std::string text = saveToManifestContent();
+    if (m_errorString.empty())
+        m_errorString =
+            file.isOpen() ? writeInPlace(file, text) : replaceFile(file.fileName(), text);
+    return m_errorString.empty();
+}
+
+std::string PackageInfo::saveToManifestContent() const {
+    WrittenManifest written = writeManifest(RecordAccess::data(*this));
+    m_errorString = std::move(written.error);
+    return std::move(written.text);
+}
+
+const std::string &PackageInfo::errorString() const {
+    return m_errorString;
+}
+
+bool operator==(const PackageInfo &a, const PackageInfo &b) {
+    if (RecordAccess::sharesData(a, b))
+        return true;
+    const PackageData &x = RecordAccess::data(a);
+    const PackageData &y = RecordAccess::data(b);
+    const auto fields = [](const PackageData &data) {
+        return std::tie(data.uuid, data.version, data.typeVersion, data.installer, data.author,
+                        data.organization, data.date, data.channel, data.path,
+                        data.supportedLanguages, data.descriptionLanguages, data.names,
+                        data.descriptions, data.robotRequirements, data.brioRequirements,
+                        data.behaviors, data.dialogs, data.services);
+    };
+    return fields(x) == fields(y) && sameExtras(x, y);
+}
+
+std::ostream &operator<<(std::ostream &stream, const PackageInfo &package) {
+    const WrittenManifest written = writeManifest(RecordAccess::data(package));
+    return stream << (written.error.empty() ? written.text : written.error);
+}
+
+} // namespace Tano
