@@ -1,0 +1,192 @@
+#include <packagemodel/behavior_info_model.h>
+
+#include "behavior_info_data.h"
+#include "localized_texts.h"
+#include "meta_types.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/text_conversion.h>
+
+namespace Zel {
+namespace {
+
+bool isRootBehavior(const QString &path) {
+    return path == QLatin1String(".");
+}
+
+} // namespace
+
+const BehaviorInfoModel::Data::TextField BehaviorInfoModel::Data::nameField{
+    &Tano::BehaviorInfo::name, &Tano::BehaviorInfo::setName, &Data::names,
+    &BehaviorInfoModel::behaviorNameUpdated};
+
+const BehaviorInfoModel::Data::TextField BehaviorInfoModel::Data::descriptionField{
+    &Tano::BehaviorInfo::description, &Tano::BehaviorInfo::setDescription, &Data::descriptions,
+    &BehaviorInfoModel::behaviorDescriptionUpdated};
+
+BehaviorInfoModel::Data::Data(BehaviorInfoModel *behavior, const Tano::BehaviorInfo &info,
+                              PackageInfoModel *package)
+    : ChildData(behavior, info)
+    , model(behavior)
+    , names(textsFromRecord(info.names()))
+    , descriptions(textsFromRecord(info.descriptions()))
+    , tags(listsFromRecord(info.languagesToTags()))
+    , triggerSentences(listsFromRecord(info.languagesToTriggerSentences()))
+    , loadingResponses(listsFromRecord(info.languagesToLoadingResponses()))
+    , package(package) {
+}
+
+BehaviorInfoModel::Data::Data(BehaviorInfoModel *behavior, const Data &other)
+    : ChildData(behavior, other.record())
+    , model(behavior)
+    , names(other.names)
+    , descriptions(other.descriptions)
+    , tags(other.tags)
+    , triggerSentences(other.triggerSentences)
+    , loadingResponses(other.loadingResponses)
+    , package(other.package) {
+}
+
+const QString &BehaviorInfoModel::natureNone() {
+    static const QString nature;
+    return nature;
+}
+
+const QString &BehaviorInfoModel::natureInteractive() {
+    static const QString nature = fromUtf8(Tano::BehaviorInfo::natureInteractive());
+    return nature;
+}
+
+const QString &BehaviorInfoModel::natureSolitary() {
+    static const QString nature = fromUtf8(Tano::BehaviorInfo::natureSolitary());
+    return nature;
+}
+
+QString BehaviorInfoModel::prettyPath(const QString &path) {
+    return isRootBehavior(path) ? rootBehaviorPrettyPath() : path;
+}
+
+const QString &BehaviorInfoModel::rootBehaviorPrettyPath() {
+    static const QString path = QStringLiteral(". (%1)").arg(QLatin1String("root behavior"));
+    return path;
+}
+
+BehaviorInfoModel::BehaviorInfoModel(const Tano::BehaviorInfo &info, PackageInfoModel *package,
+                                     QObject *parent)
+    : QObject(parent ? parent : package)
+    , m_data(std::make_unique<Data>(this, info, package)) {
+    registerMetaTypes();
+}
+
+BehaviorInfoModel::BehaviorInfoModel(const BehaviorInfoModel &other)
+    : QObject(nullptr)
+    , m_data(std::make_unique<Data>(this, *other.m_data)) {
+}
+
+BehaviorInfoModel::~BehaviorInfoModel() = default;
+
+PackageInfoModel *BehaviorInfoModel::parentPackage() const {
+    return m_data->package;
+}
+
+void BehaviorInfoModel::setParentPackage(PackageInfoModel *package) {
+    setParent(package);
+    m_data->package = package;
+}
+
+Tano::BehaviorInfo BehaviorInfoModel::toBehaviorInfo() const {
+    return m_data->record();
+}
+
+QString BehaviorInfoModel::path() const {
+    return fromUtf8(m_data->record().path());
+}
+
+QString BehaviorInfoModel::prettyPath() const {
+    return prettyPath(path());
+}
+
+QString BehaviorInfoModel::pathWithDefaultBhvSuffix() const {
+    const QString ownPath = path();
+    return isRootBehavior(ownPath) ? QStringLiteral("behavior.bhv") : ownPath;
+}
+
+QString BehaviorInfoModel::nature() const {
+    return fromUtf8(m_data->record().nature());
+}
+
+QString BehaviorInfoModel::name(const RobotLanguage &lang) const {
+    return valueFor(m_data->names, lang);
+}
+
+const Language::LocalizedStrings &BehaviorInfoModel::names() const {
+    return m_data->names;
+}
+
+QString BehaviorInfoModel::description(const RobotLanguage &lang) const {
+    return valueFor(m_data->descriptions, lang);
+}
+
+const Language::LocalizedStrings &BehaviorInfoModel::descriptions() const {
+    return m_data->descriptions;
+}
+
+QSet<QString> BehaviorInfoModel::permissions() const {
+    QSet<QString> permissions;
+    for (const std::string &permission : m_data->record().permissions())
+        permissions.insert(fromUtf8(permission));
+    return permissions;
+}
+
+bool BehaviorInfoModel::hasPermission(const QString &permType) const {
+    return m_data->record().hasPermission(toUtf8(permType));
+}
+
+bool BehaviorInfoModel::isUserRequestable() const {
+    return m_data->record().isUserRequestable();
+}
+
+void BehaviorInfoModel::setPath(const QString &path) {
+    if (this->path() == path)
+        return;
+    m_data->edit().setPath(toUtf8(path));
+    Q_EMIT pathUpdated(path);
+}
+
+void BehaviorInfoModel::setNature(const QString &nature) {
+    if (this->nature() == nature)
+        return;
+    m_data->edit().setNature(toUtf8(nature));
+    Q_EMIT natureUpdated(nature);
+}
+
+void BehaviorInfoModel::setName(const QString &name, const RobotLanguage &lang) {
+    setText(this, *m_data, Data::nameField, name, lang);
+}
+
+void BehaviorInfoModel::setDescription(const QString &desc, const RobotLanguage &lang) {
+    setText(this, *m_data, Data::descriptionField, desc, lang);
+}
+
+void BehaviorInfoModel::setUserRequestable(bool userRequestable) {
+    if (isUserRequestable() == userRequestable)
+        return;
+    m_data->edit().setUserRequestable(userRequestable);
+    Q_EMIT userRequestableChanged(userRequestable);
+}
+
+bool BehaviorInfoModel::addPermission(const QString &permType) {
+    const bool added = m_data->edit().addPermission(toUtf8(permType));
+    if (added)
+        Q_EMIT permissionAdded(permType);
+    return added;
+}
+
+bool BehaviorInfoModel::removePermission(const QString &permType) {
+    const bool removed = m_data->edit().removePermission(toUtf8(permType));
+    if (removed)
+        Q_EMIT permissionRemoved(permType);
+    return removed;
+}
+
+} // namespace Zel

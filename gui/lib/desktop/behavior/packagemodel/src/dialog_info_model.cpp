@@ -1,0 +1,103 @@
+#include <packagemodel/dialog_info_model.h>
+
+#include "copies.h"
+#include "dialog_info_data.h"
+#include "localized_texts.h"
+#include "meta_types.h"
+
+#include <packagemodel/text_conversion.h>
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace Zel {
+
+DialogInfoModel::DialogInfoModel(const Tano::DialogInfo &info, QObject *parent)
+    : QObject(parent)
+    , m_data(std::make_unique<Data>(this, info)) {
+    registerMetaTypes();
+    m_data->topics = textsFromRecord(info.topics());
+}
+
+DialogInfoModel::DialogInfoModel(const DialogInfoModel &other)
+    : QObject(other.parent())
+    , m_data(std::make_unique<Data>(this, other.m_data->record())) {
+    m_data->topics = other.m_data->topics;
+}
+
+DialogInfoModel::~DialogInfoModel() = default;
+
+Tano::DialogInfo DialogInfoModel::toDialogInfo() const {
+    return m_data->record();
+}
+
+QString DialogInfoModel::topicName() const {
+    return fromUtf8(m_data->record().topicName());
+}
+
+QString DialogInfoModel::typeVersion() const {
+    return fromUtf8(m_data->record().typeVersion());
+}
+
+QString DialogInfoModel::topic(const RobotLanguage &lang) const {
+    return valueFor(m_data->topics, lang);
+}
+
+const Language::LocalizedStrings &DialogInfoModel::topics() const {
+    return m_data->topics;
+}
+
+RobotLanguages DialogInfoModel::topicsLanguages() const {
+    RobotLanguages languages;
+    languages.reserve(m_data->topics.size());
+    for (const auto &topic : m_data->topics)
+        languages.push_back(topic.second);
+    return languages;
+}
+
+void DialogInfoModel::setTopicName(const QString &name) {
+    if (topicName() == name)
+        return;
+    m_data->edit().setTopicName(toUtf8(name));
+    Q_EMIT nameChanged(name);
+}
+
+void DialogInfoModel::setTypeVersion(const QString &version) {
+    if (typeVersion() == version)
+        return;
+    m_data->edit().setTypeVersion(toUtf8(version));
+    Q_EMIT typeVersionChanged(version);
+}
+
+void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) {
+    const std::string code = codeOf(lang);
+    const std::string bytes = toUtf8(topic);
+    if (m_data->record().topic(code) == bytes)
+        return;
+    const RobotLanguage language = copyOf(lang);
+    const QString path = copyOf(topic);
+    m_data->edit().setTopic(code, bytes);
+    Language::setValue(m_data->topics, path, language);
+    Q_EMIT topicChanged(language, path);
+}
+
+bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
+    const RobotLanguage language = copyOf(lang);
+    const std::string code = codeOf(language);
+    if (!m_data->edit().removeTopic(code))
+        return false;
+    const QPointer<DialogInfoModel> self(this);
+    Q_EMIT topicRemoved(language);
+    if (!self)
+        return true;
+    auto &topics = m_data->topics;
+    const auto found = std::find_if(topics.begin(), topics.end(),
+                                    [&](const auto &topic) { return topic.second == language; });
+    const bool isSetAgain = m_data->record().topics().count(code) != 0; // by a receiver
+    if (found != topics.end() && !isSetAgain)
+        topics.erase(found);
+    return true;
+}
+
+} // namespace Zel

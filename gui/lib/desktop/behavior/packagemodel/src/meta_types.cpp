@@ -1,0 +1,27 @@
+#include "meta_types.h"
+
+#include <packagemodel/package_info_model.h>
+
+namespace Zel {
+namespace {
+
+bool registerAll() {
+    qRegisterMetaType<BehaviorInfoModel *>("BehaviorInfoModel*");
+    qRegisterMetaType<BrioRequirement>("BrioRequirement");
+    qRegisterMetaType<DialogInfoModel *>("DialogInfoModel*");
+    qRegisterMetaType<RobotLanguage>("RobotLanguage");
+    qRegisterMetaType<RobotLanguages>("RobotLanguages");
+    qRegisterMetaType<RobotRequirement>("RobotRequirement");
+    qRegisterMetaType<ServiceInfoModel *>("ServiceInfoModel*");
+    qRegisterMetaType<SoftwareVersion>("SoftwareVersion");
+    return true;
+}
+
+} // namespace
+
+void registerMetaTypes() {
+    static const bool registered = registerAll();
+    Q_UNUSED(registered)
+}
+
+} // namespace Zel

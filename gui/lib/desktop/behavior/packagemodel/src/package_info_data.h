@@ -1,0 +1,52 @@
+#pragma once
+
+#include "behavior_info_data.h"
+#include "child_list.h"
+#include "dialog_info_data.h"
+#include "icon_fingerprint.h"
+#include "localized_texts.h"
+#include "service_info_data.h"
+
+#include <packagemodel/package_info_model.h>
+
+#include <optional>
+
+namespace Zel {
+
+/// The requirements of one kind, and whether the record's list mirrors them.
+template<typename Requirement>
+struct RequirementList {
+    QVector<Requirement> items;
+    bool isMirrored = false; // a list that was loaded may hold versions written in another way
+};
+
+struct PackageInfoModel::Data {
+    explicit Data(PackageInfoModel *package, Tano::PackageInfo info = {});
+
+    const Tano::PackageInfo &record() const { return m_record; }
+    Tano::PackageInfo &edit() { return m_record; }
+    /// Replaces the whole record, so that its lists mirror nothing here any more.
+    void assignRecord(const Tano::PackageInfo &info);
+
+    using LocalizedTextField = LocalizedField<PackageInfoModel, Data, Tano::PackageInfo>;
+    static const LocalizedTextField nameField;
+    static const LocalizedTextField descriptionField;
+
+    SoftwareVersion version;
+    RobotLanguages supportedLanguages;
+    Language::LocalizedStrings names;
+    RobotLanguages descriptionLanguages;
+    Language::LocalizedStrings descriptions;
+    RequirementList<RobotRequirement> robotRequirements;
+    RequirementList<BrioRequirement> brioRequirements;
+    ChildList<BehaviorInfoModel> behaviors;
+    ChildList<DialogInfoModel> dialogs;
+    ChildList<ServiceInfoModel> services;
+    QIcon icon;
+    std::optional<IconFingerprint> iconFingerprint; // taken when first needed
+
+private:
+    Tano::PackageInfo m_record;
+};
+
+} // namespace Zel

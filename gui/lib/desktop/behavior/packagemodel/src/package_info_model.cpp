@@ -1,0 +1,258 @@
+#include <packagemodel/package_info_model.h>
+
+#include "copies.h"
+#include "localized_texts.h"
+#include "package_info_data.h"
+
+#include <QGuiApplication>
+
+namespace Zel {
+namespace {
+
+// One of the package's plain texts: the operations of the record behind it, and the notification
+// that its setter sends.
+struct TextField {
+    const std::string &(Tano::PackageInfo::*text)() const;
+    void (Tano::PackageInfo::*setText)(const std::string &text);
+    void (PackageInfoModel::*updated)(const QString &text);
+};
+
+constexpr TextField installerField{&Tano::PackageInfo::installer, &Tano::PackageInfo::setInstaller,
+                                   &PackageInfoModel::installerUpdated};
+constexpr TextField uidField{&Tano::PackageInfo::uuid, &Tano::PackageInfo::setUuid,
+                             &PackageInfoModel::uidUpdated};
+constexpr TextField typeVersionField{&Tano::PackageInfo::typeVersion,
+                                     &Tano::PackageInfo::setTypeVersion,
+                                     &PackageInfoModel::typeVersionUpdated};
+constexpr TextField authorField{&Tano::PackageInfo::author, &Tano::PackageInfo::setAuthor,
+                                &PackageInfoModel::authorUpdated};
+constexpr TextField organizationField{&Tano::PackageInfo::organization,
+                                      &Tano::PackageInfo::setOrganization,
+                                      &PackageInfoModel::organizationUpdated};
+constexpr TextField dateField{&Tano::PackageInfo::date, &Tano::PackageInfo::setDate,
+                              &PackageInfoModel::dateUpdated};
+constexpr TextField channelField{&Tano::PackageInfo::channel, &Tano::PackageInfo::setChannel,
+                                 &PackageInfoModel::channelUpdated};
+constexpr TextField pathField{&Tano::PackageInfo::path, &Tano::PackageInfo::setPath,
+                              &PackageInfoModel::pathUpdated};
+
+QString textOf(const Tano::PackageInfo &record, const TextField &field) {
+    return fromUtf8((record.*field.text)());
+}
+
+void setText(PackageInfoModel *model, Tano::PackageInfo &record, const TextField &field,
+             const QString &text) {
+    if (textOf(record, field) == text)
+        return;
+    (record.*field.setText)(toUtf8(text));
+    Q_EMIT(model->*field.updated)(text);
+}
+
+} // namespace
+
+const PackageInfoModel::Data::LocalizedTextField PackageInfoModel::Data::nameField{
+    &Tano::PackageInfo::name, &Tano::PackageInfo::setName, &Data::names,
+    &PackageInfoModel::nameUpdated};
+
+const PackageInfoModel::Data::LocalizedTextField PackageInfoModel::Data::descriptionField{
+    &Tano::PackageInfo::description, &Tano::PackageInfo::setDescription, &Data::descriptions,
+    &PackageInfoModel::descriptionUpdated};
+
+const Tano::PackageInfo &PackageInfoModel::packageInfo() const {
+    return m_data->record();
+}
+
+QString PackageInfoModel::installer() const {
+    return textOf(m_data->record(), installerField);
+}
+
+void PackageInfoModel::setInstaller(const QString &installer) {
+    setText(this, m_data->edit(), installerField, installer);
+}
+
+QString PackageInfoModel::uid() const {
+    return textOf(m_data->record(), uidField);
+}
+
+void PackageInfoModel::setUid(const QString &uid) {
+    setText(this, m_data->edit(), uidField, uid);
+}
+
+QString PackageInfoModel::typeVersion() const {
+    return textOf(m_data->record(), typeVersionField);
+}
+
+void PackageInfoModel::setTypeVersion(const QString &typeVersion) {
+    setText(this, m_data->edit(), typeVersionField, typeVersion);
+}
+
+QString PackageInfoModel::author() const {
+    return textOf(m_data->record(), authorField);
+}
+
+void PackageInfoModel::setAuthor(const QString &author) {
+    setText(this, m_data->edit(), authorField, author);
+}
+
+QString PackageInfoModel::organization() const {
+    return textOf(m_data->record(), organizationField);
+}
+
+void PackageInfoModel::setOrganization(const QString &organization) {
+    setText(this, m_data->edit(), organizationField, organization);
+}
+
+QString PackageInfoModel::date() const {
+    return textOf(m_data->record(), dateField);
+}
+
+void PackageInfoModel::setDate(const QString &date) {
+    setText(this, m_data->edit(), dateField, date);
+}
+
+QString PackageInfoModel::channel() const {
+    return textOf(m_data->record(), channelField);
+}
+
+void PackageInfoModel::setChannel(const QString &channel) {
+    setText(this, m_data->edit(), channelField, channel);
+}
+
+QString PackageInfoModel::path() const {
+    return textOf(m_data->record(), pathField);
+}
+
+void PackageInfoModel::setPath(const QString &path) {
+    setText(this, m_data->edit(), pathField, path);
+}
+
+SoftwareVersion PackageInfoModel::version() const {
+    return m_data->version;
+}
+
+void PackageInfoModel::setVersion(const SoftwareVersion &newVersion) {
+    SoftwareVersion version = newVersion;
+    version.setFieldsCount(3);
+    m_data->edit().setVersion(toUtf8(SoftwareVersionUtils::toString(version)));
+    m_data->version = version;
+    Q_EMIT versionUpdated(version);
+}
+
+const RobotLanguages &PackageInfoModel::supportedLanguages() const {
+    return m_data->supportedLanguages;
+}
+
+bool PackageInfoModel::hasLanguageSupport(const RobotLanguage &language) const {
+    return contains(m_data->supportedLanguages, language);
+}
+
+void PackageInfoModel::addSupportedLanguage(const RobotLanguage &language) {
+    if (hasLanguageSupport(language))
+        return;
+    const RobotLanguage added = copyOf(language);
+    m_data->edit().addSupportedLanguage(codeOf(added));
+    m_data->supportedLanguages.push_back(added);
+    Q_EMIT languageAdded(added);
+    addDescriptionLanguage(added);
+}
+
+void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
+    if (!hasLanguageSupport(language))
+        return;
+    const RobotLanguage removed = copyOf(language);
+    m_data->edit().removeSupportedLanguage(codeOf(removed));
+    for (const auto &dialog : guarded(dialogs())) {
+        if (dialog)
+            dialog->removeTopic(removed);
+    }
+    Language::removeLanguage(m_data->supportedLanguages, removed);
+    Q_EMIT languageRemoved(removed);
+}
+
+const RobotLanguages &PackageInfoModel::descriptionLanguages() const {
+    return m_data->descriptionLanguages;
+}
+
+bool PackageInfoModel::hasLanguageDescription(const RobotLanguage &language) const {
+    return contains(m_data->descriptionLanguages, language);
+}
+
+void PackageInfoModel::addDescriptionLanguage(const RobotLanguage &language) {
+    if (hasLanguageDescription(language))
+        return;
+    const RobotLanguage added = copyOf(language);
+    m_data->edit().addDescriptionLanguage(codeOf(added));
+    m_data->descriptionLanguages.push_back(added);
+    Q_EMIT descriptionAdded(added);
+}
+
+void PackageInfoModel::removeDescriptionLanguage(const RobotLanguage &language) {
+    if (!hasLanguageDescription(language))
+        return;
+    const RobotLanguage removed = copyOf(language);
+    m_data->edit().removeDescriptionLanguage(codeOf(removed));
+    Language::removeLanguage(m_data->descriptionLanguages, removed);
+    Q_EMIT descriptionRemoved(removed);
+}
+
+QString PackageInfoModel::name(const RobotLanguage &language) const {
+    return valueFor(m_data->names, language);
+}
+
+const Language::LocalizedStrings &PackageInfoModel::names() const {
+    return m_data->names;
+}
+
+bool PackageInfoModel::hasNameFor(const RobotLanguage &language) const {
+    return !name(language).isEmpty();
+}
+
+void PackageInfoModel::setName(const QString &name, const RobotLanguage &language) {
+    Zel::setText(this, *m_data, Data::nameField, name, language);
+}
+
+void PackageInfoModel::clearNames() {
+    m_data->edit().clearNames();
+    m_data->names.clear();
+    Q_EMIT namesCleared();
+}
+
+QString PackageInfoModel::description(const RobotLanguage &language) const {
+    return valueFor(m_data->descriptions, language);
+}
+
+const Language::LocalizedStrings &PackageInfoModel::descriptions() const {
+    return m_data->descriptions;
+}
+
+bool PackageInfoModel::hasDescriptionFor(const RobotLanguage &language) const {
+    return !description(language).isEmpty();
+}
+
+void PackageInfoModel::setDescription(const QString &desc, const RobotLanguage &language) {
+    Zel::setText(this, *m_data, Data::descriptionField, desc, language);
+}
+
+QIcon PackageInfoModel::icon() const {
+    return m_data->icon;
+}
+
+void PackageInfoModel::setIcon(const QIcon &newIcon) {
+    const QIcon icon = copyOf(newIcon);
+    const QIcon &current = m_data->icon;
+    if ((icon.isNull() && current.isNull()) || icon.cacheKey() == current.cacheKey())
+        return;
+    std::optional<IconFingerprint> look;
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        if (!m_data->iconFingerprint)
+            m_data->iconFingerprint = fingerprint(current);
+        look = fingerprint(icon);
+        if (look == m_data->iconFingerprint)
+            return;
+    }
+    m_data->icon = icon;
+    m_data->iconFingerprint = look;
+    Q_EMIT iconUpdated(icon);
+}
+
+} // namespace Zel

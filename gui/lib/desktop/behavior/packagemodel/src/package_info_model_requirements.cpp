@@ -1,0 +1,120 @@
+#include <packagemodel/package_info_model.h>
+
+#include "package_info_data.h"
+
+namespace Zel {
+namespace {
+
+// One kind of requirements: the operations of the record on their list, the conversion to it, and
+// the notifications.
+template<typename Requirement>
+struct RequirementKind;
+
+template<>
+struct RequirementKind<RobotRequirement> {
+    static constexpr auto clear = &Tano::PackageInfo::clearRobotRequirements;
+    static constexpr auto append = &Tano::PackageInfo::addRobotRequirement;
+    static constexpr auto toRecord = &toTanoRobotRequirement;
+    static constexpr auto added = &PackageInfoModel::robotRequirementAdded;
+    static constexpr auto updated = &PackageInfoModel::robotRequirementUpdated;
+    static constexpr auto removed = &PackageInfoModel::robotRequirementRemoved;
+};
+
+template<>
+struct RequirementKind<BrioRequirement> {
+    static constexpr auto clear = &Tano::PackageInfo::clearBrioRequirements;
+    static constexpr auto append = &Tano::PackageInfo::addBrioRequirement;
+    static constexpr auto toRecord = &toTanoBrioRequirement;
+    static constexpr auto added = &PackageInfoModel::brioRequirementAdded;
+    static constexpr auto updated = &PackageInfoModel::brioRequirementUpdated;
+    static constexpr auto removed = &PackageInfoModel::brioRequirementRemoved;
+};
+
+template<typename Requirement>
+void resync(RequirementList<Requirement> &list, Tano::PackageInfo &record) {
+    using Kind = RequirementKind<Requirement>;
+    (record.*Kind::clear)();
+    for (const Requirement &requirement : std::as_const(list.items))
+        (record.*Kind::append)(Kind::toRecord(requirement));
+    list.isMirrored = true;
+}
+
+template<typename Requirement>
+void add(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
+         const Requirement &requirement) {
+    using Kind = RequirementKind<Requirement>;
+    list.items.append(requirement);
+    if (list.isMirrored)
+        (record.*Kind::append)(Kind::toRecord(requirement));
+    else
+        resync(list, record);
+    Q_EMIT(model->*Kind::added)(requirement);
+}
+
+template<typename Requirement>
+bool update(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
+            int index, const Requirement &requirement) {
+    if (index < 0 || index >= list.items.size())
+        return false;
+    list.items[index] = requirement;
+    resync(list, record);
+    Q_EMIT(model->*RequirementKind<Requirement>::updated)(index, requirement);
+    return true;
+}
+
+template<typename Requirement>
+bool remove(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
+            int index) {
+    if (index < 0 || index >= list.items.size())
+        return false;
+    list.items.removeAt(index);
+    resync(list, record);
+    Q_EMIT(model->*RequirementKind<Requirement>::removed)(index);
+    return true;
+}
+
+} // namespace
+
+QVector<RobotRequirement> PackageInfoModel::robotRequirements() const {
+    return m_data->robotRequirements.items;
+}
+
+RobotRequirement PackageInfoModel::robotRequirement(int i) const {
+    return m_data->robotRequirements.items.value(i);
+}
+
+void PackageInfoModel::addRobotRequirement(const RobotRequirement &robotReq) {
+    add(this, m_data->edit(), m_data->robotRequirements, robotReq);
+}
+
+bool PackageInfoModel::updateRobotRequirement(int robotReqIdx,
+                                              const RobotRequirement &updatedRobotReq) {
+    return update(this, m_data->edit(), m_data->robotRequirements, robotReqIdx, updatedRobotReq);
+}
+
+bool PackageInfoModel::removeRobotRequirement(int robotReqIdx) {
+    return remove(this, m_data->edit(), m_data->robotRequirements, robotReqIdx);
+}
+
+QVector<BrioRequirement> PackageInfoModel::brioRequirements() const {
+    return m_data->brioRequirements.items;
+}
+
+BrioRequirement PackageInfoModel::brioRequirement(int i) const {
+    return m_data->brioRequirements.items.value(i);
+}
+
+void PackageInfoModel::addBrioRequirement(const BrioRequirement &brioReq) {
+    add(this, m_data->edit(), m_data->brioRequirements, brioReq);
+}
+
+bool PackageInfoModel::updateBrioRequirement(int brioReqIdx,
+                                             const BrioRequirement &updatedBrioReq) {
+    return update(this, m_data->edit(), m_data->brioRequirements, brioReqIdx, updatedBrioReq);
+}
+
+bool PackageInfoModel::removeBrioRequirement(int brioReqIdx) {
+    return remove(this, m_data->edit(), m_data->brioRequirements, brioReqIdx);
+}
+
+} // namespace Zel

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "child_list.h"
+
+#include <packagemodel/service_info_model.h>
+
+namespace Zel {
+
+struct ServiceInfoModel::Data : ChildData<ServiceInfoModel> {
+    using ChildData::ChildData;
+};
+
+} // namespace Zel
