@@ -1,0 +1,31 @@
+# Installs the build tree into a fresh folder, and builds and runs a program against what stands
+# there, as the library's users do. Variables: BUILD_DIR, CONSUMER_DIR, WORK_DIR, MANIFEST,
+# EXPECTED_NAME, and the settings of the build that a program has to share.
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/prefix"
+    OUTPUT_QUIET
+    COMMAND_ERROR_IS_FATAL ANY)
+
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}"
+        "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix;${PREFIX_PATH}"
+        "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}"
+        "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}"
+        "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+    COMMAND_ERROR_IS_FATAL ANY)
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" --build "${WORK_DIR}/build"
+    COMMAND_ERROR_IS_FATAL ANY)
+
+execute_process(
+    COMMAND "${WORK_DIR}/build/consumer" "${MANIFEST}"
+    OUTPUT_VARIABLE name
+    OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+message("The consumer read the name '${name}'.")
+if(NOT name STREQUAL EXPECTED_NAME)
+    message(FATAL_ERROR "The expected name is '${EXPECTED_NAME}'.")
+endif()
