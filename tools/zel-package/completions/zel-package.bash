@@ -1,0 +1,35 @@
+# bash completion for zel-package                                          -*- shell-script -*-
+
+# The codes of the known languages, as the program itself lists them.
+_zel_package_languages() {
+    "$1" languages 2>/dev/null | while read -r code _; do
+        [[ $code == code ]] || printf '%s\n' "$code"
+    done
+}
+
+_zel_package() {
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local words=
+    COMPREPLY=()
+
+    if ((COMP_CWORD == 1)); then
+        words='new show format languages --help --version'
+    else
+        case ${COMP_WORDS[1]}:$previous in
+        *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
+        show:--format) words='text json' ;;
+        *:--uid | *:--name) return ;;
+        *)
+            [[ $current == -* ]] && case ${COMP_WORDS[1]} in
+            new) words='--uid --name --language --help' ;;
+            show) words='--language --format --help' ;;
+            format) words='--check --help' ;;
+            languages) words='--help' ;;
+            esac
+            ;;
+        esac
+    fi
+
+    # Without words of the program's own, complete file names: see "-o default" below.
+    [[ -n $words ]] && mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+} && complete -o default -F _zel_package zel-package

@@ -1,0 +1,102 @@
+#include "console.h"
+
+#include "text_layout.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cstdio>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace ZelPackage {
+namespace {
+
+constexpr int defaultWidth = 80;
+constexpr int smallestWidth = 40;
+
+int terminalWidth() {
+    winsize size{};
+    if (!isatty(STDOUT_FILENO) || ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+        return defaultWidth;
+    return std::max(smallestWidth, int(size.ws_col));
+}
+
+bool terminalHasColors() {
+    return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR") &&
+           qgetenv("TERM") != "dumb";
+}
+
+const char *sequenceOf(Style style) {
+    switch (style) {
+    case Style::Plain:
+        return "";
+    case Style::Heading:
+        return "\x1b[1m";
+    case Style::Faint:
+        return "\x1b[2m";
+    case Style::Good:
+        return "\x1b[32m";
+    case Style::Caution:
+        return "\x1b[33m";
+    }
+    return "";
+}
+
+} // namespace
+
+Console::Console()
+    : m_width(terminalWidth())
+    , m_isColored(terminalHasColors()) {
+    if (!m_output.open(STDOUT_FILENO, QIODevice::WriteOnly))
+        m_writeError = m_output.errorString();
+    // Where standard error cannot be opened there is nowhere left to say so.
+    static_cast<void>(m_messages.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
+}
+
+void Console::print(const QString &text) {
+    printBytes(text.toStdString());
+}
+
+void Console::printBytes(const std::string &bytes) {
+    const auto size = qint64(bytes.size());
+    if (m_writeError.isEmpty() && m_output.write(bytes.data(), size) != size)
+        m_writeError = m_output.errorString();
+}
+
+void Console::tell(const QString &message) {
+    // What was printed before stands before it, should both go to the same place.
+    if (m_writeError.isEmpty() && !m_output.flush())
+        m_writeError = m_output.errorString();
+    m_messages.write((QStringLiteral("zel-package: ") % printable(message) % u'\n').toUtf8());
+}
+
+void Console::tell(const QString &file, const QString &message) {
+    tell(file % QStringLiteral(": ") % message);
+}
+
+void Console::tell(const QString &file, Tano::SourcePosition position, const QString &message) {
+    if (position.line == 0)
+        tell(file, message);
+    else
+        tell(file % u':' % QString::number(position.line) % u':' % QString::number(position.column),
+             message);
+}
+
+bool Console::finish() {
+    if (m_writeError.isEmpty() && !m_output.flush())
+        m_writeError = m_output.errorString();
+    if (m_writeError.isEmpty())
+        return true;
+    tell(QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
+             .arg(m_writeError));
+    return false;
+}
+
+QString Console::styled(const QString &text, Style style) const {
+    if (!m_isColored || style == Style::Plain || text.isEmpty())
+        return text;
+    return QLatin1String(sequenceOf(style)) % text % QLatin1String("\x1b[0m");
+}
+
+} // namespace ZelPackage

@@ -1,0 +1,64 @@
+#include "language_argument.h"
+
+#include "suggestion.h"
+
+#include <zel/language.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace ZelPackage {
+namespace {
+
+bool looksLikeCode(const QString &text) {
+    static const QRegularExpression form(QRegularExpression::anchoredPattern(QStringLiteral(
+        "[a-z]{2,3}(_[A-Z][a-z]{3})?(_([A-Z]{2}|[0-9]{3}))?(-x(-[a-z0-9]{1,8})+)?")));
+    return form.match(text).hasMatch();
+}
+
+// Codes of the languages that are called so, in English or in the language itself; else the code
+// that looks most like the text.
+QStringList nearCodes(const QString &text) {
+    QStringList named;
+    QStringList codes;
+    for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
+        codes += language.isoCode();
+        const bool isNamed = language.englishName().startsWith(text, Qt::CaseInsensitive) ||
+                             language.nativeName().startsWith(text, Qt::CaseInsensitive);
+        if (text.size() > 2 && isNamed)
+            named += language.isoCode();
+    }
+    if (named.isEmpty())
+        named += nearestWord(QString(text).replace(u'-', u'_'), codes);
+    named.removeAll({});
+    return named;
+}
+
+} // namespace
+
+std::optional<Zel::RobotLanguage> languageArgument(const QString &code, Console &console) {
+    const Zel::RobotLanguage known = Zel::robotLanguage(code);
+    if (!known.isoCode().isEmpty())
+        return known;
+    if (looksLikeCode(code)) {
+        console.tell(
+            QCoreApplication::translate("zel-package", "The language '%1' is not a known one.")
+                .arg(code));
+        return Zel::RobotLanguage(Zel::ISOCode(code), Zel::NuanceCode());
+    }
+    const QStringList near = nearCodes(code);
+    console.tell(near.isEmpty()
+                     ? QCoreApplication::translate(
+                           "zel-package", "'%1' is not a language code; 'zel-package languages' "
+                                          "lists those that are known.")
+                           .arg(code)
+                     : QCoreApplication::translate("zel-package",
+                                                   "'%1' is not a language code; did you mean %2?")
+                           .arg(code, near.join(QStringLiteral(", "))));
+    return {};
+}
+
+} // namespace ZelPackage

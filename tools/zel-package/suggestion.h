@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace ZelPackage {
+
+/// The word that a mistyped one most likely stands for; empty where none is near.
+[[nodiscard]] QString nearestWord(const QString &given, const QStringList &words);
+
+/// "; did you mean 'WORD'?", or `otherwise` where no word is near.
+[[nodiscard]] QString suggestion(const QString &given, const QStringList &words,
+                                 const QString &otherwise);
+
+} // namespace ZelPackage

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Text on a terminal, measured in columns: 2 for a wide character (East Asian, emoji), none for a
+/// combining one.
+namespace ZelPackage {
+
+/// Whether a character would move the cursor or reorder the line rather than show: a control
+/// character, a line separator, or one that controls the direction of writing.
+[[nodiscard]] bool isUnprintable(QChar character);
+
+/// The text with every character that isUnprintable() shown as <U+202E>.
+[[nodiscard]] QString printable(const QString &text);
+
+/// How many columns the text takes.
+[[nodiscard]] int displayWidth(const QString &text);
+
+/// The text up to its last character that is no white space.
+[[nodiscard]] QString withoutSpacesAtEnd(const QString &text);
+
+/// The text followed by spaces up to `width` columns.
+[[nodiscard]] QString padded(const QString &text, int width);
+
+/// The text, made printable, in lines of at most `width` columns; broken where its script allows
+/// it, within a word only where that is longer than a line. A line feed starts a new line.
+[[nodiscard]] QStringList wrapped(const QString &text, int width);
+
+} // namespace ZelPackage

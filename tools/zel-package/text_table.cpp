@@ -1,0 +1,86 @@
+#include "text_table.h"
+
+#include "text_layout.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace ZelPackage {
+namespace {
+
+constexpr int gap = 2;
+
+int spacesBefore(TextTable::Align align, int spaces) {
+    switch (align) {
+    case TextTable::Align::Left:
+        return 0;
+    case TextTable::Align::Center:
+        return (spaces + 1) / 2;
+    case TextTable::Align::Right:
+        return spaces;
+    }
+    return 0;
+}
+
+} // namespace
+
+TextTable::TextTable(std::vector<Column> columns)
+    : m_columns(std::move(columns)) {
+    for (const Column &column : m_columns)
+        m_widths.push_back(displayWidth(column.title));
+}
+
+void TextTable::addRow(const Row &row) {
+    Q_ASSERT(row.size() <= m_columns.size());
+    for (std::size_t i = 0; i < row.size(); ++i)
+        m_widths[i] = std::max(m_widths[i], displayWidth(row[i].text));
+    m_rows.push_back(row);
+}
+
+int TextTable::width() const {
+    return std::accumulate(m_widths.begin(), m_widths.end(), gap * (int(m_widths.size()) - 1));
+}
+
+QString TextTable::groupLine() const {
+    QString line;
+    for (std::size_t i = 0; i < m_columns.size();) {
+        const QString &group = m_columns[i].group;
+        int width = m_widths[i];
+        for (++i; i < m_columns.size() && !group.isEmpty() && m_columns[i].group == group; ++i)
+            width += gap + m_widths[i];
+        const int spaces = std::max(0, width - displayWidth(group) - 2);
+        const QString title = group.isEmpty() || spaces < 2
+                                  ? group
+                                  : QString(spaces / 2, u'─') % u' ' % group % u' ' %
+                                        QString(spaces - spaces / 2, u'─');
+        line += padded(title, width + gap);
+    }
+    return line;
+}
+
+QString TextTable::toText(const Console &console, int indent) const {
+    Row titles;
+    for (const Column &column : m_columns)
+        titles.push_back({column.title, Style::Faint});
+    std::vector<Row> rows{titles};
+    rows.insert(rows.end(), m_rows.begin(), m_rows.end());
+
+    QString text;
+    const QString margin(indent, u' ');
+    const QString groups = withoutSpacesAtEnd(groupLine());
+    if (!groups.isEmpty())
+        text += margin % console.styled(groups, Style::Faint) % u'\n';
+    for (const Row &row : rows) {
+        QString line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const int spaces = m_widths[i] - displayWidth(row[i].text);
+            const int before = spacesBefore(m_columns[i].align, spaces);
+            line += QString(before, u' ') % console.styled(row[i].text, row[i].style) %
+                    QString(spaces - before + gap, u' ');
+        }
+        text += withoutSpacesAtEnd(margin % line) % u'\n';
+    }
+    return text;
+}
+
+} // namespace ZelPackage
