@@ -7,6 +7,7 @@ namespace {
 
 bool registerAll() {
     qRegisterMetaType<BehaviorInfoModel *>("BehaviorInfoModel*");
+    qRegisterMetaType<const BehaviorInfoModel *>("const BehaviorInfoModel*");
     qRegisterMetaType<BrioRequirement>("BrioRequirement");
     qRegisterMetaType<DialogInfoModel *>("DialogInfoModel*");
     qRegisterMetaType<RobotLanguage>("RobotLanguage");

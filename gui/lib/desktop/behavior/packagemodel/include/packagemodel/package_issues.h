@@ -1,0 +1,45 @@
+#pragma once
+
+#include <packagemodel/packagemodel_export.h>
+
+#include <QString>
+#include <QVector>
+
+namespace Zel {
+
+class PackageInfoModel;
+
+/// What can be wrong with a package. Messages, live flags, issues and what the programs print all
+/// come from the same table of rules.
+namespace PackageModel {
+
+enum class Severity { Warning, Error };
+
+/// One thing that can be wrong, in the language of the application.
+struct Rule {
+    QString id;          ///< stable, for filters and reports; never translated
+    Severity severity;   ///< of what it finds
+    QString message;     ///< with its placeholders; rich text, so that "<" is "&lt;"
+    QString explanation; ///< a paragraph of plain text
+    QString remedy;      ///< how to mend it, in plain text
+};
+
+/// All rules, in the order in which they are checked.
+[[nodiscard]] PACKAGEMODEL_EXPORT QVector<Rule> rules();
+
+/// One thing that is wrong in one field.
+struct Issue {
+    QString id; ///< of its rule
+    Severity severity;
+    /// The field at fault, for example "names[fr_FR]", "robotRequirements[0].maxBodyVersion" or
+    /// "behaviors[greet].triggerSentences[ja_JP]". Lists count from 0.
+    QString path;
+    QString text; ///< what is wrong, as rich text like the messages
+};
+
+/// All that is wrong with a package: the same findings as the messages of validate(), in the same
+/// order, one for each field. An empty list for a null package.
+[[nodiscard]] PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package);
+
+} // namespace PackageModel
+} // namespace Zel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "package_rules.h"
+
+#include <zel/robot_language.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace Zel {
+
+class BehaviorInfoModel;
+class PackageInfoModel;
+
+namespace PackageModel {
+
+/// What a check found in one field. Where the rule speaks of languages, findings that differ only
+/// in their language make one message.
+struct Finding {
+    RuleId rule;
+    QString path;
+    QStringList arguments; // of the message, but for the language
+    RobotLanguage language;
+};
+using Findings = std::vector<Finding>;
+
+// Each concern is checked in one place; each check appends what it finds.
+
+void checkUid(const PackageInfoModel &package, Findings &findings);
+void checkRobotRequirements(const PackageInfoModel &package, Findings &findings);
+void checkBrioRequirements(const PackageInfoModel &package, Findings &findings);
+void checkNames(const PackageInfoModel &package, Findings &findings);
+void checkDescriptions(const PackageInfoModel &package, Findings &findings);
+void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoModel &behavior,
+                           Findings &findings);
+
+/// Whether the last placeholder of the rule's message is for languages.
+bool speaksOfLanguages(RuleId rule);
+
+/// The languages of the findings of one rule.
+RobotLanguages languagesOf(const Findings &findings, RuleId rule);
+
+/// The message about some findings of one rule, which differ in their language at most.
+QString message(const Finding &finding, const RobotLanguages &languages);
+
+/// The names that the user knows the languages by, joined by ", ".
+QString languagesUiNamesList(const RobotLanguages &languages);
+
+} // namespace PackageModel
+} // namespace Zel

@@ -1,0 +1,175 @@
+#include <packagemodel/package_info_validator.h>
+
+#include <packagemodel/package_info_utils.h>
+
+#include "meta_types.h"
+
+namespace Zel {
+namespace {
+
+// Adds a kind to a set or takes it out; returns whether that turned the set empty or no longer so.
+template<typename Kind>
+bool turns(std::set<Kind> &kinds, Kind kind, bool set) {
+    const bool wasEmpty = kinds.empty();
+    if (set)
+        kinds.insert(kind);
+    else
+        kinds.erase(kind);
+    return kinds.empty() != wasEmpty;
+}
+
+} // namespace
+
+PackageInfoValidator::PackageInfoValidator(const PackageInfoModel *package, QObject *parent)
+    : QObject(parent)
+    , m_package(package) {
+    registerMetaTypes();
+}
+
+PackageInfoValidator::~PackageInfoValidator() = default;
+
+void PackageInfoValidator::activate() {
+    m_active = true;
+    if (!m_package)
+        return;
+
+    using Package = PackageInfoModel;
+    using Self = PackageInfoValidator;
+    const auto listen = [this](auto slot, auto... notifications) {
+        (connect(m_package, notifications, this, slot), ...);
+    };
+    listen(&Self::validateUID, &Package::uidUpdated);
+    listen(&Self::validateRobotRequirements, &Package::robotRequirementAdded,
+           &Package::robotRequirementRemoved, &Package::robotRequirementUpdated);
+    listen(&Self::validateBrioRequirements, &Package::brioRequirementAdded,
+           &Package::brioRequirementRemoved, &Package::brioRequirementUpdated);
+    listen(&Self::validateApplicationNames, &Package::namesCleared, &Package::nameUpdated,
+           &Package::languageAdded, &Package::languageRemoved);
+    listen(&Self::validateApplicationDescriptions, &Package::languageAdded,
+           &Package::languageRemoved, &Package::descriptionUpdated);
+    listen(&Self::onBehaviorAdded, &Package::behaviorAdded);
+    listen(&Self::onBehaviorRemoved, &Package::behaviorRemoved);
+
+    const auto behaviors = m_package->behaviors();
+    for (const BehaviorInfoModel *behavior : behaviors)
+        onBehaviorAdded(behavior);
+    validateAll();
+}
+
+void PackageInfoValidator::deactivate() {
+    m_active = false;
+    if (m_package) {
+        disconnect(m_package, nullptr, this, nullptr);
+        const auto behaviors = m_package->behaviors();
+        for (const BehaviorInfoModel *behavior : behaviors)
+            disconnect(behavior, nullptr, this, nullptr);
+    }
+    m_packageErrors.clear();
+    m_packageWarnings.clear();
+}
+
+void PackageInfoValidator::validateAll() {
+    validateUID();
+    validateRobotRequirements();
+    validateBrioRequirements();
+    validateApplicationNames();
+    validateApplicationDescriptions();
+    validateBehaviorTriggerSentences();
+}
+
+QList<const BehaviorInfoModel *> PackageInfoValidator::behaviorInErrors() const {
+    QList<const BehaviorInfoModel *> behaviors;
+    for (const auto &[behavior, errors] : m_behaviorErrors) {
+        if (!errors.empty())
+            behaviors.append(behavior);
+    }
+    return behaviors;
+}
+
+void PackageInfoValidator::setPackageErrors(PackageError error, bool set) {
+    if (turns(m_packageErrors, error, set))
+        Q_EMIT packageHasErrorsChanged(!m_packageErrors.empty());
+}
+
+void PackageInfoValidator::setPackageWarnings(PackageWarning warning, bool set) {
+    if (turns(m_packageWarnings, warning, set))
+        Q_EMIT packageHasWarningsChanged(!m_packageWarnings.empty());
+}
+
+void PackageInfoValidator::validateUID() {
+    QStringList messages;
+    const bool isValid = PackageModel::validatePackageUID(m_package, messages);
+    setPackageErrors(PackageError::InvalidUID, !isValid);
+    Q_EMIT applicationUIDStateChanged(isValid);
+}
+
+void PackageInfoValidator::validateRobotRequirements() {
+    QStringList messages;
+    const bool isValid = PackageModel::validateRobotRequirements(m_package, messages);
+    setPackageErrors(PackageError::InvalidRobotRequirements, !isValid);
+    Q_EMIT robotRequirementsStateChanged(isValid);
+}
+
+void PackageInfoValidator::validateBrioRequirements() {
+    QStringList messages;
+    const bool isValid = PackageModel::validateBrioRequirements(m_package, messages);
+    setPackageErrors(PackageError::InvalidBrioRequirements, !isValid);
+    Q_EMIT brioRequirementsStateChanged(isValid);
+}
+
+void PackageInfoValidator::validateApplicationNames() {
+    RobotLanguages missingDefault;
+    RobotLanguages missingOthers;
+    PackageModel::validateApplicationNames(m_package, missingDefault, missingOthers);
+    setPackageErrors(PackageError::MissingDefaultName, !missingDefault.empty());
+    setPackageWarnings(PackageWarning::MissingNames, !missingOthers.empty());
+    Q_EMIT applicationNamesStateChanged(missingDefault, missingOthers);
+}
+
+void PackageInfoValidator::validateApplicationDescriptions() {
+    RobotLanguages missing;
+    const bool isValid = PackageModel::validateApplicationDescriptions(m_package, missing);
+    setPackageWarnings(PackageWarning::MissingDescriptions, !isValid);
+    Q_EMIT applicationDescriptionsStateChanged(missing);
+}
+
+void PackageInfoValidator::validateTriggerSentences(const BehaviorInfoModel *behaviorToShow) {
+    if (!behaviorToShow || !m_package)
+        return;
+    RobotLanguages missing;
+    const bool isValid = PackageModel::validateTriggerSentences(m_package, behaviorToShow, missing);
+    turns(m_behaviorErrors[behaviorToShow], BehaviorError::MissingTriggerSentences, !isValid);
+    Q_EMIT triggerSentencesStateChanged(behaviorToShow, missing);
+}
+
+void PackageInfoValidator::validateBehaviorTriggerSentences() {
+    if (!m_package)
+        return;
+    // Receivers may remove behaviors meanwhile.
+    const auto behaviors = m_package->behaviors();
+    std::vector<QPointer<const BehaviorInfoModel>> guarded(behaviors.begin(), behaviors.end());
+    for (const auto &behavior : guarded)
+        validateTriggerSentences(behavior);
+}
+
+void PackageInfoValidator::onBehaviorAdded(const BehaviorInfoModel *addedBehavior) {
+    using Behavior = BehaviorInfoModel;
+    const auto listen = [&](auto... notifications) {
+        (connect(addedBehavior, notifications, this,
+                 &PackageInfoValidator::onBehaviorTriggerChanged),
+         ...);
+    };
+    listen(&Behavior::userRequestableChanged, &Behavior::triggerSentenceAdded,
+           &Behavior::triggerSentenceInserted, &Behavior::triggerSentenceRemoved,
+           &Behavior::triggerSentenceUpdated);
+}
+
+void PackageInfoValidator::onBehaviorRemoved(const BehaviorInfoModel *removedBehavior) {
+    disconnect(removedBehavior, nullptr, this, nullptr);
+}
+
+void PackageInfoValidator::onBehaviorTriggerChanged() {
+    validateTriggerSentences(qobject_cast<const BehaviorInfoModel *>(sender()));
+}
+
+} // namespace Zel
