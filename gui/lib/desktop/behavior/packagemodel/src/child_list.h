@@ -186,8 +186,14 @@ public:
 
     /// Lets a child go to another package.
     void release(Child *child) {
-        takeAt(m_children.indexOf(child));
+        takeAt(indexOf(child));
         QObject::disconnect(child, nullptr, m_package, nullptr);
+    }
+
+    /// The index of a child; the number of children when it is not there.
+    int indexOf(const Child *child) const {
+        return static_cast<int>(std::find(m_children.cbegin(), m_children.cend(), child) -
+                                m_children.cbegin());
     }
 
     /// Drops a child that is being deleted. The record waits for the next resync.
@@ -202,7 +208,7 @@ public:
     /// Says that the record's list no longer mirrors the children.
     void setOutOfStep() { m_mirrored = outOfStep; }
     /// Says that the record's list mirrors the children.
-    void setInStep() { m_mirrored = m_children.size(); }
+    void setInStep() { m_mirrored = static_cast<int>(m_children.size()); }
 
     void resync() {
         if (m_mirrored == outOfStep) {
@@ -223,11 +229,6 @@ public:
 
 private:
     static constexpr int outOfStep = -1;
-
-    int indexOf(const Child *child) const {
-        return static_cast<int>(std::find(m_children.cbegin(), m_children.cend(), child) -
-                                m_children.cbegin());
-    }
 
     PackageInfoModel *m_package;
     Tano::PackageInfo &m_record;

@@ -53,7 +53,7 @@ bool remove(PackageInfoModel *package, ChildList<Child> &list, int index) {
 
 template<typename Child>
 bool remove(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
-    return remove(package, list, list.children().indexOf(child));
+    return remove(package, list, list.indexOf(child));
 }
 
 // Receivers may add and remove children meanwhile; what they add stays.
