@@ -81,6 +81,9 @@ private Q_SLOTS:
         row("show good.xml --language 1234567", "'1234567' is not a language code; 'zel-package "
                                                 "languages' lists those that are known.");
         row("new x", "A package needs a --uid.");
+        row("new x --uid Tea",
+            "Application UID is not defined correctly. 'zel-package explain uid-invalid' says what "
+            "a UID is.");
     }
 
     void wrongUsage() {
@@ -136,9 +139,9 @@ private Q_SLOTS:
                  QStringLiteral("お茶 & 本")});
         QCOMPARE(outcome.err,
                  lines({"zel-package: The language 'xx' is not a known one.",
-                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: a "
-                        "name (xx), a description (ja_JP, xx), a robot requirement, a Brio "
-                        "requirement."}));
+                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: "
+                        "robotRequirements, brioRequirements, names[xx], descriptions[ja_JP], "
+                        "descriptions[xx]."}));
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.out, QByteArray());
         QCOMPARE(contentOf(at("tea.xml")), QByteArray(R"(<?xml version="1.0" encoding="UTF-8"?>
