@@ -1,5 +1,7 @@
 #include "command.h"
 
+#include <packagemodel/translation.h>
+
 #include <QCoreApplication>
 
 #include <clocale>
@@ -22,8 +24,14 @@ void keepStandardStreamsTaken() {
 // File names, arguments and character widths are taken in the character set of the locale.
 void useUtf8() {
     std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
-        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
+        return;
+    // The language stays the one that the user has set.
+    if (const QByteArray all = qgetenv("LC_ALL"); !all.isEmpty()) {
+        qunsetenv("LC_ALL");
+        qputenv("LC_MESSAGES", all);
+    }
+    qputenv("LC_CTYPE", "C.UTF-8");
 }
 
 } // namespace
@@ -38,6 +46,8 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationName(QStringLiteral("zel-package"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_PACKAGE_VERSION));
     qSetMessagePattern(QStringLiteral("zel-package: %{message}"));
+    for (const char *catalogue : {"packagemodel", "zel-package"})
+        Zel::installTranslation(QLatin1String(catalogue));
 
     ZelPackage::Console console;
     const ZelPackage::ExitStatus status =
