@@ -3,6 +3,7 @@
 #include <packagemodel/translation.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <clocale>
 #include <csignal>
@@ -24,20 +25,15 @@ void keepStandardStreamsTaken() {
 // File names, arguments and character widths are taken in the character set of the locale.
 void useUtf8() {
     std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
-        return;
-    // The language stays the one that the user has set.
-    if (const QByteArray all = qgetenv("LC_ALL"); !all.isEmpty()) {
-        qunsetenv("LC_ALL");
-        qputenv("LC_MESSAGES", all);
-    }
-    qputenv("LC_CTYPE", "C.UTF-8");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
+        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
+    const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
     useUtf8();
     // A closed pipe shall be a failed write.
     std::signal(SIGPIPE, SIG_IGN);
@@ -47,7 +43,7 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_PACKAGE_VERSION));
     qSetMessagePattern(QStringLiteral("zel-package: %{message}"));
     for (const char *catalogue : {"packagemodel", "zel-package"})
-        Zel::installTranslation(QLatin1String(catalogue));
+        Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 
     ZelPackage::Console console;
     const ZelPackage::ExitStatus status =
