@@ -24,9 +24,13 @@ std::string tagged(std::string_view name) {
     return '<' + std::string(name) + '>';
 }
 
-bool isWhiteSpace(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; });
+// Asked for the end of every line and the indentation of the next one.
+inline bool isWhiteSpace(std::string_view text) {
+    for (const char c : text) {
+        if (c != ' ' && c != '\n' && c != '\t' && c != '\r')
+            return false;
+    }
+    return true;
 }
 
 // Line ends as an XML processor passes them on, so that kept text has one kind of them.
@@ -187,7 +191,8 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
     if (++m_depth > ManifestReader::maxDepth)
         return fail("More than " + std::to_string(ManifestReader::maxDepth) +
                     " elements stand within each other.");
-    if (XML_GetSpecifiedAttributeCount(m_parser.get()) / 2 > ManifestReader::maxAttributes)
+    if (*attributes &&
+        XML_GetSpecifiedAttributeCount(m_parser.get()) / 2 > ManifestReader::maxAttributes)
         return fail("The element " + tagged(name) + " has more than " +
                     std::to_string(ManifestReader::maxAttributes) + " attributes.");
 
@@ -265,7 +270,7 @@ void ManifestParser::keepRaw(std::string xml) {
 bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
-    frame.rule = &ruleOf(element);
+    frame.rule = m_rules + std::size_t(element);
     frame.seen = 0;
     frame.unplaced = 0;
     frame.keys.clear();

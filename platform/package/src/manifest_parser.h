@@ -122,6 +122,7 @@ private:
     ManifestFailure m_failure;
     char *m_room = nullptr;
     std::uint64_t m_fed = 0;
+    const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by their numbers
     bool m_keepsPositions;
     FieldPositions m_positions;
 
