@@ -173,7 +173,7 @@ private Q_SLOTS:
         const Outcome general = run({QStringLiteral("--help")});
         QCOMPARE(general.status, 0);
         QCOMPARE(general.err, QByteArray());
-        for (const char *command : {"new", "show", "format", "languages"}) {
+        for (const char *command : {"new", "show", "format", "set", "languages"}) {
             QVERIFY(general.out.contains(QByteArray("\n  ") + command + ' '));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
@@ -192,7 +192,7 @@ private Q_SLOTS:
         const QRegularExpression entry(QStringLiteral("^  (?:-h, )?([-a-z]+) "),
                                        QRegularExpression::MultilineOption);
         QByteArrayList pages{run({QStringLiteral("--help")}).out};
-        for (const char *command : {"new", "show", "format", "languages"})
+        for (const char *command : {"new", "show", "format", "set", "languages"})
             pages += run({QLatin1String(command), QStringLiteral("--help")}).out;
         for (const QByteArray &page : pages) {
             auto entries = entry.globalMatch(QString::fromUtf8(page));

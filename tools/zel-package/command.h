@@ -27,6 +27,7 @@ struct Command {
 extern const Command formatCommand;
 extern const Command languagesCommand;
 extern const Command newCommand;
+extern const Command setCommand;
 extern const Command showCommand;
 
 /// Runs the program: general options, or a command with its arguments.

@@ -9,7 +9,8 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand, &showCommand, &formatCommand, &languagesCommand};
+const std::array commands{&newCommand, &showCommand, &formatCommand, &setCommand,
+                          &languagesCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -37,9 +38,9 @@ void printHelp(Console &console) {
     console.print(
         QCoreApplication::translate("zel-package", "Usage: %1")
             .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
-        paragraph(QCoreApplication::translate("zel-package",
-                                              "Makes, shows and rewrites the manifests of robot "
-                                              "application packages."),
+        paragraph(QCoreApplication::translate(
+                      "zel-package", "Makes, shows, rewrites and edits the manifests of robot "
+                                     "application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     FieldList options;
