@@ -1,3 +1,5 @@
+#include "program_run.h"
+
 #include <packagemodel/package_info_model.h>
 
 #include <QDateTime>
@@ -5,54 +7,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <array>
-#include <pty.h>
-#include <unistd.h>
-
 namespace {
-
-struct Outcome {
-    int status = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
-
-void write(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-QString testData(const char *path) {
-    return QStringLiteral(ZEL_TEST_DATA "/") % QLatin1String(path);
-}
-
-QByteArray lines(const QList<QByteArray> &all) {
-    QByteArray text;
-    for (const QByteArray &line : all)
-        text += line + '\n';
-    return text;
-}
-
-Outcome finished(QProcess &process, const QByteArray &input = {}) {
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        qFatal("zel-package: %s", qPrintable(process.errorString()));
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
 
 constexpr auto showUsage = "zel-package show FILE [--language CODE] [--format text|json]";
 constexpr auto brokenError =
@@ -73,50 +32,15 @@ private:
     // Runs the program among good.xml, loose.xml (not canonical) and broken.xml.
     Outcome run(const QStringList &arguments, const QByteArray &input = {},
                 const QString &output = {}) const {
-        QProcess process;
-        process.setWorkingDirectory(m_dir.path());
-        if (!output.isEmpty())
-            process.setStandardOutputFile(output);
-        process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
-        return finished(process, input);
+        return runProgram(arguments, m_dir.path(), input, output);
     }
 
     Outcome runShell(const QByteArray &script) const {
-        QProcess process;
-        process.setWorkingDirectory(m_dir.path());
-        process.start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromUtf8(script),
-                                             QStringLiteral(ZEL_PACKAGE_PROGRAM)});
-        return finished(process);
+        return runProgramInShell(script, m_dir.path());
     }
 
-    // What the program writes to a terminal of 120 columns.
     QByteArray onTerminal(const QStringList &arguments, const char *noColor) const {
-        winsize size{};
-        size.ws_row = 24;
-        size.ws_col = 120;
-        int primary = -1;
-        int secondary = -1;
-        std::array<char, 256> name{};
-        if (openpty(&primary, &secondary, name.data(), nullptr, &size) != 0)
-            qFatal("no terminal");
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
-        environment.insert(QStringLiteral("NO_COLOR"), QLatin1String(noColor));
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(m_dir.path());
-        process.setStandardOutputFile(QLatin1String(name.data()));
-        process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
-        const Outcome outcome = finished(process);
-        if (outcome.status != 0)
-            qFatal("%s", outcome.err.constData());
-        close(secondary);
-        QFile terminal;
-        if (!terminal.open(primary, QIODevice::ReadOnly | QIODevice::Unbuffered,
-                           QFileDevice::AutoCloseHandle))
-            qFatal("%s", qPrintable(terminal.errorString()));
-        // Reading fails once all is read and the other side is closed.
-        return terminal.readAll().replace("\r\n", "\n");
+        return terminalOutput(arguments, m_dir.path(), noColor);
     }
 
 private Q_SLOTS:
@@ -173,7 +97,7 @@ private Q_SLOTS:
         const Outcome general = run({QStringLiteral("--help")});
         QCOMPARE(general.status, 0);
         QCOMPARE(general.err, QByteArray());
-        for (const char *command : {"new", "show", "format", "languages"}) {
+        for (const char *command : {"new", "show", "format", "publish", "languages", "robots"}) {
             QVERIFY(general.out.contains(QByteArray("\n  ") + command + ' '));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
@@ -192,7 +116,7 @@ private Q_SLOTS:
         const QRegularExpression entry(QStringLiteral("^  (?:-h, )?([-a-z]+) "),
                                        QRegularExpression::MultilineOption);
         QByteArrayList pages{run({QStringLiteral("--help")}).out};
-        for (const char *command : {"new", "show", "format", "languages"})
+        for (const char *command : {"new", "show", "format", "publish", "languages", "robots"})
             pages += run({QLatin1String(command), QStringLiteral("--help")}).out;
         for (const QByteArray &page : pages) {
             auto entries = entry.globalMatch(QString::fromUtf8(page));

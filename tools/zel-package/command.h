@@ -27,6 +27,8 @@ struct Command {
 extern const Command formatCommand;
 extern const Command languagesCommand;
 extern const Command newCommand;
+extern const Command publishCommand;
+extern const Command robotsCommand;
 extern const Command showCommand;
 
 /// Runs the program: general options, or a command with its arguments.

@@ -9,7 +9,8 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand, &showCommand, &formatCommand, &languagesCommand};
+const std::array commands{&newCommand,     &showCommand,      &formatCommand,
+                          &publishCommand, &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 

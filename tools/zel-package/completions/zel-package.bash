@@ -13,7 +13,7 @@ _zel_package() {
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words='new show format languages --help --version'
+        words='new show format publish languages robots --help --version'
     else
         case ${COMP_WORDS[1]}:$previous in
         *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
@@ -24,7 +24,8 @@ _zel_package() {
             new) words='--uid --name --language --help' ;;
             show) words='--language --format --help' ;;
             format) words='--check --help' ;;
-            languages) words='--help' ;;
+            publish) words='--output --help' ;;
+            languages | robots) words='--help' ;;
             esac
             ;;
         esac
