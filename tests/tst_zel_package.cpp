@@ -81,6 +81,9 @@ private Q_SLOTS:
         row("show good.xml --language 1234567", "'1234567' is not a language code; 'zel-package "
                                                 "languages' lists those that are known.");
         row("new x", "A package needs a --uid.");
+        row("new x --uid Tea",
+            "Application UID is not defined correctly. 'zel-package explain uid-invalid' says what "
+            "a UID is.");
     }
 
     void wrongUsage() {
@@ -97,7 +100,8 @@ private Q_SLOTS:
         const Outcome general = run({QStringLiteral("--help")});
         QCOMPARE(general.status, 0);
         QCOMPARE(general.err, QByteArray());
-        for (const char *command : {"new", "show", "format", "publish", "languages", "robots"}) {
+        for (const char *command :
+             {"new", "show", "validate", "format", "publish", "explain", "languages", "robots"}) {
             QVERIFY(general.out.contains(QByteArray("\n  ") + command + ' '));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
@@ -116,7 +120,8 @@ private Q_SLOTS:
         const QRegularExpression entry(QStringLiteral("^  (?:-h, )?([-a-z]+) "),
                                        QRegularExpression::MultilineOption);
         QByteArrayList pages{run({QStringLiteral("--help")}).out};
-        for (const char *command : {"new", "show", "format", "publish", "languages", "robots"})
+        for (const char *command :
+             {"new", "show", "validate", "format", "publish", "explain", "languages", "robots"})
             pages += run({QLatin1String(command), QStringLiteral("--help")}).out;
         for (const QByteArray &page : pages) {
             auto entries = entry.globalMatch(QString::fromUtf8(page));
@@ -136,9 +141,9 @@ private Q_SLOTS:
                  QStringLiteral("お茶 & 本")});
         QCOMPARE(outcome.err,
                  lines({"zel-package: The language 'xx' is not a known one.",
-                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: a "
-                        "name (xx), a description (ja_JP, xx), a robot requirement, a Brio "
-                        "requirement."}));
+                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: "
+                        "robotRequirements, brioRequirements, names[xx], descriptions[ja_JP], "
+                        "descriptions[xx]."}));
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.out, QByteArray());
         QCOMPARE(contentOf(at("tea.xml")), QByteArray(R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -165,8 +170,9 @@ private Q_SLOTS:
     }
 
     void newManifestThatCannotBe() {
-        const Outcome outcome = run({QStringLiteral("new"), QStringLiteral("x.xml"),
-                                     QStringLiteral("--uid"), QStringLiteral("a\u0001")});
+        const Outcome outcome =
+            run({QStringLiteral("new"), QStringLiteral("x.xml"), QStringLiteral("--uid"),
+                 QStringLiteral("a"), QStringLiteral("--name"), QStringLiteral("a\u0001")});
         QCOMPARE(outcome.status, 2);
         QVERIFY(outcome.err.contains("control character 0x01"));
         QVERIFY(!QFile::exists(at("x.xml")));
