@@ -644,5 +644,49 @@
         <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
         <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. La clé [+] ajoute à une liste. Une VALEUR vide efface un texte et retire un élément. Tous les champs sont modifiés ou, si l&apos;un est faux, aucun. Le fichier est réécrit sous forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
     </message>
+    <message>
+        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <translation>Écrire dans ce fichier ; sur la sortie standard s&apos;il n&apos;est pas donné, ou pour &apos;-&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 reste tel quel : %2</translation>
+    </message>
+    <message>
+        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
+        <translation>Ceci a déjà été publié ; les scripts gardés à côté de ses textes sont supprimés.</translation>
+    </message>
+    <message>
+        <source>Make the manifest of a package that is to be published</source>
+        <translation>Créer le manifeste d&apos;un paquet à publier</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT]</source>
+        <translation>FICHIER [-o SORTIE]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
+        <translation>Écrit le manifeste de FICHIER tel qu&apos;il est publié : sans les textes dans les langues que le paquet n&apos;offre plus, et avec du texte simple à la place des scripts de parole, qui sont gardés dans une variante à usage privé de leur langue. Un texte qui est un script mal formé reste tel quel, et est signalé. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>robot</source>
+        <translation>robot</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>modèle</translation>
+    </message>
+    <message>
+        <source>List the known robots</source>
+        <translation>Énumérer les robots connus</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
+        <translation>Énumère les robots qu&apos;un paquet peut exiger, familles et modèles, et pour chacun le modèle d&apos;une exigence ; il est vide pour tout robot. Un manifeste peut en exiger d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>scripts in</source>
+        <translation>scripts en</translation>
+    </message>
 </context>
 </TS>

@@ -644,5 +644,49 @@
         <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
         <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します。例: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。キー [+] はリストに追加します。空の値はテキストを消し、項目を削除します。誤りが 1 つでもあれば、どのフィールドも設定されません。ファイルは何も失わずに正規形で書き直されます。&apos;-&apos; は標準入力を読み、標準出力に書き込みます。</translation>
     </message>
+    <message>
+        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <translation>このファイルに書き込む。指定がないか &apos;-&apos; の場合は標準出力。</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 はそのままです: %2</translation>
+    </message>
+    <message>
+        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
+        <translation>すでに公開済みです。テキストと並べて保存されていたスクリプトは破棄されます。</translation>
+    </message>
+    <message>
+        <source>Make the manifest of a package that is to be published</source>
+        <translation>公開するパッケージのマニフェストを作る</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT]</source>
+        <translation>ファイル [-o 出力先]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
+        <translation>ファイルのマニフェストを公開用の形で書き出します。パッケージが提供しなくなった言語のテキストを除き、発話スクリプトをプレーンテキストに置き換えます。スクリプトは、その言語の私用の変種に残されます。形式の正しくないスクリプトであるテキストはそのまま残り、通知されます。&apos;-&apos; は標準入力を読みます。</translation>
+    </message>
+    <message>
+        <source>robot</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>List the known robots</source>
+        <translation>既知のロボットを一覧にする</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
+        <translation>パッケージが要件にできるロボットをファミリーとモデルで一覧にし、それぞれについてロボット要件のモデルの値を示します。すべてのロボットの場合は空です。マニフェストではこれ以外のロボットも要件にできます。</translation>
+    </message>
+    <message>
+        <source>scripts in</source>
+        <translation>スクリプトの言語</translation>
+    </message>
 </context>
 </TS>

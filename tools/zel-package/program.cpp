@@ -9,8 +9,9 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand, &showCommand,    &validateCommand, &formatCommand,
-                          &setCommand, &explainCommand, &languagesCommand};
+const std::array commands{&newCommand,     &showCommand,      &validateCommand,
+                          &formatCommand,  &setCommand,       &publishCommand,
+                          &explainCommand, &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -35,14 +36,14 @@ void printHelp(Console &console) {
     FieldList list;
     for (const Command *command : commands)
         list.add(QLatin1String(command->name), translated(command->summary));
-    console.print(QCoreApplication::translate("zel-package", "Usage: %1")
-                      .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
-                  paragraph(QCoreApplication::translate(
-                                "zel-package", "Makes, shows, checks, edits and rewrites the "
-                                               "manifests of robot application packages."),
-                            console) %
-                  titled(QCoreApplication::translate("zel-package", "Commands"), list, console) %
-                  u'\n');
+    console.print(
+        QCoreApplication::translate("zel-package", "Usage: %1")
+            .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
+        paragraph(QCoreApplication::translate("zel-package",
+                                              "Makes, shows, checks, edits and rewrites the "
+                                              "manifests of robot application packages."),
+                  console) %
+        titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     FieldList options;
     options.add(QStringLiteral("-h, --help"),
                 QCoreApplication::translate("zel-package",

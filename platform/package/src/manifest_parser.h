@@ -2,8 +2,7 @@
 
 #include "field_positions.h"
 #include "record_data.h"
-
-#include <expat.h>
+#include "xml_reading.h"
 
 #include <array>
 #include <memory>
@@ -103,9 +102,8 @@ private:
 
     void fail(std::string message);
     void failFromExpat();
-    [[nodiscard]] std::string describeBadByte() const;
 
-    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_parser;
+    ExpatHandle m_parser;
     ManifestFailure m_failure;
     std::uint64_t m_fed = 0;
     bool m_keepsPositions;

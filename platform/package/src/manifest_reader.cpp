@@ -88,11 +88,7 @@ SourcePosition ManifestReader::errorPosition() const {
 }
 
 std::string ManifestReader::errorString() const {
-    const ManifestFailure &failure = m_state->failure;
-    if (failure.message.empty() || failure.position.line == 0)
-        return failure.message;
-    return "Line " + std::to_string(failure.position.line) + ", column " +
-           std::to_string(failure.position.column) + ": " + failure.message;
+    return withPosition(m_state->failure.message, m_state->failure.position);
 }
 
 SourcePosition ManifestReader::position(const std::string &path) const {

@@ -20,7 +20,7 @@ _zel_package() {
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words='new show validate format set explain languages --help --version'
+        words='new show validate format set publish explain languages robots --help --version'
     else
         case ${COMP_WORDS[1]}:$previous in
         *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
@@ -45,8 +45,8 @@ _zel_package() {
             validate) words='--format --fail-on --ignore --explain --help' ;;
             format) words='--check --help' ;;
             set) words='--dry-run --help' ;;
-            explain) words='--help' ;;
-            languages) words='--help' ;;
+            publish) words='--output --help' ;;
+            explain | languages | robots) words='--help' ;;
             esac
             ;;
         esac

@@ -212,8 +212,7 @@ public:
         for (const Child *child : m_stale) {
             auto &data = ChildAccess::data(*child);
             data.m_stale = false;
-            const int index = indexOf(child);
-            if (index < m_mirrored)
+            if (const int index = m_mirrored > 0 ? indexOf(child) : 0; index < m_mirrored)
                 (m_record.*Kind::replace)(index, data.record());
         }
         m_stale.clear();
