@@ -102,10 +102,10 @@ private Q_SLOTS:
         QCOMPARE(general.err, QByteArray());
         for (const char *command : {"new", "show", "validate", "format", "set", "publish",
                                     "explain", "languages", "robots"}) {
-            QVERIFY(general.out.contains(QByteArray("\n  ") + command + ' '));
+            QVERIFY(general.out.contains(QByteArray("\n  ").append(command).append(' ')));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
-            QVERIFY(help.out.startsWith(QByteArray("Usage: zel-package ") + command));
+            QVERIFY(help.out.startsWith(QByteArray("Usage: zel-package ").append(command)));
         }
         QCOMPARE(run({QStringLiteral("--version")}).out,
                  QByteArray("zel-package " ZEL_VERSION "\n"));
@@ -389,7 +389,9 @@ private Q_SLOTS:
 
         // More than a pipe holds, so that the program is still writing when the reader has gone.
         QByteArray large = contentOf(at("good.xml"));
-        large.replace("</package>", "<author>" + QByteArray(1000000, 'x') + "</author></package>");
+        large.replace(
+            "</package>",
+            QByteArray("<author>").append(QByteArray(1000000, 'x')).append("</author></package>"));
         write(at("large.xml"), large);
         const Outcome gone = runShell(R"({ "$0" format - <large.xml; echo $? >&2; } | true)");
         QCOMPARE(gone.err,

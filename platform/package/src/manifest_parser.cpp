@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 #include <utility>
 
 namespace Tano {
@@ -61,19 +62,6 @@ std::string *scalarField(PackageData &package, Element element) {
     }
 }
 
-TextListMap *listsField(BehaviorData &behavior, Element element) {
-    switch (element) {
-    case Element::Tag:
-        return &behavior.tags;
-    case Element::TriggerSentence:
-        return &behavior.triggerSentences;
-    case Element::LoadingResponse:
-        return &behavior.loadingResponses;
-    default:
-        return nullptr;
-    }
-}
-
 } // namespace
 
 ManifestParser::ManifestParser(bool keepFieldPositions)
@@ -91,15 +79,22 @@ ManifestParser::ManifestParser(bool keepFieldPositions)
     XML_SetXmlDeclHandler(parser, onDeclaration);
 }
 
-bool ManifestParser::feed(const char *bytes, std::size_t size, bool isLast) {
+char *ManifestParser::room(std::size_t size) {
     if (!m_failure.message.empty())
-        return false;
-    if (m_fed == 0 && looksLikeUtf16({bytes, size})) {
+        return nullptr;
+    m_room = static_cast<char *>(XML_GetBuffer(m_parser.get(), int(size)));
+    if (!m_room)
+        m_failure = {"There is not enough memory for the manifest.", {}};
+    return m_room;
+}
+
+bool ManifestParser::feed(std::size_t size, bool isLast) {
+    if (m_fed == 0 && looksLikeUtf16({m_room, size})) {
         m_failure = {"The text is UTF-16; a manifest is UTF-8.", {1, 1}};
         return false;
     }
     m_fed += size;
-    const XML_Status status = XML_Parse(m_parser.get(), bytes, int(size), isLast);
+    const XML_Status status = XML_ParseBuffer(m_parser.get(), int(size), isLast);
     if (!m_failure.message.empty())
         return false;
     if (status == XML_STATUS_ERROR) {
@@ -186,11 +181,10 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
             openFrame(Element::Package, attributes);
             return;
         }
-        for (const Element child : ruleOf(top().element).children) {
-            if (ruleOf(child).name == name) {
-                openFrame(child, attributes);
-                return;
-            }
+        const Element child = childNamed(*top().rule, name);
+        if (child != Element::Count) {
+            openFrame(child, attributes);
+            return;
         }
         m_raw.clear();
     }
@@ -210,8 +204,10 @@ void ManifestParser::end() {
     }
 
     Frame &frame = top();
-    if (ruleOf(frame.element).content == Content::Text)
+    if (frame.rule->content == Content::Text)
         storeText(frame);
+    else if (frame.element == Element::BehaviorTexts)
+        storeLists(frame.key);
     if (frame.extras)
         storeExtras(frame);
     endRecord(frame);
@@ -228,10 +224,10 @@ void ManifestParser::text(std::string_view text) {
     }
     if (m_open == 0)
         return;
-    if (ruleOf(top().element).content == Content::Text)
+    if (top().rule->content == Content::Text)
         m_text += text;
     else if (!isWhiteSpace(text))
-        fail("Text is not allowed in " + tagged(ruleOf(top().element).name) + '.');
+        fail("Text is not allowed in " + tagged(top().rule->name) + '.');
 }
 
 // Comments, processing instructions and unknown elements wait for the child that follows them.
@@ -244,7 +240,7 @@ void ManifestParser::keepRaw(std::string xml) {
     }
     Frame &frame = top();
     Position position;
-    if (ruleOf(frame.element).content == Content::Text)
+    if (frame.rule->content == Content::Text)
         position = {Element::InText, {}, int(m_text.size())};
     frame.ownExtras().kept.push_back({std::move(position), std::move(xml)});
 }
@@ -252,6 +248,7 @@ void ManifestParser::keepRaw(std::string xml) {
 bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
+    frame.rule = &ruleOf(element);
     frame.seen = 0;
     frame.unplaced = 0;
     frame.keys.clear();
@@ -259,7 +256,7 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     if (!readAttributes(frame, attributes))
         return false;
 
-    const ElementRule &rule = ruleOf(element);
+    const ElementRule &rule = *frame.rule;
     if (rule.keyAttribute >= 0)
         frame.key = m_values[std::size_t(rule.keyAttribute)];
     else
@@ -281,18 +278,19 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
 }
 
 bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
-    const ElementRule &rule = ruleOf(frame.element);
+    const ElementRule &rule = *frame.rule;
     const std::size_t known = rule.attributes.size();
     m_present = 0;
     for (std::size_t i = 0; i < known; ++i)
         m_values[i].clear();
 
     for (; *attributes; attributes += 2) {
+        const std::string_view name(attributes[0]);
         std::size_t i = 0;
-        while (i < known && rule.attributes[i].name != attributes[0])
+        while (i < known && rule.attributes[i].name != name)
             ++i;
         if (i == known) {
-            frame.ownExtras().attributes.emplace_back(attributes[0], attributes[1]);
+            frame.ownExtras().attributes.emplace_back(name, attributes[1]);
         } else {
             m_values[i] = attributes[1];
             m_present |= 1U << i;
@@ -310,14 +308,14 @@ bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
 }
 
 bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
-    const ElementRule &rule = ruleOf(child.element);
+    const ElementRule &rule = *child.rule;
     bool isNew = true;
     if (rule.occurs == Occurs::Once) {
         const std::uint32_t bit = 1U << std::uint32_t(child.element);
         isNew = !(parent.seen & bit);
         parent.seen |= bit;
     } else if (rule.occurs == Occurs::OncePerKey) {
-        isNew = parent.keys.emplace(child.element, child.key).second;
+        isNew = parent.keys.add(child.element, child.key);
     }
     if (!isNew)
         fail("The element " + describe(child) + " stands twice in " + describe(parent) + '.');
@@ -394,7 +392,7 @@ bool ManifestParser::takeFlag(const Frame &frame, int attribute) {
         return false;
     const std::string value = take(attribute);
     if (value != "true" && value != "false") {
-        const ElementRule &rule = ruleOf(frame.element);
+        const ElementRule &rule = *frame.rule;
         fail("The attribute " + quoted(rule.attributes[std::size_t(attribute)].name) + " of " +
              tagged(rule.name) + " is " + quoted(value) + R"( instead of "true" or "false".)");
     }
@@ -436,7 +434,7 @@ void ManifestParser::storeText(Frame &frame) {
     case Element::Tag:
     case Element::TriggerSentence:
     case Element::LoadingResponse:
-        (*listsField(*m_behavior, frame.element))[parentOf(frame).key].push_back(m_text);
+        openList(frame.element)->push_back(m_text);
         break;
     case Element::Permission:
         m_behavior->permissions.push_back(m_text);
@@ -457,6 +455,34 @@ void ManifestParser::storeText(Frame &frame) {
     default:
         break;
     }
+}
+
+std::vector<std::string> *ManifestParser::openList(Element element) {
+    switch (element) {
+    case Element::Tag:
+        return &m_tags;
+    case Element::TriggerSentence:
+        return &m_triggerSentences;
+    case Element::LoadingResponse:
+        return &m_loadingResponses;
+    default:
+        return nullptr;
+    }
+}
+
+// Moves the texts of a block's lists into lists that take no more room than they need.
+void ManifestParser::storeLists(const std::string &language) {
+    const auto store = [&](std::vector<std::string> &open, TextListMap &lists) {
+        if (open.empty())
+            return;
+        lists.emplace_hint(lists.end(), std::piecewise_construct, std::forward_as_tuple(language),
+                           std::forward_as_tuple(std::make_move_iterator(open.begin()),
+                                                 std::make_move_iterator(open.end())));
+        open.clear();
+    };
+    store(m_tags, m_behavior->tags);
+    store(m_triggerSentences, m_behavior->triggerSentences);
+    store(m_loadingResponses, m_behavior->loadingResponses);
 }
 
 TextMap &ManifestParser::textsField(Element block, Element field) {
@@ -522,14 +548,14 @@ int ManifestParser::nextIndex(const Frame &frame) {
     case Element::Tag:
     case Element::TriggerSentence:
     case Element::LoadingResponse:
-        return int(listOf(*listsField(*m_behavior, frame.element), parentOf(frame).key).size());
+        return int(openList(frame.element)->size());
     default:
         return 0;
     }
 }
 
 Position ManifestParser::positionOf(const Frame &frame) {
-    const bool byKey = ruleOf(frame.element).sortedByKey;
+    const bool byKey = frame.rule->sortedByKey;
     return {frame.element, byKey ? frame.key : std::string(), frame.index};
 }
 
@@ -545,12 +571,12 @@ void ManifestParser::notePosition(Frame &frame) {
         parent.element == Element::PackageTexts || parent.element == Element::BehaviorTexts;
     const std::string_view texts = inTexts ? std::string_view(parent.key) : std::string_view();
     frame.path = fieldPath(parent.path, frame.element, frame.key, frame.index, texts);
-    if (!ruleOf(frame.element).field.empty()) {
+    if (!frame.rule->field.empty()) {
         m_positions.add(frame.path, place);
         return;
     }
     // A block of texts is where the texts that are missing in it would stand.
-    for (const Element child : ruleOf(frame.element).children) {
+    for (const Element child : frame.rule->children) {
         std::string path = fieldPath(parent.path, child, {}, 0, frame.key);
         if (ruleOf(child).occurs == Occurs::AnyTimes)
             path.resize(path.rfind('['));
@@ -559,7 +585,7 @@ void ManifestParser::notePosition(Frame &frame) {
 }
 
 std::string ManifestParser::describe(const Frame &frame) {
-    const ElementRule &rule = ruleOf(frame.element);
+    const ElementRule &rule = *frame.rule;
     std::string text(rule.name);
     if (rule.keyAttribute >= 0) {
         const auto &key = rule.attributes[std::size_t(rule.keyAttribute)].name;

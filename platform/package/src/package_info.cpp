@@ -47,10 +47,16 @@ bool removeEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int
     return true;
 }
 
+// Both are in ascending order, and most maps hold all of the keys: the next one is mostly the one
+// that is wanted.
 template<typename Map>
 void addKeys(std::set<std::string> &keys, const Map &map) {
-    for (const auto &entry : map)
-        keys.insert(entry.first);
+    auto next = keys.begin();
+    for (const auto &entry : map) {
+        if (next == keys.end() || *next != entry.first)
+            next = keys.insert(entry.first).first;
+        ++next;
+    }
 }
 
 } // namespace

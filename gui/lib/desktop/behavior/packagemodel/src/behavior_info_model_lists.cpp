@@ -116,7 +116,7 @@ bool BehaviorInfoModel::Data::insert(const ListKind<Key> &kind, const QString &n
     (edit().*kind.insert)(toUtf8(value), recordKey(key), index);
     editCache<Key>(*this, kind,
                    [&](auto &cache) { Language::insertValue(cache, index, value, key); });
-    Q_EMIT(model->*kind.inserted)(value, key, list(kind, key).indexOf(value));
+    Q_EMIT(model->*kind.inserted)(value, key, static_cast<int>(list(kind, key).indexOf(value)));
     return true;
 }
 
