@@ -100,7 +100,8 @@ private Q_SLOTS:
         const Outcome general = run({QStringLiteral("--help")});
         QCOMPARE(general.status, 0);
         QCOMPARE(general.err, QByteArray());
-        for (const char *command : {"new", "show", "validate", "format", "explain", "languages"}) {
+        for (const char *command : {"new", "show", "validate", "format", "set", "publish",
+                                    "explain", "languages", "robots"}) {
             QVERIFY(general.out.contains(QByteArray("\n  ").append(command).append(' ')));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
@@ -119,7 +120,8 @@ private Q_SLOTS:
         const QRegularExpression entry(QStringLiteral("^  (?:-h, )?([-a-z]+) "),
                                        QRegularExpression::MultilineOption);
         QByteArrayList pages{run({QStringLiteral("--help")}).out};
-        for (const char *command : {"new", "show", "validate", "format", "explain", "languages"})
+        for (const char *command : {"new", "show", "validate", "format", "set", "publish",
+                                    "explain", "languages", "robots"})
             pages += run({QLatin1String(command), QStringLiteral("--help")}).out;
         for (const QByteArray &page : pages) {
             auto entries = entry.globalMatch(QString::fromUtf8(page));

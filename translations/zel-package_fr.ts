@@ -201,10 +201,6 @@
         <translation>Utilisation : %1</translation>
     </message>
     <message>
-        <source>Makes, shows, checks and rewrites the manifests of robot application packages.</source>
-        <translation>Crée, montre, vérifie et réécrit les manifestes de paquets d&apos;applications pour robots.</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation>Commandes</translation>
     </message>
@@ -543,6 +539,154 @@
     <message>
         <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
         <translation>Affiche ce qui ne va pas dans chaque manifeste, sous la forme FICHIER:LIGNE: error: texte (champ) [id] ; la ligne est celle du champ ou, s&apos;il manque, de ce qui devrait le contenir. &apos;zel-package explain ID&apos; en dit plus. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>; there are %1.</source>
+        <translation> ; il y a %1.</translation>
+    </message>
+    <message>
+        <source>The package has no &apos;%1&apos;%2</source>
+        <translation>Le paquet n&apos;a pas de &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>It cannot be empty.</source>
+        <translation>Cela ne peut pas être vide.</translation>
+    </message>
+    <message>
+        <source>The package has &apos;%1&apos; already.</source>
+        <translation>Le paquet a déjà &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>[+]=NAME adds a permission, [NAME]= removes it.</source>
+        <translation>[+]=NOM ajoute une permission, [NOM]= la retire.</translation>
+    </message>
+    <message>
+        <source>The list has &apos;%1&apos; already.</source>
+        <translation>La liste a déjà &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>The list does not have &apos;%1&apos;%2</source>
+        <translation>La liste n&apos;a pas &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>Set a service</source>
+        <translation>Modifier un service</translation>
+    </message>
+    <message>
+        <source>A package has a version.</source>
+        <translation>Un paquet a une version.</translation>
+    </message>
+    <message>
+        <source>Switch language %1</source>
+        <translation>Basculer la langue %1</translation>
+    </message>
+    <message>
+        <source>[+]=CODE adds a language, [CODE]= removes it.</source>
+        <translation>[+]=CODE ajoute une langue, [CODE]= la retire.</translation>
+    </message>
+    <message>
+        <source>The list does not have &apos;%1&apos;.</source>
+        <translation>La liste n&apos;a pas &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; n&apos;est ni true ni false.</translation>
+    </message>
+    <message>
+        <source>The list has no item &apos;%1&apos;; it is empty, and [+] appends to it.</source>
+        <translation>La liste n&apos;a pas d&apos;élément &apos;%1&apos; ; elle est vide, et [+] y ajoute.</translation>
+    </message>
+    <message>
+        <source>The list has no item &apos;%1&apos;; there are 0 to %2, and [+] appends one.</source>
+        <translation>La liste n&apos;a pas d&apos;élément &apos;%1&apos; ; il y a 0 à %2, et [+] en ajoute un.</translation>
+    </message>
+    <message>
+        <source>There is no field &apos;%1&apos;%2</source>
+        <translation>Il n&apos;y a pas de champ &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>; the fields are %1.</source>
+        <translation> ; les champs sont %1.</translation>
+    </message>
+    <message>
+        <source>It is written &apos;%1%2&apos;.</source>
+        <translation>Cela s&apos;écrit &apos;%1%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
+        <translation>Crée, montre, vérifie, modifie et réécrit les manifestes de paquets d&apos;applications pour robots.</translation>
+    </message>
+    <message>
+        <source>Set a requirement</source>
+        <translation>Modifier une exigence</translation>
+    </message>
+    <message>
+        <source>Write nothing; print what would change, as a unified diff.</source>
+        <translation>Ne rien écrire ; afficher ce qui changerait, sous forme de diff unifié.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not of the form FIELD=VALUE, as in author=Ines or names[en_US]=Tea.</source>
+        <translation>&apos;%1&apos; n&apos;est pas de la forme CHAMP=VALEUR, comme author=Ines ou names[en_US]=Tea.</translation>
+    </message>
+    <message>
+        <source>Set fields of a manifest</source>
+        <translation>Modifier des champs d&apos;un manifeste</translation>
+    </message>
+    <message>
+        <source>FILE FIELD=VALUE... [--dry-run]</source>
+        <translation>FICHIER CHAMP=VALEUR... [--dry-run]</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. La clé [+] ajoute à une liste. Une VALEUR vide efface un texte et retire un élément. Tous les champs sont modifiés ou, si l&apos;un est faux, aucun. Le fichier est réécrit sous forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <translation>Écrire dans ce fichier ; sur la sortie standard s&apos;il n&apos;est pas donné, ou pour &apos;-&apos;.</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 reste tel quel : %2</translation>
+    </message>
+    <message>
+        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
+        <translation>Ceci a déjà été publié ; les scripts gardés à côté de ses textes sont supprimés.</translation>
+    </message>
+    <message>
+        <source>Make the manifest of a package that is to be published</source>
+        <translation>Créer le manifeste d&apos;un paquet à publier</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT]</source>
+        <translation>FICHIER [-o SORTIE]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
+        <translation>Écrit le manifeste de FICHIER tel qu&apos;il est publié : sans les textes dans les langues que le paquet n&apos;offre plus, et avec du texte simple à la place des scripts de parole, qui sont gardés dans une variante à usage privé de leur langue. Un texte qui est un script mal formé reste tel quel, et est signalé. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>robot</source>
+        <translation>robot</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>modèle</translation>
+    </message>
+    <message>
+        <source>List the known robots</source>
+        <translation>Énumérer les robots connus</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
+        <translation>Énumère les robots qu&apos;un paquet peut exiger, familles et modèles, et pour chacun le modèle d&apos;une exigence ; il est vide pour tout robot. Un manifeste peut en exiger d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>scripts in</source>
+        <translation>scripts en</translation>
     </message>
 </context>
 </TS>

@@ -201,10 +201,6 @@
         <translation>使い方: %1</translation>
     </message>
     <message>
-        <source>Makes, shows, checks and rewrites the manifests of robot application packages.</source>
-        <translation>ロボットアプリケーションパッケージのマニフェストを作成、表示、検査、書き直しします。</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation>コマンド</translation>
     </message>
@@ -543,6 +539,154 @@
     <message>
         <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
         <translation>各マニフェストの問題を「ファイル:行: error: テキスト (フィールド) [id]」の形で表示します。行は、そのフィールドの行、欠けている場合はそれを含むはずの要素の行です。詳しくは &apos;zel-package explain ID&apos; を参照してください。&apos;-&apos; は標準入力を読みます。</translation>
+    </message>
+    <message>
+        <source>; there are %1.</source>
+        <translation>。あるのは %1 です。</translation>
+    </message>
+    <message>
+        <source>The package has no &apos;%1&apos;%2</source>
+        <translation>パッケージに &apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>It cannot be empty.</source>
+        <translation>空にはできません。</translation>
+    </message>
+    <message>
+        <source>The package has &apos;%1&apos; already.</source>
+        <translation>パッケージにはすでに &apos;%1&apos; があります。</translation>
+    </message>
+    <message>
+        <source>[+]=NAME adds a permission, [NAME]= removes it.</source>
+        <translation>[+]=名前 で権限を追加し、[名前]= で削除します。</translation>
+    </message>
+    <message>
+        <source>The list has &apos;%1&apos; already.</source>
+        <translation>リストにはすでに &apos;%1&apos; があります。</translation>
+    </message>
+    <message>
+        <source>The list does not have &apos;%1&apos;%2</source>
+        <translation>リストに &apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>Set a service</source>
+        <translation>サービスを変更</translation>
+    </message>
+    <message>
+        <source>A package has a version.</source>
+        <translation>パッケージにはバージョンが必要です。</translation>
+    </message>
+    <message>
+        <source>Switch language %1</source>
+        <translation>言語 %1 を切り替え</translation>
+    </message>
+    <message>
+        <source>[+]=CODE adds a language, [CODE]= removes it.</source>
+        <translation>[+]=コード で言語を追加し、[コード]= で削除します。</translation>
+    </message>
+    <message>
+        <source>The list does not have &apos;%1&apos;.</source>
+        <translation>リストに &apos;%1&apos; はありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <translation>&apos;%1&apos; はバージョンではありません。2.1 のように、数字を点で区切ってください。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; は true でも false でもありません。</translation>
+    </message>
+    <message>
+        <source>The list has no item &apos;%1&apos;; it is empty, and [+] appends to it.</source>
+        <translation>リストに項目 &apos;%1&apos; はありません。リストは空で、[+] で追加できます。</translation>
+    </message>
+    <message>
+        <source>The list has no item &apos;%1&apos;; there are 0 to %2, and [+] appends one.</source>
+        <translation>リストに項目 &apos;%1&apos; はありません。0 から %2 まであり、[+] で追加できます。</translation>
+    </message>
+    <message>
+        <source>There is no field &apos;%1&apos;%2</source>
+        <translation>フィールド &apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>; the fields are %1.</source>
+        <translation>。フィールドは %1 です。</translation>
+    </message>
+    <message>
+        <source>It is written &apos;%1%2&apos;.</source>
+        <translation>&apos;%1%2&apos; と書きます。</translation>
+    </message>
+    <message>
+        <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
+        <translation>ロボットアプリケーションパッケージのマニフェストを作成、表示、検査、編集、書き直しします。</translation>
+    </message>
+    <message>
+        <source>Set a requirement</source>
+        <translation>要件を変更</translation>
+    </message>
+    <message>
+        <source>Write nothing; print what would change, as a unified diff.</source>
+        <translation>何も書き込まず、変更点を unified diff 形式で表示する。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not of the form FIELD=VALUE, as in author=Ines or names[en_US]=Tea.</source>
+        <translation>&apos;%1&apos; は フィールド=値 の形ではありません。例: author=Ines、names[en_US]=Tea。</translation>
+    </message>
+    <message>
+        <source>Set fields of a manifest</source>
+        <translation>マニフェストのフィールドを設定する</translation>
+    </message>
+    <message>
+        <source>FILE FIELD=VALUE... [--dry-run]</source>
+        <translation>ファイル フィールド=値... [--dry-run]</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します。例: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。キー [+] はリストに追加します。空の値はテキストを消し、項目を削除します。誤りが 1 つでもあれば、どのフィールドも設定されません。ファイルは何も失わずに正規形で書き直されます。&apos;-&apos; は標準入力を読み、標準出力に書き込みます。</translation>
+    </message>
+    <message>
+        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <translation>このファイルに書き込む。指定がないか &apos;-&apos; の場合は標準出力。</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is: %2</source>
+        <translation>%1 はそのままです: %2</translation>
+    </message>
+    <message>
+        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
+        <translation>すでに公開済みです。テキストと並べて保存されていたスクリプトは破棄されます。</translation>
+    </message>
+    <message>
+        <source>Make the manifest of a package that is to be published</source>
+        <translation>公開するパッケージのマニフェストを作る</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT]</source>
+        <translation>ファイル [-o 出力先]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
+        <translation>ファイルのマニフェストを公開用の形で書き出します。パッケージが提供しなくなった言語のテキストを除き、発話スクリプトをプレーンテキストに置き換えます。スクリプトは、その言語の私用の変種に残されます。形式の正しくないスクリプトであるテキストはそのまま残り、通知されます。&apos;-&apos; は標準入力を読みます。</translation>
+    </message>
+    <message>
+        <source>robot</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>List the known robots</source>
+        <translation>既知のロボットを一覧にする</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
+        <translation>パッケージが要件にできるロボットをファミリーとモデルで一覧にし、それぞれについてロボット要件のモデルの値を示します。すべてのロボットの場合は空です。マニフェストではこれ以外のロボットも要件にできます。</translation>
+    </message>
+    <message>
+        <source>scripts in</source>
+        <translation>スクリプトの言語</translation>
     </message>
 </context>
 </TS>

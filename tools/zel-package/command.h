@@ -28,6 +28,9 @@ extern const Command explainCommand;
 extern const Command formatCommand;
 extern const Command languagesCommand;
 extern const Command newCommand;
+extern const Command publishCommand;
+extern const Command robotsCommand;
+extern const Command setCommand;
 extern const Command showCommand;
 extern const Command validateCommand;
 

@@ -9,8 +9,9 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand,    &showCommand,    &validateCommand,
-                          &formatCommand, &explainCommand, &languagesCommand};
+const std::array commands{&newCommand,     &showCommand,      &validateCommand,
+                          &formatCommand,  &setCommand,       &publishCommand,
+                          &explainCommand, &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -39,8 +40,8 @@ void printHelp(Console &console) {
         QCoreApplication::translate("zel-package", "Usage: %1")
             .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
         paragraph(QCoreApplication::translate("zel-package",
-                                              "Makes, shows, checks and rewrites the manifests of "
-                                              "robot application packages."),
+                                              "Makes, shows, checks, edits and rewrites the "
+                                              "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     FieldList options;

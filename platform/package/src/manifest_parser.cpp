@@ -16,23 +16,6 @@ ManifestParser &parserAt(void *self) {
     return *static_cast<ManifestParser *>(self);
 }
 
-std::string quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
-std::string tagged(std::string_view name) {
-    return '<' + std::string(name) + '>';
-}
-
-// Asked for the end of every line and the indentation of the next one.
-inline bool isWhiteSpace(std::string_view text) {
-    for (const char c : text) {
-        if (c != ' ' && c != '\n' && c != '\t' && c != '\r')
-            return false;
-    }
-    return true;
-}
-
 // Line ends as an XML processor passes them on, so that kept text has one kind of them.
 void normalizeLineEnds(std::string &text) {
     if (text.find('\r') == std::string::npos)
@@ -120,7 +103,7 @@ bool ManifestParser::feed(std::size_t size, bool isLast) {
     }
     const XML_Index parsed = XML_GetCurrentByteIndex(m_parser.get());
     if (!isLast && parsed >= 0 && m_fed - std::uint64_t(parsed) > hopelessLag) {
-        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        fail(tagTooLong);
         return false;
     }
     return true;
@@ -162,7 +145,7 @@ void ManifestParser::onRaw(void *self, const XML_Char *raw, int size) {
 
 void ManifestParser::onDoctype(void *self, const XML_Char *, const XML_Char *, const XML_Char *,
                                int) {
-    parserAt(self).fail("A document type declaration is not allowed.");
+    parserAt(self).fail(documentType);
 }
 
 void ManifestParser::onDeclaration(void *self, const XML_Char *version, const XML_Char *encoding,
@@ -179,22 +162,17 @@ bool ManifestParser::checkTag() {
         return false;
     const int length = XML_GetCurrentByteCount(m_parser.get());
     if (std::size_t(length) > ManifestReader::maxTagLength) {
-        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        fail(tagTooLong);
         return false;
     }
     return true;
 }
 
 void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
-    if (!checkTag())
+    if (!m_failure.message.empty())
         return;
-    if (++m_depth > ManifestReader::maxDepth)
-        return fail("More than " + std::to_string(ManifestReader::maxDepth) +
-                    " elements stand within each other.");
-    if (*attributes &&
-        XML_GetSpecifiedAttributeCount(m_parser.get()) / 2 > ManifestReader::maxAttributes)
-        return fail("The element " + tagged(name) + " has more than " +
-                    std::to_string(ManifestReader::maxAttributes) + " attributes.");
+    if (std::string sentence = exceededBound(m_parser.get(), name, ++m_depth); !sentence.empty())
+        return fail(std::move(sentence));
 
     if (m_unknownDepth == 0) {
         if (m_open == 0) {
@@ -629,60 +607,15 @@ void ManifestParser::fail(std::string message) {
 }
 
 void ManifestParser::failFromExpat() {
-    const auto sentence = [this]() -> std::string {
-        const XML_Error error = XML_GetErrorCode(m_parser.get());
-        switch (error) {
-        case XML_ERROR_NO_ELEMENTS:
-            if (m_open > 0)
-                return "The manifest ends while " + describe(top()) + " is open.";
-            return m_fed == 0 ? "The manifest is empty."
-                              : "The manifest ends before its root element.";
-        case XML_ERROR_UNCLOSED_TOKEN:
-        case XML_ERROR_PARTIAL_CHAR:
-            return "The manifest ends in the middle of a tag or character.";
-        case XML_ERROR_UNCLOSED_CDATA_SECTION:
-            return "The manifest ends in the middle of a CDATA section.";
-        case XML_ERROR_TAG_MISMATCH:
-            return "The end tag does not belong to the element that is open.";
-        case XML_ERROR_DUPLICATE_ATTRIBUTE:
-            return "An attribute stands twice on one element.";
-        case XML_ERROR_UNDEFINED_ENTITY:
-            return "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are.";
-        case XML_ERROR_SYNTAX:
-            return "The text is not XML: it does not begin with a tag.";
-        case XML_ERROR_BAD_CHAR_REF:
-            return "The reference is to a character that XML does not allow.";
-        case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
-            return "Something stands after the end of the root element.";
-        case XML_ERROR_MISPLACED_XML_PI:
-            return "The XML declaration does not stand at the very beginning.";
-        case XML_ERROR_INVALID_TOKEN:
-            return describeBadByte();
-        default:
-            return std::string("The text is not well-formed XML: ") + XML_ErrorString(error) + '.';
-        }
-    }();
-    m_failure = {sentence, here()};
-}
-
-std::string ManifestParser::describeBadByte() const {
-    int offset = 0;
-    int size = 0;
-    const char *context = XML_GetInputContext(m_parser.get(), &offset, &size);
-    const bool hasByte = context && offset < size;
-    const auto byte = hasByte ? static_cast<unsigned char>(context[offset]) : 0x20;
-    if (byte == 0)
-        return "A NUL byte is not allowed.";
-    if (byte >= 0x80)
-        return "The bytes here are not valid UTF-8, or stand for a character that XML does not "
-               "allow.";
-    if (hasByte && offset > 0 && context[offset - 1] == '&')
-        return "An \"&\" begins a reference here; the character itself is written &amp;.";
-    if (isWhiteSpace({context + offset, hasByte ? 1U : 0U}))
-        return "The text is not well-formed XML.";
-    if (byte < 0x20)
-        return "A control character is not allowed.";
-    return "The character " + quoted({context + offset, 1}) + " is not allowed here.";
+    std::string sentence;
+    if (XML_GetErrorCode(m_parser.get()) != XML_ERROR_NO_ELEMENTS)
+        sentence = describeXmlError(m_parser.get(), "manifest");
+    else if (m_open > 0)
+        sentence = "The manifest ends while " + describe(top()) + " is open.";
+    else
+        sentence =
+            m_fed == 0 ? "The manifest is empty." : "The manifest ends before its root element.";
+    m_failure = {std::move(sentence), here()};
 }
 
 } // namespace Tano

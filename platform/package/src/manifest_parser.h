@@ -3,8 +3,7 @@
 #include "field_positions.h"
 #include "record_data.h"
 #include "seen_keys.h"
-
-#include <expat.h>
+#include "xml_reading.h"
 
 #include <array>
 #include <memory>
@@ -40,9 +39,6 @@ public:
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
-    /// The bounds of a tag hold exactly where a tag is complete; for one that never ends, twice as
-    /// many bytes without progress are enough to give up.
-    static constexpr std::uint64_t hopelessLag = 2 * std::uint64_t(ManifestReader::maxTagLength);
 
     [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
@@ -116,9 +112,8 @@ private:
 
     void fail(std::string message);
     void failFromExpat();
-    [[nodiscard]] std::string describeBadByte() const;
 
-    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> m_parser;
+    ExpatHandle m_parser;
     ManifestFailure m_failure;
     char *m_room = nullptr;
     std::uint64_t m_fed = 0;

@@ -100,8 +100,7 @@ struct ManifestReader::State {
     template<typename Source>
     bool read(Source source, PackageInfo &package) {
         const bool keepPositions = positions == Positions::Keep;
-        const bool isLong =
-            !source.isSequential() && source.left() > qint64(ManifestParser::hopelessLag);
+        const bool isLong = !source.isSequential() && source.left() > qint64(hopelessLag);
         auto parser = std::make_unique<ManifestParser>(keepPositions);
         failure = feedAll(*parser, source, ManifestParser::maxPiece);
         // In small pieces, a tag without end is refused for that, not for what stands in it later.
@@ -149,11 +148,7 @@ SourcePosition ManifestReader::errorPosition() const {
 }
 
 std::string ManifestReader::errorString() const {
-    const ManifestFailure &failure = m_state->failure;
-    if (failure.message.empty() || failure.position.line == 0)
-        return failure.message;
-    return "Line " + std::to_string(failure.position.line) + ", column " +
-           std::to_string(failure.position.column) + ": " + failure.message;
+    return withPosition(m_state->failure.message, m_state->failure.position);
 }
 
 SourcePosition ManifestReader::position(const std::string &path) const {

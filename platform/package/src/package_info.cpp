@@ -305,6 +305,15 @@ std::set<std::string> PackageInfo::languageCodes() const {
     return codes;
 }
 
+void PackageInfo::trimExtraInfo() {
+    PackageData &data = RecordAccess::edit(*this);
+    keepOnly(data.names, data.descriptionLanguages);
+    keepOnly(data.descriptions, data.descriptionLanguages);
+    dropForeign(data.extras, Element::PackageTexts, data.descriptionLanguages);
+    for (BehaviorInfo &behavior : data.behaviors)
+        behavior.trimExtraInfo(data.descriptionLanguages, data.supportedLanguages);
+}
+
 bool PackageInfo::loadFromManifestFile(QFile &file) {
     ManifestReader reader;
     const bool succeeded = reader.readFile(file, *this);

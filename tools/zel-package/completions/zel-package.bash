@@ -20,7 +20,7 @@ _zel_package() {
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words='new show validate format explain languages --help --version'
+        words='new show validate format set publish explain languages robots --help --version'
     else
         case ${COMP_WORDS[1]}:$previous in
         *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
@@ -44,8 +44,9 @@ _zel_package() {
             show) words='--language --format --help' ;;
             validate) words='--format --fail-on --ignore --explain --help' ;;
             format) words='--check --help' ;;
-            explain) words='--help' ;;
-            languages) words='--help' ;;
+            set) words='--dry-run --help' ;;
+            publish) words='--output --help' ;;
+            explain | languages | robots) words='--help' ;;
             esac
             ;;
         esac

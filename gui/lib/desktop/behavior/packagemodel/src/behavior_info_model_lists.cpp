@@ -54,12 +54,6 @@ std::vector<std::string> codesOf(const RobotLanguages &languages) {
     return codes;
 }
 
-template<typename Values>
-void keepOnly(const RobotLanguages &languages, Values &values) {
-    const auto isForeign = [&](const auto &value) { return !contains(languages, value.second); };
-    values.erase(std::remove_if(values.begin(), values.end(), isForeign), values.end());
-}
-
 } // namespace
 
 const BehaviorInfoModel::Data::ListKind<RobotLanguage> BehaviorInfoModel::Data::tagKind{

@@ -271,8 +271,7 @@ public:
             data.m_stale = false;
             if (m_isIndexed)
                 addToIndex(child);
-            const int index = indexOf(child);
-            if (index < m_mirrored)
+            if (const int index = m_mirrored > 0 ? indexOf(child) : 0; index < m_mirrored)
                 (m_record.*Kind::replace)(index, data.record());
         }
         m_stale.clear();
