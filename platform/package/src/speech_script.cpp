@@ -218,7 +218,8 @@ void SpeechScriptReader::start(std::string_view name, const XML_Char **attribute
         isSilent = isSilent || *most == 0;
     }
 
-    if (!isAmidSilence && name == "desc" && m_open.back().element->gives == Gives::Description &&
+    if (!isAmidSilence && name == "desc" && !m_open.empty() &&
+        m_open.back().element->gives == Gives::Description &&
         !std::exchange(m_open.back().isSettled, true))
         m_text.rewind(m_open.back().start);
     if (!isAmidSilence && element.apart == Apart::Always)
