@@ -22,8 +22,13 @@ file(RELATIVE_PATH ZEL_DATADIR_FROM_LIBDIR
 set(ZEL_QT "Qt${ZEL_QT_MAJOR}")
 set(ZEL_QT_MINIMUM_5 5.15)
 set(ZEL_QT_MINIMUM_6 6.4)
-find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets)
+find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 find_package(EXPAT 2.5 REQUIRED)
+
+# What CMake and Qt generate into the build tree is not ours to lint; some check has to be on.
+if(CMAKE_CXX_CLANG_TIDY)
+    file(WRITE "${PROJECT_BINARY_DIR}/.clang-tidy" "Checks: '-*,misc-unused-alias-decls'\n")
+endif()
 
 # Warnings and Qt strictness, for our own sources only.
 add_library(zel_strict INTERFACE)
@@ -81,6 +86,34 @@ function(zel_add_program target)
     install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endfunction()
 
+# zel_add_translations(<target>): compiles the catalogues translations/<target>_*.ts into the target,
+# where Zel::installTranslation() finds them.
+function(zel_add_translations target)
+    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${target}_*.ts")
+    set(compiled "")
+    set(entries "")
+    foreach(catalogue IN LISTS catalogues)
+        cmake_path(GET catalogue STEM name)
+        set(output "${CMAKE_CURRENT_BINARY_DIR}/${name}.qm")
+        add_custom_command(OUTPUT "${output}"
+            COMMAND ${ZEL_QT}::lrelease -silent "${catalogue}" -qm "${output}"
+            DEPENDS "${catalogue}" VERBATIM)
+        list(APPEND compiled "${output}")
+        string(APPEND entries "<file>${name}.qm</file>")
+    endforeach()
+
+    set(name "${target}_translations")
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
+    set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    file(CONFIGURE OUTPUT "${resource}"
+        CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
+    add_custom_command(OUTPUT "${source}"
+        COMMAND ${ZEL_QT}::rcc --name "${name}" --output "${source}" "${resource}"
+        DEPENDS "${resource}" ${compiled} VERBATIM)
+    set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
+    target_sources(${target} PRIVATE "${source}")
+endfunction()
+
 # zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and
 # with the test data found under ZEL_TEST_DATA.
 function(zel_add_test name)
@@ -94,7 +127,8 @@ function(zel_add_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}")
     add_test(NAME ${name} COMMAND ${name})
+    # The last two are for the sanitizers: full stacks, so that a leak can be told by its library.
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
         TIMEOUT 300)
 endfunction()

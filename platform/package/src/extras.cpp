@@ -33,10 +33,9 @@ std::vector<int> currentIndexes(const std::vector<std::string> &original,
     for (std::size_t i = 0; i < original.size(); ++i) {
         if (indexes[i] != gone)
             continue;
-        const int neighbour = i == 0 ? -1 : indexes[i - 1];
-        if (i != 0 && neighbour == gone)
+        if (i != 0 && indexes[i - 1] == gone)
             continue;
-        const auto candidate = std::size_t(neighbour + 1);
+        const std::size_t candidate = i == 0 ? 0 : std::size_t(indexes[i - 1]) + 1;
         if (candidate < current.size() && !taken[candidate]) {
             indexes[i] = int(candidate);
             taken[candidate] = true;

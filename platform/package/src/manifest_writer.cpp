@@ -6,6 +6,7 @@
 #include <tano/manifest_reader.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <initializer_list>
 #include <vector>
@@ -98,9 +99,9 @@ private:
 };
 
 std::string hexadecimal(unsigned char byte) {
-    char text[8];
-    std::snprintf(text, sizeof text, "0x%02X", unsigned(byte));
-    return text;
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "0x%02X", unsigned(byte));
+    return text.data();
 }
 
 // The keys of all maps in ascending order, each once.

@@ -1,0 +1,164 @@
+#include <packagemodel/set_string.h>
+
+#include "entry_call.h"
+
+#include <packagemodel/package_info_model.h>
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace Zel {
+namespace {
+
+constexpr int packageTextId = 42;
+
+// One of the package's plain texts, and the word for it.
+struct PlainText {
+    QString (PackageInfoModel::*text)() const;
+    void (PackageInfoModel::*setText)(const QString &text);
+    const char *word;
+};
+
+constexpr const char *plainContext = "Zel::PackageStringCommand";
+
+// In the order of PackageStringCommand::WhatString.
+constexpr std::array plainTexts{
+    PlainText{&PackageInfoModel::installer, &PackageInfoModel::setInstaller,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "installer")},
+    PlainText{&PackageInfoModel::uid, &PackageInfoModel::setUid,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "id")},
+    PlainText{&PackageInfoModel::typeVersion, &PackageInfoModel::setTypeVersion,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "type version")},
+    PlainText{&PackageInfoModel::author, &PackageInfoModel::setAuthor,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "author")},
+    PlainText{&PackageInfoModel::organization, &PackageInfoModel::setOrganization,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "organization")},
+    PlainText{&PackageInfoModel::date, &PackageInfoModel::setDate,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "date")},
+    PlainText{&PackageInfoModel::channel, &PackageInfoModel::setChannel,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "channel")},
+    PlainText{&PackageInfoModel::path, &PackageInfoModel::setPath,
+              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "path")},
+};
+
+// The same for its texts in one language.
+struct LocalizedText {
+    QString (PackageInfoModel::*text)(const RobotLanguage &language) const;
+    void (PackageInfoModel::*setText)(const QString &text, const RobotLanguage &language);
+    const char *word;
+};
+
+constexpr const char *localizedContext = "Zel::PackageLocalizedStringCommand";
+
+// In the order of PackageLocalizedStringCommand::WhatString.
+constexpr std::array localizedTexts{
+    LocalizedText{&PackageInfoModel::name, &PackageInfoModel::setName,
+                  QT_TRANSLATE_NOOP("Zel::PackageLocalizedStringCommand", "name")},
+    LocalizedText{&PackageInfoModel::description, &PackageInfoModel::setDescription,
+                  QT_TRANSLATE_NOOP("Zel::PackageLocalizedStringCommand", "description")},
+};
+
+template<typename Table>
+auto rowOf(const Table &table, int what) {
+    const bool isThere = what >= 0 && what < static_cast<int>(table.size());
+    return isThere ? &table[static_cast<std::size_t>(what)] : nullptr;
+}
+
+template<typename Row>
+QString wordOf(const Row *row, const char *context) {
+    return row ? QCoreApplication::translate(context, row->word) : QString();
+}
+
+} // namespace
+
+PackageStringCommand::PackageStringCommand(PackageInfoModel *model, const QString &newValue,
+                                           WhatString what, bool isFinal)
+    : PackageGenericValueCommand(model, QString())
+    , m_what(what)
+    , m_edit{newValue, value(), isFinal} {
+    setText(QCoreApplication::translate("Zel::PackageStringCommand", "Set application's %1")
+                .arg(wordOf(rowOf(plainTexts, m_what), plainContext)));
+}
+
+QString PackageStringCommand::value() const {
+    const PlainText *row = rowOf(plainTexts, m_what);
+    return row ? callOn(model(), row->text) : QString();
+}
+
+void PackageStringCommand::setValue(const QString &value) {
+    if (const PlainText *row = rowOf(plainTexts, m_what))
+        callOn(model(), row->setText, value);
+}
+
+void PackageStringCommand::undo() {
+    setValue(m_edit.oldValue);
+}
+
+void PackageStringCommand::redo() {
+    setValue(m_edit.newValue);
+}
+
+int PackageStringCommand::id() const {
+    return packageTextId;
+}
+
+bool PackageStringCommand::mergeWith(const QUndoCommand *incoming) {
+    return mergeIf<PackageStringCommand>(incoming, [this](const auto &newer) {
+        return newer.model() == model() && newer.m_what == m_what && m_edit.takeOver(newer.m_edit);
+    });
+}
+
+bool PackageStringCommand::isFinalCommand() const {
+    return MergeableCommand::isFinalCommand() || m_edit.isFinal;
+}
+
+PackageLocalizedStringCommand::PackageLocalizedStringCommand(PackageInfoModel *model,
+                                                             const QString &newValue,
+                                                             WhatString what,
+                                                             const RobotLanguage &language,
+                                                             bool isFinal)
+    : PackageGenericValueCommand(model, QString())
+    , m_what(what)
+    , m_language(language)
+    , m_edit{newValue, value(), isFinal} {
+    setText(
+        QCoreApplication::translate("Zel::PackageLocalizedStringCommand",
+                                    "Set application's %1 (%2)")
+            .arg(wordOf(rowOf(localizedTexts, m_what), localizedContext), m_language.isoCode()));
+}
+
+QString PackageLocalizedStringCommand::value() const {
+    const LocalizedText *row = rowOf(localizedTexts, m_what);
+    return row ? callOn(model(), row->text, m_language) : QString();
+}
+
+void PackageLocalizedStringCommand::setValue(const QString &value) {
+    if (const LocalizedText *row = rowOf(localizedTexts, m_what))
+        callOn(model(), row->setText, value, m_language);
+}
+
+void PackageLocalizedStringCommand::undo() {
+    setValue(m_edit.oldValue);
+}
+
+void PackageLocalizedStringCommand::redo() {
+    setValue(m_edit.newValue);
+}
+
+int PackageLocalizedStringCommand::id() const {
+    return packageTextId;
+}
+
+bool PackageLocalizedStringCommand::mergeWith(const QUndoCommand *incoming) {
+    return mergeIf<PackageLocalizedStringCommand>(incoming, [this](const auto &newer) {
+        return newer.model() == model() && newer.m_what == m_what &&
+               newer.m_language == m_language && m_edit.takeOver(newer.m_edit);
+    });
+}
+
+bool PackageLocalizedStringCommand::isFinalCommand() const {
+    return MergeableCommand::isFinalCommand() || m_edit.isFinal;
+}
+
+} // namespace Zel

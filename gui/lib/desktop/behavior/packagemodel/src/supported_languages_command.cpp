@@ -1,0 +1,21 @@
+#include <packagemodel/supported_languages_command.h>
+
+namespace Zel {
+
+PackageLanguageCommand::PackageLanguageCommand(PackageInfoModel *model,
+                                               const RobotLanguage &language)
+    : PackageCommand(model)
+    , m_language(language) {
+}
+
+PackageLanguageCommand::~PackageLanguageCommand() = default;
+
+void PackageLanguageCommand::undo() {
+    switchLanguage();
+}
+
+void PackageLanguageCommand::redo() {
+    switchLanguage();
+}
+
+} // namespace Zel
