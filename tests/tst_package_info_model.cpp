@@ -56,6 +56,7 @@ private Q_SLOTS:
     void localizedTexts();
     void languages();
     void removingALanguageLeavesTheTexts();
+    void receiversMayRemoveTheLanguageToo();
     void argumentsMayLieInTheCache();
     void robotRequirements();
     void brioRequirements();
@@ -384,6 +385,19 @@ void TestPackageInfoModel::removingALanguageLeavesTheTexts() {
                                       text("languageRemoved(fr_FR)"), text("  [] 0 0")}));
     QVERIFY(model.hasLanguageDescription(m_french));
     QCOMPARE(model.name(m_french), text("Thé"));
+}
+
+void TestPackageInfoModel::receiversMayRemoveTheLanguageToo() {
+    PackageInfoModel model;
+    model.addSupportedLanguage(m_french);
+    model.addDialog(text("talk"));
+    DialogInfoModel *talk = model.dialog(text("talk"));
+    talk->setTopic(m_french, text("f.top"));
+    connect(talk, &DialogInfoModel::topicRemoved, &model,
+            &PackageInfoModel::removeSupportedLanguage);
+    SignalLog log(model);
+    model.removeSupportedLanguage(m_french);
+    QCOMPARE(log.take(), lines("languageRemoved(fr_FR)"));
 }
 
 void TestPackageInfoModel::argumentsMayLieInTheCache() {

@@ -121,7 +121,8 @@ private:
     Child *m_child;
     Record m_record;
     ChildList<Child> *m_list = nullptr;
-    bool m_stale = false; // listed for the next resync
+    bool m_stale = false;   // listed for the next resync
+    bool m_leaving = false; // announced as removed already, though it still stands in the list
 };
 
 /// Lets the lists reach into the child models.
@@ -170,6 +171,12 @@ public:
                 (QObject::connect(child, changes, m_package, m_resyncSlot), ...);
             },
             Kind::changes);
+    }
+
+    /// Marks the child as one that is about to be announced as removed; returns false where it has
+    /// been announced already, or stands in no list or another one.
+    bool startLeaving(const Child &child) {
+        return contains(child) && !std::exchange(ChildAccess::data(child).m_leaving, true);
     }
 
     /// Takes a child out of the list and brings the record up to date, without notification.
