@@ -47,6 +47,10 @@
         <source>Behavior &apos;%1&apos; has no trigger sentence defined for: %2</source>
         <translation>Le comportement « %1 » n&apos;a pas de phrase de déclenchement pour : %2</translation>
     </message>
+    <message>
+        <source>Any robot</source>
+        <translation>N&apos;importe quel robot</translation>
+    </message>
 </context>
 <context>
     <name>Zel::BehaviorAddRemoveConditionCommand</name>
@@ -349,6 +353,13 @@
     <message>
         <source>Set application&apos;s %1</source>
         <translation>Modifier l&apos;application : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::RobotRequirement</name>
+    <message>
+        <source>any model</source>
+        <translation>tous modèles</translation>
     </message>
 </context>
 </TS>

@@ -47,6 +47,10 @@
         <source>Behavior &apos;%1&apos; has no trigger sentence defined for: %2</source>
         <translation>ビヘイビア「%1」のトリガー文が次の言語で定義されていません: %2</translation>
     </message>
+    <message>
+        <source>Any robot</source>
+        <translation>すべてのロボット</translation>
+    </message>
 </context>
 <context>
     <name>Zel::BehaviorAddRemoveConditionCommand</name>
@@ -349,6 +353,13 @@
     <message>
         <source>Set application&apos;s %1</source>
         <translation>アプリケーションの%1を変更</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::RobotRequirement</name>
+    <message>
+        <source>any model</source>
+        <translation>全モデル</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,9 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand, &showCommand, &formatCommand, &languagesCommand};
+const std::array commands{&newCommand,     &showCommand,      &validateCommand,
+                          &formatCommand,  &setCommand,       &publishCommand,
+                          &explainCommand, &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -38,8 +40,8 @@ void printHelp(Console &console) {
         QCoreApplication::translate("zel-package", "Usage: %1")
             .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
         paragraph(QCoreApplication::translate("zel-package",
-                                              "Makes, shows and rewrites the manifests of robot "
-                                              "application packages."),
+                                              "Makes, shows, checks, edits and rewrites the "
+                                              "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     FieldList options;

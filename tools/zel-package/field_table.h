@@ -1,0 +1,86 @@
+#pragma once
+
+#include "console.h"
+#include "field_path.h"
+#include "language_argument.h"
+#include "suggestion.h"
+
+#include <packagemodel/package_info_model.h>
+
+#include <QCoreApplication>
+#include <QUndoCommand>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+namespace ZelPackage {
+
+using Command = std::unique_ptr<QUndoCommand>;
+
+/// The key that appends to a list.
+constexpr QLatin1String appendKey("+");
+
+/// An assignment on its way to a command, and where its faults are told.
+class Edit {
+public:
+    Edit(const Assignment &assignment, Console &console)
+        : m_assignment(assignment)
+        , m_console(console) {}
+
+    [[nodiscard]] const std::vector<FieldStep> &path() const { return m_assignment.path; }
+    [[nodiscard]] const QString &value() const { return m_assignment.value; }
+
+    /// Tells what is wrong with the field or its value. There is no command then.
+    Command refuse(const QString &message) const;
+
+    // What a key or the value stands for; nothing, once it is told why, where it stands for none.
+
+    [[nodiscard]] std::optional<Zel::RobotLanguage> language(const QString &key) const;
+    /// A version, which an empty value clears.
+    [[nodiscard]] std::optional<Zel::SoftwareVersion> version() const;
+    /// "true" or "false".
+    [[nodiscard]] std::optional<bool> flag() const;
+    /// A position in a list of `size` items.
+    [[nodiscard]] std::optional<int> index(const QString &key, int size) const;
+
+private:
+    const Assignment &m_assignment;
+    Console &m_console;
+};
+
+/// One field of an owner: its name, how it goes on after that ("[CODE][N]"), and the command that
+/// sets it. "FIELD" stands for a field of a part of the owner.
+template<typename Owner>
+struct FieldRow {
+    const char *name;
+    const char *rest;
+    Command (*make)(const Edit &edit, Owner &owner, const QStringList &keys);
+};
+
+/// Makes a command by the row that the step of the edit's path names.
+template<typename Table, typename Owner>
+Command makeCommand(const Table &table, const Edit &edit, Owner &owner, std::size_t step) {
+    const FieldStep &field = edit.path().at(step);
+    QStringList names;
+    for (const auto &row : table)
+        names += QLatin1String(row.name);
+    const auto index = names.indexOf(field.name);
+    if (index < 0)
+        return edit.refuse(
+            QCoreApplication::translate("zel-package", "There is no field '%1'%2")
+                .arg(field.name,
+                     suggestion(field.name, names,
+                                QCoreApplication::translate("zel-package", "; the fields are %1.")
+                                    .arg(names.join(QStringLiteral(", "))))));
+    const auto &row = table[std::size_t(index)];
+    const QLatin1String rest(row.rest);
+    const bool hasParts = QString(rest).endsWith(QLatin1String("FIELD"));
+    if (field.keys.size() != QString(rest).count(u'[') ||
+        edit.path().size() != step + (hasParts ? 2 : 1))
+        return edit.refuse(QCoreApplication::translate("zel-package", "It is written '%1%2'.")
+                               .arg(field.name, rest));
+    return row.make(edit, owner, field.keys);
+}
+
+} // namespace ZelPackage
