@@ -163,6 +163,8 @@ void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
         if (dialog)
             dialog->removeTopic(removed);
     }
+    if (!hasLanguageSupport(removed))
+        return; // a receiver has removed it, and all have heard so
     Language::removeLanguage(m_data->supportedLanguages, removed);
     Q_EMIT languageRemoved(removed);
 }
