@@ -22,7 +22,7 @@ file(RELATIVE_PATH ZEL_DATADIR_FROM_LIBDIR
 set(ZEL_QT "Qt${ZEL_QT_MAJOR}")
 set(ZEL_QT_MINIMUM_5 5.15)
 set(ZEL_QT_MINIMUM_6 6.4)
-find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets)
+find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 find_package(EXPAT 2.5 REQUIRED)
 
 # What CMake and Qt generate into the build tree is not ours to lint; some check has to be on.
@@ -84,6 +84,34 @@ function(zel_add_program target)
     set_target_properties(${target} PROPERTIES
         INSTALL_RPATH "$ORIGIN/${ZEL_LIBDIR_FROM_BINDIR}")
     install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endfunction()
+
+# zel_add_translations(<target>): compiles the catalogues translations/<target>_*.ts into the target,
+# where Zel::installTranslation() finds them.
+function(zel_add_translations target)
+    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${target}_*.ts")
+    set(compiled "")
+    set(entries "")
+    foreach(catalogue IN LISTS catalogues)
+        cmake_path(GET catalogue STEM name)
+        set(output "${CMAKE_CURRENT_BINARY_DIR}/${name}.qm")
+        add_custom_command(OUTPUT "${output}"
+            COMMAND ${ZEL_QT}::lrelease -silent "${catalogue}" -qm "${output}"
+            DEPENDS "${catalogue}" VERBATIM)
+        list(APPEND compiled "${output}")
+        string(APPEND entries "<file>${name}.qm</file>")
+    endforeach()
+
+    set(name "${target}_translations")
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
+    set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    file(CONFIGURE OUTPUT "${resource}"
+        CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
+    add_custom_command(OUTPUT "${source}"
+        COMMAND ${ZEL_QT}::rcc --name "${name}" --output "${source}" "${resource}"
+        DEPENDS "${resource}" ${compiled} VERBATIM)
+    set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
+    target_sources(${target} PRIVATE "${source}")
 endfunction()
 
 # zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and

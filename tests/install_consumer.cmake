@@ -29,3 +29,18 @@ message("The consumer read the name '${name}'.")
 if(NOT name STREQUAL EXPECTED_NAME)
     message(FATAL_ERROR "The expected name is '${EXPECTED_NAME}'.")
 endif()
+
+# The installed program finds the installed data, not those of the build tree.
+if(EXISTS "${WORK_DIR}/prefix/bin/zel-package")
+    execute_process(
+        COMMAND "${CMAKE_COMMAND}" -E env --unset=ZENTRIX_DATA_PATH
+            QT_LOGGING_RULES=PackageModel.Package.debug=true
+            "${WORK_DIR}/prefix/bin/zel-package" robots
+        OUTPUT_VARIABLE robots
+        ERROR_VARIABLE log
+        COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT robots MATCHES "HERON_H1"
+            OR NOT log MATCHES "Model file found: ${WORK_DIR}/prefix/share/zentrix/robots/heron-h1")
+        message(FATAL_ERROR "The installed robots were not found:\n${robots}${log}")
+    endif()
+endif()

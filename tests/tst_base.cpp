@@ -217,6 +217,11 @@ void TestBase::directoriesInOrder() {
     QCOMPARE(texts(Tano::path::dataDirectories("zentrix", true)),
              QStringList({first, second, system1, system2, beside}));
     QCOMPARE(texts(Tano::path::dataDirectories("otherapp", false)), QStringList());
+    QCOMPARE(texts(Tano::path::environmentDirectories("zentrix").value()),
+             QStringList({first, second}));
+    QVERIFY(!Tano::path::environmentDirectories("otherapp"));
+    qputenv("ZENTRIX_DATA_PATH", {});
+    QVERIFY(Tano::path::environmentDirectories("zentrix").value().empty());
     QCOMPARE(lines, QStringList());
 }
 

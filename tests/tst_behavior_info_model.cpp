@@ -228,7 +228,7 @@ void TestBehaviorInfoModel::unknownLanguagesAreRegistered() {
 
 void TestBehaviorInfoModel::copies() {
     auto package = std::make_unique<PackageInfoModel>();
-    BehaviorInfoModel *original = new BehaviorInfoModel(Tano::BehaviorInfo(), package.get());
+    auto *original = new BehaviorInfoModel(Tano::BehaviorInfo(), package.get());
     QCOMPARE(original->parent(), package.get());
     original->setName(text("Brew"), m_english);
     original->addTag(text("tea"), m_english);

@@ -282,9 +282,9 @@ void TestPackageChildren::lookingUp() {
         model.addDialog(dialog(name));
         model.addService(service(name));
     }
-    QTEST(model.behaviors().indexOf(model.behavior(key)), "index");
-    QTEST(model.dialogs().indexOf(model.dialog(key)), "index");
-    QTEST(model.services().indexOf(model.service(key)), "index");
+    QTEST(int(model.behaviors().indexOf(model.behavior(key))), "index");
+    QTEST(int(model.dialogs().indexOf(model.dialog(key))), "index");
+    QTEST(int(model.services().indexOf(model.service(key))), "index");
 }
 
 using Edit = std::function<void(BehaviorInfoModel &)>;

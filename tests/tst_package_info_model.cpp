@@ -21,7 +21,7 @@ RobotRequirement requirement(const char *model) {
 QIcon icon(Qt::GlobalColor color, int extent = 16) {
     QPixmap pixmap(extent, extent);
     pixmap.fill(color);
-    return QIcon(pixmap);
+    return {pixmap};
 }
 
 QStringList recorded(const std::vector<Tano::RobotRequirement> &requirements) {

@@ -1,6 +1,7 @@
 #include "signal_log.h"
 #include "warning_guard.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -89,6 +90,8 @@ private Q_SLOTS:
     void loadsFiles();
     void iconBesideTheManifest();
     void saves();
+    void shippedManifestsComeBack_data();
+    void shippedManifestsComeBack();
     void clears();
     void copies();
     void notificationsOfAnAssignment();
@@ -256,6 +259,29 @@ void TestPackageLoading::saves() {
     fromRecord << model.packageInfo();
     QCOMPARE(fromModel.str(), fromRecord.str());
     QVERIFY(fromModel.str().find("tea-time") != std::string::npos);
+}
+
+void TestPackageLoading::shippedManifestsComeBack_data() {
+    QTest::addColumn<QString>("path");
+    QDirIterator it(text(ZEL_SOURCE_DIR "/examples/packages"), {text("manifest.xml")}, QDir::Files,
+                    QDirIterator::Subdirectories);
+    QVERIFY(it.hasNext());
+    while (it.hasNext()) {
+        const QString path = it.next();
+        QTest::newRow(qPrintable(path)) << path;
+    }
+}
+
+void TestPackageLoading::shippedManifestsComeBack() {
+    QFETCH(QString, path);
+    QFile file(path);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QByteArray content = file.readAll();
+    PackageInfoModel model;
+    QVERIFY(model.loadFromManifestFile(path));
+    QCOMPARE(model.saveToManifestContent(), content);
+    model.syncRecord();
+    QCOMPARE(model.saveToManifestContent(), content);
 }
 
 void TestPackageLoading::clears() {

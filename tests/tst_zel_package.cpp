@@ -1,3 +1,5 @@
+#include "program_run.h"
+
 #include <packagemodel/package_info_model.h>
 
 #include <QDateTime>
@@ -5,54 +7,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <array>
-#include <pty.h>
-#include <unistd.h>
-
 namespace {
-
-struct Outcome {
-    int status = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
-
-void write(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-QString testData(const char *path) {
-    return QStringLiteral(ZEL_TEST_DATA "/") % QLatin1String(path);
-}
-
-QByteArray lines(const QList<QByteArray> &all) {
-    QByteArray text;
-    for (const QByteArray &line : all)
-        text += line + '\n';
-    return text;
-}
-
-Outcome finished(QProcess &process, const QByteArray &input = {}) {
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        qFatal("zel-package: %s", qPrintable(process.errorString()));
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
 
 constexpr auto showUsage = "zel-package show FILE [--language CODE] [--format text|json]";
 constexpr auto brokenError =
@@ -73,50 +32,15 @@ private:
     // Runs the program among good.xml, loose.xml (not canonical) and broken.xml.
     Outcome run(const QStringList &arguments, const QByteArray &input = {},
                 const QString &output = {}) const {
-        QProcess process;
-        process.setWorkingDirectory(m_dir.path());
-        if (!output.isEmpty())
-            process.setStandardOutputFile(output);
-        process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
-        return finished(process, input);
+        return runProgram(arguments, m_dir.path(), input, output);
     }
 
     Outcome runShell(const QByteArray &script) const {
-        QProcess process;
-        process.setWorkingDirectory(m_dir.path());
-        process.start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromUtf8(script),
-                                             QStringLiteral(ZEL_PACKAGE_PROGRAM)});
-        return finished(process);
+        return runProgramInShell(script, m_dir.path());
     }
 
-    // What the program writes to a terminal of 120 columns.
     QByteArray onTerminal(const QStringList &arguments, const char *noColor) const {
-        winsize size{};
-        size.ws_row = 24;
-        size.ws_col = 120;
-        int primary = -1;
-        int secondary = -1;
-        std::array<char, 256> name{};
-        if (openpty(&primary, &secondary, name.data(), nullptr, &size) != 0)
-            qFatal("no terminal");
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
-        environment.insert(QStringLiteral("NO_COLOR"), QLatin1String(noColor));
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(m_dir.path());
-        process.setStandardOutputFile(QLatin1String(name.data()));
-        process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
-        const Outcome outcome = finished(process);
-        if (outcome.status != 0)
-            qFatal("%s", outcome.err.constData());
-        close(secondary);
-        QFile terminal;
-        if (!terminal.open(primary, QIODevice::ReadOnly | QIODevice::Unbuffered,
-                           QFileDevice::AutoCloseHandle))
-            qFatal("%s", qPrintable(terminal.errorString()));
-        // Reading fails once all is read and the other side is closed.
-        return terminal.readAll().replace("\r\n", "\n");
+        return terminalOutput(arguments, m_dir.path(), noColor);
     }
 
 private Q_SLOTS:
@@ -157,6 +81,9 @@ private Q_SLOTS:
         row("show good.xml --language 1234567", "'1234567' is not a language code; 'zel-package "
                                                 "languages' lists those that are known.");
         row("new x", "A package needs a --uid.");
+        row("new x --uid Tea",
+            "Application UID is not defined correctly. 'zel-package explain uid-invalid' says what "
+            "a UID is.");
     }
 
     void wrongUsage() {
@@ -173,11 +100,12 @@ private Q_SLOTS:
         const Outcome general = run({QStringLiteral("--help")});
         QCOMPARE(general.status, 0);
         QCOMPARE(general.err, QByteArray());
-        for (const char *command : {"new", "show", "format", "set", "languages"}) {
-            QVERIFY(general.out.contains(QByteArray("\n  ") + command + ' '));
+        for (const char *command : {"new", "show", "validate", "format", "set", "publish",
+                                    "explain", "languages", "robots"}) {
+            QVERIFY(general.out.contains(QByteArray("\n  ").append(command).append(' ')));
             const Outcome help = run({QLatin1String(command), QStringLiteral("-h")});
             QCOMPARE(help.status, 0);
-            QVERIFY(help.out.startsWith(QByteArray("Usage: zel-package ") + command));
+            QVERIFY(help.out.startsWith(QByteArray("Usage: zel-package ").append(command)));
         }
         QCOMPARE(run({QStringLiteral("--version")}).out,
                  QByteArray("zel-package " ZEL_VERSION "\n"));
@@ -192,7 +120,8 @@ private Q_SLOTS:
         const QRegularExpression entry(QStringLiteral("^  (?:-h, )?([-a-z]+) "),
                                        QRegularExpression::MultilineOption);
         QByteArrayList pages{run({QStringLiteral("--help")}).out};
-        for (const char *command : {"new", "show", "format", "set", "languages"})
+        for (const char *command : {"new", "show", "validate", "format", "set", "publish",
+                                    "explain", "languages", "robots"})
             pages += run({QLatin1String(command), QStringLiteral("--help")}).out;
         for (const QByteArray &page : pages) {
             auto entries = entry.globalMatch(QString::fromUtf8(page));
@@ -212,9 +141,9 @@ private Q_SLOTS:
                  QStringLiteral("お茶 & 本")});
         QCOMPARE(outcome.err,
                  lines({"zel-package: The language 'xx' is not a known one.",
-                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: a "
-                        "name (xx), a description (ja_JP, xx), a robot requirement, a Brio "
-                        "requirement."}));
+                        "zel-package: tea.xml: A manifest of version 1.0.0; what it still needs: "
+                        "robotRequirements, brioRequirements, names[xx], descriptions[ja_JP], "
+                        "descriptions[xx]."}));
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.out, QByteArray());
         QCOMPARE(contentOf(at("tea.xml")), QByteArray(R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -241,8 +170,9 @@ private Q_SLOTS:
     }
 
     void newManifestThatCannotBe() {
-        const Outcome outcome = run({QStringLiteral("new"), QStringLiteral("x.xml"),
-                                     QStringLiteral("--uid"), QStringLiteral("a\u0001")});
+        const Outcome outcome =
+            run({QStringLiteral("new"), QStringLiteral("x.xml"), QStringLiteral("--uid"),
+                 QStringLiteral("a"), QStringLiteral("--name"), QStringLiteral("a\u0001")});
         QCOMPARE(outcome.status, 2);
         QVERIFY(outcome.err.contains("control character 0x01"));
         QVERIFY(!QFile::exists(at("x.xml")));
@@ -459,7 +389,9 @@ private Q_SLOTS:
 
         // More than a pipe holds, so that the program is still writing when the reader has gone.
         QByteArray large = contentOf(at("good.xml"));
-        large.replace("</package>", "<author>" + QByteArray(1000000, 'x') + "</author></package>");
+        large.replace(
+            "</package>",
+            QByteArray("<author>").append(QByteArray(1000000, 'x')).append("</author></package>"));
         write(at("large.xml"), large);
         const Outcome gone = runShell(R"({ "$0" format - <large.xml; echo $? >&2; } | true)");
         QCOMPARE(gone.err,

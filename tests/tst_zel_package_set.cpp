@@ -1,35 +1,16 @@
+#include "program_run.h"
+
 #include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-struct Outcome {
-    int status = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
-}
-
 // The program over a manifest on standard input; arguments stand on a line each.
 Outcome set(const QByteArray &manifest, const QString &arguments,
             const QString &file = QStringLiteral("-")) {
-    QProcess process;
-    process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM),
-                  QStringList{QStringLiteral("set"), file} + arguments.split(u'\n'));
-    process.write(manifest);
-    process.closeWriteChannel();
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        qFatal("zel-package: %s", qPrintable(process.errorString()));
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return runProgram(QStringList{QStringLiteral("set"), file} + arguments.split(u'\n'),
+                      QDir::currentPath(), manifest);
 }
 
 constexpr char manifest[] = R"(<?xml version="1.0" encoding="UTF-8"?>

@@ -24,11 +24,15 @@ struct Command {
     ExitStatus (*run)(const QCommandLineParser &arguments, Console &console);
 };
 
+extern const Command explainCommand;
 extern const Command formatCommand;
 extern const Command languagesCommand;
 extern const Command newCommand;
+extern const Command publishCommand;
+extern const Command robotsCommand;
 extern const Command setCommand;
 extern const Command showCommand;
+extern const Command validateCommand;
 
 /// Runs the program: general options, or a command with its arguments.
 [[nodiscard]] ExitStatus runProgram(const QStringList &arguments, Console &console);

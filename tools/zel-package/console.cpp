@@ -22,9 +22,9 @@ int terminalWidth() {
     return std::max(smallestWidth, int(size.ws_col));
 }
 
-bool terminalHasColors() {
-    return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR") &&
-           qgetenv("TERM") != "dumb";
+// Whether it knows more than to write one character after another.
+bool isTerminal(int stream) {
+    return isatty(stream) && qgetenv("TERM") != "dumb";
 }
 
 const char *sequenceOf(Style style) {
@@ -39,6 +39,8 @@ const char *sequenceOf(Style style) {
         return "\x1b[32m";
     case Style::Caution:
         return "\x1b[33m";
+    case Style::Bad:
+        return "\x1b[31m";
     }
     return "";
 }
@@ -47,7 +49,8 @@ const char *sequenceOf(Style style) {
 
 Console::Console()
     : m_width(terminalWidth())
-    , m_isColored(terminalHasColors()) {
+    , m_isColored(isTerminal(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR"))
+    , m_canShowProgress(isTerminal(STDERR_FILENO)) {
     if (!m_output.open(STDOUT_FILENO, QIODevice::WriteOnly))
         m_writeError = m_output.errorString();
     // Where standard error cannot be opened there is nowhere left to say so.
@@ -59,6 +62,7 @@ void Console::print(const QString &text) {
 }
 
 void Console::printBytes(const std::string &bytes) {
+    removeProgress();
     const auto size = qint64(bytes.size());
     if (m_writeError.isEmpty() && m_output.write(bytes.data(), size) != size)
         m_writeError = m_output.errorString();
@@ -66,8 +70,8 @@ void Console::printBytes(const std::string &bytes) {
 
 void Console::tell(const QString &message) {
     // What was printed before stands before it, should both go to the same place.
-    if (m_writeError.isEmpty() && !m_output.flush())
-        m_writeError = m_output.errorString();
+    removeProgress();
+    flush();
     m_messages.write((QStringLiteral("zel-package: ") % printable(message) % u'\n').toUtf8());
 }
 
@@ -83,9 +87,29 @@ void Console::tell(const QString &file, Tano::SourcePosition position, const QSt
              message);
 }
 
-bool Console::finish() {
+void Console::showProgress(const QString &text) {
+    if (text.isEmpty())
+        removeProgress();
+    if (text.isEmpty() || !m_canShowProgress)
+        return;
+    flush();
+    m_messages.write((u'\r' % text % QLatin1String("\x1b[K")).toUtf8());
+    m_showsProgress = true;
+}
+
+void Console::removeProgress() {
+    if (m_showsProgress)
+        m_messages.write("\r\x1b[K");
+    m_showsProgress = false;
+}
+
+void Console::flush() {
     if (m_writeError.isEmpty() && !m_output.flush())
         m_writeError = m_output.errorString();
+}
+
+bool Console::finish() {
+    flush();
     if (m_writeError.isEmpty())
         return true;
     tell(QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")

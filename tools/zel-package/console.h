@@ -13,7 +13,7 @@ namespace ZelPackage {
 enum ExitStatus { Fine = 0, Findings = 1, Failure = 2 };
 
 /// How a text stands out on a terminal.
-enum class Style { Plain, Heading, Faint, Good, Caution };
+enum class Style { Plain, Heading, Faint, Good, Caution, Bad };
 
 /// Standard output, which takes the results, and standard error, which takes summaries and
 /// troubles. Both are written in UTF-8, whatever the locale.
@@ -32,6 +32,10 @@ public:
     void tell(const QString &file, const QString &message);
     void tell(const QString &file, Tano::SourcePosition position, const QString &message);
 
+    /// Shows how far the work has got, in a line on the terminal that gives way to whatever is
+    /// written next; an empty text removes it. Does nothing where standard error is no terminal.
+    void showProgress(const QString &text);
+
     /// Writes out what is held back. Returns false, once it has told why, when not everything that
     /// was printed has been written.
     [[nodiscard]] bool finish();
@@ -44,11 +48,16 @@ public:
     [[nodiscard]] QString styled(const QString &text, Style style) const;
 
 private:
+    void flush();
+    void removeProgress();
+
     QFile m_output;
     QFile m_messages;
     QString m_writeError;
     int m_width;
     bool m_isColored;
+    bool m_canShowProgress;
+    bool m_showsProgress = false;
 };
 
 } // namespace ZelPackage

@@ -88,8 +88,21 @@ Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package) {
     };
     for (const RobotLanguage &language : package.descriptionLanguages())
         addMissing(language);
-    for (const std::string &code : package.packageInfo().languageCodes())
-        addMissing(Zel::robotLanguage(Zel::fromUtf8(code)));
+    for (const std::string &bytes : package.packageInfo().languageCodes()) {
+        const QString code = Zel::fromUtf8(bytes);
+        if (!code.endsWith(Zel::PackageModel::k_sa.text()))
+            addMissing(Zel::robotLanguage(code));
+    }
+    return languages;
+}
+
+Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package) {
+    Zel::RobotLanguages languages;
+    const std::set<std::string> codes = package.packageInfo().languageCodes();
+    for (const RobotLanguage &language : languagesOf(package)) {
+        if (codes.count(Zel::toUtf8(language.isoCode() % Zel::PackageModel::k_sa.text())) > 0)
+            languages.push_back(language);
+    }
     return languages;
 }
 

@@ -57,7 +57,11 @@ struct LanguageCoverage {
                                           const Zel::PackageInfoModel &package);
 
 /// The languages of the package: the supported ones, those it is only described in, both in its
-/// order, then by ascending code those that are not listed but have texts.
+/// order, then by ascending code those that are not listed but have texts. The script variants of
+/// languages are left out, unless they are listed.
 [[nodiscard]] Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package);
+
+/// Those of languagesOf() in whose script variant (PackageModel::k_sa) the package has something.
+[[nodiscard]] Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package);
 
 } // namespace ZelPackage

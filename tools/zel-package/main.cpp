@@ -1,6 +1,9 @@
 #include "command.h"
 
+#include <packagemodel/translation.h>
+
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <clocale>
 #include <csignal>
@@ -30,6 +33,7 @@ void useUtf8() {
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
+    const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
     useUtf8();
     // A closed pipe shall be a failed write.
     std::signal(SIGPIPE, SIG_IGN);
@@ -38,6 +42,8 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationName(QStringLiteral("zel-package"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_PACKAGE_VERSION));
     qSetMessagePattern(QStringLiteral("zel-package: %{message}"));
+    for (const char *catalogue : {"packagemodel", "zel-package"})
+        Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 
     ZelPackage::Console console;
     const ZelPackage::ExitStatus status =

@@ -23,22 +23,31 @@ bool isStandardStream(const QString &file) {
     return file == QLatin1String("-");
 }
 
-std::optional<Manifest> readManifest(const QString &file, Console &console) {
+std::optional<std::string> readContent(const QString &file, QString &trouble) {
     QFile input;
     if (!openInput(input, file)) {
-        console.tell(file,
-                     QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
-                         .arg(input.errorString()));
+        trouble = QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
+                      .arg(input.errorString());
+        return {};
+    }
+    std::string content = input.readAll().toStdString();
+    if (input.error() != QFileDevice::NoError) {
+        trouble = QCoreApplication::translate("zel-package", "The file cannot be read: %1.")
+                      .arg(input.errorString());
+        return {};
+    }
+    return content;
+}
+
+std::optional<Manifest> readManifest(const QString &file, Console &console) {
+    QString trouble;
+    auto content = readContent(file, trouble);
+    if (!content) {
+        console.tell(file, trouble);
         return {};
     }
     Manifest manifest;
-    manifest.content = input.readAll().toStdString();
-    if (input.error() != QFileDevice::NoError) {
-        console.tell(file,
-                     QCoreApplication::translate("zel-package", "The file cannot be read: %1.")
-                         .arg(input.errorString()));
-        return {};
-    }
+    manifest.content = std::move(*content);
 
     Tano::ManifestReader reader;
     if (!reader.readContent(manifest.content, manifest.package)) {

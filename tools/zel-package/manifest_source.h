@@ -20,6 +20,9 @@ struct Manifest {
     std::string content;
 };
 
+/// The bytes of `file`, "-" for standard input; where they cannot be read, `trouble` says why.
+[[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &trouble);
+
 /// Reads the manifest in `file`, "-" for standard input; where that fails, tells why and where.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);
 

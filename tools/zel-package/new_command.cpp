@@ -4,6 +4,7 @@
 #include "manifest_source.h"
 
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/package_info_utils.h>
 
 #include <QFile>
 
@@ -77,31 +78,26 @@ bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Co
     return true;
 }
 
-QString codesOf(const Zel::RobotLanguages &languages) {
-    QStringList codes;
-    for (const Zel::RobotLanguage &language : languages)
-        codes += language.isoCode();
-    return codes.join(QStringLiteral(", "));
+bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
+    QStringList errors;
+    if (Zel::PackageModel::validatePackageUID(&package, errors))
+        return true;
+    console.tell(QCoreApplication::translate(
+                     "zel-package", "%1 'zel-package explain uid-invalid' says what a UID is.")
+                     .arg(errors.constFirst()));
+    return false;
 }
 
 // Standard error, so that the manifest on standard output stays one.
 void tellWhatIsLeft(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
-    Zel::RobotLanguages unnamed;
-    for (const Zel::RobotLanguage &language : package.supportedLanguages()) {
-        if (!package.hasNameFor(language))
-            unnamed.push_back(language);
-    }
-    QStringList missing;
-    if (!unnamed.empty())
-        missing += QCoreApplication::translate("zel-package", "a name (%1)").arg(codesOf(unnamed));
-    missing += QCoreApplication::translate("zel-package", "a description (%1)")
-                   .arg(codesOf(package.supportedLanguages()));
-    missing += QCoreApplication::translate("zel-package", "a robot requirement");
-    missing += QCoreApplication::translate("zel-package", "a Brio requirement");
+    QStringList fields;
+    const auto issues = Zel::PackageModel::issues(&package);
+    for (const Zel::PackageModel::Issue &issue : issues)
+        fields += issue.path;
     console.tell(file, QCoreApplication::translate(
                            "zel-package", "A manifest of version %1; what it still needs: %2.")
                            .arg(Zel::SoftwareVersionUtils::toString(package.version()),
-                                missing.join(QStringLiteral(", "))));
+                                fields.join(QStringLiteral(", "))));
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
@@ -117,6 +113,8 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
     Zel::PackageInfoModel package;
     package.setUid(uid);
+    if (!checkUid(package, console))
+        return Failure;
     package.setVersion({1, 0, 0});
     for (const Zel::RobotLanguage &language : *languages)
         package.addSupportedLanguage(language);

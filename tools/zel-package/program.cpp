@@ -9,8 +9,9 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand, &showCommand, &formatCommand, &setCommand,
-                          &languagesCommand};
+const std::array commands{&newCommand,     &showCommand,      &validateCommand,
+                          &formatCommand,  &setCommand,       &publishCommand,
+                          &explainCommand, &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -38,9 +39,9 @@ void printHelp(Console &console) {
     console.print(
         QCoreApplication::translate("zel-package", "Usage: %1")
             .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
-        paragraph(QCoreApplication::translate(
-                      "zel-package", "Makes, shows, rewrites and edits the manifests of robot "
-                                     "application packages."),
+        paragraph(QCoreApplication::translate("zel-package",
+                                              "Makes, shows, checks, edits and rewrites the "
+                                              "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     FieldList options;

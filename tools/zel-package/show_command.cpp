@@ -4,7 +4,7 @@
 #include "manifest_source.h"
 #include "show_json.h"
 #include "show_text.h"
-#include "suggestion.h"
+#include "word_check.h"
 
 #include <packagemodel/package_info_model.h>
 
@@ -29,14 +29,11 @@ QList<QCommandLineOption> options() {
 
 bool checkOptions(const QCommandLineParser &arguments, Console &console) {
     const QString format = arguments.value(formatOption);
-    if (format != textFormat && format != jsonFormat) {
-        console.tell(
-            QCoreApplication::translate("zel-package", "There is no format '%1'%2")
-                .arg(format, suggestion(format, {textFormat, jsonFormat},
-                                        QCoreApplication::translate(
-                                            "zel-package", "; it is either text or json."))));
+    if (!checkWord(format, {textFormat, jsonFormat},
+                   QCoreApplication::translate("zel-package", "There is no format '%1'%2"),
+                   QCoreApplication::translate("zel-package", "; it is either text or json."),
+                   console))
         return false;
-    }
     if (format == jsonFormat && arguments.isSet(languageOption)) {
         console.tell(QCoreApplication::translate(
             "zel-package", "--format json shows all languages and takes no --language."));

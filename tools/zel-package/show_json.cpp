@@ -1,11 +1,10 @@
 #include "show_json.h"
 
-#include "text_layout.h"
+#include "json_text.h"
 
 #include <packagemodel/package_info_model.h>
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -122,23 +121,10 @@ QJsonObject packageObject(const Zel::PackageInfoModel &package) {
         {QStringLiteral("services"), arrayOf(package.services(), serviceObject)}};
 }
 
-// JSON leaves in plain sight what would garble a terminal. It stands only within texts.
-QString escaped(const QString &json) {
-    QString result;
-    result.reserve(json.size());
-    for (const QChar character : json) {
-        if (character != u'\n' && isUnprintable(character))
-            result += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QChar(u'0'));
-        else
-            result += character;
-    }
-    return result;
-}
-
 } // namespace
 
 QString jsonOf(const Zel::PackageInfoModel &package) {
-    return escaped(QString::fromUtf8(QJsonDocument(packageObject(package)).toJson()));
+    return jsonText(packageObject(package), QJsonDocument::Indented);
 }
 
 } // namespace ZelPackage

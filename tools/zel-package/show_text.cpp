@@ -70,6 +70,13 @@ bool isSpokenIn(const RobotLanguage &language, const Zel::PackageInfoModel &pack
     return package.hasLanguageSupport(language) || !package.hasLanguageDescription(language);
 }
 
+void addLanguages(FieldList &fields, const QString &label, const Zel::RobotLanguages &languages,
+                  const Zel::PackageInfoModel &package) {
+    fields.addFilled(label, !languages.empty() && languages == package.supportedLanguages()
+                                ? QCoreApplication::translate("zel-package", "the same languages")
+                                : codesOf(languages));
+}
+
 ShownText shownName(const Zel::PackageInfoModel &package, const RobotLanguage &language) {
     return shownText([&](const RobotLanguage &lang) { return package.name(lang); }, language,
                      package.uid(), QCoreApplication::translate("zel-package", "this is the uid"));
@@ -95,11 +102,10 @@ QString identitySection(const Zel::PackageInfoModel &package, const Console &con
     fields.addFilled(QCoreApplication::translate("zel-package", "path"), package.path());
     fields.addFilled(QCoreApplication::translate("zel-package", "runs in"),
                      codesOf(package.supportedLanguages()));
-    const QString described = codesOf(package.descriptionLanguages());
-    fields.addFilled(QCoreApplication::translate("zel-package", "described in"),
-                     !described.isEmpty() && described == codesOf(package.supportedLanguages())
-                         ? QCoreApplication::translate("zel-package", "the same languages")
-                         : described);
+    addLanguages(fields, QCoreApplication::translate("zel-package", "described in"),
+                 package.descriptionLanguages(), package);
+    addLanguages(fields, QCoreApplication::translate("zel-package", "scripts in"),
+                 scriptLanguagesOf(package), package);
     return heading(QCoreApplication::translate("zel-package", "Identity"), console) %
            fields.toText(console, indent);
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace ZelPackage {
@@ -32,11 +33,41 @@ int editDistance(const QString &a, const QString &b) {
     return last.back();
 }
 
+// Up to how many slips a word is taken for a mistyped one.
+int mostSlips(const QString &given) {
+    return std::max(1, int(given.size()) / 3);
+}
+
+// Whether characters have only been left out.
+bool isShortened(const QString &given, const QString &word) {
+    auto next = given.begin();
+    for (const QChar character : word) {
+        if (next != given.end() && character == next->toLower())
+            ++next;
+    }
+    return given.size() > 2 && next == given.end();
+}
+
 } // namespace
+
+QStringList nearWords(const QString &given, const QStringList &words) {
+    std::vector<std::pair<int, QString>> near;
+    for (const QString &word : words) {
+        const int distance = editDistance(given.toLower(), word.toLower());
+        if (distance <= mostSlips(given) || isShortened(given, word))
+            near.emplace_back(distance, word);
+    }
+    std::stable_sort(near.begin(), near.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    QStringList result;
+    for (const auto &[distance, word] : near)
+        result += word;
+    return result;
+}
 
 QString nearestWord(const QString &given, const QStringList &words) {
     QString nearest;
-    int smallest = 1 + std::max(1, int(given.size()) / 3);
+    int smallest = 1 + mostSlips(given);
     for (const QString &word : words) {
         const int distance = editDistance(given.toLower(), word.toLower());
         if (distance < smallest) {

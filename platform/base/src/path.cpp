@@ -34,9 +34,12 @@ QString insidePath(const std::string &relativePath) {
     return leadsOut || QDir::isAbsolutePath(path) ? QString() : path;
 }
 
+QByteArray variableOf(const QString &application) {
+    return QFile::encodeName(application.toUpper() % QLatin1String("_DATA_PATH"));
+}
+
 QStringList environmentEntries(const QString &application) {
-    const QString variable = application.toUpper() % QLatin1String("_DATA_PATH");
-    return qEnvironmentVariable(QFile::encodeName(variable).constData())
+    return qEnvironmentVariable(variableOf(application).constData())
         .split(QDir::listSeparator(), Qt::SkipEmptyParts);
 }
 
@@ -57,27 +60,41 @@ QStringList candidates(const QString &application, bool excludeUser) {
     return directories;
 }
 
+/// The directories among `paths`, each once.
+QStringList existing(const QStringList &paths) {
+    QStringList directories;
+    for (const QString &path : paths) {
+        if (const QFileInfo info(path); info.isDir())
+            directories.append(QDir::cleanPath(info.absoluteFilePath()));
+    }
+    directories.removeDuplicates();
+    return directories;
+}
+
 /// As dataDirectories().
 QStringList directoriesOf(const std::string &application, bool excludeUser) {
     const QString name = insidePath(application);
-    QStringList existing;
-    if (name.isEmpty())
-        return existing;
-    for (const QString &directory : candidates(name, excludeUser)) {
-        if (const QFileInfo info(directory); info.isDir())
-            existing.append(QDir::cleanPath(info.absoluteFilePath()));
-    }
-    existing.removeDuplicates();
-    return existing;
+    return name.isEmpty() ? QStringList() : existing(candidates(name, excludeUser));
+}
+
+std::vector<std::string> toStdStrings(const QStringList &texts) {
+    std::vector<std::string> result;
+    for (const QString &text : texts)
+        result.push_back(text.toStdString());
+    return result;
 }
 
 } // namespace
 
 std::vector<std::string> dataDirectories(const std::string &application, bool excludeUser) {
-    std::vector<std::string> result;
-    for (const QString &directory : directoriesOf(application, excludeUser))
-        result.push_back(directory.toStdString());
-    return result;
+    return toStdStrings(directoriesOf(application, excludeUser));
+}
+
+std::optional<std::vector<std::string>> environmentDirectories(const std::string &application) {
+    const QString name = insidePath(application);
+    if (name.isEmpty() || !qEnvironmentVariableIsSet(variableOf(name).constData()))
+        return {};
+    return toStdStrings(existing(environmentEntries(name)));
 }
 
 std::string findData(const std::string &application, const std::string &relativePath,

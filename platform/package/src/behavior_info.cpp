@@ -59,14 +59,6 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
     return true;
 }
 
-template<typename Map>
-void keepOnly(Map &map, const std::vector<std::string> &keys) {
-    for (auto it = map.begin(); it != map.end();) {
-        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
-        it = isKept ? std::next(it) : map.erase(it);
-    }
-}
-
 } // namespace
 
 const std::string &BehaviorInfo::natureInteractive() {
@@ -256,6 +248,9 @@ void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCode
     keepOnly(data.tags, supportedCodes);
     keepOnly(data.triggerSentences, supportedCodes);
     keepOnly(data.loadingResponses, supportedCodes);
+    std::vector<std::string> codes = descriptionCodes;
+    codes.insert(codes.end(), supportedCodes.begin(), supportedCodes.end());
+    dropForeign(data.extras, Element::BehaviorTexts, codes);
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {

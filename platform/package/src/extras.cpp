@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <limits>
 #include <unordered_map>
 
@@ -76,6 +77,19 @@ void rememberLists(Extras &extras, const ListKeys &listKeys) {
         remember(kept.before);
     for (const auto &child : extras.children)
         remember(child.first);
+}
+
+void dropForeign(ExtrasPointer &extras, Element element, const std::vector<std::string> &keys) {
+    const auto isForeign = [&](const auto &child) {
+        return child.first.element == element &&
+               std::find(keys.begin(), keys.end(), child.first.key) == keys.end();
+    };
+    if (!extras || std::none_of(extras->children.begin(), extras->children.end(), isForeign))
+        return;
+    auto edited = std::make_shared<Extras>(*extras);
+    for (auto it = edited->children.begin(); it != edited->children.end();)
+        it = isForeign(*it) ? edited->children.erase(it) : std::next(it);
+    extras = std::move(edited);
 }
 
 ExtrasWalk::ExtrasWalk(const Extras *extras, const ListKeys &listKeys) {

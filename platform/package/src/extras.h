@@ -39,6 +39,9 @@ using ListKeys = std::function<std::vector<std::string>(const Extras::ListId &)>
 /// Remembers in `extras` the present entries of every list that it speaks of.
 void rememberLists(Extras &extras, const ListKeys &listKeys);
 
+/// Drops what was kept within the children of a kind that have other keys than `keys`.
+void dropForeign(ExtrasPointer &extras, Element element, const std::vector<std::string> &keys);
+
 /// Walks the extras of an element while its children are written in the canonical order.
 class ExtrasWalk {
 public:

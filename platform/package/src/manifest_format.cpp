@@ -131,6 +131,15 @@ const ElementRule &ruleOf(Element element) {
     return rules[std::size_t(element)];
 }
 
+Element childNamed(const ElementRule &rule, std::string_view name) {
+    const ElementRule *rules = &ruleOf(Element(0));
+    for (const Element child : rule.children) {
+        if (rules[std::size_t(child)].name == name)
+            return child;
+    }
+    return Element::Count;
+}
+
 bool operator<(const Position &a, const Position &b) {
     return std::tie(a.element, a.key, a.index) < std::tie(b.element, b.key, b.index);
 }

@@ -73,6 +73,9 @@ struct ElementRule {
 
 const ElementRule &ruleOf(Element element);
 
+/// The child of a rule's element that has a name; Element::Count for none.
+Element childNamed(const ElementRule &rule, std::string_view name);
+
 /// The place of an element among its siblings: those of one kind are told apart by their key (a
 /// language, a purpose, a name), then by their index.
 struct Position {

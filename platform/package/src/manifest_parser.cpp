@@ -6,29 +6,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 #include <utility>
 
 namespace Tano {
 namespace {
 
-// The bounds of a tag hold exactly where a tag is complete; for one that never ends, twice as many
-// bytes without progress are enough to give up.
-constexpr std::uint64_t hopelessLag = 2 * std::uint64_t(ManifestReader::maxTagLength);
-
 ManifestParser &parserAt(void *self) {
     return *static_cast<ManifestParser *>(self);
-}
-
-std::string quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
-std::string tagged(std::string_view name) {
-    return '<' + std::string(name) + '>';
-}
-
-bool isWhiteSpace(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 // Line ends as an XML processor passes them on, so that kept text has one kind of them.
@@ -77,19 +62,6 @@ std::string *scalarField(PackageData &package, Element element) {
     }
 }
 
-TextListMap *listsField(BehaviorData &behavior, Element element) {
-    switch (element) {
-    case Element::Tag:
-        return &behavior.tags;
-    case Element::TriggerSentence:
-        return &behavior.triggerSentences;
-    case Element::LoadingResponse:
-        return &behavior.loadingResponses;
-    default:
-        return nullptr;
-    }
-}
-
 } // namespace
 
 ManifestParser::ManifestParser(bool keepFieldPositions)
@@ -107,15 +79,22 @@ ManifestParser::ManifestParser(bool keepFieldPositions)
     XML_SetXmlDeclHandler(parser, onDeclaration);
 }
 
-bool ManifestParser::feed(const char *bytes, std::size_t size, bool isLast) {
+char *ManifestParser::room(std::size_t size) {
     if (!m_failure.message.empty())
-        return false;
-    if (m_fed == 0 && looksLikeUtf16({bytes, size})) {
+        return nullptr;
+    m_room = static_cast<char *>(XML_GetBuffer(m_parser.get(), int(size)));
+    if (!m_room)
+        m_failure = {"There is not enough memory for the manifest.", {}};
+    return m_room;
+}
+
+bool ManifestParser::feed(std::size_t size, bool isLast) {
+    if (m_fed == 0 && looksLikeUtf16({m_room, size})) {
         m_failure = {"The text is UTF-16; a manifest is UTF-8.", {1, 1}};
         return false;
     }
     m_fed += size;
-    const XML_Status status = XML_Parse(m_parser.get(), bytes, int(size), isLast);
+    const XML_Status status = XML_ParseBuffer(m_parser.get(), int(size), isLast);
     if (!m_failure.message.empty())
         return false;
     if (status == XML_STATUS_ERROR) {
@@ -124,7 +103,7 @@ bool ManifestParser::feed(const char *bytes, std::size_t size, bool isLast) {
     }
     const XML_Index parsed = XML_GetCurrentByteIndex(m_parser.get());
     if (!isLast && parsed >= 0 && m_fed - std::uint64_t(parsed) > hopelessLag) {
-        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        fail(tagTooLong);
         return false;
     }
     return true;
@@ -166,7 +145,7 @@ void ManifestParser::onRaw(void *self, const XML_Char *raw, int size) {
 
 void ManifestParser::onDoctype(void *self, const XML_Char *, const XML_Char *, const XML_Char *,
                                int) {
-    parserAt(self).fail("A document type declaration is not allowed.");
+    parserAt(self).fail(documentType);
 }
 
 void ManifestParser::onDeclaration(void *self, const XML_Char *version, const XML_Char *encoding,
@@ -183,21 +162,17 @@ bool ManifestParser::checkTag() {
         return false;
     const int length = XML_GetCurrentByteCount(m_parser.get());
     if (std::size_t(length) > ManifestReader::maxTagLength) {
-        fail("A tag, comment or processing instruction is longer than 1 MiB.");
+        fail(tagTooLong);
         return false;
     }
     return true;
 }
 
 void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
-    if (!checkTag())
+    if (!m_failure.message.empty())
         return;
-    if (++m_depth > ManifestReader::maxDepth)
-        return fail("More than " + std::to_string(ManifestReader::maxDepth) +
-                    " elements stand within each other.");
-    if (XML_GetSpecifiedAttributeCount(m_parser.get()) / 2 > ManifestReader::maxAttributes)
-        return fail("The element " + tagged(name) + " has more than " +
-                    std::to_string(ManifestReader::maxAttributes) + " attributes.");
+    if (std::string sentence = exceededBound(m_parser.get(), name, ++m_depth); !sentence.empty())
+        return fail(std::move(sentence));
 
     if (m_unknownDepth == 0) {
         if (m_open == 0) {
@@ -206,11 +181,10 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
             openFrame(Element::Package, attributes);
             return;
         }
-        for (const Element child : ruleOf(top().element).children) {
-            if (ruleOf(child).name == name) {
-                openFrame(child, attributes);
-                return;
-            }
+        const Element child = childNamed(*top().rule, name);
+        if (child != Element::Count) {
+            openFrame(child, attributes);
+            return;
         }
         m_raw.clear();
     }
@@ -230,8 +204,10 @@ void ManifestParser::end() {
     }
 
     Frame &frame = top();
-    if (ruleOf(frame.element).content == Content::Text)
+    if (frame.rule->content == Content::Text)
         storeText(frame);
+    else if (frame.element == Element::BehaviorTexts)
+        storeLists(frame.key);
     if (frame.extras)
         storeExtras(frame);
     endRecord(frame);
@@ -248,10 +224,10 @@ void ManifestParser::text(std::string_view text) {
     }
     if (m_open == 0)
         return;
-    if (ruleOf(top().element).content == Content::Text)
+    if (top().rule->content == Content::Text)
         m_text += text;
     else if (!isWhiteSpace(text))
-        fail("Text is not allowed in " + tagged(ruleOf(top().element).name) + '.');
+        fail("Text is not allowed in " + tagged(top().rule->name) + '.');
 }
 
 // Comments, processing instructions and unknown elements wait for the child that follows them.
@@ -264,7 +240,7 @@ void ManifestParser::keepRaw(std::string xml) {
     }
     Frame &frame = top();
     Position position;
-    if (ruleOf(frame.element).content == Content::Text)
+    if (frame.rule->content == Content::Text)
         position = {Element::InText, {}, int(m_text.size())};
     frame.ownExtras().kept.push_back({std::move(position), std::move(xml)});
 }
@@ -272,6 +248,7 @@ void ManifestParser::keepRaw(std::string xml) {
 bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
+    frame.rule = &ruleOf(element);
     frame.seen = 0;
     frame.unplaced = 0;
     frame.keys.clear();
@@ -279,7 +256,7 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     if (!readAttributes(frame, attributes))
         return false;
 
-    const ElementRule &rule = ruleOf(element);
+    const ElementRule &rule = *frame.rule;
     if (rule.keyAttribute >= 0)
         frame.key = m_values[std::size_t(rule.keyAttribute)];
     else
@@ -301,18 +278,19 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
 }
 
 bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
-    const ElementRule &rule = ruleOf(frame.element);
+    const ElementRule &rule = *frame.rule;
     const std::size_t known = rule.attributes.size();
     m_present = 0;
     for (std::size_t i = 0; i < known; ++i)
         m_values[i].clear();
 
     for (; *attributes; attributes += 2) {
+        const std::string_view name(attributes[0]);
         std::size_t i = 0;
-        while (i < known && rule.attributes[i].name != attributes[0])
+        while (i < known && rule.attributes[i].name != name)
             ++i;
         if (i == known) {
-            frame.ownExtras().attributes.emplace_back(attributes[0], attributes[1]);
+            frame.ownExtras().attributes.emplace_back(name, attributes[1]);
         } else {
             m_values[i] = attributes[1];
             m_present |= 1U << i;
@@ -330,14 +308,14 @@ bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
 }
 
 bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
-    const ElementRule &rule = ruleOf(child.element);
+    const ElementRule &rule = *child.rule;
     bool isNew = true;
     if (rule.occurs == Occurs::Once) {
         const std::uint32_t bit = 1U << std::uint32_t(child.element);
         isNew = !(parent.seen & bit);
         parent.seen |= bit;
     } else if (rule.occurs == Occurs::OncePerKey) {
-        isNew = parent.keys.emplace(child.element, child.key).second;
+        isNew = parent.keys.add(child.element, child.key);
     }
     if (!isNew)
         fail("The element " + describe(child) + " stands twice in " + describe(parent) + '.');
@@ -414,7 +392,7 @@ bool ManifestParser::takeFlag(const Frame &frame, int attribute) {
         return false;
     const std::string value = take(attribute);
     if (value != "true" && value != "false") {
-        const ElementRule &rule = ruleOf(frame.element);
+        const ElementRule &rule = *frame.rule;
         fail("The attribute " + quoted(rule.attributes[std::size_t(attribute)].name) + " of " +
              tagged(rule.name) + " is " + quoted(value) + R"( instead of "true" or "false".)");
     }
@@ -456,7 +434,7 @@ void ManifestParser::storeText(Frame &frame) {
     case Element::Tag:
     case Element::TriggerSentence:
     case Element::LoadingResponse:
-        (*listsField(*m_behavior, frame.element))[parentOf(frame).key].push_back(m_text);
+        openList(frame.element)->push_back(m_text);
         break;
     case Element::Permission:
         m_behavior->permissions.push_back(m_text);
@@ -477,6 +455,34 @@ void ManifestParser::storeText(Frame &frame) {
     default:
         break;
     }
+}
+
+std::vector<std::string> *ManifestParser::openList(Element element) {
+    switch (element) {
+    case Element::Tag:
+        return &m_tags;
+    case Element::TriggerSentence:
+        return &m_triggerSentences;
+    case Element::LoadingResponse:
+        return &m_loadingResponses;
+    default:
+        return nullptr;
+    }
+}
+
+// Moves the texts of a block's lists into lists that take no more room than they need.
+void ManifestParser::storeLists(const std::string &language) {
+    const auto store = [&](std::vector<std::string> &open, TextListMap &lists) {
+        if (open.empty())
+            return;
+        lists.emplace_hint(lists.end(), std::piecewise_construct, std::forward_as_tuple(language),
+                           std::forward_as_tuple(std::make_move_iterator(open.begin()),
+                                                 std::make_move_iterator(open.end())));
+        open.clear();
+    };
+    store(m_tags, m_behavior->tags);
+    store(m_triggerSentences, m_behavior->triggerSentences);
+    store(m_loadingResponses, m_behavior->loadingResponses);
 }
 
 TextMap &ManifestParser::textsField(Element block, Element field) {
@@ -542,14 +548,14 @@ int ManifestParser::nextIndex(const Frame &frame) {
     case Element::Tag:
     case Element::TriggerSentence:
     case Element::LoadingResponse:
-        return int(listOf(*listsField(*m_behavior, frame.element), parentOf(frame).key).size());
+        return int(openList(frame.element)->size());
     default:
         return 0;
     }
 }
 
 Position ManifestParser::positionOf(const Frame &frame) {
-    const bool byKey = ruleOf(frame.element).sortedByKey;
+    const bool byKey = frame.rule->sortedByKey;
     return {frame.element, byKey ? frame.key : std::string(), frame.index};
 }
 
@@ -565,12 +571,12 @@ void ManifestParser::notePosition(Frame &frame) {
         parent.element == Element::PackageTexts || parent.element == Element::BehaviorTexts;
     const std::string_view texts = inTexts ? std::string_view(parent.key) : std::string_view();
     frame.path = fieldPath(parent.path, frame.element, frame.key, frame.index, texts);
-    if (!ruleOf(frame.element).field.empty()) {
+    if (!frame.rule->field.empty()) {
         m_positions.add(frame.path, place);
         return;
     }
     // A block of texts is where the texts that are missing in it would stand.
-    for (const Element child : ruleOf(frame.element).children) {
+    for (const Element child : frame.rule->children) {
         std::string path = fieldPath(parent.path, child, {}, 0, frame.key);
         if (ruleOf(child).occurs == Occurs::AnyTimes)
             path.resize(path.rfind('['));
@@ -579,7 +585,7 @@ void ManifestParser::notePosition(Frame &frame) {
 }
 
 std::string ManifestParser::describe(const Frame &frame) {
-    const ElementRule &rule = ruleOf(frame.element);
+    const ElementRule &rule = *frame.rule;
     std::string text(rule.name);
     if (rule.keyAttribute >= 0) {
         const auto &key = rule.attributes[std::size_t(rule.keyAttribute)].name;
@@ -601,60 +607,15 @@ void ManifestParser::fail(std::string message) {
 }
 
 void ManifestParser::failFromExpat() {
-    const auto sentence = [this]() -> std::string {
-        const XML_Error error = XML_GetErrorCode(m_parser.get());
-        switch (error) {
-        case XML_ERROR_NO_ELEMENTS:
-            if (m_open > 0)
-                return "The manifest ends while " + describe(top()) + " is open.";
-            return m_fed == 0 ? "The manifest is empty."
-                              : "The manifest ends before its root element.";
-        case XML_ERROR_UNCLOSED_TOKEN:
-        case XML_ERROR_PARTIAL_CHAR:
-            return "The manifest ends in the middle of a tag or character.";
-        case XML_ERROR_UNCLOSED_CDATA_SECTION:
-            return "The manifest ends in the middle of a CDATA section.";
-        case XML_ERROR_TAG_MISMATCH:
-            return "The end tag does not belong to the element that is open.";
-        case XML_ERROR_DUPLICATE_ATTRIBUTE:
-            return "An attribute stands twice on one element.";
-        case XML_ERROR_UNDEFINED_ENTITY:
-            return "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are.";
-        case XML_ERROR_SYNTAX:
-            return "The text is not XML: it does not begin with a tag.";
-        case XML_ERROR_BAD_CHAR_REF:
-            return "The reference is to a character that XML does not allow.";
-        case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
-            return "Something stands after the end of the root element.";
-        case XML_ERROR_MISPLACED_XML_PI:
-            return "The XML declaration does not stand at the very beginning.";
-        case XML_ERROR_INVALID_TOKEN:
-            return describeBadByte();
-        default:
-            return std::string("The text is not well-formed XML: ") + XML_ErrorString(error) + '.';
-        }
-    }();
-    m_failure = {sentence, here()};
-}
-
-std::string ManifestParser::describeBadByte() const {
-    int offset = 0;
-    int size = 0;
-    const char *context = XML_GetInputContext(m_parser.get(), &offset, &size);
-    const bool hasByte = context && offset < size;
-    const auto byte = hasByte ? static_cast<unsigned char>(context[offset]) : 0x20;
-    if (byte == 0)
-        return "A NUL byte is not allowed.";
-    if (byte >= 0x80)
-        return "The bytes here are not valid UTF-8, or stand for a character that XML does not "
-               "allow.";
-    if (hasByte && offset > 0 && context[offset - 1] == '&')
-        return "An \"&\" begins a reference here; the character itself is written &amp;.";
-    if (isWhiteSpace({context + offset, hasByte ? 1U : 0U}))
-        return "The text is not well-formed XML.";
-    if (byte < 0x20)
-        return "A control character is not allowed.";
-    return "The character " + quoted({context + offset, 1}) + " is not allowed here.";
+    std::string sentence;
+    if (XML_GetErrorCode(m_parser.get()) != XML_ERROR_NO_ELEMENTS)
+        sentence = describeXmlError(m_parser.get(), "manifest");
+    else if (m_open > 0)
+        sentence = "The manifest ends while " + describe(top()) + " is open.";
+    else
+        sentence =
+            m_fed == 0 ? "The manifest is empty." : "The manifest ends before its root element.";
+    m_failure = {std::move(sentence), here()};
 }
 
 } // namespace Tano

@@ -6,12 +6,79 @@
 #include <QFile>
 
 #include <algorithm>
-#include <vector>
+#include <memory>
 
 namespace Tano {
 namespace {
 
-constexpr std::size_t chunkSize = std::size_t(64) * 1024;
+constexpr std::size_t streamPiece = std::size_t(64) << 10;
+
+// Where the bytes of a manifest come from. read() gives what is there, fewer bytes than wanted at
+// the end, and a negative count where reading failed.
+
+class ContentSource {
+public:
+    explicit ContentSource(const std::string &content)
+        : m_content(content) {}
+
+    static bool isSequential() { return false; }
+    qint64 left() const { return qint64(m_content.size() - m_done); }
+    qint64 read(char *room, std::size_t size) {
+        const std::size_t copied = m_content.copy(room, size, m_done);
+        m_done += copied;
+        return qint64(copied);
+    }
+    bool rewind() {
+        m_done = 0;
+        return true;
+    }
+    static std::string error() { return {}; }
+
+private:
+    const std::string &m_content;
+    std::size_t m_done = 0;
+};
+
+class FileSource {
+public:
+    explicit FileSource(QFile &file)
+        : m_file(file)
+        , m_start(file.pos()) {}
+
+    bool isSequential() const { return m_file.isSequential(); }
+    qint64 left() const { return m_file.size() - m_file.pos(); }
+    qint64 read(char *room, std::size_t size) { return m_file.read(room, qint64(size)); }
+    bool rewind() { return m_file.seek(m_start); }
+    std::string error() const {
+        return "The file cannot be read: " + m_file.errorString().toStdString() + '.';
+    }
+
+private:
+    QFile &m_file;
+    qint64 m_start;
+};
+
+// Feeds a parser until the end or a failure; returns the failure.
+template<typename Source>
+ManifestFailure feedAll(ManifestParser &parser, Source &source, std::size_t maxPiece) {
+    bool isLast = false;
+    while (!isLast) {
+        // One byte more than should be left, so that fewer come at the end.
+        const bool knowsEnd = !source.isSequential() && source.left() > 0;
+        const std::size_t wanted =
+            knowsEnd ? std::size_t(std::min(source.left() + 1, qint64(maxPiece))) : streamPiece;
+        char *room = parser.room(wanted);
+        if (!room)
+            break;
+        const qint64 size = source.read(room, wanted);
+        if (size < 0)
+            return {source.error(), {}};
+        isLast = source.isSequential() ? size == 0 : std::size_t(size) < wanted;
+        if (!parser.feed(std::size_t(size), isLast))
+            break;
+    }
+    return parser.failure();
+}
 
 } // namespace
 
@@ -20,12 +87,22 @@ struct ManifestReader::State {
     ManifestFailure failure;
     FieldPositions fields;
 
-    bool finish(ManifestParser &parser, PackageInfo &package) {
-        failure = parser.failure();
-        fields = parser.takeFieldPositions();
+    template<typename Source>
+    bool read(Source source, PackageInfo &package) {
+        const bool keepPositions = positions == Positions::Keep;
+        const bool isLong =
+            !source.isSequential() && source.left() > qint64(ManifestParser::hopelessLag);
+        auto parser = std::make_unique<ManifestParser>(keepPositions);
+        failure = feedAll(*parser, source, ManifestParser::maxPiece);
+        // In small pieces, a tag without end is refused for that, not for what stands in it later.
+        if (!failure.message.empty() && isLong && source.rewind()) {
+            parser = std::make_unique<ManifestParser>(keepPositions);
+            failure = feedAll(*parser, source, streamPiece);
+        }
+        fields = parser->takeFieldPositions();
         if (!failure.message.empty())
             return false;
-        RecordAccess::assign(package, parser.takePackage());
+        RecordAccess::assign(package, parser->takePackage());
         return true;
     }
 };
@@ -37,43 +114,17 @@ ManifestReader::ManifestReader(Positions positions)
 ManifestReader::~ManifestReader() = default;
 
 bool ManifestReader::readContent(const std::string &content, PackageInfo &package) {
-    ManifestParser parser(m_state->positions == Positions::Keep);
-    std::size_t start = 0;
-    do {
-        const std::size_t size = std::min(chunkSize, content.size() - start);
-        const bool isLast = start + size == content.size();
-        if (!parser.feed(content.data() + start, size, isLast))
-            break;
-        start += size;
-    } while (start < content.size());
-    return m_state->finish(parser, package);
+    return m_state->read(ContentSource(content), package);
 }
 
 bool ManifestReader::readFile(QFile &file, PackageInfo &package) {
     const bool opensFile = !file.isOpen();
-    if (opensFile && !file.open(QIODevice::ReadOnly)) {
+    if (opensFile && !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         m_state->failure = {"The file cannot be opened: " + file.errorString().toStdString() + ".",
                             {}};
         return false;
     }
-
-    ManifestParser parser(m_state->positions == Positions::Keep);
-    std::vector<char> chunk(chunkSize);
-    bool isLast = false;
-    while (!isLast) {
-        const qint64 size = file.read(chunk.data(), qint64(chunk.size()));
-        if (size < 0) {
-            m_state->failure = {
-                "The file cannot be read: " + file.errorString().toStdString() + ".", {}};
-            break;
-        }
-        isLast = size == 0;
-        if (!parser.feed(chunk.data(), std::size_t(size), isLast))
-            break;
-    }
-
-    const bool complete = isLast || !parser.failure().message.empty();
-    const bool succeeded = complete && m_state->finish(parser, package);
+    const bool succeeded = m_state->read(FileSource(file), package);
     if (opensFile)
         file.close();
     return succeeded;
@@ -88,11 +139,7 @@ SourcePosition ManifestReader::errorPosition() const {
 }
 
 std::string ManifestReader::errorString() const {
-    const ManifestFailure &failure = m_state->failure;
-    if (failure.message.empty() || failure.position.line == 0)
-        return failure.message;
-    return "Line " + std::to_string(failure.position.line) + ", column " +
-           std::to_string(failure.position.column) + ": " + failure.message;
+    return withPosition(m_state->failure.message, m_state->failure.position);
 }
 
 SourcePosition ManifestReader::position(const std::string &path) const {

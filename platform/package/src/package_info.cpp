@@ -47,10 +47,16 @@ bool removeEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int
     return true;
 }
 
+// Both are in ascending order, and most maps hold all of the keys: the next one is mostly the one
+// that is wanted.
 template<typename Map>
 void addKeys(std::set<std::string> &keys, const Map &map) {
-    for (const auto &entry : map)
-        keys.insert(entry.first);
+    auto next = keys.begin();
+    for (const auto &entry : map) {
+        if (next == keys.end() || *next != entry.first)
+            next = keys.insert(entry.first).first;
+        ++next;
+    }
 }
 
 } // namespace
@@ -297,6 +303,15 @@ std::set<std::string> PackageInfo::languageCodes() const {
     for (const DialogInfo &dialog : dialogs())
         addKeys(codes, dialog.topics());
     return codes;
+}
+
+void PackageInfo::trimExtraInfo() {
+    PackageData &data = RecordAccess::edit(*this);
+    keepOnly(data.names, data.descriptionLanguages);
+    keepOnly(data.descriptions, data.descriptionLanguages);
+    dropForeign(data.extras, Element::PackageTexts, data.descriptionLanguages);
+    for (BehaviorInfo &behavior : data.behaviors)
+        behavior.trimExtraInfo(data.descriptionLanguages, data.supportedLanguages);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {

@@ -4,6 +4,8 @@
 
 #include "extras.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -98,6 +100,15 @@ inline const std::vector<std::string> &listOf(const TextListMap &lists, const st
     static const std::vector<std::string> empty;
     const auto it = lists.find(key);
     return it == lists.end() ? empty : it->second;
+}
+
+/// Erases all but the entries of those keys.
+template<typename Map>
+void keepOnly(Map &map, const std::vector<std::string> &keys) {
+    for (auto it = map.begin(); it != map.end();) {
+        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
+        it = isKept ? std::next(it) : map.erase(it);
+    }
 }
 
 } // namespace Tano

@@ -7,25 +7,46 @@ _zel_package_languages() {
     done
 }
 
+# The rules that validate can ignore, as the program itself lists them.
+_zel_package_rules() {
+    "$1" explain 2>/dev/null | while read -r id severity _; do
+        [[ $severity == @(error|warning) && $id != manifest-malformed ]] && printf '%s\n' "$id"
+    done
+}
+
 _zel_package() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     local words=
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words='new show format set languages --help --version'
+        words='new show validate format set publish explain languages robots --help --version'
     else
         case ${COMP_WORDS[1]}:$previous in
         *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
         show:--format) words='text json' ;;
+        validate:--format) words='text json sarif' ;;
+        validate:--fail-on) words='error warning' ;;
+        validate:--ignore)
+            # The list so far stays in front of each word.
+            [[ $current == *,* ]] && local listed=${current%,*},
+            words=$(_zel_package_rules "${COMP_WORDS[0]}")
+            words=${words//$'\n'/ }
+            words=${listed-}${words// / ${listed-}}
+            ;;
+        explain:explain)
+            words="$(_zel_package_rules "${COMP_WORDS[0]}") manifest-malformed --help"
+            ;;
         *:--uid | *:--name) return ;;
         *)
             [[ $current == -* ]] && case ${COMP_WORDS[1]} in
             new) words='--uid --name --language --help' ;;
             show) words='--language --format --help' ;;
+            validate) words='--format --fail-on --ignore --explain --help' ;;
             format) words='--check --help' ;;
             set) words='--dry-run --help' ;;
-            languages) words='--help' ;;
+            publish) words='--output --help' ;;
+            explain | languages | robots) words='--help' ;;
             esac
             ;;
         esac

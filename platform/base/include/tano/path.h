@@ -2,6 +2,7 @@
 
 #include <tano/tano_base_export.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,10 @@ namespace Tano::path {
 /// `excludeUser` leaves the user's own data directory out.
 [[nodiscard]] TANO_BASE_EXPORT std::vector<std::string>
 dataDirectories(const std::string &application, bool excludeUser);
+
+/// Those of the environment variable alone; nothing where it is not set, even to the empty text.
+[[nodiscard]] TANO_BASE_EXPORT std::optional<std::vector<std::string>>
+environmentDirectories(const std::string &application);
 
 /// The absolute path of the first file or folder named `relativePath` in dataDirectories(), or the
 /// empty text when there is none. A path that is absolute, or that leads out of the data directory

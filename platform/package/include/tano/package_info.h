@@ -109,6 +109,12 @@ public:
     /// Every language code that the record mentions, its behaviors and dialogs included.
     [[nodiscard]] std::set<std::string> languageCodes() const;
 
+    /// Drops the names and descriptions in languages other than the description languages, those of
+    /// the behaviors included, and the behaviors' tags, trigger sentences and loading responses in
+    /// languages other than the supported ones. What else a manifest holds within the texts of a
+    /// language goes with them.
+    void trimExtraInfo();
+
     /// Reads the manifest in `file`: from its current position when it is open, else by opening it.
     /// Returns false, keeps the record as it was and sets errorString() when that fails.
     bool loadFromManifestFile(QFile &file);

@@ -54,12 +54,6 @@ std::vector<std::string> codesOf(const RobotLanguages &languages) {
     return codes;
 }
 
-template<typename Values>
-void keepOnly(const RobotLanguages &languages, Values &values) {
-    const auto isForeign = [&](const auto &value) { return !contains(languages, value.second); };
-    values.erase(std::remove_if(values.begin(), values.end(), isForeign), values.end());
-}
-
 } // namespace
 
 const BehaviorInfoModel::Data::ListKind<RobotLanguage> BehaviorInfoModel::Data::tagKind{
@@ -122,7 +116,7 @@ bool BehaviorInfoModel::Data::insert(const ListKind<Key> &kind, const QString &n
     (edit().*kind.insert)(toUtf8(value), recordKey(key), index);
     editCache<Key>(*this, kind,
                    [&](auto &cache) { Language::insertValue(cache, index, value, key); });
-    Q_EMIT(model->*kind.inserted)(value, key, list(kind, key).indexOf(value));
+    Q_EMIT(model->*kind.inserted)(value, key, static_cast<int>(list(kind, key).indexOf(value)));
     return true;
 }
 

@@ -5,6 +5,11 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -84,6 +89,10 @@ std::vector<QPointer<Child>> guarded(const QVector<Child *> &children) {
 template<typename Child>
 class ChildList;
 
+/// Children by the key that they are looked up by; of those with the same key, in their order.
+template<typename Child>
+using ChildIndex = std::map<std::pair<std::string, std::uint64_t>, Child *>;
+
 /// What every child model holds: its record, and the list of the package that it stands in.
 template<typename Child>
 class ChildData {
@@ -95,7 +104,7 @@ public:
         , m_record(std::move(record)) {}
     ~ChildData() {
         if (m_list)
-            m_list->forget(m_child);
+            m_list->forget(*this);
     }
     ChildData(const ChildData &) = delete;
     ChildData &operator=(const ChildData &) = delete;
@@ -121,6 +130,8 @@ private:
     Child *m_child;
     Record m_record;
     ChildList<Child> *m_list = nullptr;
+    std::uint64_t m_serial = 0; // ascending along the list
+    std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;
     bool m_stale = false; // listed for the next resync
 };
 
@@ -163,8 +174,12 @@ public:
     void append(Child *child) {
         auto &data = ChildAccess::data(*child);
         data.m_list = this;
+        data.m_serial = m_nextSerial++;
+        data.m_indexEntry.reset();
         data.m_stale = false;
         m_children.append(child);
+        if (m_isIndexed)
+            addToIndex(child);
         std::apply(
             [&](auto... changes) {
                 (QObject::connect(child, changes, m_package, m_resyncSlot), ...);
@@ -175,6 +190,7 @@ public:
     /// Takes a child out of the list and brings the record up to date, without notification.
     Child *takeAt(int index) {
         Child *child = m_children.takeAt(index);
+        dropTraces(ChildAccess::data(*child));
         if (index < m_mirrored) {
             (m_record.*Kind::remove)(index);
             --m_mirrored;
@@ -186,34 +202,76 @@ public:
 
     /// Lets a child go to another package.
     void release(Child *child) {
-        takeAt(m_children.indexOf(child));
+        takeAt(indexOf(child));
         QObject::disconnect(child, nullptr, m_package, nullptr);
     }
 
-    /// Drops a child that is being deleted. The record waits for the next resync.
-    void forget(Child *child) {
-        m_children.removeOne(child);
-        m_stale.erase(std::remove(m_stale.begin(), m_stale.end(), child), m_stale.end());
+    /// The index of a child; the number of children when it is not there.
+    int indexOf(const Child *child) const {
+        if (!child || !contains(*child))
+            return static_cast<int>(m_children.size());
+        const auto isBefore = [](const Child *a, std::uint64_t serial) {
+            return ChildAccess::data(*a).m_serial < serial;
+        };
+        const auto found = std::lower_bound(m_children.cbegin(), m_children.cend(),
+                                            ChildAccess::data(*child).m_serial, isBefore);
+        return static_cast<int>(found - m_children.cbegin());
+    }
+
+    /// The first child whose key is `key`, or begins with it and a NUL; null for none.
+    Child *find(std::string key) {
+        if (!m_isIndexed) {
+            m_isIndexed = true;
+            for (Child *child : std::as_const(m_children)) {
+                if (!ChildAccess::data(*child).m_stale)
+                    addToIndex(child);
+            }
+        }
+        const auto entry = m_index.lower_bound({key, 0});
+        Child *found =
+            entry != m_index.end() && entry->first.first == key ? entry->second : nullptr;
+        for (Child *child : m_stale) {
+            const bool isFirst =
+                !found || ChildAccess::data(*child).m_serial < ChildAccess::data(*found).m_serial;
+            if (isFirst && key == keyOf(*child).c_str())
+                found = child;
+        }
+        return found;
+    }
+
+    static const std::string &keyOf(const Child &child) {
+        return std::invoke(Kind::key, ChildAccess::data(child).record());
+    }
+
+    /// Drops a child that is being deleted, of which nothing but `data` is left. The record waits
+    /// for the next resync.
+    void forget(ChildData<Child> &data) {
+        m_children.removeOne(data.m_child);
+        dropTraces(data);
         setOutOfStep();
     }
 
-    void noteChange(Child *child) { m_stale.push_back(child); }
+    void noteChange(Child *child) {
+        m_stale.push_back(child);
+        dropFromIndex(ChildAccess::data(*child));
+    }
 
     /// Says that the record's list no longer mirrors the children.
     void setOutOfStep() { m_mirrored = outOfStep; }
     /// Says that the record's list mirrors the children.
-    void setInStep() { m_mirrored = m_children.size(); }
+    void setInStep() { m_mirrored = static_cast<int>(m_children.size()); }
 
     void resync() {
         if (m_mirrored == outOfStep) {
             (m_record.*Kind::clear)();
             m_mirrored = 0;
         }
-        for (const Child *child : m_stale) {
+        for (Child *child : m_stale) {
             auto &data = ChildAccess::data(*child);
             data.m_stale = false;
-            const int index = indexOf(child);
-            if (index < m_mirrored)
+            if (m_isIndexed)
+                addToIndex(child);
+            if (const int index = m_mirrored > 0 ? indexOf(child) : 0; index < m_mirrored)
                 (m_record.*Kind::replace)(index, data.record());
         }
         m_stale.clear();
@@ -224,9 +282,21 @@ public:
 private:
     static constexpr int outOfStep = -1;
 
-    int indexOf(const Child *child) const {
-        return static_cast<int>(std::find(m_children.cbegin(), m_children.cend(), child) -
-                                m_children.cbegin());
+    void addToIndex(Child *child) {
+        auto &data = ChildAccess::data(*child);
+        data.m_indexEntry =
+            m_index.emplace(std::make_pair(keyOf(*child).c_str(), data.m_serial), child).first;
+    }
+
+    void dropFromIndex(ChildData<Child> &data) {
+        if (data.m_indexEntry)
+            m_index.erase(*data.m_indexEntry);
+        data.m_indexEntry.reset();
+    }
+
+    void dropTraces(ChildData<Child> &data) {
+        dropFromIndex(data);
+        m_stale.erase(std::remove(m_stale.begin(), m_stale.end(), data.m_child), m_stale.end());
     }
 
     PackageInfoModel *m_package;
@@ -234,7 +304,10 @@ private:
     ResyncSlot m_resyncSlot;
     QVector<Child *> m_children;
     std::vector<Child *> m_stale; // the children whose records changed since the last resync
-    int m_mirrored = outOfStep;   // how many children, from the first on, the record's list mirrors
+    std::uint64_t m_nextSerial = 0;
+    ChildIndex<Child> m_index; // of the children that are not stale, from the first look-up on
+    bool m_isIndexed = false;
+    int m_mirrored = outOfStep; // how many children, from the first on, the record's list mirrors
 };
 
 } // namespace Zel

@@ -9,6 +9,7 @@
 
 #include <QObject>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -33,6 +34,13 @@ namespace Zel {
                                    const RobotLanguage &language);
 
 [[nodiscard]] bool contains(const RobotLanguages &languages, const RobotLanguage &language);
+
+/// Erases what a list holds for other languages.
+template<typename Values>
+void keepOnly(const RobotLanguages &languages, Values &values) {
+    const auto isForeign = [&](const auto &value) { return !contains(languages, value.second); };
+    values.erase(std::remove_if(values.begin(), values.end(), isForeign), values.end());
+}
 
 /// One kind of text per language: the operations of the record behind it, the cache, and the
 /// notification that its setter sends.

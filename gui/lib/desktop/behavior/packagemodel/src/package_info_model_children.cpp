@@ -4,8 +4,7 @@
 
 #include <QPointer>
 
-#include <cstring>
-#include <functional>
+#include <algorithm>
 
 namespace Zel {
 namespace {
@@ -53,7 +52,7 @@ bool remove(PackageInfoModel *package, ChildList<Child> &list, int index) {
 
 template<typename Child>
 bool remove(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
-    return remove(package, list, list.children().indexOf(child));
+    return remove(package, list, list.indexOf(child));
 }
 
 // Receivers may add and remove children meanwhile; what they add stays.
@@ -65,22 +64,20 @@ void clear(PackageInfoModel *package, ChildList<Child> &list) {
     }
 }
 
-// Compares bytes, which spares decoding every record; the answer is that of comparing the decoded
+// Looks for bytes, which spares decoding every record; the answer is that of comparing the decoded
 // texts.
 template<typename Child>
-Child *find(const ChildList<Child> &list, const QString &key) {
+Child *find(ChildList<Child> &list, const QString &key) {
     if (!key.isValidUtf16() || key.contains(QChar::Null))
         return nullptr; // nothing decodes to this
-    const bool mayBeMalformed = key.contains(QChar::ReplacementCharacter);
-    const std::string bytes = toUtf8(key);
-    for (Child *child : list.children()) {
-        const std::string &candidate =
-            std::invoke(ChildKind<Child>::key, ChildAccess::data(*child).record());
-        if (std::strcmp(candidate.c_str(), bytes.c_str()) == 0 ||
-            (mayBeMalformed && fromUtf8(candidate) == key))
-            return child;
-    }
-    return nullptr;
+    if (!key.contains(QChar::ReplacementCharacter))
+        return list.find(toUtf8(key));
+    // Malformed bytes of any kind decode to this.
+    const auto &children = list.children();
+    const auto found = std::find_if(children.begin(), children.end(), [&](const Child *child) {
+        return fromUtf8(ChildList<Child>::keyOf(*child)) == key;
+    });
+    return found == children.end() ? nullptr : *found;
 }
 
 } // namespace

@@ -77,7 +77,7 @@ PackageStringCommand::PackageStringCommand(PackageInfoModel *model, const QStrin
     : PackageGenericValueCommand(model, QString())
     , m_what(what)
     , m_edit{newValue, value(), isFinal} {
-    setText(QCoreApplication::translate(plainContext, "Set application's %1")
+    setText(QCoreApplication::translate("Zel::PackageStringCommand", "Set application's %1")
                 .arg(wordOf(rowOf(plainTexts, m_what), plainContext)));
 }
 
@@ -123,7 +123,8 @@ PackageLocalizedStringCommand::PackageLocalizedStringCommand(PackageInfoModel *m
     , m_language(language)
     , m_edit{newValue, value(), isFinal} {
     setText(
-        QCoreApplication::translate(localizedContext, "Set application's %1 (%2)")
+        QCoreApplication::translate("Zel::PackageLocalizedStringCommand",
+                                    "Set application's %1 (%2)")
             .arg(wordOf(rowOf(localizedTexts, m_what), localizedContext), m_language.isoCode()));
 }
 

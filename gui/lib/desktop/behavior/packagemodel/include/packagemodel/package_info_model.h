@@ -80,6 +80,24 @@ public:
     /// blocked, wait for this or for the next change of a child of the same kind.
     void syncRecord();
 
+    // Preparing a package for publication: first drop what it does not offer, then make its texts
+    // plain. The script variants' languages are no description languages, so that trimming again
+    // drops the scripts.
+
+    /// Drops the package's and the behaviors' names and descriptions in languages other than the
+    /// description languages, and the behaviors' tags, trigger sentences and loading responses in
+    /// languages other than the supported ones. Does not notify.
+    void trimExtraInfo();
+
+    /// Makes plain text (Tano::PackageHelper::getHumanReadableText()) of the names and descriptions
+    /// of the package and its behaviors and, in the supported languages, of the trigger sentences
+    /// and loading responses. The text as it was is kept in the script variant of its language
+    /// (PackageModel::k_sa), which itself is left alone. Every change notifies.
+    ///
+    /// A text that is a malformed script stays, and is told of in the log;
+    /// PackageModel::scriptErrors() lists them beforehand.
+    void genPlainTextFromScript();
+
     /// The record, as it is saved.
     [[nodiscard]] const Tano::PackageInfo &packageInfo() const;
 

@@ -5,6 +5,7 @@
 #include <tano/requirements.h>
 #include <zel/software_version.h>
 
+#include <QMap>
 #include <QMetaType>
 #include <QString>
 
@@ -13,6 +14,14 @@ namespace Zel {
 /// A robot that a package runs on, with the versions of its head and body that it accepts. A
 /// version without fields is a bound that is not set.
 struct PACKAGEMODEL_EXPORT RobotRequirement {
+    /// The robots that a package may require: what `model` holds for each, and the text for the
+    /// user. There is one for any robot, one for any model of each family ("HERON"), and one for
+    /// each model ("HERON_H1").
+    ///
+    /// Read from the known robot models (Zel::RobotModel) when first asked for, and kept from then
+    /// on. Texts are in the language of the application at that time.
+    [[nodiscard]] static const QMap<QString, QString> &prettyRobotNames();
+
     QString model; ///< the model or family; empty for any robot
     SoftwareVersion minHeadVersion;
     SoftwareVersion maxHeadVersion;

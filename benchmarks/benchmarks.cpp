@@ -1,0 +1,244 @@
+// The cases that script/bench runs, each in a process of its own, and sets in proportion to each
+// other. Sizes are numbers of behaviors; the manifests come from write_samples, so that the heap of
+// a case has no history.
+
+#include "sample_package.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_info_utils.h>
+#include <packagemodel/package_info_validator.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+
+using namespace Zel;
+
+namespace {
+
+[[noreturn]] void giveUp(const std::string &reason) {
+    std::cerr << "benchmarks: " << reason << '\n';
+    std::exit(EXIT_FAILURE);
+}
+
+int countOf(const benchmark::State &state) {
+    return static_cast<int>(state.range(0));
+}
+
+// The manifest of a package with as many behaviors.
+QByteArray manifest(const benchmark::State &state) {
+    QFile file(qEnvironmentVariable("ZEL_BENCHMARK_SAMPLES") + QLatin1Char('/') +
+               QString::number(countOf(state)) + QLatin1String(".xml"));
+    if (!file.open(QIODevice::ReadOnly))
+        giveUp("no manifest \"" + file.fileName().toStdString() + '"');
+    return file.readAll();
+}
+
+Tano::PackageInfo record(const benchmark::State &state) {
+    Tano::PackageInfo record;
+    if (!record.loadFromManifestContent(manifest(state).toStdString()))
+        giveUp(record.errorString());
+    return record;
+}
+
+// Times `make()` alone, not what it takes to be rid of its result.
+template<typename Make>
+void timeMaking(benchmark::State &state, Make &&make) {
+    for (auto _ : state) {
+        std::optional made(make());
+        benchmark::DoNotOptimize(*made);
+        state.PauseTiming();
+        made.reset();
+        state.ResumeTiming();
+    }
+}
+
+void load(benchmark::State &state) {
+    const std::string bytes = manifest(state).toStdString();
+    timeMaking(state, [&] {
+        Tano::PackageInfo package;
+        if (!package.loadFromManifestContent(bytes))
+            giveUp(package.errorString());
+        return package;
+    });
+}
+BENCHMARK(load)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void tokenize(benchmark::State &state) {
+    const QByteArray bytes = manifest(state);
+    for (auto _ : state) {
+        QXmlStreamReader reader(bytes);
+        while (!reader.atEnd())
+            benchmark::DoNotOptimize(reader.readNext());
+        if (reader.hasError())
+            giveUp(reader.errorString().toStdString());
+    }
+}
+BENCHMARK(tokenize)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void save(benchmark::State &state) {
+    const Tano::PackageInfo package = record(state);
+    timeMaking(state, [&] { return package.saveToManifestContent(); });
+}
+BENCHMARK(save)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+// What a document is made of, decoded, so that writing it is all that remains to be done.
+struct Token {
+    QXmlStreamReader::TokenType type;
+    QString text; // or the name of the element
+    QXmlStreamAttributes attributes;
+};
+
+std::vector<Token> tokensOf(const QByteArray &document) {
+    std::vector<Token> tokens;
+    QXmlStreamReader reader(document);
+    while (!reader.atEnd()) {
+        const auto type = reader.readNext();
+        const bool isElement = type == QXmlStreamReader::StartElement;
+        tokens.push_back({type, isElement ? reader.name().toString() : reader.text().toString(),
+                          reader.attributes()});
+    }
+    return tokens;
+}
+
+QByteArray writeTokens(const std::vector<Token> &tokens) {
+    QByteArray bytes;
+    QXmlStreamWriter writer(&bytes);
+    for (const Token &token : tokens) {
+        switch (token.type) {
+        case QXmlStreamReader::StartDocument:
+            writer.writeStartDocument();
+            writer.writeCharacters(QStringLiteral("\n"));
+            break;
+        case QXmlStreamReader::StartElement:
+            writer.writeStartElement(token.text);
+            writer.writeAttributes(token.attributes);
+            break;
+        case QXmlStreamReader::Characters:
+            writer.writeCharacters(token.text);
+            break;
+        case QXmlStreamReader::EndElement:
+            writer.writeEndElement();
+            break;
+        default:
+            break;
+        }
+    }
+    writer.writeCharacters(QStringLiteral("\n"));
+    return bytes;
+}
+
+void writeWithQt(benchmark::State &state) {
+    const QByteArray document = manifest(state);
+    const std::vector<Token> tokens = tokensOf(document);
+    if (writeTokens(tokens) != document)
+        giveUp("QXmlStreamWriter writes another document");
+    timeMaking(state, [&] { return writeTokens(tokens); });
+}
+BENCHMARK(writeWithQt)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+// A model can neither be copied nor moved out of a function.
+std::unique_ptr<PackageInfoModel> modelOf(const Tano::PackageInfo &package) {
+    return std::make_unique<PackageInfoModel>(package);
+}
+
+void makeModels(benchmark::State &state) {
+    const Tano::PackageInfo package = record(state);
+    timeMaking(state, [&] { return modelOf(package); });
+}
+BENCHMARK(makeModels)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+// One child after the other is edited, so that each is met cold.
+void editChild(benchmark::State &state) {
+    const auto package = modelOf(record(state));
+    const auto behaviors = package->behaviors();
+    const RobotLanguage language = Language::defaultLanguage();
+    const QString names[] = {QStringLiteral("A first name"), QStringLiteral("A second name")};
+    int next = 0;
+    int round = 0;
+    for (auto _ : state) {
+        behaviors.at(next)->setName(names[round], language);
+        if (++next == behaviors.size()) {
+            next = 0;
+            round = 1 - round;
+        }
+    }
+}
+BENCHMARK(editChild)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void copyListDeeply(benchmark::State &state) {
+    const Tano::PackageInfo package = record(state);
+    timeMaking(state, [&] {
+        std::vector<Tano::BehaviorInfo> copies = package.behaviors();
+        for (Tano::BehaviorInfo &copy : copies)
+            copy.setUserRequestable(copy.isUserRequestable()); // makes its data its own
+        return copies;
+    });
+}
+BENCHMARK(copyListDeeply)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void addChildren(benchmark::State &state) {
+    QStringList paths;
+    for (int i = 0; i < countOf(state); ++i)
+        paths.append(QString::fromStdString(SamplePackage::path(i)));
+    timeMaking(state, [&] {
+        auto package = std::make_unique<PackageInfoModel>();
+        for (const QString &path : std::as_const(paths))
+            package->addBehavior(path);
+        return package;
+    });
+}
+BENCHMARK(addChildren)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void validate(benchmark::State &state) {
+    const auto package = modelOf(record(state));
+    for (auto _ : state) {
+        QStringList errors;
+        QStringList warnings;
+        benchmark::DoNotOptimize(PackageModel::validate(package.get(), errors, warnings));
+    }
+}
+BENCHMARK(validate)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+// The validator alone is called: the change of the behavior itself is another figure.
+void recheckBehavior(benchmark::State &state) {
+    const auto package = modelOf(record(state));
+    PackageInfoValidator validator(package.get());
+    validator.activate();
+    const BehaviorInfoModel *behavior = package->behaviors().at(countOf(state) / 2);
+    for (auto _ : state)
+        validator.validateTriggerSentences(behavior);
+}
+BENCHMARK(recheckBehavior)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+void findChild(benchmark::State &state) {
+    const auto package = modelOf(record(state));
+    QStringList paths;
+    for (int i = 0; i < countOf(state); ++i)
+        paths.append(QString::fromStdString(SamplePackage::path(i)));
+    int next = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(package->behavior(paths.at(next)));
+        next = next + 1 == paths.size() ? 0 : next + 1;
+    }
+}
+BENCHMARK(findChild)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return EXIT_FAILURE;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return EXIT_SUCCESS;
+}

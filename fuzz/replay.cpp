@@ -1,0 +1,36 @@
+// Usage: REPLAY FOLDER...
+//
+// Tries every file below the folders on the fuzz target that this is linked with, in the order of
+// their names.
+
+#include "target.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+int main(int argc, char **argv) {
+    std::vector<fs::path> files;
+    for (int i = 1; i < argc; ++i) {
+        for (const auto &entry : fs::recursive_directory_iterator(argv[i])) {
+            if (entry.is_regular_file())
+                files.push_back(entry.path());
+        }
+    }
+    std::sort(files.begin(), files.end());
+
+    for (const fs::path &path : files) {
+        std::ifstream file(path, std::ios::binary);
+        const std::string input{std::istreambuf_iterator<char>(file), {}};
+        std::cerr << path.string() << std::endl; // the last one is the one that fails
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
+    }
+    std::cout << files.size() << " inputs tried\n";
+    return files.empty() ? EXIT_FAILURE : EXIT_SUCCESS;
+}

@@ -1,0 +1,201 @@
+#include <packagemodel/package_info_model.h>
+
+#include "copies.h"
+#include "log_category.h"
+#include "package_info_data.h"
+
+#include <packagemodel/package_scripts.h>
+
+#include <tano/log.h>
+#include <tano/package_helper.h>
+
+#include <exception>
+
+namespace Zel {
+namespace {
+
+// A kind of text that may be a script, with one per language: its word in the path of a field, and
+// how the model gives and takes it.
+template<typename Model>
+struct TextKind {
+    const char *field;
+    const Language::LocalizedStrings &(Model::*texts)() const;
+    void (Model::*set)(const QString &text, const RobotLanguage &language);
+};
+
+template<typename Model>
+constexpr TextKind<Model> textKinds[] = {
+    {"names", &Model::names, &Model::setName},
+    {"descriptions", &Model::descriptions, &Model::setDescription},
+};
+
+// The same for lists of them.
+struct ListKind {
+    const char *field;
+    QStringList (BehaviorInfoModel::*texts)(const RobotLanguage &language) const;
+    bool (BehaviorInfoModel::*add)(const QString &text, const RobotLanguage &language);
+    bool (BehaviorInfoModel::*update)(int index, const QString &text,
+                                      const RobotLanguage &language);
+};
+
+constexpr ListKind listKinds[] = {
+    {"triggerSentences", &BehaviorInfoModel::triggerSentences,
+     &BehaviorInfoModel::addTriggerSentence, &BehaviorInfoModel::updateTriggerSentence},
+    {"loadingResponses", &BehaviorInfoModel::loadingResponses,
+     &BehaviorInfoModel::addLoadingResponse, &BehaviorInfoModel::updateLoadingResponse},
+};
+
+bool isXScrpolLanguage(const RobotLanguage &language) {
+    return language.isoCode().endsWith(PackageModel::k_sa.text());
+}
+
+RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
+    return {ISOCode(lang.isoCode() + PackageModel::k_sa.text()),
+            Name(lang.name()),
+            EnglishName(lang.englishName()),
+            NativeName(lang.nativeName()),
+            NuanceCode(lang.nuanceCode()),
+            lang.version()};
+}
+
+// The plain text of a script, or why there is none.
+struct PlainText {
+    QString text;
+    QString error;
+};
+
+PlainText plainTextOf(const QString &script) {
+    try {
+        return {fromUtf8(Tano::PackageHelper::getHumanReadableText(toUtf8(script))), {}};
+    } catch (const std::exception &exception) {
+        return {{}, QString::fromUtf8(exception.what())};
+    }
+}
+
+// Keeps the script in the variant of its language, then puts its plain text in its place.
+template<typename Keep, typename Replace>
+void generate(const QString &script, const RobotLanguage &language, const char *operation,
+              Keep keep, Replace replace) {
+    keep(script, makeXScrpolLanguage(language));
+    const PlainText plain = plainTextOf(script);
+    if (plain.error.isEmpty())
+        replace(plain.text, language);
+    else
+        Tano::log::error(logCategory, operation,
+                         QStringLiteral("Could not generate plain text value properly: ") %
+                             plain.error);
+}
+
+template<typename Model>
+void genPlainTextValues(const QPointer<Model> &model) {
+    for (const TextKind<Model> &kind : textKinds<Model>) {
+        const auto set = [&](const QString &text, const RobotLanguage &language) {
+            if (model)
+                (model->*kind.set)(text, language);
+        };
+        const auto texts = model ? (model->*kind.texts)() : Language::LocalizedStrings();
+        for (const auto &[text, language] : texts) {
+            if (!isXScrpolLanguage(language))
+                generate(text, language, "genPlainTextValues", set, set);
+        }
+    }
+}
+
+void genPlainTextLists(const QPointer<BehaviorInfoModel> &behavior, const RobotLanguage &language) {
+    for (const ListKind &kind : listKinds) {
+        const QStringList texts = behavior ? (behavior->*kind.texts)(language) : QStringList();
+        for (int i = 0; i < texts.size(); ++i) {
+            const auto add = [&](const QString &text, const RobotLanguage &variant) {
+                if (behavior)
+                    (behavior->*kind.add)(text, variant);
+            };
+            const auto update = [&](const QString &text, const RobotLanguage &) {
+                if (behavior)
+                    (behavior->*kind.update)(i, text, language);
+            };
+            generate(texts.at(i), language, "genPlainTextFromScript", add, update);
+        }
+    }
+}
+
+QString selected(const QString &path, const QString &selector) {
+    return path % u'[' % selector % u']';
+}
+
+class ScriptErrors {
+public:
+    template<typename Model>
+    void checkTexts(const Model &model, const QString &parent) {
+        for (const TextKind<Model> &kind : textKinds<Model>) {
+            for (const auto &[text, language] : (model.*kind.texts)()) {
+                if (!isXScrpolLanguage(language))
+                    check(text, selected(parent % QLatin1String(kind.field), language.isoCode()));
+            }
+        }
+    }
+
+    void checkLists(const BehaviorInfoModel &behavior, const QString &parent,
+                    const RobotLanguage &language) {
+        for (const ListKind &kind : listKinds) {
+            const QString path = selected(parent % QLatin1String(kind.field), language.isoCode());
+            const QStringList texts = (behavior.*kind.texts)(language);
+            for (int i = 0; i < texts.size(); ++i)
+                check(texts.at(i), selected(path, QString::number(i)));
+        }
+    }
+
+    [[nodiscard]] const QVector<PackageModel::ScriptError> &all() const { return m_errors; }
+
+private:
+    void check(const QString &text, const QString &path) {
+        if (const PlainText plain = plainTextOf(text); !plain.error.isEmpty())
+            m_errors.append({path, plain.error});
+    }
+
+    QVector<PackageModel::ScriptError> m_errors;
+};
+
+} // namespace
+
+void PackageInfoModel::trimExtraInfo() {
+    m_data->edit().trimExtraInfo();
+    keepOnly(m_data->descriptionLanguages, m_data->names);
+    keepOnly(m_data->descriptionLanguages, m_data->descriptions);
+    for (BehaviorInfoModel *behavior : m_data->behaviors.children())
+        behavior->trimExtraInfo(m_data->descriptionLanguages, m_data->supportedLanguages);
+    // No notification asks for this. All of them may have changed, so that making the record's list
+    // anew is the shorter way.
+    m_data->behaviors.setOutOfStep();
+    m_data->behaviors.resync();
+}
+
+// Receivers of the notifications may remove behaviors and change the lists that are gone through.
+void PackageInfoModel::genPlainTextFromScript() {
+    genPlainTextValues(QPointer<PackageInfoModel>(this));
+    for (const auto &behavior : guarded(behaviors())) {
+        genPlainTextValues(behavior);
+        for (const RobotLanguage &language : copyOf(supportedLanguages())) {
+            if (!isXScrpolLanguage(language))
+                genPlainTextLists(behavior, language);
+        }
+    }
+}
+
+QVector<PackageModel::ScriptError> PackageModel::scriptErrors(const PackageInfoModel *package) {
+    ScriptErrors errors;
+    if (!package)
+        return {};
+    errors.checkTexts(*package, {});
+    const auto behaviors = package->behaviors();
+    for (const BehaviorInfoModel *behavior : behaviors) {
+        const QString parent = selected(QStringLiteral("behaviors"), behavior->path()) % u'.';
+        errors.checkTexts(*behavior, parent);
+        for (const RobotLanguage &language : package->supportedLanguages()) {
+            if (!isXScrpolLanguage(language))
+                errors.checkLists(*behavior, parent, language);
+        }
+    }
+    return errors.all();
+}
+
+} // namespace Zel

@@ -1,0 +1,26 @@
+#include <packagemodel/translation.h>
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <memory>
+
+namespace Zel {
+
+bool installTranslation(const QString &catalogue, const QLocale &locale) {
+    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    const QStringList languages = locale.uiLanguages();
+    for (QString language : languages) {
+        language.replace(u'-', u'_');
+        const QString name = language.section(u'_', 0, 0);
+        if (name == QLatin1String("en") || name == QLatin1String("C"))
+            return false;
+        for (const QString &code : {language, name}) {
+            if (translator->load(QStringLiteral(":/translations/%1_%2.qm").arg(catalogue, code)))
+                return QCoreApplication::installTranslator(translator.release());
+        }
+    }
+    return false;
+}
+
+} // namespace Zel

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QFile>
+#include <QProcess>
+#include <QString>
+
+#include <array>
+#include <pty.h>
+#include <unistd.h>
+
+// Runs zel-package as its users do, and what such tests need besides. Whatever goes wrong on the
+// way ends the test program.
+
+struct Outcome {
+    int status = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+inline QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+inline void write(const QString &path, const QByteArray &content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+inline QString testData(const char *path) {
+    return QStringLiteral(ZEL_TEST_DATA "/") % QLatin1String(path);
+}
+
+inline QByteArray lines(const QList<QByteArray> &all) {
+    QByteArray text;
+    for (const QByteArray &line : all)
+        text += line + '\n';
+    return text;
+}
+
+inline Outcome finished(QProcess &process, const QByteArray &input = {}) {
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        qFatal("zel-package: %s", qPrintable(process.errorString()));
+    if (!process.isReadable()) // both streams go elsewhere
+        return {process.exitCode(), {}, {}};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+/// Runs the program in a directory. What it prints goes to `output` where that is given.
+inline Outcome runProgram(const QStringList &arguments, const QString &directory,
+                          const QByteArray &input = {}, const QString &output = {}) {
+    QProcess process;
+    process.setWorkingDirectory(directory);
+    if (!output.isEmpty())
+        process.setStandardOutputFile(output);
+    process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
+    return finished(process, input);
+}
+
+/// Runs a script to which the program is $0.
+inline Outcome runProgramInShell(const QByteArray &script, const QString &directory) {
+    QProcess process;
+    process.setWorkingDirectory(directory);
+    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromUtf8(script),
+                                         QStringLiteral(ZEL_PACKAGE_PROGRAM)});
+    return finished(process);
+}
+
+/// What the program writes to a terminal of 120 columns: its standard output, and the messages too
+/// where that is asked for.
+inline QByteArray terminalOutput(const QStringList &arguments, const QString &directory,
+                                 const char *noColor, bool withMessages = false) {
+    winsize size{};
+    size.ws_row = 24;
+    size.ws_col = 120;
+    int primary = -1;
+    int secondary = -1;
+    std::array<char, 256> name{};
+    if (openpty(&primary, &secondary, name.data(), nullptr, &size) != 0)
+        qFatal("no terminal");
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TERM"), QStringLiteral("xterm"));
+    environment.insert(QStringLiteral("NO_COLOR"), QLatin1String(noColor));
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(directory);
+    process.setStandardOutputFile(QLatin1String(name.data()));
+    if (withMessages)
+        process.setStandardErrorFile(QLatin1String(name.data()));
+    process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
+    const Outcome outcome = finished(process);
+    if (outcome.status == 2)
+        qFatal("%s", outcome.err.constData());
+    close(secondary);
+    QFile terminal;
+    if (!terminal.open(primary, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                       QFileDevice::AutoCloseHandle))
+        qFatal("%s", qPrintable(terminal.errorString()));
+    // Reading fails once all is read and the other side is closed.
+    return terminal.readAll().replace("\r\n", "\n");
+}

@@ -1,0 +1,256 @@
+#include "signal_log.h"
+#include "warning_guard.h"
+
+#include <packagemodel/package_scripts.h>
+
+#include <QTest>
+
+using namespace Zel;
+
+namespace {
+
+RobotLanguage language(const char *code) {
+    return robotLanguage(QString::fromUtf8(code));
+}
+
+// Supports English, French and a script variant, is also described in German, and holds texts in
+// Dutch, which it does not list.
+const QByteArray manifest = R"(<?xml version="1.0" encoding="UTF-8"?>
+<package format="1" uid="tea-time" version="1.0.0">
+  <supportedLanguage code="en_US"/>
+  <supportedLanguage code="fr_FR"/>
+  <supportedLanguage code="ja_JP-x-scrpol"/>
+  <descriptionLanguage code="de_DE"/>
+  <descriptionLanguage code="en_US"/>
+  <descriptionLanguage code="fr_FR"/>
+  <descriptionLanguage code="ja_JP-x-scrpol"/>
+  <texts language="de_DE">
+    <name>Tee</name>
+  </texts>
+  <texts language="en_US">
+    <name>Tea&lt;break/&gt;time</name>
+    <description>One &lt;p&gt;open</description>
+  </texts>
+  <texts language="ja_JP-x-scrpol">
+    <name>&lt;p&gt;</name>
+  </texts>
+  <texts language="nl_NL">
+    <!-- left over -->
+    <name>Thee</name>
+    <description>Zet thee.</description>
+  </texts>
+  <behavior path="pour">
+    <texts language="de_DE">
+      <description>&lt;s&gt;Gießt.&lt;/s&gt;</description>
+      <!-- kept -->
+      <triggerSentence>gieß</triggerSentence>
+    </texts>
+    <texts language="en_US">
+      <name>Pour &amp; drink</name>
+      <tag>&lt;p&gt;tea&lt;/p&gt;</tag>
+      <triggerSentence>&lt;item repeat="0-1"&gt;please&lt;/item&gt; pour</triggerSentence>
+      <triggerSentence>&lt;item repeat="-1"&gt;now&lt;/item&gt;</triggerSentence>
+      <loadingResponse>&lt;sub alias="x"&gt;1&lt;/sub&gt;.</loadingResponse>
+    </texts>
+    <texts language="ja_JP-x-scrpol">
+      <triggerSentence>&lt;s&gt;x&lt;/s&gt;</triggerSentence>
+    </texts>
+    <texts language="nl_NL" more="1">
+      <name>Schenk</name>
+      <tag>thee</tag>
+      <triggerSentence>schenk</triggerSentence>
+      <loadingResponse>even</loadingResponse>
+    </texts>
+  </behavior>
+  <behavior path="wait"/>
+</package>
+)";
+
+constexpr auto trimmedTexts = R"(  <texts language="nl_NL">
+    <!-- left over -->
+    <name>Thee</name>
+    <description>Zet thee.</description>
+  </texts>
+)";
+constexpr auto trimmedOfPour = R"(    <texts language="nl_NL" more="1">
+      <name>Schenk</name>
+      <tag>thee</tag>
+      <triggerSentence>schenk</triggerSentence>
+      <loadingResponse>even</loadingResponse>
+    </texts>
+)";
+
+QByteArray trimmedManifest() {
+    return QByteArray(manifest)
+        .replace(trimmedTexts, "")
+        .replace(trimmedOfPour, "")
+        .replace("      <triggerSentence>gieß</triggerSentence>\n", "");
+}
+
+std::vector<Tano::BehaviorInfo> recordsOf(const QVector<BehaviorInfoModel *> &behaviors) {
+    std::vector<Tano::BehaviorInfo> records;
+    for (const BehaviorInfoModel *behavior : behaviors)
+        records.push_back(behavior->toBehaviorInfo());
+    return records;
+}
+
+// What the caches hold, as "en_US:Tea" each.
+QString printed(const Language::LocalizedStrings &values) {
+    QStringList texts;
+    for (const auto &[text, itsLanguage] : values)
+        texts += itsLanguage.isoCode() % u':' % text;
+    return texts.join(u' ');
+}
+
+} // namespace
+
+class TestPublication : public QObject {
+    Q_OBJECT
+
+private:
+    PackageInfoModel m_package;
+
+private Q_SLOTS:
+    void init() { QVERIFY(m_package.loadFromManifestContent(manifest)); }
+
+    void recordTrims() {
+        Tano::PackageInfo record;
+        QVERIFY(record.loadFromManifestContent(manifest.toStdString()));
+        record.trimExtraInfo();
+        QCOMPARE(QByteArray::fromStdString(record.saveToManifestContent()), trimmedManifest());
+    }
+
+    void trims() {
+        BehaviorInfoModel *pour = m_package.behaviors().at(0);
+        SignalLog log;
+        log.watch(m_package);
+        log.watch(*pour);
+        m_package.trimExtraInfo();
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(m_package.saveToManifestContent(), trimmedManifest());
+        QCOMPARE(printed(m_package.names()),
+                 QStringLiteral("de_DE:Tee en_US:Tea<break/>time ja_JP-x-scrpol:<p>"));
+        QCOMPARE(printed(m_package.descriptions()), QStringLiteral("en_US:One <p>open"));
+        QCOMPARE(printed(pour->names()), QStringLiteral("en_US:Pour & drink"));
+        QCOMPARE(pour->languagesToTags().size(), std::size_t(1));
+        QCOMPARE(pour->languagesToTriggerSentences().size(), std::size_t(2));
+        QCOMPARE(pour->languagesToLoadingResponses().size(), std::size_t(1));
+    }
+
+    void trimmedTextsStayAway() {
+        m_package.trimExtraInfo();
+        m_package.behaviors().at(1)->setNature(BehaviorInfoModel::natureSolitary());
+        m_package.behaviors().at(0)->addTag(QStringLiteral("hot"), language("en_US"));
+        m_package.addBehavior(QStringLiteral("new"));
+        QVERIFY(!m_package.saveToManifestContent().contains("nl_NL"));
+        m_package.createBehaviorInfoModels();
+        QCOMPARE(printed(m_package.behaviors().at(0)->names()),
+                 QStringLiteral("en_US:Pour & drink"));
+    }
+
+    // An insertion and a change with blocked signals wait for the next change; trimming is one.
+    void recordAndModelsAgree() {
+        const auto behaviors = m_package.behaviors();
+        behaviors.at(0)->insertTag(QStringLiteral("hot"), language("en_US"), 0);
+        behaviors.at(1)->blockSignals(true);
+        behaviors.at(1)->setName(QStringLiteral("Wacht"), language("nl_NL"));
+        behaviors.at(1)->setPath(QStringLiteral("sit"));
+        m_package.trimExtraInfo();
+        QVERIFY(m_package.packageInfo().behaviors() == recordsOf(behaviors));
+        QVERIFY(behaviors.at(1)->names().empty());
+        m_package.clearBehaviors();
+        m_package.trimExtraInfo();
+        QVERIFY(m_package.packageInfo().behaviors().empty());
+    }
+
+    void listedLanguagesCount() {
+        m_package.removeDescriptionLanguage(language("en_US"));
+        m_package.addDescriptionLanguage(language("nl_NL"));
+        m_package.trimExtraInfo();
+        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
+        QCOMPARE(printed(m_package.names()),
+                 QStringLiteral("de_DE:Tee ja_JP-x-scrpol:<p> nl_NL:Thee"));
+        QCOMPARE(printed(pour->names()), QStringLiteral("nl_NL:Schenk"));
+        QCOMPARE(pour->triggerSentences(language("en_US")).size(), 2);
+    }
+
+    void generatesPlainText() {
+        SignalLog log;
+        log.watch(m_package);
+        for (BehaviorInfoModel *behavior : m_package.behaviors())
+            log.watch(*behavior, behavior->path());
+        m_package.trimExtraInfo();
+        WarningGuard warnings;
+        m_package.genPlainTextFromScript();
+        QCOMPARE(log.take(), lines(R"x(
+            nameUpdated("Tee", de_DE-x-scrpol)
+            nameUpdated("Tea<break/>time", en_US-x-scrpol)
+            nameUpdated("Tea time", en_US)
+            descriptionUpdated("One <p>open", en_US-x-scrpol)
+            pour.behaviorNameUpdated("Pour & drink", en_US-x-scrpol)
+            pour.behaviorDescriptionUpdated("<s>Gießt.</s>", de_DE-x-scrpol)
+            pour.behaviorDescriptionUpdated("Gießt.", de_DE)
+            pour.triggerSentenceAdded("<item repeat="0-1">please</item> pour", en_US-x-scrpol)
+            pour.triggerSentenceUpdated(0, "please pour", en_US)
+            pour.triggerSentenceAdded("<item repeat="-1">now</item>", en_US-x-scrpol)
+            pour.loadingResponseAdded("<sub alias="x">1</sub>.", en_US-x-scrpol)
+            pour.loadingResponseUpdated(0, "1.", en_US)
+        )x"));
+        const QString failed =
+            QStringLiteral("Could not generate plain text value properly: Line ");
+        QCOMPARE(
+            warnings.take(),
+            QStringList({QLatin1String("genPlainTextValues: ") % failed %
+                             QLatin1String("1, column 12: The script ends while <p> is open."),
+                         QLatin1String("genPlainTextFromScript: ") % failed %
+                             QLatin1String("1, column 1: The repeat \"-1\" is malformed; it is a "
+                                           "number, or a range such as 0-1 or 1-.")}));
+        QVERIFY(m_package.packageInfo().behaviors() == recordsOf(m_package.behaviors()));
+
+        const RobotLanguage variant = m_package.names().back().second;
+        QCOMPARE(variant.isoCode(), QStringLiteral("en_US-x-scrpol"));
+        const RobotLanguage english = language("en_US");
+        QCOMPARE(variant.name(), english.name());
+        QCOMPARE(variant.englishName(), english.englishName());
+        QCOMPARE(variant.nativeName(), english.nativeName());
+        QCOMPARE(variant.nuanceCode(), english.nuanceCode());
+        QVERIFY(variant.version() == english.version());
+        QVERIFY(!m_package.hasLanguageDescription(variant));
+    }
+
+    // Plain texts by then, they replace the scripts; lists of scripts grow by them.
+    void generatesAgain() {
+        m_package.genPlainTextFromScript();
+        m_package.genPlainTextFromScript();
+        const RobotLanguage variant = m_package.names().back().second;
+        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
+        QCOMPARE(m_package.name(language("en_US")), QStringLiteral("Tea time"));
+        QCOMPARE(m_package.name(language("ja_JP-x-scrpol")), QStringLiteral("<p>"));
+        QCOMPARE(pour->loadingResponses(
+                     RobotLanguage(ISOCode(QStringLiteral("en_US-x-scrpol")), NuanceCode())),
+                 QStringList({QStringLiteral("<sub alias=\"x\">1</sub>."), QStringLiteral("1.")}));
+        QVERIFY(variant.isoCode().endsWith(PackageModel::k_sa.text()));
+    }
+
+    void receiversMayRemoveBehaviors() {
+        connect(m_package.behaviors().at(0), &BehaviorInfoModel::behaviorDescriptionUpdated,
+                &m_package, [this] { m_package.removeBehavior(QStringLiteral("pour")); });
+        m_package.genPlainTextFromScript();
+        QCOMPARE(m_package.behaviors().size(), 1);
+    }
+
+    void listsErrors() {
+        QStringList errors;
+        const auto all = PackageModel::scriptErrors(&m_package);
+        for (const auto &error : all)
+            errors += error.path % u' ' % error.text.left(17);
+        QCOMPARE(errors,
+                 QStringList({QStringLiteral("descriptions[en_US] Line 1, column 12"),
+                              QStringLiteral("behaviors[pour].triggerSentences[en_US][1] Line 1, "
+                                             "column 1:")}));
+        QVERIFY(PackageModel::scriptErrors(nullptr).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPublication)
+#include "tst_publication.moc"

@@ -1,0 +1,21 @@
+#include "json_text.h"
+
+#include "text_layout.h"
+
+namespace ZelPackage {
+
+QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format) {
+    const QString json = QString::fromUtf8(QJsonDocument(object).toJson(format));
+    QString result;
+    result.reserve(json.size());
+    // Such characters stand only within texts; a line feed only between them.
+    for (const QChar character : json) {
+        if (character != u'\n' && isUnprintable(character))
+            result += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QChar(u'0'));
+        else
+            result += character;
+    }
+    return result;
+}
+
+} // namespace ZelPackage

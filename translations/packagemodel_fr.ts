@@ -1,0 +1,365 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Application UID is not defined correctly.</source>
+        <translation>L&apos;UID de l&apos;application n&apos;est pas défini correctement.</translation>
+    </message>
+    <message>
+        <source>Robot requirements are not defined.</source>
+        <translation>Les exigences sur le robot ne sont pas définies.</translation>
+    </message>
+    <message>
+        <source>A robot requirement has no model defined.</source>
+        <translation>Une exigence sur le robot n&apos;indique pas de modèle.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; robot requirement has a wrong body version max value.</source>
+        <translation>L&apos;exigence sur le robot « %1 » a une version maximale de corps incorrecte.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; robot requirement has a wrong head version max value.</source>
+        <translation>L&apos;exigence sur le robot « %1 » a une version maximale de tête incorrecte.</translation>
+    </message>
+    <message>
+        <source>Brio version requirement is not defined.</source>
+        <translation>L&apos;exigence de version de Brio n&apos;est pas définie.</translation>
+    </message>
+    <message>
+        <source>Brio version requirement is not valid: minimal version is not defined.</source>
+        <translation>L&apos;exigence de version de Brio n&apos;est pas valable : la version minimale n&apos;est pas définie.</translation>
+    </message>
+    <message>
+        <source>Brio version requirement is not valid: %1 &amp;lt; %2</source>
+        <translation>L&apos;exigence de version de Brio n&apos;est pas valable : %1 &amp;lt; %2</translation>
+    </message>
+    <message>
+        <source>Application name is not defined for: %1</source>
+        <translation>Le nom de l&apos;application n&apos;est pas défini pour : %1</translation>
+    </message>
+    <message>
+        <source>Application description is not defined for: %1</source>
+        <translation>La description de l&apos;application n&apos;est pas définie pour : %1</translation>
+    </message>
+    <message>
+        <source>Behavior &apos;%1&apos; has no trigger sentence defined for: %2</source>
+        <translation>Le comportement « %1 » n&apos;a pas de phrase de déclenchement pour : %2</translation>
+    </message>
+    <message>
+        <source>Any robot</source>
+        <translation>N&apos;importe quel robot</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorAddRemoveConditionCommand</name>
+    <message>
+        <source>Add a condition to the behavior</source>
+        <translation>Ajouter une condition au comportement</translation>
+    </message>
+    <message>
+        <source>Remove a condition from the behavior</source>
+        <translation>Retirer une condition du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorAddRemoveLoadingResponseCommand</name>
+    <message>
+        <source>Add a loading response to the behavior</source>
+        <translation>Ajouter une réponse de chargement au comportement</translation>
+    </message>
+    <message>
+        <source>Remove a loading response from the behavior</source>
+        <translation>Retirer une réponse de chargement du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorAddRemovePermissionCommand</name>
+    <message>
+        <source>Add a permission (%1)</source>
+        <translation>Ajouter une permission (%1)</translation>
+    </message>
+    <message>
+        <source>Remove a permission (%1)</source>
+        <translation>Retirer une permission (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorAddRemoveTagCommand</name>
+    <message>
+        <source>Add a tag to the behavior</source>
+        <translation>Ajouter une étiquette au comportement</translation>
+    </message>
+    <message>
+        <source>Remove a tag from the behavior</source>
+        <translation>Retirer une étiquette du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorAddRemoveTriggerSentenceCommand</name>
+    <message>
+        <source>Add a trigger sentence to the behavior</source>
+        <translation>Ajouter une phrase de déclenchement au comportement</translation>
+    </message>
+    <message>
+        <source>Remove a trigger sentence from the behavior</source>
+        <translation>Retirer une phrase de déclenchement du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorDescriptionCommand</name>
+    <message>
+        <source>Set Behavior description (%1)</source>
+        <translation>Modifier la description du comportement (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorNameCommand</name>
+    <message>
+        <source>Set Behavior name (%1)</source>
+        <translation>Modifier le nom du comportement (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorNatureCommand</name>
+    <message>
+        <source>Set behavior nature</source>
+        <translation>Modifier la nature du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorPathCommand</name>
+    <message>
+        <source>Set behavior path</source>
+        <translation>Modifier le chemin du comportement</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorSetConditionCommand</name>
+    <message>
+        <source>Set behavior condition for %1</source>
+        <translation>Modifier la condition du comportement pour %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorSetLoadingResponseCommand</name>
+    <message>
+        <source>Set behavior loading response #%1 in %2</source>
+        <translation>Modifier la réponse de chargement n° %1 du comportement en %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorSetTagCommand</name>
+    <message>
+        <source>Set behavior tag #%1 (%2)</source>
+        <translation>Modifier l&apos;étiquette n° %1 du comportement (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorSetTriggerSentenceCommand</name>
+    <message>
+        <source>Set behavior trigger sentence #%1 (%2)</source>
+        <translation>Modifier la phrase de déclenchement n° %1 du comportement (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::BehaviorUserRequestableCommand</name>
+    <message>
+        <source>a behavior</source>
+        <translation>un comportement</translation>
+    </message>
+    <message>
+        <source>Set %1 as not user-requestable</source>
+        <translation>Ne plus permettre à l&apos;utilisateur de demander %1</translation>
+    </message>
+    <message>
+        <source>Set %1 as user-requestable</source>
+        <translation>Permettre à l&apos;utilisateur de demander %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::DialogInfoModelNameCommand</name>
+    <message>
+        <source>Set dialog topic name from %1 to %2</source>
+        <translation>Renommer le sujet de dialogue de %1 en %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::DialogInfoModelRemoveTopicCommand</name>
+    <message>
+        <source>Remove language %1</source>
+        <translation>Retirer la langue %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::DialogInfoModelTypeVersionCommand</name>
+    <message>
+        <source>Set dialog type version from %1 to %2</source>
+        <translation>Modifier la version de type du dialogue de %1 en %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::PackageGenericValueCommand</name>
+    <message>
+        <source>Set Application&apos;s icon</source>
+        <translation>Modifier l&apos;icône de l&apos;application</translation>
+    </message>
+    <message>
+        <source>Set Application&apos;s version</source>
+        <translation>Modifier la version de l&apos;application</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::PackageLocalizedStringCommand</name>
+    <message>
+        <source>name</source>
+        <translation>nom</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>description</translation>
+    </message>
+    <message>
+        <source>Set application&apos;s %1 (%2)</source>
+        <translation>Modifier l&apos;application : %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::PackageModel</name>
+    <message>
+        <source>The UID names the package on the robot and in every list of packages. It has 1 to 50 characters, each a lower-case letter from a to z, a digit, an underscore or a hyphen, and at least one of them is not a digit.</source>
+        <translation>L&apos;UID désigne le paquet sur le robot et dans toutes les listes de paquets. Il a de 1 à 50 caractères : lettres minuscules de a à z, chiffres, traits de soulignement et traits d&apos;union, dont au moins un n&apos;est pas un chiffre.</translation>
+    </message>
+    <message>
+        <source>Write a UID such as my-app_2.</source>
+        <translation>Écrivez un UID comme my-app_2.</translation>
+    </message>
+    <message>
+        <source>A package says on which robots it runs, so that it is offered only to those. Without a robot requirement it is offered to none.</source>
+        <translation>Un paquet indique les robots sur lesquels il fonctionne, afin de n&apos;être proposé qu&apos;à ceux-ci. Sans exigence sur le robot, il n&apos;est proposé à aucun.</translation>
+    </message>
+    <message>
+        <source>Add a robot requirement with a robot model or family.</source>
+        <translation>Ajoutez une exigence avec un modèle ou une famille de robots.</translation>
+    </message>
+    <message>
+        <source>A robot requirement whose model is empty does not say which robot is meant, and its version ranges mean nothing.</source>
+        <translation>Une exigence dont le modèle est vide ne dit pas de quel robot il s&apos;agit, et ses intervalles de versions n&apos;ont pas de sens.</translation>
+    </message>
+    <message>
+        <source>Choose a robot model or family for the requirement, or remove it.</source>
+        <translation>Choisissez un modèle ou une famille de robots pour l&apos;exigence, ou retirez-la.</translation>
+    </message>
+    <message>
+        <source>The highest accepted body version is less than the lowest, so that no robot can meet the requirement.</source>
+        <translation>La version de corps la plus haute acceptée est inférieure à la plus basse : aucun robot ne peut satisfaire l&apos;exigence.</translation>
+    </message>
+    <message>
+        <source>Raise or clear the maximum, or lower the minimum. An empty maximum means that there is no upper bound.</source>
+        <translation>Augmentez ou videz le maximum, ou diminuez le minimum. Un maximum vide signifie qu&apos;il n&apos;y a pas de borne supérieure.</translation>
+    </message>
+    <message>
+        <source>The highest accepted head version is less than the lowest, so that no robot can meet the requirement.</source>
+        <translation>La version de tête la plus haute acceptée est inférieure à la plus basse : aucun robot ne peut satisfaire l&apos;exigence.</translation>
+    </message>
+    <message>
+        <source>A package says which versions of the Brio middleware it runs on, so that it is not installed where it cannot start.</source>
+        <translation>Un paquet indique les versions de l&apos;intergiciel Brio sur lesquelles il fonctionne, afin de ne pas être installé là où il ne peut pas démarrer.</translation>
+    </message>
+    <message>
+        <source>Add a Brio requirement with the lowest version that the package was tried on.</source>
+        <translation>Ajoutez une exigence Brio avec la plus basse version sur laquelle le paquet a été essayé.</translation>
+    </message>
+    <message>
+        <source>A Brio requirement has a lowest version; only the highest may be left open. Requirements after the first one without a minimum are not checked.</source>
+        <translation>Une exigence Brio a une version minimale ; seule la maximale peut rester ouverte. Les exigences qui suivent la première sans minimum ne sont pas vérifiées.</translation>
+    </message>
+    <message>
+        <source>Set the minimal version of the requirement.</source>
+        <translation>Indiquez la version minimale de l&apos;exigence.</translation>
+    </message>
+    <message>
+        <source>The maximal Brio version is less than the minimal one, so that no robot can meet the requirement.</source>
+        <translation>La version maximale de Brio est inférieure à la version minimale : aucun robot ne peut satisfaire l&apos;exigence.</translation>
+    </message>
+    <message>
+        <source>The package supports the default language and has no name in it. That name also stands in for those that are missing in other languages; without it, users see the UID.</source>
+        <translation>Le paquet prend en charge la langue par défaut et n&apos;y a pas de nom. Ce nom remplace aussi ceux qui manquent dans d&apos;autres langues ; sans lui, l&apos;utilisateur voit l&apos;UID.</translation>
+    </message>
+    <message>
+        <source>Write a name in the default language.</source>
+        <translation>Écrivez un nom dans la langue par défaut.</translation>
+    </message>
+    <message>
+        <source>The package supports a language and has no name in it. Users of that language see the name in the default language, or the UID.</source>
+        <translation>Le paquet prend en charge une langue et n&apos;y a pas de nom. Les utilisateurs de cette langue voient le nom dans la langue par défaut, ou l&apos;UID.</translation>
+    </message>
+    <message>
+        <source>Write a name in the language, or stop supporting it.</source>
+        <translation>Écrivez un nom dans cette langue, ou cessez de la prendre en charge.</translation>
+    </message>
+    <message>
+        <source>The package supports a language and has no description in it. Users of that language see the description in the default language, or none.</source>
+        <translation>Le paquet prend en charge une langue et n&apos;y a pas de description. Les utilisateurs de cette langue voient la description dans la langue par défaut, ou aucune.</translation>
+    </message>
+    <message>
+        <source>Write a description in the language, or stop supporting it.</source>
+        <translation>Écrivez une description dans cette langue, ou cessez de la prendre en charge.</translation>
+    </message>
+    <message>
+        <source>A behavior that can be started by a sentence in one language can be started so in every language that the package supports; otherwise it is out of reach for some users.</source>
+        <translation>Un comportement qui peut être lancé par une phrase dans une langue doit pouvoir l&apos;être dans toutes les langues prises en charge par le paquet ; sinon il est hors de portée de certains utilisateurs.</translation>
+    </message>
+    <message>
+        <source>Write at least one trigger sentence in the language, or remove those in all languages.</source>
+        <translation>Écrivez au moins une phrase de déclenchement dans cette langue, ou retirez celles de toutes les langues.</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::PackageStringCommand</name>
+    <message>
+        <source>installer</source>
+        <translation>programme d&apos;installation</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>identifiant</translation>
+    </message>
+    <message>
+        <source>type version</source>
+        <translation>version de type</translation>
+    </message>
+    <message>
+        <source>author</source>
+        <translation>auteur</translation>
+    </message>
+    <message>
+        <source>organization</source>
+        <translation>organisation</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>date</translation>
+    </message>
+    <message>
+        <source>channel</source>
+        <translation>canal</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>chemin</translation>
+    </message>
+    <message>
+        <source>Set application&apos;s %1</source>
+        <translation>Modifier l&apos;application : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zel::RobotRequirement</name>
+    <message>
+        <source>any model</source>
+        <translation>tous modèles</translation>
+    </message>
+</context>
+</TS>
