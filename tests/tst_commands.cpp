@@ -886,7 +886,7 @@ void TestCommands::addedItemPositions() {
     QCOMPARE(command->remove(int(before.size()) + 1, &ok), QString());
     QVERIFY(!ok);
     QCOMPARE(command->remove(-1, nullptr), QString());
-    QCOMPARE(command->remove(m_behavior->tags(german).indexOf(text("x")), &ok), text("x"));
+    QCOMPARE(command->remove(int(m_behavior->tags(german).indexOf(text("x"))), &ok), text("x"));
     QVERIFY(ok);
     QCOMPARE(command->add(text("y"), -1), int(before.size()));
     QCOMPARE(command->add(text("y"), 0), -1);
