@@ -1,6 +1,7 @@
 #include <packagemodel/package_info_utils.h>
 
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QTest>
@@ -8,14 +9,6 @@
 using namespace Zel;
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-RobotLanguage language(const char *code) {
-    return robotLanguage(text(code));
-}
 
 QStringList codes(const RobotLanguages &languages) {
     QStringList codes;
