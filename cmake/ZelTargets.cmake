@@ -116,23 +116,23 @@ function(zel_add_program target)
     install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endfunction()
 
-# zel_add_translations(<target>): compiles the catalogues translations/<target>_*.ts into the target,
-# where Zel::installTranslation() finds them.
-function(zel_add_translations target)
-    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${target}_*.ts")
+# zel_add_translations(<catalogue> <target>...): compiles translations/<catalogue>_*.ts into the
+# targets, where Zel::installTranslation() finds them.
+function(zel_add_translations name)
+    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${name}_*.ts")
     set(compiled "")
     set(entries "")
     foreach(catalogue IN LISTS catalogues)
-        cmake_path(GET catalogue STEM name)
-        set(output "${CMAKE_CURRENT_BINARY_DIR}/${name}.qm")
+        cmake_path(GET catalogue STEM stem)
+        set(output "${CMAKE_CURRENT_BINARY_DIR}/${stem}.qm")
         add_custom_command(OUTPUT "${output}"
             COMMAND ${ZEL_QT}::lrelease -silent "${catalogue}" -qm "${output}"
             DEPENDS "${catalogue}" VERBATIM)
         list(APPEND compiled "${output}")
-        string(APPEND entries "<file>${name}.qm</file>")
+        string(APPEND entries "<file>${stem}.qm</file>")
     endforeach()
 
-    set(name "${target}_translations")
+    string(APPEND name "_translations")
     set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
     set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
     file(CONFIGURE OUTPUT "${resource}"
@@ -141,7 +141,9 @@ function(zel_add_translations target)
         COMMAND ${ZEL_QT}::rcc --name "${name}" --output "${source}" "${resource}"
         DEPENDS "${resource}" ${compiled} VERBATIM)
     set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
-    target_sources(${target} PRIVATE "${source}")
+    foreach(target IN LISTS ARGN)
+        target_sources(${target} PRIVATE "${source}")
+    endforeach()
 endfunction()
 
 # zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and
