@@ -76,6 +76,7 @@ private Q_SLOTS:
     void clearing();
     void lookingUp_data();
     void lookingUp();
+    void lookingUpWhileChangesWait();
     void everyTrackedChangeReachesTheRecord_data();
     void everyTrackedChangeReachesTheRecord();
     void insertionsWait();
@@ -284,6 +285,25 @@ void TestPackageChildren::lookingUp() {
     QTEST(int(model.behaviors().indexOf(model.behavior(key))), "index");
     QTEST(int(model.dialogs().indexOf(model.dialog(key))), "index");
     QTEST(int(model.services().indexOf(model.service(key))), "index");
+}
+
+void TestPackageChildren::lookingUpWhileChangesWait() {
+    PackageInfoModel model;
+    for (const char *path : {"a", "b", "c", "d"})
+        model.addBehavior(behavior(path));
+    const auto found = [&](const char *path) {
+        return int(model.behaviors().indexOf(model.behavior(text(path))));
+    };
+    QCOMPARE(found("x"), -1);
+    for (const auto &[renamed, first] : {std::pair(3, 3), {1, 1}, {2, 1}}) {
+        const QSignalBlocker blocker(model.behaviors().at(renamed));
+        model.behaviors().at(renamed)->setPath(text("x"));
+        QCOMPARE(found("x"), first);
+    }
+    QCOMPARE(found("b"), -1);
+    model.syncRecord();
+    model.behaviors().at(3)->insertTag(text("t"), m_french, 0);
+    QCOMPARE(found("x"), 1);
 }
 
 using Edit = std::function<void(BehaviorInfoModel &)>;
