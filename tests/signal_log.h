@@ -32,10 +32,10 @@ public:
         }
     }
 
-    /// Calls `look` when a notification of that name arrives, and logs what it returns behind it.
-    void onSignal(const char *name, std::function<QString()> look) {
-        m_looks[QByteArray(name)] = std::move(look);
-    }
+    /// Calls `look` upon every notification, and logs the lines that it returns behind it.
+    void onEverySignal(std::function<QStringList()> look) { m_look = std::move(look); }
+
+    void append(const QStringList &lines) { m_lines += lines; }
 
     /// The lines since the last call.
     QStringList take() { return std::exchange(m_lines, {}); }
@@ -113,13 +113,12 @@ private:
         const QByteArray name = source.method.name();
         m_lines.append(source.prefix % QString::fromLatin1(name) % u'(' %
                        printedArguments.join(QLatin1String(", ")) % u')');
-        const auto look = m_looks.find(name);
-        if (look != m_looks.end())
-            m_lines.append(QLatin1String("  ") % look->second());
+        if (m_look)
+            m_lines += m_look();
     }
 
     std::vector<Source> m_sources;
-    std::map<QByteArray, std::function<QString()>> m_looks;
+    std::function<QStringList()> m_look;
     QStringList m_lines;
 };
 

@@ -2,6 +2,8 @@
 
 #include <zel/robot_language.h>
 
+#include <QByteArray>
+#include <QFile>
 #include <QString>
 
 inline QString text(const char *utf8) {
@@ -11,4 +13,12 @@ inline QString text(const char *utf8) {
 /// The language of that code; the one without a code where the table has none.
 inline Zel::RobotLanguage language(const char *code) {
     return Zel::robotLanguage(text(code));
+}
+
+/// What a file of the test data holds.
+inline QByteArray testData(const QString &path) {
+    QFile file(text(ZEL_TEST_DATA "/") + path);
+    if (!file.open(QFile::ReadOnly))
+        qFatal("cannot read %s", qPrintable(file.fileName()));
+    return file.readAll();
 }

@@ -13,12 +13,8 @@ private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void dialogStartsFromTheRecord();
-    void dialogTexts();
-    void dialogTopics();
-    void topicRemovedComesBeforeTheCache();
     void receiversOfTopicRemoved();
     void dialogCopies();
-    void serviceTexts();
     void serviceCopies();
     void serviceAssignment();
 
@@ -46,53 +42,6 @@ void TestDialogServiceModels::dialogStartsFromTheRecord() {
     QVERIFY(DialogInfoModel(Tano::DialogInfo()).topicsLanguages().empty());
 }
 
-void TestDialogServiceModels::dialogTexts() {
-    DialogInfoModel model{Tano::DialogInfo()};
-    SignalLog log(model);
-    model.setTopicName(QString());
-    model.setTopicName(text("thé"));
-    model.setTopicName(text("thé"));
-    model.setTypeVersion(text("2.0"));
-    model.setTypeVersion(text("2.0"));
-    QCOMPARE(log.take(), lines(R"(nameChanged("thé")
-                                  typeVersionChanged("2.0"))"));
-    QCOMPARE(model.toDialogInfo().topicName(), std::string("th\xC3\xA9"));
-    QCOMPARE(model.toDialogInfo().typeVersion(), std::string("2.0"));
-}
-
-void TestDialogServiceModels::dialogTopics() {
-    DialogInfoModel model{Tano::DialogInfo()};
-    SignalLog log(model);
-    model.setTopic(m_french, QString());
-    model.setTopic(m_french, text("f.top"));
-    model.setTopic(m_french, text("f.top"));
-    model.setTopic(m_english, text("e.top"));
-    model.setTopic(m_french, text("g.top"));
-    QVERIFY(model.removeTopic(m_english));
-    QVERIFY(!model.removeTopic(m_english));
-    QCOMPARE(log.take(), lines(R"(topicChanged(fr_FR, "f.top")
-                                  topicChanged(en_US, "e.top")
-                                  topicChanged(fr_FR, "g.top")
-                                  topicRemoved(en_US))"));
-    const Language::LocalizedStrings topics{{text("g.top"), m_french}};
-    QCOMPARE(model.topics(), topics);
-    const Tano::TextMap recorded{{"fr_FR", "g.top"}};
-    QCOMPARE(model.toDialogInfo().topics(), recorded);
-}
-
-void TestDialogServiceModels::topicRemovedComesBeforeTheCache() {
-    DialogInfoModel model{Tano::DialogInfo()};
-    model.setTopic(m_french, text("f.top"));
-    SignalLog log(model);
-    log.onSignal("topicRemoved", [&] {
-        return QString(model.topic(m_french) % u' ' %
-                       QString::number(model.toDialogInfo().topics().size()));
-    });
-    QVERIFY(model.removeTopic(model.topics().front().second));
-    QCOMPARE(log.take(), QStringList({text("topicRemoved(fr_FR)"), text("  f.top 0")}));
-    QVERIFY(model.topic(m_french).isNull());
-}
-
 void TestDialogServiceModels::receiversOfTopicRemoved() {
     DialogInfoModel model{Tano::DialogInfo()};
     model.setTopic(m_french, text("f.top"));
@@ -117,24 +66,6 @@ void TestDialogServiceModels::dialogCopies() {
     copy.setTopic(m_french, text("g.top"));
     QCOMPARE(model.topic(m_french), text("f.top"));
     QCOMPARE(model.toDialogInfo().topic("fr_FR"), std::string("f.top"));
-}
-
-void TestDialogServiceModels::serviceTexts() {
-    ServiceInfoModel model{Tano::PackageService()};
-    SignalLog log(model);
-    model.setName(text("thé"));
-    model.setName(text("thé"));
-    model.setExecStart(text("bin/run"));
-    model.setExecStart(text("bin/run"));
-    model.setAutoRun(false);
-    model.setAutoRun();
-    model.setAutoRun();
-    model.setAutoRun(false);
-    QCOMPARE(log.take(), lines(R"(nameChanged("thé")
-                                  execStartChanged("bin/run")
-                                  autoRunChanged(true)
-                                  autoRunChanged(false))"));
-    QCOMPARE(model.toPackageService(), (Tano::PackageService{"th\xC3\xA9", "bin/run", false, {}}));
 }
 
 void TestDialogServiceModels::serviceCopies() {

@@ -14,34 +14,7 @@ using namespace Zel;
 
 namespace {
 
-const QByteArray manifest = R"(<?xml version="1.0" encoding="UTF-8"?>
-<package format="1" uid="tea-time" version="2.1">
-  <author>Ines</author>
-  <supportedLanguage code="en_US"/>
-  <supportedLanguage code="ql_QA"/>
-  <descriptionLanguage code="en_US"/>
-  <texts language="en_US">
-    <name>Tea</name>
-    <description>Brews.</description>
-  </texts>
-  <texts language="ql_QB">
-    <name>Unheard</name>
-  </texts>
-  <robotRequirement model="TERN" minBodyVersion="2.1"/>
-  <robotRequirement model="TERN" minBodyVersion="2.1"/>
-  <brioRequirement minVersion="2.5" maxVersion="3.0"/>
-  <behavior path="pour" nature="interactive">
-    <texts language="ql_QC">
-      <tag>tea</tag>
-    </texts>
-  </behavior>
-  <!-- kept -->
-  <dialog topicName="talk">
-    <topic language="ql_QD">a.top</topic>
-  </dialog>
-  <service name="watch"/>
-</package>
-)";
+const QByteArray manifest = testData(text("transcripts/tea-time.xml"));
 
 void writeFile(const QString &path, const QByteArray &content) {
     QFile file(path);
@@ -55,22 +28,6 @@ void writeIcon(const QString &path, Qt::GlobalColor color) {
     QVERIFY(image.save(path));
 }
 
-// A package that differs from the manifest's in everything.
-std::unique_ptr<PackageInfoModel> anotherPackage() {
-    auto model = std::make_unique<PackageInfoModel>();
-    model->setUid(text("other"));
-    model->setAuthor(text("Bo"));
-    model->setInstaller(text("i"));
-    model->setName(text("Thé"), language("fr_FR"));
-    model->setDescription(text("Infuse."), language("fr_FR"));
-    model->addSupportedLanguage(language("fr_FR"));
-    model->addRobotRequirement();
-    model->addBehavior(text("old"));
-    model->addDialog(text("old"));
-    model->addService(Tano::PackageService{"old", {}, false, {}});
-    return model;
-}
-
 } // namespace
 
 class TestPackageLoading : public QObject {
@@ -79,73 +36,21 @@ class TestPackageLoading : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void loads();
-    void notificationsOfALoad();
     void unknownLanguagesAreKept();
-    void failedLoads_data();
-    void failedLoads();
     void contentEndsAtNul();
     void loadsFiles();
     void iconBesideTheManifest();
     void saves();
     void shippedManifestsComeBack_data();
     void shippedManifestsComeBack();
-    void clears();
     void copies();
-    void notificationsOfAnAssignment();
-    void assigningTwice();
-    void selfAssignment();
-    void editsAfterAnAssignment();
     void receiversOfAnAssignment();
     void defaultIcon();
 
 private:
     WarningGuard m_warnings;
     const RobotLanguage m_english = language("en_US");
-    const RobotLanguage m_french = language("fr_FR");
 };
-
-void TestPackageLoading::loads() {
-    PackageInfoModel model;
-    QVERIFY(model.loadFromManifestContent(manifest));
-    QCOMPARE(model.uid(), text("tea-time"));
-    QCOMPARE(SignalLog::print(model.version()), text("2.1.0"));
-    QCOMPARE(SignalLog::print(model.supportedLanguages()), text("[en_US, ql_QA]"));
-    QCOMPARE(SignalLog::print(model.descriptionLanguages()), text("[en_US, ql_QA]"));
-    QCOMPARE(model.name(m_english), text("Tea"));
-    QCOMPARE(model.description(m_english), text("Brews."));
-    QCOMPARE(model.robotRequirements().size(), 2);
-    QCOMPARE(SignalLog::print(model.robotRequirement(1)), text("TERN///2.1/"));
-    QCOMPARE(SignalLog::print(model.brioRequirement(0)), text("2.5/3.0"));
-    QVERIFY(model.behavior(text("pour")));
-    QVERIFY(model.dialog(text("talk")));
-    QVERIFY(model.service(text("watch")));
-
-    QByteArray expected = manifest;
-    expected.replace("version=\"2.1\"", "version=\"2.1.0\"");
-    expected.replace("<descriptionLanguage code=\"en_US\"/>\n",
-                     "<descriptionLanguage code=\"en_US\"/>\n"
-                     "  <descriptionLanguage code=\"ql_QA\"/>\n");
-    QCOMPARE(model.saveToManifestContent(), expected);
-}
-
-void TestPackageLoading::notificationsOfALoad() {
-    const auto model = anotherPackage();
-    SignalLog log(*model);
-    log.onSignal("loadedFromManifest", [&] { return model->name(m_english); });
-    QVERIFY(model->loadFromManifestContent(manifest));
-    QCOMPARE(log.take(), QStringList({text("versionUpdated(0.0.0)"), text("authorUpdated(\"\")"),
-                                      text("installerUpdated(\"\")"), text("uidUpdated(\"\")"),
-                                      text("namesCleared()"), text("languageRemoved(fr_FR)"),
-                                      text("descriptionRemoved(fr_FR)"),
-                                      text("behaviorRemoved(old)"), text("dialogRemoved(old)"),
-                                      text("serviceRemoved(old)"), text("versionUpdated(2.1.0)"),
-                                      text("dialogAdded(talk)"), text("serviceAdded(watch)"),
-                                      text("loadedFromManifest()"), text("  Tea")}));
-    PackageInfoModel fresh;
-    QVERIFY(fresh.loadFromManifestContent(manifest));
-    QCOMPARE(model->packageInfo(), fresh.packageInfo());
-}
 
 void TestPackageLoading::unknownLanguagesAreKept() {
     const QByteArray content = QByteArray(manifest).replace("ql_", "qm_");
@@ -160,37 +65,6 @@ void TestPackageLoading::unknownLanguagesAreKept() {
     QCOMPARE(model.name(language("qm_QB")), text("Unheard"));
     QCOMPARE(model.behavior(text("pour"))->tags(language("qm_QC")), QStringList(text("tea")));
     QCOMPARE(model.dialog(text("talk"))->topic(language("qm_QD")), text("a.top"));
-}
-
-void TestPackageLoading::failedLoads_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("cut") << manifest.left(manifest.size() - 5);
-    QTest::newRow("another root") << QByteArray("<box format=\"1\"/>");
-}
-
-void TestPackageLoading::failedLoads() {
-    QFETCH(QByteArray, content);
-    const auto model = anotherPackage();
-    SignalLog log(*model);
-    QVERIFY(!model->loadFromManifestContent(content));
-    QVERIFY(!model->packageInfo().errorString().empty());
-    QCOMPARE(log.take(), lines(R"(versionUpdated(0.0.0)
-                                  authorUpdated("")
-                                  installerUpdated("")
-                                  uidUpdated("")
-                                  namesCleared()
-                                  languageRemoved(fr_FR)
-                                  descriptionRemoved(fr_FR)
-                                  behaviorRemoved(old)
-                                  dialogRemoved(old)
-                                  serviceRemoved(old))"));
-    QCOMPARE(model->packageInfo(), PackageInfoModel().packageInfo());
-    QVERIFY(model->behaviors().isEmpty() && model->dialogs().isEmpty());
-    QVERIFY(model->services().isEmpty() && model->robotRequirements().isEmpty());
-    QVERIFY(model->loadFromManifestContent(manifest));
-    QVERIFY(model->packageInfo().errorString().empty());
-    QVERIFY(model->description(m_french).isEmpty());
 }
 
 void TestPackageLoading::contentEndsAtNul() {
@@ -284,123 +158,21 @@ void TestPackageLoading::shippedManifestsComeBack() {
     QCOMPARE(model.saveToManifestContent(), content);
 }
 
-void TestPackageLoading::clears() {
-    const auto model = anotherPackage();
-    model->addRobotRequirement();
-    SignalLog log(*model);
-    model->clear();
-    QCOMPARE(log.take().filter(text("equirement")), QStringList());
-    QVERIFY(model->robotRequirements().isEmpty());
-    QCOMPARE(model->packageInfo(), PackageInfoModel().packageInfo());
-    // Descriptions stay until the next load, though the record has none.
-    QCOMPARE(model->description(m_french), text("Infuse."));
-}
-
 void TestPackageLoading::copies() {
     QObject parent;
-    const auto original = anotherPackage();
-    original->setParent(&parent);
+    auto *original = new PackageInfoModel(&parent);
+    QVERIFY(original->loadFromManifestContent(manifest));
     PackageInfoModel copy(*original);
-    original->setParent(nullptr);
     QVERIFY(!copy.parent());
     QCOMPARE(copy.packageInfo(), original->packageInfo());
-    QCOMPARE(copy.name(m_french), text("Thé"));
-    QCOMPARE(copy.robotRequirements().size(), 1);
+    QCOMPARE(copy.name(m_english), text("Tea"));
+    QCOMPARE(copy.robotRequirements().size(), 2);
     QCOMPARE(copy.behaviors().at(0)->parentPackage(), &copy);
     QCOMPARE(copy.dialogs().at(0)->parent(), static_cast<QObject *>(&copy));
     QCOMPARE(copy.services().at(0)->parent(), static_cast<QObject *>(&copy));
     copy.behaviors().at(0)->setPath(text("new"));
-    QCOMPARE(original->behaviors().at(0)->path(), text("old"));
-    QCOMPARE(original->packageInfo().behaviors().at(0).path(), std::string("old"));
-}
-
-void TestPackageLoading::notificationsOfAnAssignment() {
-    PackageInfoModel source;
-    QVERIFY(source.loadFromManifestContent(manifest));
-    source.setChannel(text("c"));
-    source.setDate(text("d"));
-    QPixmap pixmap(4, 4);
-    pixmap.fill(Qt::red);
-    source.setIcon(pixmap);
-    source.setOrganization(text("o"));
-    source.setPath(text("p"));
-    source.setTypeVersion(text("t"));
-    const auto target = anotherPackage();
-    SignalLog log(*target);
-    *target = source;
-    QCOMPARE(log.take(), lines(R"(versionUpdated(2.1.0)
-                                  authorUpdated("Ines")
-                                  channelUpdated("c")
-                                  dateUpdated("d")
-                                  iconUpdated(icon)
-                                  installerUpdated("")
-                                  organizationUpdated("o")
-                                  pathUpdated("p")
-                                  typeVersionUpdated("t")
-                                  uidUpdated("tea-time")
-                                  namesCleared()
-                                  nameUpdated("Tea", en_US)
-                                  nameUpdated("Unheard", ql_QB)
-                                  languageRemoved(fr_FR)
-                                  languageAdded(en_US)
-                                  descriptionAdded(en_US)
-                                  languageAdded(ql_QA)
-                                  descriptionAdded(ql_QA)
-                                  descriptionRemoved(fr_FR)
-                                  descriptionRemoved(en_US)
-                                  descriptionRemoved(ql_QA)
-                                  descriptionAdded(en_US)
-                                  descriptionAdded(ql_QA)
-                                  behaviorRemoved(old)
-                                  behaviorAdded(pour)
-                                  dialogRemoved(old)
-                                  dialogAdded(talk)
-                                  serviceRemoved(old)
-                                  serviceAdded(watch)
-                                  descriptionUpdated("Brews.", en_US)
-                                  robotRequirementAdded(TERN///2.1/)
-                                  robotRequirementAdded(TERN///2.1/)
-                                  brioRequirementAdded(2.5/3.0))"));
-    QCOMPARE(target->packageInfo(), source.packageInfo());
-    QCOMPARE(target->description(m_french), text("Infuse."));
-    QCOMPARE(target->saveToManifestContent(), source.saveToManifestContent());
-}
-
-void TestPackageLoading::assigningTwice() {
-    PackageInfoModel source;
-    QVERIFY(source.loadFromManifestContent(manifest));
-    PackageInfoModel target;
-    target = source;
-    target = source;
-    QCOMPARE(target.behaviors().size(), 1);
-    QCOMPARE(target.dialogs().size(), 1);
-    QCOMPARE(target.services().size(), 1);
-    QCOMPARE(target.robotRequirements().size(), 2);
-    QCOMPARE(target.packageInfo(), source.packageInfo());
-}
-
-void TestPackageLoading::selfAssignment() {
-    const auto model = anotherPackage();
-    const Tano::PackageInfo before = model->packageInfo();
-    SignalLog log(*model);
-    PackageInfoModel &self = *model;
-    *model = self;
-    QCOMPARE(log.take(), QStringList());
-    QCOMPARE(model->packageInfo(), before);
-}
-
-void TestPackageLoading::editsAfterAnAssignment() {
-    PackageInfoModel source;
-    QVERIFY(source.loadFromManifestContent(manifest));
-    source.behaviors().at(0)->insertTag(text("late"), m_english, 0);
-    PackageInfoModel target(source);
-    // The record is the source's, whose behavior has not been told of the insertion yet.
-    QVERIFY(target.packageInfo().behaviors().at(0).languagesToTags().count("en_US") == 0);
-    target.addBehavior(text("second"));
-    QCOMPARE(target.packageInfo().behaviors().size(), size_t(2));
-    QCOMPARE(target.packageInfo().behaviors().at(0), target.behaviors().at(0)->toBehaviorInfo());
-    target.addBrioRequirement();
-    QCOMPARE(target.packageInfo().brioRequirements().size(), size_t(2));
+    QCOMPARE(original->behaviors().at(0)->path(), text("pour"));
+    QCOMPARE(original->packageInfo().behaviors().at(0).path(), std::string("pour"));
 }
 
 void TestPackageLoading::receiversOfAnAssignment() {
