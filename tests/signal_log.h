@@ -19,8 +19,7 @@ public:
     explicit SignalLog(QObject &object) { watch(object); }
 
     /// Watches the notifications that the object's own class declares.
-    void watch(QObject &object, const QString &label = {},
-               Qt::ConnectionType type = Qt::DirectConnection) {
+    void watch(QObject &object, const QString &label = {}) {
         const QMetaObject *meta = object.metaObject();
         for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
             const QMetaMethod method = meta->method(i);
@@ -28,7 +27,7 @@ public:
                 continue;
             const int slot = QObject::staticMetaObject.methodCount() + int(m_sources.size());
             m_sources.push_back({method, label.isEmpty() ? label : QString(label % u'.')});
-            QMetaObject::connect(&object, i, this, slot, type);
+            QMetaObject::connect(&object, i, this, slot, Qt::DirectConnection);
         }
     }
 

@@ -41,7 +41,6 @@ private Q_SLOTS:
     void receiversMayRemoveTheLanguageToo();
     void argumentsMayLieInTheCache();
     void icons();
-    void queuedNotifications();
 
 private:
     WarningGuard m_warnings;
@@ -136,16 +135,9 @@ void TestPackageInfoModel::requirementValues() {
     }
     QVERIFY(base != requirement("tern"));
 
-    const Tano::RobotRequirement record{"TERN", "1", "2.5", "3", "4.0.1"};
-    QCOMPARE(toTanoRobotRequirement(base), record);
-    QVERIFY(fromTanoRobotRequirement(record) == base);
     const BrioRequirement brio{{2, 1}, {3}};
     QVERIFY(brio != (BrioRequirement{{3}, {2, 1}}));
     QVERIFY(brio != (BrioRequirement{{2, 1}, {3, 0}}));
-    QCOMPARE(toTanoBrioRequirement(brio), (Tano::BrioRequirement{"2.1", "3"}));
-    QVERIFY(fromTanoBrioRequirement({"2.1", "3"}) == brio);
-    QCOMPARE(fromTanoBrioRequirement({"", "x"}).maxVersion.fieldsCount(), 0);
-
     for (int index : {-1, 0}) { // there are none
         QVERIFY(PackageInfoModel().robotRequirement(index) == RobotRequirement());
         QVERIFY(PackageInfoModel().brioRequirement(index) == BrioRequirement());
@@ -214,29 +206,6 @@ void TestPackageInfoModel::icons() {
     QCOMPARE(log.take().size(), 2);
     model.setIcon(QIcon());
     QCOMPARE(log.take(), QStringList({text("iconUpdated(icon)"), text("1")}));
-}
-
-void TestPackageInfoModel::queuedNotifications() {
-    PackageInfoModel model;
-    SignalLog log;
-    log.watch(model, {}, Qt::QueuedConnection);
-    model.setVersion({1, 2});
-    model.addSupportedLanguage(m_french);
-    model.addRobotRequirement(requirement("A"));
-    model.addBrioRequirement();
-    model.addBehavior(text("pour"));
-    model.addDialog(text("talk"));
-    model.addService(Tano::PackageService{"watch", {}, false, {}});
-    QCOMPARE(log.take(), QStringList());
-    QCoreApplication::processEvents();
-    QCOMPARE(log.take(), lines(R"(versionUpdated(1.2.0)
-                                  languageAdded(fr_FR)
-                                  descriptionAdded(fr_FR)
-                                  robotRequirementAdded(A/1/2.5/3/4.0.1)
-                                  brioRequirementAdded(/)
-                                  behaviorAdded(pour)
-                                  dialogAdded(talk)
-                                  serviceAdded(watch))"));
 }
 
 QTEST_MAIN(TestPackageInfoModel)

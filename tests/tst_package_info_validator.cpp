@@ -31,7 +31,6 @@ private Q_SLOTS:
     void receiversMayRemoveBehaviors();
     void summariesChangeAtTheEdgesOnly();
     void packageGoesFirst();
-    void queuedDelivery();
     void flagsEqualAFreshRun();
 
 private:
@@ -96,19 +95,6 @@ void TestPackageInfoValidator::packageGoesFirst() {
     validator.deactivate();
     validator.activate();
     QCOMPARE(log.take(), QStringList());
-}
-
-void TestPackageInfoValidator::queuedDelivery() {
-    PackageInfoModel package;
-    QVERIFY(package.loadFromManifestContent(faultyPackage));
-    PackageInfoValidator validator(&package);
-    SignalLog log;
-    log.watch(validator, {}, Qt::QueuedConnection);
-    validator.validateBehaviorTriggerSentences();
-    QCOMPARE(log.take(), QStringList());
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.take(), lines(R"(triggerSentencesStateChanged(greet, [fr_FR])
-                                  triggerSentencesStateChanged(quiet, []))"));
 }
 
 namespace {

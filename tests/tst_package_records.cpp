@@ -60,32 +60,6 @@ private Q_SLOTS:
         QCOMPARE(package.supportedLanguages(), Strings{"en_US"});
     }
 
-    void trimmingKeepsWhatTheLanguagesOffer() {
-        BehaviorInfo behavior;
-        for (const char *code : {"de_DE", "en_US", "fr_FR"}) {
-            behavior.setName("n", code);
-            behavior.setDescription("d", code);
-            behavior.addTag("t", code);
-            behavior.addTriggerSentence("s", code);
-            behavior.addLoadingResponse("r", code);
-            behavior.addCondition("c", code); // a purpose, not a language
-        }
-        behavior.trimExtraInfo({"en_US", "fr_FR"}, {"fr_FR"});
-
-        const auto keys = [](const auto &map) {
-            Strings keys;
-            for (const auto &entry : map)
-                keys.push_back(entry.first);
-            return keys;
-        };
-        QCOMPARE(keys(behavior.names()), (Strings{"en_US", "fr_FR"}));
-        QCOMPARE(keys(behavior.descriptions()), (Strings{"en_US", "fr_FR"}));
-        QCOMPARE(keys(behavior.languagesToTags()), Strings{"fr_FR"});
-        QCOMPARE(keys(behavior.languagesToTriggerSentences()), Strings{"fr_FR"});
-        QCOMPARE(keys(behavior.languagesToLoadingResponses()), Strings{"fr_FR"});
-        QCOMPARE(behavior.purposesToConditions().size(), std::size_t(3));
-    }
-
     void mentionsEveryLanguageCode() {
         PackageInfo package;
         package.addSupportedLanguage("a1");

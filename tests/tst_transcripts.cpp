@@ -21,14 +21,11 @@ QByteArray contentOf(const QString &name) {
     return testData(text("transcripts/") + name);
 }
 
-QString printed(const QString &value) {
-    return SignalLog::print(value);
-}
-
-QString printed(const QStringList &list) {
+template<typename List>
+QString printedAll(const List &list) {
     QStringList texts;
-    for (const QString &each : list)
-        texts.append(printed(each));
+    for (const auto &each : list)
+        texts.append(SignalLog::print(each));
     return texts.join(u' ');
 }
 
@@ -36,24 +33,8 @@ template<typename Value>
 QString printed(const std::vector<std::pair<Value, RobotLanguage>> &values) {
     QStringList texts;
     for (const auto &[value, language] : values)
-        texts.append(language.isoCode() % u' ' % printed(value));
+        texts.append(language.isoCode() % u' ' % printedAll(QStringList(value)));
     return texts.join(QLatin1String(", "));
-}
-
-template<typename Children>
-QString printedChildren(const Children &children) {
-    QStringList keys;
-    for (const auto *child : children)
-        keys.append(SignalLog::print(child));
-    return keys.join(u' ');
-}
-
-template<typename Requirements>
-QString printedRequirements(const Requirements &requirements) {
-    QStringList texts;
-    for (const auto &each : requirements)
-        texts.append(SignalLog::print(each));
-    return texts.join(u' ');
 }
 
 Tano::BehaviorInfo recordOf(const BehaviorInfoModel &child) {
@@ -82,22 +63,21 @@ QStringList seenOf(const PackageInfoModel &package) {
         if (!value.isEmpty())
             seen.append(name % QLatin1String(": ") % value);
     };
+    const auto addChildren = [&](const char *name, const auto &children, const auto &records) {
+        add(text(name), printedAll(children));
+        if (!areRecorded(children, records))
+            add(text("to be recorded"), text(name));
+    };
     add(text("version"), SignalLog::print(package.version()));
     add(text("supported"), SignalLog::print(package.supportedLanguages()));
     add(text("described"), SignalLog::print(package.descriptionLanguages()));
     add(text("names"), printed(package.names()));
     add(text("descriptions"), printed(package.descriptions()));
-    add(text("robots"), printedRequirements(package.robotRequirements()));
-    add(text("brios"), printedRequirements(package.brioRequirements()));
-    add(text("behaviors"), printedChildren(package.behaviors()));
-    add(text("dialogs"), printedChildren(package.dialogs()));
-    add(text("services"), printedChildren(package.services()));
-    if (!areRecorded(package.behaviors(), record.behaviors()))
-        add(text("to be recorded"), text("behaviors"));
-    if (!areRecorded(package.dialogs(), record.dialogs()))
-        add(text("to be recorded"), text("dialogs"));
-    if (!areRecorded(package.services(), record.services()))
-        add(text("to be recorded"), text("services"));
+    add(text("robots"), printedAll(package.robotRequirements()));
+    add(text("brios"), printedAll(package.brioRequirements()));
+    addChildren("behaviors", package.behaviors(), record.behaviors());
+    addChildren("dialogs", package.dialogs(), record.dialogs());
+    addChildren("services", package.services(), record.services());
 
     const auto behaviors = package.behaviors();
     for (const BehaviorInfoModel *b : behaviors) {
@@ -224,7 +204,7 @@ private:
         else if (action == QLatin1String("deactivate"))
             m_validator.deactivate();
         else if (action == QLatin1String("errors"))
-            return printedChildren(m_validator.behaviorInErrors());
+            return printedAll(m_validator.behaviorInErrors());
         else
             return QLatin1String("no such step");
         return {};
@@ -242,16 +222,20 @@ private:
         return fromUtf8(package.packageInfo().errorString());
     }
 
+    template<typename T>
+    static Value value(T of) {
+        return std::make_shared<T>(std::move(of));
+    }
+
     static bool isChild(const QString &argument) {
         return argument.endsWith(u']') || argument == QLatin1String("null");
     }
 
     // The value of an argument of that type; null where it is not one.
     Value parsed(const QByteArray &type, const QString &argument) {
-        const auto value = [](auto of) { return std::make_shared<decltype(of)>(std::move(of)); };
         const QString inner = argument.mid(1, argument.size() - 2);
         if (argument.startsWith(u'"'))
-            return type == "QString" ? value(inner) : Value();
+            return type == "QString" ? value(inner) : nullptr;
         if (argument.startsWith(u'{') && type == "Tano::PackageService")
             return value(Tano::PackageService{toUtf8(inner), {}, false, {}});
         if (type == "BehaviorInfoModel*" && isChild(argument))
@@ -264,7 +248,6 @@ private:
     }
 
     static Value parsedWord(const QByteArray &type, const QString &word) {
-        const auto value = [](auto of) { return std::make_shared<decltype(of)>(std::move(of)); };
         const QStringList parts = word.split(u'/');
         const auto version = [&](int i) { return SoftwareVersionUtils::fromString(parts.at(i)); };
         bool isNumber = false;
