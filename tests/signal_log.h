@@ -34,6 +34,7 @@ public:
     /// Calls `look` upon every notification, and logs the lines that it returns behind it.
     void onEverySignal(std::function<QStringList()> look) { m_look = std::move(look); }
 
+    /// Adds lines that tell of something else.
     void append(const QStringList &lines) { m_lines += lines; }
 
     /// The lines since the last call.
