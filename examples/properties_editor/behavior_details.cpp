@@ -120,7 +120,7 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(newTextsTab(), tr("Texts"));
     m_sentences = addListTab(tr("Trigger sentences"), tr("A sentence that starts the behavior"));
-    m_responses = addListTab(tr("Loading responses"), tr("What the robot says while it loads"));
+    m_responses = addListTab(tr("Responses"), tr("What the robot says while it loads"));
     m_tags = addListTab(tr("Tags"), tr("A new tag"));
     m_conditions = addListTab(tr("Conditions"), tr("A new condition for this purpose"));
     m_permissions = addListTab(tr("Permissions"), tr("A new permission"));

@@ -64,8 +64,8 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(list);
     splitter->addWidget(m_details);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({280, 620});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);

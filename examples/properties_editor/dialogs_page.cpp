@@ -31,8 +31,8 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(newList());
     splitter->addWidget(newDetails());
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({280, 620});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);

@@ -171,6 +171,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk();
     watchPackage();
+    ++m_behaviorTextsRevision;
     m_issuesStale = true;
     refreshIssues();
     Q_EMIT packageReplaced();
@@ -195,9 +196,13 @@ void Document::watchPackage() {
 
     connect(package, &PackageInfoModel::languageAdded, this, setSentencesStale);
     connect(package, &PackageInfoModel::languageRemoved, this, setSentencesStale);
-    connect(package, &PackageInfoModel::behaviorRemoved, this, setSentencesStale);
+    connect(package, &PackageInfoModel::behaviorRemoved, this, [this] {
+        m_sentencesStale = true;
+        ++m_behaviorTextsRevision;
+    });
     connect(package, &PackageInfoModel::behaviorAdded, this, [this](BehaviorInfoModel *behavior) {
         m_sentencesStale = true;
+        ++m_behaviorTextsRevision;
         watchBehavior(behavior);
     });
     const auto behaviors = package->behaviors();
@@ -208,6 +213,12 @@ void Document::watchPackage() {
 void Document::watchBehavior(const BehaviorInfoModel *behavior) {
     // The issues name their behavior by its path.
     connect(behavior, &BehaviorInfoModel::pathUpdated, this, [this] { m_issuesStale = true; });
+    const auto countRevision = [this] { ++m_behaviorTextsRevision; };
+    connect(behavior, &BehaviorInfoModel::behaviorNameUpdated, this, countRevision);
+    connect(behavior, &BehaviorInfoModel::behaviorDescriptionUpdated, this, countRevision);
+    connect(behavior, &BehaviorInfoModel::triggerSentenceAdded, this, countRevision);
+    connect(behavior, &BehaviorInfoModel::triggerSentenceInserted, this, countRevision);
+    connect(behavior, &BehaviorInfoModel::triggerSentenceRemoved, this, countRevision);
 }
 
 void Document::finishEdit() {

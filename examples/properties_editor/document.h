@@ -76,6 +76,9 @@ public:
     [[nodiscard]] std::optional<Zel::PackageModel::Severity>
     behaviorSeverity(const QString &behaviorPath) const;
 
+    /// Grows when a text of a behavior, or the list of behaviors, changes.
+    [[nodiscard]] int behaviorTextsRevision() const { return m_behaviorTextsRevision; }
+
 Q_SIGNALS:
     void packageReplaced();
     void edited();
@@ -103,6 +106,8 @@ private:
     QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
     bool m_issuesStale = true;
     bool m_sentencesStale = false; // the validator does not look at them again by itself
+
+    int m_behaviorTextsRevision = 0;
 
     QString m_fileName;
     QString m_errorString;

@@ -86,9 +86,8 @@ void TopicsModel::removeTopic(int row) {
     }
 }
 
-Qt::ItemFlags TopicsModel::flags(const QModelIndex &index) const {
-    const Qt::ItemFlags flags = TableModel::flags(index);
-    return index.column() == 1 ? flags | Qt::ItemIsEditable : flags;
+Qt::ItemFlags TopicsModel::extraFlags(const QModelIndex &index) const {
+    return index.column() == 1 ? Qt::ItemIsEditable : Qt::NoItemFlags;
 }
 
 QStringList TopicsModel::currentKeys() const {
@@ -148,9 +147,8 @@ bool ServicesModel::setData(const QModelIndex &index, const QVariant &value, int
     return true;
 }
 
-Qt::ItemFlags ServicesModel::flags(const QModelIndex &index) const {
-    return TableModel::flags(index) |
-           (index.column() == AutoRun ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+Qt::ItemFlags ServicesModel::extraFlags(const QModelIndex &index) const {
+    return (index.column() == AutoRun ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
 }
 
 QString ServicesModel::refusal(const QModelIndex &index, const QString &text) const {

@@ -33,13 +33,13 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
 protected:
     [[nodiscard]] QStringList currentKeys() const override;
     [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 
 private:
     [[nodiscard]] const Zel::DialogInfoModel *dialog() const;
@@ -58,12 +58,12 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
     [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
 
 protected:
     [[nodiscard]] QStringList currentKeys() const override;
     [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 };
 
 /// A name that no entry has yet: `stem`, or the stem with a number.

@@ -5,6 +5,7 @@
 #include "message_bar.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -15,6 +16,11 @@
 #include <QToolButton>
 
 #include <array>
+
+// A static library's resources wait for this, which has to stand outside of any namespace.
+static void initTemplates() {
+    Q_INIT_RESOURCE(templates);
+}
 
 namespace Editor {
 namespace {
@@ -63,6 +69,7 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
                          QKeySequence::Refresh))
     , m_quit(newAction(this, tr("&Quit"), "application-exit", QStyle::SP_DialogCloseButton,
                        QKeySequence::Quit)) {
+    initTemplates();
     m_templates->setIcon(platformIcon(QStringLiteral("document-new"), QStyle::SP_FileIcon));
     for (const Template &entry : templates) {
         const QString resource = QLatin1String(entry.resource);
@@ -142,15 +149,18 @@ bool FileActions::settle() {
     }
 }
 
-void FileActions::tellFailure(const QString &title) {
-    QMessageBox::critical(&m_window, title, m_document.errorString());
+void FileActions::tellFailure(const QString &title, const QString &fileName) {
+    QMessageBox box(QMessageBox::Critical, title, m_document.errorString(), QMessageBox::Ok,
+                    &m_window);
+    box.setInformativeText(QDir::toNativeSeparators(fileName));
+    box.exec();
 }
 
 bool FileActions::open(const QString &fileName) {
     if (!settle())
         return false;
     if (!m_document.open(fileName)) {
-        tellFailure(tr("Open"));
+        tellFailure(tr("Open"), fileName);
         return false;
     }
     rememberRecent(m_document.fileName());
@@ -169,7 +179,7 @@ void FileActions::newFrom(const QString &resource) {
     if (!settle() || !file.open(QIODevice::ReadOnly))
         return;
     if (!m_document.openTemplate(file.readAll()))
-        tellFailure(tr("New"));
+        tellFailure(tr("New"), resource);
 }
 
 bool FileActions::save() {
@@ -201,7 +211,7 @@ bool FileActions::mayOverwrite() {
 
 bool FileActions::saveTo(const QString &fileName) {
     if (!m_document.save(fileName)) {
-        tellFailure(tr("Save"));
+        tellFailure(tr("Save"), fileName);
         return false;
     }
     rememberRecent(m_document.fileName());
@@ -215,7 +225,7 @@ void FileActions::publish() {
         &m_window, tr("Publish the Manifest"), directory() + QLatin1String("/published.xml"),
         tr("Manifests (*.xml);;All files (*)"));
     if (!fileName.isEmpty() && !m_document.publish(fileName))
-        tellFailure(tr("Publish"));
+        tellFailure(tr("Publish"), fileName);
 }
 
 void FileActions::reload() {
@@ -229,7 +239,7 @@ void FileActions::reload() {
             return;
     }
     if (!m_document.open(m_document.fileName()))
-        tellFailure(tr("Reload"));
+        tellFailure(tr("Reload"), m_document.fileName());
 }
 
 void FileActions::tellDiskState(Document::DiskState state) {

@@ -37,7 +37,7 @@ private:
     void tellDiskState(Document::DiskState state);
     bool saveTo(const QString &fileName);
     bool mayOverwrite();
-    void tellFailure(const QString &title);
+    void tellFailure(const QString &title, const QString &fileName);
     void fillRecentMenu();
     void rememberRecent(const QString &fileName);
     [[nodiscard]] QString directory() const;

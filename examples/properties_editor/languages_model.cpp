@@ -50,10 +50,12 @@ void LanguagesModel::packageReplaced() {
     m_mentioned.clear();
     for (const std::string &code : package()->packageInfo().languageCodes())
         m_mentioned.append(Zel::fromUtf8(code));
-    countBehaviorTexts();
 }
 
-void LanguagesModel::countBehaviorTexts() {
+void LanguagesModel::countBehaviorTexts() const {
+    if (m_countedRevision == document().behaviorTextsRevision())
+        return;
+    m_countedRevision = document().behaviorTextsRevision();
     m_behaviorTexts.clear();
     m_behaviorTextsWanted = 0;
     const auto behaviors = package()->behaviors();
@@ -66,6 +68,7 @@ void LanguagesModel::countBehaviorTexts() {
 }
 
 LanguagesModel::Count LanguagesModel::coverage(const QString &code) const {
+    countBehaviorTexts();
     const RobotLanguage language = languageOf(code);
     const int own =
         int(package()->hasNameFor(language)) + int(package()->hasDescriptionFor(language));
@@ -80,8 +83,8 @@ QString LanguagesModel::summary() const {
         names += int(package()->hasNameFor(language));
         descriptions += int(package()->hasDescriptionFor(language));
     }
-    return tr("Of %n supported language(s), %1 have a name and %2 have a description.", nullptr,
-              int(supported.size()))
+    return tr("Supported languages: %1. With a name: %2. With a description: %3.")
+        .arg(supported.size())
         .arg(names)
         .arg(descriptions);
 }
@@ -192,17 +195,16 @@ bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, in
     return true;
 }
 
-Qt::ItemFlags LanguagesModel::flags(const QModelIndex &index) const {
-    const Qt::ItemFlags flags = TableModel::flags(index);
+Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {
     switch (index.column()) {
     case Supported:
     case Described:
-        return flags | Qt::ItemIsUserCheckable;
+        return Qt::ItemIsUserCheckable;
     case Name:
     case Description:
-        return flags | Qt::ItemIsEditable;
+        return Qt::ItemIsEditable;
     default:
-        return flags;
+        return Qt::NoItemFlags;
     }
 }
 

@@ -21,16 +21,14 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Counts the behaviors' texts again. The package's own are always up to date.
-    void countBehaviorTexts();
-    /// "Names: 9 of 10 languages. Descriptions: 8 of 10."
+    /// "Supported languages: 10. With a name: 9. With a description: 8."
     [[nodiscard]] QString summary() const;
 
 protected:
     [[nodiscard]] QStringList currentKeys() const override;
     [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
     void packageReplaced() override;
 
 private:
@@ -38,12 +36,15 @@ private:
         int present = 0;
         int wanted = 0;
     };
+    void countBehaviorTexts() const;
     [[nodiscard]] Count coverage(const QString &code) const;
     [[nodiscard]] QVariant display(const QModelIndex &index) const;
 
     QStringList m_mentioned; // the languages that the file speaks of anywhere
-    QHash<QString, int> m_behaviorTexts;
-    int m_behaviorTextsWanted = 0;
+    // Counted when they are asked for, since there may be very many.
+    mutable QHash<QString, int> m_behaviorTexts;
+    mutable int m_behaviorTextsWanted = 0;
+    mutable int m_countedRevision = -1;
 };
 
 } // namespace Editor

@@ -1,4 +1,5 @@
 #include "main_window.h"
+#include "roomy_style.h"
 
 #include <packagemodel/translation.h>
 
@@ -17,6 +18,7 @@ int main(int argc, char **argv) {
     QApplication::setApplicationName(QStringLiteral("zel-properties-editor"));
     QApplication::setOrganizationName(QStringLiteral("zel"));
     QApplication::setApplicationVersion(QStringLiteral(ZEL_EDITOR_VERSION));
+    QApplication::setStyle(new Editor::RoomyStyle);
     QTranslator qtTexts; // those of the standard buttons and dialogs
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     const QString qtCatalogues = QLibraryInfo::location(QLibraryInfo::TranslationsPath);

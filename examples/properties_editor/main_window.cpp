@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -33,8 +34,20 @@
 #include <QUndoView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Editor {
 namespace {
+
+// Icons of one size, so that the texts beside them stand in one line.
+QIcon squareIcon(const QIcon &icon, int extent, qreal ratio) {
+    QPixmap square(QSize(extent, extent) * ratio);
+    square.setDevicePixelRatio(ratio);
+    square.fill(Qt::transparent);
+    QPainter painter(&square);
+    icon.paint(&painter, 0, 0, extent, extent);
+    return square;
+}
 
 QString localFile(const QMimeData *data) {
     const auto urls = data->urls();
@@ -56,7 +69,7 @@ MainWindow::MainWindow(QWidget *parent)
     addHistoryDock();
     addMenus();
     addStatus();
-    resizeDocks(findChildren<QDockWidget *>(), {640, 300}, Qt::Horizontal);
+    resizeDocks(findChildren<QDockWidget *>(), {820, 260}, Qt::Horizontal);
     resizeDocks({findChild<QDockWidget *>(QStringLiteral("problems"))}, {150}, Qt::Vertical);
     resize(1100, 780);
 
@@ -68,6 +81,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow() {
     m_document.undoStack()->disconnect(this);
+    // They look at the document until they are gone.
+    while (QWidget *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        delete child;
 }
 
 void MainWindow::addPages() {
@@ -76,8 +92,8 @@ void MainWindow::addPages() {
                new DialogsPage(m_document, this),      new ServicesPage(m_document, this)};
     m_navigation->setAccessibleName(tr("Pages"));
     m_navigation->setFrameShape(QFrame::NoFrame);
-    m_navigation->setIconSize(QSize(22, 22));
-    m_navigation->setSpacing(2);
+    constexpr int iconExtent = 22;
+    m_navigation->setIconSize(QSize(iconExtent, iconExtent));
     m_navigation->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (Page *page : std::as_const(m_pages)) {
         auto *scroll = new QScrollArea(m_stack);
@@ -87,9 +103,12 @@ void MainWindow::addPages() {
         m_stack->addWidget(scroll);
         QString title = page->title();
         title.remove(u'&');
-        new QListWidgetItem(page->icon(), title, m_navigation);
+        auto *item = new QListWidgetItem(squareIcon(page->icon(), iconExtent, devicePixelRatioF()),
+                                         title, m_navigation);
+        item->setSizeHint(QSize(fontMetrics().horizontalAdvance(title) + 2 * iconExtent + 16,
+                                std::max(iconExtent, fontMetrics().height()) + 14));
     }
-    m_navigation->setFixedWidth(m_navigation->sizeHintForColumn(0) + 28);
+    m_navigation->setFixedWidth(m_navigation->sizeHintForColumn(0) + 16);
     connect(m_navigation, &QListWidget::currentRowChanged, m_stack,
             &QStackedWidget::setCurrentIndex);
     m_navigation->setCurrentRow(0);
@@ -118,7 +137,7 @@ void MainWindow::addProblemsDock() {
     m_problemsView->setAccessibleName(tr("Problems"));
     m_problemsView->header()->setStretchLastSection(true);
     m_problemsView->header()->resizeSection(ProblemsModel::Severity, 100);
-    m_problemsView->header()->resizeSection(ProblemsModel::Text, 380);
+    m_problemsView->header()->resizeSection(ProblemsModel::Text, 400);
     // Activation is a double click or Return, or a single click where the platform has it so.
     const auto show = [this](const QModelIndex &index) {
         showField(index.data(ProblemsModel::PathRole).toString());
@@ -223,8 +242,7 @@ void MainWindow::refreshStatus() {
             platformIcon(QStringLiteral("dialog-ok-apply"), QStyle::SP_DialogApplyButton));
         return;
     }
-    m_problemCount->setText(tr("%1, %2").arg(tr("%n error(s)", nullptr, errors),
-                                             tr("%n warning(s)", nullptr, warnings)));
+    m_problemCount->setText(tr("Errors: %1, warnings: %2").arg(errors).arg(warnings));
     m_problemCount->setIcon(severityIcon(errors > 0 ? Severity::Error : Severity::Warning));
 }
 

@@ -108,7 +108,7 @@ MarkLabel::MarkLabel(Document &document, std::function<QString()> path, QWidget 
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_icon);
     layout->addWidget(m_text, 1);
-    m_text->setWordWrap(true);
+    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_text->setTextFormat(Qt::PlainText);
     connect(&document, &Document::issuesChanged, this, &MarkLabel::refresh);
     connect(&document, &Document::edited, this, &MarkLabel::refresh);
@@ -123,6 +123,7 @@ void MarkLabel::refresh() {
     const int extent = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(severityIcon(mark->severity).pixmap(extent, extent));
     m_text->setText(mark->text);
+    m_text->setToolTip(mark->text);
 }
 
 } // namespace Editor

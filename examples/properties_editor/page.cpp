@@ -1,7 +1,5 @@
 #include "page.h"
 
-#include "marks.h"
-
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -26,10 +24,10 @@ TextField *addTextRow(QFormLayout *form, const QString &label, Document &documen
 }
 
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent) {
-    auto *button = new QPushButton(
-        isAddition ? platformIcon(QStringLiteral("list-add"), QStyle::SP_FileDialogNewFolder)
-                   : platformIcon(QStringLiteral("list-remove"), QStyle::SP_TrashIcon),
-        text, parent);
+    // The styles have no icons for these.
+    const QIcon icon =
+        QIcon::fromTheme(isAddition ? QStringLiteral("list-add") : QStringLiteral("list-remove"));
+    auto *button = new QPushButton(icon, text, parent);
     button->setAutoDefault(false);
     return button;
 }

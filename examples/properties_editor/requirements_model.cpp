@@ -57,8 +57,8 @@ bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value,
     return true;
 }
 
-Qt::ItemFlags RequirementsModel::flags(const QModelIndex &index) const {
-    return TableModel::flags(index) | Qt::ItemIsEditable;
+Qt::ItemFlags RequirementsModel::extraFlags(const QModelIndex &) const {
+    return Qt::ItemIsEditable;
 }
 
 QString RequirementsModel::refusal(const QModelIndex &index, const QString &text) const {

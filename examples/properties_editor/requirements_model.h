@@ -17,7 +17,6 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
     [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
     [[nodiscard]] QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
@@ -29,6 +28,7 @@ public:
 protected:
     [[nodiscard]] QStringList currentKeys() const override;
     [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 
 private:
     [[nodiscard]] bool isModelColumn(const QModelIndex &index) const;

@@ -39,10 +39,11 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     setUpTable(table, document(), texts.heading);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 3);
+    table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);
 
     auto *hint = new QLabel(texts.hint, this);
-    hint->setWordWrap(true);
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    hint->setForegroundRole(QPalette::PlaceholderText);
     const QString path = QLatin1String(list);
     auto *mark = new MarkLabel(
         document(), [path] { return path; }, this);

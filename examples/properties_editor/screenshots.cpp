@@ -1,11 +1,11 @@
 // Draws the pictures of docs/images/ without a display: screenshots DIRECTORY SAMPLES.
 
 #include "main_window.h"
+#include "roomy_style.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
-#include <QScreen>
 #include <QStyleFactory>
 
 namespace {
@@ -84,7 +84,8 @@ int main(int argc, char **argv) {
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 3)
         return 2;
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
+    QApplication::setStyle(new Editor::RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
     QApplication::setFont(QFont(QStringLiteral("Noto Sans"), 10));
     for (const Picture &picture : pictures) {
         if (!draw(picture, QDir(arguments.at(1)), QDir(arguments.at(2))))

@@ -39,9 +39,8 @@ bool StringListModel::setData(const QModelIndex &index, const QVariant &value, i
     return true;
 }
 
-Qt::ItemFlags StringListModel::flags(const QModelIndex &index) const {
-    const Qt::ItemFlags flags = TableModel::flags(index);
-    return m_source.set ? flags | Qt::ItemIsEditable : flags;
+Qt::ItemFlags StringListModel::extraFlags(const QModelIndex &) const {
+    return m_source.set ? Qt::ItemIsEditable : Qt::NoItemFlags;
 }
 
 QString StringListModel::refusal(const QModelIndex &index, const QString &text) const {

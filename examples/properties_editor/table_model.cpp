@@ -21,6 +21,15 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 
+Qt::ItemFlags TableModel::flags(const QModelIndex &index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | extraFlags(index) : flags;
+}
+
+Qt::ItemFlags TableModel::extraFlags(const QModelIndex &) const {
+    return Qt::NoItemFlags;
+}
+
 QString TableModel::refusal(const QModelIndex &, const QString &) const {
     return {};
 }

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
 
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+
     /// Why a cell cannot take a text; empty when it can.
     [[nodiscard]] virtual QString refusal(const QModelIndex &index, const QString &text) const;
     /// What may be chosen for a cell, as pairs of the value and its text; empty where anything
@@ -35,6 +37,8 @@ protected:
     /// What tells the rows apart, in order. Where entries have no key of their own, numbered().
     [[nodiscard]] virtual QStringList currentKeys() const = 0;
     [[nodiscard]] virtual QStringList titles() const = 0;
+    /// The flags of a cell beside those of any cell.
+    [[nodiscard]] virtual Qt::ItemFlags extraFlags(const QModelIndex &index) const;
     /// For a new package, before its rows are asked for.
     virtual void packageReplaced() {}
 

@@ -96,6 +96,7 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     splitter->addWidget(tablePart);
     splitter->addWidget(m_details);
     splitter->setStretchFactor(0, 1);
+    splitter->setSizes({340, 150});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);
@@ -129,12 +130,6 @@ void TextsPage::refresh() {
     m_remove->setEnabled(isShown && (package()->hasLanguageSupport(language) ||
                                      package()->hasLanguageDescription(language)));
     m_summary->setText(m_model->summary());
-}
-
-void TextsPage::showEvent(QShowEvent *event) {
-    m_model->countBehaviorTexts();
-    m_model->sync();
-    Page::showEvent(event);
 }
 
 void TextsPage::fillLanguageMenu() {

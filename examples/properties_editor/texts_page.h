@@ -18,9 +18,6 @@ public:
     explicit TextsPage(Document &document, QWidget *parent = nullptr);
     bool showField(const FieldPath &path) override;
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     void fillLanguageMenu();
     void addLanguage(const QString &code);
