@@ -4,12 +4,14 @@
 
 #include "sample_package.h"
 
+#include <packagemodel/behavior_commands.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
 #include <packagemodel/package_info_validator.h>
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QUndoStack>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -20,6 +22,10 @@
 #include <optional>
 
 using namespace Zel;
+
+// Registers a case for every size.
+#define MEASURE(function)                                                                          \
+    BENCHMARK(function)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)
 
 namespace {
 
@@ -69,7 +75,7 @@ void load(benchmark::State &state) {
         return package;
     });
 }
-BENCHMARK(load)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(load);
 
 void tokenize(benchmark::State &state) {
     const QByteArray bytes = manifest(state);
@@ -81,13 +87,13 @@ void tokenize(benchmark::State &state) {
             giveUp(reader.errorString().toStdString());
     }
 }
-BENCHMARK(tokenize)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(tokenize);
 
 void save(benchmark::State &state) {
     const Tano::PackageInfo package = record(state);
     timeMaking(state, [&] { return package.saveToManifestContent(); });
 }
-BENCHMARK(save)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(save);
 
 // What a document is made of, decoded, so that writing it is all that remains to be done.
 struct Token {
@@ -142,7 +148,7 @@ void writeWithQt(benchmark::State &state) {
         giveUp("QXmlStreamWriter writes another document");
     timeMaking(state, [&] { return writeTokens(tokens); });
 }
-BENCHMARK(writeWithQt)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(writeWithQt);
 
 // A model can neither be copied nor moved out of a function.
 std::unique_ptr<PackageInfoModel> modelOf(const Tano::PackageInfo &package) {
@@ -153,7 +159,7 @@ void makeModels(benchmark::State &state) {
     const Tano::PackageInfo package = record(state);
     timeMaking(state, [&] { return modelOf(package); });
 }
-BENCHMARK(makeModels)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(makeModels);
 
 // One child after the other is edited, so that each is met cold.
 void editChild(benchmark::State &state) {
@@ -171,7 +177,7 @@ void editChild(benchmark::State &state) {
         }
     }
 }
-BENCHMARK(editChild)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(editChild);
 
 void copyListDeeply(benchmark::State &state) {
     const Tano::PackageInfo package = record(state);
@@ -182,7 +188,7 @@ void copyListDeeply(benchmark::State &state) {
         return copies;
     });
 }
-BENCHMARK(copyListDeeply)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(copyListDeeply);
 
 void addChildren(benchmark::State &state) {
     QStringList paths;
@@ -195,7 +201,7 @@ void addChildren(benchmark::State &state) {
         return package;
     });
 }
-BENCHMARK(addChildren)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(addChildren);
 
 void validate(benchmark::State &state) {
     const auto package = modelOf(record(state));
@@ -205,7 +211,7 @@ void validate(benchmark::State &state) {
         benchmark::DoNotOptimize(PackageModel::validate(package.get(), errors, warnings));
     }
 }
-BENCHMARK(validate)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(validate);
 
 // The validator alone is called: the change of the behavior itself is another figure.
 void recheckBehavior(benchmark::State &state) {
@@ -216,7 +222,44 @@ void recheckBehavior(benchmark::State &state) {
     for (auto _ : state)
         validator.validateTriggerSentences(behavior);
 }
-BENCHMARK(recheckBehavior)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(recheckBehavior);
+
+// One behavior whose name is set to and fro.
+struct NameEdit {
+    explicit NameEdit(const benchmark::State &state)
+        : package(modelOf(record(state)))
+        , behavior(package->behaviors().at(countOf(state) / 2)) {}
+
+    std::unique_ptr<PackageInfoModel> package;
+    BehaviorInfoModel *behavior;
+    RobotLanguage language = Language::defaultLanguage();
+    QString oldName = behavior->name(language);
+    QString newName = QStringLiteral("Another name");
+};
+
+void setToAndFro(benchmark::State &state) {
+    const NameEdit edit(state);
+    for (auto _ : state) {
+        edit.behavior->setName(edit.newName, edit.language);
+        edit.behavior->setName(edit.oldName, edit.language);
+    }
+}
+MEASURE(setToAndFro);
+
+void redoAndUndo(benchmark::State &state) {
+    const NameEdit edit(state);
+    QUndoStack stack;
+    stack.push(new BehaviorNameCommand(edit.package.get(), edit.behavior->path(), edit.newName,
+                                       edit.language, true));
+    stack.undo();
+    if (edit.behavior->name(edit.language) != edit.oldName)
+        giveUp("the command was not undone");
+    for (auto _ : state) {
+        stack.redo();
+        stack.undo();
+    }
+}
+MEASURE(redoAndUndo);
 
 void findChild(benchmark::State &state) {
     const auto package = modelOf(record(state));
@@ -229,7 +272,7 @@ void findChild(benchmark::State &state) {
         next = next + 1 == paths.size() ? 0 : next + 1;
     }
 }
-BENCHMARK(findChild)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond);
+MEASURE(findChild);
 
 } // namespace
 

@@ -18,6 +18,8 @@ file(RELATIVE_PATH ZEL_LIBDIR_FROM_BINDIR
     "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
 file(RELATIVE_PATH ZEL_DATADIR_FROM_LIBDIR
     "/${CMAKE_INSTALL_LIBDIR}" "/${CMAKE_INSTALL_DATADIR}")
+file(RELATIVE_PATH ZEL_DATADIR_FROM_BINDIR
+    "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_DATADIR}")
 
 set(ZEL_QT "Qt${ZEL_QT_MAJOR}")
 set(ZEL_QT_MINIMUM_5 5.15)
@@ -71,38 +73,66 @@ function(zel_add_library target)
     target_link_libraries(${target}
         PUBLIC ${arg_DEPENDS} PRIVATE ${arg_PRIVATE_DEPENDS} $<BUILD_INTERFACE:zel_strict>)
 
+    set(outside ${arg_DEPENDS} ${arg_PRIVATE_DEPENDS})
+    list(FILTER outside EXCLUDE REGEX "^(Zel|Tano)::")
+    set_target_properties(${target} PROPERTIES ZEL_OUTSIDE_DEPENDS "${outside}")
+
     set_property(GLOBAL APPEND PROPERTY ZEL_${arg_NAMESPACE}_LIBRARIES ${target})
     install(DIRECTORY include/ "${generated}/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
         FILES_MATCHING PATTERN "*.h")
 endfunction()
 
-# zel_add_program(<target> SOURCES ... DEPENDS ...): an installed program.
+# zel_add_program(<target> SOURCES ... [BUILT_IN library ...] DEPENDS ...): an installed program.
+#
+# Of the libraries of this tree that are built in, those first that use the others, the program
+# holds what it uses: one file to load instead of many, and of the libraries below only those that
+# are needed for it. What a source of the program defines stands in for a source of theirs.
 function(zel_add_program target)
-    cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;BUILT_IN;DEPENDS" ${ARGN})
     add_executable(${target} ${arg_SOURCES})
+    foreach(library IN LISTS arg_BUILT_IN)
+        set(objects "$<TARGET_OBJECTS:${library}>")
+        if(NOT TARGET ${library}_parts)
+            add_library(${library}_parts STATIC EXCLUDE_FROM_ALL ${objects})
+            set_target_properties(${library}_parts PROPERTIES
+                LINKER_LANGUAGE CXX AUTOMOC OFF AUTORCC OFF)
+        endif()
+        target_include_directories(${target} PRIVATE
+            "$<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>")
+        # Resources register themselves; nothing else refers to them.
+        target_sources(${target} PRIVATE
+            "$<FILTER:${objects},INCLUDE,/(qrc_|[a-z]+_translations)[^/]*$>")
+        target_link_libraries(${target} PRIVATE ${library}_parts)
+        get_target_property(outside ${library} ZEL_OUTSIDE_DEPENDS)
+        list(APPEND arg_DEPENDS ${outside})
+    endforeach()
+    if(arg_BUILT_IN)
+        target_link_options(${target} PRIVATE LINKER:--as-needed)
+    endif()
+    list(REMOVE_DUPLICATES arg_DEPENDS)
     target_link_libraries(${target} PRIVATE ${arg_DEPENDS} zel_strict)
     set_target_properties(${target} PROPERTIES
         INSTALL_RPATH "$ORIGIN/${ZEL_LIBDIR_FROM_BINDIR}")
     install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endfunction()
 
-# zel_add_translations(<target>): compiles the catalogues translations/<target>_*.ts into the target,
-# where Zel::installTranslation() finds them.
-function(zel_add_translations target)
-    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${target}_*.ts")
+# zel_add_translations(<catalogue> <target>...): compiles translations/<catalogue>_*.ts into the
+# targets, where Zel::installTranslation() finds them.
+function(zel_add_translations name)
+    file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${name}_*.ts")
     set(compiled "")
     set(entries "")
     foreach(catalogue IN LISTS catalogues)
-        cmake_path(GET catalogue STEM name)
-        set(output "${CMAKE_CURRENT_BINARY_DIR}/${name}.qm")
+        cmake_path(GET catalogue STEM stem)
+        set(output "${CMAKE_CURRENT_BINARY_DIR}/${stem}.qm")
         add_custom_command(OUTPUT "${output}"
             COMMAND ${ZEL_QT}::lrelease -silent "${catalogue}" -qm "${output}"
             DEPENDS "${catalogue}" VERBATIM)
         list(APPEND compiled "${output}")
-        string(APPEND entries "<file>${name}.qm</file>")
+        string(APPEND entries "<file>${stem}.qm</file>")
     endforeach()
 
-    set(name "${target}_translations")
+    string(APPEND name "_translations")
     set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
     set(source "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
     file(CONFIGURE OUTPUT "${resource}"
@@ -111,7 +141,9 @@ function(zel_add_translations target)
         COMMAND ${ZEL_QT}::rcc --name "${name}" --output "${source}" "${resource}"
         DEPENDS "${resource}" ${compiled} VERBATIM)
     set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
-    target_sources(${target} PRIVATE "${source}")
+    foreach(target IN LISTS ARGN)
+        target_sources(${target} PRIVATE "${source}")
+    endforeach()
 endfunction()
 
 # zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and

@@ -133,28 +133,3 @@ inline QStringList lines(const char *text) {
     }
     return result;
 }
-
-/// What a class declares to Qt's meta-object system, in order: `signal tagRemoved(int idx)`,
-/// `bool removeTag(int idx)`. The forms that default arguments add are left out.
-inline QStringList declarations(const QMetaObject &meta) {
-    QStringList result;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-        if (method.attributes() & QMetaMethod::Cloned)
-            continue;
-        QStringList parameters;
-        for (int p = 0; p < method.parameterCount(); ++p) {
-            const QByteArray declared =
-                method.parameterTypes().at(p) + ' ' + method.parameterNames().at(p);
-            parameters.append(QString::fromLatin1(declared).trimmed());
-        }
-        const bool isSignal = method.methodType() == QMetaMethod::Signal;
-        const QString prefix = isSignal ? QStringLiteral("signal ")
-                                        : QString(QString::fromLatin1(method.typeName()) % u' ');
-        const QString access =
-            method.access() == QMetaMethod::Private ? QStringLiteral("private ") : QString();
-        result.append(access % prefix % QString::fromLatin1(method.name()) % u'(' %
-                      parameters.join(QLatin1String(", ")) % u')');
-    }
-    return result;
-}

@@ -105,7 +105,6 @@ class TestBehaviorInfoModel : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void declaresItsInterface();
     void startsFromTheRecord();
     void unknownLanguagesAreRegistered();
     void copies();
@@ -128,60 +127,6 @@ private:
     const RobotLanguage m_english = language("en_US");
     const RobotLanguage m_french = language("fr_FR");
 };
-
-void TestBehaviorInfoModel::declaresItsInterface() {
-    QCOMPARE(declarations(BehaviorInfoModel::staticMetaObject), lines(R"(
-        signal userRequestableChanged(bool userRequestable)
-        signal permissionAdded(QString permType)
-        signal permissionRemoved(QString permType)
-        signal pathUpdated(QString newPath)
-        signal natureUpdated(QString newNature)
-        signal behaviorNameUpdated(QString newName, RobotLanguage inLanguage)
-        signal behaviorDescriptionUpdated(QString newDesc, RobotLanguage inLanguage)
-        signal categoryAdded(QString category)
-        signal categoryUpdated(int idx, QString newCategory)
-        signal categoryRemoved(int idx)
-        signal tagAdded(QString tag, RobotLanguage inLanguage)
-        signal tagInserted(QString tag, RobotLanguage inLanguage, int idx)
-        signal tagUpdated(int idx, QString newTag, RobotLanguage inLanguage)
-        signal tagRemoved(int idx, RobotLanguage inLanguage)
-        signal triggerSentenceAdded(QString ts, RobotLanguage inLanguage)
-        signal triggerSentenceInserted(QString ts, RobotLanguage inLanguage, int idx)
-        signal triggerSentenceUpdated(int tsIdx, QString newTs, RobotLanguage inLanguage)
-        signal triggerSentenceRemoved(int tsIdx, RobotLanguage inLanguage)
-        signal loadingResponseAdded(QString lr, RobotLanguage inLanguage)
-        signal loadingResponseInserted(QString lr, RobotLanguage inLanguage, int idx)
-        signal loadingResponseUpdated(int lrIdx, QString newLr, RobotLanguage inLanguage)
-        signal loadingResponseRemoved(int lrIdx, RobotLanguage inLanguage)
-        signal conditionAdded(QString condition, QString purpose)
-        signal conditionInserted(QString condition, QString purpose, int idx)
-        signal conditionUpdated(int conditionIdx, QString newCondition, QString purpose)
-        signal conditionRemoved(int conditionIdx, QString purpose)
-        void setPath(QString path)
-        void setNature(QString nature)
-        void setName(QString name, RobotLanguage lang)
-        void setDescription(QString desc, RobotLanguage lang)
-        void setUserRequestable(bool userRequestable)
-        bool addPermission(QString permType)
-        bool removePermission(QString permType)
-        bool addTag(QString tag, RobotLanguage lang)
-        bool insertTag(QString tag, RobotLanguage lang, int idx)
-        bool updateTag(int tagIdx, QString newTag, RobotLanguage lang)
-        bool removeTag(int tagIdx, RobotLanguage lang)
-        bool addTriggerSentence(QString ts, RobotLanguage lang)
-        bool insertTriggerSentence(QString ts, RobotLanguage lang, int idx)
-        bool updateTriggerSentence(int tsIdx, QString newTs, RobotLanguage lang)
-        bool removeTriggerSentence(int tsIdx, RobotLanguage lang)
-        bool addLoadingResponse(QString lr, RobotLanguage lang)
-        bool insertLoadingResponse(QString lr, RobotLanguage lang, int idx)
-        bool updateLoadingResponse(int lrIdx, QString newLr, RobotLanguage lang)
-        bool removeLoadingResponse(int lrIdx, RobotLanguage lang)
-        bool addCondition(QString condition, QString purpose)
-        bool insertCondition(QString condition, QString purpose, int idx)
-        bool updateCondition(int conditionIdx, QString newCondition, QString purpose)
-        bool removeCondition(int conditionIdx, QString purpose))"));
-    QCOMPARE(BehaviorInfoModel::staticMetaObject.className(), "Zel::BehaviorInfoModel");
-}
 
 void TestBehaviorInfoModel::startsFromTheRecord() {
     Tano::BehaviorInfo info;

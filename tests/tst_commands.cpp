@@ -1,10 +1,10 @@
 #include "signal_log.h"
+#include "switch_language.h"
 #include "warning_guard.h"
 
 #include <packagemodel/behavior_commands.h>
 #include <packagemodel/dialog_commands.h>
 #include <packagemodel/set_string.h>
-#include <packagemodel/supported_languages_command.h>
 
 #include <QPixmap>
 #include <QTest>
@@ -23,18 +23,7 @@ RobotLanguage language(const char *code) {
     return RobotLanguage(ISOCode(text(code)), NuanceCode());
 }
 
-// The commands that an editor adds to those of the library.
-class SwitchLanguage : public PackageLanguageCommand {
-public:
-    using PackageLanguageCommand::PackageLanguageCommand;
-    void switchLanguage() override {
-        if (model()->hasLanguageSupport(language()))
-            model()->removeSupportedLanguage(language());
-        else
-            model()->addSupportedLanguage(language());
-    }
-};
-
+// What an editor adds to the commands of the library.
 class EditorNature : public BehaviorSetStringCommand {
 public:
     using BehaviorSetStringCommand::BehaviorSetStringCommand;
@@ -897,7 +886,7 @@ void TestCommands::addedItemPositions() {
     QCOMPARE(command->remove(int(before.size()) + 1, &ok), QString());
     QVERIFY(!ok);
     QCOMPARE(command->remove(-1, nullptr), QString());
-    QCOMPARE(command->remove(m_behavior->tags(german).indexOf(text("x")), &ok), text("x"));
+    QCOMPARE(command->remove(int(m_behavior->tags(german).indexOf(text("x"))), &ok), text("x"));
     QVERIFY(ok);
     QCOMPARE(command->add(text("y"), -1), int(before.size()));
     QCOMPARE(command->add(text("y"), 0), -1);

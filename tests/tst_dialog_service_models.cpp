@@ -19,7 +19,6 @@ class TestDialogServiceModels : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void declareTheirInterfaces();
     void dialogStartsFromTheRecord();
     void dialogTexts();
     void dialogTopics();
@@ -35,25 +34,6 @@ private:
     const RobotLanguage m_english = robotLanguage(text("en_US"));
     const RobotLanguage m_french = robotLanguage(text("fr_FR"));
 };
-
-void TestDialogServiceModels::declareTheirInterfaces() {
-    QCOMPARE(declarations(DialogInfoModel::staticMetaObject), lines(R"(
-        signal nameChanged(QString newName)
-        signal typeVersionChanged(QString newTypeVersion)
-        signal topicChanged(RobotLanguage lang, QString path)
-        signal topicRemoved(RobotLanguage lang)
-        void setTopicName(QString name)
-        void setTypeVersion(QString version)
-        void setTopic(RobotLanguage lang, QString topic)
-        bool removeTopic(RobotLanguage lang))"));
-    QCOMPARE(declarations(ServiceInfoModel::staticMetaObject), lines(R"(
-        signal autoRunChanged(bool value)
-        signal nameChanged(QString)
-        signal execStartChanged(QString)
-        void setAutoRun(bool value)
-        void setName(QString)
-        void setExecStart(QString))"));
-}
 
 void TestDialogServiceModels::dialogStartsFromTheRecord() {
     Tano::DialogInfo info;

@@ -89,6 +89,8 @@ private Q_SLOTS:
     void outlivingThePackage();
     void deletedByOthers();
     void receiversMayEdit();
+    void removalsAreAnnouncedOnce_data();
+    void removalsAreAnnouncedOnce();
     void childrenGoWithThePackage();
     void needsNoDisplay();
 
@@ -288,7 +290,9 @@ void TestPackageChildren::lookingUp() {
 }
 
 using Edit = std::function<void(BehaviorInfoModel &)>;
+using Receiver = std::function<void(PackageInfoModel &, BehaviorInfoModel *)>;
 Q_DECLARE_METATYPE(Edit)
+Q_DECLARE_METATYPE(Receiver)
 
 void TestPackageChildren::everyTrackedChangeReachesTheRecord_data() {
     QTest::addColumn<Edit>("edit");
@@ -482,6 +486,32 @@ void TestPackageChildren::receiversMayEdit() {
 
     model.addBehavior(text("b"));
     QVERIFY(model.removeBehavior(text("b"))); // added again meanwhile, deleted all the same
+    QVERIFY(model.behaviors().isEmpty());
+}
+
+void TestPackageChildren::removalsAreAnnouncedOnce_data() {
+    QTest::addColumn<Receiver>("receiver");
+    const auto row = [](const char *name, const Receiver &receiver) {
+        QTest::newRow(name) << receiver;
+    };
+    row("removed again", [](auto &model, auto *child) { QVERIFY(!model.removeBehavior(child)); });
+    row("cleared again", [](auto &model, auto *) { model.clearBehaviors(); });
+    row("reset", [](auto &model, auto *) { model.clear(); });
+}
+
+void TestPackageChildren::removalsAreAnnouncedOnce() {
+    QFETCH(Receiver, receiver);
+    PackageInfoModel model;
+    for (const char *path : {"a", "b", "c"})
+        model.addBehavior(behavior(path));
+    SignalLog log(model);
+    connect(&model, &PackageInfoModel::behaviorRemoved, this,
+            [&](BehaviorInfoModel *removed) { receiver(model, removed); });
+    model.clearBehaviors();
+    const QRegularExpression removals(text("^behavior"));
+    QCOMPARE(log.take().filter(removals), lines(R"(behaviorRemoved(a)
+                                                   behaviorRemoved(b)
+                                                   behaviorRemoved(c))"));
     QVERIFY(model.behaviors().isEmpty());
 }
 

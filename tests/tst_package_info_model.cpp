@@ -39,7 +39,6 @@ class TestPackageInfoModel : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void declaresItsInterface();
     void convertsText_data();
     void convertsText();
     void losesNothingSilently_data();
@@ -56,6 +55,7 @@ private Q_SLOTS:
     void localizedTexts();
     void languages();
     void removingALanguageLeavesTheTexts();
+    void receiversMayRemoveTheLanguageToo();
     void argumentsMayLieInTheCache();
     void robotRequirements();
     void brioRequirements();
@@ -68,83 +68,6 @@ private:
     const RobotLanguage m_english = robotLanguage(text("en_US"));
     const RobotLanguage m_french = robotLanguage(text("fr_FR"));
 };
-
-void TestPackageInfoModel::declaresItsInterface() {
-    QCOMPARE(declarations(PackageInfoModel::staticMetaObject), lines(R"(
-        signal loadedFromManifest()
-        signal installerUpdated(QString newInstaller)
-        signal uidUpdated(QString newUuid)
-        signal versionUpdated(SoftwareVersion newVersion)
-        signal typeVersionUpdated(QString newTypeVersion)
-        signal authorUpdated(QString newAuthor)
-        signal organizationUpdated(QString newOrganization)
-        signal dateUpdated(QString newDate)
-        signal channelUpdated(QString newChannel)
-        signal pathUpdated(QString newPath)
-        signal languageAdded(RobotLanguage language)
-        signal languageRemoved(RobotLanguage language)
-        signal descriptionRemoved(RobotLanguage language)
-        signal descriptionAdded(RobotLanguage language)
-        signal nameUpdated(QString newName, RobotLanguage newLanguage)
-        signal namesCleared()
-        signal descriptionUpdated(QString newDesc, RobotLanguage inLanguage)
-        signal robotRequirementAdded(RobotRequirement newRobotReq)
-        signal robotRequirementUpdated(int robotReqIdx, RobotRequirement newRobotReq)
-        signal robotRequirementRemoved(int robotReqIdx)
-        signal brioRequirementAdded(BrioRequirement newBrioReq)
-        signal brioRequirementUpdated(int brioReqIdx, BrioRequirement newBrioReq)
-        signal brioRequirementRemoved(int brioReqIdx)
-        signal behaviorAdded(BehaviorInfoModel* addedBehavior)
-        signal behaviorRemoved(BehaviorInfoModel* removedBehavior)
-        signal dialogAdded(DialogInfoModel* dialog)
-        signal dialogRemoved(DialogInfoModel* dialog)
-        signal serviceAdded(ServiceInfoModel* service)
-        signal serviceRemoved(ServiceInfoModel* service)
-        signal iconUpdated(QIcon newIcon)
-        private void resyncBehaviors()
-        private void resyncDialogs()
-        private void resyncServices()
-        void setInstaller(QString installer)
-        void setUid(QString uid)
-        void setVersion(SoftwareVersion newVersion)
-        void setTypeVersion(QString typeVersion)
-        void setAuthor(QString author)
-        void setOrganization(QString organization)
-        void setDate(QString date)
-        void setChannel(QString channel)
-        void setPath(QString path)
-        void addSupportedLanguage(RobotLanguage language)
-        void removeSupportedLanguage(RobotLanguage language)
-        void addDescriptionLanguage(RobotLanguage language)
-        void removeDescriptionLanguage(RobotLanguage language)
-        void setName(QString name, RobotLanguage language)
-        void clearNames()
-        void setDescription(QString desc, RobotLanguage language)
-        void addRobotRequirement(RobotRequirement robotReq)
-        bool updateRobotRequirement(int robotReqIdx, RobotRequirement updatedRobotReq)
-        bool removeRobotRequirement(int robotReqIdx)
-        void addBrioRequirement(BrioRequirement brioReq)
-        bool updateBrioRequirement(int brioReqIdx, BrioRequirement updatedBrioReq)
-        bool removeBrioRequirement(int brioReqIdx)
-        bool addBehavior(QString behaviorPath)
-        void addBehavior(Tano::BehaviorInfo bi)
-        void addBehavior(BehaviorInfoModel* bim)
-        bool removeBehavior(QString behaviorPath)
-        bool removeBehavior(BehaviorInfoModel* bim)
-        void clearBehaviors()
-        void addDialog(Tano::DialogInfo di)
-        void addDialog(DialogInfoModel* dim)
-        void addDialog(QString topicName)
-        bool removeDialog(int dialogIndex)
-        bool removeDialog(DialogInfoModel* dim)
-        void addService(Tano::PackageService si)
-        void addService(ServiceInfoModel* sim)
-        bool removeService(QString serviceName)
-        bool removeService(ServiceInfoModel* sim)
-        void clearServices()
-        void setIcon(QIcon newIcon))"));
-    QCOMPARE(PackageInfoModel::staticMetaObject.className(), "Zel::PackageInfoModel");
-}
 
 void TestPackageInfoModel::convertsText_data() {
     QTest::addColumn<QString>("utf16");
@@ -386,6 +309,19 @@ void TestPackageInfoModel::removingALanguageLeavesTheTexts() {
     QCOMPARE(model.name(m_french), text("Thé"));
 }
 
+void TestPackageInfoModel::receiversMayRemoveTheLanguageToo() {
+    PackageInfoModel model;
+    model.addSupportedLanguage(m_french);
+    model.addDialog(text("talk"));
+    DialogInfoModel *talk = model.dialog(text("talk"));
+    talk->setTopic(m_french, text("f.top"));
+    connect(talk, &DialogInfoModel::topicRemoved, &model,
+            &PackageInfoModel::removeSupportedLanguage);
+    SignalLog log(model);
+    model.removeSupportedLanguage(m_french);
+    QCOMPARE(log.take(), lines("languageRemoved(fr_FR)"));
+}
+
 void TestPackageInfoModel::argumentsMayLieInTheCache() {
     PackageInfoModel model;
     model.addSupportedLanguage(m_french);
@@ -450,14 +386,20 @@ void TestPackageInfoModel::brioRequirements() {
 void TestPackageInfoModel::loadedRequirementsAreRewrittenWhole() {
     Tano::PackageInfo info;
     info.addBrioRequirement({" 02.1", "nonsense"});
+    info.addRobotRequirement({"TERN", " 02.1", "nonsense", "", ""});
     PackageInfoModel loaded(info);
     PackageInfoModel assigned;
     assigned = loaded;
     for (PackageInfoModel *model : {&loaded, &assigned}) {
-        QCOMPARE(model->packageInfo().brioRequirements(), info.brioRequirements());
+        const Tano::PackageInfo &record = model->packageInfo();
+        QCOMPARE(record.brioRequirements(), info.brioRequirements());
+        QCOMPARE(record.robotRequirements(), info.robotRequirements());
         model->addBrioRequirement({{3}, {}});
-        QCOMPARE(model->packageInfo().brioRequirements(),
+        model->addRobotRequirement();
+        QCOMPARE(record.brioRequirements(),
                  std::vector<Tano::BrioRequirement>({{"2.1", ""}, {"3", ""}}));
+        QCOMPARE(record.robotRequirements(),
+                 std::vector<Tano::RobotRequirement>({{"TERN", "2.1", "", "", ""}, {}}));
     }
 }
 

@@ -47,7 +47,6 @@ class TestPackageInfoValidator : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void declarationsInOrder();
     void construction();
     void mendingEachFault();
     void firstTriggerSentence();
@@ -65,28 +64,6 @@ private Q_SLOTS:
 private:
     WarningGuard m_warnings;
 };
-
-void TestPackageInfoValidator::declarationsInOrder() {
-    QCOMPARE(declarations(PackageInfoValidator::staticMetaObject), lines(R"(
-        signal applicationUIDStateChanged(bool validState)
-        signal robotRequirementsStateChanged(bool validState)
-        signal brioRequirementsStateChanged(bool validState)
-        signal applicationNamesStateChanged(RobotLanguages errorMissingLangs, RobotLanguages warningMissingLangs)
-        signal applicationDescriptionsStateChanged(RobotLanguages missingLangs)
-        signal triggerSentencesStateChanged(const BehaviorInfoModel* bim, RobotLanguages missingLangs)
-        signal packageHasErrorsChanged(bool value)
-        signal packageHasWarningsChanged(bool value)
-        void validateUID()
-        void validateRobotRequirements()
-        void validateBrioRequirements()
-        void validateApplicationNames()
-        void validateApplicationDescriptions()
-        void validateTriggerSentences(const BehaviorInfoModel* behaviorToShow)
-        void validateBehaviorTriggerSentences()
-        private void onBehaviorAdded(const BehaviorInfoModel* addedBehavior)
-        private void onBehaviorRemoved(const BehaviorInfoModel* removedBehavior)
-        private void onBehaviorTriggerChanged())"));
-}
 
 void TestPackageInfoValidator::construction() {
     PackageInfoModel package;

@@ -3,6 +3,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -228,7 +229,10 @@ void TestPackageLoading::iconBesideTheManifest() {
     PackageInfoModel model;
     SignalLog log(model);
     QVERIFY(model.loadFromManifestFile(path));
-    QCOMPARE(log.take().filter(text("icon")), lines("iconUpdated(icon)"));
+    QCOMPARE(log.take().filter(QRegularExpression(text("icon|talk|loaded"))),
+             lines(R"(iconUpdated(icon)
+                      dialogAdded(talk)
+                      loadedFromManifest())"));
     QCOMPARE(model.icon().pixmap(8, 8).toImage().pixelColor(1, 1), QColor(Qt::red));
 
     QVERIFY(QFile::remove(dir.filePath(text("icon.png"))));
@@ -317,13 +321,26 @@ void TestPackageLoading::copies() {
 void TestPackageLoading::notificationsOfAnAssignment() {
     PackageInfoModel source;
     QVERIFY(source.loadFromManifestContent(manifest));
+    source.setChannel(text("c"));
+    source.setDate(text("d"));
+    QPixmap pixmap(4, 4);
+    pixmap.fill(Qt::red);
+    source.setIcon(pixmap);
+    source.setOrganization(text("o"));
+    source.setPath(text("p"));
+    source.setTypeVersion(text("t"));
     const auto target = anotherPackage();
-    target->setIcon(QIcon());
     SignalLog log(*target);
     *target = source;
     QCOMPARE(log.take(), lines(R"(versionUpdated(2.1.0)
                                   authorUpdated("Ines")
+                                  channelUpdated("c")
+                                  dateUpdated("d")
+                                  iconUpdated(icon)
                                   installerUpdated("")
+                                  organizationUpdated("o")
+                                  pathUpdated("p")
+                                  typeVersionUpdated("t")
                                   uidUpdated("tea-time")
                                   namesCleared()
                                   nameUpdated("Tea", en_US)

@@ -232,9 +232,20 @@ private Q_SLOTS:
         QVERIFY(variant.isoCode().endsWith(PackageModel::k_sa.text()));
     }
 
+    void receiversMayRemoveBehaviors_data() {
+        QTest::addColumn<bool>("amidLists");
+        QTest::newRow("amid texts") << false;
+        QTest::newRow("amid lists") << true;
+    }
+
     void receiversMayRemoveBehaviors() {
-        connect(m_package.behaviors().at(0), &BehaviorInfoModel::behaviorDescriptionUpdated,
-                &m_package, [this] { m_package.removeBehavior(QStringLiteral("pour")); });
+        QFETCH(bool, amidLists);
+        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
+        const auto remove = [this] { m_package.removeBehavior(QStringLiteral("pour")); };
+        if (amidLists)
+            connect(pour, &BehaviorInfoModel::triggerSentenceAdded, &m_package, remove);
+        else
+            connect(pour, &BehaviorInfoModel::behaviorDescriptionUpdated, &m_package, remove);
         m_package.genPlainTextFromScript();
         QCOMPARE(m_package.behaviors().size(), 1);
     }

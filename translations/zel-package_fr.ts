@@ -688,5 +688,9 @@
         <source>scripts in</source>
         <translation>scripts en</translation>
     </message>
+    <message>
+        <source>The file cannot be run: %1.</source>
+        <translation>Le fichier ne peut pas être exécuté : %1.</translation>
+    </message>
 </context>
 </TS>

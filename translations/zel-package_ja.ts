@@ -688,5 +688,9 @@
         <source>scripts in</source>
         <translation>スクリプトの言語</translation>
     </message>
+    <message>
+        <source>The file cannot be run: %1.</source>
+        <translation>ファイルを実行できません: %1</translation>
+    </message>
 </context>
 </TS>

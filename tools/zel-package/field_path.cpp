@@ -5,22 +5,19 @@
 namespace ZelPackage {
 
 std::optional<Assignment> parseAssignment(const QString &text) {
-    static const QRegularExpression name(QStringLiteral("[A-Za-z]+"));
-    static const QRegularExpression key(QStringLiteral(R"(\[(.*?)\](?=[\[.=]))"),
+    static const QRegularExpression name(QStringLiteral("\\G[A-Za-z]+"));
+    static const QRegularExpression key(QStringLiteral(R"(\G\[(.*?)\](?=[\[.=]))"),
                                         QRegularExpression::DotMatchesEverythingOption);
-    const auto matchAt = [&](const QRegularExpression &expression, int position) {
-        return expression.match(text, position, QRegularExpression::NormalMatch,
-                                QRegularExpression::AnchoredMatchOption);
-    };
     Assignment assignment;
     int position = 0;
     while (true) {
-        QRegularExpressionMatch match = matchAt(name, position);
+        QRegularExpressionMatch match = name.match(text, position);
         if (!match.hasMatch())
             return {};
         FieldStep step{match.captured(), {}};
         position = int(match.capturedEnd());
-        for (match = matchAt(key, position); match.hasMatch(); match = matchAt(key, position)) {
+        for (match = key.match(text, position); match.hasMatch();
+             match = key.match(text, position)) {
             step.keys += match.captured(1);
             position = int(match.capturedEnd());
         }

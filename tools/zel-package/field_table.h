@@ -19,7 +19,7 @@ namespace ZelPackage {
 using Command = std::unique_ptr<QUndoCommand>;
 
 /// The key that appends to a list.
-constexpr QLatin1String appendKey("+");
+const QLatin1String appendKey("+");
 
 /// An assignment on its way to a command, and where its faults are told.
 class Edit {

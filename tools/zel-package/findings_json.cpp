@@ -27,7 +27,8 @@ public:
     }
 
     void writeUnreadable(const QString &file, const QString &trouble) override {
-        m_unreadable.append({{QStringLiteral("file"), file}, {QStringLiteral("text"), trouble}});
+        m_unreadable +=
+            QJsonObject{{QStringLiteral("file"), file}, {QStringLiteral("text"), trouble}};
     }
 
     void finish(const Report &report) override {

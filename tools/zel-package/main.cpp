@@ -10,6 +10,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
+#include <optional>
 #include <unistd.h>
 
 namespace {
@@ -22,23 +23,43 @@ void keepStandardStreamsTaken() {
     }
 }
 
-// File names, arguments and character widths are taken in the character set of the locale.
-void useUtf8() {
-    std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
-        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
-}
+// File names, arguments and character widths are taken in the character set of the locale, which is
+// UTF-8 while this lives. Qt asks for it once.
+class Utf8Locale {
+public:
+    Utf8Locale() {
+        std::setlocale(LC_ALL, "");
+        if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0)
+            return;
+        m_variable = qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL";
+        m_value = qgetenv(m_variable);
+        qputenv(m_variable, "C.UTF-8");
+    }
+    ~Utf8Locale() {
+        if (m_variable && m_value.isNull())
+            qunsetenv(m_variable);
+        else if (m_variable)
+            qputenv(m_variable, m_value);
+    }
+    Utf8Locale(const Utf8Locale &) = delete;
+    Utf8Locale &operator=(const Utf8Locale &) = delete;
+
+private:
+    const char *m_variable = nullptr;
+    QByteArray m_value;
+};
 
 } // namespace
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
-    useUtf8();
     // A closed pipe shall be a failed write.
     std::signal(SIGPIPE, SIG_IGN);
 
+    auto locale = std::make_optional<Utf8Locale>();
     const QCoreApplication application(argc, argv);
+    locale.reset();
     QCoreApplication::setApplicationName(QStringLiteral("zel-package"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_PACKAGE_VERSION));
     qSetMessagePattern(QStringLiteral("zel-package: %{message}"));

@@ -1,94 +1,15 @@
 #include "command.h"
 
-#include "field_edit.h"
-#include "manifest_source.h"
-#include "text_diff.h"
-
-#include <packagemodel/package_info_model.h>
-
-#include <QRegularExpression>
-#include <QUndoStack>
-
-#include <algorithm>
+#include "set_fields.h"
 
 namespace ZelPackage {
 namespace {
 
-const QLatin1String dryRunOption("dry-run");
-
 QList<QCommandLineOption> options() {
-    return {{dryRunOption, QCoreApplication::translate(
-                               "zel-package", "Write nothing; print what would change, as a "
-                                              "unified diff.")}};
-}
-
-// Makes all assignments, each upon what those before it have made; tells of every wrong one.
-bool assign(const QStringList &arguments, Zel::PackageInfoModel &package, Console &console) {
-    QUndoStack stack;
-    bool isFine = true;
-    for (const QString &argument : arguments) {
-        const auto assignment = parseAssignment(argument);
-        if (!assignment)
-            console.tell(QCoreApplication::translate("zel-package",
-                                                     "'%1' is not of the form FIELD=VALUE, as in "
-                                                     "author=Ines or names[en_US]=Tea.")
-                             .arg(argument));
-        auto command = assignment ? commandFor(*assignment, package, console) : nullptr;
-        isFine = isFine && command;
-        if (command)
-            stack.push(command.release());
-    }
-    return isFine;
-}
-
-// A model completes what it is given: the version has three fields, and every supported language is
-// a description language too. Takes that back where no assignment has touched it.
-void takeBackCompletion(const Tano::PackageInfo &written, const Tano::PackageInfo &completed,
-                        const QStringList &arguments, Tano::PackageInfo &result) {
-    if (arguments.filter(QRegularExpression(QStringLiteral("^version="))).isEmpty())
-        result.setVersion(written.version());
-    if (result.descriptionLanguages() != completed.descriptionLanguages())
-        return;
-    const std::vector<std::string> &languages = written.descriptionLanguages();
-    for (const std::string &code : completed.descriptionLanguages()) {
-        if (std::find(languages.begin(), languages.end(), code) == languages.end())
-            result.removeDescriptionLanguage(code);
-    }
-}
-
-// The record with the assignments made; nothing where one of them is wrong.
-std::optional<Tano::PackageInfo> edited(const Tano::PackageInfo &record,
-                                        const QStringList &arguments, Console &console) {
-    Zel::PackageInfoModel package(record);
-    const Tano::PackageInfo completed = package.packageInfo();
-    if (!assign(arguments, package, console))
-        return {};
-    package.syncRecord();
-    Tano::PackageInfo result = package.packageInfo();
-    takeBackCompletion(record, completed, arguments, result);
-    return result;
-}
-
-ExitStatus run(const QCommandLineParser &arguments, Console &console) {
-    QStringList assignments = arguments.positionalArguments();
-    const QString file = assignments.takeFirst();
-    const auto manifest = readManifest(file, console);
-    if (!manifest)
-        return Failure;
-    const auto record = edited(manifest->package, assignments, console);
-    if (!record)
-        return Failure;
-    const std::string content = record->saveToManifestContent();
-    bool isDone = !content.empty();
-    if (isDone && arguments.isSet(dryRunOption))
-        console.print(unifiedDiff(file, manifest->content, content, console));
-    else if (isDone && isStandardStream(file))
-        console.printBytes(content);
-    else if (isDone && manifest->content != content)
-        isDone = record->saveToManifestFile(file.toStdString());
-    if (!isDone)
-        console.tell(file, QString::fromStdString(record->errorString()));
-    return isDone ? Fine : Failure;
+    return {
+        {QLatin1String(dryRunOption),
+         QCoreApplication::translate("zel-package", "Write nothing; print what would change, as a "
+                                                    "unified diff.")}};
 }
 
 } // namespace
@@ -107,7 +28,7 @@ const Command setCommand{
     2,
     Command::anyNumber,
     options,
-    run,
+    setFields,
 };
 
 } // namespace ZelPackage

@@ -8,17 +8,25 @@
 #include <utility>
 
 #include <dlfcn.h>
+#include <link.h>
 
 namespace Tano::path {
 namespace {
 
-/// The directory over the data of all applications in the tree that this library was loaded from,
-/// or the empty text.
+/// The directory over the data of all applications in the tree that this library, or the program
+/// that it is built into, was loaded from, or the empty text.
 QString besideLibrary() {
     static const char addressInLibrary = 0;
     Dl_info info{};
-    if (dladdr(&addressInLibrary, &info) == 0 || !info.dli_fname)
+    link_map *loaded = nullptr;
+    if (dladdr1(&addressInLibrary, &info, reinterpret_cast<void **>(&loaded), RTLD_DL_LINKMAP) ==
+            0 ||
+        !info.dli_fname)
         return {};
+    if (loaded && *loaded->l_name == 0) // the program itself, whose name may be told in any way
+        return QDir::cleanPath(
+            QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path() %
+            QLatin1String("/" ZEL_DATADIR_FROM_BINDIR));
     // Canonical, because "..", taken from a linked library directory, leads elsewhere.
     const QString directory = QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
     if (directory.isEmpty())

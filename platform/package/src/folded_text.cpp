@@ -1,27 +1,29 @@
 #include "folded_text.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 namespace Tano {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr std::string_view whiteSpace = " \t\r\n";
 
-constexpr std::string_view closingMarks[] = {".", ",", ";", ":", "!", "?", ")",
-                                             "]", "}", "…", "،", "؛", "؟"};
-constexpr std::string_view wideMarks[] = {"、", "。", "，", "．", "：", "；", "！",
-                                          "？", "（", "）", "「", "」", "『", "』",
-                                          "【", "】", "《", "》", "〈", "〉"};
+constexpr std::array closingMarks{"."sv, ","sv, ";"sv, ":"sv, "!"sv, "?"sv, ")"sv,
+                                  "]"sv, "}"sv, "…"sv, "،"sv, "؛"sv, "؟"sv};
+constexpr std::array wideMarks{"、"sv, "。"sv, "，"sv, "．"sv, "："sv, "；"sv, "！"sv,
+                               "？"sv, "（"sv, "）"sv, "「"sv, "」"sv, "『"sv, "』"sv,
+                               "【"sv, "】"sv, "《"sv, "》"sv, "〈"sv, "〉"sv};
 
-template<std::size_t count>
-bool startsWithOne(std::string_view text, const std::string_view (&marks)[count]) {
-    return std::any_of(std::begin(marks), std::end(marks),
+template<typename Marks>
+bool startsWithOne(std::string_view text, const Marks &marks) {
+    return std::any_of(marks.begin(), marks.end(),
                        [&](std::string_view mark) { return text.substr(0, mark.size()) == mark; });
 }
 
 bool endsWithWideMark(std::string_view text) {
-    return std::any_of(std::begin(wideMarks), std::end(wideMarks), [&](std::string_view mark) {
+    return std::any_of(wideMarks.begin(), wideMarks.end(), [&](std::string_view mark) {
         return text.size() >= mark.size() && text.substr(text.size() - mark.size()) == mark;
     });
 }

@@ -4,6 +4,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
+#include <unistd.h>
+
 namespace Tano {
 namespace {
 
@@ -24,6 +27,14 @@ bool writeAll(QFileDevice &file, const std::string &bytes) {
     return file.flush() && file.error() == QFileDevice::NoError;
 }
 
+// Returns why the bytes did not reach the disk; the empty text where they did, or where the file
+// system cannot say. QSaveFile::commit() does not mind a failure of this either.
+QString syncToDisk(const QFileDevice &file) {
+    if (::fdatasync(file.handle()) == 0 || errno == EINVAL || errno == ENOSYS)
+        return {};
+    return qt_error_string(errno);
+}
+
 } // namespace
 
 std::string replaceFile(const QString &path, const std::string &bytes) {
@@ -39,6 +50,10 @@ std::string replaceFile(const QString &path, const std::string &bytes) {
         return cannotSave(path, file.errorString());
     if (!writeAll(file, bytes)) {
         const QString reason = file.errorString();
+        file.cancelWriting();
+        return cannotSave(path, reason);
+    }
+    if (const QString reason = syncToDisk(file); !reason.isEmpty()) {
         file.cancelWriting();
         return cannotSave(path, reason);
     }

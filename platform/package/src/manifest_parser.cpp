@@ -248,7 +248,7 @@ void ManifestParser::keepRaw(std::string xml) {
 bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
-    frame.rule = &ruleOf(element);
+    frame.rule = m_rules + std::size_t(element);
     frame.seen = 0;
     frame.unplaced = 0;
     frame.keys.clear();

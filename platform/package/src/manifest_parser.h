@@ -39,9 +39,6 @@ public:
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
-    /// The bounds of a tag hold exactly where a tag is complete; for one that never ends, twice as
-    /// many bytes without progress are enough to give up.
-    static constexpr std::uint64_t hopelessLag = 2 * std::uint64_t(ManifestReader::maxTagLength);
 
     [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
@@ -120,6 +117,7 @@ private:
     ManifestFailure m_failure;
     char *m_room = nullptr;
     std::uint64_t m_fed = 0;
+    const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by their numbers
     bool m_keepsPositions;
     FieldPositions m_positions;
 

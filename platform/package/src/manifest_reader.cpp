@@ -12,6 +12,7 @@ namespace Tano {
 namespace {
 
 constexpr std::size_t streamPiece = std::size_t(64) << 10;
+constexpr std::size_t smallPiece = std::size_t(8) << 10;
 
 // Where the bytes of a manifest come from. read() gives what is there, fewer bytes than wanted at
 // the end, and a negative count where reading failed.
@@ -58,15 +59,24 @@ private:
     qint64 m_start;
 };
 
+// How many bytes to ask a source for: where its end is known, one more than should be left, so that
+// fewer come there. A short manifest takes little time but, in expat's buffer, room for twice its
+// size, so it comes in pieces.
+template<typename Source>
+std::size_t pieceOf(const Source &source, std::size_t maxPiece) {
+    if (source.isSequential())
+        return streamPiece;
+    const qint64 left = std::max(source.left(), qint64(0));
+    const std::size_t longest = left < qint64(streamPiece) ? smallPiece : maxPiece;
+    return std::min(std::size_t(left) + 1, longest);
+}
+
 // Feeds a parser until the end or a failure; returns the failure.
 template<typename Source>
 ManifestFailure feedAll(ManifestParser &parser, Source &source, std::size_t maxPiece) {
     bool isLast = false;
     while (!isLast) {
-        // One byte more than should be left, so that fewer come at the end.
-        const bool knowsEnd = !source.isSequential() && source.left() > 0;
-        const std::size_t wanted =
-            knowsEnd ? std::size_t(std::min(source.left() + 1, qint64(maxPiece))) : streamPiece;
+        const std::size_t wanted = pieceOf(source, maxPiece);
         char *room = parser.room(wanted);
         if (!room)
             break;
@@ -90,8 +100,7 @@ struct ManifestReader::State {
     template<typename Source>
     bool read(Source source, PackageInfo &package) {
         const bool keepPositions = positions == Positions::Keep;
-        const bool isLong =
-            !source.isSequential() && source.left() > qint64(ManifestParser::hopelessLag);
+        const bool isLong = !source.isSequential() && source.left() > qint64(hopelessLag);
         auto parser = std::make_unique<ManifestParser>(keepPositions);
         failure = feedAll(*parser, source, ManifestParser::maxPiece);
         // In small pieces, a tag without end is refused for that, not for what stands in it later.

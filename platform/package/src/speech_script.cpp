@@ -1,8 +1,8 @@
 #include "speech_script.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
-#include <iterator>
 #include <limits>
 #include <optional>
 
@@ -23,7 +23,7 @@ struct ScriptElement {
 namespace {
 
 // SSML 1.1, section 3, and SRGS 1.0, sections 2.4 to 2.6.
-constexpr ScriptElement elements[] = {
+constexpr std::array<ScriptElement, 23> elements{{
     {"speak", Gives::Text, Apart::Always},
     {"p", Gives::Text, Apart::Always},
     {"s", Gives::Text, Apart::Always},
@@ -47,7 +47,7 @@ constexpr ScriptElement elements[] = {
     {"tag", Gives::Nothing, Apart::Never},
     {"one-of", Gives::FirstAlternative, Apart::Always},
     {"item", Gives::Text, Apart::Always},
-};
+}};
 constexpr ScriptElement foreignElement{{}, Gives::Text, Apart::WhenEmpty};
 
 // The root element that stands around the script, which need not have one.
@@ -58,9 +58,9 @@ constexpr const char *endWithoutStart = "The end tag has no start tag.";
 constexpr std::size_t chunkSize = std::size_t(1) << 20;
 
 const ScriptElement &elementNamed(std::string_view name) {
-    const auto *it = std::find_if(std::begin(elements), std::end(elements),
+    const auto *it = std::find_if(elements.begin(), elements.end(),
                                   [&](const auto &element) { return element.name == name; });
-    return it == std::end(elements) ? foreignElement : *it;
+    return it == elements.end() ? foreignElement : *it;
 }
 
 bool startsWith(std::string_view text, std::string_view start) {
@@ -218,7 +218,8 @@ void SpeechScriptReader::start(std::string_view name, const XML_Char **attribute
         isSilent = isSilent || *most == 0;
     }
 
-    if (!isAmidSilence && name == "desc" && m_open.back().element->gives == Gives::Description &&
+    if (!isAmidSilence && name == "desc" && !m_open.empty() &&
+        m_open.back().element->gives == Gives::Description &&
         !std::exchange(m_open.back().isSettled, true))
         m_text.rewind(m_open.back().start);
     if (!isAmidSilence && element.apart == Apart::Always)

@@ -46,10 +46,6 @@ std::string tagged(std::string_view name) {
     return '<' + std::string(name) + '>';
 }
 
-bool isWhiteSpace(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
 std::string exceededBound(XML_Parser parser, std::string_view element, int depth) {
     if (std::size_t(XML_GetCurrentByteCount(parser)) > ManifestReader::maxTagLength)
         return tagTooLong;

@@ -17,8 +17,14 @@ using ExpatHandle = std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)>
 
 std::string quoted(std::string_view text);
 std::string tagged(std::string_view name);
-/// Whether there is nothing but XML's white space.
-bool isWhiteSpace(std::string_view text);
+/// Whether there is nothing but XML's white space. Asked for every line's end and indentation.
+inline bool isWhiteSpace(std::string_view text) {
+    for (const char c : text) {
+        if (c != ' ' && c != '\n' && c != '\t' && c != '\r')
+            return false;
+    }
+    return true;
+}
 
 /// Which of ManifestReader's bounds the element that starts exceeds, as the `depth`-th of those
 /// that are open; empty for none.

@@ -73,7 +73,7 @@ std::unique_ptr<Mel::Model> model(const QFileInfo &file) {
     const QJsonObject fields = QJsonDocument::fromJson(source.read(maxFileSize)).object();
     bool isComplete = true;
     const auto text = [&](const char *field) {
-        const QString value = fields.value(QLatin1String(field)).toString();
+        QString value = fields.value(QLatin1String(field)).toString();
         isComplete = isComplete && !value.isEmpty();
         return value;
     };

@@ -132,7 +132,8 @@ private:
     ChildList<Child> *m_list = nullptr;
     std::uint64_t m_serial = 0; // ascending along the list
     std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;
-    bool m_stale = false; // listed for the next resync
+    bool m_stale = false;   // listed for the next resync
+    bool m_leaving = false; // announced as removed, though it may still stand in the list
 };
 
 /// Lets the lists reach into the child models.
@@ -185,6 +186,12 @@ public:
                 (QObject::connect(child, changes, m_package, m_resyncSlot), ...);
             },
             Kind::changes);
+    }
+
+    /// Marks the child as one that is about to be announced as removed; returns false where it has
+    /// been announced already, or stands in no list or another one.
+    bool startLeaving(const Child &child) {
+        return contains(child) && !std::exchange(ChildAccess::data(child).m_leaving, true);
     }
 
     /// Takes a child out of the list and brings the record up to date, without notification.

@@ -3,15 +3,16 @@
 #include "behavior_info_data.h"
 #include "child_list.h"
 #include "dialog_info_data.h"
-#include "icon_fingerprint.h"
 #include "localized_texts.h"
 #include "service_info_data.h"
 
 #include <packagemodel/package_info_model.h>
 
-#include <optional>
+#include <memory>
 
 namespace Zel {
+
+struct PackageIcon;
 
 /// The requirements of one kind, and whether the record's list mirrors them.
 template<typename Requirement>
@@ -42,8 +43,7 @@ struct PackageInfoModel::Data {
     ChildList<BehaviorInfoModel> behaviors;
     ChildList<DialogInfoModel> dialogs;
     ChildList<ServiceInfoModel> services;
-    QIcon icon;
-    std::optional<IconFingerprint> iconFingerprint; // taken when first needed
+    std::shared_ptr<PackageIcon> icon; // null before the first one is set
 
 private:
     Tano::PackageInfo m_record;

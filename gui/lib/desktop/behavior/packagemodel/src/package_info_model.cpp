@@ -4,8 +4,6 @@
 #include "localized_texts.h"
 #include "package_info_data.h"
 
-#include <QGuiApplication>
-
 namespace Zel {
 namespace {
 
@@ -165,6 +163,8 @@ void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
         if (dialog)
             dialog->removeTopic(removed);
     }
+    if (!hasLanguageSupport(removed))
+        return; // a receiver has removed it, and all have heard so
     Language::removeLanguage(m_data->supportedLanguages, removed);
     Q_EMIT languageRemoved(removed);
 }
@@ -231,28 +231,6 @@ bool PackageInfoModel::hasDescriptionFor(const RobotLanguage &language) const {
 
 void PackageInfoModel::setDescription(const QString &desc, const RobotLanguage &language) {
     Zel::setText(this, *m_data, Data::descriptionField, desc, language);
-}
-
-QIcon PackageInfoModel::icon() const {
-    return m_data->icon;
-}
-
-void PackageInfoModel::setIcon(const QIcon &newIcon) {
-    const QIcon icon = copyOf(newIcon);
-    const QIcon &current = m_data->icon;
-    if ((icon.isNull() && current.isNull()) || icon.cacheKey() == current.cacheKey())
-        return;
-    std::optional<IconFingerprint> look;
-    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
-        if (!m_data->iconFingerprint)
-            m_data->iconFingerprint = fingerprint(current);
-        look = fingerprint(icon);
-        if (look == m_data->iconFingerprint)
-            return;
-    }
-    m_data->icon = icon;
-    m_data->iconFingerprint = look;
-    Q_EMIT iconUpdated(icon);
 }
 
 } // namespace Zel

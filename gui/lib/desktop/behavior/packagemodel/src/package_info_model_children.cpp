@@ -44,7 +44,8 @@ void announceAndDelete(PackageInfoModel *package, const QPointer<Child> &child) 
 
 template<typename Child>
 bool remove(PackageInfoModel *package, ChildList<Child> &list, int index) {
-    if (index < 0 || index >= list.children().size())
+    if (index < 0 || index >= list.children().size() ||
+        !list.startLeaving(*list.children().at(index)))
         return false;
     announceAndDelete(package, QPointer<Child>(list.takeAt(index)));
     return true;
@@ -55,11 +56,11 @@ bool remove(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     return remove(package, list, list.indexOf(child));
 }
 
-// Receivers may add and remove children meanwhile; what they add stays.
+// Receivers may add, remove and clear children meanwhile; what they add stays.
 template<typename Child>
 void clear(PackageInfoModel *package, ChildList<Child> &list) {
     for (const QPointer<Child> &child : guarded(list.children())) {
-        if (child && list.contains(*child))
+        if (child && list.startLeaving(*child))
             announceAndDelete(package, child);
     }
 }

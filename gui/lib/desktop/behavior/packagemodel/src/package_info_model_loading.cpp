@@ -3,14 +3,10 @@
 #include "copies.h"
 #include "localized_texts.h"
 #include "meta_types.h"
+#include "package_icon.h"
 #include "package_info_data.h"
 
-#include <tano/path.h>
-
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QGuiApplication>
 
 #include <ostream>
 #include <utility>
@@ -18,21 +14,12 @@
 namespace Zel {
 namespace {
 
-// The icon beside a manifest; null when there is none, or no display to show it on.
-QIcon iconBeside(const QFile &manifest) {
-    const QString name = manifest.fileName();
-    if (name.isEmpty() || !qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-        return {};
-    const QString path = QFileInfo(name).dir().filePath(QStringLiteral("icon.png"));
-    return QFile::exists(path) ? QIcon(path) : QIcon();
-}
-
 void copyFields(const PackageInfoModel &from, PackageInfoModel &to) {
     to.setVersion(from.version());
     to.setAuthor(from.author());
     to.setChannel(from.channel());
     to.setDate(from.date());
-    to.setIcon(from.icon());
+    copyIcon(from, to);
     to.setInstaller(from.installer());
     to.setOrganization(from.organization());
     to.setPath(from.path());
@@ -91,12 +78,6 @@ void PackageInfoModel::Data::assignRecord(const Tano::PackageInfo &info) {
     behaviors.setOutOfStep();
     dialogs.setOutOfStep();
     services.setOutOfStep();
-}
-
-QIcon PackageInfoModel::defaultIcon() {
-    static const QIcon icon(fromUtf8(
-        Tano::path::findData("zentrix", "media/images/icons/_png/default_app.png", false)));
-    return icon;
 }
 
 PackageInfoModel::PackageInfoModel(QObject *parent)
@@ -158,9 +139,7 @@ bool PackageInfoModel::loadFromManifestFile(QFile &file) {
     clear();
     if (!m_data->edit().loadFromManifestFile(file))
         return false;
-    const QIcon icon = iconBeside(file);
-    if (!icon.isNull())
-        setIcon(icon);
+    readIconBeside(file, *this);
     initFromPackage();
     Q_EMIT loadedFromManifest();
     return true;

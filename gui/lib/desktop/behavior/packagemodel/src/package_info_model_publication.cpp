@@ -9,6 +9,7 @@
 #include <tano/log.h>
 #include <tano/package_helper.h>
 
+#include <array>
 #include <exception>
 
 namespace Zel {
@@ -24,9 +25,9 @@ struct TextKind {
 };
 
 template<typename Model>
-constexpr TextKind<Model> textKinds[] = {
-    {"names", &Model::names, &Model::setName},
-    {"descriptions", &Model::descriptions, &Model::setDescription},
+constexpr std::array textKinds{
+    TextKind<Model>{"names", &Model::names, &Model::setName},
+    TextKind<Model>{"descriptions", &Model::descriptions, &Model::setDescription},
 };
 
 // The same for lists of them.
@@ -38,11 +39,11 @@ struct ListKind {
                                       const RobotLanguage &language);
 };
 
-constexpr ListKind listKinds[] = {
-    {"triggerSentences", &BehaviorInfoModel::triggerSentences,
-     &BehaviorInfoModel::addTriggerSentence, &BehaviorInfoModel::updateTriggerSentence},
-    {"loadingResponses", &BehaviorInfoModel::loadingResponses,
-     &BehaviorInfoModel::addLoadingResponse, &BehaviorInfoModel::updateLoadingResponse},
+constexpr std::array listKinds{
+    ListKind{"triggerSentences", &BehaviorInfoModel::triggerSentences,
+             &BehaviorInfoModel::addTriggerSentence, &BehaviorInfoModel::updateTriggerSentence},
+    ListKind{"loadingResponses", &BehaviorInfoModel::loadingResponses,
+             &BehaviorInfoModel::addLoadingResponse, &BehaviorInfoModel::updateLoadingResponse},
 };
 
 bool isXScrpolLanguage(const RobotLanguage &language) {

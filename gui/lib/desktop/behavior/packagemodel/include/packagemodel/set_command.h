@@ -73,14 +73,15 @@ private:
 /// one field is undone in one step. A command that is made final closes the run.
 class PACKAGEMODEL_EXPORT MergeableCommand {
 public:
+    MergeableCommand(const MergeableCommand &) = delete;
+    MergeableCommand &operator=(const MergeableCommand &) = delete;
+
     /// Whether the command's run is over: it was made final, it took in a final command, or the
     /// last merge into it was refused.
     [[nodiscard]] virtual bool isFinalCommand() const;
 
 protected:
     MergeableCommand() = default;
-    MergeableCommand(const MergeableCommand &) = delete;
-    MergeableCommand &operator=(const MergeableCommand &) = delete;
     ~MergeableCommand() = default; // commands are deleted as QUndoCommand
 
     /// Tries a merge, and remembers whether it was accepted: `incoming` has to be a Command, and

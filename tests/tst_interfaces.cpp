@@ -1,0 +1,70 @@
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_info_validator.h>
+
+#include <QFile>
+#include <QMetaMethod>
+#include <QTest>
+
+using namespace Zel;
+
+namespace {
+
+// In order, a line each: "signal tagRemoved(int idx)", "private bool removeTag(int idx)". The forms
+// that default arguments add are left out.
+QStringList declarations(const QMetaObject &meta) {
+    QStringList result;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        if (method.attributes() & QMetaMethod::Cloned)
+            continue;
+        QStringList parameters;
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            const QByteArray declared =
+                method.parameterTypes().at(p) + ' ' + method.parameterNames().at(p);
+            parameters.append(QString::fromLatin1(declared).trimmed());
+        }
+        const bool isSignal = method.methodType() == QMetaMethod::Signal;
+        const QString prefix = isSignal ? QStringLiteral("signal ")
+                                        : QString(QString::fromLatin1(method.typeName()) % u' ');
+        const QString access =
+            method.access() == QMetaMethod::Private ? QStringLiteral("private ") : QString();
+        result.append(access % prefix % QString::fromLatin1(method.name()) % u'(' %
+                      parameters.join(QLatin1String(", ")) % u')');
+    }
+    return result;
+}
+
+} // namespace
+
+/// What each class declares to Qt's meta-object system is what the file of its name in
+/// data/interface says: editors connect by these names, and the order is part of the interface.
+class TestInterfaces : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void declared_data();
+    void declared();
+};
+
+Q_DECLARE_METATYPE(const QMetaObject *)
+
+void TestInterfaces::declared_data() {
+    QTest::addColumn<const QMetaObject *>("meta");
+    for (const QMetaObject *meta :
+         {&PackageInfoModel::staticMetaObject, &BehaviorInfoModel::staticMetaObject,
+          &DialogInfoModel::staticMetaObject, &ServiceInfoModel::staticMetaObject,
+          &PackageInfoValidator::staticMetaObject})
+        QTest::newRow(meta->className()) << meta;
+}
+
+void TestInterfaces::declared() {
+    QFETCH(const QMetaObject *, meta);
+    const QString name = QString::fromLatin1(meta->className()).remove(QStringLiteral("Zel::"));
+    QFile file(QStringLiteral(ZEL_TEST_DATA "/interface/%1.txt").arg(name));
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QString expected = QString::fromUtf8(file.readAll()).trimmed();
+    QCOMPARE(declarations(*meta), expected.split(u'\n'));
+}
+
+QTEST_GUILESS_MAIN(TestInterfaces)
+#include "tst_interfaces.moc"
