@@ -119,7 +119,7 @@ private Q_SLOTS:
         const int steps = stack()->count();
         QVERIFY(m_window->isWindowModified());
 
-        while (stack()->canUndo())
+        for (int i = 0; i < steps; ++i)
             press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(problemCount(), 15);
         QVERIFY(!m_window->isWindowModified());
@@ -360,11 +360,13 @@ private Q_SLOTS:
             [](QMessageBox *box) { box->buttons().last()->click(); })};
         press(Qt::Key_S, Qt::ControlModifier);
         QVERIFY(mend.isGiven());
-        QCOMPARE(QApplication::focusWidget(), version);
+        QCOMPARE(focus(), version);
         QVERIFY(m_window->isWindowModified());
         replaceText(QStringLiteral("2.5"));
         press(Qt::Key_Return);
         QCOMPARE(version->text(), QStringLiteral("2.5.0"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(version->text(), QStringLiteral("2.0.0")); // of the first character of "2.x"
         press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(version->text(), before);
 
@@ -455,8 +457,8 @@ private Q_SLOTS:
             m_window->showPage(page);
             QCoreApplication::processEvents();
             for (const auto *area : m_window->findChildren<QScrollArea *>())
-                QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
-                         qPrintable(QString::number(page)));
+                QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
+                         area->widget()->metaObject()->className());
         }
     }
 

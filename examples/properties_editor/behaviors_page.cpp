@@ -5,6 +5,7 @@
 #include "editor_commands.h"
 #include "entry_models.h"
 #include "marks.h"
+#include "typing_delegate.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -37,12 +38,11 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
             &QSortFilterProxyModel::setFilterFixedString);
 
     m_view->setModel(m_filtered);
-    m_view->setAccessibleName(tr("Behaviors"));
+    setUpTable(m_view, document, tr("Behaviors"));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true); // or every row would be measured
-    m_view->setAlternatingRowColors(true);
     m_view->header()->setSectionResizeMode(QHeaderView::Interactive);
-    m_view->header()->resizeSection(BehaviorsModel::Path, 140);
+    m_view->header()->resizeSection(BehaviorsModel::Path, 125);
 
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
@@ -65,7 +65,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     splitter->addWidget(list);
     splitter->addWidget(m_details);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({280, 620});
+    splitter->setSizes({230, 650});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);
@@ -119,8 +119,9 @@ void BehaviorsPage::select(const BehaviorInfoModel *behavior) {
 }
 
 void BehaviorsPage::add() {
-    const QString path = freeName(
-        tr("new-behavior"), [this](const QString &name) { return package()->behavior(name); });
+    const QString path = freeName(QStringLiteral("new-behavior"), [this](const QString &name) {
+        return package()->behavior(name);
+    });
     document().push(newAddBehaviorCommand(package(), path));
     select(package()->behavior(path));
 }

@@ -32,7 +32,7 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
     splitter->addWidget(newList());
     splitter->addWidget(newDetails());
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({280, 620});
+    splitter->setSizes({230, 650});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);
@@ -46,8 +46,7 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
 
 QWidget *DialogsPage::newList() {
     m_list->setModel(m_dialogs);
-    m_list->setAccessibleName(tr("Dialogs"));
-    m_list->setAlternatingRowColors(true);
+    setUpTable(m_list, document(), tr("Dialogs"));
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
     connect(add, &QPushButton::clicked, this, &DialogsPage::add);
@@ -134,8 +133,9 @@ void DialogsPage::refresh() {
 }
 
 void DialogsPage::add() {
-    const QString name = freeName(
-        tr("new-topic"), [this](const QString &taken) { return package()->dialog(taken); });
+    const QString name = freeName(QStringLiteral("new-topic"), [this](const QString &taken) {
+        return package()->dialog(taken);
+    });
     document().push(newAddDialogCommand(package(), name));
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
 }

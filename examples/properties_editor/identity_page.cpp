@@ -20,17 +20,19 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     : Page(document, tr("&Identity"),
            platformIcon(QStringLiteral("user-identity"), QStyle::SP_FileIcon), parent) {
     auto *form = new QFormLayout;
+    form->setHorizontalSpacing(12);
+    form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(newHeading(tr("Package"), this));
-    m_uid =
-        addText(form, tr("&UID:"), tr("my-app"), PackageStringCommand::Uid, &PackageInfoModel::uid);
+    m_uid = addText(form, tr("&UID:"), QStringLiteral("my-app"), PackageStringCommand::Uid,
+                    &PackageInfoModel::uid);
     addTextRow(form, tr("&Version:"), document,
                {[this] { return Zel::SoftwareVersionUtils::toString(package()->version()); },
                 [this](const QString &text, bool isFinal) {
                     return newVersionCommand(package(), text, isFinal);
                 },
                 [] { return QStringLiteral("version"); }, versionRefusal},
-               tr("1.0.0"));
+               QStringLiteral("1.0.0"));
     addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion,
             &PackageInfoModel::typeVersion);
     addText(form, tr("&Path on the robot:"), {}, PackageStringCommand::Path,
@@ -42,16 +44,16 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     addText(form, tr("&Author:"), {}, PackageStringCommand::Author, &PackageInfoModel::author);
     addText(form, tr("&Organization:"), {}, PackageStringCommand::Organization,
             &PackageInfoModel::organization);
-    addText(form, tr("&Date:"), tr("2026-09-14"), PackageStringCommand::Date,
+    addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), PackageStringCommand::Date,
             &PackageInfoModel::date);
     addText(form, tr("&Channel:"), {}, PackageStringCommand::Channel, &PackageInfoModel::channel);
 
     auto *icon = new IconButton(document, this);
     auto *hint = new QLabel(tr("Click, or drop a picture."), this);
     hint->setAlignment(Qt::AlignHCenter);
-    hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
     auto *iconLayout = new QVBoxLayout;
+    iconLayout->setSpacing(8);
     iconLayout->addWidget(newHeading(tr("Icon"), this), 0, Qt::AlignHCenter);
     iconLayout->addWidget(icon, 0, Qt::AlignHCenter);
     iconLayout->addWidget(hint);

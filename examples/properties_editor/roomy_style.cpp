@@ -7,9 +7,9 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
     case PM_FocusFrameHMargin: // around the text and the icon of an item
-        return usual + 4;
+        return usual + 3;
     case PM_HeaderMargin:
-        return usual + 5;
+        return usual + 4;
     default:
         return usual;
     }

@@ -13,15 +13,15 @@ namespace {
 enum class Look { Light, Dark };
 
 QPalette darkPalette() {
-    const QColor window(0x2a, 0x2d, 0x32);
+    const QColor window(0x24, 0x27, 0x2b);
     const QColor text(0xe6, 0xe8, 0xeb);
     const QColor faint(0x8b, 0x91, 0x99);
     QPalette palette(window);
     palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, QColor(0x1f, 0x22, 0x26));
-    palette.setColor(QPalette::AlternateBase, QColor(0x25, 0x28, 0x2d));
+    palette.setColor(QPalette::Base, QColor(0x2f, 0x33, 0x39));
+    palette.setColor(QPalette::AlternateBase, QColor(0x34, 0x38, 0x3f));
     palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Button, QColor(0x34, 0x38, 0x3e));
+    palette.setColor(QPalette::Button, QColor(0x3a, 0x3f, 0x46));
     palette.setColor(QPalette::ButtonText, text);
     palette.setColor(QPalette::ToolTipBase, window);
     palette.setColor(QPalette::ToolTipText, text);

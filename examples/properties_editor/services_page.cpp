@@ -50,8 +50,9 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
 }
 
 void ServicesPage::add() {
-    const QString name = freeName(
-        tr("new-service"), [this](const QString &taken) { return package()->service(taken); });
+    const QString name = freeName(QStringLiteral("new-service"), [this](const QString &taken) {
+        return package()->service(taken);
+    });
     document().push(newAddServiceCommand(package(), name));
     m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
 }

@@ -2,6 +2,7 @@
 
 #include "marks.h"
 #include "page.h"
+#include "text_field.h"
 #include "typing_delegate.h"
 
 #include <QCompleter>
@@ -27,6 +28,7 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
     m_line->setPlaceholderText(placeholder);
     m_line->setAccessibleName(placeholder);
     m_line->setClearButtonEnabled(true);
+    yieldUndo(m_line); // what was added last is undone, not what was typed for it
 
     auto *row = new QHBoxLayout;
     row->addWidget(m_line, 1);

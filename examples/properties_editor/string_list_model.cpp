@@ -13,10 +13,6 @@ void StringListModel::setSource(const ListSource &source) {
     sync();
 }
 
-void StringListModel::packageReplaced() {
-    m_source = {};
-}
-
 QStringList StringListModel::items() const {
     return m_source.read ? m_source.read() : QStringList();
 }

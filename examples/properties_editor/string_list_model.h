@@ -21,7 +21,7 @@ class StringListModel : public TableModel {
 
 public:
     explicit StringListModel(Document &document, const QString &title, QObject *parent = nullptr);
-    /// Shows another list.
+    /// Shows another list. It has to be called again for another package.
     void setSource(const ListSource &source);
 
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -38,7 +38,6 @@ protected:
     [[nodiscard]] QStringList currentKeys() const override;
     [[nodiscard]] QStringList titles() const override;
     [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
-    void packageReplaced() override;
 
 private:
     [[nodiscard]] QStringList items() const;

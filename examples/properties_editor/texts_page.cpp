@@ -57,11 +57,13 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
     buttons->addStretch();
-    buttons->addWidget(m_summary);
+    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_summary->setForegroundRole(QPalette::PlaceholderText);
 
     auto *tablePart = new QWidget(this);
     auto *tableLayout = new QVBoxLayout(tablePart);
     tableLayout->setContentsMargins(0, 0, 0, 0);
+    tableLayout->addWidget(m_summary);
     tableLayout->addWidget(m_table);
     tableLayout->addLayout(buttons);
 
