@@ -41,7 +41,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     setUpTable(m_view, document, tr("Behaviors"));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true); // or every row would be measured
-    m_view->header()->setSectionResizeMode(QHeaderView::Interactive);
+    m_view->header()->setSectionResizeMode(BehaviorsModel::Name, QHeaderView::Stretch);
     m_view->header()->resizeSection(BehaviorsModel::Path, 125);
 
     auto *add = newListButton(tr("&Add"), true, this);

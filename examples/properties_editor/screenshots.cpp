@@ -68,7 +68,7 @@ bool draw(const Picture &picture, const QDir &images, const QDir &samples) {
     if (!window.openFile(
             samples.filePath(QLatin1String(picture.sample) + QLatin1String("/manifest.xml"))))
         return false;
-    window.resize(1100, 760);
+    window.resize(1100, 820);
     window.show();
     window.showPage(picture.page);
     if (picture.field)
