@@ -76,7 +76,7 @@ TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
                        [this, string](const QString &text, bool isFinal) {
                            return new PackageStringCommand(package(), text, string, isFinal);
                        },
-                       [path] { return path; }},
+                       [path] { return QString(path); }},
                       placeholder);
 }
 

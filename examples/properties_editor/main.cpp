@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLibraryInfo>
-#include <QTimer>
 #include <QTranslator>
 
 int main(int argc, char **argv) {
@@ -18,7 +17,7 @@ int main(int argc, char **argv) {
     QApplication::setApplicationName(QStringLiteral("zel-properties-editor"));
     QApplication::setOrganizationName(QStringLiteral("zel"));
     QApplication::setApplicationVersion(QStringLiteral(ZEL_EDITOR_VERSION));
-    QApplication::setStyle(new Editor::RoomyStyle);
+    Editor::RoomyStyle::use(new Editor::RoomyStyle);
     QTranslator qtTexts; // those of the standard buttons and dialogs
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     const QString qtCatalogues = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
@@ -44,7 +43,7 @@ int main(int argc, char **argv) {
     Editor::MainWindow window;
     window.show();
     const QString fileName = parser.positionalArguments().value(0);
-    if (!fileName.isEmpty()) // once the window is there to say what goes wrong
-        QTimer::singleShot(0, &window, [&] { window.openFile(fileName); });
+    if (!fileName.isEmpty())
+        window.openFile(fileName);
     return QApplication::exec();
 }

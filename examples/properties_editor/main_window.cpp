@@ -82,7 +82,7 @@ MainWindow::MainWindow(QWidget *parent)
 MainWindow::~MainWindow() {
     m_document.undoStack()->disconnect(this);
     // They look at the document until they are gone.
-    while (QWidget *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+    while (auto *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
         delete child;
 }
 

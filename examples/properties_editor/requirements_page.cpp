@@ -44,9 +44,8 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     auto *hint = new QLabel(texts.hint, this);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     hint->setForegroundRole(QPalette::PlaceholderText);
-    const QString path = QLatin1String(list);
     auto *mark = new MarkLabel(
-        document(), [path] { return path; }, this);
+        document(), [list] { return QString(QLatin1String(list)); }, this);
 
     auto *add = newListButton(texts.addition, true, this);
     connect(add, &QPushButton::clicked, model, [model, table] {

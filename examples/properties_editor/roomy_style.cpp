@@ -1,6 +1,12 @@
 #include "roomy_style.h"
 
+#include <QApplication>
+
 namespace Editor {
+
+void RoomyStyle::use(RoomyStyle *style) {
+    QApplication::setStyle(style);
+}
 
 int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const {

@@ -10,6 +10,9 @@ class RoomyStyle : public QProxyStyle {
 
 public:
     using QProxyStyle::QProxyStyle;
+    /// Makes a style that of the application, which owns it from then on.
+    static void use(RoomyStyle *style);
+
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
 };

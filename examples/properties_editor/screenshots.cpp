@@ -8,6 +8,8 @@
 #include <QIcon>
 #include <QStyleFactory>
 
+#include <array>
+
 namespace {
 
 enum class Look { Light, Dark };
@@ -46,17 +48,17 @@ QPalette lightPalette() {
 
 struct Picture {
     const char *name;
-    Look look;
     const char *sample;
-    int page;
     const char *field; // shown before the picture is taken, if any
+    int page;
+    Look look;
 };
 
-constexpr Picture pictures[] = {
-    {"editor-light", Look::Light, "ten-languages", 1, nullptr},
-    {"editor-dark", Look::Dark, "ten-languages", 3, nullptr},
-    {"problems-light", Look::Light, "faulty", 2, nullptr},
-    {"problems-dark", Look::Dark, "faulty", 3, "behaviors[patrol].triggerSentences[fr_FR]"},
+constexpr std::array pictures{
+    Picture{"editor-light", "ten-languages", nullptr, 1, Look::Light},
+    Picture{"editor-dark", "ten-languages", nullptr, 3, Look::Dark},
+    Picture{"problems-light", "faulty", nullptr, 2, Look::Light},
+    Picture{"problems-dark", "faulty", "behaviors[patrol].triggerSentences[fr_FR]", 3, Look::Dark},
 };
 
 bool draw(const Picture &picture, const QDir &images, const QDir &samples) {
@@ -85,7 +87,8 @@ int main(int argc, char **argv) {
     if (arguments.size() != 3)
         return 2;
     QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
-    QApplication::setStyle(new Editor::RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
+    auto *style = new Editor::RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Editor::RoomyStyle::use(style);
     QApplication::setFont(QFont(QStringLiteral("Noto Sans"), 10));
     for (const Picture &picture : pictures) {
         if (!draw(picture, QDir(arguments.at(1)), QDir(arguments.at(2))))
