@@ -1,4 +1,5 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QTest>
@@ -6,14 +7,6 @@
 using namespace Zel;
 
 namespace {
-
-RobotLanguage language(const char *code) {
-    return robotLanguage(QString::fromLatin1(code));
-}
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 QString all(const Language::LocalizedStringLists &lists) {
     QStringList parts;
@@ -176,12 +169,17 @@ void TestBehaviorInfoModel::copies() {
     auto *original = new BehaviorInfoModel(Tano::BehaviorInfo(), package.get());
     QCOMPARE(original->parent(), package.get());
     original->setName(text("Brew"), m_english);
-    original->addTag(text("tea"), m_english);
+    original->setDescription(text("Brews."), m_english);
+    for (const Lists &lists : kinds())
+        lists.add(*original, text("tea"), m_english);
 
     BehaviorInfoModel copy(*original);
     QVERIFY(!copy.parent());
     QCOMPARE(copy.parentPackage(), package.get());
     QCOMPARE(copy.names(), original->names());
+    QCOMPARE(copy.descriptions(), original->descriptions());
+    for (const Lists &lists : kinds())
+        QCOMPARE(lists.list(copy, m_english), QStringList(text("tea")));
     copy.addTag(text("pot"), m_english);
     QCOMPARE(original->tags(m_english), QStringList(text("tea")));
     QCOMPARE(original->toBehaviorInfo().languagesToTags().at("en_US").size(), size_t(1));

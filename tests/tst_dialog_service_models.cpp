@@ -1,17 +1,10 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QTest>
 
 using namespace Zel;
-
-namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-} // namespace
 
 class TestDialogServiceModels : public QObject {
     Q_OBJECT
@@ -31,8 +24,8 @@ private Q_SLOTS:
 
 private:
     WarningGuard m_warnings;
-    const RobotLanguage m_english = robotLanguage(text("en_US"));
-    const RobotLanguage m_french = robotLanguage(text("fr_FR"));
+    const RobotLanguage m_english = language("en_US");
+    const RobotLanguage m_french = language("fr_FR");
 };
 
 void TestDialogServiceModels::dialogStartsFromTheRecord() {
@@ -45,7 +38,7 @@ void TestDialogServiceModels::dialogStartsFromTheRecord() {
     QCOMPARE(model.topicName(), text("thé"));
     QCOMPARE(model.typeVersion(), text("1.0"));
     const Language::LocalizedStrings topics{{text("f.top"), m_french},
-                                            {text("a.top"), robotLanguage(text("qd_QA"))}};
+                                            {text("a.top"), language("qd_QA")}};
     QCOMPARE(model.topics(), topics);
     QCOMPARE(SignalLog::print(model.topicsLanguages()), text("[fr_FR, qd_QA]"));
     QVERIFY(model.topic(m_english).isNull());

@@ -126,7 +126,7 @@ private Q_SLOTS:
         QTest::addColumn<std::string>("content");
         QTest::addColumn<QString>("error");
         const auto row = [](const char *name, const std::string &content, const char *error) {
-            QTest::newRow(name) << content << QString::fromLatin1(error);
+            QTest::newRow(name) << content << QString::fromUtf8(error);
         };
         const std::string deep = repeated("<a>", 1000000);
         row("a million elements deep", inPackage(deep),
@@ -143,6 +143,11 @@ private Q_SLOTS:
             "Line 2, column 41: A tag, comment or processing instruction is longer than 1 MiB.");
         row("a comment without end", inPackage("<!--" + std::string(50000000, 'x')),
             "Line 2, column 41: A tag, comment or processing instruction is longer than 1 MiB.");
+        const std::string key = "<texts language=\"" + repeated("é", 200000) + "\"/>";
+        row("a key too long to be told", inPackage(key + key),
+            ("Line 2, column 200061: The element <texts language=\"" + repeated("é", 85) + " ... " +
+             repeated("é", 85) + "\"> stands twice in <package>.")
+                .c_str());
         row("a long text", inPackage("<author>" + std::string(5000000, 'x') + "</author>"), "");
     }
 
@@ -152,6 +157,16 @@ private Q_SLOTS:
         PackageInfo package;
         QCOMPARE(package.loadFromManifestContent(content), error.isEmpty());
         QCOMPARE(QString::fromStdString(package.errorString()), error);
+    }
+
+    void whatCannotBeReadIsNotSaved() {
+        PackageInfo package;
+        package.setUuid(std::string(ManifestReader::maxTagLength - 100, 'x'));
+        QCOMPARE(loaded(package.saveToManifestContent()), package);
+        package.setUuid(std::string(ManifestReader::maxTagLength, 'x'));
+        QVERIFY(package.saveToManifestContent().empty());
+        QCOMPARE(package.errorString(),
+                 std::string("The package is too long to be saved: a tag holds at most 1 MiB."));
     }
 
     void hardTextsSurvive_data() {

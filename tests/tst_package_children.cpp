@@ -1,4 +1,5 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QPointer>
@@ -9,10 +10,6 @@
 using namespace Zel;
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 Tano::BehaviorInfo behavior(const char *path) {
     Tano::BehaviorInfo info;
@@ -79,6 +76,7 @@ private Q_SLOTS:
     void clearing();
     void lookingUp_data();
     void lookingUp();
+    void lookingUpWhileChangesWait();
     void everyTrackedChangeReachesTheRecord_data();
     void everyTrackedChangeReachesTheRecord();
     void insertionsWait();
@@ -96,7 +94,7 @@ private Q_SLOTS:
 
 private:
     WarningGuard m_warnings;
-    const RobotLanguage m_french = robotLanguage(text("fr_FR"));
+    const RobotLanguage m_french = language("fr_FR");
 };
 
 void TestPackageChildren::initialisation() {
@@ -289,6 +287,25 @@ void TestPackageChildren::lookingUp() {
     QTEST(int(model.services().indexOf(model.service(key))), "index");
 }
 
+void TestPackageChildren::lookingUpWhileChangesWait() {
+    PackageInfoModel model;
+    for (const char *path : {"a", "b", "c", "d"})
+        model.addBehavior(behavior(path));
+    const auto found = [&](const char *path) {
+        return int(model.behaviors().indexOf(model.behavior(text(path))));
+    };
+    QCOMPARE(found("x"), -1);
+    for (const auto &[renamed, first] : {std::pair(3, 3), {1, 1}, {2, 1}}) {
+        const QSignalBlocker blocker(model.behaviors().at(renamed));
+        model.behaviors().at(renamed)->setPath(text("x"));
+        QCOMPARE(found("x"), first);
+    }
+    QCOMPARE(found("b"), -1);
+    model.syncRecord();
+    model.behaviors().at(3)->insertTag(text("t"), m_french, 0);
+    QCOMPARE(found("x"), 1);
+}
+
 using Edit = std::function<void(BehaviorInfoModel &)>;
 using Receiver = std::function<void(PackageInfoModel &, BehaviorInfoModel *)>;
 Q_DECLARE_METATYPE(Edit)
@@ -431,6 +448,7 @@ void TestPackageChildren::movingToAnotherPackage() {
     QCOMPARE(recorded(source), text("b||"));
     QCOMPARE(recorded(target), text("a||"));
     QCOMPARE(child->parentPackage(), &target);
+    source.clearBehaviors(); // the record waits for a change of the package's own behaviors
     child->setPath(text("x"));
     QCOMPARE(recorded(source), text("b||"));
     QCOMPARE(recorded(target), text("x||"));

@@ -1,4 +1,5 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QBitmap>
@@ -9,10 +10,6 @@ using namespace Zel;
 Q_DECLARE_METATYPE(std::string)
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 RobotRequirement requirement(const char *model) {
     return {text(model), {1}, {2, 5}, {3}, {4, 0, 1}};
@@ -65,8 +62,8 @@ private Q_SLOTS:
 
 private:
     WarningGuard m_warnings;
-    const RobotLanguage m_english = robotLanguage(text("en_US"));
-    const RobotLanguage m_french = robotLanguage(text("fr_FR"));
+    const RobotLanguage m_english = language("en_US");
+    const RobotLanguage m_french = language("fr_FR");
 };
 
 void TestPackageInfoModel::convertsText_data() {
@@ -224,12 +221,15 @@ void TestPackageInfoModel::versions() {
     PackageInfoModel model;
     QCOMPARE(SignalLog::print(model.version()), text("0.0.0"));
     SignalLog log(model);
+    log.onSignal("versionUpdated", [&] {
+        return QString(SignalLog::print(model.version()) % u' ' %
+                       fromUtf8(model.packageInfo().version()));
+    });
     model.setVersion(given);
     model.setVersion(given);
     const QString line = QLatin1String("versionUpdated(") % stored % u')';
-    QCOMPARE(log.take(), QStringList({line, line}));
-    QCOMPARE(SignalLog::print(model.version()), stored);
-    QCOMPARE(fromUtf8(model.packageInfo().version()), stored);
+    const QString state = QLatin1String("  ") % stored % u' ' % stored;
+    QCOMPARE(log.take(), QStringList({line, state, line, state}));
 }
 
 void TestPackageInfoModel::localizedTexts() {
@@ -264,19 +264,28 @@ void TestPackageInfoModel::localizedTexts() {
 void TestPackageInfoModel::languages() {
     PackageInfoModel model;
     SignalLog log(model);
+    for (const char *name :
+         {"languageAdded", "languageRemoved", "descriptionAdded", "descriptionRemoved"})
+        log.onSignal(name, [&] {
+            return QString(SignalLog::print(model.supportedLanguages()) % u' ' %
+                           SignalLog::print(model.descriptionLanguages()));
+        });
     model.addSupportedLanguage(m_french);
     model.addSupportedLanguage(m_french);
     model.addDescriptionLanguage(m_english);
     model.addSupportedLanguage(m_english);
     model.removeDescriptionLanguage(m_french);
     model.removeDescriptionLanguage(m_french);
-    QCOMPARE(log.take(), lines(R"(languageAdded(fr_FR)
-                                  descriptionAdded(fr_FR)
-                                  descriptionAdded(en_US)
-                                  languageAdded(en_US)
-                                  descriptionRemoved(fr_FR))"));
-    QCOMPARE(SignalLog::print(model.supportedLanguages()), text("[fr_FR, en_US]"));
-    QCOMPARE(SignalLog::print(model.descriptionLanguages()), text("[en_US]"));
+    QCOMPARE(log.take().join(u'\n'), text("languageAdded(fr_FR)\n"
+                                          "  [fr_FR] []\n"
+                                          "descriptionAdded(fr_FR)\n"
+                                          "  [fr_FR] [fr_FR]\n"
+                                          "descriptionAdded(en_US)\n"
+                                          "  [fr_FR] [fr_FR, en_US]\n"
+                                          "languageAdded(en_US)\n"
+                                          "  [fr_FR, en_US] [fr_FR, en_US]\n"
+                                          "descriptionRemoved(fr_FR)\n"
+                                          "  [fr_FR, en_US] [en_US]"));
     QVERIFY(model.hasLanguageSupport(m_french));
     QVERIFY(!model.hasLanguageDescription(m_french));
     QCOMPARE(model.packageInfo().supportedLanguages(),
@@ -341,6 +350,14 @@ void TestPackageInfoModel::argumentsMayLieInTheCache() {
 void TestPackageInfoModel::robotRequirements() {
     PackageInfoModel model;
     SignalLog log(model);
+    for (const char *name :
+         {"robotRequirementAdded", "robotRequirementUpdated", "robotRequirementRemoved"})
+        log.onSignal(name, [&] {
+            QStringList models;
+            for (const auto &each : model.packageInfo().robotRequirements())
+                models.append(fromUtf8(each.model));
+            return models.join(u',');
+        });
     model.addRobotRequirement(requirement("A"));
     model.addRobotRequirement(requirement("A"));
     model.addRobotRequirement();
@@ -352,12 +369,18 @@ void TestPackageInfoModel::robotRequirements() {
         QVERIFY(!model.removeRobotRequirement(index));
         QVERIFY(model.robotRequirement(index) == RobotRequirement());
     }
-    QCOMPARE(log.take(), lines(R"(robotRequirementAdded(A/1/2.5/3/4.0.1)
-                                  robotRequirementAdded(A/1/2.5/3/4.0.1)
-                                  robotRequirementAdded(////)
-                                  robotRequirementUpdated(1, B/1/2.5/3/4.0.1)
-                                  robotRequirementUpdated(1, B/1/2.5/3/4.0.1)
-                                  robotRequirementRemoved(0))"));
+    QCOMPARE(log.take().join(u'\n'), text("robotRequirementAdded(A/1/2.5/3/4.0.1)\n"
+                                          "  A\n"
+                                          "robotRequirementAdded(A/1/2.5/3/4.0.1)\n"
+                                          "  A,A\n"
+                                          "robotRequirementAdded(////)\n"
+                                          "  A,A,\n"
+                                          "robotRequirementUpdated(1, B/1/2.5/3/4.0.1)\n"
+                                          "  A,B,\n"
+                                          "robotRequirementUpdated(1, B/1/2.5/3/4.0.1)\n"
+                                          "  A,B,\n"
+                                          "robotRequirementRemoved(0)\n"
+                                          "  B,"));
     QCOMPARE(recorded(model.packageInfo().robotRequirements()),
              QStringList({text("B/1/2.5/3/4.0.1"), text("////")}));
     QVERIFY(model.robotRequirement(0) == requirement("B"));

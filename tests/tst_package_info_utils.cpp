@@ -1,6 +1,7 @@
 #include <packagemodel/package_info_utils.h>
 
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QTest>
@@ -8,14 +9,6 @@
 using namespace Zel;
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-RobotLanguage language(const char *code) {
-    return robotLanguage(text(code));
-}
 
 QStringList codes(const RobotLanguages &languages) {
     QStringList codes;
@@ -64,6 +57,7 @@ private Q_SLOTS:
 
     void names_data();
     void names();
+    void namesWithoutLanguage();
     void checks_data();
     void checks();
     void uids_data();
@@ -115,6 +109,21 @@ void TestPackageInfoUtils::names() {
     QCOMPARE(BehaviorModel::nameFromLocale(behavior, wanted), shown.at(0));
     QCOMPARE(BehaviorModel::uiName(behavior, wanted),
              showsIdentity ? behavior->path() : shown.at(1));
+}
+
+void TestPackageInfoUtils::namesWithoutLanguage() {
+    PackageInfoModel package;
+    QVERIFY(load(package, text(soundUid), {}));
+    package.addBehavior(text("greet"));
+    for (const RobotLanguage &each : {RobotLanguage(), language("en_US")}) {
+        package.setName(each.uiName() % text("!"), each);
+        package.setDescription(each.uiName() % text("!"), each);
+        package.behaviors().first()->setName(each.uiName() % text("!"), each);
+    }
+    QCOMPARE(PackageModel::uiName(&package, RobotLanguage()), text("English (United States)!"));
+    QCOMPARE(PackageModel::uiDescription(&package, RobotLanguage()),
+             text("English (United States)!"));
+    QCOMPARE(BehaviorModel::uiName(package.behaviors().first(), RobotLanguage()), text("!"));
 }
 
 void TestPackageInfoUtils::checks_data() {

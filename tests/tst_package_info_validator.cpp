@@ -2,6 +2,7 @@
 #include <packagemodel/package_info_validator.h>
 
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QSignalSpy>
@@ -19,14 +20,6 @@ using Edit = std::function<void(PackageInfoModel &package)>;
 Q_DECLARE_METATYPE(Edit)
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-RobotLanguage language(const char *code) {
-    return robotLanguage(text(code));
-}
 
 constexpr char faultyPackage[] = R"(
     <package format="1" uid="My.App" version="1.0.0">
@@ -49,6 +42,7 @@ private Q_SLOTS:
 
     void construction();
     void mendingEachFault();
+    void summariesComeFirst();
     void firstTriggerSentence();
     void deactivation();
     void activationWithoutDeactivation();
@@ -118,6 +112,32 @@ void TestPackageInfoValidator::mendingEachFault() {
     package.setUid(text("My.App"));
     QCOMPARE(log.take(), lines(R"(packageHasErrorsChanged(true)
                                   applicationUIDStateChanged(false))"));
+}
+
+void TestPackageInfoValidator::summariesComeFirst() {
+    PackageInfoModel package;
+    QVERIFY(package.loadFromManifestContent(faultyPackage));
+    QStringList told;
+    using V = PackageInfoValidator;
+    for (const auto check :
+         {&V::validateUID, &V::validateRobotRequirements, &V::validateBrioRequirements,
+          &V::validateApplicationNames, &V::validateApplicationDescriptions}) {
+        PackageInfoValidator validator(&package);
+        SignalLog log(validator);
+        (validator.*check)();
+        told += log.take();
+    }
+    QCOMPARE(told, lines(R"(packageHasErrorsChanged(true)
+                            applicationUIDStateChanged(false)
+                            packageHasErrorsChanged(true)
+                            robotRequirementsStateChanged(false)
+                            packageHasErrorsChanged(true)
+                            brioRequirementsStateChanged(false)
+                            packageHasErrorsChanged(true)
+                            packageHasWarningsChanged(true)
+                            applicationNamesStateChanged([en_US], [fr_FR])
+                            packageHasWarningsChanged(true)
+                            applicationDescriptionsStateChanged([en_US, fr_FR]))"));
 }
 
 void TestPackageInfoValidator::firstTriggerSentence() {

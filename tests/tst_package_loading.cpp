@@ -1,4 +1,5 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <QDirIterator>
@@ -12,10 +13,6 @@
 using namespace Zel;
 
 namespace {
-
-QString text(const char *utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 const QByteArray manifest = R"(<?xml version="1.0" encoding="UTF-8"?>
 <package format="1" uid="tea-time" version="2.1">
@@ -64,9 +61,9 @@ std::unique_ptr<PackageInfoModel> anotherPackage() {
     model->setUid(text("other"));
     model->setAuthor(text("Bo"));
     model->setInstaller(text("i"));
-    model->setName(text("Thé"), robotLanguage(text("fr_FR")));
-    model->setDescription(text("Infuse."), robotLanguage(text("fr_FR")));
-    model->addSupportedLanguage(robotLanguage(text("fr_FR")));
+    model->setName(text("Thé"), language("fr_FR"));
+    model->setDescription(text("Infuse."), language("fr_FR"));
+    model->addSupportedLanguage(language("fr_FR"));
     model->addRobotRequirement();
     model->addBehavior(text("old"));
     model->addDialog(text("old"));
@@ -104,8 +101,8 @@ private Q_SLOTS:
 
 private:
     WarningGuard m_warnings;
-    const RobotLanguage m_english = robotLanguage(text("en_US"));
-    const RobotLanguage m_french = robotLanguage(text("fr_FR"));
+    const RobotLanguage m_english = language("en_US");
+    const RobotLanguage m_french = language("fr_FR");
 };
 
 void TestPackageLoading::loads() {
@@ -154,16 +151,15 @@ void TestPackageLoading::unknownLanguagesAreKept() {
     const QByteArray content = QByteArray(manifest).replace("ql_", "qm_");
     PackageInfoModel model;
     connect(&model, &PackageInfoModel::dialogAdded, this, [] {
-        QCOMPARE(robotLanguage(text("qm_QC")).isoCode(),
+        QCOMPARE(language("qm_QC").isoCode(),
                  text("qm_QC")); // known before children are
     });
     QVERIFY(model.loadFromManifestContent(content));
     for (const char *code : {"qm_QA", "qm_QB", "qm_QC", "qm_QD"})
         QCOMPARE(robotLanguage(text(code)).isoCode(), text(code));
-    QCOMPARE(model.name(robotLanguage(text("qm_QB"))), text("Unheard"));
-    QCOMPARE(model.behavior(text("pour"))->tags(robotLanguage(text("qm_QC"))),
-             QStringList(text("tea")));
-    QCOMPARE(model.dialog(text("talk"))->topic(robotLanguage(text("qm_QD"))), text("a.top"));
+    QCOMPARE(model.name(language("qm_QB")), text("Unheard"));
+    QCOMPARE(model.behavior(text("pour"))->tags(language("qm_QC")), QStringList(text("tea")));
+    QCOMPARE(model.dialog(text("talk"))->topic(language("qm_QD")), text("a.top"));
 }
 
 void TestPackageLoading::failedLoads_data() {

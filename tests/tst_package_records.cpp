@@ -2,79 +2,15 @@
 
 #include <QTest>
 
-#include <functional>
-
 using Tano::BehaviorInfo;
 using Tano::DialogInfo;
 using Tano::PackageInfo;
 using Strings = std::vector<std::string>;
 
-namespace {
-
-// One kind of list of a behavior, behind one set of operations.
-struct ListKind {
-    const char *name;
-    void (BehaviorInfo::*add)(const std::string &, const std::string &);
-    void (BehaviorInfo::*insert)(const std::string &, const std::string &, int);
-    bool (BehaviorInfo::*update)(const std::string &, const std::string &, const std::string &,
-                                 int);
-    bool (BehaviorInfo::*remove)(const std::string &, const std::string &, int);
-    const Tano::TextListMap &(BehaviorInfo::*lists)() const;
-};
-
-const ListKind listKinds[] = {
-    {"tags", &BehaviorInfo::addTag, &BehaviorInfo::insertTag, &BehaviorInfo::updateTag,
-     &BehaviorInfo::removeTag, &BehaviorInfo::languagesToTags},
-    {"trigger sentences", &BehaviorInfo::addTriggerSentence, &BehaviorInfo::insertTriggerSentence,
-     &BehaviorInfo::updateTriggerSentence, &BehaviorInfo::removeTriggerSentence,
-     &BehaviorInfo::languagesToTriggerSentences},
-    {"loading responses", &BehaviorInfo::addLoadingResponse, &BehaviorInfo::insertLoadingResponse,
-     &BehaviorInfo::updateLoadingResponse, &BehaviorInfo::removeLoadingResponse,
-     &BehaviorInfo::languagesToLoadingResponses},
-    {"conditions", &BehaviorInfo::addCondition, &BehaviorInfo::insertCondition,
-     &BehaviorInfo::updateCondition, &BehaviorInfo::removeCondition,
-     &BehaviorInfo::purposesToConditions},
-};
-
-} // namespace
-
 class TestPackageRecords : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void listsMeanOneOccurrence_data() {
-        QTest::addColumn<int>("kind");
-        for (int i = 0; i < int(std::size(listKinds)); ++i)
-            QTest::newRow(listKinds[i].name) << i;
-    }
-
-    void listsMeanOneOccurrence() {
-        QFETCH(int, kind);
-        const ListKind &list = listKinds[kind];
-        BehaviorInfo record;
-        const auto add = [&](const char *value) { (record.*list.add)(value, "k"); };
-        const auto values = [&] { return (record.*list.lists)(); };
-
-        add("a");
-        add("b");
-        add("a");
-        (record.*list.insert)("first", "k", -7);
-        (record.*list.insert)("last", "k", 99);
-        QCOMPARE(values().at("k"), (Strings{"first", "a", "b", "a", "last"}));
-
-        QVERIFY((record.*list.update)("a", "z", "k", 1));
-        QCOMPARE(values().at("k"), (Strings{"first", "a", "b", "z", "last"}));
-        QVERIFY(!(record.*list.update)("a", "z", "k", 1));
-        QVERIFY(!(record.*list.remove)("a", "other", 0));
-
-        (record.*list.insert)("b", "k", 0);
-        QVERIFY((record.*list.remove)("b", "k", 1));
-        QCOMPARE(values().at("k"), (Strings{"b", "first", "a", "z", "last"}));
-        for (const char *value : {"b", "first", "a", "z", "last"})
-            QVERIFY((record.*list.remove)(value, "k", 0));
-        QVERIFY(values().empty()); // no key without a list
-    }
-
     void copiesAreIndependent() {
         BehaviorInfo behavior;
         behavior.setPath("greet");
@@ -122,15 +58,6 @@ private Q_SLOTS:
         package.removeSupportedLanguage("de_DE");
         package.removeSupportedLanguage("fr_FR");
         QCOMPARE(package.supportedLanguages(), Strings{"en_US"});
-    }
-
-    void permissionsAreASet() {
-        BehaviorInfo behavior;
-        QVERIFY(behavior.addPermission("camera"));
-        QVERIFY(!behavior.addPermission("camera"));
-        QVERIFY(!behavior.removePermission("microphone"));
-        QVERIFY(behavior.removePermission("camera"));
-        QVERIFY(!behavior.hasPermission("camera"));
     }
 
     void trimmingKeepsWhatTheLanguagesOffer() {

@@ -1,4 +1,5 @@
 #include "signal_log.h"
+#include "text.h"
 #include "warning_guard.h"
 
 #include <packagemodel/package_scripts.h>
@@ -8,10 +9,6 @@
 using namespace Zel;
 
 namespace {
-
-RobotLanguage language(const char *code) {
-    return robotLanguage(QString::fromUtf8(code));
-}
 
 // Supports English, French and a script variant, is also described in German, and holds texts in
 // Dutch, which it does not list.

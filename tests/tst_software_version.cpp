@@ -25,9 +25,6 @@ void TestSoftwareVersion::parse_data() {
     const auto good = [](const char *text, const SoftwareVersion &version, const char *printed) {
         QTest::newRow(text) << QString::fromUtf8(text) << version << QString::fromLatin1(printed);
     };
-    const auto bad = [](const char *text) {
-        QTest::newRow(text) << QString::fromUtf8(text) << SoftwareVersion() << QString();
-    };
     good("7", {7}, "7");
     good("2.5.0", {2, 5, 0}, "2.5.0");
     good("1.2.3.4.5.6.7", {1, 2, 3, 4, 5, 6, 7}, "1.2.3.4.5.6.7");
@@ -36,24 +33,10 @@ void TestSoftwareVersion::parse_data() {
     good("4294967295.1", {4294967295U, 1}, "4294967295.1");
     good(" \t2.5\n", {2, 5}, "2.5");
     good("\u00A02.5\u2003", {2, 5}, "2.5");
-    bad("");
-    bad(" ");
-    bad(".");
-    bad("1.");
-    bad(".1");
-    bad("1..2");
-    bad("1. 2");
-    bad("1.2 3");
-    bad("1,2");
-    bad("1.2b");
-    bad("v1");
-    bad("-1");
-    bad("+1");
-    bad("0x1");
-    bad("1e2");
-    bad("\u0661.\u0662");
-    bad("4294967296");
-    bad("1.99999999999999999999");
+    for (const char *text :
+         {"", " ", ".", "1.", ".1", "1..2", "1. 2", "1.2 3", "1,2", "1.2b", "v1", "-1", "+1", "0x1",
+          "1e2", "\u0661.\u0662", "4294967296", "1.99999999999999999999"})
+        QTest::newRow(text) << QString::fromUtf8(text) << SoftwareVersion() << QString();
     QTest::newRow("NUL inside") << QString(QLatin1String("1.2") % QChar() % QLatin1Char('3'))
                                 << SoftwareVersion() << QString();
 }

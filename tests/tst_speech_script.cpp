@@ -80,7 +80,7 @@ private Q_SLOTS:
              "1 May, no."},
             {"<voice gender='female'>She</voice>'s <lang xml:lang='fr-FR'>chic</lang>!",
              "She's chic!"},
-            {"<lookup ref='names'>Siobhan</lookup>'s", "Siobhan's"},
+            {"Hel<lookup ref='names'>Siobhan</lookup>lo", "Hello"},
             {"<token>今日</token><token>は</token>", "今日は"},
             {"Hel<mark name='here'/>lo", "Hello"},
             {"a<emphasis/>b", "ab"},

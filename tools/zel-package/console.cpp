@@ -64,8 +64,13 @@ void Console::print(const QString &text) {
 void Console::printBytes(const std::string &bytes) {
     removeProgress();
     const auto size = qint64(bytes.size());
-    if (m_writeError.isEmpty() && m_output.write(bytes.data(), size) != size)
-        m_writeError = m_output.errorString();
+    // A short write does not say why it is; the next one does.
+    for (qint64 done = 0; done < size && m_writeError.isEmpty();) {
+        const qint64 written = m_output.write(bytes.data() + done, size - done);
+        if (written <= 0)
+            m_writeError = m_output.errorString();
+        done += written;
+    }
 }
 
 void Console::tell(const QString &message) {

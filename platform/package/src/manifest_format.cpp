@@ -164,4 +164,21 @@ std::string fieldPath(const std::string &parent, Element element, std::string_vi
     return path;
 }
 
+std::string shortened(std::string sentence) {
+    constexpr std::size_t longest = 500;
+    constexpr std::size_t keptAtAnEnd = 200;
+    if (sentence.size() <= longest)
+        return sentence;
+    const auto isInsideCharacter = [&](std::size_t at) {
+        return (static_cast<unsigned char>(sentence[at]) & 0xC0U) == 0x80U;
+    };
+    std::size_t from = keptAtAnEnd;
+    while (isInsideCharacter(from))
+        --from;
+    std::size_t to = sentence.size() - keptAtAnEnd;
+    while (isInsideCharacter(to))
+        ++to;
+    return sentence.replace(from, to - from, " ... ");
+}
+
 } // namespace Tano

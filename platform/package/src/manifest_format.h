@@ -91,6 +91,9 @@ bool operator<(const Position &a, const Position &b);
 std::string fieldPath(const std::string &parent, Element element, std::string_view key, int index,
                       std::string_view texts);
 
+/// The sentence, without its middle where a long key or name makes it too long to be read.
+std::string shortened(std::string sentence);
+
 inline constexpr std::string_view formatVersion = "1";
 
 // Which attribute of its element's rule a value belongs to.

@@ -602,7 +602,7 @@ SourcePosition ManifestParser::here() const {
 void ManifestParser::fail(std::string message) {
     if (!m_failure.message.empty())
         return;
-    m_failure = {std::move(message), here()};
+    m_failure = {shortened(std::move(message)), here()};
     XML_StopParser(m_parser.get(), XML_FALSE);
 }
 
@@ -615,7 +615,7 @@ void ManifestParser::failFromExpat() {
     else
         sentence =
             m_fed == 0 ? "The manifest is empty." : "The manifest ends before its root element.";
-    m_failure = {std::move(sentence), here()};
+    m_failure = {shortened(std::move(sentence)), here()};
 }
 
 } // namespace Tano

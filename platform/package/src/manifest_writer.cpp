@@ -402,7 +402,8 @@ void Writer::fail(const Node &node, std::string reason) {
     if (!m_error.empty())
         return;
     const std::string path = pathOf(node);
-    m_error = (path.empty() ? "The package" : "The field " + path) + ' ' + std::move(reason) + '.';
+    m_error = shortened((path.empty() ? "The package" : "The field " + path) + ' ' +
+                        std::move(reason) + '.');
 }
 
 std::string Writer::pathOf(const Node &node) {
