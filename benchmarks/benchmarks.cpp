@@ -19,7 +19,6 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <malloc.h>
 #include <optional>
 
 using namespace Zel;
@@ -29,8 +28,6 @@ using namespace Zel;
     BENCHMARK(function)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)
 
 namespace {
-
-constexpr std::size_t everything = std::size_t(1) << 40;
 
 [[noreturn]] void giveUp(const std::string &reason) {
     std::cerr << "benchmarks: " << reason << '\n';
@@ -57,9 +54,7 @@ Tano::PackageInfo record(const benchmark::State &state) {
     return record;
 }
 
-// Times `make()` alone, not what it takes to be rid of its result: malloc_trim() does at once what
-// the heap would put off until the next result is made. It gives no memory back, so that the heap
-// is as warm as a reference finds it that keeps nothing.
+// Times `make()` alone, not what it takes to be rid of its result.
 template<typename Make>
 void timeMaking(benchmark::State &state, Make &&make) {
     for (auto _ : state) {
@@ -67,7 +62,6 @@ void timeMaking(benchmark::State &state, Make &&make) {
         benchmark::DoNotOptimize(*made);
         state.PauseTiming();
         made.reset();
-        malloc_trim(everything);
         state.ResumeTiming();
     }
 }
