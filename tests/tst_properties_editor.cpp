@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProcess>
@@ -26,6 +27,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <QUndoView>
 
 #include <memory>
 
@@ -402,6 +404,107 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
     }
 
+    void addsAndRemovesLanguages() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        const QByteArray before = manifest();
+        m_window->showPage(1);
+        QMenu *menu = button("&Add Language")->menu();
+        Q_EMIT menu->aboutToShow();
+        QAction *finnish = nullptr;
+        for (QAction *action : menu->actions()) {
+            if (action->text() == Zel::robotLanguage(QStringLiteral("fi_FI")).uiName())
+                finnish = action;
+        }
+        QVERIFY(finnish);
+        finnish->trigger();
+        QCOMPARE(problemCount(), 3);
+        auto *table = view<QTableView>("Languages and texts");
+        QCOMPARE(table->currentIndex().row(), 2);
+        QTest::mouseClick(button("&Remove Language"), Qt::LeftButton);
+        QCOMPARE(stack()->count(), 2);
+        QCOMPARE(problemCount(), 0);
+        QCOMPARE(table->model()->rowCount(), 2);
+        stack()->undo();
+        QCOMPARE(problemCount(), 3);
+        stack()->undo();
+        QCOMPARE(manifest(), before);
+    }
+
+    void editsTheListsOfABehavior() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        m_window->showPage(3);
+        tabs()->setCurrentIndex(3);
+        line("A new tag")->setFocus();
+        type(QStringLiteral("greeting"));
+        QVERIFY(!line("A new tag")->toolTip().isEmpty());
+        type(QStringLiteral("s"));
+        press(Qt::Key_Return);
+        const auto *behavior = m_window->document().package()->behaviors().first();
+        const auto english = Zel::Language::defaultLanguage();
+        const QStringList added{QStringLiteral("greeting"), QStringLiteral("greetings")};
+        QCOMPARE(behavior->tags(english), added);
+
+        auto *tags = view<QListView>("Tags");
+        tags->setFocus();
+        tags->setCurrentIndex(tags->model()->index(0, 0));
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("hello"));
+        press(Qt::Key_Return);
+        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
+        QCoreApplication::processEvents(); // the editor closes on its way back
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("never"));
+        press(Qt::Key_Escape);
+        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
+        stack()->undo();
+        stack()->undo();
+        QCOMPARE(behavior->tags(english), added.mid(0, 1));
+    }
+
+    void editsDialogsAndServices() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        const QByteArray before = manifest();
+        m_window->showPage(4);
+        field("&Topic:")->setFocus();
+        replaceText(QStringLiteral("talk"));
+        auto *topics = view<QTableView>("Topic files");
+        topics->setFocus();
+        topics->setCurrentIndex(topics->model()->index(1, 1));
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("talk.top"));
+        press(Qt::Key_Return);
+        QTest::mouseClick(button("Remove &File"), Qt::LeftButton);
+        QVERIFY(!manifest().contains("talk.top"));
+
+        m_window->showPage(5);
+        auto *services = view<QTableView>("Services");
+        services->setFocus();
+        services->setCurrentIndex(services->model()->index(2, 2));
+        press(Qt::Key_Space);
+        QVERIFY(m_window->document().package()->services().at(2)->isAutoRun());
+        QCOMPARE(stack()->count(), 4);
+        // The history goes back as well as the keys do.
+        auto *history = m_window->findChild<QUndoView *>();
+        QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
+                          history->visualRect(history->model()->index(0, 0)).center());
+        QCOMPARE(manifest(), before);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void opensRecentFiles() {
+        const QString first = copyOf("small");
+        QVERIFY(m_window->openFile(first));
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        QMenu *recent = nullptr;
+        for (QMenu *menu : m_window->findChildren<QMenu *>()) {
+            if (menu->title() == QLatin1String("Open &Recent"))
+                recent = menu;
+        }
+        Q_EMIT recent->aboutToShow();
+        recent->actions().at(1)->trigger();
+        QCOMPARE(m_window->document().fileName(), first);
+    }
+
     // What is selected stays so while entries go and come again.
     void keepsTheCurrentBehavior() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
@@ -544,6 +647,13 @@ private:
     QLineEdit *line(const char *placeholder) {
         for (QLineEdit *candidate : m_window->findChildren<QLineEdit *>()) {
             if (candidate->placeholderText() == QLatin1String(placeholder))
+                return candidate;
+        }
+        return nullptr;
+    }
+    QPushButton *button(const char *text) {
+        for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
+            if (candidate->text() == QLatin1String(text))
                 return candidate;
         }
         return nullptr;

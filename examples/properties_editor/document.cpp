@@ -23,6 +23,8 @@ using Zel::PackageModel::Severity;
 
 // Empty for a file that cannot be read.
 QByteArray digestOf(const QString &fileName) {
+    if (fileName.isEmpty())
+        return {};
     QFile file(fileName);
     QCryptographicHash hash(QCryptographicHash::Sha1);
     return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
