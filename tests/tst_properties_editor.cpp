@@ -505,6 +505,27 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().fileName(), first);
     }
 
+    void speaksTheUsersLanguage_data() {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("French") << "fr_FR.UTF-8"
+                                << "Le manifeste à ouvrir.";
+        QTest::newRow("Japanese") << "ja_JP.UTF-8"
+                                  << "開くマニフェスト。";
+    }
+    void speaksTheUsersLanguage() {
+        QFETCH(QString, locale);
+        QFETCH(QString, expected);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), locale);
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(ZEL_EDITOR_PROGRAM), {QStringLiteral("--help")});
+        QVERIFY(program.waitForFinished());
+        const QString shown = QString::fromUtf8(program.readAllStandardOutput());
+        QVERIFY2(shown.contains(expected), qPrintable(shown));
+    }
+
     // What is selected stays so while entries go and come again.
     void keepsTheCurrentBehavior() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));

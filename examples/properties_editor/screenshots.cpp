@@ -1,7 +1,10 @@
-// Draws the pictures of docs/images/ without a display: screenshots DIRECTORY SAMPLES.
+// Draws the pictures of docs/images/ without a display, in the language of the locale:
+// editor_screenshots DIRECTORY SAMPLES.
 
 #include "main_window.h"
 #include "roomy_style.h"
+
+#include <packagemodel/translation.h>
 
 #include <QApplication>
 #include <QDir>
@@ -87,6 +90,8 @@ int main(int argc, char **argv) {
     if (arguments.size() != 3)
         return 2;
     QIcon::setThemeSearchPaths({QStringLiteral("/usr/share/icons")});
+    Zel::installTranslation();
+    Zel::installTranslation(QStringLiteral("zel-properties-editor"));
     auto *style = new Editor::RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     Editor::RoomyStyle::use(style);
     QApplication::setFont(QFont(QStringLiteral("Noto Sans"), 10));
