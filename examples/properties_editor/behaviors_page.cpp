@@ -40,7 +40,8 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     m_view->setModel(m_filtered);
     setUpTable(m_view, document, tr("Behaviors"));
     m_view->setRootIsDecorated(false);
-    m_view->setUniformRowHeights(true); // or every row would be measured
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the names take what is left
+    m_view->setUniformRowHeights(true);                           // or every row would be measured
     m_view->header()->setSectionResizeMode(BehaviorsModel::Name, QHeaderView::Stretch);
     m_view->header()->resizeSection(BehaviorsModel::Path, 125);
 

@@ -25,6 +25,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -102,7 +103,8 @@ void MainWindow::addPages() {
         scroll->setWidget(page);
         m_stack->addWidget(scroll);
         QString title = page->title();
-        title.remove(u'&');
+        title.remove(
+            QRegularExpression(QStringLiteral("\\(&.\\)|&"))); // "言語(&L)" or "&Languages"
         auto *item = new QListWidgetItem(squareIcon(page->icon(), iconExtent, devicePixelRatioF()),
                                          title, m_navigation);
         item->setSizeHint(QSize(fontMetrics().horizontalAdvance(title) + 2 * iconExtent + 16,
