@@ -40,8 +40,8 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     m_view->setModel(m_filtered);
     setUpTable(m_view, document, tr("Behaviors"));
     m_view->setRootIsDecorated(false);
-    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the names take what is left
-    m_view->setUniformRowHeights(true);                           // or every row would be measured
+    m_view->setUniformRowHeights(true); // or every row would be measured
+    m_view->header()->setMinimumSectionSize(40);
     m_view->header()->setSectionResizeMode(BehaviorsModel::Name, QHeaderView::Stretch);
     m_view->header()->resizeSection(BehaviorsModel::Path, 125);
 
@@ -66,7 +66,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     splitter->addWidget(list);
     splitter->addWidget(m_details);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({230, 650});
+    splitter->setSizes({255, 625});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(splitter);
