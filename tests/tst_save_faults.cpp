@@ -37,7 +37,7 @@ struct Fault {
     }
 };
 
-Fault *fault = nullptr; // the one that is armed
+thread_local Fault *fault = nullptr; // the one that is armed
 
 template<typename Function, typename... Arguments>
 int failOrCall(Function *, const char *name, int error, Arguments... arguments) {

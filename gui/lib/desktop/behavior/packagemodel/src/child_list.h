@@ -240,7 +240,7 @@ public:
         for (Child *child : m_stale) {
             const bool isFirst =
                 !found || ChildAccess::data(*child).m_serial < ChildAccess::data(*found).m_serial;
-            if (isFirst && key == keyOf(*child).c_str())
+            if (isFirst && key == foundKeyOf(*child))
                 found = child;
         }
         return found;
@@ -248,6 +248,12 @@ public:
 
     static const std::string &keyOf(const Child &child) {
         return std::invoke(Kind::key, ChildAccess::data(child).record());
+    }
+
+    /// What a look-up compares: the key up to its first NUL.
+    static std::string foundKeyOf(const Child &child) {
+        const std::string &key = keyOf(child);
+        return key.substr(0, key.find('\0'));
     }
 
     /// Drops a child that is being deleted, of which nothing but `data` is left. The record waits
@@ -292,7 +298,7 @@ private:
     void addToIndex(Child *child) {
         auto &data = ChildAccess::data(*child);
         data.m_indexEntry =
-            m_index.emplace(std::make_pair(keyOf(*child).c_str(), data.m_serial), child).first;
+            m_index.emplace(std::make_pair(foundKeyOf(*child), data.m_serial), child).first;
     }
 
     void dropFromIndex(ChildData<Child> &data) {

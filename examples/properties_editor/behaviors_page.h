@@ -1,0 +1,43 @@
+#pragma once
+
+#include "page.h"
+
+#include <QPointer>
+
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTreeView;
+
+namespace Editor {
+
+class BehaviorDetails;
+class BehaviorsModel;
+
+/// The list of behaviors, and the fields of the one that is selected there.
+class BehaviorsPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit BehaviorsPage(Document &document, QWidget *parent = nullptr);
+    bool showField(const FieldPath &path) override;
+    void takePending() override;
+
+private:
+    void add();
+    void remove();
+    void select(const Zel::BehaviorInfoModel *behavior);
+    void showCurrent();
+    void restoreCurrent();
+    [[nodiscard]] int currentRow() const;
+
+    BehaviorsModel *m_model;
+    QSortFilterProxyModel *m_filtered;
+    QLineEdit *m_filter;
+    QTreeView *m_view;
+    QPushButton *m_remove;
+    BehaviorDetails *m_details;
+    QPointer<Zel::BehaviorInfoModel> m_current;
+    QString m_currentPath;
+};
+
+} // namespace Editor

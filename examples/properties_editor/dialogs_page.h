@@ -1,0 +1,40 @@
+#pragma once
+
+#include "page.h"
+
+class QListView;
+class QTableView;
+
+namespace Editor {
+
+class DialogsModel;
+class TopicsModel;
+
+/// The list of dialogs, and the fields of the one that is selected there.
+class DialogsPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit DialogsPage(Document &document, QWidget *parent = nullptr);
+    bool showField(const FieldPath &path) override;
+
+private:
+    QWidget *newList();
+    QWidget *newDetails();
+    void add();
+    void showCurrent();
+    void refresh();
+    [[nodiscard]] Zel::DialogInfoModel *current() const;
+
+    DialogsModel *m_dialogs;
+    TopicsModel *m_topics;
+    QListView *m_list;
+    QTableView *m_table;
+    QPushButton *m_remove = nullptr;
+    QPushButton *m_removeTopic = nullptr;
+    QWidget *m_details = nullptr;
+    TextField *m_name = nullptr;
+    TextField *m_typeVersion = nullptr;
+};
+
+} // namespace Editor

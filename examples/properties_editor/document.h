@@ -1,0 +1,121 @@
+#pragma once
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_info_validator.h>
+#include <packagemodel/package_issues.h>
+
+#include <QByteArray>
+#include <QFileSystemWatcher>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QUndoStack>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Editor {
+
+/// The open package: its model, the file it came from, its undo stack, and what is wrong with it.
+///
+/// Every edit goes through push() or pushTyped(). When one is done, undone or redone, the issues
+/// are brought up to date first, and edited() is sent last.
+class Document : public QObject {
+    Q_OBJECT
+
+public:
+    /// Makes the command of a typed edit: the one that closes the run when asked for a final one.
+    using MakeCommand = std::function<QUndoCommand *(bool isFinal)>;
+
+    enum class DiskState { Same, Changed, Vanished };
+
+    /// An empty package without a file.
+    explicit Document(QObject *parent = nullptr);
+    ~Document() override;
+
+    /// Replaced as a whole by what opens a package, so do not keep it beyond packageReplaced().
+    [[nodiscard]] Zel::PackageInfoModel *package() const { return m_package.get(); }
+    [[nodiscard]] QUndoStack *undoStack() { return &m_undoStack; }
+    [[nodiscard]] bool isModified() const { return !m_undoStack.isClean(); }
+
+    // Files. What fails returns false, leaves everything as it was, and explains itself in
+    // errorString().
+
+    bool open(const QString &fileName);
+    /// Starts a package without a file from a manifest's text.
+    bool openTemplate(const QByteArray &manifest);
+    /// Writes the manifest, and "icon.png" beside it when the icon has changed.
+    bool save(const QString &fileName);
+    /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
+    bool publish(const QString &fileName);
+    [[nodiscard]] const QString &fileName() const { return m_fileName; }
+    [[nodiscard]] const QString &errorString() const { return m_errorString; }
+
+    /// Compares the file with what was last read or written. Once for every difference, sends
+    /// fileDiffers().
+    DiskState checkDisk();
+
+    // Edits.
+
+    /// Does an edit that is an undo step of its own.
+    void push(QUndoCommand *command);
+    /// Does an edit that is part of a run of keystrokes.
+    void pushTyped(const MakeCommand &make);
+    /// Ends the run, so that what is typed next is another step.
+    void closeRun();
+    /// Takes the run back, if one is open.
+    void abandonRun();
+
+    // What is wrong, as it is right now.
+
+    [[nodiscard]] const QVector<Zel::PackageModel::Issue> &issues() const { return m_issues; }
+    /// The worst issue of the field with that path.
+    [[nodiscard]] std::optional<Zel::PackageModel::Issue> issueAt(const QString &path) const;
+    /// The severity of the worst issue of a behavior.
+    [[nodiscard]] std::optional<Zel::PackageModel::Severity>
+    behaviorSeverity(const QString &behaviorPath) const;
+
+    /// Grows when a text of a behavior, or the list of behaviors, changes.
+    [[nodiscard]] int behaviorTextsRevision() const { return m_behaviorTextsRevision; }
+
+Q_SIGNALS:
+    void packageReplaced();
+    void edited();
+    void issuesChanged();
+    void fileNameChanged();
+    void fileDiffers(Editor::Document::DiskState state);
+
+private:
+    void replacePackage(std::unique_ptr<Zel::PackageInfoModel> package, const QString &fileName);
+    void watchPackage();
+    void watchBehavior(const Zel::BehaviorInfoModel *behavior);
+    void finishEdit();
+    void refreshIssues();
+    void rememberDisk();
+    bool saveIcon(const QString &manifest);
+
+    std::unique_ptr<Zel::PackageInfoModel> m_package;
+    std::unique_ptr<Zel::PackageInfoValidator> m_validator;
+    QUndoStack m_undoStack;
+    MakeCommand m_openRun;
+    int m_openRunIndex = 0;
+
+    QVector<Zel::PackageModel::Issue> m_issues;
+    QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
+    QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
+    bool m_issuesStale = true;
+    bool m_sentencesStale = false; // the validator does not look at them again by itself
+
+    int m_behaviorTextsRevision = 0;
+
+    QString m_fileName;
+    QString m_errorString;
+    QFileSystemWatcher m_watcher;
+    QByteArray m_diskDigest;
+    DiskState m_reported = DiskState::Same;
+    QByteArray m_reportedDigest;
+    qint64 m_savedIcon = 0;
+};
+
+} // namespace Editor

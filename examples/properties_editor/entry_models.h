@@ -1,0 +1,78 @@
+#pragma once
+
+#include "table_model.h"
+
+#include <QPointer>
+
+namespace Editor {
+
+/// The dialogs of the package, by topic name.
+class DialogsModel : public TableModel {
+    Q_OBJECT
+
+public:
+    explicit DialogsModel(Document &document, QObject *parent = nullptr);
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+
+protected:
+    [[nodiscard]] QStringList currentKeys() const override;
+    [[nodiscard]] QStringList titles() const override;
+};
+
+/// The topic files of one dialog: a row for each language that the package supports or the dialog
+/// has a file in.
+class TopicsModel : public TableModel {
+    Q_OBJECT
+
+public:
+    explicit TopicsModel(Document &document, QObject *parent = nullptr);
+    /// Shows the dialog at a row of the package's list; none for -1.
+    void setDialog(int row);
+
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    /// Removes the topic file of a row.
+    void removeTopic(int row);
+
+protected:
+    [[nodiscard]] QStringList currentKeys() const override;
+    [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+
+private:
+    [[nodiscard]] const Zel::DialogInfoModel *dialog() const;
+
+    int m_dialogRow = -1;
+};
+
+/// The services of the package.
+class ServicesModel : public TableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Name, ExecStart, AutoRun };
+
+    explicit ServicesModel(Document &document, QObject *parent = nullptr);
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
+
+protected:
+    [[nodiscard]] QStringList currentKeys() const override;
+    [[nodiscard]] QStringList titles() const override;
+    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+};
+
+/// A name that no entry has yet: `stem`, or the stem with a number.
+template<typename IsTaken>
+QString freeName(const QString &stem, IsTaken isTaken) {
+    QString name = stem;
+    for (int i = 2; isTaken(name); ++i)
+        name = stem + QLatin1Char('-') + QString::number(i);
+    return name;
+}
+
+} // namespace Editor

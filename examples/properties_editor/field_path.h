@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace Editor {
+
+/// The parts of the path of a field, such as "behaviors[greet].triggerSentences[ja_JP]", by which
+/// an issue says what it is about.
+struct FieldPath {
+    QString list;   ///< "uid", "names", "robotRequirements", "behaviors"
+    QString key;    ///< what selects an entry of it: a language code, an index, a behavior's path
+    QString field;  ///< the field of that entry
+    QString subkey; ///< what selects an entry of that field
+
+    [[nodiscard]] static FieldPath parse(const QString &path);
+    /// The same for people: "Trigger sentences of “greet” in Japanese".
+    [[nodiscard]] QString label() const;
+};
+
+// The paths, as the library writes them.
+[[nodiscard]] QString namePath(const QString &languageCode);
+[[nodiscard]] QString descriptionPath(const QString &languageCode);
+[[nodiscard]] QString requirementPath(const char *list, int index, const char *field);
+[[nodiscard]] QString sentencesPath(const QString &behaviorPath, const QString &languageCode);
+
+} // namespace Editor

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "page.h"
+
+namespace Editor {
+
+/// What identifies the package, who publishes it, and its icon.
+class IdentityPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit IdentityPage(Document &document, QWidget *parent = nullptr);
+    bool showField(const FieldPath &path) override;
+
+private:
+    TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,
+                       int what, QString (Zel::PackageInfoModel::*read)() const);
+
+    TextField *m_uid;
+};
+
+} // namespace Editor

@@ -1,0 +1,44 @@
+#include "message_bar.h"
+
+#include "marks.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Editor {
+
+MessageBar::MessageBar(QWidget *parent)
+    : QFrame(parent)
+    , m_text(new QLabel(this))
+    , m_action(new QPushButton(this))
+    , m_dismissal(new QPushButton(this)) {
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    QPalette palette;
+    palette.setColor(QPalette::Window, severityColor(Zel::PackageModel::Severity::Warning));
+    setPalette(palette);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 12, 6);
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_action);
+    layout->addWidget(m_dismissal);
+    connect(m_dismissal, &QPushButton::clicked, this, &QWidget::hide);
+    connect(m_action, &QPushButton::clicked, this, [this] {
+        hide();
+        Q_EMIT accepted();
+    });
+    hide();
+}
+
+void MessageBar::tell(const QString &text, const QString &action, const QString &dismissal) {
+    m_text->setText(text);
+    m_action->setText(action);
+    m_action->setHidden(action.isEmpty());
+    m_dismissal->setText(dismissal);
+    show();
+}
+
+} // namespace Editor

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+class QPushButton;
+
+namespace Editor {
+
+/// A line at the top of the window that tells something and offers an answer, and is hidden
+/// otherwise.
+class MessageBar : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit MessageBar(QWidget *parent = nullptr);
+
+    /// Tells `text`; without the text of an action there is only the button that dismisses it.
+    void tell(const QString &text, const QString &action, const QString &dismissal);
+
+Q_SIGNALS:
+    void accepted();
+
+private:
+    QLabel *m_text;
+    QPushButton *m_action;
+    QPushButton *m_dismissal;
+};
+
+} // namespace Editor

@@ -1,0 +1,43 @@
+#include "page.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <utility>
+
+namespace Editor {
+
+Page::Page(Document &document, const QString &title, const QIcon &icon, QWidget *parent)
+    : QWidget(parent)
+    , m_document(document)
+    , m_title(title)
+    , m_icon(icon) {
+}
+
+TextField *addTextRow(QFormLayout *form, const QString &label, Document &document,
+                      TextBinding binding, const QString &placeholder) {
+    auto *edit = new QLineEdit(form->parentWidget());
+    edit->setPlaceholderText(placeholder);
+    form->addRow(label, edit);
+    return new TextField(edit, document, std::move(binding));
+}
+
+QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent) {
+    // The styles have no icons for these.
+    const QIcon icon =
+        QIcon::fromTheme(isAddition ? QStringLiteral("list-add") : QStringLiteral("list-remove"));
+    auto *button = new QPushButton(icon, text, parent);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QWidget *newHeading(const QString &text, QWidget *parent) {
+    auto *label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+} // namespace Editor

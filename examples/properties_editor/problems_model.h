@@ -1,0 +1,26 @@
+#pragma once
+
+#include "table_model.h"
+
+namespace Editor {
+
+/// What is wrong with the package: one row for each issue, in the order of the checks.
+class ProblemsModel : public TableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Severity, Text, Field };
+    /// The path of the field at fault.
+    static constexpr int PathRole = Qt::UserRole;
+
+    explicit ProblemsModel(Document &document, QObject *parent = nullptr);
+
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+
+protected:
+    [[nodiscard]] QStringList currentKeys() const override;
+    [[nodiscard]] QStringList titles() const override;
+};
+
+} // namespace Editor

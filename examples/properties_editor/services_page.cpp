@@ -1,0 +1,64 @@
+#include "services_page.h"
+
+#include "editor_commands.h"
+#include "entry_models.h"
+#include "marks.h"
+#include "typing_delegate.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+ServicesPage::ServicesPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Services"),
+           platformIcon(QStringLiteral("services"), QStyle::SP_DriveNetIcon), parent)
+    , m_model(new ServicesModel(document, this))
+    , m_table(new QTableView(this)) {
+    m_table->setModel(m_model);
+    setUpTable(m_table, document, tr("Services"));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setSectionResizeMode(ServicesModel::Name, QHeaderView::Interactive);
+    header->resizeSection(ServicesModel::Name, 200);
+    header->setSectionResizeMode(ServicesModel::ExecStart, QHeaderView::Stretch);
+    header->setSectionResizeMode(ServicesModel::AutoRun, QHeaderView::ResizeToContents);
+
+    auto *add = newListButton(tr("&Add"), true, this);
+    auto *remove = newListButton(tr("&Remove"), false, this);
+    connect(add, &QPushButton::clicked, this, &ServicesPage::add);
+    connect(remove, &QPushButton::clicked, this, [this] {
+        const int row = m_table->currentIndex().row();
+        if (row >= 0)
+            this->document().push(newRemoveServiceCommand(package(), row));
+    });
+    const auto refresh = [this, remove] { remove->setEnabled(m_table->currentIndex().isValid()); };
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
+    connect(&document, &Document::edited, remove, refresh);
+    refresh();
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    buttons->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(m_table);
+    layout->addLayout(buttons);
+}
+
+void ServicesPage::add() {
+    const QString name = freeName(QStringLiteral("new-service"), [this](const QString &taken) {
+        return package()->service(taken);
+    });
+    document().push(newAddServiceCommand(package(), name));
+    m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
+}
+
+bool ServicesPage::showField(const FieldPath &) {
+    return false; // nothing is checked in services
+}
+
+} // namespace Editor

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "document.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include <functional>
+
+namespace Editor {
+
+/// How a field reads its text from the package, and which command writes it.
+struct TextBinding {
+    std::function<QString()> read;
+    std::function<QUndoCommand *(const QString &text, bool isFinal)> write;
+    /// The path of the field in issues; may be left out.
+    std::function<QString()> path = {};
+    /// A sentence that says why the package cannot take the text, or nothing; may be left out.
+    std::function<QString(const QString &text)> refusal = {};
+};
+
+/// Keeps a text widget and a text of the package alike, in both directions.
+///
+/// Each keystroke is a command of one run, which ends when the focus leaves or with Return. A text
+/// that is refused stays in the field, marked, and reaches the package only when it is mended.
+/// Undo and redo are those of the document, not of the widget.
+class TextField : public QObject {
+    Q_OBJECT
+
+public:
+    TextField(QLineEdit *edit, Document &document, TextBinding binding);
+    TextField(QPlainTextEdit *edit, Document &document, TextBinding binding);
+
+    /// Shows the text of the package, for example since it is that of another entry now.
+    void reload();
+    /// Why the text in the field cannot be taken; empty when it can.
+    [[nodiscard]] const QString &refusal() const { return m_refusal; }
+    [[nodiscard]] QWidget *widget() const { return m_widget; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void start();
+    void refresh();
+    void take();
+    void finish();
+    void mark();
+    [[nodiscard]] QString text() const;
+    void setText(const QString &text);
+
+    QWidget *m_widget;
+    QLineEdit *m_line = nullptr;
+    QPlainTextEdit *m_plain = nullptr;
+    Document &m_document;
+    TextBinding m_binding;
+    QString m_shown; // what the package held when the field was last brought up to date
+    QString m_refusal;
+    bool m_isBusy = false;
+};
+
+/// Leaves undo and redo, while the widget has the focus, to the window's actions.
+void yieldUndo(QWidget *widget);
+
+/// Why a text is no version; empty for one that is, and for an empty text, which is not set.
+[[nodiscard]] QString versionRefusal(const QString &text);
+
+} // namespace Editor

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "page.h"
+
+class QLabel;
+class QMenu;
+class QTableView;
+
+namespace Editor {
+
+class LanguagesModel;
+
+/// The matrix of languages by texts, and the texts of the language that is selected there.
+class TextsPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit TextsPage(Document &document, QWidget *parent = nullptr);
+    bool showField(const FieldPath &path) override;
+
+private:
+    void fillLanguageMenu();
+    void addLanguage(const QString &code);
+    void removeLanguage();
+    void addOtherLanguage();
+    void showCurrent();
+    void refresh();
+    [[nodiscard]] Zel::RobotLanguage current() const;
+
+    LanguagesModel *m_model;
+    QTableView *m_table;
+    QLabel *m_summary;
+    QMenu *m_languageMenu;
+    QPushButton *m_remove;
+    QWidget *m_details;
+    QLabel *m_detailsTitle;
+    TextField *m_name;
+    TextField *m_description;
+};
+
+} // namespace Editor

@@ -1,0 +1,715 @@
+#include "field_path.h"
+#include "icon_button.h"
+#include "main_window.h"
+#include "message_bar.h"
+#include "problems_model.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+#include <QUndoView>
+
+#include <memory>
+
+using namespace Editor;
+
+namespace {
+
+QByteArray contentOf(const QString &fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeTo(const QString &fileName, const QByteArray &content) {
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+// Does something with the next modal dialog, which has to come; the flag says whether it came.
+class Answer {
+public:
+    template<typename Dialog>
+    explicit Answer(std::function<void(Dialog *)> give) {
+        QTimer::singleShot(0, &m_context, [this, give] {
+            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            m_isGiven = true;
+            give(dialog);
+        });
+    }
+    explicit Answer(QMessageBox::StandardButton button)
+        : Answer(std::function<void(QMessageBox *)>([this, button](QMessageBox *box) {
+            text = box->text();
+            box->button(button)->click();
+        })) {}
+    [[nodiscard]] bool isGiven() const { return m_isGiven; }
+
+    QString text;
+
+private:
+    QObject m_context;
+    bool m_isGiven = false;
+};
+
+std::function<void(QFileDialog *)> choose(const QString &fileName) {
+    return [fileName](QFileDialog *dialog) {
+        dialog->findChild<QLineEdit *>()->setText(fileName);
+        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
+    };
+}
+
+} // namespace
+
+class TestPropertiesEditor : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QCoreApplication::setOrganizationName(QStringLiteral("zel-test"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_directory.path());
+    }
+
+    void init() {
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void cleanup() {
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        m_window.reset();
+    }
+
+    // The whole way: every problem mended from the dock, undone, done again, saved and validated.
+    void mendEverything() {
+        const QString fileName = copyOf("faulty");
+        QVERIFY(m_window->openFile(fileName));
+        const QByteArray before = contentOf(fileName);
+        QCOMPARE(problemCount(), 15);
+
+        for (int left = problemCount(); left > 0; left = problemCount()) {
+            const QString path =
+                problems()->model()->index(0, 0).data(ProblemsModel::PathRole).toString();
+            doubleClickProblem(0);
+            mend(FieldPath::parse(path));
+            QVERIFY2(problemCount() < left, qPrintable(path));
+        }
+        const int steps = stack()->count();
+        QVERIFY(m_window->isWindowModified());
+
+        for (int i = 0; i < steps; ++i)
+            press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(problemCount(), 15);
+        QVERIFY(!m_window->isWindowModified());
+        QCOMPARE(manifest(), before);
+        for (int i = 0; i < steps; ++i)
+            press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(problemCount(), 0);
+
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!m_window->isWindowModified());
+        QProcess validate;
+        validate.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), {QStringLiteral("validate"), fileName});
+        QVERIFY(validate.waitForFinished());
+        QCOMPARE(validate.readAllStandardOutput(), QByteArray());
+        QCOMPARE(validate.exitCode(), 0);
+    }
+
+    void typingIsOneStepUntilTheFocusLeaves() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        QLineEdit *author = field("&Author:");
+        author->setFocus();
+        replaceText(QStringLiteral("Ada"));
+        QCOMPARE(stack()->count(), 1);
+        press(Qt::Key_Return);
+        type(QStringLiteral("!"));
+        QCOMPARE(stack()->count(), 2);
+        press(Qt::Key_Tab);
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        press(Qt::Key_End);
+        type(QStringLiteral("?"));
+        QCOMPARE(stack()->count(), 3);
+        QCOMPARE(author->text(), QStringLiteral("Ada!?"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(author->text(), QStringLiteral("Ada"));
+        QVERIFY(m_window->isWindowModified());
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void savesWhileAFieldHasTheFocus_data() {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("line") << 0 << "<author>typed</author>";
+        QTest::newRow("cell") << 1 << "<name>typed</name>";
+        QTest::newRow("line of a list") << 3 << "<permission>typed</permission>";
+        QTest::newRow("cell of a list") << -3 << "<triggerSentence>typed</triggerSentence>";
+    }
+    void savesWhileAFieldHasTheFocus() {
+        QFETCH(int, page);
+        QFETCH(QString, expected);
+        const QString fileName = copyOf("small");
+        QVERIFY(m_window->openFile(fileName));
+        m_window->showPage(std::abs(page));
+        if (page == 0) {
+            field("&Author:")->setFocus();
+            press(Qt::Key_A, Qt::ControlModifier);
+        } else if (page == 1) {
+            view<QTableView>("Languages and texts")->setFocus();
+        } else if (page == 3) {
+            tabs()->setCurrentIndex(5);
+            line("A new permission")->setFocus();
+        } else {
+            tabs()->setCurrentIndex(1);
+            auto *list = view<QListView>("Trigger sentences");
+            list->setFocus();
+            list->setCurrentIndex(list->model()->index(0, 0));
+        }
+        type(QStringLiteral("typed"));
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(contentOf(fileName).contains(expected.toUtf8()));
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void closing_data() {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("isClosed");
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+        QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+    }
+    void closing() {
+        QFETCH(int, button);
+        const QString fileName = copyOf("small");
+        QVERIFY(m_window->openFile(fileName));
+        field("&Author:")->setFocus();
+        replaceText(QStringLiteral("typed"));
+        Answer answer{QMessageBox::StandardButton(button)};
+        QTEST(m_window->close(), "isClosed");
+        QVERIFY(answer.isGiven());
+        QTEST(contentOf(fileName).contains("typed"), "isSaved");
+        QTEST(!m_window->isVisible(), "isClosed");
+    }
+
+    // Saving a new package asks for a file; when that is cancelled, so is what came before.
+    void closingWithoutAFile() {
+        field("&Author:")->setFocus();
+        type(QStringLiteral("typed"));
+        bool isAsked = false;
+        Answer answer{std::function<void(QMessageBox *)>([&](QMessageBox *box) {
+            QTimer::singleShot(0, this, [&] {
+                auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+                isAsked = dialog;
+                if (dialog)
+                    dialog->reject();
+            });
+            box->button(QMessageBox::Save)->click();
+        })};
+        QVERIFY(!m_window->close());
+        QVERIFY(answer.isGiven() && isAsked);
+        QVERIFY(m_window->isWindowModified());
+    }
+
+    void newFromTemplateAndSaveAs() {
+        const QString fileName = m_directory.filePath(QStringLiteral("new.xml"));
+        press(Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(field("&UID:")->text(), QStringLiteral("new-package"));
+        QVERIFY(!m_window->isWindowModified());
+        QVERIFY(problemCount() > 0);
+        Answer answer{choose(fileName)};
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(answer.isGiven());
+        QVERIFY(contentOf(fileName).contains("uid=\"new-package\""));
+        QVERIFY(m_window->windowTitle().contains(QStringLiteral("new.xml")));
+        QCOMPARE(QSettings().value(QStringLiteral("recentFiles")).toStringList().first(), fileName);
+    }
+
+    void publishes() {
+        const QString fileName = m_directory.filePath(QStringLiteral("published.xml"));
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->document().package()->setName(QStringLiteral("gone"),
+                                                Zel::robotLanguage(QStringLiteral("it_IT")));
+        Answer answer{choose(fileName)};
+        press(Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(answer.isGiven());
+        QVERIFY(!contentOf(fileName).isEmpty());
+        QVERIFY(!contentOf(fileName).contains("gone"));
+        QVERIFY(manifest().contains("gone"));
+    }
+
+    void dropsAManifest() {
+        const QString fileName = copyOf("ten-languages");
+        drop(m_window.get(), fileName);
+        QCOMPARE(m_window->document().fileName(), fileName);
+        QCOMPARE(field("&UID:")->text(), QStringLiteral("reading-corner"));
+    }
+
+    void dropsAnIcon() {
+        const QString fileName = copyOf("small");
+        QVERIFY(m_window->openFile(fileName));
+        auto *button = m_window->findChild<IconButton *>();
+        drop(button, QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/ten-languages/icon.png"));
+        QCOMPARE(stack()->count(), 1);
+        button->setFocus();
+        press(Qt::Key_S, Qt::ControlModifier);
+        const QString icon = QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png"));
+        QVERIFY(QFile::exists(icon));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!QFile::exists(icon));
+    }
+
+    void tellsWhyAFileCannotBeRead() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        const QString name = field("&UID:")->text();
+        const QString broken = m_directory.filePath(QStringLiteral("broken.xml"));
+        writeTo(broken, "<package");
+        Answer answer(QMessageBox::Ok);
+        QVERIFY(!m_window->openFile(broken));
+        QVERIFY(answer.isGiven());
+        QVERIFY2(answer.text.startsWith(QStringLiteral("Line 1, ")), qPrintable(answer.text));
+        QCOMPARE(field("&UID:")->text(), name);
+    }
+
+    void fileChangesOnDisk() {
+        const QString fileName = copyOf("small");
+        QVERIFY(m_window->openFile(fileName));
+        const auto *bar = m_window->findChild<MessageBar *>();
+        QVERIFY(!bar->isVisible());
+        QByteArray content = contentOf(fileName);
+        content.replace("morning-wave", "evening-wave");
+        writeTo(fileName, content);
+        QCOMPARE(m_window->document().checkDisk(), Document::DiskState::Changed);
+        QVERIFY(bar->isVisible());
+
+        field("&Author:")->setFocus();
+        replaceText(QStringLiteral("typed"));
+        Answer cancel(QMessageBox::Cancel);
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(cancel.isGiven());
+        QCOMPARE(contentOf(fileName), content);
+
+        Answer discard(QMessageBox::Discard);
+        QTest::mouseClick(bar->findChild<QPushButton *>(), Qt::LeftButton);
+        QVERIFY(discard.isGiven());
+        QCOMPARE(manifest(), content);
+        QVERIFY(!bar->isVisible());
+    }
+
+    void fileVanishes() {
+        const QString fileName = copyOf("small");
+        QVERIFY(m_window->openFile(fileName));
+        const QByteArray content = contentOf(fileName);
+        QVERIFY(QFile::remove(fileName));
+        QCOMPARE(m_window->document().checkDisk(), Document::DiskState::Vanished);
+        const auto *bar = m_window->findChild<MessageBar *>();
+        QVERIFY(bar->isVisible());
+        QVERIFY(m_window->isWindowModified());
+        QTest::mouseClick(bar->findChild<QPushButton *>(), Qt::LeftButton);
+        QCOMPARE(contentOf(fileName), content);
+        QVERIFY(!m_window->isWindowModified());
+
+        QVERIFY(QFile::remove(fileName));
+        Answer answer(QMessageBox::Ok);
+        m_window->document().undoStack()->setClean();
+        QVERIFY(!m_window->openFile(fileName));
+        QVERIFY(answer.isGiven());
+        QVERIFY2(answer.text.contains(QStringLiteral("No such file")), qPrintable(answer.text));
+    }
+
+    void marksWrongTextsAsTheyAreTyped() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        QLineEdit *uid = field("&UID:");
+        uid->setFocus();
+        replaceText(QStringLiteral("Bad"));
+        QVERIFY(!uid->toolTip().isEmpty());
+        QCOMPARE(uid->accessibleDescription(), uid->toolTip());
+        replaceText(QStringLiteral("good"));
+        QVERIFY(uid->toolTip().isEmpty());
+
+        QLineEdit *version = field("&Version:");
+        const QString before = version->text();
+        version->setFocus();
+        replaceText(QStringLiteral("2.x"));
+        QVERIFY(version->toolTip().contains(QStringLiteral("2.x")));
+        Answer mend{std::function<void(QMessageBox *)>(
+            [](QMessageBox *box) { box->buttons().last()->click(); })};
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(mend.isGiven());
+        QCOMPARE(focus(), version);
+        QVERIFY(m_window->isWindowModified());
+        replaceText(QStringLiteral("2.5"));
+        press(Qt::Key_Return);
+        QCOMPARE(version->text(), QStringLiteral("2.5.0"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(version->text(), QStringLiteral("2.0.0")); // of the first character of "2.x"
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(version->text(), before);
+
+        m_window->showPage(2);
+        auto *robots = view<QTableView>("Robots");
+        robots->setFocus();
+        robots->setCurrentIndex(robots->model()->index(0, 1));
+        type(QStringLiteral("3.0"));
+        press(Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor closes on its way back
+        robots->setCurrentIndex(robots->model()->index(0, 2));
+        type(QStringLiteral("1.4"));
+        const QWidget *editor = QApplication::focusWidget();
+        QVERIFY(editor != robots);
+        QVERIFY(!editor->toolTip().isEmpty());
+        type(QStringLiteral("x"));
+        QVERIFY(editor->toolTip().contains(QStringLiteral("1.4x")));
+        press(Qt::Key_Escape);
+        QCOMPARE(problemCount(), 0);
+    }
+
+    void refusesAPathThatIsTaken() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->showPage(3);
+        QLineEdit *path = field("&Path:");
+        path->setFocus();
+        replaceText(QStringLiteral("goodbye"));
+        QVERIFY(!path->toolTip().isEmpty());
+        const auto all = m_window->document().package()->behaviors();
+        QCOMPARE(all.at(0)->path(), QStringLiteral("goodby"));
+        type(QStringLiteral("2"));
+        QCOMPARE(all.at(0)->path(), QStringLiteral("goodbye2"));
+        QCOMPARE(stack()->count(), 1);
+    }
+
+    void addsAndRemovesLanguages() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        const QByteArray before = manifest();
+        m_window->showPage(1);
+        QMenu *menu = button("&Add Language")->menu();
+        Q_EMIT menu->aboutToShow();
+        QAction *finnish = nullptr;
+        for (QAction *action : menu->actions()) {
+            if (action->text() == Zel::robotLanguage(QStringLiteral("fi_FI")).uiName())
+                finnish = action;
+        }
+        QVERIFY(finnish);
+        finnish->trigger();
+        QCOMPARE(problemCount(), 3);
+        auto *table = view<QTableView>("Languages and texts");
+        QCOMPARE(table->currentIndex().row(), 2);
+        QTest::mouseClick(button("&Remove Language"), Qt::LeftButton);
+        QCOMPARE(stack()->count(), 2);
+        QCOMPARE(problemCount(), 0);
+        QCOMPARE(table->model()->rowCount(), 2);
+        stack()->undo();
+        QCOMPARE(problemCount(), 3);
+        stack()->undo();
+        QCOMPARE(manifest(), before);
+    }
+
+    void editsTheListsOfABehavior() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        m_window->showPage(3);
+        tabs()->setCurrentIndex(3);
+        line("A new tag")->setFocus();
+        type(QStringLiteral("greeting"));
+        QVERIFY(!line("A new tag")->toolTip().isEmpty());
+        type(QStringLiteral("s"));
+        press(Qt::Key_Return);
+        const auto *behavior = m_window->document().package()->behaviors().first();
+        const auto english = Zel::Language::defaultLanguage();
+        const QStringList added{QStringLiteral("greeting"), QStringLiteral("greetings")};
+        QCOMPARE(behavior->tags(english), added);
+
+        auto *tags = view<QListView>("Tags");
+        tags->setFocus();
+        tags->setCurrentIndex(tags->model()->index(0, 0));
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("hello"));
+        press(Qt::Key_Return);
+        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
+        QCoreApplication::processEvents(); // the editor closes on its way back
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("never"));
+        press(Qt::Key_Escape);
+        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
+        stack()->undo();
+        stack()->undo();
+        QCOMPARE(behavior->tags(english), added.mid(0, 1));
+    }
+
+    void editsDialogsAndServices() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        const QByteArray before = manifest();
+        m_window->showPage(4);
+        field("&Topic:")->setFocus();
+        replaceText(QStringLiteral("talk"));
+        auto *topics = view<QTableView>("Topic files");
+        topics->setFocus();
+        topics->setCurrentIndex(topics->model()->index(1, 1));
+        press(Qt::Key_F2);
+        replaceText(QStringLiteral("talk.top"));
+        press(Qt::Key_Return);
+        QTest::mouseClick(button("Remove &File"), Qt::LeftButton);
+        QVERIFY(!manifest().contains("talk.top"));
+
+        m_window->showPage(5);
+        auto *services = view<QTableView>("Services");
+        services->setFocus();
+        services->setCurrentIndex(services->model()->index(2, 2));
+        press(Qt::Key_Space);
+        QVERIFY(m_window->document().package()->services().at(2)->isAutoRun());
+        QCOMPARE(stack()->count(), 4);
+        // The history goes back as well as the keys do.
+        auto *history = m_window->findChild<QUndoView *>();
+        QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
+                          history->visualRect(history->model()->index(0, 0)).center());
+        QCOMPARE(manifest(), before);
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void opensRecentFiles() {
+        const QString first = copyOf("small");
+        QVERIFY(m_window->openFile(first));
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        QMenu *recent = nullptr;
+        for (QMenu *menu : m_window->findChildren<QMenu *>()) {
+            if (menu->title() == QLatin1String("Open &Recent"))
+                recent = menu;
+        }
+        Q_EMIT recent->aboutToShow();
+        recent->actions().at(1)->trigger();
+        QCOMPARE(m_window->document().fileName(), first);
+    }
+
+    void speaksTheUsersLanguage_data() {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("French") << "fr_FR.UTF-8"
+                                << "Le manifeste à ouvrir.";
+        QTest::newRow("Japanese") << "ja_JP.UTF-8"
+                                  << "開くマニフェスト。";
+    }
+    void speaksTheUsersLanguage() {
+        QFETCH(QString, locale);
+        QFETCH(QString, expected);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), locale);
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(ZEL_EDITOR_PROGRAM), {QStringLiteral("--help")});
+        QVERIFY(program.waitForFinished());
+        const QString shown = QString::fromUtf8(program.readAllStandardOutput());
+        QVERIFY2(shown.contains(expected), qPrintable(shown));
+    }
+
+    // What is selected stays so while entries go and come again.
+    void keepsTheCurrentBehavior() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->showPage(3);
+        auto *list = view<QTreeView>("Behaviors");
+        list->setCurrentIndex(list->model()->index(2, 0));
+        const QString path = field("&Path:")->text();
+        auto *remove = list->parentWidget()->findChildren<QPushButton *>().last();
+        QTest::mouseClick(remove, Qt::LeftButton);
+        QVERIFY(field("&Path:")->text() != path);
+        const QString next = field("&Path:")->text();
+        stack()->undo();
+        QCOMPARE(field("&Path:")->text(), next);
+        QCOMPARE(list->currentIndex().data().toString(), next);
+    }
+
+    void tenThousandBehaviors() {
+        const QString fileName = m_directory.filePath(QStringLiteral("many.xml"));
+        {
+            Tano::PackageInfo info;
+            Zel::PackageInfoModel package;
+            for (int i = 0; i < 10000; ++i) {
+                Tano::BehaviorInfo behavior;
+                behavior.setPath("behavior-" + std::to_string(i));
+                package.addBehavior(behavior);
+            }
+            QVERIFY(package.saveToManifestFile(fileName));
+        }
+        QVERIFY(m_window->openFile(fileName));
+        m_window->showPage(3);
+        auto *list = view<QTreeView>("Behaviors");
+        QCOMPARE(list->model()->rowCount(), 10000);
+        list->setFocus();
+        press(Qt::Key_End);
+        QCOMPARE(field("&Path:")->text(), QStringLiteral("behavior-9999"));
+        line("Find a behavior")->setFocus();
+        type(QStringLiteral("r-777"));
+        QCOMPARE(list->model()->rowCount(), 11);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->model()->index(1, 0)).center());
+        QCOMPARE(field("&Path:")->text(), QStringLiteral("behavior-7770"));
+    }
+
+    void fitsSmallAndMirroredWindows() {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->resize(1024, 700);
+        QVERIFY(m_window->minimumSizeHint().width() <= 1024);
+        QVERIFY(m_window->minimumSizeHint().height() <= 700);
+        QVERIFY(m_window->findChild<QListWidget *>()->geometry().left() > 512);
+        // Nothing on a page needs to be scrolled into view sideways.
+        for (int page = 0; page < 6; ++page) {
+            m_window->showPage(page);
+            QCoreApplication::processEvents();
+            for (const auto *area : m_window->findChildren<QScrollArea *>())
+                QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
+                         area->widget()->metaObject()->className());
+        }
+    }
+
+    // Whoever uses the keyboard or a screen reader finds every field named.
+    void fieldsAreNamed() {
+        for (const auto *edit : m_window->findChildren<QWidget *>()) {
+            if (!(edit->focusPolicy() & Qt::TabFocus) || qobject_cast<const QScrollArea *>(edit) ||
+                edit->objectName().startsWith(QLatin1String("qt_")) ||
+                edit->inherits("QAbstractButton") || edit->inherits("QTabBar") ||
+                edit->inherits("QComboBoxListView") || edit->inherits("QHeaderView") ||
+                (edit->focusProxy() != nullptr))
+                continue;
+            const QString name = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(edit))
+                                     ->text(QAccessible::Name);
+            QVERIFY2(!name.isEmpty(), edit->metaObject()->className());
+        }
+    }
+
+private:
+    QString copyOf(const char *sample) {
+        const QDir from(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/") +
+                        QLatin1String(sample));
+        QDir to(m_directory.filePath(QString::number(++m_copies)));
+        to.mkpath(QStringLiteral("."));
+        for (const QString &name : from.entryList(QDir::Files))
+            QFile::copy(from.filePath(name), to.filePath(name));
+        return to.filePath(QStringLiteral("manifest.xml"));
+    }
+
+    // Presses keys as a person does: they go to whatever has the focus.
+    QWidget *focus() {
+        if (!QApplication::focusWidget()) { // a dialog has just closed
+            m_window->activateWindow();
+            static_cast<void>(QTest::qWaitForWindowActive(m_window.get()));
+        }
+        return QApplication::focusWidget();
+    }
+    void type(const QString &text) {
+        for (const QChar character : text)
+            QTest::keyClicks(focus(), QString(character));
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(focus(), key, modifiers);
+    }
+    void replaceText(const QString &text) {
+        press(Qt::Key_A, Qt::ControlModifier);
+        type(text);
+    }
+    static void drop(QWidget *target, const QString &fileName) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(fileName)});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+    }
+
+    QUndoStack *stack() { return m_window->document().undoStack(); }
+    QByteArray manifest() {
+        m_window->document().package()->syncRecord();
+        return m_window->document().package()->saveToManifestContent();
+    }
+    QTreeView *problems() { return view<QTreeView>("Problems"); }
+    int problemCount() { return problems()->model()->rowCount(); }
+
+    template<typename View>
+    View *view(const char *accessibleName) {
+        for (View *candidate : m_window->findChildren<View *>()) {
+            if (candidate->accessibleName() == QLatin1String(accessibleName))
+                return candidate;
+        }
+        return nullptr;
+    }
+    // The field that a label stands beside.
+    QLineEdit *field(const char *label) {
+        for (const QLabel *candidate : m_window->findChildren<QLabel *>()) {
+            if (candidate->text() == QLatin1String(label))
+                return qobject_cast<QLineEdit *>(candidate->buddy());
+        }
+        return nullptr;
+    }
+    QLineEdit *line(const char *placeholder) {
+        for (QLineEdit *candidate : m_window->findChildren<QLineEdit *>()) {
+            if (candidate->placeholderText() == QLatin1String(placeholder))
+                return candidate;
+        }
+        return nullptr;
+    }
+    QPushButton *button(const char *text) {
+        for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
+            if (candidate->text() == QLatin1String(text))
+                return candidate;
+        }
+        return nullptr;
+    }
+    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(); }
+
+    void doubleClickProblem(int row) {
+        const QPoint point = problems()->visualRect(problems()->model()->index(row, 1)).center();
+        QTest::mouseClick(problems()->viewport(), Qt::LeftButton, {}, point);
+        QTest::mouseDClick(problems()->viewport(), Qt::LeftButton, {}, point);
+    }
+
+    // Mends the field that has the focus.
+    void mend(const FieldPath &path) {
+        if (path.field == QLatin1String("model")) {
+            press(Qt::Key_F2);
+            press(Qt::Key_Down);
+        } else if (path.field.endsWith(QLatin1String("Version"))) {
+            type(path.field.startsWith(QLatin1String("min")) ? QStringLiteral("1.0")
+                                                             : QStringLiteral("9.0"));
+            press(Qt::Key_Return);
+        } else if (path.list == QLatin1String("uid")) {
+            replaceText(QStringLiteral("night-watch"));
+        } else {
+            type(QStringLiteral("mended"));
+            if (path.list == QLatin1String("behaviors"))
+                press(Qt::Key_Return);
+        }
+        QCoreApplication::processEvents(); // an editor of a cell closes on its way back
+    }
+
+    QTemporaryDir m_directory;
+    int m_copies = 0;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+QTEST_MAIN(TestPropertiesEditor)
+#include "tst_properties_editor.moc"

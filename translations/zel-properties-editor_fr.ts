@@ -1,0 +1,911 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Editor::BehaviorDetails</name>
+    <message>
+        <source>A &amp;user may ask for it</source>
+        <translation>L&apos;&amp;utilisateur peut le demander</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>&amp;Chemin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A behavior needs a path.</source>
+        <translation>Il faut un chemin à un comportement.</translation>
+    </message>
+    <message>
+        <source>There is another behavior with this path.</source>
+        <translation>Un autre comportement a ce chemin.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Interactive: it reacts to people</source>
+        <translation>Interactif&#xa0;: il réagit aux personnes</translation>
+    </message>
+    <message>
+        <source>Solitary: the robot runs it on its own</source>
+        <translation>Solitaire&#xa0;: le robot le lance de lui-même</translation>
+    </message>
+    <message>
+        <source>Na&amp;ture:</source>
+        <translation>Na&amp;ture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Language of the texts</source>
+        <translation>Langue des textes</translation>
+    </message>
+    <message>
+        <source>Texts &amp;in:</source>
+        <translation>Textes &amp;en&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textes</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>Déclenchement</translation>
+    </message>
+    <message>
+        <source>A sentence that starts the behavior</source>
+        <translation>Une phrase qui lance le comportement</translation>
+    </message>
+    <message>
+        <source>Responses</source>
+        <translation>Réponses</translation>
+    </message>
+    <message>
+        <source>What the robot says while it loads</source>
+        <translation>Ce que dit le robot pendant le chargement</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>A new tag</source>
+        <translation>Une nouvelle étiquette</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>A new condition for this purpose</source>
+        <translation>Une nouvelle condition pour cet usage</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Permissions</translation>
+    </message>
+    <message>
+        <source>A new permission</source>
+        <translation>Une nouvelle permission</translation>
+    </message>
+    <message>
+        <source>P&amp;urpose:</source>
+        <translation>&amp;Usage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>D&amp;escription:</source>
+        <translation>D&amp;escription&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::BehaviorsModel</name>
+    <message>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::BehaviorsPage</name>
+    <message>
+        <source>&amp;Behaviors</source>
+        <translation>&amp;Comportements</translation>
+    </message>
+    <message>
+        <source>Find a behavior</source>
+        <translation>Trouver un comportement</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>Comportements</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Commands</name>
+    <message>
+        <source>Add behavior %1</source>
+        <translation>Ajouter le comportement %1</translation>
+    </message>
+    <message>
+        <source>Remove behavior %1</source>
+        <translation>Retirer le comportement %1</translation>
+    </message>
+    <message>
+        <source>Add dialog %1</source>
+        <translation>Ajouter le dialogue %1</translation>
+    </message>
+    <message>
+        <source>Remove dialog %1</source>
+        <translation>Retirer le dialogue %1</translation>
+    </message>
+    <message>
+        <source>Add service %1</source>
+        <translation>Ajouter le service %1</translation>
+    </message>
+    <message>
+        <source>Remove service %1</source>
+        <translation>Retirer le service %1</translation>
+    </message>
+    <message>
+        <source>Add robot requirement</source>
+        <translation>Ajouter une exigence sur le robot</translation>
+    </message>
+    <message>
+        <source>Remove robot requirement</source>
+        <translation>Retirer une exigence sur le robot</translation>
+    </message>
+    <message>
+        <source>Add Brio requirement</source>
+        <translation>Ajouter une exigence Brio</translation>
+    </message>
+    <message>
+        <source>Remove Brio requirement</source>
+        <translation>Retirer une exigence Brio</translation>
+    </message>
+    <message>
+        <source>Rename service %1</source>
+        <translation>Renommer le service %1</translation>
+    </message>
+    <message>
+        <source>Set command of service %1</source>
+        <translation>Modifier la commande du service %1</translation>
+    </message>
+    <message>
+        <source>Switch start of service %1</source>
+        <translation>Changer le démarrage du service %1</translation>
+    </message>
+    <message>
+        <source>Edit Brio requirement %1</source>
+        <translation>Modifier l&apos;exigence Brio %1</translation>
+    </message>
+    <message>
+        <source>Edit robot requirement %1</source>
+        <translation>Modifier l&apos;exigence sur le robot %1</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>Retirer la langue %1</translation>
+    </message>
+    <message>
+        <source>Add language %1</source>
+        <translation>Ajouter la langue %1</translation>
+    </message>
+    <message>
+        <source>Remove description language %1</source>
+        <translation>Retirer la langue de description %1</translation>
+    </message>
+    <message>
+        <source>Add description language %1</source>
+        <translation>Ajouter la langue de description %1</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::DialogsModel</name>
+    <message>
+        <source>Topic</source>
+        <translation>Sujet</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::DialogsPage</name>
+    <message>
+        <source>&amp;Dialogs</source>
+        <translation>&amp;Dialogues</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>Dialogues</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>&amp;Topic:</source>
+        <translation>&amp;Sujet&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A dialog needs a topic name.</source>
+        <translation>Il faut un nom de sujet à un dialogue.</translation>
+    </message>
+    <message>
+        <source>There is another dialog with this topic.</source>
+        <translation>Un autre dialogue a ce sujet.</translation>
+    </message>
+    <message>
+        <source>Type &amp;version:</source>
+        <translation>&amp;Version de type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Topic files</source>
+        <translation>Fichiers du sujet</translation>
+    </message>
+    <message>
+        <source>Remove &amp;File</source>
+        <translation>Retirer le &amp;fichier</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Document</name>
+    <message>
+        <source>The icon %1 cannot be removed.</source>
+        <translation>L&apos;icône %1 ne peut pas être supprimée.</translation>
+    </message>
+    <message>
+        <source>The icon %1 cannot be written: %2</source>
+        <translation>L&apos;icône %1 ne peut pas être écrite&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::FieldPath</name>
+    <message>
+        <source>Robot of requirement %1</source>
+        <translation>Robot de l&apos;exigence %1</translation>
+    </message>
+    <message>
+        <source>Lowest head version of robot requirement %1</source>
+        <translation>Version minimale de tête de l&apos;exigence %1</translation>
+    </message>
+    <message>
+        <source>Highest head version of robot requirement %1</source>
+        <translation>Version maximale de tête de l&apos;exigence %1</translation>
+    </message>
+    <message>
+        <source>Lowest body version of robot requirement %1</source>
+        <translation>Version minimale de corps de l&apos;exigence %1</translation>
+    </message>
+    <message>
+        <source>Highest body version of robot requirement %1</source>
+        <translation>Version maximale de corps de l&apos;exigence %1</translation>
+    </message>
+    <message>
+        <source>Lowest version of Brio requirement %1</source>
+        <translation>Version minimale de l&apos;exigence Brio %1</translation>
+    </message>
+    <message>
+        <source>Highest version of Brio requirement %1</source>
+        <translation>Version maximale de l&apos;exigence Brio %1</translation>
+    </message>
+    <message>
+        <source>UID</source>
+        <translation>UID</translation>
+    </message>
+    <message>
+        <source>Name in %1</source>
+        <translation>Nom en %1</translation>
+    </message>
+    <message>
+        <source>Description in %1</source>
+        <translation>Description en %1</translation>
+    </message>
+    <message>
+        <source>Trigger sentences of “%1” in %2</source>
+        <translation>Phrases de déclenchement de «&#xa0;%1&#xa0;» en %2</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>Exigences sur le robot</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Exigences Brio</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::FileActions</name>
+    <message>
+        <source>Empty Package</source>
+        <translation>Paquet vide</translation>
+    </message>
+    <message>
+        <source>Behavior Started by a Sentence</source>
+        <translation>Comportement lancé par une phrase</translation>
+    </message>
+    <message>
+        <source>Service in the Background</source>
+        <translation>Service en arrière-plan</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Publish…</source>
+        <translation>&amp;Publier…</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;charger</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>New package from a template</source>
+        <translation>Nouveau paquet à partir d&apos;un modèle</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The package has changes that are not saved.</source>
+        <translation>Le paquet a des modifications qui ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>They are lost unless you save them.</source>
+        <translation>Elles seront perdues si vous ne les enregistrez pas.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a Manifest</source>
+        <translation>Ouvrir un manifeste</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>Manifestes (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Save the Manifest</source>
+        <translation>Enregistrer le manifeste</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was opened.</source>
+        <translation>Un autre programme a modifié le fichier depuis son ouverture.</translation>
+    </message>
+    <message>
+        <source>Saving replaces what the other program has written.</source>
+        <translation>L&apos;enregistrement remplacera ce que l&apos;autre programme a écrit.</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>Publier le manifeste</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>Publier</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Reloading loses them.</source>
+        <translation>Elles seront perdues au rechargement.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file.</source>
+        <translation>Un autre programme a modifié le fichier.</translation>
+    </message>
+    <message>
+        <source>Keep What Is Here</source>
+        <translation>Garder ce qui est ici</translation>
+    </message>
+    <message>
+        <source>The file is not there any more.</source>
+        <translation>Le fichier n&apos;est plus là.</translation>
+    </message>
+    <message>
+        <source>Save It Again</source>
+        <translation>L&apos;enregistrer à nouveau</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Aucun fichier pour l&apos;instant</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::IconButton</name>
+    <message>
+        <source>Icon</source>
+        <translation>Icône</translation>
+    </message>
+    <message>
+        <source>Click to choose an icon, or drop a picture here.</source>
+        <translation>Cliquez pour choisir une icône, ou déposez une image ici.</translation>
+    </message>
+    <message>
+        <source>Use the Default Icon</source>
+        <translation>Utiliser l&apos;icône par défaut</translation>
+    </message>
+    <message>
+        <source>Choose an Icon</source>
+        <translation>Choisir une icône</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp *.svg)</source>
+        <translation>Images (*.png *.jpg *.bmp *.svg)</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be read: %2</source>
+        <translation>L&apos;image %1 ne peut pas être lue&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::IdentityPage</name>
+    <message>
+        <source>&amp;Identity</source>
+        <translation>&amp;Identité</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>&amp;UID:</source>
+        <translation>&amp;UID&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Version:</source>
+        <translation>&amp;Version&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Type version:</source>
+        <translation>Version de &amp;type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Path on the robot:</source>
+        <translation>&amp;Chemin sur le robot&#xa0;:</translation>
+    </message>
+    <message>
+        <source>I&amp;nstaller:</source>
+        <translation>I&amp;nstallateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Éditeur</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>&amp;Auteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Organization:</source>
+        <translation>&amp;Organisation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Channel:</source>
+        <translation>Cana&amp;l&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Click, or drop a picture.</source>
+        <translation>Cliquez ou déposez une image.</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>Icône</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguagesModel</name>
+    <message>
+        <source>Supported languages: %1. With a name: %2. With a description: %3.</source>
+        <translation>Langues prises en charge&#xa0;: %1. Avec un nom&#xa0;: %2. Avec une description&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>Prise en charge</translation>
+    </message>
+    <message>
+        <source>Described</source>
+        <translation>Décrite</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MainWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation>À l&apos;ouverture</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>The properties editor shows and edits the manifest of an application package for a robot.
+
+Version %1</source>
+        <translation>L&apos;éditeur de propriétés montre et modifie le manifeste d&apos;un paquet d&apos;application pour un robot.
+
+Version %1</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Nouveau paquet</translation>
+    </message>
+    <message>
+        <source>%1[*] – Package Properties</source>
+        <translation>%1[*] – Propriétés du paquet</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Aucun problème</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>The package keeps what was there before.</source>
+        <translation>Le paquet garde ce qui s&apos;y trouvait avant.</translation>
+    </message>
+    <message>
+        <source>Go On Without It</source>
+        <translation>Continuer sans</translation>
+    </message>
+    <message>
+        <source>Mend It</source>
+        <translation>Corriger</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MarkLabel</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemsModel</name>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Champ</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RequirementsModel</name>
+    <message>
+        <source>Lowest version</source>
+        <translation>Version minimale</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>Version maximale</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Robot</translation>
+    </message>
+    <message>
+        <source>Lowest head</source>
+        <translation>Tête, minimum</translation>
+    </message>
+    <message>
+        <source>Highest head</source>
+        <translation>Tête, maximum</translation>
+    </message>
+    <message>
+        <source>Lowest body</source>
+        <translation>Corps, minimum</translation>
+    </message>
+    <message>
+        <source>Highest body</source>
+        <translation>Corps, maximum</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RequirementsPage</name>
+    <message>
+        <source>&amp;Requirements</source>
+        <translation>E&amp;xigences</translation>
+    </message>
+    <message>
+        <source>Robots</source>
+        <translation>Robots</translation>
+    </message>
+    <message>
+        <source>The package is offered to robots that meet one of these. An empty version is a bound that is not set.</source>
+        <translation>Le paquet est proposé aux robots qui en satisfont une. Une version vide est une borne non fixée.</translation>
+    </message>
+    <message>
+        <source>Add &amp;Robot</source>
+        <translation>Ajouter un &amp;robot</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Robot</source>
+        <translation>R&amp;etirer le robot</translation>
+    </message>
+    <message>
+        <source>Brio middleware</source>
+        <translation>Intergiciel Brio</translation>
+    </message>
+    <message>
+        <source>The versions that the package was tried on; the lowest is needed.</source>
+        <translation>Les versions sur lesquelles le paquet a été essayé&#xa0;; la minimale est nécessaire.</translation>
+    </message>
+    <message>
+        <source>Add &amp;Brio Version</source>
+        <translation>Ajouter une version de &amp;Brio</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Brio Version</source>
+        <translation>Re&amp;tirer la version de Brio</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ServicesModel</name>
+    <message>
+        <source>There is another service with this name.</source>
+        <translation>Un autre service a ce nom.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Starts with the robot</source>
+        <translation>Démarre avec le robot</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ServicesPage</name>
+    <message>
+        <source>&amp;Services</source>
+        <translation>&amp;Services</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StringListEditor</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StringListModel</name>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>La liste contient déjà «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextField</name>
+    <message>
+        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une version. Une version est faite de nombres séparés par des points, comme 2.5.0.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextsPage</name>
+    <message>
+        <source>&amp;Languages</source>
+        <translation>&amp;Langues</translation>
+    </message>
+    <message>
+        <source>Languages and texts</source>
+        <translation>Langues et textes</translation>
+    </message>
+    <message>
+        <source>&amp;Add Language</source>
+        <translation>&amp;Ajouter une langue</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Language</source>
+        <translation>&amp;Retirer la langue</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>D&amp;escription:</source>
+        <translation>D&amp;escription&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No language is selected.</source>
+        <translation>Aucune langue n&apos;est sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Other Language…</source>
+        <translation>Autre langue…</translation>
+    </message>
+    <message>
+        <source>Add Language</source>
+        <translation>Ajouter une langue</translation>
+    </message>
+    <message>
+        <source>Code of the language, such as en or pt_BR:</source>
+        <translation>Code de la langue, comme en ou pt_BR&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>Retirer la langue %1</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TopicsModel</name>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Topic file</source>
+        <translation>Fichier du sujet</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Shows and edits the manifest of an application package.</source>
+        <translation>Montre et modifie le manifeste d&apos;un paquet d&apos;application.</translation>
+    </message>
+    <message>
+        <source>The manifest to open.</source>
+        <translation>Le manifeste à ouvrir.</translation>
+    </message>
+</context>
+</TS>

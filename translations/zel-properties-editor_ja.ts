@@ -1,0 +1,911 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Editor::BehaviorDetails</name>
+    <message>
+        <source>A &amp;user may ask for it</source>
+        <translation>ユーザーが呼び出せる(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Path:</source>
+        <translation>パス(&amp;P):</translation>
+    </message>
+    <message>
+        <source>A behavior needs a path.</source>
+        <translation>ビヘイビアにはパスが必要です。</translation>
+    </message>
+    <message>
+        <source>There is another behavior with this path.</source>
+        <translation>このパスのビヘイビアは既にあります。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Interactive: it reacts to people</source>
+        <translation>インタラクティブ: 人に反応する</translation>
+    </message>
+    <message>
+        <source>Solitary: the robot runs it on its own</source>
+        <translation>ソリタリー: ロボットが自ら実行する</translation>
+    </message>
+    <message>
+        <source>Na&amp;ture:</source>
+        <translation>種別(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Language of the texts</source>
+        <translation>テキストの言語</translation>
+    </message>
+    <message>
+        <source>Texts &amp;in:</source>
+        <translation>テキストの言語(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>トリガー文</translation>
+    </message>
+    <message>
+        <source>A sentence that starts the behavior</source>
+        <translation>ビヘイビアを開始する文</translation>
+    </message>
+    <message>
+        <source>Responses</source>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <source>What the robot says while it loads</source>
+        <translation>読み込み中にロボットが話す文</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>A new tag</source>
+        <translation>新しいタグ</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>A new condition for this purpose</source>
+        <translation>この用途の新しい条件</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>A new permission</source>
+        <translation>新しい権限</translation>
+    </message>
+    <message>
+        <source>P&amp;urpose:</source>
+        <translation>用途(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>D&amp;escription:</source>
+        <translation>説明(&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::BehaviorsModel</name>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::BehaviorsPage</name>
+    <message>
+        <source>&amp;Behaviors</source>
+        <translation>ビヘイビア(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Find a behavior</source>
+        <translation>ビヘイビアを検索</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>ビヘイビア</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Commands</name>
+    <message>
+        <source>Add behavior %1</source>
+        <translation>ビヘイビア %1 を追加</translation>
+    </message>
+    <message>
+        <source>Remove behavior %1</source>
+        <translation>ビヘイビア %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add dialog %1</source>
+        <translation>ダイアログ %1 を追加</translation>
+    </message>
+    <message>
+        <source>Remove dialog %1</source>
+        <translation>ダイアログ %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add service %1</source>
+        <translation>サービス %1 を追加</translation>
+    </message>
+    <message>
+        <source>Remove service %1</source>
+        <translation>サービス %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add robot requirement</source>
+        <translation>ロボット要件を追加</translation>
+    </message>
+    <message>
+        <source>Remove robot requirement</source>
+        <translation>ロボット要件を削除</translation>
+    </message>
+    <message>
+        <source>Add Brio requirement</source>
+        <translation>Brio の要件を追加</translation>
+    </message>
+    <message>
+        <source>Remove Brio requirement</source>
+        <translation>Brio の要件を削除</translation>
+    </message>
+    <message>
+        <source>Rename service %1</source>
+        <translation>サービス %1 の名前を変更</translation>
+    </message>
+    <message>
+        <source>Set command of service %1</source>
+        <translation>サービス %1 のコマンドを変更</translation>
+    </message>
+    <message>
+        <source>Switch start of service %1</source>
+        <translation>サービス %1 の自動起動を切り替え</translation>
+    </message>
+    <message>
+        <source>Edit Brio requirement %1</source>
+        <translation>Brio の要件 %1 を編集</translation>
+    </message>
+    <message>
+        <source>Edit robot requirement %1</source>
+        <translation>ロボット要件 %1 を編集</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>言語 %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add language %1</source>
+        <translation>言語 %1 を追加</translation>
+    </message>
+    <message>
+        <source>Remove description language %1</source>
+        <translation>説明の言語 %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add description language %1</source>
+        <translation>説明の言語 %1 を追加</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::DialogsModel</name>
+    <message>
+        <source>Topic</source>
+        <translation>トピック</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::DialogsPage</name>
+    <message>
+        <source>&amp;Dialogs</source>
+        <translation>ダイアログ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Topic:</source>
+        <translation>トピック(&amp;T):</translation>
+    </message>
+    <message>
+        <source>A dialog needs a topic name.</source>
+        <translation>ダイアログにはトピック名が必要です。</translation>
+    </message>
+    <message>
+        <source>There is another dialog with this topic.</source>
+        <translation>このトピックのダイアログは既にあります。</translation>
+    </message>
+    <message>
+        <source>Type &amp;version:</source>
+        <translation>種別バージョン(&amp;V):</translation>
+    </message>
+    <message>
+        <source>Topic files</source>
+        <translation>トピックファイル</translation>
+    </message>
+    <message>
+        <source>Remove &amp;File</source>
+        <translation>ファイルを削除(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Document</name>
+    <message>
+        <source>The icon %1 cannot be removed.</source>
+        <translation>アイコン %1 を削除できません。</translation>
+    </message>
+    <message>
+        <source>The icon %1 cannot be written: %2</source>
+        <translation>アイコン %1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::FieldPath</name>
+    <message>
+        <source>Robot of requirement %1</source>
+        <translation>要件 %1 のロボット</translation>
+    </message>
+    <message>
+        <source>Lowest head version of robot requirement %1</source>
+        <translation>ロボット要件 %1 のヘッドの最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest head version of robot requirement %1</source>
+        <translation>ロボット要件 %1 のヘッドの最大バージョン</translation>
+    </message>
+    <message>
+        <source>Lowest body version of robot requirement %1</source>
+        <translation>ロボット要件 %1 のボディの最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest body version of robot requirement %1</source>
+        <translation>ロボット要件 %1 のボディの最大バージョン</translation>
+    </message>
+    <message>
+        <source>Lowest version of Brio requirement %1</source>
+        <translation>Brio の要件 %1 の最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest version of Brio requirement %1</source>
+        <translation>Brio の要件 %1 の最大バージョン</translation>
+    </message>
+    <message>
+        <source>UID</source>
+        <translation>UID</translation>
+    </message>
+    <message>
+        <source>Name in %1</source>
+        <translation>名前 (%1)</translation>
+    </message>
+    <message>
+        <source>Description in %1</source>
+        <translation>説明 (%1)</translation>
+    </message>
+    <message>
+        <source>Trigger sentences of “%1” in %2</source>
+        <translation>「%1」のトリガー文 (%2)</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>ロボットの要件</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Brio の要件</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::FileActions</name>
+    <message>
+        <source>Empty Package</source>
+        <translation>空のパッケージ</translation>
+    </message>
+    <message>
+        <source>Behavior Started by a Sentence</source>
+        <translation>文で開始するビヘイビア</translation>
+    </message>
+    <message>
+        <source>Service in the Background</source>
+        <translation>バックグラウンドのサービス</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新規(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使ったファイル(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Publish…</source>
+        <translation>公開(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>再読み込み(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>New package from a template</source>
+        <translation>テンプレートから新規パッケージ</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>保存されていない変更</translation>
+    </message>
+    <message>
+        <source>The package has changes that are not saved.</source>
+        <translation>パッケージに保存されていない変更があります。</translation>
+    </message>
+    <message>
+        <source>They are lost unless you save them.</source>
+        <translation>保存しないと変更は失われます。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open a Manifest</source>
+        <translation>マニフェストを開く</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>マニフェスト (*.xml);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Save the Manifest</source>
+        <translation>マニフェストを保存</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file since it was opened.</source>
+        <translation>ファイルは開いた後に別のプログラムによって変更されています。</translation>
+    </message>
+    <message>
+        <source>Saving replaces what the other program has written.</source>
+        <translation>保存すると、別のプログラムが書き込んだ内容は置き換えられます。</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>マニフェストを公開</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>公開</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Reloading loses them.</source>
+        <translation>再読み込みすると変更は失われます。</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file.</source>
+        <translation>別のプログラムがファイルを変更しました。</translation>
+    </message>
+    <message>
+        <source>Keep What Is Here</source>
+        <translation>現在の内容を保持</translation>
+    </message>
+    <message>
+        <source>The file is not there any more.</source>
+        <translation>ファイルがなくなりました。</translation>
+    </message>
+    <message>
+        <source>Save It Again</source>
+        <translation>もう一度保存</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>ファイルはまだありません</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::IconButton</name>
+    <message>
+        <source>Icon</source>
+        <translation>アイコン</translation>
+    </message>
+    <message>
+        <source>Click to choose an icon, or drop a picture here.</source>
+        <translation>クリックしてアイコンを選ぶか、ここに画像をドロップしてください。</translation>
+    </message>
+    <message>
+        <source>Use the Default Icon</source>
+        <translation>既定のアイコンを使用</translation>
+    </message>
+    <message>
+        <source>Choose an Icon</source>
+        <translation>アイコンを選択</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.bmp *.svg)</source>
+        <translation>画像 (*.png *.jpg *.bmp *.svg)</translation>
+    </message>
+    <message>
+        <source>The picture %1 cannot be read: %2</source>
+        <translation>画像 %1 を読み込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::IdentityPage</name>
+    <message>
+        <source>&amp;Identity</source>
+        <translation>識別情報(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>&amp;UID:</source>
+        <translation>UID(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Version:</source>
+        <translation>バージョン(&amp;V):</translation>
+    </message>
+    <message>
+        <source>&amp;Type version:</source>
+        <translation>種別バージョン(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Path on the robot:</source>
+        <translation>ロボット上のパス(&amp;P):</translation>
+    </message>
+    <message>
+        <source>I&amp;nstaller:</source>
+        <translation>インストーラー(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>発行者</translation>
+    </message>
+    <message>
+        <source>&amp;Author:</source>
+        <translation>作者(&amp;A):</translation>
+    </message>
+    <message>
+        <source>&amp;Organization:</source>
+        <translation>組織(&amp;O):</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>日付(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Channel:</source>
+        <translation>チャンネル(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Click, or drop a picture.</source>
+        <translation>クリックまたは画像をドロップ</translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <translation>アイコン</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguagesModel</name>
+    <message>
+        <source>Supported languages: %1. With a name: %2. With a description: %3.</source>
+        <translation>対応言語: %1。名前あり: %2。説明あり: %3。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Supported</source>
+        <translation>対応</translation>
+    </message>
+    <message>
+        <source>Described</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明文</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>網羅率</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MainWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation>開いたとき</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>このプログラムについて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>このプログラムについて</translation>
+    </message>
+    <message>
+        <source>The properties editor shows and edits the manifest of an application package for a robot.
+
+Version %1</source>
+        <translation>プロパティエディターは、ロボット用アプリケーションパッケージのマニフェストを表示し、編集します。
+
+バージョン %1</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>新規パッケージ</translation>
+    </message>
+    <message>
+        <source>%1[*] – Package Properties</source>
+        <translation>%1[*] – パッケージのプロパティ</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>問題なし</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>エラー: %1、警告: %2</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>The package keeps what was there before.</source>
+        <translation>パッケージには以前の内容が残ります。</translation>
+    </message>
+    <message>
+        <source>Go On Without It</source>
+        <translation>このまま続ける</translation>
+    </message>
+    <message>
+        <source>Mend It</source>
+        <translation>修正する</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MarkLabel</name>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemsModel</name>
+    <message>
+        <source>Severity</source>
+        <translation>重大度</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>項目</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RequirementsModel</name>
+    <message>
+        <source>Lowest version</source>
+        <translation>最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>最大バージョン</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>Lowest head</source>
+        <translation>ヘッドの最小</translation>
+    </message>
+    <message>
+        <source>Highest head</source>
+        <translation>ヘッドの最大</translation>
+    </message>
+    <message>
+        <source>Lowest body</source>
+        <translation>ボディの最小</translation>
+    </message>
+    <message>
+        <source>Highest body</source>
+        <translation>ボディの最大</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RequirementsPage</name>
+    <message>
+        <source>&amp;Requirements</source>
+        <translation>要件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Robots</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>The package is offered to robots that meet one of these. An empty version is a bound that is not set.</source>
+        <translation>パッケージは、これらのいずれかを満たすロボットに提供されます。空のバージョンは制限なしを表します。</translation>
+    </message>
+    <message>
+        <source>Add &amp;Robot</source>
+        <translation>ロボットを追加(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Robot</source>
+        <translation>ロボットを削除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Brio middleware</source>
+        <translation>ミドルウェア Brio</translation>
+    </message>
+    <message>
+        <source>The versions that the package was tried on; the lowest is needed.</source>
+        <translation>パッケージの動作を確認したバージョンです。最小バージョンは必須です。</translation>
+    </message>
+    <message>
+        <source>Add &amp;Brio Version</source>
+        <translation>Brio のバージョンを追加(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve Brio Version</source>
+        <translation>Brio のバージョンを削除(&amp;V)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ServicesModel</name>
+    <message>
+        <source>There is another service with this name.</source>
+        <translation>この名前のサービスは既にあります。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Starts with the robot</source>
+        <translation>ロボットと同時に起動</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ServicesPage</name>
+    <message>
+        <source>&amp;Services</source>
+        <translation>サービス(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StringListEditor</name>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StringListModel</name>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>一覧には既に「%1」があります。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextField</name>
+    <message>
+        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
+        <translation>「%1」はバージョンではありません。バージョンは 2.5.0 のように、数字をドットで区切ったものです。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextsPage</name>
+    <message>
+        <source>&amp;Languages</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Languages and texts</source>
+        <translation>言語とテキスト</translation>
+    </message>
+    <message>
+        <source>&amp;Add Language</source>
+        <translation>言語を追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Language</source>
+        <translation>言語を削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>D&amp;escription:</source>
+        <translation>説明(&amp;E):</translation>
+    </message>
+    <message>
+        <source>No language is selected.</source>
+        <translation>言語が選択されていません。</translation>
+    </message>
+    <message>
+        <source>Other Language…</source>
+        <translation>その他の言語…</translation>
+    </message>
+    <message>
+        <source>Add Language</source>
+        <translation>言語を追加</translation>
+    </message>
+    <message>
+        <source>Code of the language, such as en or pt_BR:</source>
+        <translation>言語コード (en、pt_BR など):</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>言語 %1 を削除</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TopicsModel</name>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Topic file</source>
+        <translation>トピックファイル</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Shows and edits the manifest of an application package.</source>
+        <translation>アプリケーションパッケージのマニフェストを表示し、編集します。</translation>
+    </message>
+    <message>
+        <source>The manifest to open.</source>
+        <translation>開くマニフェスト。</translation>
+    </message>
+</context>
+</TS>
