@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QString>
+#include <QStringList>
+#include <QTest>
+
+#include <list>
+
+/// Fills the table of a data function from a JSON file below ZEL_TEST_DATA: an array of rows, the
+/// first of which has the names of the columns. A column holds texts, numbers, or arrays of texts,
+/// as its first value does; the first one also names the rows.
+inline void addRowsOf(const char *path) {
+    QFile file(QStringLiteral(ZEL_TEST_DATA "/") + QLatin1String(path));
+    QJsonParseError error{};
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", path);
+    const QJsonArray rows = QJsonDocument::fromJson(file.readAll(), &error).array();
+    if (error.error != QJsonParseError::NoError || rows.size() < 2)
+        qFatal("%s is no table: %s", path, qPrintable(error.errorString()));
+
+    static std::list<QByteArray> known; // Qt keeps but the pointers
+    const QJsonArray names = rows.at(0).toArray();
+    for (int column = 0; column < names.size(); ++column) {
+        const QByteArray &name = known.emplace_back(names.at(column).toString().toUtf8());
+        const QJsonValue value = rows.at(1).toArray().at(column);
+        if (value.isArray())
+            QTest::addColumn<QStringList>(name.constData());
+        else if (value.isDouble())
+            QTest::addColumn<int>(name.constData());
+        else
+            QTest::addColumn<QString>(name.constData());
+    }
+    for (int i = 1; i < rows.size(); ++i) {
+        const QJsonArray row = rows.at(i).toArray();
+        if (row.size() != names.size())
+            qFatal("%s: row %d is not complete", path, i);
+        QTestData &data = QTest::newRow(qPrintable(row.at(0).toString()));
+        for (const auto &value : row) {
+            if (value.isArray())
+                data << value.toVariant().toStringList();
+            else if (value.isDouble())
+                data << value.toInt();
+            else
+                data << value.toString();
+        }
+    }
+}
