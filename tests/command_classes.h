@@ -17,6 +17,17 @@ namespace Commands {
 
 using namespace Zel;
 
+/// Number 0 stands for no icon.
+inline QIcon icon(const QString &number) {
+    const auto colored = [](Qt::GlobalColor color) {
+        QPixmap pixmap(4, 4);
+        pixmap.fill(color);
+        return QIcon(pixmap);
+    };
+    static const std::array icons{QIcon(), colored(Qt::red), colored(Qt::blue)};
+    return icons.at(std::size_t(number.toInt()));
+}
+
 /// A code that stands for a language or a purpose, as the commands ask for.
 struct Tag {
     QString code;
@@ -24,14 +35,33 @@ struct Tag {
     operator RobotLanguage() const { return RobotLanguage(ISOCode(code), NuanceCode()); }
 };
 
+/// A text that stands for a version or an icon where a command asks for such.
+struct Value {
+    QString text;
+    operator QString() const { return text; }
+    operator SoftwareVersion() const { return SoftwareVersionUtils::fromString(text); }
+    operator QIcon() const { return icon(text); }
+};
+
+/// Which text of the package.
+struct What {
+    int number = 0;
+    operator PackageStringCommand::WhatString() const {
+        return PackageStringCommand::WhatString(number);
+    }
+    operator PackageLocalizedStringCommand::WhatString() const {
+        return PackageLocalizedStringCommand::WhatString(number);
+    }
+};
+
 /// All that one command or another is made from.
 struct Arguments {
     PackageInfoModel *model = nullptr;
-    QString key;   ///< the behavior's path or the dialog's name
-    QString value; ///< a text, which may stand for a version or an icon
+    QString key; ///< the behavior's path or the dialog's name
+    Value value;
     Tag tag;
     int index = 0; ///< of an item
-    int what = 0;  ///< which text of the package
+    What what{};
     bool isAdd = true;
     bool isFinal = false;
 };
@@ -55,17 +85,6 @@ public:
     }
 };
 
-/// Number 0 stands for no icon.
-inline QIcon icon(const QString &number) {
-    const auto colored = [](Qt::GlobalColor color) {
-        QPixmap pixmap(4, 4);
-        pixmap.fill(color);
-        return QIcon(pixmap);
-    };
-    static const std::array icons{QIcon(), colored(Qt::red), colored(Qt::blue)};
-    return icons.at(std::size_t(number.toInt()));
-}
-
 template<typename Command, auto... arguments>
 QUndoCommand *make(const Arguments &a) {
     return new Command((a.*arguments)...);
@@ -79,35 +98,24 @@ QUndoCommand *addOrRemove(const Arguments &a) {
 }
 
 inline const std::vector<CommandClass> &commandClasses() {
-    using A = const Arguments &;
     constexpr auto model = &Arguments::model;
     constexpr auto key = &Arguments::key;
     constexpr auto value = &Arguments::value;
     constexpr auto tag = &Arguments::tag;
     constexpr auto index = &Arguments::index;
+    constexpr auto what = &Arguments::what;
     constexpr auto isAdd = &Arguments::isAdd;
     constexpr auto isFinal = &Arguments::isFinal;
     static const std::vector<CommandClass> classes{
         {"PackageGenericValueCommand<QIcon>", -1, "",
-         [](A a) -> QUndoCommand * {
-             return new PackageGenericValueCommand<QIcon>(a.model, icon(a.value));
-         }},
+         make<PackageGenericValueCommand<QIcon>, model, value>},
         {"PackageGenericValueCommand<SoftwareVersion>", -1, "",
-         [](A a) -> QUndoCommand * {
-             return new PackageGenericValueCommand<SoftwareVersion>(
-                 a.model, SoftwareVersionUtils::fromString(a.value));
-         }},
+         make<PackageGenericValueCommand<SoftwareVersion>, model, value>},
         {"PackageLanguageCommand", -1, "", make<SwitchLanguage, model, tag>},
         {"PackageStringCommand", 42, "model what",
-         [](A a) -> QUndoCommand * {
-             const auto what = PackageStringCommand::WhatString(a.what);
-             return new PackageStringCommand(a.model, a.value, what, a.isFinal);
-         }},
+         make<PackageStringCommand, model, value, what, isFinal>},
         {"PackageLocalizedStringCommand", 42, "model what tag",
-         [](A a) -> QUndoCommand * {
-             const auto what = PackageLocalizedStringCommand::WhatString(a.what);
-             return new PackageLocalizedStringCommand(a.model, a.value, what, a.tag, a.isFinal);
-         }},
+         make<PackageLocalizedStringCommand, model, value, what, tag, isFinal>},
         {"BehaviorSwitchUserRequestableCommand", -1, "",
          make<BehaviorSwitchUserRequestableCommand, model, key>},
         {"BehaviorAddRemovePermissionCommand", -1, "",

@@ -134,8 +134,7 @@ void TestCommands::init() {
     m_log->watch(*m_package);
     m_log->watch(*m_behavior, text("b"));
     m_log->watch(*m_dialog, text("d"));
-    m_arguments = {m_package.get(), text("tea"), text("2"), {text("fr_FR")}};
-    m_arguments.index = 1;
+    m_arguments = {m_package.get(), text("tea"), {text("2")}, {text("fr_FR")}, 1};
 }
 
 // One row a class and variant: what is translated, the text (brackets mark what was translated),
@@ -144,7 +143,7 @@ void TestCommands::steps() {
     QFETCH(QString, command);
     const QString className = command.section(u' ', 0, 0);
     const QString variant = command.section(u' ', 1);
-    m_arguments.what = variant.toInt();
+    m_arguments.what = {variant.toInt()};
     m_arguments.isAdd = variant != QLatin1String("removing");
     if (!m_arguments.isAdd)
         m_behavior->addPermission(m_arguments.value);
@@ -251,10 +250,10 @@ void TestCommands::mergesByField() {
     const std::map<QString, std::function<void()>> differences{
         {text("model"), [&] { b.model = &otherPackage; }},
         {text("key"), [&] { b.key = text("Tea"); }},
-        {text("value"), [&] { b.value = text("3"); }},
+        {text("value"), [&] { b.value = {text("3")}; }},
         {text("tag"), [&] { b.tag = {text("fr_CA")}; }},
         {text("index"), [&] { b.index = 0; }},
-        {text("what"), [&] { b.what = 1; }},
+        {text("what"), [&] { b.what = {1}; }},
         {text("olderIsFinal"), [&] { a.isFinal = true; }},
         {text("newerIsFinal"), [&] { b.isFinal = true; }}};
     differences.at(differing)();
@@ -303,7 +302,7 @@ void TestCommands::mergesWithEditorClasses() {
 
 // A lone surrogate is no text that a record can hold; the entry is found again all the same.
 void TestCommands::renamedToWhatCannotBeHeld() {
-    m_arguments.value = QString(QChar(0xD800));
+    m_arguments.value = {QString(QChar(0xD800))};
     for (const char *className : {"BehaviorPathCommand", "DialogInfoModelNameCommand"}) {
         const auto command = made(text(className), m_arguments);
         command->redo();
@@ -315,7 +314,7 @@ void TestCommands::renamedToWhatCannotBeHeld() {
 
 void TestCommands::topicTextOfARun() {
     const auto older = made(text("DialogInfoModelTopicCommand"), m_arguments);
-    m_arguments.value = text("two");
+    m_arguments.value = {text("two")};
     QVERIFY(older->mergeWith(made(text("DialogInfoModelTopicCommand"), m_arguments).get()));
     QCOMPARE(older->text(), text("Set topic path from t_fr to two (fr_FR)"));
 }
@@ -410,7 +409,7 @@ void TestCommands::listsByHand() {
 void TestCommands::selectorsOutsideTheTable() {
     const Tano::PackageInfo before = m_package->packageInfo();
     for (const int what : {-1, 8}) {
-        m_arguments.what = what;
+        m_arguments.what = {what};
         const auto plain = made(text("PackageStringCommand"), m_arguments);
         QCOMPARE(plain->text(), text("Set application's "));
         const auto localized = made(text("PackageLocalizedStringCommand"), m_arguments);
