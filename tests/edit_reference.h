@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
+#include "table_file.h"
+
+#include <QMap>
 
 #include <algorithm>
-#include <array>
-#include <map>
 #include <tuple>
 #include <vector>
 
@@ -13,131 +12,95 @@
 /// no notifications but a list of what would be told, no records, no caches, no sharing.
 namespace Reference {
 
-using Texts = std::map<QString, QString>;
-using Lists = std::map<QString, QStringList>;
-
 /// The notifications, as SignalLog prints them.
 using Told = QStringList;
 
-inline QString quoted(const QString &text) {
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
+/// A package, behavior or dialog: what it holds by the name of the field, which is "names[en_US]"
+/// for what has one value a language. A behavior's path and a dialog's name are its "key".
+struct Entity {
+    QString label; ///< stands before its notifications, and tells those that share a key apart
+    QMap<QString, QString> texts{};
+    QMap<QString, QStringList> lists{};
 
-inline QString call(const QString &name, const QStringList &arguments) {
-    return name + QLatin1Char('(') + arguments.join(QLatin1String(", ")) + QLatin1Char(')');
-}
-
-/// What stands before the notifications of a child.
-inline QString prefix(char letter, int id) {
-    return QLatin1Char(letter) + QString::number(id) + QLatin1Char('.');
-}
-
-struct Behavior {
-    int id = 0; ///< tells those that share a path apart
-    QString path;
-    QString nature;
-    QString isUserRequestable = QStringLiteral("false");
-    Texts names;
-    Texts descriptions;
-    QStringList permissions;
-    std::array<Lists, 4> lists; ///< tags, trigger sentences, loading responses, conditions
+    void setList(const QString &field, const QStringList &list) {
+        if (list.isEmpty())
+            lists.remove(field);
+        else
+            lists.insert(field, list);
+    }
 };
 
-struct Dialog {
-    int id = 0;
-    QString name;
-    QString typeVersion;
-    Texts topics;
-};
+inline bool operator==(const Entity &a, const Entity &b) {
+    return std::tie(a.label, a.texts, a.lists) == std::tie(b.label, b.texts, b.lists);
+}
 
 struct Package {
-    std::array<QString, 8> texts;
-    Texts names;
-    Texts descriptions;
-    QString version = QStringLiteral("0.0.0");
-    QString icon = QStringLiteral("0");
-    QStringList supported;
-    QStringList described;
-    std::vector<Behavior> behaviors;
-    std::vector<Dialog> dialogs;
+    Entity own{};
+    std::vector<Entity> behaviors{};
+    std::vector<Entity> dialogs{};
 };
-
-inline bool operator==(const Behavior &a, const Behavior &b) {
-    return std::tie(a.id, a.path, a.nature, a.isUserRequestable, a.names, a.descriptions,
-                    a.permissions, a.lists) == std::tie(b.id, b.path, b.nature, b.isUserRequestable,
-                                                        b.names, b.descriptions, b.permissions,
-                                                        b.lists);
-}
-
-inline bool operator==(const Dialog &a, const Dialog &b) {
-    return std::tie(a.id, a.name, a.typeVersion, a.topics) ==
-           std::tie(b.id, b.name, b.typeVersion, b.topics);
-}
 
 inline bool operator==(const Package &a, const Package &b) {
-    return std::tie(a.texts, a.names, a.descriptions, a.version, a.icon, a.supported, a.described,
-                    a.behaviors, a.dialogs) == std::tie(b.texts, b.names, b.descriptions, b.version,
-                                                        b.icon, b.supported, b.described,
-                                                        b.behaviors, b.dialogs);
+    return std::tie(a.own, a.behaviors, a.dialogs) == std::tie(b.own, b.behaviors, b.dialogs);
 }
 
-inline Behavior *behaviorAt(Package &package, const QString &path) {
-    for (Behavior &behavior : package.behaviors) {
-        if (behavior.path == path)
-            return &behavior;
-    }
-    return nullptr;
+inline Entity *entityAt(std::vector<Entity> &entities, const QString &key) {
+    const auto found = std::find_if(entities.begin(), entities.end(), [&](const Entity &entity) {
+        return entity.texts.value(QStringLiteral("key")) == key;
+    });
+    return found == entities.end() ? nullptr : &*found;
 }
 
-inline Dialog *dialogAt(Package &package, const QString &name) {
-    for (Dialog &dialog : package.dialogs) {
-        if (dialog.name == name)
-            return &dialog;
-    }
-    return nullptr;
-}
-
-inline QString valueIn(const Texts &texts, const QString &key) {
-    const auto found = texts.find(key);
-    return found == texts.end() ? QString() : found->second;
-}
-
-inline QStringList listIn(const Lists &lists, const QString &key) {
-    const auto found = lists.find(key);
-    return found == lists.end() ? QStringList() : found->second;
-}
-
-/// What a command does.
-enum class Kind {
-    PlainText,
-    LocalizedText,
-    Version,
-    Icon,
-    Language,
-    Path,
-    Nature,
-    Name,
-    Description,
-    SetItem,
-    AddRemoveItem,
-    Requestable,
-    Permission,
-    TopicName,
-    TypeVersion,
-    Topic,
-    RemoveTopic,
-    Count
+/// What a command does with its field.
+enum class Does {
+    Write,   ///< one of a run that is merged
+    SetItem, ///< that too
+    Set,     ///< by itself, as all the others
+    AddOrRemoveItem,
+    AddOrRemovePermission,
+    SwitchLanguage,
+    RemoveTopic
 };
 
-/// What a command is made from, and what it remembers. What does not matter to a kind is left as it
-/// is here.
+/// One kind of command.
+struct Kind {
+    QString className;
+    int what;
+    Does does;
+    QString field;
+    QStringList told; ///< the notifications, with INDEX, VALUE and TAG in them
+    QStringList values;
+    QStringList tags;    ///< languages or purposes
+    QStringList lasting; ///< why undoing right after doing may not restore the package
+};
+
+inline std::vector<Kind> readKinds() {
+    const QStringList does = QStringLiteral("write setItem set addOrRemoveItem "
+                                            "addOrRemovePermission switchLanguage removeTopic")
+                                 .split(u' ');
+    QJsonArray rows = tableIn("commands/kinds.json");
+    rows.removeFirst();
+    std::vector<Kind> kinds;
+    for (const auto &row : std::as_const(rows)) {
+        const auto words = [&](int column) { return row[column].toVariant().toStringList(); };
+        kinds.push_back({row[0].toString(), row[1].toInt(), Does(does.indexOf(row[2].toString())),
+                         row[3].toString(), words(4), words(5), words(6), words(7)});
+    }
+    return kinds;
+}
+
+inline const std::vector<Kind> &kinds() {
+    static const std::vector<Kind> all = readKinds();
+    return all;
+}
+
+/// What a command is made from, and what it remembers.
 struct Command {
-    Kind kind = Kind::PlainText;
-    QString key{};   ///< the behavior's path or the dialog's name
-    QString value{}; ///< text, version, permission, flag, or number of the icon
-    QString tag{};   ///< language or purpose
-    int which = 0;   ///< the text of the package, or the list
-    int index = 0;   ///< of an item
+    const Kind *kind = nullptr;
+    QString key{};
+    QString value{};
+    QString tag{};
+    int index = 0;
     bool isAdd = true;
     bool isFinal = false;
 
@@ -145,290 +108,141 @@ struct Command {
     QString madeFor{};
     bool hasSucceeded = true;
 
-    bool isOnPackage() const { return kind <= Kind::Language; }
-    bool isOnDialog() const { return kind >= Kind::TopicName; }
-    bool isRename() const { return kind == Kind::Path || kind == Kind::TopicName; }
-    bool isMergeable() const {
-        constexpr std::array others{Kind::Version,       Kind::Icon,        Kind::Language,
-                                    Kind::AddRemoveItem, Kind::Requestable, Kind::Permission,
-                                    Kind::RemoveTopic};
-        return std::find(others.begin(), others.end(), kind) == others.end();
+    bool isOnPackage() const { return kind->className.startsWith(u'P'); }
+    bool isOnBehavior() const { return kind->className.startsWith(u'B'); }
+    bool does(Does what) const { return kind->does == what; }
+    bool isField(const char *name) const { return kind->field == QLatin1String(name); }
+    bool isMergeable() const { return does(Does::Write) || does(Does::SetItem); }
+    QString field() const {
+        return kind->tags.isEmpty() ? kind->field : QString(kind->field + u'[' + tag + u']');
     }
-    QString shownTag() const { return which == 3 ? quoted(tag) : tag; }
+    Entity *ownerIn(Package &package) const {
+        if (isOnPackage())
+            return &package.own;
+        return entityAt(isOnBehavior() ? package.behaviors : package.dialogs, key);
+    }
+    Told toldBy(const Entity &owner, const QString &shown, int which = 0) const {
+        QString told = kind->told.at(which);
+        told.replace(QLatin1String("INDEX"), QString::number(index));
+        told.replace(QLatin1String("TAG"), tag);
+        return {owner.label + told.replace(QLatin1String("VALUE"), shown)};
+    }
 };
 
-template<typename Value>
-Told write(Value &field, const Value &value, const QString &notification) {
-    if (field == value)
+inline Told write(Entity &owner, Command &command, const QString &value) {
+    const QString field = command.field();
+    if (owner.texts.value(field) == value && !command.isField("version")) // which is told always
         return {};
-    field = value;
-    return {notification};
+    owner.texts[field] = value;
+    if (command.isField("key"))
+        command.key = value;
+    return command.toldBy(owner, value);
 }
 
-inline Told writeIn(Texts &texts, const QString &key, const QString &value,
-                    const QString &notification) {
-    if (valueIn(texts, key) == value)
+inline Told setItem(Entity &owner, const Command &command, const QString &value) {
+    QStringList list = owner.lists.value(command.field());
+    if (command.index >= list.size())
         return {};
-    texts[key] = value;
-    return {notification};
+    list[command.index] = value;
+    owner.setList(command.field(), list);
+    return command.toldBy(owner, value);
 }
 
-inline QString itemCall(const Behavior &behavior, const Command &command, const char *what,
-                        const QStringList &arguments) {
-    constexpr std::array names{"tag", "triggerSentence", "loadingResponse", "condition"};
-    return call(prefix('b', behavior.id) + QLatin1String(names.at(std::size_t(command.which))) +
-                    QLatin1String(what),
-                arguments);
-}
-
-inline Told stepItem(Behavior *behavior, Command &command, bool isAdd) {
+inline Told addOrRemoveItem(Entity *owner, Command &command, bool isAdd) {
     if (!command.hasSucceeded)
         return {};
-    const auto which = std::size_t(command.which);
-    QStringList list = behavior ? listIn(behavior->lists.at(which), command.tag) : QStringList();
+    QStringList list = owner ? owner->lists.value(command.field()) : QStringList();
     const bool isInside = command.index >= 0 && command.index < list.size();
-    command.hasSucceeded = behavior && (isAdd ? !list.contains(command.value) : isInside);
+    command.hasSucceeded = owner && (isAdd ? !list.contains(command.value) : isInside);
     if (!command.hasSucceeded)
         return {};
-    const QString index = QString::number(command.index);
-    Told told;
-    if (!isAdd) {
+    if (!isAdd)
         command.value = list.takeAt(command.index);
-        told += itemCall(*behavior, command, "Removed", {index, command.shownTag()});
-    } else if (isInside) {
-        list.insert(command.index, command.value);
-        told += itemCall(*behavior, command, "Inserted",
-                         {quoted(command.value), command.shownTag(), index});
-    } else {
+    else if (!isInside)
         command.index = int(list.size());
-        list.append(command.value);
-        told += itemCall(*behavior, command, "Added", {quoted(command.value), command.shownTag()});
-    }
-    behavior->lists.at(which)[command.tag] = list;
-    if (list.isEmpty())
-        behavior->lists.at(which).erase(command.tag);
-    return told;
+    if (isAdd)
+        list.insert(command.index, command.value);
+    owner->setList(command.field(), list);
+    const int insertedOrAdded = isInside ? 1 : 0;
+    return command.toldBy(*owner, command.value, isAdd ? insertedOrAdded : 2);
 }
 
-inline Told setItem(Behavior &behavior, const Command &command, const QString &value) {
-    Lists &lists = behavior.lists.at(std::size_t(command.which));
-    if (command.index >= listIn(lists, command.tag).size())
-        return {};
-    lists[command.tag][command.index] = value;
-    return {itemCall(behavior, command, "Updated",
-                     {QString::number(command.index), quoted(value), command.shownTag()})};
-}
-
-inline Told stepPermission(Behavior &behavior, const QString &permission, bool isAdd) {
-    if (behavior.permissions.contains(permission) == isAdd)
+inline Told addOrRemovePermission(Entity &owner, const Command &command, bool isAdd) {
+    QStringList list = owner.lists.value(command.field());
+    if (list.contains(command.value) == isAdd)
         return {};
     if (isAdd)
-        behavior.permissions.append(permission);
+        list.append(command.value);
     else
-        behavior.permissions.removeOne(permission);
-    return {call(prefix('b', behavior.id) +
-                     QLatin1String(isAdd ? "permissionAdded" : "permissionRemoved"),
-                 {quoted(permission)})};
+        list.removeOne(command.value);
+    owner.setList(command.field(), list);
+    return command.toldBy(owner, command.value, isAdd ? 0 : 1);
 }
 
-inline Told removeTopic(Dialog &dialog, const QString &language) {
-    if (dialog.topics.erase(language) == 0)
+inline Told removeTopic(Entity &dialog, const QString &language) {
+    if (dialog.texts.remove(QStringLiteral("topics[%1]").arg(language)) == 0)
         return {};
-    return {call(prefix('d', dialog.id) + QLatin1String("topicRemoved"), {language})};
+    return {dialog.label + QStringLiteral("topicRemoved(%1)").arg(language)};
 }
 
 inline Told switchLanguage(Package &package, const QString &language) {
+    const QString supported = QStringLiteral("supportedLanguages");
+    const QString described = QStringLiteral("descriptionLanguages");
+    QStringList list = package.own.lists.value(supported);
     Told told;
-    if (package.supported.removeOne(language)) {
-        for (Dialog &dialog : package.dialogs)
+    if (list.removeOne(language)) {
+        for (Entity &dialog : package.dialogs)
             told += removeTopic(dialog, language);
-        return told << call(QStringLiteral("languageRemoved"), {language});
+        package.own.setList(supported, list);
+        return told << QStringLiteral("languageRemoved(%1)").arg(language);
     }
-    package.supported += language;
-    told += call(QStringLiteral("languageAdded"), {language});
-    if (!package.described.contains(language)) {
-        package.described += language;
-        told += call(QStringLiteral("descriptionAdded"), {language});
+    package.own.lists[supported] += language;
+    told += QStringLiteral("languageAdded(%1)").arg(language);
+    if (!package.own.lists.value(described).contains(language)) {
+        package.own.lists[described] += language;
+        told += QStringLiteral("descriptionAdded(%1)").arg(language);
     }
     return told;
 }
 
-inline Told stepPackage(Package &package, const Command &command, const QString &value) {
-    constexpr std::array texts{"installerUpdated", "uidUpdated",          "typeVersionUpdated",
-                               "authorUpdated",    "organizationUpdated", "dateUpdated",
-                               "channelUpdated",   "pathUpdated"};
-    constexpr std::array localizedTexts{"nameUpdated", "descriptionUpdated"};
-    const auto which = std::size_t(command.which);
-    switch (command.kind) {
-    case Kind::PlainText:
-        return write(package.texts.at(which), value,
-                     call(QLatin1String(texts.at(which)), {quoted(value)}));
-    case Kind::LocalizedText:
-        return writeIn(which == 0 ? package.names : package.descriptions, command.tag, value,
-                       call(QLatin1String(localizedTexts.at(which)), {quoted(value), command.tag}));
-    case Kind::Version:
-        package.version = value;
-        return {call(QStringLiteral("versionUpdated"), {value})};
-    case Kind::Icon:
-        return write(package.icon, value,
-                     call(QStringLiteral("iconUpdated"), {QStringLiteral("icon")}));
-    default:
-        return switchLanguage(package, command.tag);
-    }
-}
-
-inline Told stepBehavior(Behavior &behavior, Command &command, const QString &value, bool isUndo) {
-    const auto notification = [&](const char *name, const QStringList &arguments) {
-        return call(prefix('b', behavior.id) + QLatin1String(name), arguments);
-    };
-    switch (command.kind) {
-    case Kind::Path:
-        command.key = value;
-        return write(behavior.path, value, notification("pathUpdated", {quoted(value)}));
-    case Kind::Nature:
-        return write(behavior.nature, value, notification("natureUpdated", {quoted(value)}));
-    case Kind::Name:
-        return writeIn(behavior.names, command.tag, value,
-                       notification("behaviorNameUpdated", {quoted(value), command.tag}));
-    case Kind::Description:
-        return writeIn(behavior.descriptions, command.tag, value,
-                       notification("behaviorDescriptionUpdated", {quoted(value), command.tag}));
-    case Kind::SetItem:
-        return setItem(behavior, command, value);
-    case Kind::Requestable:
-        return write(behavior.isUserRequestable, value,
-                     notification("userRequestableChanged", {value}));
-    default:
-        return stepPermission(behavior, command.value, command.isAdd != isUndo);
-    }
-}
-
-inline Told stepDialog(Dialog &dialog, Command &command, const QString &value, bool isUndo) {
-    const QString id = prefix('d', dialog.id);
-    switch (command.kind) {
-    case Kind::TopicName:
-        command.key = value;
-        return write(dialog.name, value, call(id + QLatin1String("nameChanged"), {quoted(value)}));
-    case Kind::TypeVersion:
-        return write(dialog.typeVersion, value,
-                     call(id + QLatin1String("typeVersionChanged"), {quoted(value)}));
-    case Kind::RemoveTopic:
-        if (!isUndo)
-            return removeTopic(dialog, command.tag);
-        [[fallthrough]];
-    default:
-        return writeIn(dialog.topics, command.tag, value,
-                       call(id + QLatin1String("topicChanged"), {command.tag, quoted(value)}));
-    }
-}
-
 inline Told step(Package &package, Command &command, bool isUndo) {
-    const QString &value = isUndo ? command.old : command.value;
-    if (command.isOnPackage())
-        return stepPackage(package, command, value);
-    if (command.isOnDialog()) {
-        Dialog *dialog = dialogAt(package, command.key);
-        return dialog ? stepDialog(*dialog, command, value, isUndo) : Told();
-    }
-    Behavior *behavior = behaviorAt(package, command.key);
-    if (command.kind == Kind::AddRemoveItem)
-        return stepItem(behavior, command, command.isAdd != isUndo);
-    return behavior ? stepBehavior(*behavior, command, value, isUndo) : Told();
-}
-
-inline QString oldValue(Package &package, const Command &command) {
-    const auto which = std::size_t(command.which);
-    const Behavior *behavior = behaviorAt(package, command.key);
-    const Dialog *dialog = dialogAt(package, command.key);
-    switch (command.kind) {
-    case Kind::PlainText:
-        return package.texts.at(which);
-    case Kind::LocalizedText:
-        return valueIn(which == 0 ? package.names : package.descriptions, command.tag);
-    case Kind::Version:
-        return package.version;
-    case Kind::Icon:
-        return package.icon;
-    case Kind::Path:
-        return command.key;
-    case Kind::Nature:
-        return behavior ? behavior->nature : QString();
-    case Kind::Name:
-        return behavior ? valueIn(behavior->names, command.tag) : QString();
-    case Kind::Description:
-        return behavior ? valueIn(behavior->descriptions, command.tag) : QString();
-    case Kind::SetItem:
-        return behavior ? listIn(behavior->lists.at(which), command.tag).value(command.index)
-                        : QString();
-    case Kind::Requestable:
-        return behavior ? behavior->isUserRequestable : QStringLiteral("false");
-    case Kind::TopicName:
-        return dialog ? dialog->name : QString();
-    case Kind::TypeVersion:
-        return dialog ? dialog->typeVersion : QString();
-    case Kind::Topic:
-    case Kind::RemoveTopic:
-        return dialog ? valueIn(dialog->topics, command.tag) : QString();
-    default:
+    Entity *owner = command.ownerIn(package);
+    const bool isAdd = command.isAdd != isUndo;
+    if (command.does(Does::AddOrRemoveItem))
+        return addOrRemoveItem(owner, command, isAdd);
+    if (!owner)
         return {};
+    const QString &value = isUndo ? command.old : command.value;
+    switch (command.kind->does) {
+    case Does::SetItem:
+        return setItem(*owner, command, value);
+    case Does::AddOrRemovePermission:
+        return addOrRemovePermission(*owner, command, isAdd);
+    case Does::SwitchLanguage:
+        return switchLanguage(package, command.tag);
+    case Does::RemoveTopic:
+        return isUndo ? write(*owner, command, value) : removeTopic(*owner, command.tag);
+    default:
+        return write(*owner, command, value);
     }
 }
 
 /// Fills in what a command remembers when it is made.
 inline Command made(Package &package, Command command) {
+    const Entity *owner = command.ownerIn(package);
     command.madeFor = command.key;
-    command.old = oldValue(package, command);
-    if (command.kind == Kind::Requestable)
-        command.value =
-            command.old == QLatin1String("true") ? QStringLiteral("false") : QStringLiteral("true");
+    if (command.does(Does::SetItem))
+        command.old = owner ? owner->lists.value(command.field()).value(command.index) : QString();
+    else
+        command.old = owner ? owner->texts.value(command.field()) : QString();
+    if (command.isField("key") && command.isOnBehavior())
+        command.old = command.key; // also when the behavior is not there
+    if (command.isField("userRequestable")) {
+        const bool wasSet = command.old == QLatin1String("true");
+        command.old = wasSet ? QStringLiteral("true") : QStringLiteral("false");
+        command.value = wasSet ? QStringLiteral("false") : QStringLiteral("true");
+    }
     return command;
-}
-
-/// Why undoing the command right after it is done does not restore the package; null when it does.
-inline const char *whyNotUndone(const Package &before, const Command &command) {
-    Package package = before;
-    const auto *behavior = behaviorAt(package, command.key);
-    switch (command.kind) {
-    case Kind::Path: {
-        const auto *other = behaviorAt(package, command.value);
-        return behavior && other && other < behavior ? "another has the path already" : nullptr;
-    }
-    case Kind::TopicName: {
-        const auto *dialog = dialogAt(package, command.key);
-        const auto *other = dialogAt(package, command.value);
-        return dialog && other && other < dialog ? "another has the name already" : nullptr;
-    }
-    case Kind::AddRemoveItem: {
-        const auto list = behavior
-                              ? listIn(behavior->lists.at(std::size_t(command.which)), command.tag)
-                              : QStringList();
-        const bool isThere = command.index >= 0 && command.index < list.size();
-        return !command.isAdd && isThere && list.count(list.at(command.index)) > 1
-                   ? "a list does not take an item back that it has once more"
-                   : nullptr;
-    }
-    case Kind::Permission:
-        if (!behavior)
-            return nullptr;
-        if (behavior->permissions.contains(command.value) == command.isAdd)
-            return "undoing does the opposite of what was not done";
-        return command.isAdd || behavior->permissions.constLast() == command.value
-                   ? nullptr
-                   : "a permission comes back at the end";
-    case Kind::Language: {
-        const bool isLast = package.supported.endsWith(command.tag);
-        const bool hasTopics =
-            std::any_of(package.dialogs.begin(), package.dialogs.end(), [&](const Dialog &dialog) {
-                return !valueIn(dialog.topics, command.tag).isEmpty();
-            });
-        const bool isAdded = !package.supported.contains(command.tag);
-        const bool isRestored =
-            !hasTopics && (isAdded ? package.described.contains(command.tag) : isLast);
-        return isRestored ? nullptr : "switching a language has effects beyond the list's end";
-    }
-    default:
-        return nullptr;
-    }
 }
 
 /// The package and its undo stack.
@@ -461,11 +275,9 @@ public:
 
 private:
     static bool merge(Command &older, const Command &newer) {
-        const auto place = [](const Command &command, const QString &key) {
-            return std::make_tuple(command.kind, key, command.tag, command.which, command.index);
-        };
         if (!older.isMergeable() || older.isFinal ||
-            place(older, older.key) != place(newer, newer.madeFor))
+            std::tie(older.kind, older.key, older.tag, older.index) !=
+                std::tie(newer.kind, newer.madeFor, newer.tag, newer.index))
             return false;
         older.value = newer.value;
         older.isFinal = newer.isFinal;
