@@ -151,7 +151,7 @@ void editAtRandom(PackageInfoModel &package, PackageInfoValidator &validator) {
     const auto brio = [&] { return BrioRequirement{version(), version()}; };
     const auto behaviors = package.behaviors();
     BehaviorInfoModel *behavior =
-        behaviors.isEmpty() ? nullptr : behaviors.at(any(behaviors.size()));
+        behaviors.isEmpty() ? nullptr : behaviors.at(any(int(behaviors.size())));
 
     switch (any(17)) {
     case 0:
@@ -243,7 +243,7 @@ void expectIssuesAsMessages(const PackageInfoModel &package) {
     const auto issues = PackageModel::issues(&package);
     for (const auto &issue : issues) {
         const auto kind = std::size_t(issue.severity);
-        const int colon = issue.text.lastIndexOf(text(" for: "));
+        const auto colon = issue.text.lastIndexOf(text(" for: "));
         const QString beginning = colon < 0 ? QString() : issue.text.left(colon);
         const QString language = issue.text.mid(colon + 6);
         if (colon >= 0 && last.at(kind) == beginning && !told.at(kind).isEmpty())
