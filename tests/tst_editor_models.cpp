@@ -112,7 +112,9 @@ class TestEditorModels : public QObject {
 private Q_SLOTS:
     void edit_data() {
         QTest::addColumn<MakeEdit>("make");
-        const auto row = [](const char *name, MakeEdit make) { QTest::newRow(name) << make; };
+        const auto row = [](const char *name, const MakeEdit &make) {
+            QTest::newRow(name) << make;
+        };
         const auto language = [](const char *code) { return languageOf(QLatin1String(code)); };
 
         row("add language", [=](PackageInfoModel *p) {

@@ -500,6 +500,7 @@ private Q_SLOTS:
             if (menu->title() == QLatin1String("Open &Recent"))
                 recent = menu;
         }
+        QVERIFY(recent);
         Q_EMIT recent->aboutToShow();
         recent->actions().at(1)->trigger();
         QCOMPARE(m_window->document().fileName(), first);
