@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QString>
@@ -34,13 +35,6 @@ inline QString testData(const char *path) {
     return QStringLiteral(ZEL_TEST_DATA "/") % QLatin1String(path);
 }
 
-inline QByteArray lines(const QList<QByteArray> &all) {
-    QByteArray text;
-    for (const QByteArray &line : all)
-        text += line + '\n';
-    return text;
-}
-
 inline Outcome finished(QProcess &process, const QByteArray &input = {}) {
     process.write(input);
     process.closeWriteChannel();
@@ -51,24 +45,40 @@ inline Outcome finished(QProcess &process, const QByteArray &input = {}) {
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-/// Runs the program in a directory. What it prints goes to `output` where that is given.
+/// Runs the program in a directory.
 inline Outcome runProgram(const QStringList &arguments, const QString &directory,
-                          const QByteArray &input = {}, const QString &output = {}) {
+                          const QByteArray &input = {}) {
     QProcess process;
     process.setWorkingDirectory(directory);
-    if (!output.isEmpty())
-        process.setStandardOutputFile(output);
     process.start(QStringLiteral(ZEL_PACKAGE_PROGRAM), arguments);
     return finished(process, input);
 }
 
-/// Runs a script to which the program is $0.
-inline Outcome runProgramInShell(const QByteArray &script, const QString &directory) {
+/// Runs a line of a shell, which finds the program on its PATH, the manifests for it in $FILES, and
+/// $DATA, $SOURCE and $XMLLINT.
+inline Outcome runShell(const QString &line, const QString &directory) {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString programs = QFileInfo(QStringLiteral(ZEL_PACKAGE_PROGRAM)).path();
+    environment.insert(QStringLiteral("PATH"),
+                       programs % u':' % environment.value(QStringLiteral("PATH")));
+    environment.insert(QStringLiteral("FILES"), testData("zel-package/files"));
+    environment.insert(QStringLiteral("DATA"), QStringLiteral(ZEL_TEST_DATA));
+    environment.insert(QStringLiteral("SOURCE"), QStringLiteral(ZEL_SOURCE_DIR));
+    environment.insert(QStringLiteral("XMLLINT"), QStringLiteral(ZEL_XMLLINT));
+    process.setProcessEnvironment(environment);
     process.setWorkingDirectory(directory);
-    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromUtf8(script),
-                                         QStringLiteral(ZEL_PACKAGE_PROGRAM)});
+    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), line});
     return finished(process);
+}
+
+/// Empties the directory but for copies of the manifests for the program.
+inline void resetFiles(const QString &directory) {
+    if (!QDir(directory).removeRecursively() || !QDir().mkpath(directory))
+        qFatal("cannot empty %s", qPrintable(directory));
+    const auto files = QDir(testData("zel-package/files")).entryInfoList(QDir::Files);
+    for (const QFileInfo &file : files)
+        QFile::copy(file.filePath(), QDir(directory).filePath(file.fileName()));
 }
 
 /// What the program writes to a terminal of 120 columns: its standard output, and the messages too

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTranslator>
+#include <QUndoStack>
 
 using namespace Zel;
 using Commands::commandClass;
@@ -105,6 +106,7 @@ private Q_SLOTS:
     void mergesByField_data();
     void mergesByField();
     void mergesWithEditorClasses();
+    void runsOfRenames();
     void renamedToWhatCannotBeHeld();
     void topicTextOfARun();
     void argumentsInTexts();
@@ -298,6 +300,32 @@ void TestCommands::mergesWithEditorClasses() {
     QVERIFY(name.mergeWith(&editorName));
     DialogInfoModelTypeVersionCommand typeVersion(package, path, text("x"), false);
     QVERIFY(!typeVersion.mergeWith(&editorName));
+}
+
+// A run keeps to its entry; renaming something else to the same name is no part of it.
+void TestCommands::runsOfRenames() {
+    m_package->addBehavior(text("other"));
+    m_package->addDialog(text("other"));
+    for (const char *className : {"BehaviorPathCommand", "DialogInfoModelNameCommand"}) {
+        QUndoStack stack;
+        const auto rename = [&](const char *from, const char *to) {
+            m_arguments.key = text(from);
+            m_arguments.value = {text(to)};
+            stack.push(made(text(className), m_arguments).release());
+        };
+        rename("tea", "milk");
+        rename("milk", "rum");
+        QCOMPARE(stack.count(), 1);
+        taken();
+        stack.undo();
+        stack.redo();
+        const QString told = taken().join(u' ');
+        QVERIFY2(told.contains(
+                     QRegularExpression(text(R"((pathUpdated|nameChanged)\("tea"\) .*"rum")"))),
+                 qPrintable(told));
+        rename("other", "rum");
+        QCOMPARE(stack.count(), 2);
+    }
 }
 
 // A lone surrogate is no text that a record can hold; the entry is found again all the same.
