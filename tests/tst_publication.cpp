@@ -1,87 +1,22 @@
 #include "signal_log.h"
-#include "text.h"
 #include "warning_guard.h"
 
 #include <packagemodel/package_scripts.h>
 
+#include <QFile>
 #include <QTest>
 
 using namespace Zel;
 
 namespace {
 
-// Supports English, French and a script variant, is also described in German, and holds texts in
-// Dutch, which it does not list.
-const QByteArray manifest = R"(<?xml version="1.0" encoding="UTF-8"?>
-<package format="1" uid="tea-time" version="1.0.0">
-  <supportedLanguage code="en_US"/>
-  <supportedLanguage code="fr_FR"/>
-  <supportedLanguage code="ja_JP-x-scrpol"/>
-  <descriptionLanguage code="de_DE"/>
-  <descriptionLanguage code="en_US"/>
-  <descriptionLanguage code="fr_FR"/>
-  <descriptionLanguage code="ja_JP-x-scrpol"/>
-  <texts language="de_DE">
-    <name>Tee</name>
-  </texts>
-  <texts language="en_US">
-    <name>Tea&lt;break/&gt;time</name>
-    <description>One &lt;p&gt;open</description>
-  </texts>
-  <texts language="ja_JP-x-scrpol">
-    <name>&lt;p&gt;</name>
-  </texts>
-  <texts language="nl_NL">
-    <!-- left over -->
-    <name>Thee</name>
-    <description>Zet thee.</description>
-  </texts>
-  <behavior path="pour">
-    <texts language="de_DE">
-      <description>&lt;s&gt;Gießt.&lt;/s&gt;</description>
-      <!-- kept -->
-      <triggerSentence>gieß</triggerSentence>
-    </texts>
-    <texts language="en_US">
-      <name>Pour &amp; drink</name>
-      <tag>&lt;p&gt;tea&lt;/p&gt;</tag>
-      <triggerSentence>&lt;item repeat="0-1"&gt;please&lt;/item&gt; pour</triggerSentence>
-      <triggerSentence>&lt;item repeat="-1"&gt;now&lt;/item&gt;</triggerSentence>
-      <loadingResponse>&lt;sub alias="x"&gt;1&lt;/sub&gt;.</loadingResponse>
-    </texts>
-    <texts language="ja_JP-x-scrpol">
-      <triggerSentence>&lt;s&gt;x&lt;/s&gt;</triggerSentence>
-    </texts>
-    <texts language="nl_NL" more="1">
-      <name>Schenk</name>
-      <tag>thee</tag>
-      <triggerSentence>schenk</triggerSentence>
-      <loadingResponse>even</loadingResponse>
-    </texts>
-  </behavior>
-  <behavior path="wait"/>
-</package>
-)";
+RobotLanguage language(const char *code) {
+    return robotLanguage(QString::fromUtf8(code));
+}
 
-constexpr auto trimmedTexts = R"(  <texts language="nl_NL">
-    <!-- left over -->
-    <name>Thee</name>
-    <description>Zet thee.</description>
-  </texts>
-)";
-constexpr auto trimmedOfPour = R"(    <texts language="nl_NL" more="1">
-      <name>Schenk</name>
-      <tag>thee</tag>
-      <triggerSentence>schenk</triggerSentence>
-      <loadingResponse>even</loadingResponse>
-    </texts>
-)";
-
-QByteArray trimmedManifest() {
-    return QByteArray(manifest)
-        .replace(trimmedTexts, "")
-        .replace(trimmedOfPour, "")
-        .replace("      <triggerSentence>gieß</triggerSentence>\n", "");
+QByteArray contentOf(const char *name) {
+    QFile file(QStringLiteral(ZEL_TEST_DATA "/publication/") % QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 std::vector<Tano::BehaviorInfo> recordsOf(const QVector<BehaviorInfoModel *> &behaviors) {
@@ -108,23 +43,22 @@ private:
     PackageInfoModel m_package;
 
 private Q_SLOTS:
-    void init() { QVERIFY(m_package.loadFromManifestContent(manifest)); }
-
-    void recordTrims() {
-        Tano::PackageInfo record;
-        QVERIFY(record.loadFromManifestContent(manifest.toStdString()));
-        record.trimExtraInfo();
-        QCOMPARE(QByteArray::fromStdString(record.saveToManifestContent()), trimmedManifest());
-    }
+    // It supports English, French and a script variant, is also described in German, and holds
+    // texts in Dutch, which it does not list.
+    void init() { QVERIFY(m_package.loadFromManifestContent(contentOf("source.xml"))); }
 
     void trims() {
-        BehaviorInfoModel *pour = m_package.behaviors().at(0);
-        SignalLog log;
-        log.watch(m_package);
-        log.watch(*pour);
+        Tano::PackageInfo record = m_package.packageInfo();
+        record.trimExtraInfo();
+        QCOMPARE(QByteArray::fromStdString(record.saveToManifestContent()),
+                 contentOf("trimmed.xml"));
+
+        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
+        SignalLog log(m_package);
+        log.watch(*m_package.behaviors().at(0));
         m_package.trimExtraInfo();
         QCOMPARE(log.take(), QStringList());
-        QCOMPARE(m_package.saveToManifestContent(), trimmedManifest());
+        QCOMPARE(m_package.saveToManifestContent(), contentOf("trimmed.xml"));
         QCOMPARE(printed(m_package.names()),
                  QStringLiteral("de_DE:Tee en_US:Tea<break/>time ja_JP-x-scrpol:<p>"));
         QCOMPARE(printed(m_package.descriptions()), QStringLiteral("en_US:One <p>open"));
@@ -229,22 +163,17 @@ private Q_SLOTS:
         QVERIFY(variant.isoCode().endsWith(PackageModel::k_sa.text()));
     }
 
-    void receiversMayRemoveBehaviors_data() {
-        QTest::addColumn<bool>("amidLists");
-        QTest::newRow("amid texts") << false;
-        QTest::newRow("amid lists") << true;
-    }
-
     void receiversMayRemoveBehaviors() {
-        QFETCH(bool, amidLists);
-        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
-        const auto remove = [this] { m_package.removeBehavior(QStringLiteral("pour")); };
-        if (amidLists)
-            connect(pour, &BehaviorInfoModel::triggerSentenceAdded, &m_package, remove);
-        else
-            connect(pour, &BehaviorInfoModel::behaviorDescriptionUpdated, &m_package, remove);
-        m_package.genPlainTextFromScript();
-        QCOMPARE(m_package.behaviors().size(), 1);
+        const auto publish = [](auto amid) {
+            PackageInfoModel package;
+            QVERIFY(package.loadFromManifestContent(contentOf("source.xml")));
+            connect(package.behaviors().at(0), amid, &package,
+                    [&] { package.removeBehavior(QStringLiteral("pour")); });
+            package.genPlainTextFromScript();
+            QCOMPARE(package.behaviors().size(), 1);
+        };
+        publish(&BehaviorInfoModel::triggerSentenceAdded);
+        publish(&BehaviorInfoModel::behaviorDescriptionUpdated);
     }
 
     void listsErrors() {
