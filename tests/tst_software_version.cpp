@@ -54,14 +54,14 @@ private Q_SLOTS:
         const SoftwareVersion original{2, 5, 7};
         SoftwareVersion copy = original;
         copy.setFieldsCount(2);
+        QCOMPARE(Utils::toString(copy), QStringLiteral("2.5"));
         QCOMPARE(Utils::toString(original), QStringLiteral("2.5.7"));
 
+        QCOMPARE(original.versionField(0), 2U);
         QCOMPARE(original.versionField(2), 7U);
         QCOMPARE(original.versionField(3), 0U);
         QCOMPARE(original.versionField(-1), 0U);
         QCOMPARE(SoftwareVersion().versionField(0), 0U);
-        const SoftwareVersion moved = std::move(copy);
-        QVERIFY((moved == SoftwareVersion{2, 5}));
     }
 };
 
