@@ -18,6 +18,16 @@ bool turns(std::set<Kind> &kinds, Kind kind, bool set) {
     return kinds.empty() != wasEmpty;
 }
 
+// Runs a check of the package that a message tells all about, and announces its outcome.
+void runCheck(PackageInfoValidator &validator, const PackageInfoModel *package,
+              bool (*check)(const PackageInfoModel *, QStringList &), PackageError error,
+              void (PackageInfoValidator::*announce)(bool) const) {
+    QStringList messages;
+    const bool isValid = check(package, messages);
+    validator.setPackageErrors(error, !isValid);
+    Q_EMIT(validator.*announce)(isValid);
+}
+
 } // namespace
 
 PackageInfoValidator::PackageInfoValidator(const PackageInfoModel *package, QObject *parent)
@@ -97,24 +107,20 @@ void PackageInfoValidator::setPackageWarnings(PackageWarning warning, bool set) 
 }
 
 void PackageInfoValidator::validateUID() {
-    QStringList messages;
-    const bool isValid = PackageModel::validatePackageUID(m_package, messages);
-    setPackageErrors(PackageError::InvalidUID, !isValid);
-    Q_EMIT applicationUIDStateChanged(isValid);
+    runCheck(*this, m_package, PackageModel::validatePackageUID, PackageError::InvalidUID,
+             &PackageInfoValidator::applicationUIDStateChanged);
 }
 
 void PackageInfoValidator::validateRobotRequirements() {
-    QStringList messages;
-    const bool isValid = PackageModel::validateRobotRequirements(m_package, messages);
-    setPackageErrors(PackageError::InvalidRobotRequirements, !isValid);
-    Q_EMIT robotRequirementsStateChanged(isValid);
+    runCheck(*this, m_package, PackageModel::validateRobotRequirements,
+             PackageError::InvalidRobotRequirements,
+             &PackageInfoValidator::robotRequirementsStateChanged);
 }
 
 void PackageInfoValidator::validateBrioRequirements() {
-    QStringList messages;
-    const bool isValid = PackageModel::validateBrioRequirements(m_package, messages);
-    setPackageErrors(PackageError::InvalidBrioRequirements, !isValid);
-    Q_EMIT brioRequirementsStateChanged(isValid);
+    runCheck(*this, m_package, PackageModel::validateBrioRequirements,
+             PackageError::InvalidBrioRequirements,
+             &PackageInfoValidator::brioRequirementsStateChanged);
 }
 
 void PackageInfoValidator::validateApplicationNames() {
