@@ -152,11 +152,10 @@ private Q_SLOTS:
         arguments.insert(50, QStringLiteral("wrong.xml"));
         const QByteArray shown = terminalOutput(arguments, m_dir.path(), "1", true);
         const QByteArray gone = "\x1b[K\r\x1b[K";
-        QVERIFY2(shown.contains(QByteArray("\rChecked 49 of 101" + gone + "wrong.xml:18: ")),
-                 shown.constData());
-        QVERIFY2(shown.contains(
-                     QByteArray("\rChecked 100 of 101" + gone + "zel-package: Manifests: 101")),
-                 shown.constData());
+        const QByteArray amid = "\rChecked 49 of 101" + gone + "wrong.xml:18: ";
+        QVERIFY2(shown.contains(amid), shown.constData());
+        const QByteArray last = "\rChecked 100 of 101" + gone + "zel-package: Manifests: 101";
+        QVERIFY2(shown.contains(last), shown.constData());
         QCOMPARE(terminalOutput(arguments, m_dir.path(), "1"), run(arguments).out);
     }
 };
