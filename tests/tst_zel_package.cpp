@@ -25,13 +25,13 @@ private Q_SLOTS:
 
     // Files of lines for a shell, "$ zel-package ...", each with what it prints, the lines of its
     // messages after "2> ", and its status after "=> " where that is not 0.
-    void sessions_data() {
+    void shellLines_data() {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("expected");
-        const auto files = QDir(testData("zel-package/sessions")).entryInfoList(QDir::Files);
+        const auto files = QDir(testData("zel-package/shell")).entryInfoList(QDir::Files);
         for (const QFileInfo &file : files) {
-            const QString session = u'\n' % QString::fromUtf8(contentOf(file.filePath()));
-            const QStringList steps = session.split(QStringLiteral("\n$ ")).mid(1);
+            const QString content = u'\n' % QString::fromUtf8(contentOf(file.filePath()));
+            const QStringList steps = content.split(QStringLiteral("\n$ ")).mid(1);
             for (const QString &step : steps) {
                 const QString line = step.section(u'\n', 0, 0);
                 QTest::addRow("%s: %s", qPrintable(file.baseName()), qUtf8Printable(line))
@@ -40,7 +40,7 @@ private Q_SLOTS:
         }
     }
 
-    void sessions() {
+    void shellLines() {
         QFETCH(QString, line);
         const Outcome outcome = runShell(line, m_dir.path());
         QString printed = QString::fromUtf8(outcome.out);
