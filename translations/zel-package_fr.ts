@@ -541,8 +541,8 @@
         <translation>Affiche ce qui ne va pas dans chaque manifeste, sous la forme FICHIER:LIGNE: error: texte (champ) [id] ; la ligne est celle du champ ou, s&apos;il manque, de ce qui devrait le contenir. &apos;zel-package explain ID&apos; en dit plus. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>; there are %1.</source>
-        <translation> ; il y a %1.</translation>
+        <source>; it has %1.</source>
+        <translation> ; il a %1.</translation>
     </message>
     <message>
         <source>The package has no &apos;%1&apos;%2</source>

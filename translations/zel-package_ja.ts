@@ -541,7 +541,7 @@
         <translation>各マニフェストの問題を「ファイル:行: error: テキスト (フィールド) [id]」の形で表示します。行は、そのフィールドの行、欠けている場合はそれを含むはずの要素の行です。詳しくは &apos;zel-package explain ID&apos; を参照してください。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
-        <source>; there are %1.</source>
+        <source>; it has %1.</source>
         <translation>。あるのは %1 です。</translation>
     </message>
     <message>

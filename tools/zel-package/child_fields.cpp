@@ -25,6 +25,17 @@ using Behavior = Part<BehaviorInfoModel>;
 using Dialog = Part<DialogInfoModel>;
 using Service = Part<ServiceInfoModel>;
 
+// The keys that there are, as far as one reads on.
+QString knownKeys(const QStringList &keys) {
+    constexpr int most = 8;
+    if (keys.isEmpty())
+        return QStringLiteral(".");
+    QString list = u'\'' % keys.mid(0, most).join(QLatin1String("', '")) % u'\'';
+    if (keys.size() > most)
+        list += QStringLiteral(", \u2026");
+    return QCoreApplication::translate("zel-package", "; it has %1.").arg(list);
+}
+
 template<typename Child, typename Table>
 Command editChild(const Edit &edit, PackageInfoModel &package, const QString &key,
                   const QVector<Child *> &children, QString (Child::*keyOf)() const,
@@ -37,12 +48,8 @@ Command editChild(const Edit &edit, PackageInfoModel &package, const QString &ke
             return makeCommand(table, edit, part, 1);
         }
     }
-    const QString otherwise = known.isEmpty()
-                                  ? QStringLiteral(".")
-                                  : QCoreApplication::translate("zel-package", "; there are %1.")
-                                        .arg(known.join(QStringLiteral(", ")));
     return edit.refuse(QCoreApplication::translate("zel-package", "The package has no '%1'%2")
-                           .arg(key, suggestion(key, known, otherwise)));
+                           .arg(key, suggestion(key, known, knownKeys(known))));
 }
 
 // A child is found by its key, so that an empty one, or one that is taken, is refused.
