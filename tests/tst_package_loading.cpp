@@ -184,7 +184,7 @@ void TestPackageLoading::receiversOfAnAssignment() {
     connect(&target, &PackageInfoModel::nameUpdated, this, [&] { source.clearNames(); });
     target = source;
     QCOMPARE(target.names().size(), size_t(2));
-    QCOMPARE(target.behaviors().size(), 1);
+    QCOMPARE(target.behaviors().size(), 2);
 }
 
 void TestPackageLoading::defaultIcon() {

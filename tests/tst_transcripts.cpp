@@ -1,3 +1,4 @@
+#include "golden.h"
 #include "signal_log.h"
 #include "text.h"
 #include "warning_guard.h"
@@ -344,7 +345,7 @@ void TestTranscripts::played() {
     QFETCH(QString, name);
     const QStringList file = QString::fromUtf8(contentOf(name)).split(u'\n');
     const QStringList played = Transcript().play(file);
-    QCOMPARE(played, file);
+    COMPARE_WITH_GOLDEN(transcripts.filePath(name), played.join(u'\n').toUtf8());
 }
 
 QTEST_GUILESS_MAIN(TestTranscripts)

@@ -93,8 +93,8 @@ bool BehaviorSetStringCommand::mergeWith(const QUndoCommand *incoming) {
         if (newer.m_madeFor != behaviorPath() || newer.id() != id() ||
             !m_edit.takeOver(newer.m_edit))
             return false;
-        setBehaviorPath(
-            newer.behaviorPath()); // the step that the newer one has done may have changed it
+        if (newer.model() == model())
+            setBehaviorPath(newer.behaviorPath()); // its step may have changed it
         return true;
     });
 }

@@ -1,6 +1,7 @@
 #include <packagemodel/behavior_info_model.h>
 
 #include "behavior_info_data.h"
+#include "copies.h"
 #include "localized_texts.h"
 #include "meta_types.h"
 
@@ -146,16 +147,18 @@ bool BehaviorInfoModel::isUserRequestable() const {
     return m_data->record().isUserRequestable();
 }
 
-void BehaviorInfoModel::setPath(const QString &path) {
-    if (this->path() == path)
+void BehaviorInfoModel::setPath(const QString &newPath) {
+    if (path() == newPath)
         return;
-    m_data->edit().setPath(toUtf8(path));
+    const QString path = copyOf(newPath);
+    m_data->editKey().setPath(toUtf8(path));
     Q_EMIT pathUpdated(path);
 }
 
-void BehaviorInfoModel::setNature(const QString &nature) {
-    if (this->nature() == nature)
+void BehaviorInfoModel::setNature(const QString &newNature) {
+    if (nature() == newNature)
         return;
+    const QString nature = copyOf(newNature);
     m_data->edit().setNature(toUtf8(nature));
     Q_EMIT natureUpdated(nature);
 }
@@ -176,17 +179,19 @@ void BehaviorInfoModel::setUserRequestable(bool userRequestable) {
 }
 
 bool BehaviorInfoModel::addPermission(const QString &permType) {
-    const bool added = m_data->edit().addPermission(toUtf8(permType));
-    if (added)
-        Q_EMIT permissionAdded(permType);
-    return added;
+    const QString permission = copyOf(permType);
+    if (hasPermission(permission) || !m_data->edit().addPermission(toUtf8(permission)))
+        return false;
+    Q_EMIT permissionAdded(permission);
+    return true;
 }
 
 bool BehaviorInfoModel::removePermission(const QString &permType) {
-    const bool removed = m_data->edit().removePermission(toUtf8(permType));
-    if (removed)
-        Q_EMIT permissionRemoved(permType);
-    return removed;
+    const QString permission = copyOf(permType);
+    if (!hasPermission(permission) || !m_data->edit().removePermission(toUtf8(permission)))
+        return false;
+    Q_EMIT permissionRemoved(permission);
+    return true;
 }
 
 } // namespace Zel

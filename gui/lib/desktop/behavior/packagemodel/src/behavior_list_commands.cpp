@@ -5,6 +5,7 @@
 #include <packagemodel/behavior_info_model.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace Zel {
 namespace {
@@ -55,15 +56,17 @@ void setItem(BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &
     callOn(behavior, kind.update, index, value, key); // refuses an index outside the list
 }
 
+// Receivers of the addition may remove the behavior.
 template<typename Key>
-int addItem(BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &key,
+int addItem(const QPointer<BehaviorInfoModel> &behavior, const ListKind<Key> &kind, const Key &key,
             const QString &value, int index) {
-    const auto size = listOf(behavior, kind, key).size();
-    if ((index < 0 || index >= size) && callOn(behavior, kind.append, value, key))
-        return static_cast<int>(listOf(behavior, kind, key).size()) - 1;
-    if (!callOn(behavior, kind.insert, value, key, index))
+    const auto items = [&] { return listOf(behavior.data(), kind, key); };
+    const auto size = items().size();
+    if ((index < 0 || index >= size) && callOn(behavior.data(), kind.append, value, key))
+        return static_cast<int>(items().size()) - 1;
+    if (!callOn(behavior.data(), kind.insert, value, key, index))
         return -1;
-    return static_cast<int>(listOf(behavior, kind, key).indexOf(value));
+    return static_cast<int>(items().indexOf(value));
 }
 
 template<typename Key>
@@ -297,7 +300,7 @@ BehaviorAddRemoveTagCommand::removeCommand(PackageInfoModel *model, const QStrin
 }
 
 int BehaviorAddRemoveTagCommand::add(const QString &value, int index) {
-    return addItem(behaviorInfoModel(), tags, tag(), value, index);
+    return addItem<RobotLanguage>(behaviorInfoModel(), tags, tag(), value, index);
 }
 
 QString BehaviorAddRemoveTagCommand::remove(int index, bool *ok) {
@@ -330,7 +333,7 @@ BehaviorAddRemoveTriggerSentenceCommand::removeCommand(PackageInfoModel *model,
 }
 
 int BehaviorAddRemoveTriggerSentenceCommand::add(const QString &value, int index) {
-    return addItem(behaviorInfoModel(), triggerSentences, tag(), value, index);
+    return addItem<RobotLanguage>(behaviorInfoModel(), triggerSentences, tag(), value, index);
 }
 
 QString BehaviorAddRemoveTriggerSentenceCommand::remove(int index, bool *ok) {
@@ -363,7 +366,7 @@ BehaviorAddRemoveLoadingResponseCommand::removeCommand(PackageInfoModel *model,
 }
 
 int BehaviorAddRemoveLoadingResponseCommand::add(const QString &value, int index) {
-    return addItem(behaviorInfoModel(), loadingResponses, tag(), value, index);
+    return addItem<RobotLanguage>(behaviorInfoModel(), loadingResponses, tag(), value, index);
 }
 
 QString BehaviorAddRemoveLoadingResponseCommand::remove(int index, bool *ok) {
@@ -396,7 +399,7 @@ BehaviorAddRemoveConditionCommand *BehaviorAddRemoveConditionCommand::removeComm
 }
 
 int BehaviorAddRemoveConditionCommand::add(const QString &value, int index) {
-    return addItem(behaviorInfoModel(), conditions, tag(), value, index);
+    return addItem<QString>(behaviorInfoModel(), conditions, tag(), value, index);
 }
 
 QString BehaviorAddRemoveConditionCommand::remove(int index, bool *ok) {

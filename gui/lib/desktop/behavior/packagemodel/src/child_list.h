@@ -93,7 +93,7 @@ class ChildList;
 template<typename Child>
 using ChildIndex = std::map<std::pair<std::string, std::uint64_t>, Child *>;
 
-/// What every child model holds: its record, and the list of the package that it stands in.
+/// The data of every child model: its record, and the package's list that contains it.
 template<typename Child>
 class ChildData {
 public:
@@ -111,8 +111,8 @@ public:
 
     const Record &record() const { return m_record; }
 
-    /// The record, to be changed. The package learns that its copy is out of date, whether or not a
-    /// notification follows.
+    /// The record, to be changed except for its key. Marks the package's copy as out of date,
+    /// whether or not a notification follows.
     Record &edit() {
         if (m_list && !m_stale) {
             m_stale = true;
@@ -121,19 +121,35 @@ public:
         return m_record;
     }
 
-    /// The list that the child stands in; null when it has no package.
+    /// The record, to be changed including its key.
+    Record &editKey() {
+        if (m_list && m_indexEntry)
+            m_list->noteKeyChange(m_child);
+        return edit();
+    }
+
+    /// The list that contains the child; null when it has no package.
     ChildList<Child> *childList() const { return m_list; }
+
+    /// Whether the child is being announced as removed: then no package may take it.
+    bool isLeaving() const { return m_leaving; }
 
 private:
     friend class ChildList<Child>;
 
+    void leave() {
+        m_list = nullptr;
+        m_indexEntry.reset();
+        m_stale = false;
+    }
+
     Child *m_child;
     Record m_record;
     ChildList<Child> *m_list = nullptr;
-    std::uint64_t m_serial = 0; // ascending along the list
+    std::uint64_t m_label = 0; // ascending along the list, with gaps
     std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;
-    bool m_stale = false;   // listed for the next resync
-    bool m_leaving = false; // announced as removed, though it may still stand in the list
+    bool m_stale = false; // listed for the next resync
+    bool m_leaving = false;
 };
 
 /// Lets the lists reach into the child models.
@@ -147,37 +163,34 @@ public:
 
 /// The ordered children of one kind, and the record's list that mirrors them.
 ///
-/// resync() makes that list what clearing it and appending every child's record in order would, but
-/// touches the entries that differ only: the package calls it for every single change.
+/// resync() has the effect of clearing the record's list and appending every child's record in
+/// order, but touches only the entries that differ: the package calls it for every single change.
 template<typename Child>
 class ChildList {
 public:
     using Kind = ChildKind<Child>;
+    using Record = typename Kind::Record;
     using ResyncSlot = void (PackageInfoModel::*)();
 
     ChildList(PackageInfoModel *package, Tano::PackageInfo &record, ResyncSlot resyncSlot)
         : m_package(package)
         , m_record(record)
         , m_resyncSlot(resyncSlot) {}
-    ~ChildList() {
-        for (const Child *child : std::as_const(m_children))
-            ChildAccess::data(*child).m_list = nullptr;
-    }
+    ~ChildList() { close(); }
     ChildList(const ChildList &) = delete;
     ChildList &operator=(const ChildList &) = delete;
 
+    PackageInfoModel *package() const { return m_package; }
     const QVector<Child *> &children() const { return m_children; }
     bool contains(const Child &child) const { return ChildAccess::data(child).childList() == this; }
 
     void reserve(int count) { m_children.reserve(count); }
 
-    /// Appends a child that stands in no list, and tracks its changes.
+    /// Appends a child that is in no list, and tracks its changes.
     void append(Child *child) {
         auto &data = ChildAccess::data(*child);
         data.m_list = this;
-        data.m_serial = m_nextSerial++;
-        data.m_indexEntry.reset();
-        data.m_stale = false;
+        data.m_label = m_children.isEmpty() ? labelGap : labelOf(*m_children.back()) + labelGap;
         m_children.append(child);
         if (m_isIndexed)
             addToIndex(child);
@@ -188,58 +201,67 @@ public:
             Kind::changes);
     }
 
-    /// Marks the child as one that is about to be announced as removed; returns false where it has
-    /// been announced already, or stands in no list or another one.
+    /// Marks the child as about to be announced as removed; returns false if it has been announced
+    /// already, or is in no list or another one.
     bool startLeaving(const Child &child) {
         return contains(child) && !std::exchange(ChildAccess::data(child).m_leaving, true);
     }
 
+    /// Lets a child that was announced as removed join another list.
+    static void endLeaving(const Child &child) { ChildAccess::data(child).m_leaving = false; }
+
     /// Takes a child out of the list and brings the record up to date, without notification.
     Child *takeAt(int index) {
-        Child *child = m_children.takeAt(index);
-        dropTraces(ChildAccess::data(*child));
-        if (index < m_mirrored) {
-            (m_record.*Kind::remove)(index);
-            --m_mirrored;
-        }
+        Child *child = m_children.at(index);
+        remove(index, ChildAccess::data(*child));
         resync();
         ChildAccess::data(*child).m_list = nullptr;
         return child;
     }
 
-    /// Lets a child go to another package.
-    void release(Child *child) {
-        takeAt(indexOf(child));
-        QObject::disconnect(child, nullptr, m_package, nullptr);
+    /// Stops listening to a child that goes to another package. The application's connections stay.
+    void stopTracking(Child *child) {
+        std::apply(
+            [&](auto... changes) {
+                (QObject::disconnect(child, changes, m_package, m_resyncSlot), ...);
+            },
+            Kind::changes);
     }
 
-    /// The index of a child; the number of children when it is not there.
+    /// Empties the list for good; the record is left alone.
+    QVector<Child *> close() {
+        for (const Child *child : std::as_const(m_children))
+            ChildAccess::data(*child).leave();
+        m_isClosed = true;
+        m_stale.clear();
+        m_unindexed.clear();
+        m_index.clear();
+        setOutOfStep();
+        return std::exchange(m_children, {});
+    }
+    /// Whether the package is being destroyed, so that it takes no more children.
+    bool isClosed() const { return m_isClosed; }
+
+    /// The index of a child, found by its address, so that it may be a dangling pointer; the number
+    /// of children if there is none.
     int indexOf(const Child *child) const {
-        if (!child || !contains(*child))
-            return static_cast<int>(m_children.size());
-        const auto isBefore = [](const Child *a, std::uint64_t serial) {
-            return ChildAccess::data(*a).m_serial < serial;
-        };
-        const auto found = std::lower_bound(m_children.cbegin(), m_children.cend(),
-                                            ChildAccess::data(*child).m_serial, isBefore);
+        const auto found = std::find(m_children.cbegin(), m_children.cend(), child);
         return static_cast<int>(found - m_children.cbegin());
     }
 
     /// The first child whose key is `key`, or begins with it and a NUL; null for none.
-    Child *find(std::string key) {
+    Child *find(const std::string &key) {
         if (!m_isIndexed) {
             m_isIndexed = true;
-            for (Child *child : std::as_const(m_children)) {
-                if (!ChildAccess::data(*child).m_stale)
-                    addToIndex(child);
-            }
+            m_unindexed.clear();
+            for (Child *child : std::as_const(m_children))
+                addToIndex(child);
         }
         const auto entry = m_index.lower_bound({key, 0});
         Child *found =
             entry != m_index.end() && entry->first.first == key ? entry->second : nullptr;
-        for (Child *child : m_stale) {
-            const bool isFirst =
-                !found || ChildAccess::data(*child).m_serial < ChildAccess::data(*found).m_serial;
+        for (Child *child : m_unindexed) {
+            const bool isFirst = !found || labelOf(*child) < labelOf(*found);
             if (isFirst && key == foundKeyOf(*child))
                 found = child;
         }
@@ -250,55 +272,105 @@ public:
         return std::invoke(Kind::key, ChildAccess::data(child).record());
     }
 
-    /// What a look-up compares: the key up to its first NUL.
+    /// The part of the key that a look-up compares: up to its first NUL.
     static std::string foundKeyOf(const Child &child) {
         const std::string &key = keyOf(child);
         return key.substr(0, key.find('\0'));
     }
 
-    /// Drops a child that is being deleted, of which nothing but `data` is left. The record waits
-    /// for the next resync.
-    void forget(ChildData<Child> &data) {
-        m_children.removeOne(data.m_child);
-        dropTraces(data);
-        setOutOfStep();
-    }
+    /// Drops a child that is being deleted; only its data is still valid.
+    void forget(ChildData<Child> &data) { remove(indexOf(data.m_child), data); }
 
-    void noteChange(Child *child) {
-        m_stale.push_back(child);
+    void noteChange(Child *child) { m_stale.push_back(child); }
+
+    void noteKeyChange(Child *child) {
+        m_unindexed.push_back(child);
         dropFromIndex(ChildAccess::data(*child));
     }
 
-    /// Says that the record's list no longer mirrors the children.
+    /// Notes that the record's list no longer mirrors the children.
     void setOutOfStep() { m_mirrored = outOfStep; }
-    /// Says that the record's list mirrors the children.
-    void setInStep() { m_mirrored = static_cast<int>(m_children.size()); }
+
+    /// Whether the record's list holds the records of the children.
+    bool isMirrored() const {
+        const auto &records = (m_record.*Kind::records)();
+        return std::equal(records.begin(), records.end(), m_children.begin(), m_children.end(),
+                          &isRecordOf);
+    }
+
+    /// After the record was replaced: makes its list mirror the children.
+    void settle() {
+        m_mirrored = isMirrored() ? static_cast<int>(m_children.size()) : outOfStep;
+        resync();
+    }
+
+    /// The same after an assignment: a list that lags behind the copied children still lags, as in
+    /// the package that they were copied from, unless observers have changed the children.
+    void settle(const std::vector<Record> &copied) {
+        const bool areCopies = std::equal(copied.begin(), copied.end(), m_children.begin(),
+                                          m_children.end(), &isRecordOf);
+        if (areCopies && !isMirrored())
+            setOutOfStep();
+        else
+            settle();
+    }
 
     void resync() {
         if (m_mirrored == outOfStep) {
             (m_record.*Kind::clear)();
             m_mirrored = 0;
         }
-        for (Child *child : m_stale) {
+        for (Child *child : std::exchange(m_unindexed, {}))
+            addToIndex(child);
+        for (Child *child : std::exchange(m_stale, {})) {
             auto &data = ChildAccess::data(*child);
             data.m_stale = false;
-            if (m_isIndexed)
-                addToIndex(child);
-            if (const int index = m_mirrored > 0 ? indexOf(child) : 0; index < m_mirrored)
+            if (const int index = m_mirrored > 0 ? placeOf(*child) : 0; index < m_mirrored)
                 (m_record.*Kind::replace)(index, data.record());
         }
-        m_stale.clear();
         for (; m_mirrored < m_children.size(); ++m_mirrored)
             (m_record.*Kind::append)(ChildAccess::data(*m_children.at(m_mirrored)).record());
     }
 
 private:
     static constexpr int outOfStep = -1;
+    static constexpr std::uint64_t labelGap = std::uint64_t(1) << 32;
+
+    static std::uint64_t labelOf(const Child &child) { return ChildAccess::data(child).m_label; }
+    static bool isRecordOf(const Record &record, const Child *child) {
+        return record == ChildAccess::data(*child).record();
+    }
+
+    // The index of a child of this list.
+    int placeOf(const Child &child) const {
+        const auto isBefore = [](const Child *a, std::uint64_t label) {
+            return labelOf(*a) < label;
+        };
+        const auto found =
+            std::lower_bound(m_children.cbegin(), m_children.cend(), labelOf(child), isBefore);
+        return static_cast<int>(found - m_children.cbegin());
+    }
+
+    void remove(int index, ChildData<Child> &data) {
+        m_children.remove(index);
+        dropFromIndex(data);
+        const auto drop = [&](std::vector<Child *> &children) {
+            children.erase(std::remove(children.begin(), children.end(), data.m_child),
+                           children.end());
+        };
+        drop(m_stale);
+        drop(m_unindexed);
+        data.m_stale = false;
+        if (index < m_mirrored) {
+            (m_record.*Kind::remove)(index);
+            --m_mirrored;
+        }
+    }
 
     void addToIndex(Child *child) {
         auto &data = ChildAccess::data(*child);
         data.m_indexEntry =
-            m_index.emplace(std::make_pair(foundKeyOf(*child), data.m_serial), child).first;
+            m_index.emplace(std::make_pair(foundKeyOf(*child), data.m_label), child).first;
     }
 
     void dropFromIndex(ChildData<Child> &data) {
@@ -307,19 +379,15 @@ private:
         data.m_indexEntry.reset();
     }
 
-    void dropTraces(ChildData<Child> &data) {
-        dropFromIndex(data);
-        m_stale.erase(std::remove(m_stale.begin(), m_stale.end(), data.m_child), m_stale.end());
-    }
-
     PackageInfoModel *m_package;
     Tano::PackageInfo &m_record;
     ResyncSlot m_resyncSlot;
     QVector<Child *> m_children;
-    std::vector<Child *> m_stale; // the children whose records changed since the last resync
-    std::uint64_t m_nextSerial = 0;
-    ChildIndex<Child> m_index; // of the children that are not stale, from the first look-up on
+    std::vector<Child *> m_stale;     // their records changed since the last resync
+    std::vector<Child *> m_unindexed; // their keys changed since the last resync
+    ChildIndex<Child> m_index;        // of all others, from the first look-up on
     bool m_isIndexed = false;
+    bool m_isClosed = false;
     int m_mirrored = outOfStep; // how many children, from the first on, the record's list mirrors
 };
 

@@ -36,8 +36,8 @@ bool DialogInfoModelCommand::mergeWith(const QUndoCommand *incoming) {
     return mergeIf<DialogInfoModelCommand>(incoming, [this](const auto &newer) {
         if (newer.m_madeFor != dialogName() || newer.id() != id() || !m_edit.takeOver(newer.m_edit))
             return false;
-        setDialogName(
-            newer.dialogName()); // the step that the newer one has done may have changed it
+        if (newer.model() == model())
+            setDialogName(newer.dialogName()); // its step may have changed it
         return true;
     });
 }

@@ -56,16 +56,18 @@ RobotLanguages DialogInfoModel::topicsLanguages() const {
     return languages;
 }
 
-void DialogInfoModel::setTopicName(const QString &name) {
-    if (topicName() == name)
+void DialogInfoModel::setTopicName(const QString &newName) {
+    if (topicName() == newName)
         return;
-    m_data->edit().setTopicName(toUtf8(name));
+    const QString name = copyOf(newName);
+    m_data->editKey().setTopicName(toUtf8(name));
     Q_EMIT nameChanged(name);
 }
 
-void DialogInfoModel::setTypeVersion(const QString &version) {
-    if (typeVersion() == version)
+void DialogInfoModel::setTypeVersion(const QString &newVersion) {
+    if (typeVersion() == newVersion)
         return;
+    const QString version = copyOf(newVersion);
     m_data->edit().setTypeVersion(toUtf8(version));
     Q_EMIT typeVersionChanged(version);
 }
@@ -85,7 +87,7 @@ void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) 
 bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
     const RobotLanguage language = copyOf(lang);
     const std::string code = codeOf(language);
-    if (!m_data->edit().removeTopic(code))
+    if (m_data->record().topics().count(code) == 0 || !m_data->edit().removeTopic(code))
         return false;
     const QPointer<DialogInfoModel> self(this);
     Q_EMIT topicRemoved(language);

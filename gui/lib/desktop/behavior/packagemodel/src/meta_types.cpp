@@ -15,6 +15,9 @@ bool registerAll() {
     qRegisterMetaType<RobotRequirement>("RobotRequirement");
     qRegisterMetaType<ServiceInfoModel *>("ServiceInfoModel*");
     qRegisterMetaType<SoftwareVersion>("SoftwareVersion");
+    qRegisterMetaType<Tano::BehaviorInfo>("Tano::BehaviorInfo");
+    qRegisterMetaType<Tano::DialogInfo>("Tano::DialogInfo");
+    qRegisterMetaType<Tano::PackageService>("Tano::PackageService");
     return true;
 }
 

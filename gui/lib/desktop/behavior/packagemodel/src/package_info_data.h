@@ -8,6 +8,7 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <cstdint>
 #include <memory>
 
 namespace Zel {
@@ -26,8 +27,8 @@ struct PackageInfoModel::Data {
 
     const Tano::PackageInfo &record() const { return m_record; }
     Tano::PackageInfo &edit() { return m_record; }
-    /// Replaces the whole record, so that its lists mirror nothing here any more.
-    void assignRecord(const Tano::PackageInfo &info);
+    /// Notes that the record was replaced, so that its lists mirror nothing here any more.
+    void setOutOfStep();
 
     using LocalizedTextField = LocalizedField<PackageInfoModel, Data, Tano::PackageInfo>;
     static const LocalizedTextField nameField;
@@ -44,6 +45,7 @@ struct PackageInfoModel::Data {
     ChildList<DialogInfoModel> dialogs;
     ChildList<ServiceInfoModel> services;
     std::shared_ptr<PackageIcon> icon; // null before the first one is set
+    std::uint64_t wholeChanges = 0;    // loads and assignments so far
 
 private:
     Tano::PackageInfo m_record;

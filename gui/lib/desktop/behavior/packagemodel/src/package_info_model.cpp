@@ -39,9 +39,10 @@ QString textOf(const Tano::PackageInfo &record, const TextField &field) {
 }
 
 void setText(PackageInfoModel *model, Tano::PackageInfo &record, const TextField &field,
-             const QString &text) {
-    if (textOf(record, field) == text)
+             const QString &newText) {
+    if (textOf(record, field) == newText)
         return;
+    const QString text = copyOf(newText);
     (record.*field.setText)(toUtf8(text));
     Q_EMIT(model->*field.updated)(text);
 }
@@ -150,21 +151,25 @@ void PackageInfoModel::addSupportedLanguage(const RobotLanguage &language) {
     const RobotLanguage added = copyOf(language);
     m_data->edit().addSupportedLanguage(codeOf(added));
     m_data->supportedLanguages.push_back(added);
+    const QPointer<PackageInfoModel> living(this);
     Q_EMIT languageAdded(added);
-    addDescriptionLanguage(added);
+    if (living)
+        addDescriptionLanguage(added);
 }
 
 void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
     if (!hasLanguageSupport(language))
         return;
     const RobotLanguage removed = copyOf(language);
+    const QPointer<PackageInfoModel> living(this);
     m_data->edit().removeSupportedLanguage(codeOf(removed));
     for (const auto &dialog : guarded(dialogs())) {
         if (dialog)
             dialog->removeTopic(removed);
     }
-    if (!hasLanguageSupport(removed))
-        return; // a receiver has removed it, and all have heard so
+    if (!living || !hasLanguageSupport(removed))
+        return; // a receiver has removed it, which was announced
+    m_data->edit().removeSupportedLanguage(codeOf(removed)); // a receiver may have toggled it
     Language::removeLanguage(m_data->supportedLanguages, removed);
     Q_EMIT languageRemoved(removed);
 }

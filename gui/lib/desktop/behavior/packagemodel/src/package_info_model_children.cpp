@@ -1,5 +1,6 @@
 #include <packagemodel/package_info_model.h>
 
+#include "copies.h"
 #include "package_info_data.h"
 
 #include <QPointer>
@@ -20,17 +21,38 @@ void adopt(PackageInfoModel *package, QObject *child) {
 // Adds a child that has the package for its parent already.
 template<typename Child>
 void addOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
+    if (list.isClosed()) {
+        delete child;
+        return;
+    }
     list.append(child);
     list.resync();
     Q_EMIT(package->*ChildKind<Child>::added)(child);
 }
 
+// Has the package of a child give it up: brings its record up to date and announces the removal.
+// Returns false if an observer deleted the child or one of the packages.
+template<typename Child>
+bool release(const QPointer<Child> &child, const QPointer<PackageInfoModel> &newPackage) {
+    ChildList<Child> *list = ChildAccess::data(*child).childList();
+    if (!list)
+        return true;
+    PackageInfoModel *package = list->package();
+    list->startLeaving(*child);
+    list->takeAt(list->indexOf(child));
+    list->stopTracking(child);
+    Q_EMIT(package->*ChildKind<Child>::removed)(child.data());
+    if (child)
+        ChildList<Child>::endLeaving(*child);
+    return child && newPackage;
+}
+
 template<typename Child>
 void add(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
-    if (!child || list.contains(*child))
+    if (!child || list.isClosed() || list.contains(*child) || ChildAccess::data(*child).isLeaving())
         return;
-    if (ChildList<Child> *other = ChildAccess::data(*child).childList())
-        other->release(child);
+    if (!release<Child>(child, package))
+        return;
     adopt(package, child);
     addOwn(package, list, child);
 }
@@ -56,10 +78,15 @@ bool remove(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     return remove(package, list, list.indexOf(child));
 }
 
-// Receivers may add, remove and clear children meanwhile; what they add stays.
+// Receivers may add, remove and clear children meanwhile, or delete the package; what they add
+// stays.
 template<typename Child>
 void clear(PackageInfoModel *package, ChildList<Child> &list) {
+    const QPointer<PackageInfoModel> living(package);
+    list.setOutOfStep(); // so that the record's list is left alone
     for (const QPointer<Child> &child : guarded(list.children())) {
+        if (!living)
+            return;
         if (child && list.startLeaving(*child))
             announceAndDelete(package, child);
     }
@@ -108,14 +135,20 @@ ServiceInfoModel *PackageInfoModel::service(const QString &name) const {
 }
 
 void PackageInfoModel::createBehaviorInfoModels() {
+    createBehaviors(m_data->record());
+}
+
+void PackageInfoModel::createBehaviors(const Tano::PackageInfo &record) {
+    const Tano::PackageInfo original = copyOf(record); // receivers may change it
+    const QPointer<PackageInfoModel> living(this);
     clearBehaviors();
+    if (!living || m_data->behaviors.isClosed())
+        return;
     ChildList<BehaviorInfoModel> &list = m_data->behaviors;
-    const bool isEmpty = list.children().isEmpty(); // unless a receiver has added some
-    list.reserve(static_cast<int>(m_data->record().behaviors().size()));
-    for (const Tano::BehaviorInfo &info : m_data->record().behaviors())
+    list.reserve(static_cast<int>(original.behaviors().size()));
+    for (const Tano::BehaviorInfo &info : original.behaviors())
         list.append(new BehaviorInfoModel(info, this, nullptr));
-    if (isEmpty)
-        list.setInStep();
+    list.settle();
 }
 
 void PackageInfoModel::resyncBehaviors() {

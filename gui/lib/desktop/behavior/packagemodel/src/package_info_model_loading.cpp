@@ -5,64 +5,16 @@
 #include "meta_types.h"
 #include "package_icon.h"
 #include "package_info_data.h"
+#include "whole_change.h"
 
 #include <QFile>
 
+#include <functional>
 #include <ostream>
+#include <string>
 #include <utility>
 
 namespace Zel {
-namespace {
-
-void copyFields(const PackageInfoModel &from, PackageInfoModel &to) {
-    to.setVersion(from.version());
-    to.setAuthor(from.author());
-    to.setChannel(from.channel());
-    to.setDate(from.date());
-    copyIcon(from, to);
-    to.setInstaller(from.installer());
-    to.setOrganization(from.organization());
-    to.setPath(from.path());
-    to.setTypeVersion(from.typeVersion());
-    to.setUid(from.uid());
-
-    to.clearNames();
-    for (const auto &[text, language] : copyOf(from.names()))
-        to.setName(text, language);
-
-    for (const RobotLanguage &language : copyOf(to.supportedLanguages()))
-        to.removeSupportedLanguage(language);
-    for (const RobotLanguage &language : copyOf(from.supportedLanguages()))
-        to.addSupportedLanguage(language);
-
-    for (const RobotLanguage &language : copyOf(to.descriptionLanguages()))
-        to.removeDescriptionLanguage(language);
-    for (const RobotLanguage &language : copyOf(from.descriptionLanguages()))
-        to.addDescriptionLanguage(language);
-}
-
-void copyChildren(const PackageInfoModel &from, PackageInfoModel &to) {
-    to.clearBehaviors();
-    for (const auto &behavior : guarded(from.behaviors())) {
-        if (behavior)
-            to.addBehavior(new BehaviorInfoModel(*behavior));
-    }
-    for (const auto &dialog : guarded(to.dialogs())) {
-        if (dialog)
-            to.removeDialog(dialog.data());
-    }
-    for (const auto &dialog : guarded(from.dialogs())) {
-        if (dialog)
-            to.addDialog(new DialogInfoModel(*dialog));
-    }
-    to.clearServices();
-    for (const auto &service : guarded(from.services())) {
-        if (service)
-            to.addService(new ServiceInfoModel(*service, &to));
-    }
-}
-
-} // namespace
 
 PackageInfoModel::Data::Data(PackageInfoModel *package, Tano::PackageInfo info)
     : behaviors(package, m_record, &PackageInfoModel::resyncBehaviors)
@@ -71,8 +23,7 @@ PackageInfoModel::Data::Data(PackageInfoModel *package, Tano::PackageInfo info)
     , m_record(std::move(info)) {
 }
 
-void PackageInfoModel::Data::assignRecord(const Tano::PackageInfo &info) {
-    m_record = info;
+void PackageInfoModel::Data::setOutOfStep() {
     robotRequirements.isMirrored = false;
     brioRequirements.isMirrored = false;
     behaviors.setOutOfStep();
@@ -88,7 +39,7 @@ PackageInfoModel::PackageInfoModel(const Tano::PackageInfo &info, QObject *paren
     : QObject(parent)
     , m_data(std::make_unique<Data>(this, info)) {
     registerMetaTypes();
-    initFromPackage();
+    initFromPackage(info, WholeChange(this, m_data->wholeChanges));
 }
 
 PackageInfoModel::PackageInfoModel(const PackageInfoModel &other)
@@ -97,37 +48,87 @@ PackageInfoModel::PackageInfoModel(const PackageInfoModel &other)
     *this = other;
 }
 
-PackageInfoModel::~PackageInfoModel() = default;
+// The children go first, so that receivers of their destroyed() notification may still query the
+// package.
+PackageInfoModel::~PackageInfoModel() {
+    const auto deleteAll = [this](auto children) {
+        for (const auto &child : guarded(children)) {
+            if (child && child->parent() == this)
+                delete child.data();
+        }
+    };
+    const auto behaviors = m_data->behaviors.close();
+    const auto dialogs = m_data->dialogs.close();
+    const auto services = m_data->services.close();
+    deleteAll(behaviors);
+    deleteAll(dialogs);
+    deleteAll(services);
+}
 
-void PackageInfoModel::initFromPackage() {
+// Receivers may edit the package, and so its record, at each notification: `loaded` stays whole.
+bool PackageInfoModel::initFromPackage(const Tano::PackageInfo &loaded, const WholeChange &change) {
     readVersionFromPackage();
-    for (const Tano::RobotRequirement &record : m_data->record().robotRequirements())
+    if (!change.isCurrent())
+        return false;
+    for (const Tano::RobotRequirement &record : loaded.robotRequirements())
         m_data->robotRequirements.items.append(fromTanoRobotRequirement(record));
-    for (const Tano::BrioRequirement &record : m_data->record().brioRequirements())
+    for (const Tano::BrioRequirement &record : loaded.brioRequirements())
         m_data->brioRequirements.items.append(fromTanoBrioRequirement(record));
 
-    for (const std::string &code : m_data->record().languageCodes())
+    for (const std::string &code : loaded.languageCodes())
         static_cast<void>(languageFromCode(code)); // registers those that are unknown
 
-    // Each addition rewrites the record's list.
-    for (const Tano::DialogInfo &dialog : copyOf(m_data->record().dialogs()))
+    for (const Tano::DialogInfo &dialog : loaded.dialogs()) {
         addDialog(dialog);
-    for (const Tano::PackageService &service : copyOf(m_data->record().services()))
+        if (!change.isCurrent())
+            return false;
+    }
+    for (const Tano::PackageService &service : loaded.services()) {
         addService(service);
-
+        if (!change.isCurrent())
+            return false;
+    }
     for (const std::string &code : copyOf(m_data->record().supportedLanguages()))
         m_data->edit().addDescriptionLanguage(code);
 
-    createBehaviorInfoModels();
+    createBehaviors(loaded);
+    if (!change.isCurrent())
+        return false;
+    readCaches(loaded);
+    return true;
+}
 
-    m_data->supportedLanguages = languagesFromCodes(m_data->record().supportedLanguages());
-    m_data->names = textsFromRecord(m_data->record().names());
-    m_data->descriptionLanguages = languagesFromCodes(m_data->record().descriptionLanguages());
-    m_data->descriptions = textsFromRecord(m_data->record().descriptions());
+void PackageInfoModel::readCaches(const Tano::PackageInfo &loaded) {
+    const Tano::PackageInfo &record = m_data->record();
+    m_data->supportedLanguages = languagesFromCodes(record.supportedLanguages());
+    m_data->names = textsFromRecord(record.names());
+    m_data->descriptionLanguages = languagesFromCodes(record.descriptionLanguages());
+    m_data->descriptions = textsFromRecord(record.descriptions());
+    if (!(record.robotRequirements() == loaded.robotRequirements()))
+        resyncRobotRequirements();
+    if (!(record.brioRequirements() == loaded.brioRequirements()))
+        resyncBrioRequirements();
+    m_data->dialogs.settle();
+    m_data->services.settle();
 }
 
 void PackageInfoModel::readVersionFromPackage() {
     setVersion(SoftwareVersionUtils::fromString(fromUtf8(m_data->record().version())));
+}
+
+bool PackageInfoModel::load(const std::function<bool(Tano::PackageInfo &)> &read,
+                            const std::function<void()> &readIcon) {
+    const WholeChange change(this, m_data->wholeChanges);
+    assign(PackageInfoModel(), change);
+    if (!change.isCurrent() || !read(m_data->edit()))
+        return false;
+    m_data->setOutOfStep();
+    const Tano::PackageInfo loaded = m_data->record();
+    readIcon();
+    if (!change.isCurrent() || !initFromPackage(loaded, change))
+        return false;
+    Q_EMIT loadedFromManifest();
+    return true;
 }
 
 bool PackageInfoModel::loadFromManifestFile(const QString &path) {
@@ -136,22 +137,21 @@ bool PackageInfoModel::loadFromManifestFile(const QString &path) {
 }
 
 bool PackageInfoModel::loadFromManifestFile(QFile &file) {
-    clear();
-    if (!m_data->edit().loadFromManifestFile(file))
-        return false;
-    readIconBeside(file, *this);
-    initFromPackage();
-    Q_EMIT loadedFromManifest();
-    return true;
+    const QPointer<QFile> source(&file); // a receiver may delete it
+    const auto read = [&](Tano::PackageInfo &record) {
+        return source && record.loadFromManifestFile(*source);
+    };
+    return load(read, [&] { readIconBeside(*source, *this); });
 }
 
 bool PackageInfoModel::loadFromManifestContent(const QByteArray &content) {
-    clear();
-    if (!m_data->edit().loadFromManifestContent(content.constData()))
-        return false;
-    initFromPackage();
-    Q_EMIT loadedFromManifest();
-    return true;
+    // Copied first, since receivers may change the content. It need not end in a NUL.
+    const auto length = qstrnlen(content.constData(), uint(content.size()));
+    const std::string bytes(content.constData(), length);
+    const auto read = [&](Tano::PackageInfo &record) {
+        return record.loadFromManifestContent(bytes);
+    };
+    return load(read, [] {});
 }
 
 bool PackageInfoModel::saveToManifestFile(const QString &path) const {
@@ -164,29 +164,6 @@ bool PackageInfoModel::saveToManifestFile(QFile &file) const {
 
 QByteArray PackageInfoModel::saveToManifestContent() const {
     return m_data->record().saveToManifestContent().c_str();
-}
-
-void PackageInfoModel::clear() {
-    const PackageInfoModel empty;
-    *this = empty;
-}
-
-PackageInfoModel &PackageInfoModel::operator=(const PackageInfoModel &other) {
-    if (this == &other)
-        return *this;
-    copyFields(other, *this);
-    copyChildren(other, *this);
-    for (const auto &[text, language] : copyOf(other.descriptions()))
-        setDescription(text, language);
-
-    m_data->robotRequirements = {};
-    for (const RobotRequirement &requirement : other.robotRequirements())
-        addRobotRequirement(requirement);
-    m_data->brioRequirements = {};
-    for (const BrioRequirement &requirement : other.brioRequirements())
-        addBrioRequirement(requirement);
-    m_data->assignRecord(other.packageInfo());
-    return *this;
 }
 
 std::ostream &operator<<(std::ostream &stream, const PackageInfoModel &package) {

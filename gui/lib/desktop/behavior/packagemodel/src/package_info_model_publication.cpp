@@ -170,12 +170,14 @@ void PackageInfoModel::trimExtraInfo() {
     m_data->behaviors.resync();
 }
 
-// Receivers of the notifications may remove behaviors and change the lists that are gone through.
+// Receivers of the notifications may remove behaviors, change the lists that are gone through, and
+// delete the package.
 void PackageInfoModel::genPlainTextFromScript() {
-    genPlainTextValues(QPointer<PackageInfoModel>(this));
-    for (const auto &behavior : guarded(behaviors())) {
+    const QPointer<PackageInfoModel> living(this);
+    genPlainTextValues(living);
+    for (const auto &behavior : living ? guarded(behaviors()) : guarded<BehaviorInfoModel>({})) {
         genPlainTextValues(behavior);
-        for (const RobotLanguage &language : copyOf(supportedLanguages())) {
+        for (const RobotLanguage &language : living ? supportedLanguages() : RobotLanguages()) {
             if (!isXScrpolLanguage(language))
                 genPlainTextLists(behavior, language);
         }

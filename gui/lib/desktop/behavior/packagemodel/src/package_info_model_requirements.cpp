@@ -1,5 +1,6 @@
 #include <packagemodel/package_info_model.h>
 
+#include "copies.h"
 #include "package_info_data.h"
 
 namespace Zel {
@@ -41,8 +42,9 @@ void resync(RequirementList<Requirement> &list, Tano::PackageInfo &record) {
 
 template<typename Requirement>
 void add(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
-         const Requirement &requirement) {
+         const Requirement &newRequirement) {
     using Kind = RequirementKind<Requirement>;
+    const Requirement requirement = copyOf(newRequirement);
     list.items.append(requirement);
     if (list.isMirrored)
         (record.*Kind::append)(Kind::toRecord(requirement));
@@ -53,9 +55,10 @@ void add(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Req
 
 template<typename Requirement>
 bool update(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
-            int index, const Requirement &requirement) {
+            int index, const Requirement &newRequirement) {
     if (index < 0 || index >= list.items.size())
         return false;
+    const Requirement requirement = copyOf(newRequirement);
     list.items[index] = requirement;
     resync(list, record);
     Q_EMIT(model->*RequirementKind<Requirement>::updated)(index, requirement);
@@ -74,6 +77,14 @@ bool remove(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<
 }
 
 } // namespace
+
+void PackageInfoModel::resyncRobotRequirements() {
+    resync(m_data->robotRequirements, m_data->edit());
+}
+
+void PackageInfoModel::resyncBrioRequirements() {
+    resync(m_data->brioRequirements, m_data->edit());
+}
 
 QVector<RobotRequirement> PackageInfoModel::robotRequirements() const {
     return m_data->robotRequirements.items;

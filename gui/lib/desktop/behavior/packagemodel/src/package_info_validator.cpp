@@ -4,6 +4,9 @@
 
 #include "meta_types.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace Zel {
 namespace {
 
@@ -18,14 +21,23 @@ bool turns(std::set<Kind> &kinds, Kind kind, bool set) {
     return kinds.empty() != wasEmpty;
 }
 
-// Runs a check of the package that a message tells all about, and announces its outcome.
-void runCheck(PackageInfoValidator &validator, const PackageInfoModel *package,
+// Runs a check of the package whose messages say everything, and announces its outcome.
+void runCheck(PackageInfoValidator *validator, const PackageInfoModel *package,
               bool (*check)(const PackageInfoModel *, QStringList &), PackageError error,
               void (PackageInfoValidator::*announce)(bool) const) {
+    if (!package)
+        return;
+    const QPointer<PackageInfoValidator> living(validator);
     QStringList messages;
     const bool isValid = check(package, messages);
-    validator.setPackageErrors(error, !isValid);
-    Q_EMIT(validator.*announce)(isValid);
+    validator->setPackageErrors(error, !isValid);
+    if (living)
+        Q_EMIT(validator->*announce)(isValid);
+}
+
+bool isChild(const PackageInfoModel &package, const BehaviorInfoModel *behavior) {
+    const auto behaviors = package.behaviors();
+    return std::find(behaviors.begin(), behaviors.end(), behavior) != behaviors.end();
 }
 
 } // namespace
@@ -62,16 +74,16 @@ void PackageInfoValidator::activate() {
 
     const auto behaviors = m_package->behaviors();
     for (const BehaviorInfoModel *behavior : behaviors)
-        onBehaviorAdded(behavior);
+        listenTo(behavior);
     validateAll();
 }
 
 void PackageInfoValidator::deactivate() {
     m_active = false;
-    if (m_package) {
+    if (m_package)
         disconnect(m_package, nullptr, this, nullptr);
-        const auto behaviors = m_package->behaviors();
-        for (const BehaviorInfoModel *behavior : behaviors)
+    for (const auto &behavior : std::exchange(m_heard, {})) {
+        if (behavior)
             disconnect(behavior, nullptr, this, nullptr);
     }
     m_packageErrors.clear();
@@ -79,12 +91,18 @@ void PackageInfoValidator::deactivate() {
 }
 
 void PackageInfoValidator::validateAll() {
-    validateUID();
-    validateRobotRequirements();
-    validateBrioRequirements();
-    validateApplicationNames();
-    validateApplicationDescriptions();
-    validateBehaviorTriggerSentences();
+    using Check = void (PackageInfoValidator::*)();
+    constexpr Check checks[]{&PackageInfoValidator::validateUID,
+                             &PackageInfoValidator::validateRobotRequirements,
+                             &PackageInfoValidator::validateBrioRequirements,
+                             &PackageInfoValidator::validateApplicationNames,
+                             &PackageInfoValidator::validateApplicationDescriptions,
+                             &PackageInfoValidator::validateBehaviorTriggerSentences};
+    const QPointer<PackageInfoValidator> living(this);
+    for (const Check check : checks) {
+        if (living)
+            (this->*check)();
+    }
 }
 
 QList<const BehaviorInfoModel *> PackageInfoValidator::behaviorInErrors() const {
@@ -97,46 +115,55 @@ QList<const BehaviorInfoModel *> PackageInfoValidator::behaviorInErrors() const 
 }
 
 void PackageInfoValidator::setPackageErrors(PackageError error, bool set) {
-    if (turns(m_packageErrors, error, set))
+    if (m_package && turns(m_packageErrors, error, set))
         Q_EMIT packageHasErrorsChanged(!m_packageErrors.empty());
 }
 
 void PackageInfoValidator::setPackageWarnings(PackageWarning warning, bool set) {
-    if (turns(m_packageWarnings, warning, set))
+    if (m_package && turns(m_packageWarnings, warning, set))
         Q_EMIT packageHasWarningsChanged(!m_packageWarnings.empty());
 }
 
 void PackageInfoValidator::validateUID() {
-    runCheck(*this, m_package, PackageModel::validatePackageUID, PackageError::InvalidUID,
+    runCheck(this, m_package, PackageModel::validatePackageUID, PackageError::InvalidUID,
              &PackageInfoValidator::applicationUIDStateChanged);
 }
 
 void PackageInfoValidator::validateRobotRequirements() {
-    runCheck(*this, m_package, PackageModel::validateRobotRequirements,
+    runCheck(this, m_package, PackageModel::validateRobotRequirements,
              PackageError::InvalidRobotRequirements,
              &PackageInfoValidator::robotRequirementsStateChanged);
 }
 
 void PackageInfoValidator::validateBrioRequirements() {
-    runCheck(*this, m_package, PackageModel::validateBrioRequirements,
+    runCheck(this, m_package, PackageModel::validateBrioRequirements,
              PackageError::InvalidBrioRequirements,
              &PackageInfoValidator::brioRequirementsStateChanged);
 }
 
 void PackageInfoValidator::validateApplicationNames() {
+    if (!m_package)
+        return;
+    const QPointer<PackageInfoValidator> living(this);
     RobotLanguages missingDefault;
     RobotLanguages missingOthers;
     PackageModel::validateApplicationNames(m_package, missingDefault, missingOthers);
     setPackageErrors(PackageError::MissingDefaultName, !missingDefault.empty());
-    setPackageWarnings(PackageWarning::MissingNames, !missingOthers.empty());
-    Q_EMIT applicationNamesStateChanged(missingDefault, missingOthers);
+    if (living)
+        setPackageWarnings(PackageWarning::MissingNames, !missingOthers.empty());
+    if (living)
+        Q_EMIT applicationNamesStateChanged(missingDefault, missingOthers);
 }
 
 void PackageInfoValidator::validateApplicationDescriptions() {
+    if (!m_package)
+        return;
+    const QPointer<PackageInfoValidator> living(this);
     RobotLanguages missing;
     const bool isValid = PackageModel::validateApplicationDescriptions(m_package, missing);
     setPackageWarnings(PackageWarning::MissingDescriptions, !isValid);
-    Q_EMIT applicationDescriptionsStateChanged(missing);
+    if (living)
+        Q_EMIT applicationDescriptionsStateChanged(missing);
 }
 
 void PackageInfoValidator::validateTriggerSentences(const BehaviorInfoModel *behaviorToShow) {
@@ -151,27 +178,38 @@ void PackageInfoValidator::validateTriggerSentences(const BehaviorInfoModel *beh
 void PackageInfoValidator::validateBehaviorTriggerSentences() {
     if (!m_package)
         return;
-    // Receivers may remove behaviors meanwhile.
+    // Receivers may remove behaviors meanwhile, and delete the validator.
+    const QPointer<PackageInfoValidator> living(this);
     const auto behaviors = m_package->behaviors();
     std::vector<QPointer<const BehaviorInfoModel>> guarded(behaviors.begin(), behaviors.end());
-    for (const auto &behavior : guarded)
-        validateTriggerSentences(behavior);
+    for (const auto &behavior : guarded) {
+        if (living)
+            validateTriggerSentences(behavior);
+    }
 }
 
 void PackageInfoValidator::onBehaviorAdded(const BehaviorInfoModel *addedBehavior) {
+    // A receiver before this one may have deleted it.
+    if (m_package && isChild(*m_package, addedBehavior))
+        listenTo(addedBehavior);
+}
+
+void PackageInfoValidator::listenTo(const BehaviorInfoModel *behavior) {
     using Behavior = BehaviorInfoModel;
     const auto listen = [&](auto... notifications) {
-        (connect(addedBehavior, notifications, this,
-                 &PackageInfoValidator::onBehaviorTriggerChanged),
+        (connect(behavior, notifications, this, &PackageInfoValidator::onBehaviorTriggerChanged),
          ...);
     };
     listen(&Behavior::userRequestableChanged, &Behavior::triggerSentenceAdded,
            &Behavior::triggerSentenceInserted, &Behavior::triggerSentenceRemoved,
            &Behavior::triggerSentenceUpdated);
+    m_heard.insert(behavior, behavior);
 }
 
 void PackageInfoValidator::onBehaviorRemoved(const BehaviorInfoModel *removedBehavior) {
-    disconnect(removedBehavior, nullptr, this, nullptr);
+    // A receiver before this one may have deleted it.
+    if (const auto behavior = m_heard.take(removedBehavior))
+        disconnect(behavior, nullptr, this, nullptr);
 }
 
 void PackageInfoValidator::onBehaviorTriggerChanged() {

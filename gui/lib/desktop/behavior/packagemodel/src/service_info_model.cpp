@@ -1,5 +1,6 @@
 #include <packagemodel/service_info_model.h>
 
+#include "copies.h"
 #include "meta_types.h"
 #include "service_info_data.h"
 
@@ -23,7 +24,7 @@ ServiceInfoModel::~ServiceInfoModel() = default;
 ServiceInfoModel &ServiceInfoModel::operator=(const ServiceInfoModel &other) {
     if (this != &other) {
         setParent(other.parent());
-        m_data->edit() = other.m_data->record();
+        m_data->editKey() = other.m_data->record();
     }
     return *this;
 }
@@ -54,15 +55,17 @@ void ServiceInfoModel::setAutoRun(bool value) {
 void ServiceInfoModel::setName(const QString &newName) {
     if (name() == newName)
         return;
-    m_data->edit().name = toUtf8(newName);
-    Q_EMIT nameChanged(newName);
+    const QString name = copyOf(newName);
+    m_data->editKey().name = toUtf8(name);
+    Q_EMIT nameChanged(name);
 }
 
 void ServiceInfoModel::setExecStart(const QString &newExecStart) {
     if (execStart() == newExecStart)
         return;
-    m_data->edit().execStart = toUtf8(newExecStart);
-    Q_EMIT execStartChanged(newExecStart);
+    const QString execStart = copyOf(newExecStart);
+    m_data->edit().execStart = toUtf8(execStart);
+    Q_EMIT execStartChanged(execStart);
 }
 
 } // namespace Zel

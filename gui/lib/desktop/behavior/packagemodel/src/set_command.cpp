@@ -21,6 +21,10 @@ PackageCommand::PackageCommand(PackageInfoModel *model)
 
 PackageCommand::~PackageCommand() = default;
 
+PackageInfoModel *PackageCommand::model() const {
+    return m_model;
+}
+
 BehaviorCommand::BehaviorCommand(PackageInfoModel *model, const QString &behaviorPath)
     : PackageCommand(model)
     , m_behaviorPath(behaviorPath) {

@@ -5,6 +5,7 @@
 #include <tano/behavior_info.h>
 #include <zel/language.h>
 
+#include <QMetaType>
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -178,3 +179,6 @@ private:
 };
 
 } // namespace Zel
+
+Q_DECLARE_METATYPE(const Zel::BehaviorInfoModel *)
+Q_DECLARE_METATYPE(Tano::BehaviorInfo)

@@ -5,6 +5,7 @@
 #include <tano/dialog_info.h>
 #include <zel/language.h>
 
+#include <QMetaType>
 #include <QObject>
 
 #include <memory>
@@ -59,3 +60,5 @@ private:
 };
 
 } // namespace Zel
+
+Q_DECLARE_METATYPE(Tano::DialogInfo)

@@ -16,12 +16,15 @@
 #include <QObject>
 #include <QVector>
 
+#include <functional>
 #include <iosfwd>
 #include <memory>
 
 class QFile;
 
 namespace Zel {
+
+class WholeChange;
 
 /// The observable model of one application package.
 ///
@@ -33,6 +36,9 @@ namespace Zel {
 /// The package owns the models of its behaviors, dialogs and services: they are its QObject
 /// children, and it deletes one after announcing its removal. When a child announces a change, the
 /// package brings the record's list up to date with its children.
+///
+/// Observers may edit, reload or delete the package, its children and themselves in every
+/// notification.
 class PACKAGEMODEL_EXPORT PackageInfoModel : public QObject {
     Q_OBJECT
 
@@ -52,14 +58,18 @@ public:
     /// that observers hear every change. The requirements that were there leave without
     /// notification. descriptions() keeps texts in languages in which `other` has none;
     /// the record ends as an exact copy.
+    ///
+    /// Of the edits that observers make meanwhile, those of the children stay and all others are
+    /// overwritten. An observer that assigns, clears or loads itself has the last word.
     PackageInfoModel &operator=(const PackageInfoModel &other);
 
     /// Resets to an empty package, by assignment.
     void clear();
 
-    // Reading and writing manifests. A load first resets the package as clear() does; where it
-    // fails, it returns false and the package stays reset. A success ends with
-    // loadedFromManifest(). packageInfo().errorString() tells why a load or a save failed.
+    // Reading and writing manifests. A load first resets the package as clear() does; if it fails,
+    // it returns false and the package stays reset. A success ends with loadedFromManifest(). A
+    // load also returns false if an observer of its notifications assigned, cleared or loaded
+    // something else. packageInfo().errorString() says why a load or a save failed.
 
     /// Reads a manifest, and "icon.png" beside it as the icon where there is a QGuiApplication.
     [[nodiscard]] bool loadFromManifestFile(const QString &path);
@@ -233,9 +243,10 @@ public Q_SLOTS:
     bool updateBrioRequirement(int brioReqIdx, const BrioRequirement &updatedBrioReq);
     bool removeBrioRequirement(int brioReqIdx);
 
-    // Children. One added by pointer belongs to the package from then on; if it was another
-    // package's, that one forgets it without notification. Adding a child that is there already, or
-    // a null pointer, does nothing. Removing returns false where there is no such child.
+    // Children. One added by pointer belongs to the package from then on; a package that it belongs
+    // to brings its record up to date and announces the removal first. Adding a child that is there
+    // already or is being removed, or a null pointer, does nothing. Removing returns false if there
+    // is no such child; the pointer may be dangling.
 
     /// Adds an empty behavior; returns false when there is one with that path.
     bool addBehavior(const QString &behaviorPath);
@@ -266,8 +277,15 @@ public Q_SLOTS:
     void setIcon(const QIcon &newIcon);
 
 private:
-    void initFromPackage();
+    void assign(const PackageInfoModel &other, const WholeChange &change);
+    bool load(const std::function<bool(Tano::PackageInfo &)> &read,
+              const std::function<void()> &readIcon);
+    bool initFromPackage(const Tano::PackageInfo &loaded, const WholeChange &change);
     void readVersionFromPackage();
+    void readCaches(const Tano::PackageInfo &loaded);
+    void createBehaviors(const Tano::PackageInfo &record);
+    void resyncRobotRequirements();
+    void resyncBrioRequirements();
 
     struct Data;
     std::unique_ptr<Data> m_data;

@@ -3,6 +3,7 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/packagemodel_export.h>
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -36,14 +37,21 @@ enum class BehaviorError {
 /// Between activate() and deactivate() it listens to the package and its behaviors and re-runs the
 /// one check that a change concerns. Each run announces its outcome, changed or not; the two
 /// summaries, packageHasErrorsChanged() and packageHasWarningsChanged(), are sent only when the set
-/// of errors or warnings becomes empty or ceases to be. The sentences are those of
-/// PackageModel::validate().
+/// of errors or warnings becomes empty or ceases to be. PackageModel::validate() has the sentences.
+///
+///     PackageInfoValidator validator(&package);
+///     connect(&validator, &PackageInfoValidator::packageHasErrorsChanged, saveAction,
+///             &QAction::setDisabled);
+///     validator.activate();
 ///
 /// Two things differ from the messages on purpose: a missing name in the default language is an
-/// error here, and the errors of behaviors are no part of the summary.
+/// error here, and the errors of behaviors are not part of the summary.
 ///
-/// The package is not owned. It should outlive the validator, or the validator be deactivated
-/// first.
+/// The validator hears single edits only. After a load, clear(), an assignment or trimming, and
+/// after Language::setDefaultLanguage(), call validateAll(), and deactivate() and activate() again
+/// if the package was loaded: the models of loaded behaviors are new and come without notification.
+///
+/// The package is not owned. Once it is gone, the validator stays silent.
 class PACKAGEMODEL_EXPORT PackageInfoValidator : public QObject {
     Q_OBJECT
 
@@ -72,6 +80,15 @@ public:
     void setPackageErrors(PackageError error, bool set);
     void setPackageWarnings(PackageWarning warning, bool set);
 
+    /// The kinds of errors of the package itself at the last checks; those of behaviors are in
+    /// behaviorInErrors().
+    [[nodiscard]] const std::set<PackageError> &packageErrors() const { return m_packageErrors; }
+    [[nodiscard]] const std::set<PackageWarning> &packageWarnings() const {
+        return m_packageWarnings;
+    }
+    [[nodiscard]] bool hasErrors() const { return !m_packageErrors.empty(); }
+    [[nodiscard]] bool hasWarnings() const { return !m_packageWarnings.empty(); }
+
 Q_SIGNALS:
     void applicationUIDStateChanged(bool validState) const;
     void robotRequirementsStateChanged(bool validState) const;
@@ -99,7 +116,10 @@ private Q_SLOTS:
     void onBehaviorTriggerChanged();
 
 private:
+    void listenTo(const BehaviorInfoModel *behavior);
+
     QPointer<const PackageInfoModel> m_package;
+    QHash<const BehaviorInfoModel *, QPointer<const BehaviorInfoModel>> m_heard;
     std::set<PackageError> m_packageErrors;
     std::set<PackageWarning> m_packageWarnings;
     std::map<const BehaviorInfoModel *, std::set<BehaviorError>> m_behaviorErrors;

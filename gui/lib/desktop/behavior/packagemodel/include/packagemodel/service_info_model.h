@@ -4,6 +4,7 @@
 
 #include <tano/package_service.h>
 
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 
@@ -51,3 +52,5 @@ private:
 };
 
 } // namespace Zel
+
+Q_DECLARE_METATYPE(Tano::PackageService)

@@ -5,6 +5,7 @@
 #include <zel/software_version.h>
 
 #include <QIcon>
+#include <QPointer>
 #include <QString>
 #include <QUndoCommand>
 
@@ -16,21 +17,24 @@ class PackageInfoModel;
 
 /// The base of every undoable edit of a package.
 ///
-/// A command belongs to the undo stack that it is pushed on; the package has to outlive it. What it
-/// edits within the package it looks up by a key at each step, so that entries may come and go
-/// meanwhile: a step whose entry is not there changes nothing, and a command that is made for an
-/// entry that is not there takes an empty text for the old value.
+/// The undo stack that a command is pushed on owns it. A command looks up the entry that it edits
+/// by a key at each step, so that entries may come and go: a step whose entry or package is gone
+/// changes nothing, and a command that is made for an entry that is not there takes an empty text
+/// for the old value.
 class PACKAGEMODEL_EXPORT PackageCommand : public QUndoCommand {
 public:
     explicit PackageCommand(PackageInfoModel *model);
     ~PackageCommand() override;
 
+    void undo() override = 0;
+    void redo() override = 0;
+
 protected:
-    /// The package being edited, which the command does not own.
-    [[nodiscard]] PackageInfoModel *model() const { return m_model; }
+    /// The package being edited, which the command does not own; null once it is gone.
+    [[nodiscard]] PackageInfoModel *model() const;
 
 private:
-    PackageInfoModel *m_model;
+    QPointer<PackageInfoModel> m_model;
 };
 
 /// The base of every undoable edit of one behavior, found by its path.

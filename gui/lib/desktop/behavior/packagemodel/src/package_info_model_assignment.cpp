@@ -1,0 +1,229 @@
+#include <packagemodel/package_info_model.h>
+
+#include "localized_texts.h"
+#include "package_icon.h"
+#include "package_info_data.h"
+#include "whole_change.h"
+
+#include <memory>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace Zel {
+namespace {
+
+// Copies of the children of one kind, and their records when they were copied.
+template<typename Child>
+struct ChildCopies {
+    template<typename Copy>
+    ChildCopies(const QVector<Child *> &children, Copy copy) {
+        for (const Child *child : children) {
+            models.emplace_back(copy(*child));
+            models.back()->setParent(nullptr);
+            records.push_back(ChildAccess::data(*child).record());
+        }
+    }
+
+    std::vector<std::unique_ptr<Child>> models;
+    std::vector<typename ChildKind<Child>::Record> records;
+};
+
+// A package as it is when its assignment starts: receivers may change it meanwhile, or delete it.
+struct Snapshot {
+    explicit Snapshot(const PackageInfoModel &package)
+        : source(&package)
+        , record(package.packageInfo())
+        , version(package.version())
+        , names(package.names())
+        , descriptions(package.descriptions())
+        , supportedLanguages(package.supportedLanguages())
+        , descriptionLanguages(package.descriptionLanguages())
+        , robotRequirements(package.robotRequirements())
+        , brioRequirements(package.brioRequirements())
+        , behaviors(package.behaviors(), [](auto &child) { return new BehaviorInfoModel(child); })
+        , dialogs(package.dialogs(), [](auto &child) { return new DialogInfoModel(child); })
+        , services(package.services(),
+                   [](auto &child) { return new ServiceInfoModel(child, nullptr); }) {}
+
+    QPointer<const PackageInfoModel> source; // of the icon
+    Tano::PackageInfo record;
+    SoftwareVersion version;
+    Language::LocalizedStrings names;
+    Language::LocalizedStrings descriptions;
+    RobotLanguages supportedLanguages;
+    RobotLanguages descriptionLanguages;
+    QVector<RobotRequirement> robotRequirements;
+    QVector<BrioRequirement> brioRequirements;
+    ChildCopies<BehaviorInfoModel> behaviors;
+    ChildCopies<DialogInfoModel> dialogs;
+    ChildCopies<ServiceInfoModel> services;
+};
+
+class Assignment {
+public:
+    Assignment(const PackageInfoModel &from, PackageInfoModel &to, const WholeChange &change)
+        : m_from(from)
+        , m_to(to)
+        , m_change(change) {}
+
+    const Snapshot &source() const { return m_from; }
+
+    // All steps until the requirements; each announces what it changes.
+    void copyFields();
+    void copyChildren();
+    void copyDescriptions() { copyTexts(m_from.descriptions, &PackageInfoModel::setDescription); }
+
+    // Takes a step for each value, as long as the assignment is current.
+    template<typename Values, typename Step>
+    void forEach(Values &&values, Step step) {
+        for (auto &value : values) {
+            if (!m_change.isCurrent())
+                return;
+            step(value);
+        }
+    }
+
+private:
+    void copyText(const std::string &text, void (PackageInfoModel::*set)(const QString &)) {
+        if (m_change.isCurrent())
+            (m_to.*set)(fromUtf8(text));
+    }
+    void copyTexts(const Language::LocalizedStrings &texts,
+                   void (PackageInfoModel::*set)(const QString &, const RobotLanguage &)) {
+        forEach(texts, [&](const auto &text) { (m_to.*set)(text.first, text.second); });
+    }
+    // Removes the languages of a list, then adds those of the other package.
+    void replaceLanguages(const RobotLanguages &(PackageInfoModel::*current)() const,
+                          void (PackageInfoModel::*remove)(const RobotLanguage &),
+                          const RobotLanguages &added,
+                          void (PackageInfoModel::*add)(const RobotLanguage &));
+    template<typename Child>
+    void addCopies(ChildCopies<Child> &copies, void (PackageInfoModel::*add)(Child *)) {
+        forEach(copies.models, [&](auto &model) { (m_to.*add)(model.release()); });
+    }
+
+    Snapshot m_from;
+    PackageInfoModel &m_to;
+    const WholeChange &m_change;
+};
+
+void Assignment::copyFields() {
+    using Package = PackageInfoModel;
+    m_to.setVersion(m_from.version);
+    copyText(m_from.record.author(), &Package::setAuthor);
+    copyText(m_from.record.channel(), &Package::setChannel);
+    copyText(m_from.record.date(), &Package::setDate);
+    if (m_change.isCurrent() && m_from.source)
+        copyIcon(*m_from.source, m_to);
+    copyText(m_from.record.installer(), &Package::setInstaller);
+    copyText(m_from.record.organization(), &Package::setOrganization);
+    copyText(m_from.record.path(), &Package::setPath);
+    copyText(m_from.record.typeVersion(), &Package::setTypeVersion);
+    copyText(m_from.record.uuid(), &Package::setUid);
+
+    if (m_change.isCurrent())
+        m_to.clearNames();
+    copyTexts(m_from.names, &Package::setName);
+    replaceLanguages(&Package::supportedLanguages, &Package::removeSupportedLanguage,
+                     m_from.supportedLanguages, &Package::addSupportedLanguage);
+    replaceLanguages(&Package::descriptionLanguages, &Package::removeDescriptionLanguage,
+                     m_from.descriptionLanguages, &Package::addDescriptionLanguage);
+}
+
+void Assignment::replaceLanguages(const RobotLanguages &(PackageInfoModel::*current)() const,
+                                  void (PackageInfoModel::*remove)(const RobotLanguage &),
+                                  const RobotLanguages &added,
+                                  void (PackageInfoModel::*add)(const RobotLanguage &)) {
+    if (!m_change.isCurrent())
+        return;
+    const RobotLanguages removed = (m_to.*current)();
+    forEach(removed, [&](const RobotLanguage &language) { (m_to.*remove)(language); });
+    forEach(added, [&](const RobotLanguage &language) { (m_to.*add)(language); });
+}
+
+void Assignment::copyChildren() {
+    using Package = PackageInfoModel;
+    if (m_change.isCurrent())
+        m_to.clearBehaviors();
+    addCopies<BehaviorInfoModel>(m_from.behaviors, &Package::addBehavior);
+    if (m_change.isCurrent()) {
+        forEach(guarded(m_to.dialogs()), [&](const QPointer<DialogInfoModel> &dialog) {
+            if (dialog)
+                m_to.removeDialog(dialog.data());
+        });
+    }
+    addCopies<DialogInfoModel>(m_from.dialogs, &Package::addDialog);
+    if (m_change.isCurrent())
+        m_to.clearServices();
+    addCopies<ServiceInfoModel>(m_from.services, &Package::addService);
+}
+
+// Makes a cache agree with the record; of the texts that the record lacks, only `kept` stay. An
+// empty text is as good as none.
+void reconcile(Language::LocalizedStrings &cache, const Tano::TextMap &record,
+               const Language::LocalizedStrings &kept = {}) {
+    Language::LocalizedStrings texts;
+    std::set<std::string> cached;
+    for (auto &entry : cache) {
+        const auto found = record.find(codeOf(entry.second));
+        if (found != record.end())
+            entry.first = fromUtf8(found->second);
+        if (found != record.end() || std::find(kept.begin(), kept.end(), entry) != kept.end())
+            texts.push_back(entry);
+        cached.insert(codeOf(entry.second));
+    }
+    for (const auto &[code, text] : record) {
+        if (!text.empty() && cached.count(code) == 0)
+            texts.emplace_back(fromUtf8(text), languageFromCode(code));
+    }
+    cache = std::move(texts);
+}
+
+} // namespace
+
+void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &change) {
+    const Language::LocalizedStrings oldDescriptions = m_data->descriptions;
+    Assignment assignment(other, *this, change);
+    const Snapshot &source = assignment.source();
+    assignment.copyFields();
+    assignment.copyChildren();
+    assignment.copyDescriptions();
+    if (!change.isCurrent())
+        return;
+    m_data->robotRequirements = {};
+    assignment.forEach(source.robotRequirements,
+                       [&](const auto &requirement) { addRobotRequirement(requirement); });
+    if (!change.isCurrent())
+        return;
+    m_data->brioRequirements = {};
+    assignment.forEach(source.brioRequirements,
+                       [&](const auto &requirement) { addBrioRequirement(requirement); });
+    if (!change.isCurrent())
+        return;
+
+    // Edits by receivers end here, except those of the children, which others may refer to.
+    m_data->edit() = source.record;
+    m_data->version = source.version;
+    m_data->supportedLanguages = source.supportedLanguages;
+    m_data->descriptionLanguages = source.descriptionLanguages;
+    reconcile(m_data->names, source.record.names());
+    reconcile(m_data->descriptions, source.record.descriptions(), oldDescriptions);
+    m_data->robotRequirements = {source.robotRequirements};
+    m_data->brioRequirements = {source.brioRequirements};
+    m_data->behaviors.settle(source.behaviors.records);
+    m_data->dialogs.settle(source.dialogs.records);
+    m_data->services.settle(source.services.records);
+}
+
+PackageInfoModel &PackageInfoModel::operator=(const PackageInfoModel &other) {
+    if (this != &other)
+        assign(other, WholeChange(this, m_data->wholeChanges));
+    return *this;
+}
+
+void PackageInfoModel::clear() {
+    *this = PackageInfoModel();
+}
+
+} // namespace Zel
