@@ -196,8 +196,8 @@ private Q_SLOTS:
         const QString missing = arrange(how);
         if (!missing.isEmpty())
             QSKIP(qPrintable(QStringLiteral("the file system does not have it: ") + missing));
-        if (how == QLatin1String("acl") && !asRoot)
-            QCOMPARE(chown(qPrintable(m_path), somebody, getgid()), isRoot ? 0 : -1);
+        if (isRoot && how == QLatin1String("acl") && !asRoot)
+            QCOMPARE(chown(qPrintable(m_path), somebody, somebody), 0);
         const QString before = attributesOf(m_path);
         const std::string error =
             inChild([this] { return save("new"); }, isRoot && !asRoot ? somebody : getuid());
@@ -326,7 +326,9 @@ private Q_SLOTS:
             if (how != QLatin1String("new")) {
                 QVERIFY(save("old"));
                 chmod(qPrintable(m_path), 0640);
-                QCOMPARE(arrange(how), QString());
+                const QString missing = arrange(how);
+                if (!missing.isEmpty())
+                    QSKIP(qPrintable(missing));
             }
             const QStringList before = files();
             const std::string old = contentOf(m_path);
@@ -358,9 +360,7 @@ private Q_SLOTS:
                 [&] {
                     const rlimit limit{50000, RLIM_INFINITY};
                     setrlimit(RLIMIT_FSIZE, &limit);
-                    auto result = action();
-                    raise(SIGCONT); // a pending signal would end it now
-                    return result;
+                    return action();
                 },
                 getuid());
         };
@@ -382,7 +382,8 @@ private Q_SLOTS:
             QFile file(m_path);
             if (!file.open(mode))
                 return QStringLiteral("not open");
-            static_cast<void>(file.peek(2)); // fills a buffer
+            if (file.isReadable())
+                static_cast<void>(file.peek(2)); // fills a buffer
             const auto result = Tano::saveToOpenFile(file, "much longer");
             return result ? QString::number(file.pos())
                           : QString::fromStdString(result.error).section(QStringLiteral(": "), 1);
