@@ -31,6 +31,7 @@ struct Fault {
     std::function<void()> instead = {};   // is called, and the call succeeds
     std::map<std::string, int> seen = {}; // how often each was called
     bool isArmed = false;
+    int error = 0; // instead of the usual one
 };
 
 Fault fault;
@@ -47,7 +48,7 @@ auto failOrCall(Function *function, const char *name, int error, Arguments... ar
             fault.instead();
             return real(arguments...);
         }
-        errno = error;
+        errno = fault.error != 0 ? fault.error : error;
         return decltype(function(arguments...))(-1);
     }
     return real(arguments...);
@@ -232,6 +233,20 @@ private Q_SLOTS:
         if (way == Way::InPlace)
             after += QStringLiteral("second");
         QCOMPARE(files(), after);
+    }
+
+    // One file can be mounted into a folder; then it cannot be replaced.
+    void mountedFilesAreOverwritten() {
+        makeFiles(Way::Replaced);
+        fault.isArmed = true;
+        fault.call = "rename";
+        fault.number = 1;
+        fault.error = EBUSY;
+        const auto result = save(Way::Replaced);
+        fault = {};
+        QVERIFY2(result.error.empty(), result.error.c_str());
+        QCOMPARE(contentOf(m_path), m_new);
+        QCOMPARE(files().size(), 1);
     }
 
     // An edit that comes while the copy is synced is not lost.

@@ -35,7 +35,7 @@ void removeIfStale(const std::string &path) {
         ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     struct stat status = {};
     if (file && ::fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
-        true)
+        tryReadLock(file.number()) == Lock::Taken)
         ::unlink(path.c_str());
 }
 
