@@ -344,14 +344,23 @@ private Q_SLOTS:
     }
 
     void unreadableFilesAreExplained() {
-        PackageInfo package;
-        QFile missing(QStringLiteral("/no/such/manifest.xml"));
-        QVERIFY(!package.loadFromManifestFile(missing));
-        QCOMPARE(package.errorString(),
-                 std::string("The file cannot be opened: No such file or directory."));
-        QFile folder(QStringLiteral("/"));
-        QVERIFY(!package.loadFromManifestFile(folder));
-        QVERIFY(!package.errorString().empty());
+        QTemporaryDir dir;
+        const QString large = dir.filePath(QStringLiteral("large.xml"));
+        QVERIFY(QFile(large).open(QIODevice::WriteOnly));
+        QVERIFY(QFile::resize(large, qint64(3) << 30)); // takes no room on the disk
+        const QString missing = QStringLiteral("/no/such/manifest.xml");
+        for (const auto &[path, reason] :
+             {std::pair(missing, "opened: No such file or directory"),
+              std::pair(dir.path(), "opened: Is a directory"),
+              std::pair(QStringLiteral("/dev/zero"), "read: it is a device"),
+              std::pair(large, "read: it is larger than 1 GiB")}) {
+            QFile file(path);
+            PackageInfo package;
+            QVERIFY(!package.loadFromManifestFile(file));
+            QCOMPARE(
+                QString::fromStdString(package.errorString()),
+                QStringLiteral("The file \"%1\" cannot be %2.").arg(path, QLatin1String(reason)));
+        }
     }
 };
 

@@ -285,6 +285,37 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(icon));
     }
 
+    // Manifest and icon are saved both or not at all, and a failure is not another program's edit.
+    void refusesALinkedIcon() {
+        const QString fileName = copyOf("small");
+        const QString icon = QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png"));
+        const QString target = QFileInfo(fileName).dir().filePath(QStringLiteral("target"));
+        writeTo(target, "kept");
+        QVERIFY(QFile::link(target, icon));
+        QVERIFY(m_window->openFile(fileName));
+        const QByteArray before = contentOf(fileName);
+        drop(m_window->findChild<IconButton *>(),
+             QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/ten-languages/icon.png"));
+        field("&Author:")->setFocus();
+        replaceText(QStringLiteral("typed"));
+        Answer answer(QMessageBox::Ok);
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(answer.isGiven());
+        QVERIFY2(answer.text.contains(QStringLiteral("symbolic link")), qPrintable(answer.text));
+        QCOMPARE(contentOf(target), QByteArray("kept"));
+        QCOMPARE(contentOf(fileName), before);
+        QVERIFY(m_window->isWindowModified());
+        QCOMPARE(m_window->document().checkDisk(), Document::DiskState::Same);
+
+        QVERIFY(QFile::remove(icon));
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(contentOf(icon).startsWith("\x89PNG"));
+        QVERIFY(contentOf(fileName).contains("typed"));
+        writeTo(fileName, "another program's");
+        QVERIFY(!m_window->document().save(fileName)); // without a look at the disk before
+        QCOMPARE(contentOf(fileName), QByteArray("another program's"));
+    }
+
     void tellsWhyAFileCannotBeRead() {
         QVERIFY(m_window->openFile(copyOf("small")));
         const QString name = field("&UID:")->text();

@@ -266,12 +266,8 @@
 <context>
     <name>Editor::Document</name>
     <message>
-        <source>The icon %1 cannot be removed.</source>
-        <translation>L&apos;icône %1 ne peut pas être supprimée.</translation>
-    </message>
-    <message>
-        <source>The icon %1 cannot be written: %2</source>
-        <translation>L&apos;icône %1 ne peut pas être écrite&#xa0;: %2</translation>
+        <source>The icon cannot be converted to PNG.</source>
+        <translation>L&apos;icône ne peut pas être convertie en PNG.</translation>
     </message>
 </context>
 <context>

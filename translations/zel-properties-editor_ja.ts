@@ -266,12 +266,8 @@
 <context>
     <name>Editor::Document</name>
     <message>
-        <source>The icon %1 cannot be removed.</source>
-        <translation>アイコン %1 を削除できません。</translation>
-    </message>
-    <message>
-        <source>The icon %1 cannot be written: %2</source>
-        <translation>アイコン %1 に書き込めません: %2</translation>
+        <source>The icon cannot be converted to PNG.</source>
+        <translation>アイコンを PNG に変換できません。</translation>
     </message>
 </context>
 <context>

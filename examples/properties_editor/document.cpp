@@ -4,11 +4,9 @@
 
 #include <packagemodel/set_command.h>
 
-#include <QCryptographicHash>
+#include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -20,15 +18,6 @@ using Zel::PackageInfoModel;
 using Zel::PackageInfoValidator;
 using Zel::PackageModel::Issue;
 using Zel::PackageModel::Severity;
-
-// Empty for a file that cannot be read.
-QByteArray digestOf(const QString &fileName) {
-    if (fileName.isEmpty())
-        return {};
-    QFile file(fileName);
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
-}
 
 qint64 keyOf(const QIcon &icon) {
     return icon.isNull() ? 0 : icon.cacheKey();
@@ -59,12 +48,14 @@ Document::~Document() {
 }
 
 bool Document::open(const QString &fileName) {
+    // Taken first: an edit that comes while the file is read is noticed later.
+    const auto content = Tano::FileFingerprint::ofFile(Zel::toUtf8(fileName));
     auto package = std::make_unique<PackageInfoModel>();
     if (!package->loadFromManifestFile(fileName)) {
         m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
         return false;
     }
-    replacePackage(std::move(package), QFileInfo(fileName).absoluteFilePath());
+    replacePackage(std::move(package), QFileInfo(fileName).absoluteFilePath(), content);
     return true;
 }
 
@@ -74,45 +65,59 @@ bool Document::openTemplate(const QByteArray &manifest) {
         m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
         return false;
     }
-    replacePackage(std::move(package), QString());
+    replacePackage(std::move(package), QString(), {});
     return true;
 }
 
 bool Document::save(const QString &fileName) {
     closeRun();
     m_package->syncRecord();
-    if (!m_package->saveToManifestFile(fileName)) {
+    Tano::FileToSave manifest;
+    manifest.path = Zel::toUtf8(fileName);
+    manifest.bytes = m_package->packageInfo().saveToManifestContent();
+    if (manifest.bytes->empty()) {
         m_errorString = Zel::fromUtf8(m_package->packageInfo().errorString());
         return false;
     }
-    if (!saveIcon(fileName))
+    const QString path = QFileInfo(fileName).absoluteFilePath();
+    if (path == m_fileName)
+        manifest.expected = m_seenOnDisk;
+    const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
+    std::vector<Tano::FileToSave> files{std::move(manifest)};
+    if (!addIcon(fileName, files))
         return false;
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
+    if (const auto result = Tano::saveFiles(files); !result) {
+        m_errorString = Zel::fromUtf8(result.error);
+        return false;
+    }
+    m_fileName = path;
     m_savedIcon = keyOf(m_package->icon());
-    rememberDisk();
+    rememberDisk(written);
     m_undoStack.setClean();
     Q_EMIT fileNameChanged();
     return true;
 }
 
-bool Document::saveIcon(const QString &manifest) {
+bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files) {
     const QIcon icon = m_package->icon();
     const QDir directory = QFileInfo(manifest).absoluteDir();
     const bool isElsewhere = directory != QFileInfo(m_fileName).absoluteDir();
-    if (keyOf(icon) == m_savedIcon && !(isElsewhere && !icon.isNull()))
+    const bool isSame = keyOf(icon) == m_savedIcon;
+    if (isElsewhere ? icon.isNull() : isSame)
         return true;
-    const QString fileName = directory.filePath(QStringLiteral("icon.png"));
-    if (icon.isNull()) {
-        if (isElsewhere || !QFile::exists(fileName) || QFile::remove(fileName))
-            return true;
-        m_errorString = tr("The icon %1 cannot be removed.").arg(fileName);
-        return false;
+    Tano::FileToSave file;
+    file.path = Zel::toUtf8(directory.filePath(QStringLiteral("icon.png")));
+    file.links = Tano::FileToSave::Links::Refuse;
+    if (!icon.isNull()) {
+        QBuffer buffer;
+        if (!largest(icon).save(&buffer, "PNG")) {
+            m_errorString = tr("The icon cannot be converted to PNG.");
+            return false;
+        }
+        file.bytes = buffer.data().toStdString();
     }
-    QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && largest(icon).save(&file, "PNG") && file.commit())
-        return true;
-    m_errorString = tr("The icon %1 cannot be written: %2").arg(fileName, file.errorString());
-    return false;
+    files.push_back(std::move(file));
+    return true;
 }
 
 bool Document::publish(const QString &fileName) {
@@ -131,16 +136,16 @@ bool Document::publish(const QString &fileName) {
 Document::DiskState Document::checkDisk() {
     if (m_fileName.isEmpty())
         return DiskState::Same;
-    const QByteArray digest = digestOf(m_fileName);
-    const DiskState state = digest.isEmpty()         ? DiskState::Vanished
-                            : digest == m_diskDigest ? DiskState::Same
-                                                     : DiskState::Changed;
+    const auto present = Tano::FileFingerprint::ofFile(Zel::toUtf8(m_fileName));
+    const DiskState state = present == Tano::FileFingerprint() ? DiskState::Vanished
+                            : present == m_onDisk              ? DiskState::Same
+                                                               : DiskState::Changed;
     // One that was replaced is not watched any more.
     if (state != DiskState::Vanished && !m_watcher.files().contains(m_fileName))
         m_watcher.addPath(m_fileName);
-    const bool isNew = state != m_reported || digest != m_reportedDigest;
+    const bool isNew = state != m_reported || present != m_seenOnDisk;
     m_reported = state;
-    m_reportedDigest = digest;
+    m_seenOnDisk = present;
     if (!isNew)
         return state;
     if (state == DiskState::Vanished)
@@ -149,18 +154,19 @@ Document::DiskState Document::checkDisk() {
     return state;
 }
 
-void Document::rememberDisk() {
+void Document::rememberDisk(const Tano::FileFingerprint &content) {
     const QStringList watched = m_watcher.files();
     if (!watched.isEmpty())
         m_watcher.removePaths(watched);
-    m_diskDigest = digestOf(m_fileName);
+    m_onDisk = content;
     m_reported = DiskState::Same;
-    m_reportedDigest = m_diskDigest;
+    m_seenOnDisk = content;
     if (!m_fileName.isEmpty())
         m_watcher.addPath(m_fileName);
 }
 
-void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const QString &fileName) {
+void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const QString &fileName,
+                              const Tano::FileFingerprint &content) {
     m_openRun = nullptr;
     {
         const QSignalBlocker blocker(m_undoStack);
@@ -171,7 +177,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
     m_savedIcon = keyOf(m_package->icon());
-    rememberDisk();
+    rememberDisk(content);
     watchPackage();
     ++m_behaviorTextsRevision;
     m_issuesStale = true;

@@ -4,7 +4,8 @@
 #include <packagemodel/package_info_validator.h>
 #include <packagemodel/package_issues.h>
 
-#include <QByteArray>
+#include <tano/save_file.h>
+
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QObject>
@@ -14,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace Editor {
 
@@ -45,7 +47,8 @@ public:
     bool open(const QString &fileName);
     /// Starts a package without a file from a manifest's text.
     bool openTemplate(const QByteArray &manifest);
-    /// Writes the manifest, and "icon.png" beside it when the icon has changed.
+    /// Writes the manifest, and "icon.png" beside it if the icon has changed, both or neither.
+    /// Fails if another program has changed the open file since checkDisk() last looked at it.
     bool save(const QString &fileName);
     /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
     bool publish(const QString &fileName);
@@ -87,13 +90,14 @@ Q_SIGNALS:
     void fileDiffers(Editor::Document::DiskState state);
 
 private:
-    void replacePackage(std::unique_ptr<Zel::PackageInfoModel> package, const QString &fileName);
+    void replacePackage(std::unique_ptr<Zel::PackageInfoModel> package, const QString &fileName,
+                        const Tano::FileFingerprint &content);
     void watchPackage();
     void watchBehavior(const Zel::BehaviorInfoModel *behavior);
     void finishEdit();
     void refreshIssues();
-    void rememberDisk();
-    bool saveIcon(const QString &manifest);
+    void rememberDisk(const Tano::FileFingerprint &content);
+    bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);
 
     std::unique_ptr<Zel::PackageInfoModel> m_package;
     std::unique_ptr<Zel::PackageInfoValidator> m_validator;
@@ -112,9 +116,9 @@ private:
     QString m_fileName;
     QString m_errorString;
     QFileSystemWatcher m_watcher;
-    QByteArray m_diskDigest;
+    Tano::FileFingerprint m_onDisk; // when last read or written
     DiskState m_reported = DiskState::Same;
-    QByteArray m_reportedDigest;
+    Tano::FileFingerprint m_seenOnDisk; // by checkDisk()
     qint64 m_savedIcon = 0;
 };
 

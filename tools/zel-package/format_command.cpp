@@ -37,7 +37,7 @@ ExitStatus rewrite(const QString &file, const Manifest &manifest, Console &conso
         console.printBytes(canonical);
         return Fine;
     }
-    if (manifest.content == canonical || manifest.package.saveToManifestFile(file.toStdString()))
+    if (manifest.content == canonical || saveIfUnchanged(file, manifest, manifest.package))
         return Fine;
     return tellFailure(file, manifest, console);
 }

@@ -1,6 +1,8 @@
 #include "manifest_source.h"
 
+#include <tano/input_file.h>
 #include <tano/manifest_reader.h>
+#include <tano/save_file.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -10,11 +12,33 @@
 namespace ZelPackage {
 namespace {
 
-bool openInput(QFile &input, const QString &file) {
-    if (isStandardStream(file))
-        return input.open(STDIN_FILENO, QIODevice::ReadOnly);
-    input.setFileName(file);
-    return input.open(QIODevice::ReadOnly);
+constexpr std::size_t pieceSize = std::size_t(64) << 10;
+
+// Returns why that failed.
+std::string openSource(QFile &input, const QString &file) {
+    if (!isStandardStream(file)) {
+        input.setFileName(file);
+        return Tano::openInput(input);
+    }
+    const bool isOpen = input.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    return isOpen ? std::string() : input.errorString().toStdString();
+}
+
+// Nothing where reading failed.
+std::optional<std::string> readAll(Tano::InputFile &input) {
+    std::string content;
+    if (!input.isSequential() && input.error().empty())
+        content.reserve(std::size_t(input.left()) + pieceSize);
+    for (;;) {
+        const std::size_t done = content.size();
+        content.resize(done + pieceSize);
+        const std::int64_t size = input.read(&content[done], pieceSize);
+        if (size < 0)
+            return {};
+        content.resize(done + std::size_t(size));
+        if (size == 0)
+            return content;
+    }
 }
 
 } // namespace
@@ -25,17 +49,16 @@ bool isStandardStream(const QString &file) {
 
 std::optional<std::string> readContent(const QString &file, QString &trouble) {
     QFile input;
-    if (!openInput(input, file)) {
+    if (const std::string reason = openSource(input, file); !reason.empty()) {
         trouble = QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
-                      .arg(input.errorString());
+                      .arg(QString::fromStdString(reason));
         return {};
     }
-    std::string content = input.readAll().toStdString();
-    if (input.error() != QFileDevice::NoError) {
+    Tano::InputFile source(input, Tano::ManifestReader::maxFileSize);
+    auto content = readAll(source);
+    if (!content)
         trouble = QCoreApplication::translate("zel-package", "The file cannot be read: %1.")
-                      .arg(input.errorString());
-        return {};
-    }
+                      .arg(QString::fromStdString(source.error()));
     return content;
 }
 
@@ -55,6 +78,11 @@ std::optional<Manifest> readManifest(const QString &file, Console &console) {
         return {};
     }
     return manifest;
+}
+
+bool saveIfUnchanged(const QString &file, const Manifest &read, const Tano::PackageInfo &package) {
+    return package.saveToManifestFile(file.toStdString(),
+                                      Tano::FileFingerprint::ofContent(read.content));
 }
 
 } // namespace ZelPackage

@@ -26,4 +26,9 @@ struct Manifest {
 /// Reads the manifest in `file`, "-" for standard input; where that fails, tells why and where.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);
 
+/// Saves a package to the file that a manifest was read from, unless another program has changed it
+/// since. After a failure, package.errorString() explains it.
+[[nodiscard]] bool saveIfUnchanged(const QString &file, const Manifest &read,
+                                   const Tano::PackageInfo &package);
+
 } // namespace ZelPackage

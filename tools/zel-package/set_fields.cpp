@@ -81,7 +81,7 @@ ExitStatus setFields(const QCommandLineParser &arguments, Console &console) {
     else if (isDone && isStandardStream(file))
         console.printBytes(content);
     else if (isDone && manifest->content != content)
-        isDone = record->saveToManifestFile(file.toStdString());
+        isDone = saveIfUnchanged(file, *manifest, *record);
     if (!isDone)
         console.tell(file, QString::fromStdString(record->errorString()));
     return isDone ? Fine : Failure;

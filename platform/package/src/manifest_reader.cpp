@@ -3,6 +3,8 @@
 #include "manifest_parser.h"
 #include "record_data.h"
 
+#include <tano/input_file.h>
+
 #include <QFile>
 
 #include <algorithm>
@@ -40,23 +42,27 @@ private:
     std::size_t m_done = 0;
 };
 
+std::string cannot(const char *what, const QFile &file, const std::string &reason) {
+    const std::string name = file.fileName().toStdString();
+    return (name.empty() ? "The file" : "The file \"" + name + '"') + " cannot be " + what + ": " +
+           reason + '.';
+}
+
 class FileSource {
 public:
     explicit FileSource(QFile &file)
         : m_file(file)
-        , m_start(file.pos()) {}
+        , m_input(file, ManifestReader::maxFileSize) {}
 
-    bool isSequential() const { return m_file.isSequential(); }
-    qint64 left() const { return m_file.size() - m_file.pos(); }
-    qint64 read(char *room, std::size_t size) { return m_file.read(room, qint64(size)); }
-    bool rewind() { return m_file.seek(m_start); }
-    std::string error() const {
-        return "The file cannot be read: " + m_file.errorString().toStdString() + '.';
-    }
+    bool isSequential() const { return m_input.isSequential(); }
+    qint64 left() const { return m_input.left(); }
+    qint64 read(char *room, std::size_t size) { return m_input.read(room, size); }
+    bool rewind() { return m_input.rewind(); }
+    std::string error() const { return cannot("read", m_file, m_input.error()); }
 
 private:
     QFile &m_file;
-    qint64 m_start;
+    InputFile m_input;
 };
 
 // How many bytes to ask a source for: where its end is known, one more than should be left, so that
@@ -128,10 +134,11 @@ bool ManifestReader::readContent(const std::string &content, PackageInfo &packag
 
 bool ManifestReader::readFile(QFile &file, PackageInfo &package) {
     const bool opensFile = !file.isOpen();
-    if (opensFile && !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        m_state->failure = {"The file cannot be opened: " + file.errorString().toStdString() + ".",
-                            {}};
-        return false;
+    if (opensFile) {
+        if (const std::string reason = openInput(file); !reason.empty()) {
+            m_state->failure = {cannot("opened", file, reason), {}};
+            return false;
+        }
     }
     const bool succeeded = m_state->read(FileSource(file), package);
     if (opensFile)

@@ -1,13 +1,12 @@
 #include <tano/package_info.h>
 
 #include <tano/manifest_reader.h>
+#include <tano/save_file.h>
 
-#include "manifest_file.h"
 #include "manifest_writer.h"
 #include "record_data.h"
 
 #include <QFile>
-#include <QString>
 
 #include <algorithm>
 #include <ostream>
@@ -329,17 +328,26 @@ bool PackageInfo::loadFromManifestContent(const std::string &content) {
 }
 
 bool PackageInfo::saveToManifestFile(const std::string &path) const {
-    const std::string text = saveToManifestContent();
+    std::string text = saveToManifestContent();
     if (m_errorString.empty())
-        m_errorString = replaceFile(QString::fromStdString(path), text);
+        m_errorString = saveFile({path, std::move(text)}).error;
+    return m_errorString.empty();
+}
+
+bool PackageInfo::saveToManifestFile(const std::string &path,
+                                     const FileFingerprint &expected) const {
+    std::string text = saveToManifestContent();
+    if (m_errorString.empty())
+        m_errorString = saveFile({path, std::move(text), expected}).error;
     return m_errorString.empty();
 }
 
 bool PackageInfo::saveToManifestFile(QFile &file) const {
+    if (!file.isOpen())
+        return saveToManifestFile(file.fileName().toStdString());
     const std::string text = saveToManifestContent();
     if (m_errorString.empty())
-        m_errorString =
-            file.isOpen() ? writeInPlace(file, text) : replaceFile(file.fileName(), text);
+        m_errorString = saveToOpenFile(file, text).error;
     return m_errorString.empty();
 }
 

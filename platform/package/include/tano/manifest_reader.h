@@ -24,12 +24,14 @@ struct SourcePosition {
 /// The format is XML 1.0 (Fifth Edition) in UTF-8 and is described in docs/manifest-format.md.
 /// Reading is strict and bounded: no document type declaration, no NUL, nothing after the root
 /// element, at most maxDepth elements within each other, maxAttributes attributes on an element
-/// and maxTagLength bytes in a tag.
+/// and maxTagLength bytes in a tag. Files are refused beyond maxFileSize bytes, and if they are
+/// folders or devices.
 class TANO_PACKAGE_EXPORT ManifestReader {
 public:
     static constexpr int maxDepth = 64;
     static constexpr int maxAttributes = 64;
     static constexpr std::size_t maxTagLength = std::size_t(1) << 20;
+    static constexpr std::int64_t maxFileSize = std::int64_t(1) << 30;
 
     /// Whether to remember where the fields stand, which position() then answers.
     enum class Positions { Discard, Keep };

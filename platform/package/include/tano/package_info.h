@@ -17,6 +17,7 @@ class QFile;
 
 namespace Tano {
 
+struct FileFingerprint;
 struct PackageData;
 
 /// The record of one application package: everything that its manifest holds. UTF-8 throughout;
@@ -121,10 +122,14 @@ public:
     /// Reads a manifest from its text, with the same failures.
     bool loadFromManifestContent(const std::string &content);
 
-    /// Saves to the file at `path`, all or nothing: after a failure, which errorString() explains,
-    /// an existing file is as it was. A symbolic link is followed and stays.
+    /// Saves to the file at `path`, all or nothing, as saveFile() does: after a failure, which
+    /// errorString() explains, an existing file is unchanged. Symbolic links are followed.
     bool saveToManifestFile(const std::string &path) const;
-    /// The same for `file`; where the caller has opened it, it is written in place.
+    /// The same, but fails if the file no longer has the content that is `expected`, so that no
+    /// edit of another program is lost.
+    bool saveToManifestFile(const std::string &path, const FileFingerprint &expected) const;
+    /// The same for `file`; if the caller has opened it, it is written in place. One that is open
+    /// for appending is refused.
     bool saveToManifestFile(QFile &file) const;
     /// The manifest's text; empty, with errorString() set, when a field holds what XML cannot.
     [[nodiscard]] std::string saveToManifestContent() const;

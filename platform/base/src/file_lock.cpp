@@ -1,0 +1,40 @@
+#include "file_lock.h"
+
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <thread>
+
+namespace Tano {
+namespace {
+
+constexpr int attempts = 100;
+constexpr std::chrono::milliseconds pause(20);
+
+// These locks belong to the opening of the file, unlike the older ones, which a process loses when
+// it closes any descriptor of the file; and they do not get in the way of flock(1).
+Lock lock(int file, short type) {
+    struct flock whole = {};
+    whole.l_type = type;
+    whole.l_whence = SEEK_SET;
+    if (::fcntl(file, F_OFD_SETLK, &whole) == 0)
+        return Lock::Taken;
+    return errno == EAGAIN || errno == EACCES ? Lock::Busy : Lock::Unsupported;
+}
+
+} // namespace
+
+Lock waitForLock(int file) {
+    Lock state = lock(file, F_WRLCK);
+    for (int attempt = 1; attempt < attempts && state == Lock::Busy; ++attempt) {
+        std::this_thread::sleep_for(pause);
+        state = lock(file, F_WRLCK);
+    }
+    return state;
+}
+
+Lock tryReadLock(int file) {
+    return lock(file, F_RDLCK);
+}
+
+} // namespace Tano
