@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QGuiApplication>
+
+/// Starts the application that icons need, without a display. It lives as long as the process.
+inline void startOffscreen() {
+    static int argc = 1;
+    static char name[] = "fuzzer";
+    static char *argv[] = {name, nullptr};
+    static const bool isSet = qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const auto *application = isSet ? new QGuiApplication(argc, argv) : nullptr;
+    Q_UNUSED(application)
+}
