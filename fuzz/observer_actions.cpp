@@ -174,7 +174,7 @@ const std::vector<Action> &actions() {
         {"set errors", Freedom::Read, 1, setKinds},
         {"delete a validator", Freedom::Read, 1, destroy<PackageInfoValidator>},
         {"syncRecord", Freedom::Read, 2, callPackage<&PackageInfoModel::syncRecord>},
-        {"trimExtraInfo", Freedom::Read, 2, callPackage<&PackageInfoModel::trimExtraInfo>},
+        {"trimExtraInfo", Freedom::Edit, 2, callPackage<&PackageInfoModel::trimExtraInfo>},
         {"save", Freedom::Read, 1, save},
         {"copy", Freedom::Read, 1, copy},
         {"load", Freedom::Reset, 4, load},

@@ -219,7 +219,8 @@ public:
         return child;
     }
 
-    /// Stops listening to a child that goes to another package. The application's connections stay.
+    /// Stops listening to a child that leaves without being deleted. The application's connections
+    /// stay.
     void stopTracking(Child *child) {
         std::apply(
             [&](auto... changes) {
@@ -230,8 +231,10 @@ public:
 
     /// Empties the list for good; the record is left alone.
     QVector<Child *> close() {
-        for (const Child *child : std::as_const(m_children))
+        for (Child *child : std::as_const(m_children)) {
+            stopTracking(child);
             ChildAccess::data(*child).leave();
+        }
         m_isClosed = true;
         m_stale.clear();
         m_unindexed.clear();

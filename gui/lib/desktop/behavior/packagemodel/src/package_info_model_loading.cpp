@@ -51,15 +51,15 @@ PackageInfoModel::PackageInfoModel(const PackageInfoModel &other)
 // The children go first, so that receivers of their destroyed() notification may still query the
 // package.
 PackageInfoModel::~PackageInfoModel() {
-    const auto deleteAll = [this](auto children) {
-        for (const auto &child : guarded(children)) {
+    const auto behaviors = guarded(m_data->behaviors.close());
+    const auto dialogs = guarded(m_data->dialogs.close());
+    const auto services = guarded(m_data->services.close());
+    const auto deleteAll = [this](const auto &children) {
+        for (const auto &child : children) {
             if (child && child->parent() == this)
                 delete child.data();
         }
     };
-    const auto behaviors = m_data->behaviors.close();
-    const auto dialogs = m_data->dialogs.close();
-    const auto services = m_data->services.close();
     deleteAll(behaviors);
     deleteAll(dialogs);
     deleteAll(services);

@@ -48,7 +48,10 @@ PackageInfoValidator::PackageInfoValidator(const PackageInfoModel *package, QObj
     registerMetaTypes();
 }
 
-PackageInfoValidator::~PackageInfoValidator() = default;
+// Receivers of destroyed() may still edit the package.
+PackageInfoValidator::~PackageInfoValidator() {
+    deactivate();
+}
 
 void PackageInfoValidator::activate() {
     m_active = true;
