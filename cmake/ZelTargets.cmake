@@ -84,9 +84,9 @@ endfunction()
 
 # zel_add_program(<target> SOURCES ... [BUILT_IN library ...] DEPENDS ...): an installed program.
 #
-# Of the libraries of this tree that are built in, those first that use the others, the program
-# holds what it uses: one file to load instead of many, and of the libraries below only those that
-# are needed for it. What a source of the program defines stands in for a source of theirs.
+# A program with BUILT_IN links the objects that it uses of these libraries from archives, users
+# before the libraries that they use: one file to load, and only the system libraries needed for
+# those objects.
 function(zel_add_program target)
     cmake_parse_arguments(arg "" "" "SOURCES;BUILT_IN;DEPENDS" ${ARGN})
     add_executable(${target} ${arg_SOURCES})

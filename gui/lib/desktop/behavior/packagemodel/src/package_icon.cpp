@@ -15,34 +15,23 @@
 #include <optional>
 
 namespace Zel {
-namespace {
-
-bool hasDisplay() {
-    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
-}
-
-} // namespace
 
 struct PackageIcon {
     QIcon icon;
     std::optional<IconFingerprint> fingerprint; // taken when first needed
 };
 
-QIcon PackageInfoModel::defaultIcon() {
-    static const QIcon icon(fromUtf8(
-        Tano::path::findData("zentrix", "media/images/icons/_png/default_app.png", false)));
-    return icon;
+namespace {
+
+bool hasDisplay() {
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
 }
 
-QIcon PackageInfoModel::icon() const {
-    return m_data->icon ? m_data->icon->icon : QIcon();
-}
-
-void PackageInfoModel::setIcon(const QIcon &newIcon) {
+void set(const QIcon &newIcon, std::shared_ptr<PackageIcon> &shared, PackageInfoModel &package) {
     const QIcon icon = copyOf(newIcon);
-    if (!m_data->icon)
-        m_data->icon = std::make_shared<PackageIcon>();
-    PackageIcon &current = *m_data->icon;
+    if (!shared)
+        shared = std::make_shared<PackageIcon>();
+    PackageIcon &current = *shared;
     if ((icon.isNull() && current.icon.isNull()) || icon.cacheKey() == current.icon.cacheKey())
         return;
     std::optional<IconFingerprint> look;
@@ -54,10 +43,10 @@ void PackageInfoModel::setIcon(const QIcon &newIcon) {
             return;
     }
     current = {icon, look};
-    Q_EMIT iconUpdated(icon);
+    Q_EMIT package.iconUpdated(icon);
 }
 
-void readIconBeside(const QFile &manifest, PackageInfoModel &package) {
+void readBeside(const QFile &manifest, PackageInfoModel &package) {
     const QString name = manifest.fileName();
     if (name.isEmpty() || !hasDisplay())
         return;
@@ -67,8 +56,23 @@ void readIconBeside(const QFile &manifest, PackageInfoModel &package) {
         package.setIcon(icon);
 }
 
-void copyIcon(const PackageInfoModel &from, PackageInfoModel &to) {
+void copy(const PackageInfoModel &from, PackageInfoModel &to) {
     to.setIcon(from.icon());
+}
+
+constexpr IconFunctions functions{set, readBeside, copy};
+[[maybe_unused]] const bool isInstalled = (iconFunctions = &functions, true);
+
+} // namespace
+
+QIcon PackageInfoModel::defaultIcon() {
+    static const QIcon icon(fromUtf8(
+        Tano::path::findData("zentrix", "media/images/icons/_png/default_app.png", false)));
+    return icon;
+}
+
+QIcon PackageInfoModel::icon() const {
+    return m_data->icon ? m_data->icon->icon : QIcon();
 }
 
 } // namespace Zel
