@@ -2,6 +2,7 @@
 
 include(GNUInstallDirs)
 include(GenerateExportHeader)
+include(CheckCXXCompilerFlag)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -40,6 +41,26 @@ target_compile_definitions(zel_strict INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
     QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER
     QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+# The flags of Debian's dpkg-buildflags with hardening=+all, as far as the compiler knows them. Those
+# of the compiler are for optimised builds, as one of them needs the optimiser. All objects are
+# position-independent, since Qt requires that.
+add_library(zel_hardened INTERFACE)
+if(ZEL_HARDEN)
+    set(optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
+    foreach(flag IN ITEMS -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+        string(MAKE_C_IDENTIFIER "ZEL_HAS${flag}" is_known)
+        check_cxx_compiler_flag(${flag} ${is_known})
+        if(${is_known})
+            target_compile_options(zel_hardened INTERFACE $<${optimised}:${flag}>)
+        endif()
+    endforeach()
+    target_compile_options(zel_hardened INTERFACE
+        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+    target_link_options(zel_hardened INTERFACE
+        LINKER:-z,relro LINKER:-z,now $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
+endif()
+target_link_libraries(zel_strict INTERFACE zel_hardened)
 
 # zel_add_library(<target> NAMESPACE <Zel|Tano> EXPORT_NAME <Name> HEADER_PREFIX <dir>
 #                 SOURCES ... [DEPENDS public-dependency ...] [PRIVATE_DEPENDS ...])
@@ -84,9 +105,9 @@ endfunction()
 
 # zel_add_program(<target> SOURCES ... [BUILT_IN library ...] DEPENDS ...): an installed program.
 #
-# Of the libraries of this tree that are built in, those first that use the others, the program
-# holds what it uses: one file to load instead of many, and of the libraries below only those that
-# are needed for it. What a source of the program defines stands in for a source of theirs.
+# A program with BUILT_IN links the objects that it uses of these libraries from archives, users
+# before the libraries that they use: one file to load, and only the system libraries needed for
+# those objects.
 function(zel_add_program target)
     cmake_parse_arguments(arg "" "" "SOURCES;BUILT_IN;DEPENDS" ${ARGN})
     add_executable(${target} ${arg_SOURCES})

@@ -3,6 +3,8 @@
 #include "warning_guard.h"
 
 #include <QBitmap>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QTest>
 
 using namespace Zel;
@@ -10,6 +12,8 @@ using namespace Zel;
 Q_DECLARE_METATYPE(std::string)
 
 namespace {
+
+[[maybe_unused]] const bool isScaled = qputenv("QT_SCALE_FACTOR", "2"); // Qt reads it once, early
 
 RobotRequirement requirement(const char *model) {
     return {text(model), {1}, {2, 5}, {3}, {4, 0, 1}};
@@ -41,6 +45,7 @@ private Q_SLOTS:
     void receiversMayRemoveTheLanguageToo();
     void argumentsMayLieInTheCache();
     void icons();
+    void iconsOnAScreenOfHighResolution();
 
 private:
     WarningGuard m_warnings;
@@ -206,6 +211,26 @@ void TestPackageInfoModel::icons() {
     QCOMPARE(log.take().size(), 2);
     model.setIcon(QIcon());
     QCOMPARE(log.take(), QStringList({text("iconUpdated(icon)"), text("1")}));
+}
+
+void TestPackageInfoModel::iconsOnAScreenOfHighResolution() {
+    struct Engine : QIconEngine {
+        explicit Engine(QVector<QSize> *requested)
+            : sizes(requested) {}
+        void paint(QPainter *, const QRect &, QIcon::Mode, QIcon::State) override {}
+        QIconEngine *clone() const override { return new Engine(sizes); }
+        QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override {
+            sizes->append(size);
+            return QPixmap(1, 1);
+        }
+        QVector<QSize> *sizes;
+    };
+    QCOMPARE(qGuiApp->devicePixelRatio(), 2.0);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QVector<QSize> sizes;
+    PackageInfoModel().setIcon(QIcon(new Engine(&sizes)));
+    QCOMPARE(sizes, QVector<QSize>({QSize(10042, 10042)}));
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
 }
 
 QTEST_MAIN(TestPackageInfoModel)

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void otherDefaultLanguage();
     void outputsAreClearedFirst();
     void nullPackage();
+    void textsOfIssues();
     void rules();
 
 private:
@@ -270,6 +271,22 @@ void TestPackageInfoUtils::nullPackage() {
     QCOMPARE(PackageModel::uiName(nullptr, language("fr")), QString());
     QCOMPARE(PackageModel::uiDescription(nullptr, language("fr")), QString());
     QCOMPARE(BehaviorModel::uiName(nullptr, language("fr")), QString());
+}
+
+void TestPackageInfoUtils::textsOfIssues() {
+    PackageInfoModel package;
+    QVERIFY(load(package, text(R"(<robotRequirement model="&lt;i>&amp;lt;" minBodyVersion="2"
+                                                    maxBodyVersion="1"/>
+                                  <brioRequirement minVersion="2" maxVersion="1"/>)")));
+    QStringList texts;
+    for (const auto &issue : PackageModel::issues(&package))
+        texts += {issue.plainText(), issue.richText()};
+    const QStringList expected{
+        text("'<i>&lt;' robot requirement has a wrong body version max value."),
+        text("'&lt;i&gt;&amp;lt;' robot requirement has a wrong body version max value."),
+        text("Brio version requirement is not valid: 1 < 2"),
+        text("Brio version requirement is not valid: 1 &lt; 2")};
+    QCOMPARE(texts, expected);
 }
 
 void TestPackageInfoUtils::rules() {

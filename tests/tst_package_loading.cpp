@@ -8,7 +8,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <sstream>
+#include <sys/stat.h>
 
 using namespace Zel;
 
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void contentEndsAtNul();
     void loadsFiles();
     void iconBesideTheManifest();
+    void rejectedIcons();
     void saves();
     void shippedManifestsComeBack_data();
     void shippedManifestsComeBack();
@@ -105,9 +108,51 @@ void TestPackageLoading::iconBesideTheManifest() {
                       loadedFromManifest())"));
     QCOMPARE(model.icon().pixmap(8, 8).toImage().pixelColor(1, 1), QColor(Qt::red));
 
-    QVERIFY(QFile::remove(dir.filePath(text("icon.png"))));
+    QVERIFY(QFile::rename(dir.filePath(text("icon.png")), dir.filePath(text("other.png"))));
     QVERIFY(model.loadFromManifestFile(path));
     QVERIFY(model.icon().isNull());
+
+    QVERIFY(QFile::link(text("other.png"), dir.filePath(text("icon.png"))));
+    QVERIFY(model.loadFromManifestFile(path));
+    QVERIFY(!model.icon().isNull());
+}
+
+void TestPackageLoading::rejectedIcons() {
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(text("manifest.xml"));
+    const QString icon = dir.filePath(text("icon.png"));
+    writeFile(path, manifest);
+    const struct {
+        const char *reason;
+        std::function<void()> create;
+    } rows[] = {
+        {"it is not a PNG image",
+         [&] {
+             writeFile(icon, "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9999\" "
+                             "height=\"9999\"><rect width=\"9\" height=\"9\"/></svg>");
+         }},
+        {"it is not a regular file", [&] { QCOMPARE(mkfifo(qPrintable(icon), 0600), 0); }},
+        {"it is not a regular file", [&] { QVERIFY(QFile::link(text("/dev/zero"), icon)); }},
+        {"its 4097 x 1 pixels are more than 4096 x 4096",
+         [&] { QVERIFY(QImage(4097, 1, QImage::Format_Mono).save(icon)); }},
+        {"it is larger than 16777216 bytes",
+         [&] {
+             writeIcon(icon, Qt::red);
+             QVERIFY(QFile::resize(icon, 16777217));
+         }},
+    };
+    WarningGuard warnings;
+    for (const auto &row : rows) {
+        row.create();
+        PackageInfoModel model;
+        QVERIFY(model.loadFromManifestFile(path));
+        QVERIFY(model.icon().isNull());
+        QCOMPARE(
+            warnings.take(),
+            QStringList(
+                text("loadFromManifestFile: %1 is not read: %2.").arg(icon, text(row.reason))));
+        QVERIFY(QFile::remove(icon));
+    }
 }
 
 void TestPackageLoading::saves() {

@@ -328,6 +328,45 @@ private Q_SLOTS:
         QCOMPARE(field("&UID:")->text(), name);
     }
 
+    void valuesAreNoMarkup() {
+        writeTo(m_directory.filePath(QStringLiteral("<b>.xml")), "<html/>");
+        Answer answer{std::function<void(QMessageBox *)>([&](QMessageBox *box) {
+            box->button(QMessageBox::Ok)->click(); // closes it after these checks
+            QCOMPARE(markupOf(box), QStringList());
+            QVERIFY(box->informativeText().contains(QStringLiteral("&lt;b&gt;.xml")));
+            const auto labels = box->findChildren<QLabel *>();
+            for (const QLabel *label : labels)
+                QVERIFY(!label->text().contains(QStringLiteral("<html>")) ||
+                        label->textFormat() == Qt::PlainText);
+        })};
+        QVERIFY(!m_window->openFile(m_directory.filePath(QStringLiteral("<b>.xml"))));
+        QVERIFY(answer.isGiven());
+
+        const QString fileName = m_directory.filePath(QStringLiteral("hostile.xml"));
+        const QByteArray image = "&lt;img src=/none.png>";
+        QByteArray content =
+            "<package format='1' uid='@' version='1'><supportedLanguage code='@'/>"
+            "<supportedLanguage code='en_US'/><texts language='en_US'><name>@</name></texts>"
+            "<behavior path='@/@' userRequestable='true'><texts language='en_US'><name>@</name>"
+            "<triggerSentence>@</triggerSentence></texts></behavior><robotRequirement model='@' "
+            "minBodyVersion='2' maxBodyVersion='1'/></package>";
+        writeTo(fileName, content.replace("@", image));
+        QVERIFY(m_window->openFile(fileName));
+        for (int page = 0; page < 6; ++page) {
+            m_window->showPage(page);
+            QCoreApplication::processEvents();
+            QCOMPARE(markupOf(m_window.get()), QStringList());
+        }
+        for (int row = 0; row < problemCount(); ++row) {
+            doubleClickProblem(row);
+            QCOMPARE(markupOf(m_window.get()), QStringList());
+        }
+        field("&Author:")->setFocus();
+        stack()->push(new QUndoCommand(QStringLiteral("<img src=/none.png>")));
+        QCOMPARE(markupOf(m_window.get()), QStringList());
+        QVERIFY(m_escaped > 20); // tool tips that show the value were seen
+    }
+
     void fileChangesOnDisk() {
         const QString fileName = copyOf("small");
         QVERIFY(m_window->openFile(fileName));
@@ -380,7 +419,7 @@ private Q_SLOTS:
         uid->setFocus();
         replaceText(QStringLiteral("Bad"));
         QVERIFY(!uid->toolTip().isEmpty());
-        QCOMPARE(uid->accessibleDescription(), uid->toolTip());
+        QVERIFY(uid->toolTip().contains(uid->accessibleDescription()));
         replaceText(QStringLiteral("good"));
         QVERIFY(uid->toolTip().isEmpty());
 
@@ -634,6 +673,36 @@ private Q_SLOTS:
     }
 
 private:
+    // The labels and tool tips below a widget that would show the value of a package as markup.
+    QStringList markupOf(const QWidget *root) {
+        QStringList found;
+        const auto take = [&](const QString &text) {
+            m_escaped += text.contains(QStringLiteral("&lt;img"));
+            if (text.contains(QStringLiteral("<img")))
+                found += text;
+        };
+        const auto labels = root->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->textFormat() != Qt::PlainText)
+                take(label->text());
+        }
+        const auto widgets = root->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets)
+            take(widget->toolTip());
+        const auto actions = root->findChildren<QAction *>();
+        for (const QAction *action : actions)
+            take(action->toolTip());
+        const auto views = root->findChildren<QAbstractItemView *>();
+        for (const QAbstractItemView *view : views) {
+            const QAbstractItemModel *model = view->model();
+            for (int cell = 0; model && cell < model->rowCount() * model->columnCount(); ++cell)
+                take(model->index(cell / model->columnCount(), cell % model->columnCount())
+                         .data(Qt::ToolTipRole)
+                         .toString());
+        }
+        return found;
+    }
+
     QString copyOf(const char *sample) {
         const QDir from(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/") +
                         QLatin1String(sample));
@@ -740,6 +809,7 @@ private:
 
     QTemporaryDir m_directory;
     int m_copies = 0;
+    int m_escaped = 0;
     std::unique_ptr<MainWindow> m_window;
 };
 

@@ -569,16 +569,8 @@
         <translation>La liste n&apos;a pas &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>Set a service</source>
-        <translation>Modifier un service</translation>
-    </message>
-    <message>
         <source>A package has a version.</source>
         <translation>Un paquet a une version.</translation>
-    </message>
-    <message>
-        <source>Switch language %1</source>
-        <translation>Basculer la langue %1</translation>
     </message>
     <message>
         <source>[+]=CODE adds a language, [CODE]= removes it.</source>
@@ -619,10 +611,6 @@
     <message>
         <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
         <translation>Crée, montre, vérifie, modifie et réécrit les manifestes de paquets d&apos;applications pour robots.</translation>
-    </message>
-    <message>
-        <source>Set a requirement</source>
-        <translation>Modifier une exigence</translation>
     </message>
     <message>
         <source>Write nothing; print what would change, as a unified diff.</source>
@@ -687,10 +675,6 @@
     <message>
         <source>scripts in</source>
         <translation>scripts en</translation>
-    </message>
-    <message>
-        <source>The file cannot be run: %1.</source>
-        <translation>Le fichier ne peut pas être exécuté : %1.</translation>
     </message>
 </context>
 </TS>

@@ -569,16 +569,8 @@
         <translation>リストに &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>Set a service</source>
-        <translation>サービスを変更</translation>
-    </message>
-    <message>
         <source>A package has a version.</source>
         <translation>パッケージにはバージョンが必要です。</translation>
-    </message>
-    <message>
-        <source>Switch language %1</source>
-        <translation>言語 %1 を切り替え</translation>
     </message>
     <message>
         <source>[+]=CODE adds a language, [CODE]= removes it.</source>
@@ -619,10 +611,6 @@
     <message>
         <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
         <translation>ロボットアプリケーションパッケージのマニフェストを作成、表示、検査、編集、書き直しします。</translation>
-    </message>
-    <message>
-        <source>Set a requirement</source>
-        <translation>要件を変更</translation>
     </message>
     <message>
         <source>Write nothing; print what would change, as a unified diff.</source>
@@ -687,10 +675,6 @@
     <message>
         <source>scripts in</source>
         <translation>スクリプトの言語</translation>
-    </message>
-    <message>
-        <source>The file cannot be run: %1.</source>
-        <translation>ファイルを実行できません: %1</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "behaviors_model.h"
 
 #include "marks.h"
+#include "plain_text.h"
 
 #include <packagemodel/package_info_utils.h>
 
@@ -34,8 +35,10 @@ QVariant BehaviorsModel::data(const QModelIndex &index, int role) const {
         return {};
     const BehaviorInfoModel *behavior = m_behaviors.at(index.row());
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        return index.column() == Path ? behavior->prettyPath()
-                                      : behavior->name(Zel::Language::defaultLanguage());
+        const QString text = index.column() == Path
+                                 ? behavior->prettyPath()
+                                 : behavior->name(Zel::Language::defaultLanguage());
+        return role == Qt::ToolTipRole ? toolTipOf(text) : text;
     }
     const auto severity =
         index.column() == Path ? m_document.behaviorSeverity(behavior->path()) : std::nullopt;

@@ -3,6 +3,7 @@
 #include "main_window.h"
 #include "marks.h"
 #include "message_bar.h"
+#include "plain_text.h"
 
 #include <QAction>
 #include <QDir>
@@ -150,8 +151,8 @@ bool FileActions::settle() {
 }
 
 void FileActions::tellFailure(const QString &title, const QString &fileName) {
-    QMessageBox box(QMessageBox::Critical, title, m_document.errorString(), QMessageBox::Ok,
-                    &m_window);
+    PlainMessageBox box(QMessageBox::Critical, title, m_document.errorString(), QMessageBox::Ok,
+                        &m_window);
     box.setInformativeText(QDir::toNativeSeparators(fileName));
     box.exec();
 }

@@ -1,6 +1,7 @@
 #include "icon_button.h"
 
 #include "document.h"
+#include "plain_text.h"
 
 #include <packagemodel/set_command.h>
 
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 
 namespace Editor {
@@ -62,9 +62,10 @@ void IconButton::setIconFromFile(const QString &fileName) {
     reader.setAutoTransform(true);
     const QImage image = reader.read();
     if (image.isNull()) {
-        QMessageBox::warning(
-            this, tr("Choose an Icon"),
-            tr("The picture %1 cannot be read: %2").arg(fileName, reader.errorString()));
+        PlainMessageBox(QMessageBox::Warning, tr("Choose an Icon"),
+                        tr("The picture %1 cannot be read: %2").arg(fileName, reader.errorString()),
+                        QMessageBox::Ok, this)
+            .exec();
         return;
     }
     setIconOf(QPixmap::fromImage(image));

@@ -1,12 +1,12 @@
 #include "languages_model.h"
 
+#include "editor_commands.h"
 #include "field_path.h"
 #include "languages.h"
 #include "marks.h"
+#include "plain_text.h"
 
 #include <packagemodel/set_string.h>
-
-#include "editor_commands.h"
 
 #include <QLocale>
 #include <QSet>
@@ -169,7 +169,7 @@ QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
     if (index.column() == Description)
         mark = markData(Mark::ofIssue(document().issueAt(descriptionPath(code))), role);
     if (!mark.isValid() && role == Qt::ToolTipRole)
-        return index.column() == Language ? QVariant(code) : display(index);
+        return toolTipOf(index.column() == Language ? code : display(index).toString());
     return mark;
 }
 

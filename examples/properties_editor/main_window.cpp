@@ -6,6 +6,7 @@
 #include "identity_page.h"
 #include "marks.h"
 #include "message_bar.h"
+#include "plain_text.h"
 #include "problems_model.h"
 #include "requirements_page.h"
 #include "services_page.h"
@@ -173,6 +174,12 @@ void MainWindow::addMenus() {
     QAction *redo = stack->createRedoAction(this, tr("&Redo"));
     redo->setShortcuts(QKeySequence::Redo);
     redo->setIcon(platformIcon(QStringLiteral("edit-redo"), QStyle::SP_ArrowForward));
+    for (QAction *action : {undo, redo}) {
+        // Its own tool tip is the text of the command, in which a value may look like markup.
+        const auto update = [action] { action->setToolTip(toolTipOf(action->iconText())); };
+        connect(action, &QAction::changed, action, update);
+        update();
+    }
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     edit->addActions({undo, redo});
 
@@ -295,7 +302,7 @@ bool MainWindow::takeEdits() {
 }
 
 bool MainWindow::askAboutRefusal(const QString &refusal, QWidget *field) {
-    QMessageBox box(QMessageBox::Warning, tr("Save"), refusal, QMessageBox::NoButton, this);
+    PlainMessageBox box(QMessageBox::Warning, tr("Save"), refusal, QMessageBox::NoButton, this);
     box.setInformativeText(tr("The package keeps what was there before."));
     box.addButton(tr("Go On Without It"), QMessageBox::AcceptRole);
     const QAbstractButton *mend = box.addButton(tr("Mend It"), QMessageBox::RejectRole);

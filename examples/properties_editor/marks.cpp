@@ -1,12 +1,12 @@
 #include "marks.h"
 
 #include "document.h"
+#include "plain_text.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QTextDocumentFragment>
 
 namespace Editor {
 namespace {
@@ -33,7 +33,7 @@ void showIcon(QLineEdit *edit, const std::optional<Mark> &mark) {
         action->setObjectName(actionName);
     }
     action->setIcon(severityIcon(mark->severity));
-    action->setToolTip(mark->text);
+    action->setToolTip(toolTipOf(mark->text));
 }
 
 } // namespace
@@ -41,7 +41,7 @@ void showIcon(QLineEdit *edit, const std::optional<Mark> &mark) {
 std::optional<Mark> Mark::ofIssue(const std::optional<Issue> &issue) {
     if (!issue)
         return std::nullopt;
-    return Mark{issue->severity, QTextDocumentFragment::fromHtml(issue->text).toPlainText()};
+    return Mark{issue->severity, issue->plainText()};
 }
 
 std::optional<Mark> Mark::ofRefusal(const QString &sentence) {
@@ -72,7 +72,7 @@ QColor severityColor(Severity severity) {
 }
 
 void markField(QWidget *field, const std::optional<Mark> &mark) {
-    field->setToolTip(mark ? mark->text : QString());
+    field->setToolTip(mark ? toolTipOf(mark->text) : QString());
     field->setAccessibleDescription(mark ? mark->text : QString());
     QPalette palette;
     if (mark)
@@ -87,6 +87,7 @@ QVariant markData(const std::optional<Mark> &mark, int role) {
         return {};
     switch (role) {
     case Qt::ToolTipRole:
+        return toolTipOf(mark->text);
     case Qt::AccessibleDescriptionRole:
         return mark->text;
     case Qt::BackgroundRole:
@@ -123,7 +124,7 @@ void MarkLabel::refresh() {
     const int extent = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(severityIcon(mark->severity).pixmap(extent, extent));
     m_text->setText(mark->text);
-    m_text->setToolTip(mark->text);
+    m_text->setToolTip(toolTipOf(mark->text));
 }
 
 } // namespace Editor

@@ -2,6 +2,7 @@
 
 #include "field_path.h"
 #include "marks.h"
+#include "plain_text.h"
 
 #include <QStringBuilder>
 
@@ -35,7 +36,7 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
     case Qt::DecorationRole:
         return index.column() == Severity ? severityIcon(issue.severity) : QVariant();
     case Qt::ToolTipRole:
-        return Mark::ofIssue(issue)->text;
+        return toolTipOf(issue.plainText());
     case PathRole:
         return issue.path;
     default:

@@ -35,6 +35,8 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     , m_languageMenu(new QMenu(this))
     , m_details(new QWidget(this))
     , m_detailsTitle(new QLabel(m_details)) {
+    for (QLabel *label : {m_summary, m_detailsTitle})
+        label->setTextFormat(Qt::PlainText);
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Languages and texts"));
     m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));

@@ -1,7 +1,8 @@
 #include "child_fields.h"
 
-#include <packagemodel/behavior_commands.h>
-#include <packagemodel/dialog_commands.h>
+#include <packagemodel/behavior_info_model.h>
+#include <packagemodel/dialog_info_model.h>
+#include <packagemodel/service_info_model.h>
 
 #include <array>
 
@@ -37,15 +38,15 @@ QString knownKeys(const QStringList &keys) {
 }
 
 template<typename Child, typename Table>
-Command editChild(const Edit &edit, PackageInfoModel &package, const QString &key,
-                  const QVector<Child *> &children, QString (Child::*keyOf)() const,
-                  const Table &table) {
+bool editChild(const Edit &edit, PackageInfoModel &package, const QString &key,
+               const QVector<Child *> &children, QString (Child::*keyOf)() const,
+               const Table &table) {
     QStringList known;
     for (Child *child : children) {
         known += (child->*keyOf)();
         if (known.constLast() == key) {
             Part<Child> part{package, *child};
-            return makeCommand(table, edit, part, 1);
+            return setField(table, edit, part, 1);
         }
     }
     return edit.refuse(QCoreApplication::translate("zel-package", "The package has no '%1'%2")
@@ -65,34 +66,32 @@ bool isFreeKey(const Edit &edit, const Child *own, const Child *other) {
     return false;
 }
 
-Command nothing() {
-    return std::make_unique<QUndoCommand>();
+template<typename Owner, auto set>
+bool setText(const Edit &edit, Owner &owner, const QStringList &) {
+    (owner.child.*set)(edit.value());
+    return true;
 }
 
-Command setPath(const Edit &edit, Behavior &behavior, const QStringList &) {
-    if (!isFreeKey(edit, &behavior.child, behavior.package.behavior(edit.value())))
-        return {};
-    return std::make_unique<Zel::BehaviorPathCommand>(&behavior.package, behavior.child.path(),
-                                                      edit.value(), true);
-}
-
-Command setNature(const Edit &edit, Behavior &behavior, const QStringList &) {
-    return std::make_unique<Zel::BehaviorNatureCommand>(&behavior.package, behavior.child.path(),
-                                                        edit.value(), true);
-}
-
-Command setUserRequestable(const Edit &edit, Behavior &behavior, const QStringList &) {
+template<typename Owner, auto set>
+bool setFlag(const Edit &edit, Owner &owner, const QStringList &) {
     const auto flag = edit.flag();
-    if (!flag)
-        return {};
-    if (*flag == behavior.child.isUserRequestable())
-        return nothing();
-    return std::make_unique<Zel::BehaviorSwitchUserRequestableCommand>(&behavior.package,
-                                                                       behavior.child.path());
+    if (flag)
+        (owner.child.*set)(*flag);
+    return flag.has_value();
+}
+
+// Sets the text by which the package finds its children.
+template<typename Owner, auto find, auto set>
+bool setKey(const Edit &edit, Owner &owner, const QStringList &) {
+    const PackageInfoModel &package = owner.package;
+    if (!isFreeKey(edit, &owner.child, (package.*find)(edit.value())))
+        return false;
+    (owner.child.*set)(edit.value());
+    return true;
 }
 
 // "[+]=NAME" adds a permission, "[NAME]=" removes it.
-Command setPermission(const Edit &edit, Behavior &behavior, const QStringList &keys) {
+bool setPermission(const Edit &edit, Behavior &behavior, const QStringList &keys) {
     const bool isAdded = keys.constFirst() == appendKey;
     const QString permission = isAdded ? edit.value() : keys.constFirst();
     const QStringList all = behavior.child.permissions().values();
@@ -106,174 +105,128 @@ Command setPermission(const Edit &edit, Behavior &behavior, const QStringList &k
         return edit.refuse(
             QCoreApplication::translate("zel-package", "The list does not have '%1'%2")
                 .arg(permission, suggestion(permission, all, QStringLiteral("."))));
-    return std::make_unique<Zel::BehaviorAddRemovePermissionCommand>(
-        &behavior.package, behavior.child.path(), permission, isAdded);
+    return isAdded ? behavior.child.addPermission(permission)
+                   : behavior.child.removePermission(permission);
 }
 
-template<typename SetCommand>
-Command setLocalizedText(const Edit &edit, Behavior &behavior, const QStringList &keys) {
+template<void (BehaviorInfoModel::*set)(const QString &text, const RobotLanguage &language)>
+bool setLocalizedText(const Edit &edit, Behavior &behavior, const QStringList &keys) {
     const auto language = edit.language(keys.constFirst());
-    if (!language)
-        return {};
-    return std::make_unique<SetCommand>(&behavior.package, behavior.child.path(), edit.value(),
-                                        *language, true);
+    if (language)
+        (behavior.child.*set)(edit.value(), *language);
+    return language.has_value();
 }
 
-template<typename SetCommand, typename AddRemoveCommand, typename Key>
-Command setItem(const Edit &edit, const Behavior &behavior, const QStringList &list, const Key &key,
-                const QString &item) {
-    PackageInfoModel *package = &behavior.package;
-    const QString path = behavior.child.path();
+// A behavior's operations on one kind of its lists.
+template<typename Key>
+struct ItemList {
+    QStringList (BehaviorInfoModel::*items)(const Key &key) const;
+    bool (BehaviorInfoModel::*append)(const QString &item, const Key &key);
+    bool (BehaviorInfoModel::*update)(int index, const QString &item, const Key &key);
+    bool (BehaviorInfoModel::*remove)(int index, const Key &key);
+};
+
+constexpr ItemList<RobotLanguage> tags{&BehaviorInfoModel::tags, &BehaviorInfoModel::addTag,
+                                       &BehaviorInfoModel::updateTag,
+                                       &BehaviorInfoModel::removeTag};
+constexpr ItemList<RobotLanguage> triggerSentences{
+    &BehaviorInfoModel::triggerSentences, &BehaviorInfoModel::addTriggerSentence,
+    &BehaviorInfoModel::updateTriggerSentence, &BehaviorInfoModel::removeTriggerSentence};
+constexpr ItemList<RobotLanguage> loadingResponses{
+    &BehaviorInfoModel::loadingResponses, &BehaviorInfoModel::addLoadingResponse,
+    &BehaviorInfoModel::updateLoadingResponse, &BehaviorInfoModel::removeLoadingResponse};
+constexpr ItemList<QString> conditions{
+    &BehaviorInfoModel::conditions, &BehaviorInfoModel::addCondition,
+    &BehaviorInfoModel::updateCondition, &BehaviorInfoModel::removeCondition};
+
+template<typename Key>
+bool setItem(const Edit &edit, BehaviorInfoModel &behavior, const ItemList<Key> &list,
+             const Key &key, const QString &item) {
+    const QStringList items = (behavior.*list.items)(key);
     const bool isAppended = item == appendKey;
-    const auto index = isAppended ? -1 : edit.index(item, int(list.size()));
+    const auto index = isAppended ? -1 : edit.index(item, int(items.size()));
     if (!index)
-        return {};
-    const auto same = list.indexOf(edit.value());
+        return false;
+    const auto same = items.indexOf(edit.value());
     if (same >= 0 && same != *index)
         return edit.refuse(QCoreApplication::translate("zel-package", "The list has '%1' already.")
                                .arg(edit.value()));
     if (isAppended && edit.value().isEmpty())
         return edit.refuse(QCoreApplication::translate("zel-package", "It cannot be empty."));
+    // A change to the same text is no failure, though the model reports that nothing changed.
     if (isAppended)
-        return Command(AddRemoveCommand::addCommand(package, path, edit.value(), key, *index));
-    if (edit.value().isEmpty())
-        return Command(AddRemoveCommand::removeCommand(package, path, key, *index));
-    return std::make_unique<SetCommand>(package, path, edit.value(), key, *index, true);
+        (behavior.*list.append)(edit.value(), key);
+    else if (edit.value().isEmpty())
+        (behavior.*list.remove)(*index, key);
+    else
+        (behavior.*list.update)(*index, edit.value(), key);
+    return true;
 }
 
-template<typename SetCommand, typename AddRemoveCommand, auto list>
-Command setLocalizedItem(const Edit &edit, Behavior &behavior, const QStringList &keys) {
+template<const ItemList<RobotLanguage> &list>
+bool setLocalizedItem(const Edit &edit, Behavior &behavior, const QStringList &keys) {
     const auto language = edit.language(keys.constFirst());
-    if (!language)
-        return {};
-    return setItem<SetCommand, AddRemoveCommand>(edit, behavior, (behavior.child.*list)(*language),
-                                                 *language, keys.constLast());
+    return language && setItem(edit, behavior.child, list, *language, keys.constLast());
 }
 
-Command setCondition(const Edit &edit, Behavior &behavior, const QStringList &keys) {
-    const QString &purpose = keys.constFirst();
-    return setItem<Zel::BehaviorSetConditionCommand, Zel::BehaviorAddRemoveConditionCommand>(
-        edit, behavior, behavior.child.conditions(purpose), purpose, keys.constLast());
+bool setCondition(const Edit &edit, Behavior &behavior, const QStringList &keys) {
+    return setItem(edit, behavior.child, conditions, keys.constFirst(), keys.constLast());
 }
 
 constexpr std::array behaviorFields{
-    FieldRow<Behavior>{"path", "", setPath},
-    FieldRow<Behavior>{"nature", "", setNature},
-    FieldRow<Behavior>{"userRequestable", "", setUserRequestable},
+    FieldRow<Behavior>{"path", "",
+                       setKey<Behavior, &PackageInfoModel::behavior, &BehaviorInfoModel::setPath>},
+    FieldRow<Behavior>{"nature", "", setText<Behavior, &BehaviorInfoModel::setNature>},
+    FieldRow<Behavior>{"userRequestable", "",
+                       setFlag<Behavior, &BehaviorInfoModel::setUserRequestable>},
     FieldRow<Behavior>{"permissions", "[NAME]", setPermission},
     FieldRow<Behavior>{"conditions", "[PURPOSE][N]", setCondition},
-    FieldRow<Behavior>{"names", "[CODE]", setLocalizedText<Zel::BehaviorNameCommand>},
-    FieldRow<Behavior>{"descriptions", "[CODE]", setLocalizedText<Zel::BehaviorDescriptionCommand>},
-    FieldRow<Behavior>{
-        "tags", "[CODE][N]",
-        setLocalizedItem<Zel::BehaviorSetTagCommand, Zel::BehaviorAddRemoveTagCommand,
-                         &BehaviorInfoModel::tags>},
-    FieldRow<Behavior>{"triggerSentences", "[CODE][N]",
-                       setLocalizedItem<Zel::BehaviorSetTriggerSentenceCommand,
-                                        Zel::BehaviorAddRemoveTriggerSentenceCommand,
-                                        &BehaviorInfoModel::triggerSentences>},
-    FieldRow<Behavior>{"loadingResponses", "[CODE][N]",
-                       setLocalizedItem<Zel::BehaviorSetLoadingResponseCommand,
-                                        Zel::BehaviorAddRemoveLoadingResponseCommand,
-                                        &BehaviorInfoModel::loadingResponses>},
+    FieldRow<Behavior>{"names", "[CODE]", setLocalizedText<&BehaviorInfoModel::setName>},
+    FieldRow<Behavior>{"descriptions", "[CODE]",
+                       setLocalizedText<&BehaviorInfoModel::setDescription>},
+    FieldRow<Behavior>{"tags", "[CODE][N]", setLocalizedItem<tags>},
+    FieldRow<Behavior>{"triggerSentences", "[CODE][N]", setLocalizedItem<triggerSentences>},
+    FieldRow<Behavior>{"loadingResponses", "[CODE][N]", setLocalizedItem<loadingResponses>},
 };
 
-Command setTopicName(const Edit &edit, Dialog &dialog, const QStringList &) {
-    if (!isFreeKey(edit, &dialog.child, dialog.package.dialog(edit.value())))
-        return {};
-    return std::make_unique<Zel::DialogInfoModelNameCommand>(
-        &dialog.package, dialog.child.topicName(), edit.value(), true);
-}
-
-Command setTypeVersion(const Edit &edit, Dialog &dialog, const QStringList &) {
-    return std::make_unique<Zel::DialogInfoModelTypeVersionCommand>(
-        &dialog.package, dialog.child.topicName(), edit.value(), true);
-}
-
-Command setTopic(const Edit &edit, Dialog &dialog, const QStringList &keys) {
+bool setTopic(const Edit &edit, Dialog &dialog, const QStringList &keys) {
     const auto language = edit.language(keys.constFirst());
     if (!language)
-        return {};
-    const QString name = dialog.child.topicName();
+        return false;
     if (edit.value().isEmpty())
-        return std::make_unique<Zel::DialogInfoModelRemoveTopicCommand>(&dialog.package, name,
-                                                                        *language);
-    return std::make_unique<Zel::DialogInfoModelTopicCommand>(&dialog.package, name, *language,
-                                                              edit.value(), true);
+        dialog.child.removeTopic(*language);
+    else
+        dialog.child.setTopic(*language, edit.value());
+    return true;
 }
 
 constexpr std::array dialogFields{
-    FieldRow<Dialog>{"topicName", "", setTopicName},
-    FieldRow<Dialog>{"typeVersion", "", setTypeVersion},
+    FieldRow<Dialog>{"topicName", "",
+                     setKey<Dialog, &PackageInfoModel::dialog, &DialogInfoModel::setTopicName>},
+    FieldRow<Dialog>{"typeVersion", "", setText<Dialog, &DialogInfoModel::setTypeVersion>},
     FieldRow<Dialog>{"topics", "[CODE]", setTopic},
 };
 
-// Sets a field of a service. It is found again by its place, since these commands only live as long
-// as the program runs one assignment after the other.
-template<typename Value>
-class ServiceCommand : public Zel::PackageCommand {
-public:
-    using Setter = void (ServiceInfoModel::*)(Value);
-
-    ServiceCommand(const Service &service, Setter setter, std::decay_t<Value> newValue,
-                   std::decay_t<Value> oldValue)
-        : PackageCommand(&service.package)
-        , m_index(int(service.package.services().indexOf(&service.child)))
-        , m_setter(setter)
-        , m_new(std::move(newValue))
-        , m_old(std::move(oldValue)) {
-        setText(QCoreApplication::translate("zel-package", "Set a service"));
-    }
-
-    void redo() override { (model()->services().at(m_index)->*m_setter)(m_new); }
-    void undo() override { (model()->services().at(m_index)->*m_setter)(m_old); }
-
-private:
-    int m_index;
-    Setter m_setter;
-    std::decay_t<Value> m_new;
-    std::decay_t<Value> m_old;
-};
-
-Command setServiceName(const Edit &edit, Service &service, const QStringList &) {
-    if (!isFreeKey(edit, &service.child, service.package.service(edit.value())))
-        return {};
-    return std::make_unique<ServiceCommand<const QString &>>(service, &ServiceInfoModel::setName,
-                                                             edit.value(), service.child.name());
-}
-
-Command setExecStart(const Edit &edit, Service &service, const QStringList &) {
-    return std::make_unique<ServiceCommand<const QString &>>(
-        service, &ServiceInfoModel::setExecStart, edit.value(), service.child.execStart());
-}
-
-Command setAutoRun(const Edit &edit, Service &service, const QStringList &) {
-    const auto flag = edit.flag();
-    if (!flag)
-        return {};
-    return std::make_unique<ServiceCommand<bool>>(service, &ServiceInfoModel::setAutoRun, *flag,
-                                                  service.child.isAutoRun());
-}
-
 constexpr std::array serviceFields{
-    FieldRow<Service>{"name", "", setServiceName},
-    FieldRow<Service>{"execStart", "", setExecStart},
-    FieldRow<Service>{"autoRun", "", setAutoRun},
+    FieldRow<Service>{"name", "",
+                      setKey<Service, &PackageInfoModel::service, &ServiceInfoModel::setName>},
+    FieldRow<Service>{"execStart", "", setText<Service, &ServiceInfoModel::setExecStart>},
+    FieldRow<Service>{"autoRun", "", setFlag<Service, &ServiceInfoModel::setAutoRun>},
 };
 
 } // namespace
 
-Command editBehavior(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
+bool editBehavior(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
     return editChild(edit, package, keys.constFirst(), package.behaviors(),
                      &BehaviorInfoModel::path, behaviorFields);
 }
 
-Command editDialog(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
+bool editDialog(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
     return editChild(edit, package, keys.constFirst(), package.dialogs(),
                      &DialogInfoModel::topicName, dialogFields);
 }
 
-Command editService(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
+bool editService(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
     return editChild(edit, package, keys.constFirst(), package.services(), &ServiceInfoModel::name,
                      serviceFields);
 }

@@ -49,6 +49,7 @@ const char *sequenceOf(Style style) {
 
 Console::Console()
     : m_width(terminalWidth())
+    , m_isTerminal(isatty(STDOUT_FILENO))
     , m_isColored(isTerminal(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR"))
     , m_canShowProgress(isTerminal(STDERR_FILENO)) {
     if (!m_output.open(STDOUT_FILENO, QIODevice::WriteOnly))
@@ -58,10 +59,19 @@ Console::Console()
 }
 
 void Console::print(const QString &text) {
-    printBytes(text.toStdString());
+    write(text.toStdString());
 }
 
 void Console::printBytes(const std::string &bytes) {
+    write(m_isTerminal ? shown(QString::fromStdString(bytes), QStringLiteral("\t\n")).toStdString()
+                       : bytes);
+}
+
+QString Console::shown(const QString &text, const QString &kept) const {
+    return m_isTerminal ? printableExcept(kept, text) : text;
+}
+
+void Console::write(const std::string &bytes) {
     removeProgress();
     const auto size = qint64(bytes.size());
     // A short write does not say why it is; the next one does.
@@ -98,7 +108,7 @@ void Console::showProgress(const QString &text) {
     if (text.isEmpty() || !m_canShowProgress)
         return;
     flush();
-    m_messages.write((u'\r' % text % QLatin1String("\x1b[K")).toUtf8());
+    m_messages.write((u'\r' % printable(text) % QLatin1String("\x1b[K")).toUtf8());
     m_showsProgress = true;
 }
 

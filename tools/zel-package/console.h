@@ -23,7 +23,12 @@ public:
 
     /// Writes to standard output. A failure shows in finish().
     void print(const QString &text);
+    /// Writes content in UTF-8; on a terminal it is printable, apart from tabs and line feeds.
     void printBytes(const std::string &bytes);
+
+    /// A file name or a part of a file as standard output gets it: printable on a terminal, apart
+    /// from the characters in `kept`; unchanged elsewhere, for programs that read it.
+    [[nodiscard]] QString shown(const QString &text, const QString &kept = {}) const;
 
     // To standard error, as "zel-package: FILE:LINE:COLUMN: message". Control characters are
     // escaped.
@@ -48,6 +53,7 @@ public:
     [[nodiscard]] QString styled(const QString &text, Style style) const;
 
 private:
+    void write(const std::string &bytes);
     void flush();
     void removeProgress();
 
@@ -55,6 +61,7 @@ private:
     QFile m_messages;
     QString m_writeError;
     int m_width;
+    bool m_isTerminal;
     bool m_isColored;
     bool m_canShowProgress;
     bool m_showsProgress = false;

@@ -2,42 +2,37 @@
 
 #include "child_fields.h"
 #include "field_table.h"
-#include "requirement_command.h"
+#include "requirement_fields.h"
 
-#include <packagemodel/set_string.h>
-#include <packagemodel/supported_languages_command.h>
-
+#include <algorithm>
 #include <array>
 
 namespace ZelPackage {
 namespace {
 
 using Zel::PackageInfoModel;
-using Zel::PackageLocalizedStringCommand;
-using Zel::PackageStringCommand;
 
-template<PackageStringCommand::WhatString what>
-Command setText(const Edit &edit, PackageInfoModel &package, const QStringList &) {
-    return std::make_unique<PackageStringCommand>(&package, edit.value(), what, true);
+template<void (PackageInfoModel::*set)(const QString &text)>
+bool setText(const Edit &edit, PackageInfoModel &package, const QStringList &) {
+    (package.*set)(edit.value());
+    return true;
 }
 
-template<PackageLocalizedStringCommand::WhatString what>
-Command setLocalizedText(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
+template<void (PackageInfoModel::*set)(const QString &text, const Zel::RobotLanguage &language)>
+bool setLocalizedText(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
     const auto language = edit.language(keys.constFirst());
-    if (!language)
-        return {};
-    return std::make_unique<PackageLocalizedStringCommand>(&package, edit.value(), what, *language,
-                                                           true);
+    if (language)
+        (package.*set)(edit.value(), *language);
+    return language.has_value();
 }
 
-Command setVersion(const Edit &edit, PackageInfoModel &package, const QStringList &) {
+bool setVersion(const Edit &edit, PackageInfoModel &package, const QStringList &) {
     const auto version = edit.version();
     if (version && version->fieldsCount() == 0)
         return edit.refuse(QCoreApplication::translate("zel-package", "A package has a version."));
-    if (!version)
-        return {};
-    return std::make_unique<Zel::PackageGenericValueCommand<Zel::SoftwareVersion>>(&package,
-                                                                                   *version);
+    if (version)
+        package.setVersion(*version);
+    return version.has_value();
 }
 
 // One of the package's two lists of languages.
@@ -59,61 +54,42 @@ constexpr LanguageList descriptionLanguages{&PackageInfoModel::descriptionLangua
                                             &PackageInfoModel::addDescriptionLanguage,
                                             &PackageInfoModel::removeDescriptionLanguage};
 
-class SwitchLanguageCommand : public Zel::PackageLanguageCommand {
-public:
-    SwitchLanguageCommand(PackageInfoModel *package, const LanguageList &list,
-                          const Zel::RobotLanguage &language)
-        : PackageLanguageCommand(package, language)
-        , m_list(list) {
-        setText(QCoreApplication::translate("zel-package", "Switch language %1")
-                    .arg(language.isoCode()));
-    }
-
-    void switchLanguage() override {
-        const bool isThere = m_list.contains(*model(), language());
-        (model()->*(isThere ? m_list.remove : m_list.add))(language());
-    }
-
-private:
-    const LanguageList &m_list;
-};
-
 // "[+]=CODE" adds a language, "[CODE]=" removes it.
 template<const LanguageList &list>
-Command switchLanguage(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
+bool switchLanguage(const Edit &edit, PackageInfoModel &package, const QStringList &keys) {
     const bool isAdded = keys.constFirst() == appendKey;
     if (!isAdded && !edit.value().isEmpty())
         return edit.refuse(QCoreApplication::translate(
             "zel-package", "[+]=CODE adds a language, [CODE]= removes it."));
     const auto language = edit.language(isAdded ? edit.value() : keys.constFirst());
     if (!language)
-        return {};
+        return false;
     if (list.contains(package, *language) == isAdded)
         return edit.refuse(
             isAdded ? QCoreApplication::translate("zel-package", "The list has '%1' already.")
                           .arg(language->isoCode())
                     : QCoreApplication::translate("zel-package", "The list does not have '%1'.")
                           .arg(language->isoCode()));
-    return std::make_unique<SwitchLanguageCommand>(&package, list, *language);
+    (package.*(isAdded ? list.add : list.remove))(*language);
+    return true;
 }
 
 constexpr std::array packageFields{
-    FieldRow<PackageInfoModel>{"uid", "", setText<PackageStringCommand::Uid>},
+    FieldRow<PackageInfoModel>{"uid", "", setText<&PackageInfoModel::setUid>},
     FieldRow<PackageInfoModel>{"version", "", setVersion},
-    FieldRow<PackageInfoModel>{"typeVersion", "", setText<PackageStringCommand::TypeVersion>},
-    FieldRow<PackageInfoModel>{"installer", "", setText<PackageStringCommand::Installer>},
-    FieldRow<PackageInfoModel>{"author", "", setText<PackageStringCommand::Author>},
-    FieldRow<PackageInfoModel>{"organization", "", setText<PackageStringCommand::Organization>},
-    FieldRow<PackageInfoModel>{"date", "", setText<PackageStringCommand::Date>},
-    FieldRow<PackageInfoModel>{"channel", "", setText<PackageStringCommand::Channel>},
-    FieldRow<PackageInfoModel>{"path", "", setText<PackageStringCommand::Path>},
+    FieldRow<PackageInfoModel>{"typeVersion", "", setText<&PackageInfoModel::setTypeVersion>},
+    FieldRow<PackageInfoModel>{"installer", "", setText<&PackageInfoModel::setInstaller>},
+    FieldRow<PackageInfoModel>{"author", "", setText<&PackageInfoModel::setAuthor>},
+    FieldRow<PackageInfoModel>{"organization", "", setText<&PackageInfoModel::setOrganization>},
+    FieldRow<PackageInfoModel>{"date", "", setText<&PackageInfoModel::setDate>},
+    FieldRow<PackageInfoModel>{"channel", "", setText<&PackageInfoModel::setChannel>},
+    FieldRow<PackageInfoModel>{"path", "", setText<&PackageInfoModel::setPath>},
     FieldRow<PackageInfoModel>{"supportedLanguages", "[CODE]", switchLanguage<supportedLanguages>},
     FieldRow<PackageInfoModel>{"descriptionLanguages", "[CODE]",
                                switchLanguage<descriptionLanguages>},
-    FieldRow<PackageInfoModel>{"names", "[CODE]",
-                               setLocalizedText<PackageLocalizedStringCommand::Name>},
+    FieldRow<PackageInfoModel>{"names", "[CODE]", setLocalizedText<&PackageInfoModel::setName>},
     FieldRow<PackageInfoModel>{"descriptions", "[CODE]",
-                               setLocalizedText<PackageLocalizedStringCommand::Description>},
+                               setLocalizedText<&PackageInfoModel::setDescription>},
     FieldRow<PackageInfoModel>{"robotRequirements", "[N].FIELD", editRobotRequirement},
     FieldRow<PackageInfoModel>{"brioRequirements", "[N].FIELD", editBrioRequirement},
     FieldRow<PackageInfoModel>{"behaviors", "[PATH].FIELD", editBehavior},
@@ -123,8 +99,8 @@ constexpr std::array packageFields{
 
 } // namespace
 
-Command commandFor(const Assignment &assignment, PackageInfoModel &package, Console &console) {
-    return makeCommand(packageFields, Edit(assignment, console), package, 0);
+bool assign(const Assignment &assignment, PackageInfoModel &package, Console &console) {
+    return setField(packageFields, Edit(assignment, console), package, 0);
 }
 
 } // namespace ZelPackage

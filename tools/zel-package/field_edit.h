@@ -3,21 +3,17 @@
 #include "console.h"
 #include "field_path.h"
 
-#include <QUndoCommand>
-
-#include <memory>
-
 namespace Zel {
 class PackageInfoModel;
 }
 
 namespace ZelPackage {
 
-/// The command that makes an assignment to a field of the package; where there is none, tells what
-/// is wrong with the assignment.
+/// Assigns to a field of the package. Returns false if the assignment is wrong, once the reason is
+/// reported.
 ///
 /// An empty value clears a text and removes an item of a list; the key "+" appends one.
-[[nodiscard]] std::unique_ptr<QUndoCommand>
-commandFor(const Assignment &assignment, Zel::PackageInfoModel &package, Console &console);
+[[nodiscard]] bool assign(const Assignment &assignment, Zel::PackageInfoModel &package,
+                          Console &console);
 
 } // namespace ZelPackage

@@ -2,9 +2,9 @@
 
 namespace ZelPackage {
 
-Command Edit::refuse(const QString &message) const {
+bool Edit::refuse(const QString &message) const {
     m_console.tell(m_assignment.field, message);
-    return {};
+    return false;
 }
 
 std::optional<Zel::RobotLanguage> Edit::language(const QString &key) const {

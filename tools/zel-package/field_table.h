@@ -8,20 +8,15 @@
 #include <packagemodel/package_info_model.h>
 
 #include <QCoreApplication>
-#include <QUndoCommand>
 
-#include <algorithm>
-#include <memory>
 #include <optional>
 
 namespace ZelPackage {
 
-using Command = std::unique_ptr<QUndoCommand>;
-
 /// The key that appends to a list.
 const QLatin1String appendKey("+");
 
-/// An assignment on its way to a command, and where its faults are told.
+/// An assignment on its way to the model, and the console that its faults are reported to.
 class Edit {
 public:
     Edit(const Assignment &assignment, Console &console)
@@ -31,8 +26,8 @@ public:
     [[nodiscard]] const std::vector<FieldStep> &path() const { return m_assignment.path; }
     [[nodiscard]] const QString &value() const { return m_assignment.value; }
 
-    /// Tells what is wrong with the field or its value. There is no command then.
-    Command refuse(const QString &message) const;
+    /// Reports what is wrong with the field or its value. Always false.
+    bool refuse(const QString &message) const;
 
     // What a key or the value stands for; nothing, once it is told why, where it stands for none.
 
@@ -49,18 +44,18 @@ private:
     Console &m_console;
 };
 
-/// One field of an owner: its name, how it goes on after that ("[CODE][N]"), and the command that
-/// sets it. "FIELD" stands for a field of a part of the owner.
+/// One field of an owner: its name, the rest of its path ("[CODE][N]"), and the function that sets
+/// it, which returns false if it refuses the edit. "FIELD" means a field of a part of the owner.
 template<typename Owner>
 struct FieldRow {
     const char *name;
     const char *rest;
-    Command (*make)(const Edit &edit, Owner &owner, const QStringList &keys);
+    bool (*set)(const Edit &edit, Owner &owner, const QStringList &keys);
 };
 
-/// Makes a command by the row that the step of the edit's path names.
+/// Sets the field whose row the step of the edit's path names; false if the edit is refused.
 template<typename Table, typename Owner>
-Command makeCommand(const Table &table, const Edit &edit, Owner &owner, std::size_t step) {
+bool setField(const Table &table, const Edit &edit, Owner &owner, std::size_t step) {
     const FieldStep &field = edit.path().at(step);
     QStringList names;
     for (const auto &row : table)
@@ -80,7 +75,7 @@ Command makeCommand(const Table &table, const Edit &edit, Owner &owner, std::siz
         edit.path().size() != step + (hasParts ? 2 : 1))
         return edit.refuse(QCoreApplication::translate("zel-package", "It is written '%1%2'.")
                                .arg(field.name, rest));
-    return row.make(edit, owner, field.keys);
+    return row.set(edit, owner, field.keys);
 }
 
 } // namespace ZelPackage

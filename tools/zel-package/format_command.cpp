@@ -25,7 +25,7 @@ ExitStatus check(const QString &file, const Manifest &manifest, Console &console
         return tellFailure(file, manifest, console);
     if (manifest.content == canonical)
         return Fine;
-    console.print(file % u'\n');
+    console.print(console.shown(file) % u'\n');
     return Findings;
 }
 

@@ -10,7 +10,7 @@ QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format) {
     result.reserve(json.size());
     // Such characters stand only within texts; a line feed only between them.
     for (const QChar character : json) {
-        if (character != u'\n' && isUnprintable(character))
+        if (character != u'\n' && isUnprintable(character.unicode()))
             result += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QChar(u'0'));
         else
             result += character;

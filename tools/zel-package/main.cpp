@@ -1,4 +1,5 @@
 #include "command.h"
+#include "text_layout.h"
 
 #include <packagemodel/translation.h>
 
@@ -7,6 +8,7 @@
 
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
@@ -49,6 +51,12 @@ private:
     QByteArray m_value;
 };
 
+// Messages of Qt and of the libraries may name files.
+void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
+    const QString line = ZelPackage::printable(qFormatLogMessage(type, context, message));
+    std::fprintf(stderr, "%s\n", line.toUtf8().constData());
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -63,6 +71,7 @@ int main(int argc, char **argv) {
     QCoreApplication::setApplicationName(QStringLiteral("zel-package"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_PACKAGE_VERSION));
     qSetMessagePattern(QStringLiteral("zel-package: %{message}"));
+    qInstallMessageHandler(writeMessage);
     for (const char *catalogue : {"packagemodel", "zel-package"})
         Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 

@@ -10,7 +10,6 @@
 
 namespace ZelPackage {
 
-using Zel::PackageModel::Issue;
 using Zel::PackageModel::Rule;
 using Zel::PackageModel::Severity;
 
@@ -62,18 +61,6 @@ QString messageForm(const Rule &rule) {
     return QString(rule.message)
         .replace(lessThan, QLatin1String("<"))
         .replace(placeholder, QStringLiteral("…"));
-}
-
-QString plainText(const Issue &issue) {
-    if (!issue.text.contains(lessThan))
-        return issue.text;
-    // What is filled into a message is not escaped; a path may well look like an entity.
-    const QVector<Rule> rules = Zel::PackageModel::rules();
-    const auto rule = std::find_if(rules.begin(), rules.end(),
-                                   [&](const Rule &known) { return known.id == issue.id; });
-    return rule != rules.end() && rule->message.contains(lessThan)
-               ? QString(issue.text).replace(lessThan, QLatin1String("<"))
-               : issue.text;
 }
 
 QString explanationOf(const Rule &rule, const Console &console) {

@@ -24,9 +24,6 @@ extern const QLatin1String malformedRuleId;
 /// The rule's message as plain text, "…" where it names something.
 [[nodiscard]] QString messageForm(const Zel::PackageModel::Rule &rule);
 
-/// What an issue says, as plain text.
-[[nodiscard]] QString plainText(const Zel::PackageModel::Issue &issue);
-
 /// What there is to know about a rule, in lines of the width of the terminal.
 [[nodiscard]] QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
 

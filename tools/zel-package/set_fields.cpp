@@ -9,16 +9,14 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QRegularExpression>
-#include <QUndoStack>
 
 #include <algorithm>
 
 namespace ZelPackage {
 namespace {
 
-// Makes all assignments, each upon what those before it have made; tells of every wrong one.
-bool assign(const QStringList &arguments, Zel::PackageInfoModel &package, Console &console) {
-    QUndoStack stack;
+// Makes all assignments, each upon the result of those before it; reports every wrong one.
+bool assignAll(const QStringList &arguments, Zel::PackageInfoModel &package, Console &console) {
     bool isFine = true;
     for (const QString &argument : arguments) {
         const auto assignment = parseAssignment(argument);
@@ -27,10 +25,7 @@ bool assign(const QStringList &arguments, Zel::PackageInfoModel &package, Consol
                                                      "'%1' is not of the form FIELD=VALUE, as in "
                                                      "author=Ines or names[en_US]=Tea.")
                              .arg(argument));
-        auto command = assignment ? commandFor(*assignment, package, console) : nullptr;
-        isFine = isFine && command;
-        if (command)
-            stack.push(command.release());
+        isFine = assignment && assign(*assignment, package, console) && isFine;
     }
     return isFine;
 }
@@ -55,7 +50,7 @@ std::optional<Tano::PackageInfo> edited(const Tano::PackageInfo &record,
                                         const QStringList &arguments, Console &console) {
     Zel::PackageInfoModel package(record);
     const Tano::PackageInfo completed = package.packageInfo();
-    if (!assign(arguments, package, console))
+    if (!assignAll(arguments, package, console))
         return {};
     package.syncRecord();
     Tano::PackageInfo result = package.packageInfo();

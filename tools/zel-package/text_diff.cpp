@@ -170,7 +170,7 @@ QString printed(char mark, std::string_view line, Style style, const Console &co
         line.remove_suffix(1);
     // Behind the mark, so that a byte order mark is kept.
     const QString text = QString::fromStdString(mark + std::string(line));
-    return console.styled(text, style) %
+    return console.styled(console.shown(text, QStringLiteral("\t")), style) %
            (isEnded ? QStringLiteral("\n") : QStringLiteral("\n\\ No newline at end of file\n"));
 }
 
@@ -209,6 +209,7 @@ QString unifiedDiff(const QString &name, const std::string &before, const std::s
                              script.begin() + std::ptrdiff_t(end),
                              [&](const ScriptLine &line) { return line.change != left; });
     };
+    const QString shownName = console.shown(name);
     QString text;
     std::ptrdiff_t oldLine = 1;
     std::ptrdiff_t newLine = 1;
@@ -223,8 +224,8 @@ QString unifiedDiff(const QString &name, const std::string &before, const std::s
         const auto oldCount = count(begin, end, Change::Addition);
         const auto newCount = count(begin, end, Change::Deletion);
         if (text.isEmpty())
-            text = console.styled(QStringLiteral("--- ") % name, Style::Heading) % u'\n' %
-                   console.styled(QStringLiteral("+++ ") % name, Style::Heading) % u'\n';
+            text = console.styled(QStringLiteral("--- ") % shownName, Style::Heading) % u'\n' %
+                   console.styled(QStringLiteral("+++ ") % shownName, Style::Heading) % u'\n';
         text += console.styled(QStringLiteral("@@ -%1 +%2 @@")
                                    .arg(range(oldLine, oldCount), range(newLine, newCount)),
                                Style::Faint) %

@@ -3,13 +3,29 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <array>
 #include <cwchar>
 
 namespace ZelPackage {
 namespace {
 
-constexpr bool isBetween(char16_t code, char16_t first, char16_t last) {
-    return code >= first && code <= last;
+struct Range {
+    uint first;
+    uint last;
+};
+
+// What Unicode calls ignorable, and other categories than that of formats include.
+constexpr std::array invisible{Range{0x034F, 0x034F},  Range{0x115F, 0x1160}, Range{0x17B4, 0x17B5},
+                               Range{0x180B, 0x180F},  Range{0x2065, 0x2065}, Range{0x3164, 0x3164},
+                               Range{0xFE00, 0xFE0F},  Range{0xFFA0, 0xFFA0}, Range{0xFFF0, 0xFFF8},
+                               Range{0xE0000, 0xE0FFF}};
+
+// Joiners and variation selectors change the shape of emoji and of letters of some scripts. After
+// others they only hide.
+bool shapes(uint code, uint base) {
+    constexpr uint firstShaped = 0x0600; // beyond the alphabets without joining letters
+    return base >= firstShaped &&
+           (code == 0x200C || code == 0x200D || code == 0xFE0E || code == 0xFE0F);
 }
 
 // The parts of a text between the boundaries of one type; together they are the text.
@@ -59,24 +75,44 @@ private:
 
 } // namespace
 
-bool isUnprintable(QChar character) {
-    const char16_t code = character.unicode();
-    return character.category() == QChar::Other_Control || code == 0x061C ||
-           isBetween(code, 0x200E, 0x200F) || isBetween(code, 0x2028, 0x202E) ||
-           isBetween(code, 0x2066, 0x206F) || code == 0xFEFF || isBetween(code, 0xFFF9, 0xFFFB);
+bool isUnprintable(uint code) {
+    switch (QChar::category(code)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return std::any_of(invisible.begin(), invisible.end(), [code](const Range &range) {
+            return code >= range.first && code <= range.last;
+        });
+    }
 }
 
 QString printable(const QString &text) {
-    if (std::none_of(text.begin(), text.end(), isUnprintable))
+    return printableExcept({}, text);
+}
+
+QString printableExcept(const QString &kept, const QString &text) {
+    const auto needsCare = [](QChar character) {
+        return character.isSurrogate() || isUnprintable(character.unicode());
+    };
+    if (std::none_of(text.begin(), text.end(), needsCare))
         return text;
     QString result;
-    for (const QChar character : text) {
-        if (isUnprintable(character))
-            result += QStringLiteral("<U+%1>")
-                          .arg(uint(character.unicode()), 4, 16, QChar(u'0'))
-                          .toUpper();
-        else
+    uint base = 0;
+    const auto codes = text.toUcs4();
+    for (const uint code : codes) {
+        const auto wide = char32_t(code);
+        const QString character = QString::fromUcs4(&wide, 1);
+        if (shapes(code, base)) {
             result += character;
+            continue;
+        }
+        const bool isShown = !isUnprintable(code) || kept.contains(character);
+        result +=
+            isShown ? character : QStringLiteral("<U+%1>").arg(code, 4, 16, QChar(u'0')).toUpper();
+        base = isShown ? code : 0;
     }
     return result;
 }

@@ -7,12 +7,14 @@
 /// combining one.
 namespace ZelPackage {
 
-/// Whether a character would move the cursor or reorder the line rather than show: a control
-/// character, a line separator, or one that controls the direction of writing.
-[[nodiscard]] bool isUnprintable(QChar character);
+/// Whether a character is invisible or would control the terminal or the direction of writing.
+[[nodiscard]] bool isUnprintable(uint code);
 
-/// The text with every character that isUnprintable() shown as <U+202E>.
+/// The text with each character that isUnprintable() replaced as in "<U+202E>", apart from joiners
+/// and variation selectors where emoji and scripts need them.
 [[nodiscard]] QString printable(const QString &text);
+/// The same, apart from the characters in `kept` as well.
+[[nodiscard]] QString printableExcept(const QString &kept, const QString &text);
 
 /// How many columns the text takes.
 [[nodiscard]] int displayWidth(const QString &text);

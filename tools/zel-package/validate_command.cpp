@@ -141,7 +141,7 @@ private:
         for (const Issue &issue : issues) {
             if (!m_ignored.contains(issue.id))
                 found({file, reader.position(Zel::toUtf8(issue.path)), issue.id, issue.severity,
-                       issue.path, plainText(issue)});
+                       issue.path, issue.plainText()});
         }
     }
 

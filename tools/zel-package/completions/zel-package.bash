@@ -14,44 +14,47 @@ _zel_package_rules() {
     done
 }
 
+# Neither what is typed nor what the program prints is ever expanded: "compgen -W" would run it.
 _zel_package() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-    local words=
+    local prefix= word
+    local -a words=()
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words='new show validate format set publish explain languages robots --help --version'
+        words=(new show validate format set publish explain languages robots --help --version)
     else
         case ${COMP_WORDS[1]}:$previous in
-        *:--language) words=$(_zel_package_languages "${COMP_WORDS[0]}") ;;
-        show:--format) words='text json' ;;
-        validate:--format) words='text json sarif' ;;
-        validate:--fail-on) words='error warning' ;;
+        *:--language) mapfile -t words < <(_zel_package_languages "${COMP_WORDS[0]}") ;;
+        show:--format) words=(text json) ;;
+        validate:--format) words=(text json sarif) ;;
+        validate:--fail-on) words=(error warning) ;;
         validate:--ignore)
             # The list so far stays in front of each word.
-            [[ $current == *,* ]] && local listed=${current%,*},
-            words=$(_zel_package_rules "${COMP_WORDS[0]}")
-            words=${words//$'\n'/ }
-            words=${listed-}${words// / ${listed-}}
+            [[ $current == *,* ]] && prefix=${current%,*},
+            mapfile -t words < <(_zel_package_rules "${COMP_WORDS[0]}")
             ;;
         explain:explain)
-            words="$(_zel_package_rules "${COMP_WORDS[0]}") manifest-malformed --help"
+            mapfile -t words < <(_zel_package_rules "${COMP_WORDS[0]}")
+            words+=(manifest-malformed --help)
             ;;
         *:--uid | *:--name) return ;;
         *)
             [[ $current == -* ]] && case ${COMP_WORDS[1]} in
-            new) words='--uid --name --language --help' ;;
-            show) words='--language --format --help' ;;
-            validate) words='--format --fail-on --ignore --explain --help' ;;
-            format) words='--check --help' ;;
-            set) words='--dry-run --help' ;;
-            publish) words='--output --help' ;;
-            explain | languages | robots) words='--help' ;;
+            new) words=(--uid --name --language --help) ;;
+            show) words=(--language --format --help) ;;
+            validate) words=(--format --fail-on --ignore --explain --help) ;;
+            format) words=(--check --help) ;;
+            set) words=(--dry-run --help) ;;
+            publish) words=(--output --help) ;;
+            explain | languages | robots) words=(--help) ;;
             esac
             ;;
         esac
     fi
 
     # Without words of the program's own, complete file names: see "-o default" below.
-    [[ -n $words ]] && mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    for word in "${words[@]}"; do
+        [[ $prefix$word == "$current"* ]] && COMPREPLY+=("$prefix$word")
+    done
 } && complete -o default -F _zel_package zel-package

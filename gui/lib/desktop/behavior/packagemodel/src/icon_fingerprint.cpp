@@ -1,5 +1,6 @@
 #include "icon_fingerprint.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QIcon>
 #include <QPixmap>
@@ -21,6 +22,21 @@ QByteArray digestOf(const QImage &image) {
     return hash.result();
 }
 
+// QIcon renders at the device pixel ratio of the application where it may: 1.6 GB instead of 400 MB
+// at a ratio of 2, and another image after the window has moved to another screen.
+QPixmap rendered(const QIcon &icon) {
+    const QSize size(largestExtent, largestExtent);
+#if QT_VERSION_MAJOR < 6
+    const bool wasScaled = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
+    const QPixmap pixmap = icon.pixmap(size, QIcon::Normal, QIcon::Off);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, wasScaled);
+    return pixmap;
+#else
+    return icon.pixmap(size, 1.0, QIcon::Normal, QIcon::Off);
+#endif
+}
+
 } // namespace
 
 bool operator==(const IconFingerprint &a, const IconFingerprint &b) {
@@ -30,8 +46,7 @@ bool operator==(const IconFingerprint &a, const IconFingerprint &b) {
 IconFingerprint fingerprint(const QIcon &icon) {
     if (icon.isNull())
         return {};
-    const QImage image =
-        icon.pixmap(QSize(largestExtent, largestExtent), QIcon::Normal, QIcon::Off).toImage();
+    const QImage image = rendered(icon).toImage();
     if (image.isNull())
         return {};
     return {image.format(), image.size(), digestOf(image)};

@@ -2,12 +2,18 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace Zel::PackageModel {
 namespace {
 
 constexpr const char *explanationContext = "Zel::PackageModel";
+
+// The only entity in messages. The values of a message that has it are versions, which cannot
+// contain it.
+constexpr const char *lessThan = "&lt;";
 
 // clang-format off
 const std::array table{
@@ -83,6 +89,18 @@ QVector<Rule> rules() {
                       QCoreApplication::translate(explanationContext, row.remedy)});
     }
     return rules;
+}
+
+QString Issue::plainText() const {
+    const auto row = std::find_if(table.begin(), table.end(), [this](const RuleRow &row) {
+        return id == QLatin1String(row.id);
+    });
+    const bool isEscaped = row != table.end() && std::strstr(row->message, lessThan);
+    return isEscaped ? QString(text).replace(QLatin1String(lessThan), QLatin1String("<")) : text;
+}
+
+QString Issue::richText() const {
+    return plainText().toHtmlEscaped();
 }
 
 } // namespace Zel::PackageModel

@@ -71,7 +71,9 @@ public:
     // load also returns false if an observer of its notifications assigned, cleared or loaded
     // something else. packageInfo().errorString() says why a load or a save failed.
 
-    /// Reads a manifest, and "icon.png" beside it as the icon where there is a QGuiApplication.
+    /// Reads a manifest and, if there is a QGuiApplication, the icon from "icon.png" beside it. An
+    /// icon that is not a PNG in a regular file of at most 16 MiB and 4096 x 4096 pixels is logged
+    /// and left out.
     [[nodiscard]] bool loadFromManifestFile(const QString &path);
     /// The same for a file that is read from its current position when it is open.
     [[nodiscard]] bool loadFromManifestFile(QFile &file);

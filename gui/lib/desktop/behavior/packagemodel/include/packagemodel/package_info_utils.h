@@ -35,9 +35,10 @@ namespace PackageModel {
                                                         const RobotLanguage &language);
 
 // Checks. Each clears the containers that it is given, fills them, and returns whether it found
-// nothing. Messages are in the language of the application, as rich text; languages stand in the
-// order of the package's supported languages. Nothing is found in a null package, but false is
-// returned.
+// nothing. Messages are in the language of the application; their languages have the order of the
+// package's supported languages. "<" of a message's wording is "&lt;", but the values in it are not
+// escaped: for a rich-text widget, use Issue::richText(). Nothing is found in a null package, but
+// false is returned.
 
 /// For each behavior, by its path, the supported languages in which it lacks something.
 using BehaviorsMissingLanguages = std::vector<std::pair<QString, RobotLanguages>>;

@@ -34,7 +34,14 @@ struct Issue {
     /// The field at fault, for example "names[fr_FR]", "robotRequirements[0].maxBodyVersion" or
     /// "behaviors[greet].triggerSentences[ja_JP]". Lists count from 0.
     QString path;
-    QString text; ///< what is wrong, as rich text like the messages
+    /// What is wrong, worded as in the messages: "<" of the wording is "&lt;", while values of the
+    /// package are not escaped. Show plainText() or richText() instead.
+    QString text;
+
+    /// The text without markup, for a terminal, a report or a plain label.
+    [[nodiscard]] PACKAGEMODEL_EXPORT QString plainText() const;
+    /// The text for a rich-text widget. Values of the package appear as they are; none is markup.
+    [[nodiscard]] PACKAGEMODEL_EXPORT QString richText() const;
 };
 
 /// All that is wrong with a package: the same findings as the messages of validate(), in the same
