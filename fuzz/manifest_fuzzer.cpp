@@ -32,7 +32,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     Tano::PackageInfo package;
     if (reader.readContent(content, package)) {
-        require(reader.position({}).line > 0, "the root element has a place");
+        require(reader.position(Tano::FieldPath()).line > 0, "the root element has a place");
         requireRoundTrip(package);
     } else {
         requireRefusal(reader, package);

@@ -61,6 +61,19 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
 
 } // namespace
 
+void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
+                  const KeySet &supportedCodes) {
+    BehaviorData &data = RecordAccess::edit(behavior);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    keepOnly(data.tags, supportedCodes);
+    keepOnly(data.triggerSentences, supportedCodes);
+    keepOnly(data.loadingResponses, supportedCodes);
+    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
+        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
+    });
+}
+
 const std::string &BehaviorInfo::natureInteractive() {
     return interactive;
 }
@@ -242,15 +255,7 @@ bool BehaviorInfo::removeCondition(const std::string &condition, const std::stri
 
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
-    BehaviorData &data = RecordAccess::edit(*this);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    keepOnly(data.tags, supportedCodes);
-    keepOnly(data.triggerSentences, supportedCodes);
-    keepOnly(data.loadingResponses, supportedCodes);
-    std::vector<std::string> codes = descriptionCodes;
-    codes.insert(codes.end(), supportedCodes.begin(), supportedCodes.end());
-    dropForeign(data.extras, Element::BehaviorTexts, codes);
+    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {

@@ -38,7 +38,11 @@ void DialogInfo::setTopic(const std::string &code, const std::string &path) {
 bool DialogInfo::removeTopic(const std::string &code) {
     if (topics().find(code) == topics().end())
         return false;
-    RecordAccess::edit(*this).topics.erase(code);
+    DialogData &data = RecordAccess::edit(*this);
+    const std::string removed = code; // which may be the key itself
+    data.topics.erase(removed);
+    dropChildren(data.extras, Element::Topic,
+                 [&](const std::string &language) { return language == removed; });
     return true;
 }
 

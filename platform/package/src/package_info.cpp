@@ -306,11 +306,14 @@ std::set<std::string> PackageInfo::languageCodes() const {
 
 void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
-    keepOnly(data.names, data.descriptionLanguages);
-    keepOnly(data.descriptions, data.descriptionLanguages);
-    dropForeign(data.extras, Element::PackageTexts, data.descriptionLanguages);
+    const KeySet descriptionCodes(data.descriptionLanguages);
+    const KeySet supportedCodes(data.supportedLanguages);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    dropChildren(data.extras, Element::PackageTexts,
+                 [&](const std::string &code) { return !descriptionCodes.contains(code); });
     for (BehaviorInfo &behavior : data.behaviors)
-        behavior.trimExtraInfo(data.descriptionLanguages, data.supportedLanguages);
+        trimBehavior(behavior, descriptionCodes, supportedCodes);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Tano {
@@ -102,13 +103,30 @@ inline const std::vector<std::string> &listOf(const TextListMap &lists, const st
     return it == lists.end() ? empty : it->second;
 }
 
+/// The keys to keep, in a form for many look-ups. Refers to the list that it was made of.
+class KeySet {
+public:
+    explicit KeySet(const std::vector<std::string> &keys)
+        : m_keys(keys.begin(), keys.end()) {
+        std::sort(m_keys.begin(), m_keys.end());
+    }
+    [[nodiscard]] bool contains(std::string_view key) const {
+        return std::binary_search(m_keys.begin(), m_keys.end(), key);
+    }
+
+private:
+    std::vector<std::string_view> m_keys;
+};
+
 /// Erases all but the entries of those keys.
 template<typename Map>
-void keepOnly(Map &map, const std::vector<std::string> &keys) {
-    for (auto it = map.begin(); it != map.end();) {
-        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
-        it = isKept ? std::next(it) : map.erase(it);
-    }
+void keepOnly(Map &map, const KeySet &keys) {
+    for (auto it = map.begin(); it != map.end();)
+        it = keys.contains(it->first) ? std::next(it) : map.erase(it);
 }
+
+/// BehaviorInfo::trimExtraInfo() for many behaviors.
+void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
+                  const KeySet &supportedCodes);
 
 } // namespace Tano
