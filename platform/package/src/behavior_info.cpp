@@ -264,9 +264,11 @@ bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
     const BehaviorData &x = RecordAccess::data(a);
     const BehaviorData &y = RecordAccess::data(b);
     const auto fields = [](const BehaviorData &data) {
-        return std::tie(data.path, data.nature, data.userRequestable, data.permissions,
-                        data.conditions, data.names, data.descriptions, data.tags,
-                        data.triggerSentences, data.loadingResponses);
+        const auto &[path, nature, userRequestable, permissions, conditions, names, descriptions,
+                     tags, triggerSentences, loadingResponses, extras] = data;
+        (void)extras; // compared as it is written
+        return std::tie(path, nature, userRequestable, permissions, conditions, names, descriptions,
+                        tags, triggerSentences, loadingResponses);
     };
     return fields(x) == fields(y) && sameExtras(x, y);
 }

@@ -449,10 +449,10 @@ void ManifestParser::beginRecord(Frame &frame) {
         beginPackage();
         break;
     case Element::SupportedLanguage:
-        m_package->supportedLanguages.push_back(frame.key);
+        m_package->supportedLanguages.append(frame.key);
         break;
     case Element::DescriptionLanguage:
-        m_package->descriptionLanguages.push_back(frame.key);
+        m_package->descriptionLanguages.append(frame.key);
         break;
     case Element::RobotRequirement:
         m_package->robotRequirements.push_back(

@@ -9,9 +9,45 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace Tano {
+
+/// A list of texts, each of which occurs once, in the order of their addition.
+class UniqueTexts {
+public:
+    operator const std::vector<std::string> &() const { return m_texts; } // NOLINT: it is a list
+
+    [[nodiscard]] std::size_t size() const { return m_texts.size(); }
+    /// For texts that are known to be new.
+    void append(const std::string &text) {
+        m_texts.push_back(text);
+        if (!m_known.empty())
+            m_known.insert(text);
+    }
+    [[nodiscard]] bool contains(const std::string &text) const {
+        if (m_texts.size() < indexedFrom)
+            return std::find(m_texts.begin(), m_texts.end(), text) != m_texts.end();
+        if (m_known.empty())
+            m_known.insert(m_texts.begin(), m_texts.end());
+        return m_known.count(text) != 0;
+    }
+    void remove(const std::string &text) {
+        m_known.clear();
+        m_texts.erase(std::remove(m_texts.begin(), m_texts.end(), text), m_texts.end());
+    }
+
+    friend bool operator==(const UniqueTexts &a, const UniqueTexts &b) {
+        return a.m_texts == b.m_texts;
+    }
+
+private:
+    static constexpr std::size_t indexedFrom = 32;
+
+    std::vector<std::string> m_texts;
+    mutable std::unordered_set<std::string> m_known; // built at the first search of a long list
+};
 
 struct BehaviorData {
     std::string path;
@@ -44,8 +80,8 @@ struct PackageData {
     std::string date;
     std::string channel;
     std::string path;
-    std::vector<std::string> supportedLanguages;
-    std::vector<std::string> descriptionLanguages;
+    UniqueTexts supportedLanguages;
+    UniqueTexts descriptionLanguages;
     TextMap names;
     TextMap descriptions;
     std::vector<RobotRequirement> robotRequirements;
