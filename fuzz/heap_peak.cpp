@@ -30,9 +30,17 @@ void *operator new(std::size_t size) {
     return block;
 }
 
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+    return operator new(size);
+}
+
 void operator delete(void *block) noexcept {
     taken -= std::min(taken, block ? malloc_usable_size(block) : 0);
     std::free(block);
+}
+
+void operator delete(void *block, const std::nothrow_t &) noexcept {
+    operator delete(block);
 }
 
 void operator delete(void *block, std::size_t) noexcept {

@@ -27,6 +27,8 @@ Element childWithField(Element parent, std::string_view field) {
 } // namespace
 
 FieldPositions::KeyId FieldPositions::intern(const std::string &key) {
+    if (key.empty() && !m_keys.empty())
+        return 0;
     const auto [it, isNew] = m_keyIds.try_emplace(key, KeyId(m_keys.size()));
     if (isNew)
         m_keys.push_back(&it->first);
@@ -35,6 +37,8 @@ FieldPositions::KeyId FieldPositions::intern(const std::string &key) {
 
 FieldPositions::NodeId FieldPositions::add(NodeId parent, Element element, const std::string &key,
                                            SourcePosition position) {
+    if (m_nodes.empty())
+        intern({}); // which most elements have, as the key 0
     m_nodes.push_back(
         {parent, intern(key), bounded(position.line), bounded(position.column), element});
     return NodeId(m_nodes.size() - 1);
