@@ -14,8 +14,10 @@ fault() {
     faults=$((faults + 1))
 }
 
+# xmllint reports a violation of Namespaces in XML, and goes on.
 validate() {
-    "$xmllint" --nonet --noout --schema "$schema" "$1" 2>&1
+    report=$("$xmllint" --nonet --noout --schema "$schema" "$1" 2>&1) || return 1
+    case $report in *'namespace error'*) return 1 ;; esac
 }
 
 accepted=0
@@ -23,11 +25,11 @@ for file in "$2"/examples/packages/*/manifest.xml "$data"/valid/*.xml \
     "$data"/valid/noncanonical/*.canonical.xml; do
     case ${file##*/} in
     newer-*) # holds what only a newer schema can know
-        if output=$(validate "$file"); then fault "$file: accepted"; fi
+        if validate "$file"; then fault "$file: accepted"; fi
         continue
         ;;
     esac
-    if ! output=$(validate "$file"); then fault "$output"; fi
+    if ! validate "$file"; then fault "$report"; fi
     accepted=$((accepted + 1))
 done
 
@@ -37,7 +39,7 @@ for file in "$data"/invalid/*.xml; do
     # Well-formed XML with valid content; what the reader refuses there is no matter of a schema.
     *-declared.xml | utf16-*.xml | doctype*.xml | too-*.xml | trailing-nul.xml) continue ;;
     esac
-    if output=$(validate "$file"); then fault "$file: accepted"; fi
+    if validate "$file"; then fault "$file: accepted"; fi
     refused=$((refused + 1))
 done
 

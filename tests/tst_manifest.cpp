@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -11,6 +12,7 @@
 Q_DECLARE_METATYPE(std::string)
 
 using Tano::BehaviorInfo;
+using Tano::DialogInfo;
 using Tano::ManifestReader;
 using Tano::PackageInfo;
 
@@ -137,10 +139,16 @@ private Q_SLOTS:
             "Line 2, column 41: A tag, comment or processing instruction is longer than 1 MiB.");
         row("a comment without end", inPackage("<!--" + std::string(50000000, 'x')),
             "Line 2, column 41: A tag, comment or processing instruction is longer than 1 MiB.");
-        const std::string key = "<texts language=\"" + repeated("é", 200000) + "\"/>";
-        row("a key too long to be told", inPackage(key + key),
-            ("Line 2, column 200061: The element <texts language=\"" + repeated("é", 85) + " ... " +
-             repeated("é", 85) + "\"> stands twice in <package>.")
+        const auto language = [](int size) {
+            return "<texts language=\"" + std::string(std::size_t(size), 'x') + "\"/>";
+        };
+        row("the longest key", inPackage(language(4096)), "");
+        row("a longer key", inPackage("\n" + language(4097)),
+            "Line 3, column 1: The attribute \"language\" of <texts> is longer than 4 KiB.");
+        row("a value too long for a sentence",
+            inPackage("<service name=\"s\" autoRun=\"" + repeated("é", 200000) + "\"/>"),
+            ("Line 2, column 41: The attribute \"autoRun\" of <service> is \"" + repeated("é", 79) +
+             " ... " + repeated("é", 84) + "\" instead of \"true\" or \"false\".")
                 .c_str());
         row("a long text", inPackage("<author>" + std::string(5000000, 'x') + "</author>"), "");
     }
@@ -161,6 +169,23 @@ private Q_SLOTS:
         QVERIFY(package.saveToManifestContent().empty());
         QCOMPARE(package.errorString(),
                  std::string("The package is too long to be saved: a tag holds at most 1 MiB."));
+    }
+
+    void longKeysAreNotSaved() {
+        const std::string key(ManifestReader::maxKeyLength, 'x');
+        DialogInfo dialog;
+        dialog.setTopic(key, "t");
+        PackageInfo package;
+        package.addDialog(dialog);
+        QCOMPARE(loaded(package.saveToManifestContent()), package);
+        dialog.setTopic(key + "x", "t");
+        package.addDialog(dialog);
+        QVERIFY(package.saveToManifestContent().empty());
+        const QString error = QString::fromStdString(package.errorString());
+        QVERIFY2(error.startsWith(QLatin1String("The field dialogs[][1].topics[xxx")) &&
+                     error.endsWith(
+                         QLatin1String("xxx] cannot be saved: its key is longer than 4 KiB.")),
+                 qPrintable(error));
     }
 
     void hardTextsSurvive_data() {
@@ -282,18 +307,99 @@ private Q_SLOTS:
         }
     }
 
-    // Each line of the file tells the line of a field, "2:author".
-    void fieldsHavePlaces() {
+    // Each line of the file holds the position of a field, "2:3 author".
+    void fieldsHavePositions() {
         ManifestReader reader(ManifestReader::Positions::Keep);
         PackageInfo package;
         QVERIFY(reader.readContent(testData("places.xml").toStdString(), package));
         const QByteArray places = testData("places.txt");
         for (const QByteArray &place : places.trimmed().split('\n')) {
-            const QByteArray field = place.mid(place.indexOf(':') + 1);
-            const QByteArray line =
-                QByteArray::number(qulonglong(reader.position(field.toStdString()).line));
-            QCOMPARE(line + ':' + field, place);
+            const QByteArray field = place.mid(place.indexOf(' ') + 1);
+            const auto path = Tano::FieldPath::parse(field.toStdString());
+            QVERIFY2(path, field.constData());
+            const Tano::SourcePosition position = reader.position(*path);
+            QCOMPARE(QByteArray::number(qulonglong(position.line)) + ':' +
+                         QByteArray::number(qulonglong(position.column)) + ' ' + field,
+                     place);
         }
+        QCOMPARE(reader.position(std::string("author")).line, std::uint64_t(2));
+        ManifestReader without;
+        QVERIFY(without.readContent(testData("places.xml").toStdString(), package));
+        QCOMPARE(without.position(Tano::FieldPath()).line, std::uint64_t(0));
+    }
+
+    // Read in pieces, whose ends lie anywhere, and with every kind of line end.
+    void positionsCountCharacters() {
+        for (const char *lineEnd : {"\n", "\r\n", "\r"}) {
+            std::string content = "<package format=\"1\" uid=\"u\" version=\"1\">";
+            for (int i = 0; i < 2000; ++i)
+                content += lineEnd + std::string("<!--日本🤖-->\t<behavior path=\"é") +
+                           std::to_string(i) + "\"/>";
+            QTemporaryFile file;
+            QVERIFY(file.open());
+            file.write(QByteArray::fromStdString(content + "</package>"));
+            QVERIFY(file.seek(0));
+            ManifestReader reader(ManifestReader::Positions::Keep);
+            PackageInfo package;
+            QVERIFY(reader.readFile(file, package));
+            for (const int i : {0, 1, 77, 1000, 1999}) {
+                Tano::FieldPath path;
+                path.field("behaviors").entry("é" + std::to_string(i));
+                QCOMPARE(reader.position(path).line, std::uint64_t(i + 2));
+                QCOMPARE(reader.position(path).column, std::uint64_t(12));
+            }
+        }
+    }
+
+    void unknownNodesAreListed() {
+        ManifestReader reader(ManifestReader::Positions::Keep);
+        PackageInfo package;
+        QVERIFY(reader.readContent(testData("unknown.xml").toStdString(), package));
+        QByteArray nodes;
+        for (const Tano::UnknownNode &node : reader.unknownNodes()) {
+            const bool isElement = node.kind == Tano::UnknownNode::Kind::Element;
+            nodes += QByteArray::number(qulonglong(node.position.line)) + ':' +
+                     QByteArray::number(qulonglong(node.position.column)) +
+                     (isElement ? " <" : " @") + QByteArray::fromStdString(node.name) + " in " +
+                     QByteArray::fromStdString(node.parent + ' ' + node.parentPath.toString()) +
+                     '\n';
+        }
+        QCOMPARE(nodes, testData("unknown.txt"));
+    }
+
+    // A behavior is saved below another root element than the one that declares its prefixes.
+    void prefixesFollowTheirRecords() {
+        const auto package = [](const char *declaration, const char *content) {
+            return loaded("<package format=\"1\" uid=\"u\" version=\"1\"" +
+                          std::string(declaration) + ">" + content + "</package>");
+        };
+        const PackageInfo source =
+            package(" xmlns:a=\"A\" xmlns:b=\"B\"",
+                    "<behavior path=\"1\" a:x=\"\"><permission><b:c/></permission></behavior>"
+                    "<behavior path=\"2\"/><dialog topicName=\"3\"><b:d/></dialog>");
+        for (const char *declaration : {"", " xmlns:a=\"other\"", " xmlns:a=\"A\" xmlns:b=\"B\""}) {
+            PackageInfo target = package(declaration, "");
+            const bool declaresBoth = std::string(declaration).find("B") != std::string::npos;
+            for (const BehaviorInfo &behavior : source.behaviors())
+                target.addBehavior(behavior);
+            target.addDialog(source.dialogs()[0]);
+            const std::string saved = target.saveToManifestContent();
+            QCOMPARE(saved.find("path=\"1\" xmlns:a=\"A\" xmlns:b=\"B\" a:x") == std::string::npos,
+                     declaresBoth);
+            QCOMPARE(saved.find("topicName=\"3\" xmlns:b=\"B\"") == std::string::npos,
+                     declaresBoth);
+            QVERIFY(saved.find("path=\"2\"/>") != std::string::npos);
+            QCOMPARE(loaded(saved).saveToManifestContent(), saved);
+        }
+    }
+
+    void removedTopicsTakeTheirContentAlong() {
+        PackageInfo package = loaded(inPackage("<dialog topicName=\"d\"><topic language=\"fr_FR\" "
+                                               "x=\"\">t<!--c--></topic></dialog>"));
+        DialogInfo dialog = package.dialogs()[0];
+        QVERIFY(dialog.removeTopic("fr_FR"));
+        package.replaceDialog(0, dialog);
+        QCOMPARE(package, loaded(inPackage("<dialog topicName=\"d\"/>")));
     }
 
     void whatCannotBeSavedTo() {

@@ -61,6 +61,19 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
 
 } // namespace
 
+void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
+                  const KeySet &supportedCodes) {
+    BehaviorData &data = RecordAccess::edit(behavior);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    keepOnly(data.tags, supportedCodes);
+    keepOnly(data.triggerSentences, supportedCodes);
+    keepOnly(data.loadingResponses, supportedCodes);
+    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
+        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
+    });
+}
+
 const std::string &BehaviorInfo::natureInteractive() {
     return interactive;
 }
@@ -242,15 +255,7 @@ bool BehaviorInfo::removeCondition(const std::string &condition, const std::stri
 
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
-    BehaviorData &data = RecordAccess::edit(*this);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    keepOnly(data.tags, supportedCodes);
-    keepOnly(data.triggerSentences, supportedCodes);
-    keepOnly(data.loadingResponses, supportedCodes);
-    std::vector<std::string> codes = descriptionCodes;
-    codes.insert(codes.end(), supportedCodes.begin(), supportedCodes.end());
-    dropForeign(data.extras, Element::BehaviorTexts, codes);
+    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
@@ -259,9 +264,11 @@ bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
     const BehaviorData &x = RecordAccess::data(a);
     const BehaviorData &y = RecordAccess::data(b);
     const auto fields = [](const BehaviorData &data) {
-        return std::tie(data.path, data.nature, data.userRequestable, data.permissions,
-                        data.conditions, data.names, data.descriptions, data.tags,
-                        data.triggerSentences, data.loadingResponses);
+        const auto &[path, nature, userRequestable, permissions, conditions, names, descriptions,
+                     tags, triggerSentences, loadingResponses, extras] = data;
+        (void)extras; // compared as it is written
+        return std::tie(path, nature, userRequestable, permissions, conditions, names, descriptions,
+                        tags, triggerSentences, loadingResponses);
     };
     return fields(x) == fields(y) && sameExtras(x, y);
 }

@@ -38,7 +38,11 @@ void DialogInfo::setTopic(const std::string &code, const std::string &path) {
 bool DialogInfo::removeTopic(const std::string &code) {
     if (topics().find(code) == topics().end())
         return false;
-    RecordAccess::edit(*this).topics.erase(code);
+    DialogData &data = RecordAccess::edit(*this);
+    const std::string removed = code; // which may be the key itself
+    data.topics.erase(removed);
+    dropChildren(data.extras, Element::Topic,
+                 [&](const std::string &language) { return language == removed; });
     return true;
 }
 
@@ -47,9 +51,12 @@ bool operator==(const DialogInfo &a, const DialogInfo &b) {
         return true;
     const DialogData &x = RecordAccess::data(a);
     const DialogData &y = RecordAccess::data(b);
-    return std::tie(x.topicName, x.typeVersion, x.topics) ==
-               std::tie(y.topicName, y.typeVersion, y.topics) &&
-           sameExtras(x, y);
+    const auto fields = [](const DialogData &data) {
+        const auto &[topicName, typeVersion, topics, extras] = data;
+        (void)extras; // compared as it is written
+        return std::tie(topicName, typeVersion, topics);
+    };
+    return fields(x) == fields(y) && sameExtras(x, y);
 }
 
 } // namespace Tano

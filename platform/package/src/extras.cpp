@@ -1,34 +1,38 @@
 #include "extras.h"
 
 #include <algorithm>
-#include <deque>
-#include <iterator>
 #include <limits>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace Tano {
 namespace {
 
 constexpr int gone = -1;
 
-// Where each original entry of a list stands now, `gone` for one that was removed. Entries are
-// found again by what tells them apart; one that is left over and stands right behind the same
-// neighbour as before was changed in place.
+// The present index of each original entry of a list, `gone` for a removed one. Entries are found
+// by their distinguishing texts; one that is left over directly behind the same neighbor as before
+// was changed in place.
 std::vector<int> currentIndexes(const std::vector<std::string> &original,
                                 const std::vector<std::string> &current) {
-    std::unordered_map<std::string, std::deque<int>> free;
-    for (std::size_t i = 0; i < current.size(); ++i)
-        free[current[i]].push_back(int(i));
+    std::unordered_map<std::string_view, int> firstFree;
+    std::vector<int> nextEqual(current.size(), gone);
+    for (std::size_t i = current.size(); i-- > 0;) {
+        const auto [it, isNew] = firstFree.emplace(current[i], int(i));
+        if (!isNew)
+            nextEqual[i] = std::exchange(it->second, int(i));
+    }
 
     std::vector<int> indexes(original.size(), gone);
     std::vector<bool> taken(current.size(), false);
     for (std::size_t i = 0; i < original.size(); ++i) {
-        const auto it = free.find(original[i]);
-        if (it == free.end() || it->second.empty())
+        const auto it = firstFree.find(original[i]);
+        if (it == firstFree.end() || it->second == gone)
             continue;
-        indexes[i] = it->second.front();
-        it->second.pop_front();
+        indexes[i] = it->second;
         taken[std::size_t(indexes[i])] = true;
+        it->second = nextEqual[std::size_t(indexes[i])];
     }
 
     for (std::size_t i = 0; i < original.size(); ++i) {
@@ -45,81 +49,110 @@ std::vector<int> currentIndexes(const std::vector<std::string> &original,
     return indexes;
 }
 
-using CurrentIndexes = std::map<Extras::ListId, std::vector<int>>;
+// The present indexes of the original entries of a list, and for each of them the index of the
+// first one at or after it that is left.
+struct CurrentList {
+    std::vector<int> indexes;
+    std::vector<int> anchors;
+};
 
-// What stood before a removed entry stands before the next one that is still there, else at the
-// end of the list.
-Position currentAnchor(const Position &position, const CurrentIndexes &lists) {
-    const auto list = lists.find({position.element, position.key});
-    if (list == lists.end())
-        return position;
-    for (auto i = std::size_t(position.index); i < list->second.size(); ++i) {
-        if (list->second[i] != gone)
-            return {position.element, position.key, list->second[i]};
-    }
-    return {position.element, position.key, std::numeric_limits<int>::max()};
+CurrentList currentList(const std::vector<std::string> &original,
+                        const std::vector<std::string> &current) {
+    CurrentList list{currentIndexes(original, current), {}};
+    list.anchors = list.indexes;
+    int next = std::numeric_limits<int>::max(); // the end of the list
+    for (auto it = list.anchors.rbegin(); it != list.anchors.rend(); ++it)
+        next = *it = *it == gone ? next : *it;
+    return list;
+}
+
+using CurrentLists = std::map<Extras::ListId, CurrentList>;
+
+const CurrentList *listOfPosition(const CurrentLists &lists, const Position &position) {
+    if (lists.empty())
+        return nullptr;
+    const auto it = lists.find({position.element, position.keyText()});
+    return it == lists.end() ? nullptr : &it->second;
 }
 
 } // namespace
 
 void rememberLists(Extras &extras, const ListKeys &listKeys) {
+    Extras::Lists lists;
     const auto remember = [&](const Position &position) {
         if (position.element >= Element::Count || ruleOf(position.element).occurs == Occurs::Once)
             return;
-        const Extras::ListId id(position.element, position.key);
-        if (extras.lists.find(id) == extras.lists.end()) {
+        Extras::ListId id(position.element, position.keyText());
+        if (lists.find(id) == lists.end()) {
             auto keys = listKeys(id);
             if (!keys.empty())
-                extras.lists.emplace(id, std::move(keys));
+                lists.emplace(std::move(id), std::move(keys));
         }
     };
     for (const Extras::Kept &kept : extras.kept)
         remember(kept.before);
-    for (const auto &child : extras.children)
-        remember(child.first);
+    for (const Extras::Child &child : extras.children)
+        remember(child.position);
+    if (!lists.empty())
+        extras.lists = std::make_shared<const Extras::Lists>(std::move(lists));
 }
 
-void dropForeign(ExtrasPointer &extras, Element element, const std::vector<std::string> &keys) {
-    const auto isForeign = [&](const auto &child) {
-        return child.first.element == element &&
-               std::find(keys.begin(), keys.end(), child.first.key) == keys.end();
+void dropChildren(ExtrasPointer &extras, Element element,
+                  const std::function<bool(const std::string &key)> &isDropped) {
+    const auto isForeign = [&](const Extras::Child &child) {
+        return child.position.element == element && isDropped(child.position.keyText());
     };
     if (!extras || std::none_of(extras->children.begin(), extras->children.end(), isForeign))
         return;
     auto edited = std::make_shared<Extras>(*extras);
-    for (auto it = edited->children.begin(); it != edited->children.end();)
-        it = isForeign(*it) ? edited->children.erase(it) : std::next(it);
+    auto &children = edited->children;
+    children.erase(std::remove_if(children.begin(), children.end(), isForeign), children.end());
     extras = std::move(edited);
 }
 
 ExtrasWalk::ExtrasWalk(const Extras *extras, const ListKeys &listKeys) {
     if (!extras)
         return;
-    CurrentIndexes lists;
-    for (const auto &[id, original] : extras->lists)
-        lists.emplace(id, currentIndexes(original, listKeys(id)));
+    CurrentLists lists;
+    if (extras->lists) {
+        for (const auto &[id, original] : *extras->lists)
+            lists.emplace(id, currentList(original, listKeys(id)));
+    }
 
     m_kept.reserve(extras->kept.size());
-    for (const Extras::Kept &kept : extras->kept)
-        m_kept.emplace_back(currentAnchor(kept.before, lists), &kept.xml);
-    std::stable_sort(m_kept.begin(), m_kept.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    for (const Extras::Kept &kept : extras->kept) {
+        Position now = kept.before;
+        if (const CurrentList *list = listOfPosition(lists, now))
+            now.index = list->anchors[std::size_t(now.index)];
+        m_kept.emplace_back(std::move(now), &kept.xml);
+    }
+    const auto ascending = [](const auto &a, const auto &b) { return a.first < b.first; };
+    std::stable_sort(m_kept.begin(), m_kept.end(), ascending);
 
+    m_children.reserve(extras->children.size());
     for (const auto &[position, child] : extras->children) {
         Position now = position;
-        const auto list = lists.find({position.element, position.key});
-        if (list != lists.end())
-            now.index = list->second[std::size_t(position.index)];
+        if (const CurrentList *list = listOfPosition(lists, position))
+            now.index = list->indexes[std::size_t(position.index)];
         if (now.index != gone)
-            m_children.emplace(std::move(now), child.get());
+            m_children.emplace_back(std::move(now), child.get());
     }
+    std::sort(m_children.begin(), m_children.end(), ascending);
+}
+
+const Extras *ExtrasWalk::child(Element element, std::string_view key, int index) const {
+    const Place place{element, key, index};
+    const auto it =
+        std::lower_bound(m_children.begin(), m_children.end(), place,
+                         [](const auto &child, const Place &p) { return child.first.place() < p; });
+    return it == m_children.end() || place < it->first.place() ? nullptr : it->second;
 }
 
 std::vector<const std::string *> ExtrasWalk::childKeys(Element element) const {
     std::vector<const std::string *> keys;
     for (const auto &child : m_children) {
         if (child.first.element == element)
-            keys.push_back(&child.first.key);
+            keys.push_back(&child.first.keyText());
     }
     return keys;
 }

@@ -1,42 +1,77 @@
 #pragma once
 
+#include "manifest_format.h"
+
 #include <tano/manifest_reader.h>
 
+#include <cstdint>
+#include <deque>
 #include <string>
+#include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace Tano {
 
-/// Where the fields of a manifest stand, by their paths.
+/// The positions of a manifest's elements and of its unknown elements and attributes.
+///
+/// Reading appends one small node per element; the index that paths are looked up in is built when
+/// the first position is asked for.
 class FieldPositions {
 public:
-    /// Remembers a field, unless one of the same path stands before it.
-    void add(std::string path, SourcePosition position) {
-        m_fields.emplace(std::move(path), position);
-    }
-    /// Remembers where to look for a field that may be missing.
-    void addParent(std::string path, SourcePosition position) {
-        m_parents.emplace(std::move(path), position);
-    }
+    using NodeId = std::uint32_t;
 
-    /// The place of a field, else of the nearest element around it.
-    [[nodiscard]] SourcePosition find(std::string path) const {
-        while (true) {
-            for (const auto *places : {&m_fields, &m_parents}) {
-                if (const auto it = places->find(path); it != places->end())
-                    return it->second;
-            }
-            if (path.empty())
-                return {};
-            const bool endsInSelector = path.back() == ']';
-            const std::size_t cut = path.find_last_of(endsInSelector ? "[" : ".");
-            path.resize(cut == std::string::npos ? 0 : cut);
-        }
-    }
+    FieldPositions() = default;
+    FieldPositions(FieldPositions &&) = default;
+    FieldPositions &operator=(FieldPositions &&) = default; // m_keys points into m_keyIds
+
+    /// Adds an element below `parent`, which is ignored for the first one, the root.
+    NodeId add(NodeId parent, Element element, const std::string &key, SourcePosition position);
+    void addUnknown(NodeId parent, UnknownNode::Kind kind, const std::string &name,
+                    SourcePosition position);
+
+    /// The position of a field, else of the nearest element around it.
+    [[nodiscard]] SourcePosition find(const FieldPath &path) const;
+    [[nodiscard]] std::vector<UnknownNode> unknownNodes() const;
 
 private:
-    std::unordered_map<std::string, SourcePosition> m_fields;
-    std::unordered_map<std::string, SourcePosition> m_parents;
+    using KeyId = std::uint32_t;
+
+    struct Node {
+        NodeId parent;
+        KeyId key;
+        std::uint32_t line;
+        std::uint32_t column;
+        Element element;
+    };
+    struct Unknown {
+        NodeId parent;
+        KeyId name;
+        std::uint32_t line;
+        std::uint32_t column;
+        UnknownNode::Kind kind;
+    };
+    // The equal siblings of a node: of the same kind, with the same key.
+    struct Siblings {
+        const NodeId *first = nullptr;
+        int count = 0;
+    };
+
+    KeyId intern(const std::string &key);
+    void buildIndex() const;
+    [[nodiscard]] Siblings siblings(NodeId parent, Element element, std::string_view key) const;
+    [[nodiscard]] NodeId child(NodeId parent, const FieldPath::Step &step) const;
+    [[nodiscard]] NodeId block(NodeId parent, const FieldPath::Step &step) const;
+    [[nodiscard]] NodeId entry(NodeId parent, Element element, const FieldPath::Step &step,
+                               std::size_t used) const;
+    [[nodiscard]] FieldPath pathOf(NodeId node) const;
+
+    // Deques do not move their contents when they grow, which would take twice the memory.
+    std::deque<Node> m_nodes;
+    std::deque<Unknown> m_unknown;
+    std::unordered_map<std::string, KeyId> m_keyIds;
+    std::vector<const std::string *> m_keys;
+    mutable std::vector<NodeId> m_index; // ordered by parent, kind and key
 };
 
 } // namespace Tano

@@ -1,5 +1,6 @@
 #include "manifest_format.h"
 
+#include <algorithm>
 #include <array>
 #include <tuple>
 
@@ -14,125 +15,143 @@ constexpr bool byKey = true;
 
 using E = Element;
 
-ElementRule textRule(std::string_view name, std::string_view field, Occurs occurs) {
+constexpr AttributeRule packageAttributes[] = {
+    {"format", required}, {"uid", required}, {"version", required}, {"typeVersion", optional}};
+constexpr AttributeRule robotAttributes[] = {{"model", required},
+                                             {"minHeadVersion", optional},
+                                             {"maxHeadVersion", optional},
+                                             {"minBodyVersion", optional},
+                                             {"maxBodyVersion", optional}};
+constexpr AttributeRule brioAttributes[] = {{"minVersion", optional}, {"maxVersion", optional}};
+constexpr AttributeRule behaviorAttributes[] = {
+    {"path", required}, {"nature", optional}, {"userRequestable", optional}};
+constexpr AttributeRule dialogAttributes[] = {{"topicName", required}, {"typeVersion", optional}};
+constexpr AttributeRule serviceAttributes[] = {{"name", required}, {"autoRun", optional}};
+constexpr AttributeRule codeAttribute[] = {{"code", required}};
+constexpr AttributeRule languageAttribute[] = {{"language", required}};
+constexpr AttributeRule purposeAttribute[] = {{"purpose", required}};
+constexpr AttributeRule nameAttribute[] = {{"name", required}};
+
+// The frequent ones first: they are looked up in this order.
+constexpr Element packageChildren[] = {E::Behavior,          E::Dialog,
+                                       E::Service,           E::PackageTexts,
+                                       E::SupportedLanguage, E::DescriptionLanguage,
+                                       E::RobotRequirement,  E::BrioRequirement,
+                                       E::Installer,         E::Author,
+                                       E::Organization,      E::Date,
+                                       E::Channel,           E::Path};
+constexpr Element packageTexts[] = {E::Name, E::Description};
+constexpr Element behaviorChildren[] = {E::BehaviorTexts, E::Permission, E::Condition};
+constexpr Element behaviorTexts[] = {E::TriggerSentence, E::Tag, E::LoadingResponse, E::Name,
+                                     E::Description};
+constexpr Element dialogChildren[] = {E::Topic};
+constexpr Element serviceChildren[] = {E::ExecStart, E::Property};
+
+constexpr ElementRule textRule(std::string_view name, std::string_view field, Occurs occurs) {
     return {name, field, Content::Text, occurs, {}, noKey, authorsOrder, {}};
 }
 
-ElementRule keyedRule(std::string_view name, std::string_view field, Content content, Occurs occurs,
-                      std::string_view key, std::vector<Element> children = {}) {
-    return {name, field, content, occurs, {{key, required}}, 0, byKey, std::move(children)};
+constexpr ElementRule keyedRule(std::string_view name, std::string_view field, Content content,
+                                Occurs occurs, Rows<AttributeRule> key,
+                                Rows<Element> children = {}) {
+    return {name, field, content, occurs, key, 0, byKey, children};
 }
 
-std::array<ElementRule, std::size_t(Element::Count)> makeRules() {
-    std::array<ElementRule, std::size_t(Element::Count)> rules;
-    const auto at = [&](Element element) -> ElementRule & { return rules[std::size_t(element)]; };
+constexpr ElementRule languageRule(std::string_view name, std::string_view field) {
+    return {name, field, Content::Nothing, Occurs::OncePerKey, codeAttribute, 0, authorsOrder, {}};
+}
 
-    at(E::Package) = {
-        "package",
-        "",
-        Content::Elements,
-        Occurs::Once,
-        {{"format", required}, {"uid", required}, {"version", required}, {"typeVersion", optional}},
-        noKey,
-        authorsOrder,
-        // the frequent ones first: they are looked up in this order
-        {E::Behavior, E::Dialog, E::Service, E::PackageTexts, E::SupportedLanguage,
-         E::DescriptionLanguage, E::RobotRequirement, E::BrioRequirement, E::Installer, E::Author,
-         E::Organization, E::Date, E::Channel, E::Path}};
-    at(E::Installer) = textRule("installer", "installer", Occurs::Once);
-    at(E::Author) = textRule("author", "author", Occurs::Once);
-    at(E::Organization) = textRule("organization", "organization", Occurs::Once);
-    at(E::Date) = textRule("date", "date", Occurs::Once);
-    at(E::Channel) = textRule("channel", "channel", Occurs::Once);
-    at(E::Path) = textRule("path", "path", Occurs::Once);
-    at(E::SupportedLanguage) = keyedRule("supportedLanguage", "supportedLanguages",
-                                         Content::Nothing, Occurs::OncePerKey, "code");
-    at(E::DescriptionLanguage) = keyedRule("descriptionLanguage", "descriptionLanguages",
-                                           Content::Nothing, Occurs::OncePerKey, "code");
-    at(E::SupportedLanguage).sortedByKey = authorsOrder;
-    at(E::DescriptionLanguage).sortedByKey = authorsOrder;
-    at(E::PackageTexts) = keyedRule("texts", "", Content::Elements, Occurs::OncePerKey, "language",
-                                    {E::Name, E::Description});
-    at(E::RobotRequirement) = {"robotRequirement",
-                               "robotRequirements",
-                               Content::Nothing,
-                               Occurs::AnyTimes,
-                               {{"model", required},
-                                {"minHeadVersion", optional},
-                                {"maxHeadVersion", optional},
-                                {"minBodyVersion", optional},
-                                {"maxBodyVersion", optional}},
-                               noKey,
-                               authorsOrder,
-                               {}};
-    at(E::BrioRequirement) = {"brioRequirement",
-                              "brioRequirements",
-                              Content::Nothing,
-                              Occurs::AnyTimes,
-                              {{"minVersion", optional}, {"maxVersion", optional}},
-                              noKey,
-                              authorsOrder,
-                              {}};
+constexpr ElementRule requirementRule(std::string_view name, std::string_view field,
+                                      Rows<AttributeRule> attributes) {
+    return {name, field, Content::Nothing, Occurs::AnyTimes, attributes, noKey, authorsOrder, {}};
+}
 
-    at(E::Behavior) = {"behavior",
-                       "behaviors",
-                       Content::Elements,
-                       Occurs::AnyTimes,
-                       {{"path", required}, {"nature", optional}, {"userRequestable", optional}},
-                       0,
-                       authorsOrder,
-                       {E::BehaviorTexts, E::Permission, E::Condition}};
-    at(E::Permission) = textRule("permission", "permissions", Occurs::AnyTimes);
-    at(E::Condition) =
-        keyedRule("condition", "conditions", Content::Text, Occurs::AnyTimes, "purpose");
-    at(E::BehaviorTexts) =
-        keyedRule("texts", "", Content::Elements, Occurs::OncePerKey, "language",
-                  {E::TriggerSentence, E::Tag, E::LoadingResponse, E::Name, E::Description});
-    at(E::Name) = textRule("name", "names", Occurs::Once);
-    at(E::Description) = textRule("description", "descriptions", Occurs::Once);
-    at(E::Tag) = textRule("tag", "tags", Occurs::AnyTimes);
-    at(E::TriggerSentence) = textRule("triggerSentence", "triggerSentences", Occurs::AnyTimes);
-    at(E::LoadingResponse) = textRule("loadingResponse", "loadingResponses", Occurs::AnyTimes);
+constexpr ElementRule entryRule(std::string_view name, std::string_view field,
+                                Rows<AttributeRule> attributes, Rows<Element> children) {
+    return {name,       field, Content::Elements, Occurs::AnyTimes,
+            attributes, 0,     authorsOrder,      children};
+}
 
-    at(E::Dialog) = {"dialog",
-                     "dialogs",
-                     Content::Elements,
-                     Occurs::AnyTimes,
-                     {{"topicName", required}, {"typeVersion", optional}},
-                     0,
-                     authorsOrder,
-                     {E::Topic}};
-    at(E::Topic) = keyedRule("topic", "topics", Content::Text, Occurs::OncePerKey, "language");
+using Rules = std::array<ElementRule, std::size_t(Element::Count)>;
 
-    at(E::Service) = {"service",
-                      "services",
-                      Content::Elements,
-                      Occurs::AnyTimes,
-                      {{"name", required}, {"autoRun", optional}},
-                      0,
-                      authorsOrder,
-                      {E::ExecStart, E::Property}};
-    at(E::ExecStart) = textRule("execStart", "execStart", Occurs::Once);
-    at(E::Property) =
-        keyedRule("property", "properties", Content::Text, Occurs::OncePerKey, "name");
+constexpr Rules makeRules() {
+    Rules rules{};
+    const auto set = [&](Element element, const ElementRule &rule) {
+        rules[std::size_t(element)] = rule;
+    };
+    constexpr auto once = Occurs::Once;
+    constexpr auto anyTimes = Occurs::AnyTimes;
+    set(E::Package, {"package", "", Content::Elements, once, packageAttributes, noKey, authorsOrder,
+                     packageChildren});
+    set(E::Installer, textRule("installer", "installer", once));
+    set(E::Author, textRule("author", "author", once));
+    set(E::Organization, textRule("organization", "organization", once));
+    set(E::Date, textRule("date", "date", once));
+    set(E::Channel, textRule("channel", "channel", once));
+    set(E::Path, textRule("path", "path", once));
+    set(E::SupportedLanguage, languageRule("supportedLanguage", "supportedLanguages"));
+    set(E::DescriptionLanguage, languageRule("descriptionLanguage", "descriptionLanguages"));
+    set(E::PackageTexts, keyedRule("texts", "", Content::Elements, Occurs::OncePerKey,
+                                   languageAttribute, packageTexts));
+    set(E::RobotRequirement,
+        requirementRule("robotRequirement", "robotRequirements", robotAttributes));
+    set(E::BrioRequirement, requirementRule("brioRequirement", "brioRequirements", brioAttributes));
+    set(E::Behavior, entryRule("behavior", "behaviors", behaviorAttributes, behaviorChildren));
+    set(E::Permission, textRule("permission", "permissions", anyTimes));
+    set(E::Condition,
+        keyedRule("condition", "conditions", Content::Text, anyTimes, purposeAttribute));
+    set(E::BehaviorTexts, keyedRule("texts", "", Content::Elements, Occurs::OncePerKey,
+                                    languageAttribute, behaviorTexts));
+    set(E::Name, textRule("name", "names", once));
+    set(E::Description, textRule("description", "descriptions", once));
+    set(E::Tag, textRule("tag", "tags", anyTimes));
+    set(E::TriggerSentence, textRule("triggerSentence", "triggerSentences", anyTimes));
+    set(E::LoadingResponse, textRule("loadingResponse", "loadingResponses", anyTimes));
+    set(E::Dialog, entryRule("dialog", "dialogs", dialogAttributes, dialogChildren));
+    set(E::Topic,
+        keyedRule("topic", "topics", Content::Text, Occurs::OncePerKey, languageAttribute));
+    set(E::Service, entryRule("service", "services", serviceAttributes, serviceChildren));
+    set(E::ExecStart, textRule("execStart", "execStart", once));
+    set(E::Property,
+        keyedRule("property", "properties", Content::Text, Occurs::OncePerKey, nameAttribute));
     return rules;
 }
 
-void appendSelector(std::string &path, std::string_view selector) {
-    path += '[';
-    path += selector;
-    path += ']';
+constexpr Rules rules = makeRules();
+
+constexpr std::size_t mostAttributes() {
+    std::size_t most = 0;
+    for (std::size_t i = 0; i < rules.size(); ++i)
+        most = std::max(most, rules[i].attributes.size());
+    return most;
 }
+
+constexpr int depthOf(Element element) {
+    int deepest = 0;
+    for (const Element child : rules[std::size_t(element)].children)
+        deepest = std::max(deepest, depthOf(child));
+    return 1 + deepest;
+}
+
+constexpr bool allElementsHaveRules() {
+    for (std::size_t i = std::size_t(E::Package); i < rules.size(); ++i) {
+        if (rules[i].name.empty())
+            return false;
+    }
+    return true;
+}
+
+static_assert(mostAttributes() == mostKnownAttributes);
+static_assert(depthOf(Element::Package) == deepestKnown);
+static_assert(allElementsHaveRules());
 
 } // namespace
 
 const ElementRule &ruleOf(Element element) {
-    static const auto rules = makeRules();
     return rules[std::size_t(element)];
 }
 
 Element childNamed(const ElementRule &rule, std::string_view name) {
-    const ElementRule *rules = &ruleOf(Element(0));
     for (const Element child : rule.children) {
         if (rules[std::size_t(child)].name == name)
             return child;
@@ -140,28 +159,31 @@ Element childNamed(const ElementRule &rule, std::string_view name) {
     return Element::Count;
 }
 
-bool operator<(const Position &a, const Position &b) {
+bool operator<(const Place &a, const Place &b) {
     return std::tie(a.element, a.key, a.index) < std::tie(b.element, b.key, b.index);
 }
 
-std::string fieldPath(const std::string &parent, Element element, std::string_view key, int index,
-                      std::string_view texts) {
+const std::string &Position::keyText() const {
+    static const std::string empty;
+    return key ? *key : empty;
+}
+
+void appendField(FieldPath &path, Element element, std::string_view key, int index,
+                 std::string_view texts) {
     const ElementRule &rule = ruleOf(element);
     if (rule.field.empty())
-        return parent;
-
-    std::string path = parent;
-    if (!path.empty())
-        path += '.';
-    path += rule.field;
+        return;
+    path.field(rule.field);
+    if (isEntry(element)) {
+        path.entry(key, index);
+        return;
+    }
     if (!texts.empty())
-        appendSelector(path, texts);
+        path.key(texts);
     if (rule.keyAttribute >= 0)
-        appendSelector(path, key);
-    const bool isEntry = element == E::Behavior || element == E::Dialog || element == E::Service;
-    if (rule.occurs == Occurs::AnyTimes && !isEntry)
-        appendSelector(path, std::to_string(index));
-    return path;
+        path.key(key);
+    if (rule.occurs == Occurs::AnyTimes)
+        path.index(index);
 }
 
 std::string shortened(std::string sentence) {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <tano/field_path.h>
+
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Tano {
 
@@ -59,37 +62,89 @@ struct AttributeRule {
     bool required;
 };
 
-/// Everything that reading and writing tell apart about an element.
+/// A constant table that an element's rule refers to.
+template<typename Row>
+class Rows {
+public:
+    constexpr Rows() = default;
+    template<std::size_t Count>
+    constexpr Rows(const Row (&rows)[Count]) // NOLINT(google-explicit-constructor): a table is one
+        : m_first(rows)
+        , m_count(Count) {}
+
+    [[nodiscard]] constexpr const Row *begin() const { return m_first; }
+    [[nodiscard]] constexpr const Row *end() const { return m_first + m_count; }
+    [[nodiscard]] constexpr std::size_t size() const { return m_count; }
+    constexpr const Row &operator[](std::size_t i) const { return m_first[i]; }
+
+private:
+    const Row *m_first = nullptr;
+    std::size_t m_count = 0;
+};
+
+/// The rules of one element.
 struct ElementRule {
     std::string_view name;
     std::string_view field; ///< its word in the path of a field; empty for a block of texts
-    Content content;
-    Occurs occurs;
-    std::vector<AttributeRule> attributes;
-    int keyAttribute; ///< which attribute tells it from its like; -1 for none
-    bool sortedByKey; ///< whether it is written by ascending key, else in the author's order
-    std::vector<Element> children;
+    Content content = Content::Nothing;
+    Occurs occurs = Occurs::Once;
+    Rows<AttributeRule> attributes;
+    int keyAttribute = -1; ///< which attribute distinguishes its siblings; -1 for none
+    bool sortedByKey =
+        false; ///< whether it is written by ascending key, else in the author's order
+    Rows<Element> children;
 };
+
+/// The most attributes that an element of the format has.
+inline constexpr std::size_t mostKnownAttributes = 5;
+/// The most elements of the format within each other: package, behavior, texts, name.
+inline constexpr int deepestKnown = 4;
 
 const ElementRule &ruleOf(Element element);
 
 /// The child of a rule's element that has a name; Element::Count for none.
 Element childNamed(const ElementRule &rule, std::string_view name);
 
-/// The place of an element among its siblings: those of one kind are told apart by their key (a
+/// The place of an element among its siblings: those of one kind are ordered by their key (a
 /// language, a purpose, a name), then by their index.
-struct Position {
+struct Place {
     Element element = Element::End;
-    std::string key = {};
+    std::string_view key = {};
     int index = 0;
 };
 
-bool operator<(const Position &a, const Position &b);
+bool operator<(const Place &a, const Place &b);
 
-/// The path of a field below `parent`, for example "behaviors[greet]" + "tags[en_US][0]"; `texts`
-/// is the language of the block of texts that the element stands in, if any.
-std::string fieldPath(const std::string &parent, Element element, std::string_view key, int index,
-                      std::string_view texts);
+/// A place that owns its key, which many positions share.
+struct Position {
+    Element element = Element::End;
+    int index = 0;
+    std::shared_ptr<const std::string> key = {}; // null for the empty key
+
+    [[nodiscard]] const std::string &keyText() const;
+    [[nodiscard]] Place place() const { return {element, keyText(), index}; }
+};
+
+inline bool operator<(const Position &a, const Position &b) {
+    return a.place() < b.place();
+}
+
+/// Whether an element is a block of the texts of one language, which is no field of its own.
+constexpr bool isTextsBlock(Element element) {
+    return element == Element::PackageTexts || element == Element::BehaviorTexts;
+}
+
+/// Whether an element is an entry of the package, found by its key and then by its index among the
+/// entries with the same key.
+constexpr bool isEntry(Element element) {
+    return element == Element::Behavior || element == Element::Dialog ||
+           element == Element::Service;
+}
+
+/// Appends the field of an element; `texts` is the language of the block of texts around it, if
+/// any, and `index` counts the siblings with the same key.
+void appendField(FieldPath &path, Element element, std::string_view key, int index,
+                 std::string_view texts);
 
 /// The sentence, without its middle where a long key or name makes it too long to be read.
 std::string shortened(std::string sentence);

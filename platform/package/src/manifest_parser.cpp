@@ -1,6 +1,7 @@
 #include "manifest_parser.h"
 
 #include "list_keys.h"
+#include "xml_escape.h"
 
 #include <QByteArray>
 
@@ -40,6 +41,11 @@ bool looksLikeUtf16(std::string_view bytes) {
 
 bool isDecimal(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool isKnownAttribute(const ElementRule &rule, std::string_view name) {
+    return std::any_of(rule.attributes.begin(), rule.attributes.end(),
+                       [&](const AttributeRule &attribute) { return attribute.name == name; });
 }
 
 // The text fields of a package that are elements of their own.
@@ -93,7 +99,7 @@ bool ManifestParser::feed(std::size_t size, bool isLast) {
         m_failure = {"The text is UTF-16; a manifest is UTF-8.", {1, 1}};
         return false;
     }
-    m_fed += size;
+    m_isEmpty = m_isEmpty && size == 0;
     const XML_Status status = XML_ParseBuffer(m_parser.get(), int(size), isLast);
     if (!m_failure.message.empty())
         return false;
@@ -101,6 +107,9 @@ bool ManifestParser::feed(std::size_t size, bool isLast) {
         failFromExpat();
         return false;
     }
+    if (m_keepsPositions && !isLast)
+        countLines(eventOffset() + std::uint64_t(XML_GetCurrentByteCount(m_parser.get())));
+    m_fed += size;
     const XML_Index parsed = XML_GetCurrentByteIndex(m_parser.get());
     if (!isLast && parsed >= 0 && m_fed - std::uint64_t(parsed) > hopelessLag) {
         fail(tagTooLong);
@@ -131,6 +140,8 @@ void ManifestParser::onComment(void *self, const XML_Char *text) {
 
 void ManifestParser::onInstruction(void *self, const XML_Char *target, const XML_Char *data) {
     auto &parser = parserAt(self);
+    if (!parser.checkInstruction(target))
+        return;
     if (parser.m_unknownDepth > 0)
         XML_DefaultCurrent(parser.m_parser.get());
     else if (parser.checkTag())
@@ -168,26 +179,69 @@ bool ManifestParser::checkTag() {
     return true;
 }
 
+bool ManifestParser::checkInstruction(std::string_view target) {
+    if (target.find(':') == std::string_view::npos)
+        return m_failure.message.empty();
+    fail("The name of a processing instruction, " + quoted(target) + ", cannot contain a colon.");
+    return false;
+}
+
+bool ManifestParser::declareNamespaces(const XML_Char **attributes) {
+    bool hasDeclarations = false;
+    for (auto attribute = attributes; *attribute; attribute += 2)
+        hasDeclarations = hasDeclarations || XmlNamespaces::isDeclaration(*attribute);
+    if (!hasDeclarations)
+        return true;
+    std::string sentence = m_namespaces.declare(m_depth, attributes);
+    if (!sentence.empty())
+        fail(std::move(sentence));
+    return m_failure.message.empty();
+}
+
 void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
     if (!m_failure.message.empty())
         return;
     if (std::string sentence = exceededBound(m_parser.get(), name, ++m_depth); !sentence.empty())
         return fail(std::move(sentence));
+    if (!declareNamespaces(attributes))
+        return;
 
-    if (m_unknownDepth == 0) {
-        if (m_open == 0) {
-            if (name != ruleOf(Element::Package).name)
-                return fail("The root element is " + tagged(name) + " instead of <package>.");
-            openFrame(Element::Package, attributes);
-            return;
-        }
-        const Element child = childNamed(*top().rule, name);
-        if (child != Element::Count) {
-            openFrame(child, attributes);
-            return;
-        }
-        m_raw.clear();
+    if (m_unknownDepth > 0)
+        return startUnknown(name, attributes);
+    const bool isForeign = !m_namespaces.defaultNamespace().empty();
+    if (m_open == 0) {
+        if (name != ruleOf(Element::Package).name)
+            return fail("The root element is " + tagged(name) + " instead of <package>.");
+        if (isForeign)
+            return fail("The root element <package> is in the namespace " +
+                        quoted(m_namespaces.defaultNamespace()) + "; a manifest is in none.");
+        openFrame(Element::Package, attributes);
+        return;
     }
+    const Element child = isForeign ? Element::Count : childNamed(*top().rule, name);
+    if (child != Element::Count) {
+        openFrame(child, attributes);
+        return;
+    }
+    m_raw.clear();
+    if (m_keepsPositions && !isForeign && name.find(':') == std::string_view::npos) {
+        m_positions.addUnknown(top().node, UnknownNode::Kind::Element, std::string(name),
+                               countLines(eventOffset()));
+    }
+    startUnknown(name, attributes);
+}
+
+// An element that is kept as raw text, or one within it.
+void ManifestParser::startUnknown(std::string_view name, const XML_Char **attributes) {
+    const auto use = [this](const XmlNamespaces::Binding &binding) {
+        if (m_open > 1)
+            useNamespace(m_frames[1], binding);
+    };
+    std::string sentence = m_namespaces.checkElement(name, use);
+    if (sentence.empty())
+        sentence = m_namespaces.checkAttributes(attributes, use);
+    if (!sentence.empty())
+        return fail(std::move(sentence));
     ++m_unknownDepth;
     XML_DefaultCurrent(m_parser.get());
 }
@@ -195,6 +249,8 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
 void ManifestParser::end() {
     if (!m_failure.message.empty())
         return;
+    if (m_namespaces.hasDeclarationsAt(m_depth))
+        m_namespaces.leave(m_depth);
     --m_depth;
     if (m_unknownDepth > 0) {
         XML_DefaultCurrent(m_parser.get());
@@ -231,18 +287,24 @@ void ManifestParser::text(std::string_view text) {
 }
 
 // Comments, processing instructions and unknown elements wait for the child that follows them.
+// Those at one place share an entry.
 void ManifestParser::keepRaw(std::string xml) {
     normalizeLineEnds(xml);
-    if (m_open == 0) {
-        m_outside.push_back(
-            {{m_rootDone ? Element::Epilog : Element::Prolog, {}, 0}, std::move(xml)});
-        return;
-    }
-    Frame &frame = top();
+    xml += '\0';
+    const bool isOutside = m_open == 0;
     Position position;
-    if (frame.rule->content == Content::Text)
-        position = {Element::InText, {}, int(m_text.size())};
-    frame.ownExtras().kept.push_back({std::move(position), std::move(xml)});
+    if (isOutside)
+        position.element = m_rootDone ? Element::Epilog : Element::Prolog;
+    else if (top().rule->content == Content::Text)
+        position = {Element::InText, int(m_text.size()), {}};
+
+    auto &kept = isOutside ? m_outside : top().ownExtras().kept;
+    const std::size_t placed = isOutside ? 0 : top().unplaced;
+    const bool isAtLast = kept.size() > placed && !(kept.back().before < position);
+    if (isAtLast)
+        kept.back().xml += xml;
+    else
+        kept.push_back({std::move(position), std::move(xml)});
 }
 
 bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
@@ -253,14 +315,12 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     frame.unplaced = 0;
     frame.keys.clear();
     frame.extras.reset();
-    if (!readAttributes(frame, attributes))
+    if (!readAttributes(frame, attributes) || !readKey(frame))
+        return false;
+    if (m_hasUnknownAttributes && !keepAttributes(frame, attributes))
         return false;
 
     const ElementRule &rule = *frame.rule;
-    if (rule.keyAttribute >= 0)
-        frame.key = m_values[std::size_t(rule.keyAttribute)];
-    else
-        frame.key.clear();
     ++m_open;
     frame.index = nextIndex(frame);
     if (m_open > 1) {
@@ -270,7 +330,7 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
         placeKept(parent, frame);
     }
     if (m_keepsPositions)
-        notePosition(frame);
+        notePositions(frame, attributes);
     if (rule.content == Content::Text)
         m_text.clear();
     beginRecord(frame);
@@ -281,6 +341,7 @@ bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
     const ElementRule &rule = *frame.rule;
     const std::size_t known = rule.attributes.size();
     m_present = 0;
+    m_hasUnknownAttributes = false;
     for (std::size_t i = 0; i < known; ++i)
         m_values[i].clear();
 
@@ -290,7 +351,7 @@ bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
         while (i < known && rule.attributes[i].name != name)
             ++i;
         if (i == known) {
-            frame.ownExtras().attributes.emplace_back(name, attributes[1]);
+            m_hasUnknownAttributes = true;
         } else {
             m_values[i] = attributes[1];
             m_present |= 1U << i;
@@ -305,6 +366,55 @@ bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
         }
     }
     return true;
+}
+
+bool ManifestParser::readKey(Frame &frame) {
+    frame.key.clear();
+    const ElementRule &rule = *frame.rule;
+    if (rule.keyAttribute < 0)
+        return true;
+    const auto attribute = std::size_t(rule.keyAttribute);
+    frame.key = m_values[attribute];
+    if (frame.key.size() <= ManifestReader::maxKeyLength)
+        return true;
+    fail("The attribute " + quoted(rule.attributes[attribute].name) + " of " + tagged(rule.name) +
+         " is longer than 4 KiB.");
+    return false;
+}
+
+bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
+    const bool isRoot = m_open == 0;
+    std::string sentence =
+        m_namespaces.checkAttributes(attributes, [&](const XmlNamespaces::Binding &binding) {
+            if (!isRoot)
+                useNamespace(m_open == 1 ? frame : m_frames[1], binding);
+        });
+    if (!sentence.empty()) {
+        fail(std::move(sentence));
+        return false;
+    }
+    Extras &extras = frame.ownExtras();
+    if (isRoot)
+        extras.namespaces = m_namespaces.declared();
+    for (; *attributes; attributes += 2) {
+        if (isKnownAttribute(*frame.rule, attributes[0]))
+            continue;
+        ((extras.attributes += ' ') += attributes[0]) += "=\"";
+        appendEscaped(extras.attributes, attributes[1], EscapeFor::Attribute);
+        extras.attributes += '"';
+    }
+    return true;
+}
+
+// A behavior or dialog knows the prefixes that it uses of the root element.
+void ManifestParser::useNamespace(Frame &record, const XmlNamespaces::Binding &binding) {
+    constexpr int rootDepth = 1;
+    const bool isRecord = record.element == Element::Behavior || record.element == Element::Dialog;
+    if (!isRecord || binding.depth != rootDepth)
+        return;
+    auto &used = record.ownExtras().namespaces;
+    if (std::find(used.begin(), used.end(), binding.declared) == used.end())
+        used.push_back(binding.declared);
 }
 
 bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
@@ -326,8 +436,10 @@ void ManifestParser::placeKept(Frame &parent, const Frame &child) {
     if (!parent.extras)
         return;
     auto &kept = parent.extras->kept;
-    for (; parent.unplaced < kept.size(); ++parent.unplaced)
-        kept[parent.unplaced].before = positionOf(child);
+    if (parent.unplaced == kept.size())
+        return;
+    kept.back().before = positionOf(child);
+    parent.unplaced = kept.size();
 }
 
 // What starts here is filled in by the elements within it and handed over when it ends.
@@ -337,10 +449,10 @@ void ManifestParser::beginRecord(Frame &frame) {
         beginPackage();
         break;
     case Element::SupportedLanguage:
-        m_package->supportedLanguages.push_back(frame.key);
+        m_package->supportedLanguages.append(frame.key);
         break;
     case Element::DescriptionLanguage:
-        m_package->descriptionLanguages.push_back(frame.key);
+        m_package->descriptionLanguages.append(frame.key);
         break;
     case Element::RobotRequirement:
         m_package->robotRequirements.push_back(
@@ -493,6 +605,9 @@ TextMap &ManifestParser::textsField(Element block, Element field) {
 }
 
 void ManifestParser::storeExtras(Frame &frame) {
+    auto &children = frame.extras->children;
+    std::sort(children.begin(), children.end(),
+              [](const auto &a, const auto &b) { return a.position < b.position; });
     switch (frame.element) {
     case Element::Package:
         rememberLists(*frame.extras, [this](const auto &id) { return listKeys(*m_package, id); });
@@ -512,7 +627,7 @@ void ManifestParser::storeExtras(Frame &frame) {
     default:
         break;
     }
-    parentOf(frame).ownExtras().children.emplace(positionOf(frame), std::move(frame.extras));
+    parentOf(frame).ownExtras().children.push_back({positionOf(frame), std::move(frame.extras)});
 }
 
 std::shared_ptr<PackageData> ManifestParser::takePackage() {
@@ -555,33 +670,41 @@ int ManifestParser::nextIndex(const Frame &frame) {
 }
 
 Position ManifestParser::positionOf(const Frame &frame) {
-    const bool byKey = frame.rule->sortedByKey;
-    return {frame.element, byKey ? frame.key : std::string(), frame.index};
+    Position position{frame.element, frame.index, {}};
+    if (frame.rule->sortedByKey && !frame.key.empty())
+        position.key = std::make_shared<const std::string>(frame.key);
+    return position;
 }
 
-void ManifestParser::notePosition(Frame &frame) {
-    const SourcePosition place = here();
-    if (m_open == 1) {
-        frame.path.clear();
-        m_positions.add({}, place);
+void ManifestParser::notePositions(Frame &frame, const XML_Char **attributes) {
+    const SourcePosition place = countLines(eventOffset());
+    const FieldPositions::NodeId parent = m_open > 1 ? parentOf(frame).node : 0;
+    frame.node = m_positions.add(parent, frame.element, frame.key, place);
+    if (!m_hasUnknownAttributes)
         return;
+    for (; *attributes; attributes += 2) {
+        const std::string_view name = attributes[0];
+        const bool isPlain = name != "xmlns" && name.find(':') == std::string_view::npos;
+        if (isPlain && !isKnownAttribute(*frame.rule, name))
+            m_positions.addUnknown(frame.node, UnknownNode::Kind::Attribute, std::string(name),
+                                   place);
     }
-    const Frame &parent = parentOf(frame);
-    const bool inTexts =
-        parent.element == Element::PackageTexts || parent.element == Element::BehaviorTexts;
-    const std::string_view texts = inTexts ? std::string_view(parent.key) : std::string_view();
-    frame.path = fieldPath(parent.path, frame.element, frame.key, frame.index, texts);
-    if (!frame.rule->field.empty()) {
-        m_positions.add(frame.path, place);
-        return;
+}
+
+// Counts lines up to an offset. The bytes that the parser has not passed lie before the room for
+// the next ones.
+SourcePosition ManifestParser::countLines(std::uint64_t offset) {
+    if (offset > m_linesCounted) {
+        const char *end = m_room + (std::int64_t(offset) - std::int64_t(m_fed));
+        const auto size = std::size_t(offset - m_linesCounted);
+        m_lines.advance({end - size, size});
+        m_linesCounted = offset;
     }
-    // A block of texts is where the texts that are missing in it would stand.
-    for (const Element child : frame.rule->children) {
-        std::string path = fieldPath(parent.path, child, {}, 0, frame.key);
-        if (ruleOf(child).occurs == Occurs::AnyTimes)
-            path.resize(path.rfind('['));
-        m_positions.addParent(std::move(path), place);
-    }
+    return m_lines.position();
+}
+
+std::uint64_t ManifestParser::eventOffset() const {
+    return std::uint64_t(std::max(XML_GetCurrentByteIndex(m_parser.get()), XML_Index(0)));
 }
 
 std::string ManifestParser::describe(const Frame &frame) {
@@ -614,7 +737,7 @@ void ManifestParser::failFromExpat() {
         sentence = "The manifest ends while " + describe(top()) + " is open.";
     else
         sentence =
-            m_fed == 0 ? "The manifest is empty." : "The manifest ends before its root element.";
+            m_isEmpty ? "The manifest is empty." : "The manifest ends before its root element.";
     m_failure = {shortened(std::move(sentence)), here()};
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "field_positions.h"
+#include "line_counter.h"
 #include "record_data.h"
 #include "seen_keys.h"
+#include "xml_namespaces.h"
 #include "xml_reading.h"
 
 #include <array>
@@ -39,6 +41,7 @@ public:
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
+    static_assert(int(Element::Count) <= 32, "Frame::seen has a bit per element");
 
     [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
@@ -56,7 +59,7 @@ private:
         std::size_t unplaced = 0;          // from here on, extras->kept wait for the next child
         SeenKeys keys;                     // of the children that may not repeat
         std::shared_ptr<Extras> extras;
-        std::string path; // of the field, while positions are kept
+        FieldPositions::NodeId node = 0; // while positions are kept
 
         Extras &ownExtras() {
             if (!extras)
@@ -80,11 +83,17 @@ private:
     void start(std::string_view name, const XML_Char **attributes);
     void end();
     void text(std::string_view text);
+    void startUnknown(std::string_view name, const XML_Char **attributes);
     void keepRaw(std::string xml);
 
     bool checkTag();
+    bool checkInstruction(std::string_view target);
+    bool declareNamespaces(const XML_Char **attributes);
     bool openFrame(Element element, const XML_Char **attributes);
     bool readAttributes(Frame &frame, const XML_Char **attributes);
+    bool readKey(Frame &frame);
+    bool keepAttributes(Frame &frame, const XML_Char **attributes);
+    void useNamespace(Frame &record, const XmlNamespaces::Binding &binding);
     bool checkOccurrence(Frame &parent, const Frame &child);
     void placeKept(Frame &parent, const Frame &child);
     void beginRecord(Frame &frame);
@@ -93,7 +102,7 @@ private:
     void storeText(Frame &frame);
     void storeLists(const std::string &language);
     void storeExtras(Frame &frame);
-    void notePosition(Frame &frame);
+    void notePositions(Frame &frame, const XML_Char **attributes);
 
     [[nodiscard]] int nextIndex(const Frame &frame);
     [[nodiscard]] std::vector<std::string> *openList(Element element);
@@ -109,6 +118,8 @@ private:
     [[nodiscard]] static Position positionOf(const Frame &frame);
     [[nodiscard]] static std::string describe(const Frame &frame);
     [[nodiscard]] SourcePosition here() const;
+    SourcePosition countLines(std::uint64_t offset);
+    [[nodiscard]] std::uint64_t eventOffset() const;
 
     void fail(std::string message);
     void failFromExpat();
@@ -116,21 +127,26 @@ private:
     ExpatHandle m_parser;
     ManifestFailure m_failure;
     char *m_room = nullptr;
-    std::uint64_t m_fed = 0;
+    std::uint64_t m_fed = 0; // before m_room
+    bool m_isEmpty = true;
     const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by their numbers
     bool m_keepsPositions;
     FieldPositions m_positions;
+    LineCounter m_lines; // while positions are kept
+    std::uint64_t m_linesCounted = 0;
+    XmlNamespaces m_namespaces;
 
-    static constexpr int deepestKnown = 4; // package, behavior, texts, name
     std::array<Frame, deepestKnown> m_frames;
     int m_open = 0;
     int m_depth = 0;        // of all open elements
     int m_unknownDepth = 0; // of the open elements that are captured as raw text
     bool m_rootDone = false;
     std::string m_raw;
-    std::string m_text;                  // of the open text element
-    std::array<std::string, 5> m_values; // of the known attributes of the element that starts
-    std::uint32_t m_present = 0;         // which of them it has
+    std::string m_text; // of the open text element
+    // Of the known attributes of the element that starts.
+    std::array<std::string, mostKnownAttributes> m_values;
+    std::uint32_t m_present = 0; // which of them it has
+    bool m_hasUnknownAttributes = false;
 
     std::shared_ptr<PackageData> m_package;
     std::shared_ptr<Extras> m_packageExtras;

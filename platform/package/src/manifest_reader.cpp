@@ -158,8 +158,16 @@ std::string ManifestReader::errorString() const {
     return withPosition(m_state->failure.message, m_state->failure.position);
 }
 
-SourcePosition ManifestReader::position(const std::string &path) const {
+SourcePosition ManifestReader::position(const FieldPath &path) const {
     return m_state->fields.find(path);
+}
+
+SourcePosition ManifestReader::position(const std::string &path) const {
+    return position(FieldPath::parse(path).value_or(FieldPath()));
+}
+
+std::vector<UnknownNode> ManifestReader::unknownNodes() const {
+    return m_state->fields.unknownNodes();
 }
 
 } // namespace Tano

@@ -76,14 +76,16 @@ private:
                const Maps &...maps);
 
     void openTag(const Node &node, std::initializer_list<Attribute> attributes);
+    void namespaces(const Node &node);
     void closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine);
     void line(std::string_view xml);
     void before(ExtrasWalk &walk, Element kind, const std::string &key, int index) {
-        walk.before(kind, key, index, [this](const std::string &xml) { line(xml); });
+        walk.before(kind, key, index, [this](std::string_view xml) { line(xml); });
     }
     void escaped(const Node &node, std::string_view text, EscapeFor where);
     void fail(const Node &node, std::string reason);
-    static std::string pathOf(const Node &node);
+    [[nodiscard]] int indexOf(const Node &node) const;
+    [[nodiscard]] FieldPath pathOf(const Node &node) const;
 
     WrittenManifest result() {
         if (!m_error.empty())
@@ -93,6 +95,7 @@ private:
 
     static std::vector<std::string> noLists(const Extras::ListId &) { return {}; }
 
+    const PackageData *m_package = nullptr; // null while an entry alone is written
     std::string m_out;
     std::string m_error;
     std::size_t m_level = 0;
@@ -120,6 +123,7 @@ std::vector<const std::string *> mergedKeys(std::vector<const std::string *> key
 }
 
 WrittenManifest Writer::package(const PackageData &package) {
+    m_package = &package;
     m_out.reserve(4096 + package.behaviors.size() * 2048);
     m_out = R"(<?xml version="1.0" encoding="UTF-8"?>)";
     const Extras *extras = package.extras.get();
@@ -135,7 +139,7 @@ void Writer::outside(const Extras *extras, Element place) {
         return;
     for (const Extras::Kept &kept : extras->kept) {
         if (kept.before.element == place)
-            line(kept.xml);
+            forEachPiece(kept.xml, [this](std::string_view xml) { line(xml); });
     }
 }
 
@@ -147,7 +151,7 @@ void Writer::root(const Node &node, const PackageData &package) {
              {PackageAttribute::Version, package.version},
              {PackageAttribute::TypeVersion, package.typeVersion}},
             keys, [&](ExtrasWalk &walk) {
-                walk.before(Element::Prolog, noKey, 0, [](const std::string &) {});
+                walk.before(Element::Prolog, noKey, 0, [](std::string_view) {});
                 field(node, walk, Element::Installer, noKey, package.installer);
                 field(node, walk, Element::Author, noKey, package.author);
                 field(node, walk, Element::Organization, noKey, package.organization);
@@ -254,8 +258,9 @@ void Writer::dialog(const Node &node, const DialogData &dialog) {
             {{DialogAttribute::TopicName, dialog.topicName},
              {DialogAttribute::TypeVersion, dialog.typeVersion}},
             noLists, [&](ExtrasWalk &walk) {
-                for (const auto &[code, path] : dialog.topics)
-                    field(node, walk, Element::Topic, code, path);
+                const auto codes = mergedKeys(walk.childKeys(Element::Topic), dialog.topics);
+                for (const std::string *code : codes)
+                    field(node, walk, Element::Topic, *code, textOf(dialog.topics, *code));
             });
 }
 
@@ -302,7 +307,7 @@ void Writer::text(const Node &node, const std::string &text) {
             while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U)
                 ++at;
             escaped(node, std::string_view(text).substr(done, at - done), EscapeFor::Text);
-            m_out += kept.xml;
+            forEachPiece(kept.xml, [this](std::string_view xml) { m_out += xml; });
             done = at;
         }
     }
@@ -352,20 +357,42 @@ void Writer::openTag(const Node &node, std::initializer_list<Attribute> attribut
         const AttributeRule &attributeRule = rule.attributes[std::size_t(attribute.number)];
         if (attribute.value.empty() && !attributeRule.required)
             continue;
+        if (attribute.number == rule.keyAttribute &&
+            attribute.value.size() > ManifestReader::maxKeyLength)
+            fail(node, "cannot be saved: its key is longer than 4 KiB");
         ((m_out += ' ') += attributeRule.name) += "=\"";
         escaped(node, attribute.value, EscapeFor::Attribute);
         m_out += '"';
     }
     if (node.extras) {
-        for (const auto &[name, value] : node.extras->attributes) {
-            ((m_out += ' ') += name) += "=\"";
-            escaped(node, value, EscapeFor::Attribute);
-            m_out += '"';
-        }
+        namespaces(node);
+        m_out += node.extras->attributes;
     }
     m_out += '>';
     if (m_out.size() - start > ManifestReader::maxTagLength)
         fail(node, "is too long to be saved: a tag holds at most 1 MiB");
+}
+
+// Declares the prefixes that a behavior or dialog uses and that the root element does not declare.
+void Writer::namespaces(const Node &node) {
+    if (node.element == Element::Package)
+        return;
+    const auto isDeclared = [this](const Namespace &used) {
+        const Extras *root = m_package ? m_package->extras.get() : nullptr;
+        return root &&
+               std::any_of(
+                   root->namespaces.begin(), root->namespaces.end(), [&](const auto &declared) {
+                       return declared.get() == &used ||
+                              (declared->prefix == used.prefix && declared->uri == used.uri);
+                   });
+    };
+    for (const auto &used : node.extras->namespaces) {
+        if (isDeclared(*used))
+            continue;
+        ((m_out += " xmlns:") += used->prefix) += "=\"";
+        escaped(node, used->uri, EscapeFor::Attribute);
+        m_out += '"';
+    }
 }
 
 void Writer::closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine) {
@@ -401,19 +428,27 @@ void Writer::escaped(const Node &node, std::string_view text, EscapeFor where) {
 void Writer::fail(const Node &node, std::string reason) {
     if (!m_error.empty())
         return;
-    const std::string path = pathOf(node);
-    m_error = shortened((path.empty() ? "The package" : "The field " + path) + ' ' +
+    const FieldPath path = pathOf(node);
+    m_error = shortened((path.isEmpty() ? "The package" : "The field " + path.toString()) + ' ' +
                         std::move(reason) + '.');
 }
 
-std::string Writer::pathOf(const Node &node) {
+// The index of a node among the entries with the same key.
+int Writer::indexOf(const Node &node) const {
+    if (!m_package || !isEntry(node.element))
+        return node.index;
+    const auto keys = listKeys(*m_package, {node.element, {}});
+    return int(std::count(keys.begin(), keys.begin() + node.index, node.key));
+}
+
+FieldPath Writer::pathOf(const Node &node) const {
     if (node.element == Element::Package)
         return {};
-    const std::string parent = node.parent ? pathOf(*node.parent) : std::string();
-    const bool inTexts = node.parent && (node.parent->element == Element::PackageTexts ||
-                                         node.parent->element == Element::BehaviorTexts);
-    return fieldPath(parent, node.element, node.key, node.index,
-                     inTexts ? std::string_view(node.parent->key) : std::string_view());
+    FieldPath path = node.parent ? pathOf(*node.parent) : FieldPath();
+    const bool isText = node.parent && isTextsBlock(node.parent->element);
+    appendField(path, node.element, node.key, indexOf(node),
+                isText ? std::string_view(node.parent->key) : std::string_view());
+    return path;
 }
 
 } // namespace

@@ -15,17 +15,14 @@
 namespace Tano {
 namespace {
 
-void addOnce(PackageInfo &record, std::vector<std::string> PackageData::*list,
-             const std::string &value) {
-    const auto &values = RecordAccess::data(record).*list;
-    if (std::find(values.begin(), values.end(), value) == values.end())
-        (RecordAccess::edit(record).*list).push_back(value);
+void addOnce(PackageInfo &record, UniqueTexts PackageData::*list, const std::string &value) {
+    if (!(RecordAccess::data(record).*list).contains(value))
+        (RecordAccess::edit(record).*list).append(value);
 }
 
-void removeOnce(PackageInfo &record, std::vector<std::string> PackageData::*list,
-                const std::string &value) {
-    auto &values = RecordAccess::edit(record).*list;
-    values.erase(std::remove(values.begin(), values.end(), value), values.end());
+void removeOnce(PackageInfo &record, UniqueTexts PackageData::*list, const std::string &value) {
+    if ((RecordAccess::data(record).*list).contains(value))
+        (RecordAccess::edit(record).*list).remove(std::string(value)); // which may be in the list
 }
 
 template<typename Entry>
@@ -60,21 +57,28 @@ void addKeys(std::set<std::string> &keys, const Map &map) {
 
 } // namespace
 
+// The bindings name every member, so that a new one does not compile until it is compared.
+
 bool operator==(const RobotRequirement &a, const RobotRequirement &b) {
-    const auto fields = [](const RobotRequirement &r) {
-        return std::tie(r.model, r.minHeadVersion, r.maxHeadVersion, r.minBodyVersion,
-                        r.maxBodyVersion);
+    const auto fields = [](const RobotRequirement &requirement) {
+        const auto &[model, minHead, maxHead, minBody, maxBody] = requirement;
+        return std::tie(model, minHead, maxHead, minBody, maxBody);
     };
     return fields(a) == fields(b);
 }
 
 bool operator==(const BrioRequirement &a, const BrioRequirement &b) {
-    return a.minVersion == b.minVersion && a.maxVersion == b.maxVersion;
+    const auto fields = [](const BrioRequirement &requirement) {
+        const auto &[minVersion, maxVersion] = requirement;
+        return std::tie(minVersion, maxVersion);
+    };
+    return fields(a) == fields(b);
 }
 
 bool operator==(const PackageService &a, const PackageService &b) {
-    const auto fields = [](const PackageService &s) {
-        return std::tie(s.name, s.execStart, s.autoRun, s.properties);
+    const auto fields = [](const PackageService &service) {
+        const auto &[name, execStart, autoRun, properties] = service;
+        return std::tie(name, execStart, autoRun, properties);
     };
     return fields(a) == fields(b);
 }
@@ -306,11 +310,14 @@ std::set<std::string> PackageInfo::languageCodes() const {
 
 void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
-    keepOnly(data.names, data.descriptionLanguages);
-    keepOnly(data.descriptions, data.descriptionLanguages);
-    dropForeign(data.extras, Element::PackageTexts, data.descriptionLanguages);
+    const KeySet descriptionCodes(data.descriptionLanguages);
+    const KeySet supportedCodes(data.supportedLanguages);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    dropChildren(data.extras, Element::PackageTexts,
+                 [&](const std::string &code) { return !descriptionCodes.contains(code); });
     for (BehaviorInfo &behavior : data.behaviors)
-        behavior.trimExtraInfo(data.descriptionLanguages, data.supportedLanguages);
+        trimBehavior(behavior, descriptionCodes, supportedCodes);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {
@@ -367,11 +374,14 @@ bool operator==(const PackageInfo &a, const PackageInfo &b) {
     const PackageData &x = RecordAccess::data(a);
     const PackageData &y = RecordAccess::data(b);
     const auto fields = [](const PackageData &data) {
-        return std::tie(data.uuid, data.version, data.typeVersion, data.installer, data.author,
-                        data.organization, data.date, data.channel, data.path,
-                        data.supportedLanguages, data.descriptionLanguages, data.names,
-                        data.descriptions, data.robotRequirements, data.brioRequirements,
-                        data.behaviors, data.dialogs, data.services);
+        const auto &[uuid, version, typeVersion, installer, author, organization, date, channel,
+                     path, supportedLanguages, descriptionLanguages, names, descriptions,
+                     robotRequirements, brioRequirements, behaviors, dialogs, services, extras] =
+            data;
+        (void)extras; // compared as it is written
+        return std::tie(uuid, version, typeVersion, installer, author, organization, date, channel,
+                        path, supportedLanguages, descriptionLanguages, names, descriptions,
+                        robotRequirements, brioRequirements, behaviors, dialogs, services);
     };
     return fields(x) == fields(y) && sameExtras(x, y);
 }

@@ -8,9 +8,46 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace Tano {
+
+/// A list of texts, each of which occurs once, in the order of their addition.
+class UniqueTexts {
+public:
+    operator const std::vector<std::string> &() const { return m_texts; } // NOLINT: it is a list
+
+    [[nodiscard]] std::size_t size() const { return m_texts.size(); }
+    /// For texts that are known to be new.
+    void append(const std::string &text) {
+        m_texts.push_back(text);
+        if (!m_known.empty())
+            m_known.insert(text);
+    }
+    [[nodiscard]] bool contains(const std::string &text) const {
+        if (m_texts.size() < indexedFrom)
+            return std::find(m_texts.begin(), m_texts.end(), text) != m_texts.end();
+        if (m_known.empty())
+            m_known.insert(m_texts.begin(), m_texts.end());
+        return m_known.count(text) != 0;
+    }
+    void remove(const std::string &text) {
+        m_known.clear();
+        m_texts.erase(std::remove(m_texts.begin(), m_texts.end(), text), m_texts.end());
+    }
+
+    friend bool operator==(const UniqueTexts &a, const UniqueTexts &b) {
+        return a.m_texts == b.m_texts;
+    }
+
+private:
+    static constexpr std::size_t indexedFrom = 32;
+
+    std::vector<std::string> m_texts;
+    mutable std::unordered_set<std::string> m_known; // built at the first search of a long list
+};
 
 struct BehaviorData {
     std::string path;
@@ -43,8 +80,8 @@ struct PackageData {
     std::string date;
     std::string channel;
     std::string path;
-    std::vector<std::string> supportedLanguages;
-    std::vector<std::string> descriptionLanguages;
+    UniqueTexts supportedLanguages;
+    UniqueTexts descriptionLanguages;
     TextMap names;
     TextMap descriptions;
     std::vector<RobotRequirement> robotRequirements;
@@ -102,13 +139,30 @@ inline const std::vector<std::string> &listOf(const TextListMap &lists, const st
     return it == lists.end() ? empty : it->second;
 }
 
+/// The keys to keep, in a form for many look-ups. Refers to the list that it was made of.
+class KeySet {
+public:
+    explicit KeySet(const std::vector<std::string> &keys)
+        : m_keys(keys.begin(), keys.end()) {
+        std::sort(m_keys.begin(), m_keys.end());
+    }
+    [[nodiscard]] bool contains(std::string_view key) const {
+        return std::binary_search(m_keys.begin(), m_keys.end(), key);
+    }
+
+private:
+    std::vector<std::string_view> m_keys;
+};
+
 /// Erases all but the entries of those keys.
 template<typename Map>
-void keepOnly(Map &map, const std::vector<std::string> &keys) {
-    for (auto it = map.begin(); it != map.end();) {
-        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
-        it = isKept ? std::next(it) : map.erase(it);
-    }
+void keepOnly(Map &map, const KeySet &keys) {
+    for (auto it = map.begin(); it != map.end();)
+        it = keys.contains(it->first) ? std::next(it) : map.erase(it);
 }
+
+/// BehaviorInfo::trimExtraInfo() for many behaviors.
+void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
+                  const KeySet &supportedCodes);
 
 } // namespace Tano

@@ -35,7 +35,7 @@ constexpr std::array<ScriptElement, 23> elements{{
     {"emphasis", Gives::Text, Apart::Never},
     {"voice", Gives::Text, Apart::Never},
     {"lang", Gives::Text, Apart::Never},
-    {"lookup", Gives::Nothing, Apart::Never},
+    {"lookup", Gives::Text, Apart::Never},
     {"token", Gives::Text, Apart::Never},
     {"w", Gives::Text, Apart::Never},
     {"audio", Gives::Description, Apart::WhenEmpty},

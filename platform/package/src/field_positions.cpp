@@ -1,0 +1,175 @@
+#include "field_positions.h"
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+#include <optional>
+#include <tuple>
+
+namespace Tano {
+namespace {
+
+constexpr FieldPositions::NodeId noNode = std::numeric_limits<FieldPositions::NodeId>::max();
+
+std::uint32_t bounded(std::uint64_t count) {
+    return std::uint32_t(std::min<std::uint64_t>(count, std::numeric_limits<std::uint32_t>::max()));
+}
+
+// The child of an element that a step may name; Element::Count for none.
+Element childWithField(Element parent, std::string_view field) {
+    for (const Element child : ruleOf(parent).children) {
+        if (ruleOf(child).field == field)
+            return child;
+    }
+    return Element::Count;
+}
+
+} // namespace
+
+FieldPositions::KeyId FieldPositions::intern(const std::string &key) {
+    if (key.empty() && !m_keys.empty())
+        return 0;
+    const auto [it, isNew] = m_keyIds.try_emplace(key, KeyId(m_keys.size()));
+    if (isNew)
+        m_keys.push_back(&it->first);
+    return it->second;
+}
+
+FieldPositions::NodeId FieldPositions::add(NodeId parent, Element element, const std::string &key,
+                                           SourcePosition position) {
+    if (m_nodes.empty())
+        intern({}); // which most elements have, as the key 0
+    m_nodes.push_back(
+        {parent, intern(key), bounded(position.line), bounded(position.column), element});
+    return NodeId(m_nodes.size() - 1);
+}
+
+void FieldPositions::addUnknown(NodeId parent, UnknownNode::Kind kind, const std::string &name,
+                                SourcePosition position) {
+    m_unknown.push_back(
+        {parent, intern(name), bounded(position.line), bounded(position.column), kind});
+}
+
+void FieldPositions::buildIndex() const {
+    if (m_index.size() == m_nodes.size())
+        return;
+    m_index.resize(m_nodes.size());
+    std::iota(m_index.begin(), m_index.end(), NodeId(0));
+    const auto rank = [this](NodeId id) {
+        const Node &node = m_nodes[id];
+        return std::make_tuple(node.parent, node.element, node.key, id);
+    };
+    std::sort(m_index.begin() + 1, m_index.end(),
+              [&](NodeId a, NodeId b) { return rank(a) < rank(b); });
+}
+
+FieldPositions::Siblings FieldPositions::siblings(NodeId parent, Element element,
+                                                  std::string_view key) const {
+    const auto keyId = m_keyIds.find(std::string(key));
+    if (keyId == m_keyIds.end())
+        return {};
+    const auto wanted = std::make_tuple(parent, element, keyId->second);
+    const auto groupOf = [this](NodeId id) {
+        const Node &node = m_nodes[id];
+        return std::make_tuple(node.parent, node.element, node.key);
+    };
+    const auto first =
+        std::lower_bound(m_index.begin() + 1, m_index.end(), wanted,
+                         [&](NodeId id, const auto &group) { return groupOf(id) < group; });
+    const auto last =
+        std::upper_bound(first, m_index.end(), wanted,
+                         [&](const auto &group, NodeId id) { return group < groupOf(id); });
+    return {m_index.data() + (first - m_index.begin()), int(last - first)};
+}
+
+// The block of texts that holds, or would hold, the text that a step names.
+FieldPositions::NodeId FieldPositions::block(NodeId parent, const FieldPath::Step &step) const {
+    if (step.selectors.empty())
+        return noNode;
+    for (const Element kind : ruleOf(m_nodes[parent].element).children) {
+        if (!isTextsBlock(kind) || childWithField(kind, step.field) == Element::Count)
+            continue;
+        const Siblings blocks = siblings(parent, kind, step.selectors[0].text);
+        return blocks.count == 0 ? noNode : *blocks.first;
+    }
+    return noNode;
+}
+
+// The child of a kind that a step selects, apart from its first `used` selectors.
+FieldPositions::NodeId FieldPositions::entry(NodeId parent, Element element,
+                                             const FieldPath::Step &step, std::size_t used) const {
+    const ElementRule &rule = ruleOf(element);
+    const auto &selectors = step.selectors;
+    std::string_view key;
+    if (rule.keyAttribute >= 0) {
+        if (used == selectors.size())
+            return noNode;
+        key = selectors[used++].text;
+    }
+    std::optional<int> index;
+    if (used < selectors.size())
+        index = selectors[used].toIndex();
+    else if (rule.occurs != Occurs::AnyTimes || isEntry(element))
+        index = 0;
+    const Siblings all = siblings(parent, element, key);
+    return index && *index < all.count ? all.first[*index] : noNode;
+}
+
+FieldPositions::NodeId FieldPositions::child(NodeId parent, const FieldPath::Step &step) const {
+    const Element element = childWithField(m_nodes[parent].element, step.field);
+    return element == Element::Count ? noNode : entry(parent, element, step, 0);
+}
+
+SourcePosition FieldPositions::find(const FieldPath &path) const {
+    if (m_nodes.empty())
+        return {};
+    buildIndex();
+    NodeId found = 0;
+    for (const FieldPath::Step &step : path.steps()) {
+        NodeId next = child(found, step);
+        if (next == noNode) {
+            const NodeId texts = block(found, step);
+            if (texts == noNode)
+                break;
+            found = texts;
+            const Element text = childWithField(m_nodes[texts].element, step.field);
+            next = entry(texts, text, step, 1);
+            if (next == noNode)
+                break;
+        }
+        found = next;
+    }
+    return {m_nodes[found].line, m_nodes[found].column};
+}
+
+FieldPath FieldPositions::pathOf(NodeId id) const {
+    if (id == 0)
+        return {};
+    const Node &node = m_nodes[id];
+    const std::string &key = *m_keys[node.key];
+    const Node &parent = m_nodes[node.parent];
+    const bool isText = isTextsBlock(parent.element);
+    FieldPath path = pathOf(isText ? parent.parent : node.parent);
+    const Siblings all = siblings(node.parent, node.element, key);
+    const auto index = std::lower_bound(all.first, all.first + all.count, id) - all.first;
+    appendField(path, node.element, key, int(index), isText ? *m_keys[parent.key] : std::string());
+    return path;
+}
+
+std::vector<UnknownNode> FieldPositions::unknownNodes() const {
+    if (m_nodes.empty())
+        return {};
+    buildIndex();
+    std::vector<UnknownNode> nodes;
+    nodes.reserve(m_unknown.size());
+    for (const Unknown &unknown : m_unknown) {
+        nodes.push_back({unknown.kind,
+                         *m_keys[unknown.name],
+                         std::string(ruleOf(m_nodes[unknown.parent].element).name),
+                         pathOf(unknown.parent),
+                         {unknown.line, unknown.column}});
+    }
+    return nodes;
+}
+
+} // namespace Tano
