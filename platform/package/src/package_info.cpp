@@ -215,6 +215,14 @@ void PackageInfo::addRobotRequirement(const RobotRequirement &requirement) {
     RecordAccess::edit(*this).robotRequirements.push_back(requirement);
 }
 
+bool PackageInfo::replaceRobotRequirement(int index, const RobotRequirement &requirement) {
+    return replaceEntry(*this, &PackageData::robotRequirements, index, requirement);
+}
+
+bool PackageInfo::removeRobotRequirement(int index) {
+    return removeEntry(*this, &PackageData::robotRequirements, index);
+}
+
 const std::vector<BrioRequirement> &PackageInfo::brioRequirements() const {
     return RecordAccess::data(*this).brioRequirements;
 }
@@ -225,6 +233,14 @@ void PackageInfo::clearBrioRequirements() {
 
 void PackageInfo::addBrioRequirement(const BrioRequirement &requirement) {
     RecordAccess::edit(*this).brioRequirements.push_back(requirement);
+}
+
+bool PackageInfo::replaceBrioRequirement(int index, const BrioRequirement &requirement) {
+    return replaceEntry(*this, &PackageData::brioRequirements, index, requirement);
+}
+
+bool PackageInfo::removeBrioRequirement(int index) {
+    return removeEntry(*this, &PackageData::brioRequirements, index);
 }
 
 const std::vector<BehaviorInfo> &PackageInfo::behaviors() const {
@@ -306,11 +322,15 @@ std::set<std::string> PackageInfo::languageCodes() const {
 
 void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
-    keepOnly(data.names, data.descriptionLanguages);
-    keepOnly(data.descriptions, data.descriptionLanguages);
+    const std::set<std::string> described(data.descriptionLanguages.begin(),
+                                          data.descriptionLanguages.end());
+    const std::set<std::string> supported(data.supportedLanguages.begin(),
+                                          data.supportedLanguages.end());
+    keepOnly(data.names, described);
+    keepOnly(data.descriptions, described);
     dropForeign(data.extras, Element::PackageTexts, data.descriptionLanguages);
     for (BehaviorInfo &behavior : data.behaviors)
-        behavior.trimExtraInfo(data.descriptionLanguages, data.supportedLanguages);
+        behavior.trimExtraInfo(described, supported);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {

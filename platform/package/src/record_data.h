@@ -4,9 +4,9 @@
 
 #include "extras.h"
 
-#include <algorithm>
 #include <iterator>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -104,11 +104,9 @@ inline const std::vector<std::string> &listOf(const TextListMap &lists, const st
 
 /// Erases all but the entries of those keys.
 template<typename Map>
-void keepOnly(Map &map, const std::vector<std::string> &keys) {
-    for (auto it = map.begin(); it != map.end();) {
-        const bool isKept = std::find(keys.begin(), keys.end(), it->first) != keys.end();
-        it = isKept ? std::next(it) : map.erase(it);
-    }
+void keepOnly(Map &map, const std::set<std::string> &keys) {
+    for (auto it = map.begin(); it != map.end();)
+        it = keys.count(it->first) != 0 ? std::next(it) : map.erase(it);
 }
 
 } // namespace Tano
