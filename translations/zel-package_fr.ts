@@ -692,5 +692,9 @@
         <source>The file cannot be run: %1.</source>
         <translation>Le fichier ne peut pas être exécuté : %1.</translation>
     </message>
+    <message>
+        <source>Of each rule, only the first %1 findings are listed.</source>
+        <translation>Pour chaque règle, seuls les %1 premiers problèmes sont indiqués.</translation>
+    </message>
 </context>
 </TS>

@@ -692,5 +692,9 @@
         <source>The file cannot be run: %1.</source>
         <translation>ファイルを実行できません: %1</translation>
     </message>
+    <message>
+        <source>Of each rule, only the first %1 findings are listed.</source>
+        <translation>各規則につき、最初の%1件だけを表示します。</translation>
+    </message>
 </context>
 </TS>
