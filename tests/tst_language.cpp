@@ -114,6 +114,51 @@ private Q_SLOTS:
                  codes(before) + QStringList({QStringLiteral("qaa"), QStringLiteral("aa")}));
     }
 
+    void languagesInUse() {
+        const auto inUse = [](const char *code) {
+            return Language::languageInUse(QString::fromLatin1(code));
+        };
+        QCOMPARE(inUse("fr_FR").englishName(), QStringLiteral("French"));
+        QVERIFY(inUse("").isoCode().isEmpty());
+        const QStringList before = codes(Language::knownLanguages());
+        {
+            const RobotLanguage first = inUse("qab");
+            const RobotLanguage copy = inUse("qab");
+            QCOMPARE(robotLanguage(QStringLiteral("qab")), copy);
+            QCOMPARE(codes(Language::knownLanguages()),
+                     before + QStringList(QStringLiteral("qab")));
+        }
+        QVERIFY(robotLanguage(QStringLiteral("qab")).isoCode().isEmpty());
+        QCOMPARE(codes(Language::knownLanguages()), before);
+    }
+
+    // A code that only texts use is forgotten with them, until an application registers it.
+    void registrationOutlivesUse() {
+        RobotLanguage inUse = Language::languageInUse(QStringLiteral("qac"));
+        Language::addPartialLanguage(
+            {ISOCode(QStringLiteral("qac")), NuanceCode(QStringLiteral("x"))});
+        inUse = {};
+        QCOMPARE(robotLanguage(QStringLiteral("qac")).isoCode(), QStringLiteral("qac"));
+        QVERIFY(robotLanguage(QStringLiteral("qac")).nuanceCode().isEmpty());
+
+        static_cast<void>(Language::languageInUse(QStringLiteral("qad")));
+        Language::addPartialLanguage(
+            {ISOCode(QStringLiteral("qad")), NuanceCode(QStringLiteral("x"))});
+        QCOMPARE(robotLanguage(QStringLiteral("qad")).nuanceCode(), QStringLiteral("x"));
+    }
+
+    // The table drops unused languages as it grows; those in use stay the same descriptors.
+    void manyLanguages() {
+        const RobotLanguage kept = Language::languageInUse(QStringLiteral("kept"));
+        const QStringList before = codes(Language::knownLanguages());
+        RobotLanguages last;
+        for (int i = 0; i < 1000; ++i) {
+            last = {Language::languageInUse(QStringLiteral("m%1").arg(i))};
+            QCOMPARE(robotLanguage(QStringLiteral("m%1").arg(i)), last.front());
+        }
+        QCOMPARE(codes(Language::knownLanguages()), before + QStringList(QStringLiteral("m999")));
+    }
+
     void defaultLanguage() {
         const RobotLanguage original = Language::defaultLanguage();
         QCOMPARE(original.isoCode(), QStringLiteral("en_US"));

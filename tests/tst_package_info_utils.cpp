@@ -92,6 +92,7 @@ private Q_SLOTS:
     void outputsAreClearedFirst();
     void nullPackage();
     void textsOfIssues();
+    void visitors();
     void rules();
 
 private:
@@ -287,6 +288,39 @@ void TestPackageInfoUtils::textsOfIssues() {
         text("Brio version requirement is not valid: 1 < 2"),
         text("Brio version requirement is not valid: 1 &lt; 2")};
     QCOMPARE(texts, expected);
+}
+
+void TestPackageInfoUtils::visitors() {
+    Tano::PackageInfo record;
+    for (const char *code : {"en_US", "fr_FR", "it_IT"})
+        record.addSupportedLanguage(code);
+    for (const char *path : {"b", "a"}) {
+        Tano::BehaviorInfo behavior;
+        behavior.setPath(path);
+        behavior.addTriggerSentence("hello", "en_US");
+        record.addBehavior(behavior);
+    }
+    const PackageInfoModel package(record);
+    const auto visited = [&](PackageModel::IssueVisit answer, const char *id) {
+        QStringList paths;
+        PackageModel::visitIssues(&package, [&](const PackageModel::Issue &issue) {
+            paths += issue.path;
+            return issue.id == QLatin1String(id) ? answer : PackageModel::IssueVisit::Continue;
+        });
+        return paths.join(u' ');
+    };
+    using Visit = PackageModel::IssueVisit;
+    const QString first = text("uid robotRequirements brioRequirements names[en_US] ");
+    const QString last = text(" descriptions[en_US] descriptions[fr_FR] descriptions[it_IT] "
+                              "behaviors[a].triggerSentences[fr_FR]");
+    QCOMPARE(visited(Visit::Stop, "name-missing"), first + text("names[fr_FR]"));
+    QCOMPARE(visited(Visit::SkipRule, "name-missing"),
+             first + text("names[fr_FR]") + last +
+                 text(" behaviors[a].triggerSentences[it_IT] behaviors[b].triggerSentences[fr_FR] "
+                      "behaviors[b].triggerSentences[it_IT]"));
+    QCOMPARE(visited(Visit::SkipRule, "trigger-sentences-missing"),
+             first + text("names[fr_FR] names[it_IT]") + last);
+    PackageModel::visitIssues(nullptr, [](const auto &) { return Visit::Stop; });
 }
 
 void TestPackageInfoUtils::rules() {

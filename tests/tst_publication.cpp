@@ -68,6 +68,34 @@ private Q_SLOTS:
         QCOMPARE(pour->languagesToLoadingResponses().size(), std::size_t(1));
     }
 
+    // A receiver adds sentences in a language before and in one after the one that is converted.
+    void listsAddedMeanwhile() {
+        Tano::PackageInfo record;
+        Tano::BehaviorInfo info;
+        for (const char *code : {"de_DE", "en_US", "fr_FR", "it_IT"})
+            record.addSupportedLanguage(code);
+        info.addTriggerSentence("gone", "de_DE");
+        info.addTriggerSentence("one<break/>1", "en_US");
+        record.addBehavior(info);
+        PackageInfoModel package(record);
+        BehaviorInfoModel *behavior = package.behaviors().constFirst();
+        connect(behavior, &BehaviorInfoModel::triggerSentenceUpdated, this,
+                [&](int, const QString &, const RobotLanguage &updated) {
+                    if (updated != language("en_US"))
+                        return;
+                    behavior->removeTriggerSentence(0, language("de_DE"));
+                    for (const char *code : {"it_IT", "de_DE", "fr_FR"})
+                        behavior->addTriggerSentence(QStringLiteral("two<break/>2"),
+                                                     language(code));
+                });
+        package.genPlainTextFromScript();
+        QStringList texts;
+        for (const char *code : {"de_DE", "en_US", "fr_FR", "it_IT", "fr_FR-x-scrpol"}) {
+            texts += behavior->triggerSentences({ISOCode(QLatin1String(code)), NuanceCode()});
+        }
+        QCOMPARE(texts.join(u'|'), QStringLiteral("two<break/>2|one 1|two 2|two 2|two<break/>2"));
+    }
+
     void trimmedTextsStayAway() {
         m_package.trimExtraInfo();
         m_package.behaviors().at(1)->setNature(BehaviorInfoModel::natureSolitary());

@@ -3,6 +3,8 @@
 
 #include <packagemodel/package_issues.h>
 
+#include <tano/package_info.h>
+
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -132,6 +134,40 @@ private Q_SLOTS:
                                                    "artifactLocation.uri"))
                                 .toString();
         QTEST(uri, "uri");
+    }
+
+    // Of 102 x 101 findings of one rule, 10,000 are listed in every format.
+    void manyFindings() {
+        Tano::PackageInfo record;
+        for (int i = 0; i < 102; ++i) {
+            const std::string number = std::to_string(i);
+            record.addSupportedLanguage("q" + number);
+            record.setName("name", "q" + number);
+            record.setDescription("description", "q" + number);
+            Tano::BehaviorInfo behavior;
+            behavior.setPath(number);
+            behavior.addTriggerSentence("hello", "q" + number);
+            record.addBehavior(behavior);
+        }
+        write(path("many.xml"), QByteArray::fromStdString(record.saveToManifestContent()));
+        const auto validate = [&](const char *options) {
+            return run(QStringLiteral("validate many.xml --ignore uid-invalid,"
+                                      "robot-requirements-missing,brio-requirement-missing")
+                           .split(u' ') +
+                       QString::fromLatin1(options).split(u' ', Qt::SkipEmptyParts));
+        };
+        const Outcome text = validate("");
+        QCOMPARE(text.status, 1);
+        QCOMPARE(text.out.count('\n'), 10000);
+        QCOMPARE(text.err, QByteArray("zel-package: many.xml: Of each rule, only the first 10000 "
+                                      "findings are listed.\n"
+                                      "zel-package: Manifests: 1, errors: 10000, warnings: 0\n"));
+        QCOMPARE(at(jsonOf(validate("--format json")), QStringLiteral("summary.truncated")),
+                 QJsonValue(1));
+        QCOMPARE(at(jsonOf(validate("--format sarif")),
+                    QStringLiteral("runs.0.invocations.0.toolExecutionNotifications.0.level")),
+                 QJsonValue(QStringLiteral("warning")));
+        QCOMPARE(validate("--ignore trigger-sentences-missing").out, QByteArray());
     }
 
     void onTerminal() {

@@ -676,5 +676,9 @@
         <source>scripts in</source>
         <translation>scripts en</translation>
     </message>
+    <message>
+        <source>Of each rule, only the first %1 findings are listed.</source>
+        <translation>Pour chaque règle, seuls les %1 premiers problèmes sont indiqués.</translation>
+    </message>
 </context>
 </TS>

@@ -676,5 +676,9 @@
         <source>scripts in</source>
         <translation>スクリプトの言語</translation>
     </message>
+    <message>
+        <source>Of each rule, only the first %1 findings are listed.</source>
+        <translation>各規則につき、最初の%1件だけを表示します。</translation>
+    </message>
 </context>
 </TS>

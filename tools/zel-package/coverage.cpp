@@ -2,7 +2,12 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <QHash>
+#include <QSet>
+
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace ZelPackage {
 namespace {
@@ -18,22 +23,60 @@ bool isFilled(const QStringList &texts) {
                        [](const QString &text) { return isFilled(text); });
 }
 
-// Counts an entry where it has something of its kind in any language.
-template<typename Values>
-void countIfUsed(Count &count, const Values &values, const RobotLanguage &language) {
-    bool isUsed = false;
-    bool isPresent = false;
-    for (const auto &[value, itsLanguage] : values) {
-        isUsed = isUsed || isFilled(value);
-        isPresent = isPresent || (itsLanguage == language && isFilled(value));
+// Counts the texts of entries, a language in each row.
+class Tally {
+public:
+    Tally(const Zel::RobotLanguages &languages, const Zel::PackageInfoModel &package) {
+        for (const RobotLanguage &language : languages) {
+            LanguageCoverage row;
+            row.language = language;
+            row.isSupported = package.hasLanguageSupport(language);
+            row.isDescribed = package.hasLanguageDescription(language);
+            row.hasName = package.hasNameFor(language);
+            row.hasDescription = package.hasDescriptionFor(language);
+            m_indexes.insert(language.isoCode(), m_rows.size());
+            m_rows.push_back(row);
+        }
     }
-    if (isUsed)
-        count.add(isPresent);
-}
 
-bool contains(const Zel::RobotLanguages &languages, const RobotLanguage &language) {
-    return std::find(languages.begin(), languages.end(), language) != languages.end();
-}
+    // Counts an entry, which is expected to have a text of that kind.
+    template<typename Values>
+    void add(Count LanguageCoverage::*kind, const Values &values) {
+        ++(m_expected.*kind).expected;
+        for (const auto &[value, language] : values) {
+            const auto row = m_indexes.constFind(language.isoCode());
+            if (row != m_indexes.constEnd() && isFilled(value))
+                ++(m_rows[*row].*kind).present;
+        }
+    }
+
+    // The same if it has one in any language.
+    template<typename Values>
+    void addIfUsed(Count LanguageCoverage::*kind, const Values &values) {
+        if (std::any_of(values.begin(), values.end(),
+                        [](const auto &entry) { return isFilled(entry.first); }))
+            add(kind, values);
+    }
+
+    std::vector<LanguageCoverage> rows() {
+        constexpr std::array kinds{&LanguageCoverage::names,
+                                   &LanguageCoverage::descriptions,
+                                   &LanguageCoverage::tags,
+                                   &LanguageCoverage::triggerSentences,
+                                   &LanguageCoverage::loadingResponses,
+                                   &LanguageCoverage::topics};
+        for (LanguageCoverage &row : m_rows) {
+            for (const auto kind : kinds)
+                (row.*kind).expected = (m_expected.*kind).expected;
+        }
+        return std::move(m_rows);
+    }
+
+private:
+    std::vector<LanguageCoverage> m_rows;
+    QHash<QString, std::size_t> m_indexes; // of the rows by ISO code
+    LanguageCoverage m_expected;
+};
 
 } // namespace
 
@@ -59,39 +102,42 @@ int LanguageCoverage::percent() const {
     return sum.expected == 0 ? 0 : sum.present * 100 / sum.expected;
 }
 
-LanguageCoverage coverageIn(const RobotLanguage &language, const Zel::PackageInfoModel &package) {
-    LanguageCoverage coverage;
-    coverage.language = language;
-    coverage.isSupported = package.hasLanguageSupport(language);
-    coverage.isDescribed = package.hasLanguageDescription(language);
-    coverage.hasName = package.hasNameFor(language);
-    coverage.hasDescription = package.hasDescriptionFor(language);
+std::vector<LanguageCoverage> coveragesIn(const Zel::RobotLanguages &languages,
+                                          const Zel::PackageInfoModel &package) {
+    Tally tally(languages, package);
     const auto behaviors = package.behaviors();
     for (const Zel::BehaviorInfoModel *behavior : behaviors) {
-        coverage.names.add(isFilled(behavior->name(language)));
-        countIfUsed(coverage.descriptions, behavior->descriptions(), language);
-        countIfUsed(coverage.tags, behavior->languagesToTags(), language);
-        countIfUsed(coverage.triggerSentences, behavior->languagesToTriggerSentences(), language);
-        countIfUsed(coverage.loadingResponses, behavior->languagesToLoadingResponses(), language);
+        tally.add(&LanguageCoverage::names, behavior->names());
+        tally.addIfUsed(&LanguageCoverage::descriptions, behavior->descriptions());
+        tally.addIfUsed(&LanguageCoverage::tags, behavior->languagesToTags());
+        tally.addIfUsed(&LanguageCoverage::triggerSentences,
+                        behavior->languagesToTriggerSentences());
+        tally.addIfUsed(&LanguageCoverage::loadingResponses,
+                        behavior->languagesToLoadingResponses());
     }
     const auto dialogs = package.dialogs();
     for (const Zel::DialogInfoModel *dialog : dialogs)
-        countIfUsed(coverage.topics, dialog->topics(), language);
-    return coverage;
+        tally.addIfUsed(&LanguageCoverage::topics, dialog->topics());
+    return tally.rows();
 }
 
 Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package) {
-    Zel::RobotLanguages languages = package.supportedLanguages();
-    const auto addMissing = [&languages](const RobotLanguage &language) {
-        if (!contains(languages, language))
-            languages.push_back(language);
+    Zel::RobotLanguages languages;
+    QSet<QString> codes;
+    const auto add = [&](const RobotLanguage &language) {
+        if (codes.contains(language.isoCode()))
+            return;
+        codes.insert(language.isoCode());
+        languages.push_back(language);
     };
+    for (const RobotLanguage &language : package.supportedLanguages())
+        add(language);
     for (const RobotLanguage &language : package.descriptionLanguages())
-        addMissing(language);
+        add(language);
     for (const std::string &bytes : package.packageInfo().languageCodes()) {
         const QString code = Zel::fromUtf8(bytes);
         if (!code.endsWith(Zel::PackageModel::k_sa.text()))
-            addMissing(Zel::robotLanguage(code));
+            add(Zel::robotLanguage(code));
     }
     return languages;
 }

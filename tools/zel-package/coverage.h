@@ -52,9 +52,9 @@ struct LanguageCoverage {
     [[nodiscard]] int percent() const;
 };
 
-/// The coverage in one language.
-[[nodiscard]] LanguageCoverage coverageIn(const Zel::RobotLanguage &language,
-                                          const Zel::PackageInfoModel &package);
+/// The coverage in each of the languages, counted in one pass through the package.
+[[nodiscard]] std::vector<LanguageCoverage> coveragesIn(const Zel::RobotLanguages &languages,
+                                                        const Zel::PackageInfoModel &package);
 
 /// The languages of the package: the supported ones, those it is only described in, both in its
 /// order, then by ascending code those that are not listed but have texts. The script variants of

@@ -31,6 +31,9 @@ public:
             QJsonObject{{QStringLiteral("file"), file}, {QStringLiteral("text"), trouble}};
     }
 
+    // The summary counts them.
+    void writeTruncated(const QString &, const QString &) override {}
+
     void finish(const Report &report) override {
         m_console.print(QStringLiteral("],\n\"unreadable\": ["));
         JsonList unreadable(m_console);
@@ -42,7 +45,8 @@ public:
                                   {QStringLiteral("errors"), report.errors},
                                   {QStringLiteral("warnings"), report.warnings},
                                   {QStringLiteral("malformed"), report.malformed},
-                                  {QStringLiteral("unreadable"), report.unreadable}};
+                                  {QStringLiteral("unreadable"), report.unreadable},
+                                  {QStringLiteral("truncated"), report.truncated}};
         m_console.print(QStringLiteral("],\n\"summary\": ") %
                         jsonText(summary, QJsonDocument::Compact) % QStringLiteral("}\n"));
     }

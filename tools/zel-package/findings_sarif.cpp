@@ -117,12 +117,11 @@ public:
     }
 
     void writeUnreadable(const QString &file, const QString &trouble) override {
-        const QJsonObject location{
-            {QStringLiteral("physicalLocation"),
-             QJsonObject{{QStringLiteral("artifactLocation"), artifactLocation(file)}}}};
-        m_notifications += QJsonObject{{QStringLiteral("level"), QStringLiteral("error")},
-                                       {QStringLiteral("message"), messageObject(trouble)},
-                                       {QStringLiteral("locations"), QJsonArray{location}}};
+        notify(QStringLiteral("error"), file, trouble);
+    }
+
+    void writeTruncated(const QString &file, const QString &note) override {
+        notify(QStringLiteral("warning"), file, note);
     }
 
     void finish(const Report &report) override {
@@ -136,6 +135,15 @@ public:
     }
 
 private:
+    void notify(const QString &level, const QString &file, const QString &text) {
+        const QJsonObject location{
+            {QStringLiteral("physicalLocation"),
+             QJsonObject{{QStringLiteral("artifactLocation"), artifactLocation(file)}}}};
+        m_notifications += QJsonObject{{QStringLiteral("level"), level},
+                                       {QStringLiteral("message"), messageObject(text)},
+                                       {QStringLiteral("locations"), QJsonArray{location}}};
+    }
+
     Console &m_console;
     QVector<Rule> m_rules;
     QStringList m_ruleIds;

@@ -35,6 +35,7 @@ public:
 
     // Standard error says so, in every format.
     void writeUnreadable(const QString &, const QString &) override {}
+    void writeTruncated(const QString &, const QString &) override {}
 
     void finish(const Report &report) override {
         for (const auto &rule : report.explained)

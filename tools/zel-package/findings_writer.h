@@ -16,6 +16,7 @@ struct Report {
     int warnings = 0;
     int malformed = 0;
     int unreadable = 0;
+    int truncated = 0; ///< with more findings of a rule than are listed
     ExitStatus status = Fine;
     QVector<Zel::PackageModel::Rule> explained; ///< the rules to explain, if any
 };
@@ -33,6 +34,8 @@ public:
     virtual void write(const Finding &finding) = 0;
     /// A file that could not be read, and why not.
     virtual void writeUnreadable(const QString &file, const QString &trouble) = 0;
+    /// A file with more findings than are listed, and how many those are.
+    virtual void writeTruncated(const QString &file, const QString &note) = 0;
     virtual void finish(const Report &report) = 0;
 };
 

@@ -187,11 +187,8 @@ QString coverageSection(const Zel::RobotLanguages &languages, const Zel::Package
                         const Console &console) {
     if (languages.empty())
         return {};
-    std::vector<LanguageCoverage> coverages;
-    for (const RobotLanguage &language : languages)
-        coverages.push_back(coverageIn(language, package));
     return heading(QCoreApplication::translate("zel-package", "Translations"), console) %
-           coverageTable(coverages, console, indent);
+           coverageTable(coveragesIn(languages, package), console, indent);
 }
 
 // A list that exists in another language only is missing, where one is expected; nothing stands in

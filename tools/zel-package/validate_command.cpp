@@ -7,6 +7,7 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace ZelPackage {
 namespace {
 
 using Zel::PackageModel::Issue;
+using Zel::PackageModel::IssueVisit;
 using Zel::PackageModel::Rule;
 using Zel::PackageModel::Severity;
 
@@ -23,6 +25,9 @@ const QLatin1String formatOption("format");
 const QLatin1String failOnOption("fail-on");
 const QLatin1String ignoreOption("ignore");
 const QLatin1String explainOption("explain");
+
+// Of one rule in one manifest. A manifest can have as many as behaviors times languages.
+constexpr int mostFindings = 10000;
 
 struct Format {
     QLatin1String name;
@@ -137,12 +142,32 @@ private:
     void checkPackage(const QString &file, const Tano::PackageInfo &record,
                       const Tano::ManifestReader &reader) {
         const Zel::PackageInfoModel package(record);
-        const auto issues = Zel::PackageModel::issues(&package);
-        for (const Issue &issue : issues) {
-            if (!m_ignored.contains(issue.id))
-                found({file, reader.position(Zel::toUtf8(issue.path)), issue.id, issue.severity,
-                       issue.path, issue.plainText()});
-        }
+        QHash<QString, int> counts;
+        bool isTruncated = false;
+        Zel::PackageModel::visitIssues(&package, [&](const Issue &issue) {
+            int &count = counts[issue.id];
+            const bool isBeyond = count == mostFindings;
+            if (m_ignored.contains(issue.id) || isBeyond) {
+                isTruncated = isTruncated || isBeyond;
+                return IssueVisit::SkipRule;
+            }
+            ++count;
+            found({file, reader.position(Zel::toUtf8(issue.path)), issue.id, issue.severity,
+                   issue.path, issue.plainText()});
+            return IssueVisit::Continue;
+        });
+        if (isTruncated)
+            tellTruncated(file);
+    }
+
+    void tellTruncated(const QString &file) {
+        ++m_report.truncated;
+        const QString note =
+            QCoreApplication::translate("zel-package",
+                                        "Of each rule, only the first %1 findings are listed.")
+                .arg(mostFindings);
+        m_writer.writeTruncated(file, note);
+        m_console.tell(file, note);
     }
 
     void tellMalformed(const QString &file, const Tano::ManifestReader &reader) {

@@ -33,6 +33,10 @@ void addPartialLanguage(const RobotLanguage &language) {
     LanguageTable::instance().add(language);
 }
 
+RobotLanguage languageInUse(const QString &isoCode) {
+    return LanguageTable::instance().findOrLend(isoCode);
+}
+
 RobotLanguage defaultLanguage() {
     return LanguageTable::instance().defaultLanguage();
 }

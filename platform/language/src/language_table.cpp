@@ -12,6 +12,8 @@
 namespace Zel {
 namespace {
 
+constexpr std::size_t leastGrowth = 64;
+
 QString territoryName(const QLocale &locale) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 2, 0)
     return QLocale::territoryToString(locale.territory());
@@ -65,14 +67,65 @@ LanguageTable &LanguageTable::instance() {
 LanguageTable::LanguageTable() {
     for (const RobotLanguage &language : builtInLanguages())
         add(language);
+    m_forgetAt = m_entries.size() + leastGrowth;
     m_default = find(QStringLiteral("en_US"));
 }
 
+RobotLanguages LanguageTable::languages() const {
+    RobotLanguages languages;
+    for (const Entry &entry : m_entries) {
+        if (entry.isKnown())
+            languages.push_back(entry.language);
+    }
+    return languages;
+}
+
+RobotLanguage LanguageTable::find(const QString &isoCode) const {
+    const auto found = m_indexes.constFind(isoCode);
+    if (found == m_indexes.constEnd() || !m_entries[*found].isKnown())
+        return {};
+    return m_entries[*found].language;
+}
+
 void LanguageTable::add(const RobotLanguage &language) {
-    if (language.isoCode().isEmpty() || m_byCode.contains(language.isoCode()))
+    if (language.isoCode().isEmpty())
         return;
-    m_byCode.insert(language.isoCode(), language);
-    m_languages.push_back(language);
+    const auto found = m_indexes.constFind(language.isoCode());
+    if (found == m_indexes.constEnd()) {
+        append(language, false);
+        return;
+    }
+    Entry &entry = m_entries[*found];
+    if (!entry.isKnown())
+        entry.language = language;
+    entry.isLent = false;
+}
+
+RobotLanguage LanguageTable::findOrLend(const QString &isoCode) {
+    if (isoCode.isEmpty())
+        return {};
+    const auto found = m_indexes.constFind(isoCode);
+    if (found != m_indexes.constEnd())
+        return m_entries[*found].language;
+    if (m_entries.size() >= m_forgetAt)
+        forgetUnused();
+    append({ISOCode(isoCode), NuanceCode()}, true);
+    return m_entries.back().language;
+}
+
+void LanguageTable::append(const RobotLanguage &language, bool isLent) {
+    m_indexes.insert(language.isoCode(), m_entries.size());
+    m_entries.push_back({language, isLent});
+}
+
+// Waits until the table has doubled, so that each registration pays for a constant share of it.
+void LanguageTable::forgetUnused() {
+    const auto isUnknown = [](const Entry &entry) { return !entry.isKnown(); };
+    m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isUnknown), m_entries.end());
+    m_indexes.clear();
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        m_indexes.insert(m_entries[i].language.isoCode(), i);
+    m_forgetAt = 2 * m_entries.size() + leastGrowth;
 }
 
 void LanguageTable::setDefaultLanguage(const RobotLanguage &language) {

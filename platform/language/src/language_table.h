@@ -4,33 +4,49 @@
 
 #include <QHash>
 
+#include <vector>
+
 namespace Zel {
 
-/// The languages that can be looked up: the built-in ones, and the partial ones registered since.
+/// The languages that can be looked up: the built-in ones, the partial ones registered since, and
+/// those known only while a descriptor of them is in use.
 class LanguageTable {
 public:
     /// The process's table, built on first use.
     static LanguageTable &instance();
 
     /// In the order of knownLanguages().
-    [[nodiscard]] const RobotLanguages &languages() const { return m_languages; }
+    [[nodiscard]] RobotLanguages languages() const;
 
-    /// The language with an empty code, where there is none of this code.
-    [[nodiscard]] RobotLanguage find(const QString &isoCode) const {
-        return m_byCode.value(isoCode);
-    }
+    /// The language with an empty code if there is none with this code.
+    [[nodiscard]] RobotLanguage find(const QString &isoCode) const;
 
-    /// Leaves the table as it is for a code that is empty or already there.
+    /// Keeps the language for good. Does nothing for an empty code; a code that is known already
+    /// keeps its descriptor.
     void add(const RobotLanguage &language);
+
+    /// find(), or a new partial language that the table forgets once nobody else has a copy of it.
+    [[nodiscard]] RobotLanguage findOrLend(const QString &isoCode);
 
     [[nodiscard]] const RobotLanguage &defaultLanguage() const { return m_default; }
     void setDefaultLanguage(const RobotLanguage &language);
 
 private:
+    struct Entry {
+        RobotLanguage language;
+        bool isLent = false; // known only while its descriptor has other copies
+
+        [[nodiscard]] bool isKnown() const { return !isLent || language.hasCopies(); }
+    };
+
     LanguageTable();
 
-    RobotLanguages m_languages;
-    QHash<QString, RobotLanguage> m_byCode;
+    void append(const RobotLanguage &language, bool isLent);
+    void forgetUnused();
+
+    std::vector<Entry> m_entries; // in the order of their registration
+    QHash<QString, std::size_t> m_indexes;
+    std::size_t m_forgetAt = 0; // the number of entries at which unused ones are dropped next
     RobotLanguage m_default;
 };
 

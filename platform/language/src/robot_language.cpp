@@ -42,6 +42,10 @@ const RobotLanguageData &RobotLanguage::data() const {
     return m_data ? *m_data : empty;
 }
 
+bool RobotLanguage::hasCopies() const {
+    return m_data && m_data->ref.loadAcquire() > 1;
+}
+
 const QString &RobotLanguage::isoCode() const {
     return data().isoCode;
 }

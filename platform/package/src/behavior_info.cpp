@@ -37,19 +37,34 @@ int indexOf(const BehaviorInfo &record, Lists lists, const std::string &value,
     return -1;
 }
 
-bool updateIn(BehaviorInfo &record, Lists lists, const std::string &oldValue,
-              const std::string &newValue, const std::string &key, int occurrence) {
-    const int index = indexOf(record, lists, oldValue, key, occurrence);
-    if (index < 0)
+Lists listsOf(BehaviorList kind) {
+    switch (kind) {
+    case BehaviorList::Tags:
+        return &BehaviorData::tags;
+    case BehaviorList::TriggerSentences:
+        return &BehaviorData::triggerSentences;
+    case BehaviorList::LoadingResponses:
+        return &BehaviorData::loadingResponses;
+    case BehaviorList::Conditions:
+        break;
+    }
+    return &BehaviorData::conditions;
+}
+
+bool holdsIndex(const BehaviorInfo &record, Lists lists, const std::string &key, int index) {
+    return index >= 0 && index < int(listOf(RecordAccess::data(record).*lists, key).size());
+}
+
+bool updateAtIndex(BehaviorInfo &record, Lists lists, const std::string &key, int index,
+                   const std::string &newValue) {
+    if (!holdsIndex(record, lists, key, index))
         return false;
     (RecordAccess::edit(record).*lists)[key][std::size_t(index)] = newValue;
     return true;
 }
 
-bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, const std::string &key,
-                int occurrence) {
-    const int index = indexOf(record, lists, value, key, occurrence);
-    if (index < 0)
+bool removeAtIndex(BehaviorInfo &record, Lists lists, const std::string &key, int index) {
+    if (!holdsIndex(record, lists, key, index))
         return false;
     auto &all = RecordAccess::edit(record).*lists;
     const auto it = all.find(key);
@@ -57,6 +72,17 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
     if (it->second.empty())
         all.erase(it);
     return true;
+}
+
+bool updateIn(BehaviorInfo &record, Lists lists, const std::string &oldValue,
+              const std::string &newValue, const std::string &key, int occurrence) {
+    return updateAtIndex(record, lists, key, indexOf(record, lists, oldValue, key, occurrence),
+                         newValue);
+}
+
+bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, const std::string &key,
+                int occurrence) {
+    return removeAtIndex(record, lists, key, indexOf(record, lists, value, key, occurrence));
 }
 
 } // namespace
@@ -253,8 +279,26 @@ bool BehaviorInfo::removeCondition(const std::string &condition, const std::stri
     return removeFrom(*this, &BehaviorData::conditions, condition, purpose, occurrence);
 }
 
+const TextListMap &BehaviorInfo::lists(BehaviorList kind) const {
+    return RecordAccess::data(*this).*listsOf(kind);
+}
+
+bool BehaviorInfo::updateAt(BehaviorList kind, const std::string &key, int index,
+                            const std::string &newValue) {
+    return updateAtIndex(*this, listsOf(kind), key, index, newValue);
+}
+
+bool BehaviorInfo::removeAt(BehaviorList kind, const std::string &key, int index) {
+    return removeAtIndex(*this, listsOf(kind), key, index);
+}
+
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
+    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+}
+
+void BehaviorInfo::trimExtraInfo(const std::set<std::string> &descriptionCodes,
+                                 const std::set<std::string> &supportedCodes) {
     trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 

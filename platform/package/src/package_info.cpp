@@ -219,6 +219,14 @@ void PackageInfo::addRobotRequirement(const RobotRequirement &requirement) {
     RecordAccess::edit(*this).robotRequirements.push_back(requirement);
 }
 
+bool PackageInfo::replaceRobotRequirement(int index, const RobotRequirement &requirement) {
+    return replaceEntry(*this, &PackageData::robotRequirements, index, requirement);
+}
+
+bool PackageInfo::removeRobotRequirement(int index) {
+    return removeEntry(*this, &PackageData::robotRequirements, index);
+}
+
 const std::vector<BrioRequirement> &PackageInfo::brioRequirements() const {
     return RecordAccess::data(*this).brioRequirements;
 }
@@ -229,6 +237,14 @@ void PackageInfo::clearBrioRequirements() {
 
 void PackageInfo::addBrioRequirement(const BrioRequirement &requirement) {
     RecordAccess::edit(*this).brioRequirements.push_back(requirement);
+}
+
+bool PackageInfo::replaceBrioRequirement(int index, const BrioRequirement &requirement) {
+    return replaceEntry(*this, &PackageData::brioRequirements, index, requirement);
+}
+
+bool PackageInfo::removeBrioRequirement(int index) {
+    return removeEntry(*this, &PackageData::brioRequirements, index);
 }
 
 const std::vector<BehaviorInfo> &PackageInfo::behaviors() const {

@@ -4,9 +4,9 @@
 
 #include "extras.h"
 
-#include <algorithm>
 #include <iterator>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -146,6 +146,8 @@ public:
         : m_keys(keys.begin(), keys.end()) {
         std::sort(m_keys.begin(), m_keys.end());
     }
+    explicit KeySet(const std::set<std::string> &keys)
+        : m_keys(keys.begin(), keys.end()) {}
     [[nodiscard]] bool contains(std::string_view key) const {
         return std::binary_search(m_keys.begin(), m_keys.end(), key);
     }

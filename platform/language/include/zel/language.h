@@ -13,13 +13,20 @@ using LocalizedStrings = std::vector<std::pair<QString, RobotLanguage>>;
 /// One list of texts per language, in the order in which the languages were added.
 using LocalizedStringLists = std::vector<std::pair<QStringList, RobotLanguage>>;
 
-/// The languages of the built-in table, in ascending order of their codes, then the registered
-/// partial ones in the order of their registration.
+/// The languages of the built-in table in ascending order of their codes, then the partial ones in
+/// the order of their registration.
 [[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
 
-/// Registers a descriptor so that later look-ups of its code find it. A code that is empty, known
-/// or already registered is left as it is.
+/// Registers a descriptor for good, so that later look-ups of its code find it. Ignores an empty
+/// code; a code that is known already keeps its descriptor.
 ZEL_LANGUAGE_EXPORT void addPartialLanguage(const RobotLanguage &language);
+
+/// The known language with that code, else a new partial one that is known as long as the returned
+/// descriptor or a copy of it exists. An empty code gives a descriptor whose code is empty.
+///
+/// The models get their languages from here. A package therefore makes the codes of its manifest
+/// known, and they are forgotten with the last package, command or list that uses them.
+[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage languageInUse(const QString &isoCode);
 
 /// The language that stands in where a text is missing: en_US until setDefaultLanguage(), which
 /// ignores a language whose code is empty.

@@ -85,9 +85,12 @@ public:
     [[nodiscard]] const QString &uiName() const;
 
 private:
+    friend class LanguageTable;
     friend ZEL_LANGUAGE_EXPORT bool operator==(const RobotLanguage &a, const RobotLanguage &b);
 
     [[nodiscard]] const RobotLanguageData &data() const;
+    /// Whether other descriptors share this one's data.
+    [[nodiscard]] bool hasCopies() const;
 
     QSharedDataPointer<RobotLanguageData> m_data; // null while all texts and the version are empty
 };
@@ -99,8 +102,8 @@ inline bool operator!=(const RobotLanguage &a, const RobotLanguage &b) {
 
 using RobotLanguages = std::vector<RobotLanguage>;
 
-/// Looks a language up by its ISO code among the known and the registered partial languages; an
-/// unknown code gives a descriptor whose ISO code is empty.
+/// Looks a language up by its ISO code among Language::knownLanguages(). An unknown code gives a
+/// descriptor whose ISO code is empty.
 [[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const ISOCode &isoCode);
 [[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const QString &isoCode);
 

@@ -4,12 +4,16 @@
 #include <tano/text_maps.h>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace Tano {
 
 struct BehaviorData;
+
+/// The kinds of lists of a behavior, kept by language code; conditions are kept by purpose.
+enum class BehaviorList { Tags, TriggerSentences, LoadingResponses, Conditions };
 
 /// The record of one behavior of a package. UTF-8 throughout; texts are keyed by language code,
 /// conditions by purpose.
@@ -92,10 +96,20 @@ public:
     bool removeCondition(const std::string &condition, const std::string &purpose,
                          int occurrence = 0);
 
+    // The same lists by their kind. Update and remove return false, and change nothing, for an
+    // index outside the list.
+
+    [[nodiscard]] const TextListMap &lists(BehaviorList kind) const;
+    bool updateAt(BehaviorList kind, const std::string &key, int index,
+                  const std::string &newValue);
+    bool removeAt(BehaviorList kind, const std::string &key, int index);
+
     /// Drops the names and descriptions in languages other than `descriptionCodes`, and the tags,
     /// trigger sentences and loading responses in languages other than `supportedCodes`.
     void trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                        const std::vector<std::string> &supportedCodes);
+    void trimExtraInfo(const std::set<std::string> &descriptionCodes,
+                       const std::set<std::string> &supportedCodes);
 
     /// True when both have the same content, what a manifest holds beyond the fields included.
     friend TANO_PACKAGE_EXPORT bool operator==(const BehaviorInfo &a, const BehaviorInfo &b);

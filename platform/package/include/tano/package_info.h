@@ -78,13 +78,19 @@ public:
     void addDescriptionLanguage(const std::string &code);
     void removeDescriptionLanguage(const std::string &code);
 
+    // `replace` and `remove` return false, and change nothing, for an index outside the list.
+
     [[nodiscard]] const std::vector<RobotRequirement> &robotRequirements() const;
     void clearRobotRequirements();
     void addRobotRequirement(const RobotRequirement &requirement);
+    bool replaceRobotRequirement(int index, const RobotRequirement &requirement);
+    bool removeRobotRequirement(int index);
 
     [[nodiscard]] const std::vector<BrioRequirement> &brioRequirements() const;
     void clearBrioRequirements();
     void addBrioRequirement(const BrioRequirement &requirement);
+    bool replaceBrioRequirement(int index, const BrioRequirement &requirement);
+    bool removeBrioRequirement(int index);
 
     // The entries of a package. `replace` and `remove` return false, and change nothing, for an
     // index outside the list.

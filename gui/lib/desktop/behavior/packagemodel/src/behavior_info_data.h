@@ -6,6 +6,11 @@
 #include <packagemodel/behavior_info_model.h>
 
 #include <QPointer>
+#include <QSet>
+
+#include <memory>
+#include <set>
+#include <string>
 
 namespace Zel {
 
@@ -21,15 +26,11 @@ struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
     /// that it sends. `Key` is what such lists are kept by: a language, or a purpose.
     template<typename Key>
     struct ListKind {
-        const Tano::TextListMap &(Tano::BehaviorInfo::*lists)() const;
+        Tano::BehaviorList list;
         void (Tano::BehaviorInfo::*add)(const std::string &value, const std::string &key);
         void (Tano::BehaviorInfo::*insert)(const std::string &value, const std::string &key,
                                            int index);
-        bool (Tano::BehaviorInfo::*update)(const std::string &oldValue, const std::string &newValue,
-                                           const std::string &key, int occurrence);
-        bool (Tano::BehaviorInfo::*remove)(const std::string &value, const std::string &key,
-                                           int occurrence);
-        Language::LocalizedStringLists Data::*cache; // null for conditions, which have none
+        CachedLists Data::*cache; // null for conditions, which have none
         void (BehaviorInfoModel::*added)(const QString &value, const Key &key);
         void (BehaviorInfoModel::*inserted)(const QString &value, const Key &key, int index);
         void (BehaviorInfoModel::*updated)(int index, const QString &value, const Key &key);
@@ -44,6 +45,27 @@ struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
     QStringList list(const ListKind<RobotLanguage> &kind, const RobotLanguage &language) const;
     QStringList list(const ListKind<QString> &kind, const QString &purpose) const;
 
+    int size(const ListKind<RobotLanguage> &kind, const RobotLanguage &language) const;
+    int size(const ListKind<QString> &kind, const QString &purpose) const;
+    bool contains(const ListKind<RobotLanguage> &kind, const RobotLanguage &language,
+                  const QString &value) const;
+    bool contains(const ListKind<QString> &kind, const QString &purpose,
+                  const QString &value) const;
+
+    QString valueAt(const ListKind<RobotLanguage> &kind, const RobotLanguage &language,
+                    int index) const;
+    QString valueAt(const ListKind<QString> &kind, const QString &purpose, int index) const;
+
+    /// contains(), in constant time when long lists are added to one value after another.
+    template<typename Key>
+    bool holds(const ListKind<Key> &kind, const Key &key, const QString &value);
+
+    /// Drops what the package does not offer. The codes are those of the languages.
+    void trim(const ByLanguage<RobotLanguage> &descriptionLanguages,
+              const ByLanguage<RobotLanguage> &supportedLanguages,
+              const std::set<std::string> &descriptionCodes,
+              const std::set<std::string> &supportedCodes);
+
     template<typename Key>
     bool add(const ListKind<Key> &kind, const QString &newValue, const Key &inKey);
     template<typename Key>
@@ -54,12 +76,26 @@ struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
     bool remove(const ListKind<Key> &kind, int index, const Key &inKey);
 
     BehaviorInfoModel *model;
-    Language::LocalizedStrings names;
-    Language::LocalizedStrings descriptions;
-    Language::LocalizedStringLists tags;
-    Language::LocalizedStringLists triggerSentences;
-    Language::LocalizedStringLists loadingResponses;
+    CachedTexts names;
+    CachedTexts descriptions;
+    CachedLists tags;
+    CachedLists triggerSentences;
+    CachedLists loadingResponses;
     QPointer<PackageInfoModel> package;
+
+private:
+    template<typename Key>
+    void noteAdded(const ListKind<Key> &kind, const Key &key);
+    template<typename Key>
+    void noteChanged(const ListKind<Key> &kind, const Key &key);
+
+    /// The values of the list that was added to last. Empty until a second one is added.
+    struct AddedTo {
+        Tano::BehaviorList list;
+        std::string key;
+        QSet<QString> values;
+    };
+    std::unique_ptr<AddedTo> m_addedTo; // null after any other change of that list
 };
 
 } // namespace Zel

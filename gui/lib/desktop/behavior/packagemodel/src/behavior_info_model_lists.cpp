@@ -20,23 +20,13 @@ std::string recordKey(const QString &purpose) {
     return toUtf8(purpose);
 }
 
-// How the record is told which item is meant: by its value, and by which of the equal ones it is.
-struct RecordItem {
-    std::string value;
-    int occurrence = 0;
-};
+constexpr int longestSearched = 16;
 
-RecordItem itemAt(const Tano::TextListMap &lists, const std::string &key, int index,
-                  const QString &cachedValue) {
-    const auto found = lists.find(key);
-    if (found == lists.end() || index >= static_cast<int>(found->second.size()))
-        return {toUtf8(cachedValue)};
-    const auto item = found->second.begin() + index;
-    return {*item, static_cast<int>(std::count(found->second.begin(), item, *item))};
-}
-
-bool isOutside(int index, const QStringList &list) {
-    return index < 0 || index >= list.size();
+const std::vector<std::string> &recordList(const Tano::BehaviorInfo &record,
+                                           Tano::BehaviorList kind, const std::string &key) {
+    static const std::vector<std::string> empty;
+    const auto found = record.lists(kind).find(key);
+    return found == record.lists(kind).end() ? empty : found->second;
 }
 
 // Conditions have no cache to edit.
@@ -46,43 +36,31 @@ void editCache(Data &data, const Kind &kind, Edit edit) {
         edit(data.*kind.cache);
 }
 
-std::vector<std::string> codesOf(const RobotLanguages &languages) {
-    std::vector<std::string> codes;
-    codes.reserve(languages.size());
-    for (const RobotLanguage &language : languages)
-        codes.push_back(codeOf(language));
-    return codes;
-}
-
 } // namespace
 
 const BehaviorInfoModel::Data::ListKind<RobotLanguage> BehaviorInfoModel::Data::tagKind{
-    &Tano::BehaviorInfo::languagesToTags, &Tano::BehaviorInfo::addTag,
-    &Tano::BehaviorInfo::insertTag,       &Tano::BehaviorInfo::updateTag,
-    &Tano::BehaviorInfo::removeTag,       &Data::tags,
-    &BehaviorInfoModel::tagAdded,         &BehaviorInfoModel::tagInserted,
-    &BehaviorInfoModel::tagUpdated,       &BehaviorInfoModel::tagRemoved};
+    Tano::BehaviorList::Tags,       &Tano::BehaviorInfo::addTag,
+    &Tano::BehaviorInfo::insertTag, &Data::tags,
+    &BehaviorInfoModel::tagAdded,   &BehaviorInfoModel::tagInserted,
+    &BehaviorInfoModel::tagUpdated, &BehaviorInfoModel::tagRemoved};
 
 const BehaviorInfoModel::Data::ListKind<RobotLanguage> BehaviorInfoModel::Data::triggerSentenceKind{
-    &Tano::BehaviorInfo::languagesToTriggerSentences, &Tano::BehaviorInfo::addTriggerSentence,
-    &Tano::BehaviorInfo::insertTriggerSentence,       &Tano::BehaviorInfo::updateTriggerSentence,
-    &Tano::BehaviorInfo::removeTriggerSentence,       &Data::triggerSentences,
-    &BehaviorInfoModel::triggerSentenceAdded,         &BehaviorInfoModel::triggerSentenceInserted,
-    &BehaviorInfoModel::triggerSentenceUpdated,       &BehaviorInfoModel::triggerSentenceRemoved};
+    Tano::BehaviorList::TriggerSentences,       &Tano::BehaviorInfo::addTriggerSentence,
+    &Tano::BehaviorInfo::insertTriggerSentence, &Data::triggerSentences,
+    &BehaviorInfoModel::triggerSentenceAdded,   &BehaviorInfoModel::triggerSentenceInserted,
+    &BehaviorInfoModel::triggerSentenceUpdated, &BehaviorInfoModel::triggerSentenceRemoved};
 
 const BehaviorInfoModel::Data::ListKind<RobotLanguage> BehaviorInfoModel::Data::loadingResponseKind{
-    &Tano::BehaviorInfo::languagesToLoadingResponses, &Tano::BehaviorInfo::addLoadingResponse,
-    &Tano::BehaviorInfo::insertLoadingResponse,       &Tano::BehaviorInfo::updateLoadingResponse,
-    &Tano::BehaviorInfo::removeLoadingResponse,       &Data::loadingResponses,
-    &BehaviorInfoModel::loadingResponseAdded,         &BehaviorInfoModel::loadingResponseInserted,
-    &BehaviorInfoModel::loadingResponseUpdated,       &BehaviorInfoModel::loadingResponseRemoved};
+    Tano::BehaviorList::LoadingResponses,       &Tano::BehaviorInfo::addLoadingResponse,
+    &Tano::BehaviorInfo::insertLoadingResponse, &Data::loadingResponses,
+    &BehaviorInfoModel::loadingResponseAdded,   &BehaviorInfoModel::loadingResponseInserted,
+    &BehaviorInfoModel::loadingResponseUpdated, &BehaviorInfoModel::loadingResponseRemoved};
 
 const BehaviorInfoModel::Data::ListKind<QString> BehaviorInfoModel::Data::conditionKind{
-    &Tano::BehaviorInfo::purposesToConditions, &Tano::BehaviorInfo::addCondition,
-    &Tano::BehaviorInfo::insertCondition,      &Tano::BehaviorInfo::updateCondition,
-    &Tano::BehaviorInfo::removeCondition,      nullptr,
-    &BehaviorInfoModel::conditionAdded,        &BehaviorInfoModel::conditionInserted,
-    &BehaviorInfoModel::conditionUpdated,      &BehaviorInfoModel::conditionRemoved};
+    Tano::BehaviorList::Conditions,       &Tano::BehaviorInfo::addCondition,
+    &Tano::BehaviorInfo::insertCondition, nullptr,
+    &BehaviorInfoModel::conditionAdded,   &BehaviorInfoModel::conditionInserted,
+    &BehaviorInfoModel::conditionUpdated, &BehaviorInfoModel::conditionRemoved};
 
 QStringList BehaviorInfoModel::Data::list(const ListKind<RobotLanguage> &kind,
                                           const RobotLanguage &language) const {
@@ -93,15 +71,80 @@ QStringList BehaviorInfoModel::Data::list(const ListKind<QString> &, const QStri
     return listFromRecord(record().conditions(toUtf8(purpose)));
 }
 
+int BehaviorInfoModel::Data::size(const ListKind<RobotLanguage> &kind,
+                                  const RobotLanguage &language) const {
+    const auto *entry = (this->*kind.cache).find(language);
+    return entry ? static_cast<int>(entry->first.size()) : 0;
+}
+
+int BehaviorInfoModel::Data::size(const ListKind<QString> &kind, const QString &purpose) const {
+    return static_cast<int>(recordList(record(), kind.list, recordKey(purpose)).size());
+}
+
+bool BehaviorInfoModel::Data::contains(const ListKind<RobotLanguage> &kind,
+                                       const RobotLanguage &language, const QString &value) const {
+    const auto *entry = (this->*kind.cache).find(language);
+    return entry && entry->first.contains(value);
+}
+
+bool BehaviorInfoModel::Data::contains(const ListKind<QString> &kind, const QString &purpose,
+                                       const QString &value) const {
+    const auto &conditions = recordList(record(), kind.list, recordKey(purpose));
+    return std::any_of(conditions.begin(), conditions.end(),
+                       [&](const std::string &condition) { return fromUtf8(condition) == value; });
+}
+
+QString BehaviorInfoModel::Data::valueAt(const ListKind<RobotLanguage> &kind,
+                                         const RobotLanguage &language, int index) const {
+    return (this->*kind.cache).find(language)->first.at(index);
+}
+
+QString BehaviorInfoModel::Data::valueAt(const ListKind<QString> &kind, const QString &purpose,
+                                         int index) const {
+    return fromUtf8(recordList(record(), kind.list, recordKey(purpose))[std::size_t(index)]);
+}
+
+template<typename Key>
+bool BehaviorInfoModel::Data::holds(const ListKind<Key> &kind, const Key &key,
+                                    const QString &value) {
+    if (size(kind, key) <= longestSearched)
+        return contains(kind, key, value);
+    const std::string code = recordKey(key);
+    if (!m_addedTo || m_addedTo->list != kind.list || m_addedTo->key != code) {
+        m_addedTo = std::make_unique<AddedTo>(AddedTo{kind.list, code, {}});
+        return contains(kind, key, value);
+    }
+    if (m_addedTo->values.isEmpty()) {
+        for (const QString &present : list(kind, key))
+            m_addedTo->values.insert(present);
+    }
+    return m_addedTo->values.contains(value);
+}
+
+template<typename Key>
+void BehaviorInfoModel::Data::noteAdded(const ListKind<Key> &kind, const Key &key) {
+    if (m_addedTo && m_addedTo->list == kind.list && m_addedTo->key == recordKey(key) &&
+        !m_addedTo->values.isEmpty())
+        m_addedTo->values.insert(valueAt(kind, key, size(kind, key) - 1));
+}
+
+template<typename Key>
+void BehaviorInfoModel::Data::noteChanged(const ListKind<Key> &kind, const Key &key) {
+    if (m_addedTo && m_addedTo->list == kind.list && m_addedTo->key == recordKey(key))
+        m_addedTo.reset();
+}
+
 template<typename Key>
 bool BehaviorInfoModel::Data::add(const ListKind<Key> &kind, const QString &newValue,
                                   const Key &inKey) {
-    if (list(kind, inKey).contains(newValue))
+    if (holds(kind, inKey, newValue))
         return false;
     const QString value = copyOf(newValue);
     const Key key = copyOf(inKey);
-    (edit().*kind.add)(toUtf8(value), recordKey(key));
-    editCache<Key>(*this, kind, [&](auto &cache) { Language::addValue(cache, value, key); });
+    editAnnounced(
+        [&](Tano::BehaviorInfo &record) { (record.*kind.add)(toUtf8(value), recordKey(key)); });
+    editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).append(value); });
+    noteAdded(kind, key);
     Q_EMIT(model->*kind.added)(value, key);
     return true;
 }
@@ -109,44 +152,49 @@ bool BehaviorInfoModel::Data::add(const ListKind<Key> &kind, const QString &newV
 template<typename Key>
 bool BehaviorInfoModel::Data::insert(const ListKind<Key> &kind, const QString &newValue,
                                      const Key &inKey, int index) {
-    if (list(kind, inKey).contains(newValue))
+    if (contains(kind, inKey, newValue))
         return false;
     const QString value = copyOf(newValue);
     const Key key = copyOf(inKey);
+    const int place = std::clamp(index, 0, size(kind, key));
     (edit().*kind.insert)(toUtf8(value), recordKey(key), index);
-    editCache<Key>(*this, kind,
-                   [&](auto &cache) { Language::insertValue(cache, index, value, key); });
-    Q_EMIT(model->*kind.inserted)(value, key, static_cast<int>(list(kind, key).indexOf(value)));
+    editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).insert(place, value); });
+    noteChanged(kind, key);
+    // A condition that UTF-8 cannot hold is not found again.
+    Q_EMIT(model->*kind.inserted)(value, key, valueAt(kind, key, place) == value ? place : -1);
     return true;
 }
 
 template<typename Key>
 bool BehaviorInfoModel::Data::update(const ListKind<Key> &kind, int index, const QString &newValue,
                                      const Key &inKey) {
-    const QStringList current = list(kind, inKey);
-    if (isOutside(index, current))
+    if (index < 0 || index >= size(kind, inKey))
         return false;
     const QString value = copyOf(newValue);
     const Key key = copyOf(inKey);
-    const std::string code = recordKey(key);
-    const RecordItem item = itemAt((record().*kind.lists)(), code, index, current.at(index));
-    (edit().*kind.update)(item.value, toUtf8(value), code, item.occurrence);
-    editCache<Key>(*this, kind,
-                   [&](auto &cache) { Language::updateValue(cache, index, value, key); });
+    editAnnounced([&](Tano::BehaviorInfo &record) {
+        record.updateAt(kind.list, recordKey(key), index, toUtf8(value));
+    });
+    editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).replace(index, value); });
+    noteChanged(kind, key);
     Q_EMIT(model->*kind.updated)(index, value, key);
     return true;
 }
 
 template<typename Key>
 bool BehaviorInfoModel::Data::remove(const ListKind<Key> &kind, int index, const Key &inKey) {
-    const QStringList current = list(kind, inKey);
-    if (isOutside(index, current))
+    if (index < 0 || index >= size(kind, inKey))
         return false;
     const Key key = copyOf(inKey);
-    const std::string code = recordKey(key);
-    const RecordItem item = itemAt((record().*kind.lists)(), code, index, current.at(index));
-    (edit().*kind.remove)(item.value, code, item.occurrence);
-    editCache<Key>(*this, kind, [&](auto &cache) { Language::removeValue(cache, index, key); });
+    editAnnounced(
+        [&](Tano::BehaviorInfo &record) { record.removeAt(kind.list, recordKey(key), index); });
+    editCache<Key>(*this, kind, [&](auto &cache) {
+        QStringList &values = madeValue(cache, key);
+        values.removeAt(index);
+        if (values.isEmpty())
+            cache.remove(key);
+    });
+    noteChanged(kind, key);
     Q_EMIT(model->*kind.removed)(index, key);
     return true;
 }
@@ -181,12 +229,21 @@ QStringList BehaviorInfoModel::conditions(const QString &purpose) const {
 
 void BehaviorInfoModel::trimExtraInfo(const RobotLanguages &descriptionLanguages,
                                       const RobotLanguages &supportedLanguages) {
-    m_data->edit().trimExtraInfo(codesOf(descriptionLanguages), codesOf(supportedLanguages));
-    keepOnly(descriptionLanguages, m_data->names);
-    keepOnly(descriptionLanguages, m_data->descriptions);
-    keepOnly(supportedLanguages, m_data->tags);
-    keepOnly(supportedLanguages, m_data->triggerSentences);
-    keepOnly(supportedLanguages, m_data->loadingResponses);
+    m_data->trim(descriptionLanguages, supportedLanguages, codesOf(descriptionLanguages),
+                 codesOf(supportedLanguages));
+}
+
+void BehaviorInfoModel::Data::trim(const ByLanguage<RobotLanguage> &descriptionLanguages,
+                                   const ByLanguage<RobotLanguage> &supportedLanguages,
+                                   const std::set<std::string> &descriptionCodes,
+                                   const std::set<std::string> &supportedCodes) {
+    edit().trimExtraInfo(descriptionCodes, supportedCodes);
+    keepOnly(descriptionLanguages, names);
+    keepOnly(descriptionLanguages, descriptions);
+    keepOnly(supportedLanguages, tags);
+    keepOnly(supportedLanguages, triggerSentences);
+    keepOnly(supportedLanguages, loadingResponses);
+    m_addedTo.reset();
 }
 
 bool BehaviorInfoModel::addTag(const QString &tag, const RobotLanguage &lang) {

@@ -128,6 +128,20 @@ public:
         return edit();
     }
 
+    /// Changes the record in place, where a copy of it would be costly: the package's copy is
+    /// dropped meanwhile and then replaced. Only for a change that is announced right away, upon
+    /// which the package replaces its copy anyway.
+    template<typename Change>
+    void editAnnounced(Change change) {
+        const bool isAnnounced = m_list && !m_child->signalsBlocked();
+        const int index = isAnnounced ? m_list->mirroredIndexOf(*m_child) : -1;
+        if (index >= 0)
+            m_list->replaceRecord(index, Record());
+        change(edit());
+        if (index >= 0)
+            m_list->replaceRecord(index, m_record);
+    }
+
     /// The list that contains the child; null when it has no package.
     ChildList<Child> *childList() const { return m_list; }
 
@@ -289,6 +303,15 @@ public:
     void noteKeyChange(Child *child) {
         m_unindexed.push_back(child);
         dropFromIndex(ChildAccess::data(*child));
+    }
+
+    /// The index of a child's record in the record's list; -1 if it is not there.
+    int mirroredIndexOf(const Child &child) const {
+        const int index = m_mirrored > 0 ? placeOf(child) : 0;
+        return index < m_mirrored ? index : -1;
+    }
+    void replaceRecord(int index, const Record &record) {
+        (m_record.*Kind::replace)(index, record);
     }
 
     /// Notes that the record's list no longer mirrors the children.

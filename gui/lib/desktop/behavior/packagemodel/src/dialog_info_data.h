@@ -1,6 +1,7 @@
 #pragma once
 
 #include "child_list.h"
+#include "localized_texts.h"
 
 #include <packagemodel/dialog_info_model.h>
 
@@ -9,7 +10,7 @@ namespace Zel {
 struct DialogInfoModel::Data : ChildData<DialogInfoModel> {
     using ChildData::ChildData;
 
-    Language::LocalizedStrings topics;
+    CachedTexts topics;
 };
 
 } // namespace Zel

@@ -9,8 +9,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
-
 namespace Zel {
 
 DialogInfoModel::DialogInfoModel(const Tano::DialogInfo &info, QObject *parent)
@@ -50,8 +48,8 @@ const Language::LocalizedStrings &DialogInfoModel::topics() const {
 
 RobotLanguages DialogInfoModel::topicsLanguages() const {
     RobotLanguages languages;
-    languages.reserve(m_data->topics.size());
-    for (const auto &topic : m_data->topics)
+    languages.reserve(m_data->topics.entries().size());
+    for (const auto &topic : m_data->topics.entries())
         languages.push_back(topic.second);
     return languages;
 }
@@ -80,7 +78,7 @@ void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) 
     const RobotLanguage language = copyOf(lang);
     const QString path = copyOf(topic);
     m_data->edit().setTopic(code, bytes);
-    Language::setValue(m_data->topics, path, language);
+    madeValue(m_data->topics, language) = path;
     Q_EMIT topicChanged(language, path);
 }
 
@@ -93,12 +91,9 @@ bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
     Q_EMIT topicRemoved(language);
     if (!self)
         return true;
-    auto &topics = m_data->topics;
-    const auto found = std::find_if(topics.begin(), topics.end(),
-                                    [&](const auto &topic) { return topic.second == language; });
     const bool isSetAgain = m_data->record().topics().count(code) != 0; // by a receiver
-    if (found != topics.end() && !isSetAgain)
-        topics.erase(found);
+    if (!isSetAgain)
+        m_data->topics.remove(language);
     return true;
 }
 

@@ -1,39 +1,9 @@
 #include "localized_texts.h"
 
-#include <algorithm>
-#include <unordered_map>
-
 namespace Zel {
-namespace {
-
-RobotLanguage registeredLanguage(const QString &code) {
-    RobotLanguage known = robotLanguage(ISOCode(code));
-    if (!known.isoCode().isEmpty())
-        return known;
-    RobotLanguage partial{ISOCode(code), NuanceCode()};
-    partial.setVersion(known.version());
-    Language::addPartialLanguage(partial);
-    return partial;
-}
-
-template<typename Value>
-Value valueIn(const std::vector<std::pair<Value, RobotLanguage>> &values,
-              const RobotLanguage &language) {
-    const auto found = std::find_if(values.begin(), values.end(),
-                                    [&](const auto &value) { return value.second == language; });
-    return found == values.end() ? Value() : found->first;
-}
-
-} // namespace
 
 RobotLanguage languageFromCode(const std::string &code) {
-    // Asked for every text of every behavior. Nothing ever leaves the language table, so what it
-    // once answered stays right.
-    static std::unordered_map<std::string, RobotLanguage> answers;
-    const auto found = answers.find(code);
-    if (found != answers.end())
-        return found->second;
-    return answers.emplace(code, registeredLanguage(fromUtf8(code))).first->second;
+    return Language::languageInUse(fromUtf8(code));
 }
 
 RobotLanguages languagesFromCodes(const std::vector<std::string> &codes) {
@@ -46,6 +16,13 @@ RobotLanguages languagesFromCodes(const std::vector<std::string> &codes) {
 
 std::string codeOf(const RobotLanguage &language) {
     return toUtf8(language.isoCode());
+}
+
+std::set<std::string> codesOf(const RobotLanguages &languages) {
+    std::set<std::string> codes;
+    for (const RobotLanguage &language : languages)
+        codes.insert(codeOf(language));
+    return codes;
 }
 
 Language::LocalizedStrings textsFromRecord(const Tano::TextMap &texts) {
@@ -70,18 +47,6 @@ QStringList listFromRecord(const std::vector<std::string> &list) {
     for (const std::string &text : list)
         texts.append(fromUtf8(text));
     return texts;
-}
-
-QString valueFor(const Language::LocalizedStrings &values, const RobotLanguage &language) {
-    return valueIn(values, language);
-}
-
-QStringList valueFor(const Language::LocalizedStringLists &values, const RobotLanguage &language) {
-    return valueIn(values, language);
-}
-
-bool contains(const RobotLanguages &languages, const RobotLanguage &language) {
-    return std::find(languages.begin(), languages.end(), language) != languages.end();
 }
 
 } // namespace Zel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "by_language.h"
 #include "copies.h"
 
 #include <packagemodel/text_conversion.h>
@@ -9,37 +10,48 @@
 
 #include <QObject>
 
-#include <algorithm>
+#include <set>
 #include <string>
 #include <utility>
 
 /// Between the language codes of the records and the language descriptors of the models.
 namespace Zel {
 
-/// The language of a code. A code that the language table does not know is registered there as a
-/// partial language, so that its texts are kept and shown.
+/// The language of a code. An unknown code becomes a partial language that is known while it is in
+/// use, so that its texts are kept and shown.
 [[nodiscard]] RobotLanguage languageFromCode(const std::string &code);
 [[nodiscard]] RobotLanguages languagesFromCodes(const std::vector<std::string> &codes);
 /// The key under which the records keep what belongs to a language.
 [[nodiscard]] std::string codeOf(const RobotLanguage &language);
+[[nodiscard]] std::set<std::string> codesOf(const RobotLanguages &languages);
+
+using CachedTexts = ByLanguage<std::pair<QString, RobotLanguage>>;
+using CachedLists = ByLanguage<std::pair<QStringList, RobotLanguage>>;
 
 [[nodiscard]] Language::LocalizedStrings textsFromRecord(const Tano::TextMap &texts);
 [[nodiscard]] Language::LocalizedStringLists listsFromRecord(const Tano::TextListMap &lists);
 [[nodiscard]] QStringList listFromRecord(const std::vector<std::string> &list);
 
-/// What a list holds for a language; the null text, or the empty list, when that is nothing.
-[[nodiscard]] QString valueFor(const Language::LocalizedStrings &values,
-                               const RobotLanguage &language);
-[[nodiscard]] QStringList valueFor(const Language::LocalizedStringLists &values,
-                                   const RobotLanguage &language);
+/// The cached value of a language; the null text, or the empty list, if there is none.
+template<typename Value>
+[[nodiscard]] Value valueFor(const ByLanguage<std::pair<Value, RobotLanguage>> &values,
+                             const RobotLanguage &language) {
+    const auto *entry = values.find(language);
+    return entry ? entry->first : Value();
+}
 
-[[nodiscard]] bool contains(const RobotLanguages &languages, const RobotLanguage &language);
+/// The cached value of a language, added if there is none.
+template<typename Value>
+[[nodiscard]] Value &madeValue(ByLanguage<std::pair<Value, RobotLanguage>> &values,
+                               const RobotLanguage &language) {
+    auto *entry = values.find(language);
+    return entry ? entry->first : values.append({Value(), language}).first;
+}
 
-/// Erases what a list holds for other languages.
+/// Erases what is cached for other languages.
 template<typename Values>
-void keepOnly(const RobotLanguages &languages, Values &values) {
-    const auto isForeign = [&](const auto &value) { return !contains(languages, value.second); };
-    values.erase(std::remove_if(values.begin(), values.end(), isForeign), values.end());
+void keepOnly(const ByLanguage<RobotLanguage> &languages, Values &values) {
+    values.removeIf([&](const RobotLanguage &language) { return !languages.contains(language); });
 }
 
 /// One kind of text per language: the operations of the record behind it, the cache, and the
@@ -48,7 +60,7 @@ template<typename Model, typename Data, typename Record>
 struct LocalizedField {
     const std::string &(Record::*text)(const std::string &code) const;
     void (Record::*setText)(const std::string &text, const std::string &code);
-    Language::LocalizedStrings Data::*cache;
+    CachedTexts Data::*cache;
     void (Model::*updated)(const QString &text, const RobotLanguage &language);
 };
 
@@ -62,8 +74,8 @@ void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record>
         return;
     const QString text = copyOf(newText);
     const RobotLanguage language = copyOf(inLanguage);
-    (data.edit().*field.setText)(bytes, code);
-    Language::setValue(data.*field.cache, text, language);
+    data.editAnnounced([&](Record &record) { (record.*field.setText)(bytes, code); });
+    madeValue(data.*field.cache, language) = text;
     Q_EMIT(model->*field.updated)(text, language);
 }
 

@@ -3,6 +3,8 @@
 #include <packagemodel/package_info_model.h>
 
 #include <QRegularExpression>
+#include <QSet>
+#include <QStringBuilder>
 
 #include <algorithm>
 
@@ -89,7 +91,7 @@ void checkNames(const PackageInfoModel &package, Findings &findings) {
             continue;
         const bool isDefault = language == defaultLanguage;
         findings.push_back({isDefault ? RuleId::NameMissingDefault : RuleId::NameMissing,
-                            selected(QStringLiteral("names"), language.isoCode()),
+                            QStringLiteral("names"),
                             {},
                             language});
     }
@@ -102,10 +104,8 @@ void checkNames(const PackageInfoModel &package, Findings &findings) {
 void checkDescriptions(const PackageInfoModel &package, Findings &findings) {
     for (const RobotLanguage &language : package.supportedLanguages()) {
         if (!package.hasDescriptionFor(language))
-            findings.push_back({RuleId::DescriptionMissing,
-                                selected(QStringLiteral("descriptions"), language.isoCode()),
-                                {},
-                                language});
+            findings.push_back(
+                {RuleId::DescriptionMissing, QStringLiteral("descriptions"), {}, language});
     }
 }
 
@@ -119,23 +119,28 @@ void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoMo
     if (!isTriggered)
         return;
 
+    QSet<QString> present;
+    for (const auto &[sentences, language] : all) {
+        if (!sentences.isEmpty())
+            present.insert(language.isoCode());
+    }
+    const QString path = behavior.path();
+    const QString field =
+        selected(QStringLiteral("behaviors"), path) % QLatin1String(".triggerSentences");
+    const QStringList arguments{path};
     for (const RobotLanguage &language : package.supportedLanguages()) {
-        const auto found = std::find_if(all.begin(), all.end(), [&](const auto &sentences) {
-            return sentences.second == language;
-        });
-        if (found != all.end() && !found->first.isEmpty())
-            continue;
-        const QString field = selected(QStringLiteral("behaviors"), behavior.path()) +
-                              QLatin1String(".triggerSentences");
-        findings.push_back({RuleId::TriggerSentencesMissing,
-                            selected(field, language.isoCode()),
-                            {behavior.path()},
-                            language});
+        if (!present.contains(language.isoCode()))
+            findings.push_back({RuleId::TriggerSentencesMissing, field, arguments, language});
     }
 }
 
 bool speaksOfLanguages(RuleId rule) {
     return rule >= RuleId::NameMissingDefault;
+}
+
+QString pathOf(const Finding &finding) {
+    return speaksOfLanguages(finding.rule) ? selected(finding.field, finding.language.isoCode())
+                                           : finding.field;
 }
 
 RobotLanguages languagesOf(const Findings &findings, RuleId rule) {

@@ -16,12 +16,12 @@ class PackageInfoModel;
 
 namespace PackageModel {
 
-/// What a check found in one field. Where the rule speaks of languages, findings that differ only
-/// in their language make one message.
+/// What a check found in one field. Findings of a rule about languages that differ only in their
+/// language make one message; they share their texts.
 struct Finding {
     RuleId rule;
-    QString path;
-    QStringList arguments; // of the message, but for the language
+    QString field; // for a rule about languages, the field that holds one entry per language
+    QStringList arguments; // of the message, except for the language
     RobotLanguage language;
 };
 using Findings = std::vector<Finding>;
@@ -38,6 +38,9 @@ void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoMo
 
 /// Whether the last placeholder of the rule's message is for languages.
 bool speaksOfLanguages(RuleId rule);
+
+/// The path of the field at fault, for example "names[fr_FR]".
+QString pathOf(const Finding &finding);
 
 /// The languages of the findings of one rule.
 RobotLanguages languagesOf(const Findings &findings, RuleId rule);

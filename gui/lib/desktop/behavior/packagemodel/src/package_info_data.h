@@ -27,6 +27,10 @@ struct PackageInfoModel::Data {
 
     const Tano::PackageInfo &record() const { return m_record; }
     Tano::PackageInfo &edit() { return m_record; }
+    template<typename Change>
+    void editAnnounced(Change change) {
+        change(m_record);
+    }
     /// Notes that the record was replaced, so that its lists mirror nothing here any more.
     void setOutOfStep();
 
@@ -35,10 +39,10 @@ struct PackageInfoModel::Data {
     static const LocalizedTextField descriptionField;
 
     SoftwareVersion version;
-    RobotLanguages supportedLanguages;
-    Language::LocalizedStrings names;
-    RobotLanguages descriptionLanguages;
-    Language::LocalizedStrings descriptions;
+    ByLanguage<RobotLanguage> supportedLanguages;
+    CachedTexts names;
+    ByLanguage<RobotLanguage> descriptionLanguages;
+    CachedTexts descriptions;
     RequirementList<RobotRequirement> robotRequirements;
     RequirementList<BrioRequirement> brioRequirements;
     ChildList<BehaviorInfoModel> behaviors;

@@ -142,7 +142,7 @@ const RobotLanguages &PackageInfoModel::supportedLanguages() const {
 }
 
 bool PackageInfoModel::hasLanguageSupport(const RobotLanguage &language) const {
-    return contains(m_data->supportedLanguages, language);
+    return m_data->supportedLanguages.contains(language);
 }
 
 void PackageInfoModel::addSupportedLanguage(const RobotLanguage &language) {
@@ -150,7 +150,7 @@ void PackageInfoModel::addSupportedLanguage(const RobotLanguage &language) {
         return;
     const RobotLanguage added = copyOf(language);
     m_data->edit().addSupportedLanguage(codeOf(added));
-    m_data->supportedLanguages.push_back(added);
+    m_data->supportedLanguages.append(added);
     const QPointer<PackageInfoModel> living(this);
     Q_EMIT languageAdded(added);
     if (living)
@@ -170,7 +170,7 @@ void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
     if (!living || !hasLanguageSupport(removed))
         return; // a receiver has removed it, which was announced
     m_data->edit().removeSupportedLanguage(codeOf(removed)); // a receiver may have toggled it
-    Language::removeLanguage(m_data->supportedLanguages, removed);
+    m_data->supportedLanguages.remove(removed);
     Q_EMIT languageRemoved(removed);
 }
 
@@ -179,7 +179,7 @@ const RobotLanguages &PackageInfoModel::descriptionLanguages() const {
 }
 
 bool PackageInfoModel::hasLanguageDescription(const RobotLanguage &language) const {
-    return contains(m_data->descriptionLanguages, language);
+    return m_data->descriptionLanguages.contains(language);
 }
 
 void PackageInfoModel::addDescriptionLanguage(const RobotLanguage &language) {
@@ -187,7 +187,7 @@ void PackageInfoModel::addDescriptionLanguage(const RobotLanguage &language) {
         return;
     const RobotLanguage added = copyOf(language);
     m_data->edit().addDescriptionLanguage(codeOf(added));
-    m_data->descriptionLanguages.push_back(added);
+    m_data->descriptionLanguages.append(added);
     Q_EMIT descriptionAdded(added);
 }
 
@@ -196,7 +196,7 @@ void PackageInfoModel::removeDescriptionLanguage(const RobotLanguage &language) 
         return;
     const RobotLanguage removed = copyOf(language);
     m_data->edit().removeDescriptionLanguage(codeOf(removed));
-    Language::removeLanguage(m_data->descriptionLanguages, removed);
+    m_data->descriptionLanguages.remove(removed);
     Q_EMIT descriptionRemoved(removed);
 }
 

@@ -75,8 +75,9 @@ bool PackageInfoModel::initFromPackage(const Tano::PackageInfo &loaded, const Wh
     for (const Tano::BrioRequirement &record : loaded.brioRequirements())
         m_data->brioRequirements.items.append(fromTanoBrioRequirement(record));
 
+    RobotLanguages mentioned; // in use, and thereby known, before the caches hold them
     for (const std::string &code : loaded.languageCodes())
-        static_cast<void>(languageFromCode(code)); // registers those that are unknown
+        mentioned.push_back(languageFromCode(code));
 
     for (const Tano::DialogInfo &dialog : loaded.dialogs()) {
         addDialog(dialog);

@@ -9,8 +9,12 @@
 #include <tano/log.h>
 #include <tano/package_helper.h>
 
+#include <QHash>
+
 #include <array>
 #include <exception>
+#include <optional>
+#include <set>
 
 namespace Zel {
 namespace {
@@ -33,6 +37,7 @@ constexpr std::array textKinds{
 // The same for lists of them.
 struct ListKind {
     const char *field;
+    const Language::LocalizedStringLists &(BehaviorInfoModel::*lists)() const;
     QStringList (BehaviorInfoModel::*texts)(const RobotLanguage &language) const;
     bool (BehaviorInfoModel::*add)(const QString &text, const RobotLanguage &language);
     bool (BehaviorInfoModel::*update)(int index, const QString &text,
@@ -40,15 +45,86 @@ struct ListKind {
 };
 
 constexpr std::array listKinds{
-    ListKind{"triggerSentences", &BehaviorInfoModel::triggerSentences,
-             &BehaviorInfoModel::addTriggerSentence, &BehaviorInfoModel::updateTriggerSentence},
-    ListKind{"loadingResponses", &BehaviorInfoModel::loadingResponses,
-             &BehaviorInfoModel::addLoadingResponse, &BehaviorInfoModel::updateLoadingResponse},
+    ListKind{"triggerSentences", &BehaviorInfoModel::languagesToTriggerSentences,
+             &BehaviorInfoModel::triggerSentences, &BehaviorInfoModel::addTriggerSentence,
+             &BehaviorInfoModel::updateTriggerSentence},
+    ListKind{"loadingResponses", &BehaviorInfoModel::languagesToLoadingResponses,
+             &BehaviorInfoModel::loadingResponses, &BehaviorInfoModel::addLoadingResponse,
+             &BehaviorInfoModel::updateLoadingResponse},
 };
 
 bool isXScrpolLanguage(const RobotLanguage &language) {
     return language.isoCode().endsWith(PackageModel::k_sa.text());
 }
+
+// The supported languages whose texts are scripts, and the place of each among them.
+class LanguageOrder {
+public:
+    explicit LanguageOrder(const RobotLanguages &languages)
+        : m_languages(languages) {
+        for (int place = 0; place < int(languages.size()); ++place) {
+            const RobotLanguage &language = languages[std::size_t(place)];
+            if (!isXScrpolLanguage(language))
+                m_places.insert(language.isoCode(), place);
+        }
+    }
+
+    [[nodiscard]] const RobotLanguage &at(int place) const {
+        return m_languages[std::size_t(place)];
+    }
+    /// -1 for a language that is not among them.
+    [[nodiscard]] int placeOf(const RobotLanguage &language) const {
+        return m_places.value(language.isoCode(), -1);
+    }
+
+private:
+    RobotLanguages m_languages;
+    QHash<QString, int> m_places;
+};
+
+// Goes through the supported languages in which a behavior has lists, in their order, as if it
+// looked into all of them in turn: also into lists that receivers of notifications add meanwhile.
+class SpokenLanguages {
+public:
+    explicit SpokenLanguages(const LanguageOrder &order)
+        : m_order(order) {}
+
+    // The next language; null when there is none, and once the behavior is gone.
+    const RobotLanguage *next(const BehaviorInfoModel *behavior) {
+        if (!behavior)
+            return nullptr;
+        for (std::size_t i = 0; i < listKinds.size(); ++i)
+            note((behavior->*listKinds[i].lists)(), m_seen[i]);
+        if (m_ahead.empty())
+            return nullptr;
+        m_place = *m_ahead.begin();
+        m_ahead.erase(m_ahead.begin());
+        return &m_order.at(m_place);
+    }
+
+private:
+    struct Seen {
+        std::size_t count = 0;
+        RobotLanguage last;
+    };
+
+    // New entries come last, unless a receiver has removed some.
+    void note(const Language::LocalizedStringLists &lists, Seen &seen) {
+        if (seen.count > lists.size() ||
+            (seen.count > 0 && lists[seen.count - 1].second != seen.last))
+            seen.count = 0;
+        for (; seen.count < lists.size(); ++seen.count) {
+            seen.last = lists[seen.count].second;
+            if (const int place = m_order.placeOf(seen.last); place > m_place)
+                m_ahead.insert(place);
+        }
+    }
+
+    const LanguageOrder &m_order;
+    int m_place = -1;
+    std::set<int> m_ahead;
+    std::array<Seen, listKinds.size()> m_seen;
+};
 
 RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
     return {ISOCode(lang.isoCode() + PackageModel::k_sa.text()),
@@ -162,8 +238,11 @@ void PackageInfoModel::trimExtraInfo() {
     m_data->edit().trimExtraInfo();
     keepOnly(m_data->descriptionLanguages, m_data->names);
     keepOnly(m_data->descriptionLanguages, m_data->descriptions);
+    const std::set<std::string> described = codesOf(m_data->descriptionLanguages);
+    const std::set<std::string> supported = codesOf(m_data->supportedLanguages);
     for (BehaviorInfoModel *behavior : m_data->behaviors.children())
-        behavior->trimExtraInfo(m_data->descriptionLanguages, m_data->supportedLanguages);
+        ChildAccess::data(*behavior).trim(m_data->descriptionLanguages, m_data->supportedLanguages,
+                                          described, supported);
     // No notification asks for this. All of them may have changed, so that making the record's list
     // anew is the shorter way.
     m_data->behaviors.setOutOfStep();
@@ -175,12 +254,18 @@ void PackageInfoModel::trimExtraInfo() {
 void PackageInfoModel::genPlainTextFromScript() {
     const QPointer<PackageInfoModel> living(this);
     genPlainTextValues(living);
+    std::optional<LanguageOrder> order;
+    std::uint64_t revision = 0;
     for (const auto &behavior : living ? guarded(behaviors()) : guarded<BehaviorInfoModel>({})) {
         genPlainTextValues(behavior);
-        for (const RobotLanguage &language : living ? supportedLanguages() : RobotLanguages()) {
-            if (!isXScrpolLanguage(language))
-                genPlainTextLists(behavior, language);
-        }
+        if (!living)
+            return;
+        if (!order || revision != m_data->supportedLanguages.revision())
+            order.emplace(m_data->supportedLanguages);
+        revision = m_data->supportedLanguages.revision();
+        SpokenLanguages languages(*order);
+        while (const RobotLanguage *language = languages.next(behavior))
+            genPlainTextLists(behavior, *language);
     }
 }
 
@@ -189,14 +274,14 @@ QVector<PackageModel::ScriptError> PackageModel::scriptErrors(const PackageInfoM
     if (!package)
         return {};
     errors.checkTexts(*package, {});
+    const LanguageOrder order(package->supportedLanguages());
     const auto behaviors = package->behaviors();
     for (const BehaviorInfoModel *behavior : behaviors) {
         const QString parent = selected(QStringLiteral("behaviors"), behavior->path()) % u'.';
         errors.checkTexts(*behavior, parent);
-        for (const RobotLanguage &language : package->supportedLanguages()) {
-            if (!isXScrpolLanguage(language))
-                errors.checkLists(*behavior, parent, language);
-        }
+        SpokenLanguages languages(order);
+        while (const RobotLanguage *language = languages.next(behavior))
+            errors.checkLists(*behavior, parent, *language);
     }
     return errors.all();
 }

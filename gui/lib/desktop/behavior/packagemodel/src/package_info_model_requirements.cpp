@@ -15,6 +15,8 @@ template<>
 struct RequirementKind<RobotRequirement> {
     static constexpr auto clear = &Tano::PackageInfo::clearRobotRequirements;
     static constexpr auto append = &Tano::PackageInfo::addRobotRequirement;
+    static constexpr auto replaceAt = &Tano::PackageInfo::replaceRobotRequirement;
+    static constexpr auto removeAt = &Tano::PackageInfo::removeRobotRequirement;
     static constexpr auto toRecord = &toTanoRobotRequirement;
     static constexpr auto added = &PackageInfoModel::robotRequirementAdded;
     static constexpr auto updated = &PackageInfoModel::robotRequirementUpdated;
@@ -25,6 +27,8 @@ template<>
 struct RequirementKind<BrioRequirement> {
     static constexpr auto clear = &Tano::PackageInfo::clearBrioRequirements;
     static constexpr auto append = &Tano::PackageInfo::addBrioRequirement;
+    static constexpr auto replaceAt = &Tano::PackageInfo::replaceBrioRequirement;
+    static constexpr auto removeAt = &Tano::PackageInfo::removeBrioRequirement;
     static constexpr auto toRecord = &toTanoBrioRequirement;
     static constexpr auto added = &PackageInfoModel::brioRequirementAdded;
     static constexpr auto updated = &PackageInfoModel::brioRequirementUpdated;
@@ -58,10 +62,12 @@ bool update(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<
             int index, const Requirement &newRequirement) {
     if (index < 0 || index >= list.items.size())
         return false;
+    using Kind = RequirementKind<Requirement>;
     const Requirement requirement = copyOf(newRequirement);
     list.items[index] = requirement;
-    resync(list, record);
-    Q_EMIT(model->*RequirementKind<Requirement>::updated)(index, requirement);
+    if (!list.isMirrored || !(record.*Kind::replaceAt)(index, Kind::toRecord(requirement)))
+        resync(list, record);
+    Q_EMIT(model->*Kind::updated)(index, requirement);
     return true;
 }
 
@@ -70,9 +76,11 @@ bool remove(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<
             int index) {
     if (index < 0 || index >= list.items.size())
         return false;
+    using Kind = RequirementKind<Requirement>;
     list.items.removeAt(index);
-    resync(list, record);
-    Q_EMIT(model->*RequirementKind<Requirement>::removed)(index);
+    if (!list.isMirrored || !(record.*Kind::removeAt)(index))
+        resync(list, record);
+    Q_EMIT(model->*Kind::removed)(index);
     return true;
 }
 

@@ -4,8 +4,12 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace Zel {
 namespace PackageModel {
@@ -62,8 +66,57 @@ bool validateAlone(Check check, const PackageInfoModel *package, QStringList &er
 
 Issue issueOf(const Finding &finding) {
     const RuleRow &row = ruleRow(finding.rule);
-    return {QLatin1String(row.id), row.severity, finding.path,
+    return {QLatin1String(row.id), row.severity, pathOf(finding),
             message(finding, {finding.language})};
+}
+
+// Passes findings on as issues until the visitor has had enough.
+class FindingVisit {
+public:
+    explicit FindingVisit(const std::function<IssueVisit(const Issue &issue)> &visit)
+        : m_visit(visit) {}
+
+    // Returns false when the visitor stops.
+    bool visit(const Findings &findings) {
+        for (const Finding &finding : findings) {
+            if (skips(finding.rule) || !isNamed(finding))
+                continue;
+            const IssueVisit next = m_visit(issueOf(finding));
+            if (next == IssueVisit::Stop)
+                return false;
+            if (next == IssueVisit::SkipRule)
+                m_skipped.insert(finding.rule);
+        }
+        return true;
+    }
+
+    [[nodiscard]] bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
+
+private:
+    // A message without a language would say nothing.
+    static bool isNamed(const Finding &finding) {
+        return finding.rule != RuleId::TriggerSentencesMissing ||
+               !finding.language.uiName().isEmpty();
+    }
+
+    const std::function<IssueVisit(const Issue &issue)> &m_visit;
+    std::set<RuleId> m_skipped;
+};
+
+// By ascending path; behaviors with the same path keep their order.
+std::vector<const BehaviorInfoModel *>
+inOrderOfMessages(const QVector<BehaviorInfoModel *> &behaviors) {
+    std::vector<std::pair<QString, const BehaviorInfoModel *>> byPath;
+    byPath.reserve(std::size_t(behaviors.size()));
+    for (const BehaviorInfoModel *behavior : behaviors)
+        byPath.emplace_back(behavior->path(), behavior);
+    std::stable_sort(byPath.begin(), byPath.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    std::vector<const BehaviorInfoModel *> ordered;
+    ordered.reserve(byPath.size());
+    for (const auto &[path, behavior] : byPath)
+        ordered.push_back(behavior);
+    return ordered;
 }
 
 // A text in a language, else in the default language, else none.
@@ -193,24 +246,27 @@ bool validateTriggerSentences(const PackageInfoModel *package, const BehaviorInf
 
 QVector<Issue> issues(const PackageInfoModel *package) {
     QVector<Issue> issues;
-    if (!package)
-        return issues;
-    for (const Check check : applicationChecks) {
-        for (const Finding &finding : run(check, package))
-            issues.append(issueOf(finding));
-    }
-
-    QMap<QString, QVector<Issue>> behaviorIssues; // in the order of the messages
-    const auto behaviors = package->behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors) {
-        for (const Finding &finding : triggerSentenceFindings(package, behavior)) {
-            if (!finding.language.uiName().isEmpty())
-                behaviorIssues[behavior->path()].append(issueOf(finding));
-        }
-    }
-    for (const QVector<Issue> &found : std::as_const(behaviorIssues))
-        issues += found;
+    visitIssues(package, [&](const Issue &issue) {
+        issues.append(issue);
+        return IssueVisit::Continue;
+    });
     return issues;
+}
+
+void visitIssues(const PackageInfoModel *package,
+                 const std::function<IssueVisit(const Issue &issue)> &visit) {
+    if (!package)
+        return;
+    FindingVisit findings(visit);
+    for (const Check check : applicationChecks) {
+        if (!findings.visit(run(check, package)))
+            return;
+    }
+    for (const BehaviorInfoModel *behavior : inOrderOfMessages(package->behaviors())) {
+        if (findings.skips(RuleId::TriggerSentencesMissing) ||
+            !findings.visit(triggerSentenceFindings(package, behavior)))
+            return;
+    }
 }
 
 } // namespace PackageModel

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 namespace Zel {
 
 class PackageInfoModel;
@@ -47,6 +49,18 @@ struct Issue {
 /// All that is wrong with a package: the same findings as the messages of validate(), in the same
 /// order, one for each field. An empty list for a null package.
 [[nodiscard]] PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package);
+
+/// How visitIssues() goes on after an issue.
+enum class IssueVisit {
+    Continue,
+    SkipRule, ///< without further issues of the same rule
+    Stop
+};
+
+/// Calls `visit` for each of issues(), in the same order, without collecting them: a package can
+/// have as many as behaviors times languages. `visit` must not change the package.
+PACKAGEMODEL_EXPORT void visitIssues(const PackageInfoModel *package,
+                                     const std::function<IssueVisit(const Issue &issue)> &visit);
 
 } // namespace PackageModel
 } // namespace Zel
