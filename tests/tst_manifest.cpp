@@ -400,6 +400,10 @@ private Q_SLOTS:
         QVERIFY(dialog.removeTopic("fr_FR"));
         package.replaceDialog(0, dialog);
         QCOMPARE(package, loaded(inPackage("<dialog topicName=\"d\"/>")));
+        dialog.setTopic("fr_FR", "");
+        package.replaceDialog(0, dialog);
+        QVERIFY(package.saveToManifestContent().find(
+                    "<topic language=\"fr_FR\" x=\"\"><!--c--></topic>") != std::string::npos);
     }
 
     void whatCannotBeSavedTo() {

@@ -32,17 +32,17 @@ const std::string &DialogInfo::topic(const std::string &code) const {
 }
 
 void DialogInfo::setTopic(const std::string &code, const std::string &path) {
-    RecordAccess::edit(*this).topics[code] = path;
+    DialogData &data = RecordAccess::edit(*this);
+    hideChild(data.extras, Element::Topic, code, false);
+    data.topics[code] = path;
 }
 
 bool DialogInfo::removeTopic(const std::string &code) {
     if (topics().find(code) == topics().end())
         return false;
     DialogData &data = RecordAccess::edit(*this);
-    const std::string removed = code; // which may be the key itself
-    data.topics.erase(removed);
-    dropChildren(data.extras, Element::Topic,
-                 [&](const std::string &language) { return language == removed; });
+    hideChild(data.extras, Element::Topic, code, true);
+    data.topics.erase(code);
     return true;
 }
 

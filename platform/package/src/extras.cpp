@@ -110,6 +110,22 @@ void dropChildren(ExtrasPointer &extras, Element element,
     extras = std::move(edited);
 }
 
+void hideChild(ExtrasPointer &extras, Element element, const std::string &key, bool isHidden) {
+    const int index = isHidden ? gone : 0;
+    const auto isChanged = [&](const Extras::Child &child) {
+        return child.position.element == element && child.position.keyText() == key &&
+               child.position.index != index;
+    };
+    if (!extras || std::none_of(extras->children.begin(), extras->children.end(), isChanged))
+        return;
+    auto edited = std::make_shared<Extras>(*extras);
+    for (Extras::Child &child : edited->children) {
+        if (isChanged(child))
+            child.position.index = index;
+    }
+    extras = std::move(edited);
+}
+
 ExtrasWalk::ExtrasWalk(const Extras *extras, const ListKeys &listKeys) {
     if (!extras)
         return;

@@ -30,7 +30,7 @@ struct Extras {
         std::string xml; // pieces, each followed by a NUL
     };
     struct Child {
-        Position position;
+        Position position; // with the index -1 for a hidden one
         ExtrasPointer extras;
     };
     /// One list of children of the same kind: the kind, and the key that they share.
@@ -57,6 +57,10 @@ void rememberLists(Extras &extras, const ListKeys &listKeys);
 /// Removes the content kept within the children of a kind whose keys are rejected.
 void dropChildren(ExtrasPointer &extras, Element element,
                   const std::function<bool(const std::string &key)> &isDropped);
+
+/// Hides the content kept within the child of a kind and key, which is removed, or shows it again,
+/// so that undoing the removal restores it.
+void hideChild(ExtrasPointer &extras, Element element, const std::string &key, bool isHidden);
 
 /// Calls `visit` with each of the pieces of kept content.
 template<typename Visit>

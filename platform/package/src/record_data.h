@@ -34,7 +34,7 @@ public:
         return m_known.count(text) != 0;
     }
     void remove(const std::string &text) {
-        m_known.clear();
+        m_known.erase(text);
         m_texts.erase(std::remove(m_texts.begin(), m_texts.end(), text), m_texts.end());
     }
 

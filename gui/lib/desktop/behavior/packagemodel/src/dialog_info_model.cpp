@@ -77,7 +77,7 @@ void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) 
         return;
     const RobotLanguage language = copyOf(lang);
     const QString path = copyOf(topic);
-    m_data->edit().setTopic(code, bytes);
+    m_data->editAnnounced([&](Tano::DialogInfo &record) { record.setTopic(code, bytes); });
     madeValue(m_data->topics, language) = path;
     Q_EMIT topicChanged(language, path);
 }
@@ -85,8 +85,9 @@ void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) 
 bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
     const RobotLanguage language = copyOf(lang);
     const std::string code = codeOf(language);
-    if (m_data->record().topics().count(code) == 0 || !m_data->edit().removeTopic(code))
+    if (m_data->record().topics().count(code) == 0)
         return false;
+    m_data->editAnnounced([&](Tano::DialogInfo &record) { record.removeTopic(code); });
     const QPointer<DialogInfoModel> self(this);
     Q_EMIT topicRemoved(language);
     if (!self)

@@ -6,7 +6,6 @@
 #include "whole_change.h"
 
 #include <memory>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -161,21 +160,20 @@ void Assignment::copyChildren() {
 
 // Makes a cache agree with the record; of the texts that the record lacks, only `kept` stay. An
 // empty text is as good as none.
-void reconcile(Language::LocalizedStrings &cache, const Tano::TextMap &record,
-               const Language::LocalizedStrings &kept = {}) {
-    Language::LocalizedStrings texts;
-    std::set<std::string> cached;
-    for (auto &entry : cache) {
-        const auto found = record.find(codeOf(entry.second));
-        if (found != record.end())
-            entry.first = fromUtf8(found->second);
-        if (found != record.end() || std::find(kept.begin(), kept.end(), entry) != kept.end())
-            texts.push_back(entry);
-        cached.insert(codeOf(entry.second));
+void reconcile(CachedTexts &cache, const Tano::TextMap &record, const CachedTexts &kept = {}) {
+    CachedTexts texts;
+    for (const auto &[text, language] : cache.entries()) {
+        const auto recorded = record.find(codeOf(language));
+        const auto *old = kept.find(language);
+        if (recorded != record.end())
+            texts.append({fromUtf8(recorded->second), language});
+        else if (old && old->first == text)
+            texts.append({text, language});
     }
     for (const auto &[code, text] : record) {
-        if (!text.empty() && cached.count(code) == 0)
-            texts.emplace_back(fromUtf8(text), languageFromCode(code));
+        const RobotLanguage language = languageFromCode(code);
+        if (!text.empty() && !cache.contains(language))
+            texts.append({fromUtf8(text), language});
     }
     cache = std::move(texts);
 }
@@ -183,7 +181,7 @@ void reconcile(Language::LocalizedStrings &cache, const Tano::TextMap &record,
 } // namespace
 
 void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &change) {
-    const Language::LocalizedStrings oldDescriptions = m_data->descriptions;
+    const CachedTexts oldDescriptions = m_data->descriptions;
     Assignment assignment(other, *this, change);
     const Snapshot &source = assignment.source();
     assignment.copyFields();
