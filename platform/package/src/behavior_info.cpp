@@ -144,6 +144,10 @@ void BehaviorInfo::setName(const std::string &name, const std::string &code) {
     RecordAccess::edit(*this).names[code] = name;
 }
 
+bool BehaviorInfo::removeName(const std::string &code) {
+    return names().count(code) != 0 && RecordAccess::edit(*this).names.erase(code) != 0;
+}
+
 const TextMap &BehaviorInfo::descriptions() const {
     return RecordAccess::data(*this).descriptions;
 }
@@ -156,6 +160,11 @@ void BehaviorInfo::setDescription(const std::string &description, const std::str
     RecordAccess::edit(*this).descriptions[code] = description;
 }
 
+bool BehaviorInfo::removeDescription(const std::string &code) {
+    return descriptions().count(code) != 0 &&
+           RecordAccess::edit(*this).descriptions.erase(code) != 0;
+}
+
 const std::vector<std::string> &BehaviorInfo::permissions() const {
     return RecordAccess::data(*this).permissions;
 }
@@ -166,9 +175,14 @@ bool BehaviorInfo::hasPermission(const std::string &permission) const {
 }
 
 bool BehaviorInfo::addPermission(const std::string &permission) {
+    return insertPermission(permission, int(permissions().size()));
+}
+
+bool BehaviorInfo::insertPermission(const std::string &permission, int index) {
     if (hasPermission(permission))
         return false;
-    RecordAccess::edit(*this).permissions.push_back(permission);
+    auto &all = RecordAccess::edit(*this).permissions;
+    all.insert(all.begin() + std::clamp(index, 0, int(all.size())), permission);
     return true;
 }
 

@@ -43,6 +43,33 @@ bool removeEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int
     return true;
 }
 
+template<typename Entry>
+void insertEntry(PackageInfo &record, std::vector<Entry> PackageData::*list, int index,
+                 const Entry &entry) {
+    auto &entries = RecordAccess::edit(record).*list;
+    entries.insert(entries.begin() + std::clamp(index, 0, int(entries.size())), entry);
+}
+
+template<typename List>
+bool moveEntry(PackageInfo &record, List PackageData::*list, int from, int to) {
+    const int size = int((RecordAccess::data(record).*list).size());
+    if (from < 0 || to < 0 || from >= size || to >= size)
+        return false;
+    moveWithin(RecordAccess::edit(record).*list, from, to);
+    return true;
+}
+
+void insertOnce(PackageInfo &record, UniqueTexts PackageData::*list, int index,
+                const std::string &value) {
+    if (!(RecordAccess::data(record).*list).contains(value))
+        (RecordAccess::edit(record).*list).insert(index, value);
+}
+
+bool removeText(PackageInfo &record, TextMap PackageData::*texts, const std::string &code) {
+    return (RecordAccess::data(record).*texts).count(code) != 0 &&
+           (RecordAccess::edit(record).*texts).erase(code) != 0;
+}
+
 // Both are in ascending order, and most maps hold all of the keys: the next one is mostly the one
 // that is wanted.
 template<typename Map>
@@ -167,6 +194,10 @@ void PackageInfo::setName(const std::string &name, const std::string &code) {
     RecordAccess::edit(*this).names[code] = name;
 }
 
+bool PackageInfo::removeName(const std::string &code) {
+    return removeText(*this, &PackageData::names, code);
+}
+
 void PackageInfo::clearNames() {
     RecordAccess::edit(*this).names.clear();
 }
@@ -183,6 +214,10 @@ void PackageInfo::setDescription(const std::string &description, const std::stri
     RecordAccess::edit(*this).descriptions[code] = description;
 }
 
+bool PackageInfo::removeDescription(const std::string &code) {
+    return removeText(*this, &PackageData::descriptions, code);
+}
+
 const std::vector<std::string> &PackageInfo::supportedLanguages() const {
     return RecordAccess::data(*this).supportedLanguages;
 }
@@ -195,6 +230,14 @@ void PackageInfo::removeSupportedLanguage(const std::string &code) {
     removeOnce(*this, &PackageData::supportedLanguages, code);
 }
 
+void PackageInfo::insertSupportedLanguage(int index, const std::string &code) {
+    insertOnce(*this, &PackageData::supportedLanguages, index, code);
+}
+
+bool PackageInfo::moveSupportedLanguage(int from, int to) {
+    return moveEntry(*this, &PackageData::supportedLanguages, from, to);
+}
+
 const std::vector<std::string> &PackageInfo::descriptionLanguages() const {
     return RecordAccess::data(*this).descriptionLanguages;
 }
@@ -205,6 +248,14 @@ void PackageInfo::addDescriptionLanguage(const std::string &code) {
 
 void PackageInfo::removeDescriptionLanguage(const std::string &code) {
     removeOnce(*this, &PackageData::descriptionLanguages, code);
+}
+
+void PackageInfo::insertDescriptionLanguage(int index, const std::string &code) {
+    insertOnce(*this, &PackageData::descriptionLanguages, index, code);
+}
+
+bool PackageInfo::moveDescriptionLanguage(int from, int to) {
+    return moveEntry(*this, &PackageData::descriptionLanguages, from, to);
 }
 
 const std::vector<RobotRequirement> &PackageInfo::robotRequirements() const {
@@ -227,6 +278,14 @@ bool PackageInfo::removeRobotRequirement(int index) {
     return removeEntry(*this, &PackageData::robotRequirements, index);
 }
 
+void PackageInfo::insertRobotRequirement(int index, const RobotRequirement &requirement) {
+    insertEntry(*this, &PackageData::robotRequirements, index, requirement);
+}
+
+bool PackageInfo::moveRobotRequirement(int from, int to) {
+    return moveEntry(*this, &PackageData::robotRequirements, from, to);
+}
+
 const std::vector<BrioRequirement> &PackageInfo::brioRequirements() const {
     return RecordAccess::data(*this).brioRequirements;
 }
@@ -245,6 +304,14 @@ bool PackageInfo::replaceBrioRequirement(int index, const BrioRequirement &requi
 
 bool PackageInfo::removeBrioRequirement(int index) {
     return removeEntry(*this, &PackageData::brioRequirements, index);
+}
+
+void PackageInfo::insertBrioRequirement(int index, const BrioRequirement &requirement) {
+    insertEntry(*this, &PackageData::brioRequirements, index, requirement);
+}
+
+bool PackageInfo::moveBrioRequirement(int from, int to) {
+    return moveEntry(*this, &PackageData::brioRequirements, from, to);
 }
 
 const std::vector<BehaviorInfo> &PackageInfo::behaviors() const {
@@ -267,6 +334,14 @@ bool PackageInfo::removeBehavior(int index) {
     return removeEntry(*this, &PackageData::behaviors, index);
 }
 
+void PackageInfo::insertBehavior(int index, const BehaviorInfo &behavior) {
+    insertEntry(*this, &PackageData::behaviors, index, behavior);
+}
+
+bool PackageInfo::moveBehavior(int from, int to) {
+    return moveEntry(*this, &PackageData::behaviors, from, to);
+}
+
 const std::vector<DialogInfo> &PackageInfo::dialogs() const {
     return RecordAccess::data(*this).dialogs;
 }
@@ -287,6 +362,14 @@ bool PackageInfo::removeDialog(int index) {
     return removeEntry(*this, &PackageData::dialogs, index);
 }
 
+void PackageInfo::insertDialog(int index, const DialogInfo &dialog) {
+    insertEntry(*this, &PackageData::dialogs, index, dialog);
+}
+
+bool PackageInfo::moveDialog(int from, int to) {
+    return moveEntry(*this, &PackageData::dialogs, from, to);
+}
+
 const std::vector<PackageService> &PackageInfo::services() const {
     return RecordAccess::data(*this).services;
 }
@@ -305,6 +388,14 @@ bool PackageInfo::replaceService(int index, const PackageService &service) {
 
 bool PackageInfo::removeService(int index) {
     return removeEntry(*this, &PackageData::services, index);
+}
+
+void PackageInfo::insertService(int index, const PackageService &service) {
+    insertEntry(*this, &PackageData::services, index, service);
+}
+
+bool PackageInfo::moveService(int from, int to) {
+    return moveEntry(*this, &PackageData::services, from, to);
 }
 
 std::set<std::string> PackageInfo::languageCodes() const {

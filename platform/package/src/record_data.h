@@ -4,6 +4,7 @@
 
 #include "extras.h"
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <set>
@@ -13,6 +14,14 @@
 #include <vector>
 
 namespace Tano {
+
+/// Takes the element at `from` out and inserts it so that its new index is `to`.
+template<typename Element>
+void moveWithin(std::vector<Element> &list, int from, int to) {
+    const auto first = list.begin() + std::min(from, to);
+    const auto last = list.begin() + std::max(from, to) + 1;
+    std::rotate(first, from < to ? first + 1 : last - 1, last);
+}
 
 /// A list of texts, each of which occurs once, in the order of their addition.
 class UniqueTexts {
@@ -32,6 +41,15 @@ public:
         if (m_known.empty())
             m_known.insert(m_texts.begin(), m_texts.end());
         return m_known.count(text) != 0;
+    }
+    /// The same before the text at an index, which is clamped to the list.
+    void insert(int index, const std::string &text) {
+        m_texts.insert(m_texts.begin() + std::clamp(index, 0, int(m_texts.size())), text);
+        if (!m_known.empty())
+            m_known.insert(text);
+    }
+    friend void moveWithin(UniqueTexts &list, int from, int to) {
+        Tano::moveWithin(list.m_texts, from, to);
     }
     void remove(const std::string &text) {
         m_known.erase(text);

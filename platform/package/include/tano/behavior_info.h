@@ -42,16 +42,22 @@ public:
     /// The name in a language; empty when there is none.
     [[nodiscard]] const std::string &name(const std::string &code) const;
     void setName(const std::string &name, const std::string &code);
+    /// Returns false if there is no name in that language.
+    bool removeName(const std::string &code);
 
     [[nodiscard]] const TextMap &descriptions() const;
     /// The description in a language; empty when there is none.
     [[nodiscard]] const std::string &description(const std::string &code) const;
     void setDescription(const std::string &description, const std::string &code);
+    /// Returns false if there is no description in that language.
+    bool removeDescription(const std::string &code);
 
     [[nodiscard]] const std::vector<std::string> &permissions() const;
     [[nodiscard]] bool hasPermission(const std::string &permission) const;
     /// Returns false, and changes nothing, when the permission is there already.
     bool addPermission(const std::string &permission);
+    /// The same before the permission at an index, which is clamped to the list.
+    bool insertPermission(const std::string &permission, int index);
     /// Returns false when there is no such permission.
     bool removePermission(const std::string &permission);
 

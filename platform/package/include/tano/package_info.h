@@ -60,58 +60,75 @@ public:
     /// The name in a language; empty when there is none.
     [[nodiscard]] const std::string &name(const std::string &code) const;
     void setName(const std::string &name, const std::string &code);
+    /// Returns false if there is no name in that language.
+    bool removeName(const std::string &code);
     void clearNames();
 
     [[nodiscard]] const TextMap &descriptions() const;
     /// The description in a language; empty when there is none.
     [[nodiscard]] const std::string &description(const std::string &code) const;
     void setDescription(const std::string &description, const std::string &code);
+    /// Returns false if there is no description in that language.
+    bool removeDescription(const std::string &code);
 
-    /// The languages that the package runs in, in the order of their addition. Adding one that is
-    /// there, or removing one that is not, changes nothing.
+    // The lists below keep the author's order. `insert` clamps its index to the list; `replace`,
+    // `remove` and `move` return false, and change nothing, for an index outside the list. `move`
+    // takes an entry out and inserts it so that its new index is `to`.
+
+    /// The languages that the package runs in. Adding or inserting one that is there, or removing
+    /// one that is not, changes nothing.
     [[nodiscard]] const std::vector<std::string> &supportedLanguages() const;
     void addSupportedLanguage(const std::string &code);
     void removeSupportedLanguage(const std::string &code);
+    void insertSupportedLanguage(int index, const std::string &code);
+    bool moveSupportedLanguage(int from, int to);
 
-    /// The languages that the package is described in, in the order of their addition.
+    /// The languages that the package is described in.
     [[nodiscard]] const std::vector<std::string> &descriptionLanguages() const;
     void addDescriptionLanguage(const std::string &code);
     void removeDescriptionLanguage(const std::string &code);
-
-    // `replace` and `remove` return false, and change nothing, for an index outside the list.
+    void insertDescriptionLanguage(int index, const std::string &code);
+    bool moveDescriptionLanguage(int from, int to);
 
     [[nodiscard]] const std::vector<RobotRequirement> &robotRequirements() const;
     void clearRobotRequirements();
     void addRobotRequirement(const RobotRequirement &requirement);
     bool replaceRobotRequirement(int index, const RobotRequirement &requirement);
     bool removeRobotRequirement(int index);
+    void insertRobotRequirement(int index, const RobotRequirement &requirement);
+    bool moveRobotRequirement(int from, int to);
 
     [[nodiscard]] const std::vector<BrioRequirement> &brioRequirements() const;
     void clearBrioRequirements();
     void addBrioRequirement(const BrioRequirement &requirement);
     bool replaceBrioRequirement(int index, const BrioRequirement &requirement);
     bool removeBrioRequirement(int index);
-
-    // The entries of a package. `replace` and `remove` return false, and change nothing, for an
-    // index outside the list.
+    void insertBrioRequirement(int index, const BrioRequirement &requirement);
+    bool moveBrioRequirement(int from, int to);
 
     [[nodiscard]] const std::vector<BehaviorInfo> &behaviors() const;
     void clearBehaviors();
     void addBehavior(const BehaviorInfo &behavior);
     bool replaceBehavior(int index, const BehaviorInfo &behavior);
     bool removeBehavior(int index);
+    void insertBehavior(int index, const BehaviorInfo &behavior);
+    bool moveBehavior(int from, int to);
 
     [[nodiscard]] const std::vector<DialogInfo> &dialogs() const;
     void clearDialogs();
     void addDialog(const DialogInfo &dialog);
     bool replaceDialog(int index, const DialogInfo &dialog);
     bool removeDialog(int index);
+    void insertDialog(int index, const DialogInfo &dialog);
+    bool moveDialog(int from, int to);
 
     [[nodiscard]] const std::vector<PackageService> &services() const;
     void clearServices();
     void addService(const PackageService &service);
     bool replaceService(int index, const PackageService &service);
     bool removeService(int index);
+    void insertService(int index, const PackageService &service);
+    bool moveService(int from, int to);
 
     /// Every language code that the record mentions, its behaviors and dialogs included.
     [[nodiscard]] std::set<std::string> languageCodes() const;
