@@ -46,6 +46,7 @@ private Q_SLOTS:
     void lookingUp_data();
     void lookingUp();
     void lookingUpWhileChangesWait();
+    void lookingUpAfterManyInsertions();
     void outlivingThePackage();
     void receiversMayEdit();
     void removalsAreAnnouncedOnce_data();
@@ -100,6 +101,20 @@ void TestPackageChildren::lookingUpWhileChangesWait() {
     model.syncRecord();
     model.behaviors().at(3)->insertTag(text("t"), m_french, 0);
     QCOMPARE(found("x"), 1);
+}
+
+// Between two neighbors, the positions of the look-up run out after 32 insertions.
+void TestPackageChildren::lookingUpAfterManyInsertions() {
+    PackageInfoModel model;
+    model.addBehavior(behavior("last"));
+    QVERIFY(!model.behavior(text("x")));
+    for (int i = 0; i < 100; ++i) {
+        model.insertBehavior(i % 2, behavior("x"));
+        QCOMPARE(model.behaviors().indexOf(model.behavior(text("x"))), 0);
+        QCOMPARE(model.behaviors().indexOf(model.behavior(text("last"))), i + 1);
+    }
+    model.behaviors().at(50)->setNature(text("solitary"));
+    QCOMPARE(model.packageInfo().behaviors().at(50).nature(), std::string("solitary"));
 }
 
 using Receiver = std::function<void(PackageInfoModel &, BehaviorInfoModel *)>;

@@ -239,6 +239,16 @@ private:
             return type == "QString" ? value(inner) : nullptr;
         if (argument.startsWith(u'{') && type == "Tano::PackageService")
             return value(Tano::PackageService{toUtf8(inner), {}, false, {}});
+        if (argument.startsWith(u'{') && type == "Tano::BehaviorInfo") {
+            Tano::BehaviorInfo behavior;
+            behavior.setPath(toUtf8(inner));
+            return value(behavior);
+        }
+        if (argument.startsWith(u'{') && type == "Tano::DialogInfo") {
+            Tano::DialogInfo dialog;
+            dialog.setTopicName(toUtf8(inner));
+            return value(dialog);
+        }
         if (type == "BehaviorInfoModel*" && isChild(argument))
             return value(qobject_cast<BehaviorInfoModel *>(object(argument)));
         if (type == "DialogInfoModel*" && isChild(argument))

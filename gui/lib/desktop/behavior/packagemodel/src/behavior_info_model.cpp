@@ -18,11 +18,19 @@ bool isRootBehavior(const QString &path) {
 } // namespace
 
 const BehaviorInfoModel::Data::TextField BehaviorInfoModel::Data::nameField{
-    &Tano::BehaviorInfo::name, &Tano::BehaviorInfo::setName, &Data::names,
+    &Tano::BehaviorInfo::names,
+    &Tano::BehaviorInfo::name,
+    &Tano::BehaviorInfo::setName,
+    &Tano::BehaviorInfo::removeName,
+    &Data::names,
     &BehaviorInfoModel::behaviorNameUpdated};
 
 const BehaviorInfoModel::Data::TextField BehaviorInfoModel::Data::descriptionField{
-    &Tano::BehaviorInfo::description, &Tano::BehaviorInfo::setDescription, &Data::descriptions,
+    &Tano::BehaviorInfo::descriptions,
+    &Tano::BehaviorInfo::description,
+    &Tano::BehaviorInfo::setDescription,
+    &Tano::BehaviorInfo::removeDescription,
+    &Data::descriptions,
     &BehaviorInfoModel::behaviorDescriptionUpdated};
 
 BehaviorInfoModel::Data::Data(BehaviorInfoModel *behavior, const Tano::BehaviorInfo &info,
@@ -139,6 +147,17 @@ QSet<QString> BehaviorInfoModel::permissions() const {
     return permissions;
 }
 
+QStringList BehaviorInfoModel::permissionList() const {
+    return listFromRecord(m_data->record().permissions());
+}
+
+QStringList BehaviorInfoModel::purposes() const {
+    QStringList purposes;
+    for (const auto &entry : m_data->record().purposesToConditions())
+        purposes.append(fromUtf8(entry.first));
+    return purposes;
+}
+
 bool BehaviorInfoModel::hasPermission(const QString &permType) const {
     return m_data->record().hasPermission(toUtf8(permType));
 }
@@ -171,6 +190,14 @@ void BehaviorInfoModel::setDescription(const QString &desc, const RobotLanguage 
     setText(this, *m_data, Data::descriptionField, desc, lang);
 }
 
+bool BehaviorInfoModel::removeName(const RobotLanguage &lang) {
+    return removeText(this, *m_data, Data::nameField, lang);
+}
+
+bool BehaviorInfoModel::removeDescription(const RobotLanguage &lang) {
+    return removeText(this, *m_data, Data::descriptionField, lang);
+}
+
 void BehaviorInfoModel::setUserRequestable(bool userRequestable) {
     if (isUserRequestable() == userRequestable)
         return;
@@ -179,9 +206,14 @@ void BehaviorInfoModel::setUserRequestable(bool userRequestable) {
 }
 
 bool BehaviorInfoModel::addPermission(const QString &permType) {
+    return insertPermission(permType, static_cast<int>(m_data->record().permissions().size()));
+}
+
+bool BehaviorInfoModel::insertPermission(const QString &permType, int idx) {
     const QString permission = copyOf(permType);
-    if (hasPermission(permission) || !m_data->edit().addPermission(toUtf8(permission)))
+    if (hasPermission(permission))
         return false;
+    m_data->edit().insertPermission(toUtf8(permission), idx);
     Q_EMIT permissionAdded(permission);
     return true;
 }

@@ -94,6 +94,16 @@ public:
         m_index.reset();
     }
 
+    /// Takes the entry at `from` out and inserts it so that its new index is `to`.
+    void move(int from, int to) {
+        static_cast<void>(entries());
+        ++m_revision;
+        m_index.reset();
+        const auto first = m_entries.begin() + std::min(from, to);
+        const auto last = m_entries.begin() + std::max(from, to) + 1;
+        std::rotate(first, from < to ? first + 1 : last - 1, last);
+    }
+
     /// Removes the entries for which `isForeign(language)` is true.
     template<typename Predicate>
     void removeIf(Predicate isForeign) {

@@ -30,9 +30,11 @@ struct ChildKind<BehaviorInfoModel> {
     static constexpr auto append = &Tano::PackageInfo::addBehavior;
     static constexpr auto replace = &Tano::PackageInfo::replaceBehavior;
     static constexpr auto remove = &Tano::PackageInfo::removeBehavior;
+    static constexpr auto move = &Tano::PackageInfo::moveBehavior;
     static constexpr auto key = &Tano::BehaviorInfo::path;
     static constexpr auto added = &PackageInfoModel::behaviorAdded;
     static constexpr auto removed = &PackageInfoModel::behaviorRemoved;
+    static constexpr auto moved = &PackageInfoModel::behaviorMoved;
     // The insertions are left out on purpose: they wait for the next change.
     static constexpr auto changes = std::make_tuple(
         &BehaviorInfoModel::behaviorDescriptionUpdated, &BehaviorInfoModel::behaviorNameUpdated,
@@ -56,9 +58,11 @@ struct ChildKind<DialogInfoModel> {
     static constexpr auto append = &Tano::PackageInfo::addDialog;
     static constexpr auto replace = &Tano::PackageInfo::replaceDialog;
     static constexpr auto remove = &Tano::PackageInfo::removeDialog;
+    static constexpr auto move = &Tano::PackageInfo::moveDialog;
     static constexpr auto key = &Tano::DialogInfo::topicName;
     static constexpr auto added = &PackageInfoModel::dialogAdded;
     static constexpr auto removed = &PackageInfoModel::dialogRemoved;
+    static constexpr auto moved = &PackageInfoModel::dialogMoved;
     static constexpr auto changes =
         std::make_tuple(&DialogInfoModel::nameChanged, &DialogInfoModel::topicChanged,
                         &DialogInfoModel::topicRemoved, &DialogInfoModel::typeVersionChanged);
@@ -72,12 +76,14 @@ struct ChildKind<ServiceInfoModel> {
     static constexpr auto append = &Tano::PackageInfo::addService;
     static constexpr auto replace = &Tano::PackageInfo::replaceService;
     static constexpr auto remove = &Tano::PackageInfo::removeService;
+    static constexpr auto move = &Tano::PackageInfo::moveService;
     static constexpr auto key = &Tano::PackageService::name;
     static constexpr auto added = &PackageInfoModel::serviceAdded;
     static constexpr auto removed = &PackageInfoModel::serviceRemoved;
-    static constexpr auto changes =
-        std::make_tuple(&ServiceInfoModel::nameChanged, &ServiceInfoModel::execStartChanged,
-                        &ServiceInfoModel::autoRunChanged);
+    static constexpr auto moved = &PackageInfoModel::serviceMoved;
+    static constexpr auto changes = std::make_tuple(
+        &ServiceInfoModel::nameChanged, &ServiceInfoModel::execStartChanged,
+        &ServiceInfoModel::autoRunChanged, &ServiceInfoModel::servicePropertyChanged);
 };
 
 /// For going through children while receivers of notifications may delete some.
@@ -213,6 +219,21 @@ public:
                 (QObject::connect(child, changes, m_package, m_resyncSlot), ...);
             },
             Kind::changes);
+    }
+
+    /// Takes a child out and inserts it so that its new index is `to`, in the record too.
+    void move(int from, int to) {
+        Child *child = m_children.at(from);
+        auto &data = ChildAccess::data(*child);
+        m_children.move(from, to);
+        dropFromIndex(data);
+        setLabelAt(to);
+        if (m_isIndexed)
+            addToIndex(child);
+        if (from >= m_mirrored || to >= m_mirrored || !(m_record.*Kind::move)(from, to)) {
+            setOutOfStep();
+            resync();
+        }
     }
 
     /// Marks the child as about to be announced as removed; returns false if it has been announced
@@ -365,6 +386,28 @@ private:
     static std::uint64_t labelOf(const Child &child) { return ChildAccess::data(child).m_label; }
     static bool isRecordOf(const Record &record, const Child *child) {
         return record == ChildAccess::data(*child).record();
+    }
+
+    // Labels the child at an index by its neighbors; all anew where there is no gap between them.
+    void setLabelAt(int index) {
+        const std::uint64_t before = index == 0 ? 0 : labelOf(*m_children.at(index - 1));
+        const bool isLast = index + 1 == m_children.size();
+        const std::uint64_t after =
+            isLast ? before + 2 * labelGap : labelOf(*m_children.at(index + 1));
+        ChildAccess::data(*m_children.at(index)).m_label = before + (after - before) / 2;
+        if (after - before < 2)
+            relabel();
+    }
+
+    void relabel() {
+        m_isIndexed = false;
+        m_index.clear();
+        std::uint64_t label = 0;
+        for (Child *child : std::as_const(m_children)) {
+            auto &data = ChildAccess::data(*child);
+            data.m_label = label += labelGap;
+            data.m_indexEntry.reset();
+        }
     }
 
     // The index of a child of this list.

@@ -58,8 +58,10 @@ void keepOnly(const ByLanguage<RobotLanguage> &languages, Values &values) {
 /// notification that its setter sends.
 template<typename Model, typename Data, typename Record>
 struct LocalizedField {
+    const Tano::TextMap &(Record::*texts)() const;
     const std::string &(Record::*text)(const std::string &code) const;
     void (Record::*setText)(const std::string &text, const std::string &code);
+    bool (Record::*removeText)(const std::string &code);
     CachedTexts Data::*cache;
     void (Model::*updated)(const QString &text, const RobotLanguage &language);
 };
@@ -77,6 +79,20 @@ void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record>
     data.editAnnounced([&](Record &record) { (record.*field.setText)(bytes, code); });
     madeValue(data.*field.cache, language) = text;
     Q_EMIT(model->*field.updated)(text, language);
+}
+
+/// Removes a text, announced as an update to the empty one; returns false if there is none.
+template<typename Model, typename Data, typename Record>
+bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Record> &field,
+                const RobotLanguage &inLanguage) {
+    const RobotLanguage language = copyOf(inLanguage);
+    const std::string code = codeOf(language);
+    if ((data.record().*field.texts)().count(code) == 0)
+        return false;
+    data.editAnnounced([&](Record &record) { (record.*field.removeText)(code); });
+    (data.*field.cache).remove(language);
+    Q_EMIT(model->*field.updated)(QString(), language);
+    return true;
 }
 
 } // namespace Zel

@@ -38,6 +38,15 @@ struct PackageInfoModel::Data {
     static const LocalizedTextField nameField;
     static const LocalizedTextField descriptionField;
 
+    /// One of the two lists of languages.
+    struct LanguageList {
+        ByLanguage<RobotLanguage> Data::*cache;
+        bool (Tano::PackageInfo::*move)(int from, int to);
+        void (PackageInfoModel::*moved)(const RobotLanguage &language, int from, int to);
+    };
+    static const LanguageList supportedList;
+    static const LanguageList descriptionList;
+
     SoftwareVersion version;
     ByLanguage<RobotLanguage> supportedLanguages;
     CachedTexts names;

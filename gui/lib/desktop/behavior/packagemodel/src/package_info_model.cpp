@@ -4,6 +4,8 @@
 #include "localized_texts.h"
 #include "package_info_data.h"
 
+#include <algorithm>
+
 namespace Zel {
 namespace {
 
@@ -47,14 +49,54 @@ void setText(PackageInfoModel *model, Tano::PackageInfo &record, const TextField
     Q_EMIT(model->*field.updated)(text);
 }
 
+int indexOf(const RobotLanguages &languages, const RobotLanguage &language) {
+    return static_cast<int>(std::find(languages.begin(), languages.end(), language) -
+                            languages.begin());
+}
+
+int clampedTo(const RobotLanguages &languages, int index) {
+    return std::clamp(index, 0, std::max(static_cast<int>(languages.size()) - 1, 0));
+}
+
+template<typename Data, typename List>
+bool moveLanguage(PackageInfoModel *model, Data &data, const List &list, int from, int to) {
+    const RobotLanguages &languages = data.*list.cache;
+    const int size = static_cast<int>(languages.size());
+    if (from < 0 || from >= size || to < 0 || to >= size)
+        return false;
+    if (from == to)
+        return true;
+    (data.edit().*list.move)(from, to);
+    (data.*list.cache).move(from, to);
+    const RobotLanguage moved = (data.*list.cache).entries().at(std::size_t(to));
+    Q_EMIT(model->*list.moved)(moved, from, to);
+    return true;
+}
+
 } // namespace
 
+const PackageInfoModel::Data::LanguageList PackageInfoModel::Data::supportedList{
+    &Data::supportedLanguages, &Tano::PackageInfo::moveSupportedLanguage,
+    &PackageInfoModel::languageMoved};
+
+const PackageInfoModel::Data::LanguageList PackageInfoModel::Data::descriptionList{
+    &Data::descriptionLanguages, &Tano::PackageInfo::moveDescriptionLanguage,
+    &PackageInfoModel::descriptionMoved};
+
 const PackageInfoModel::Data::LocalizedTextField PackageInfoModel::Data::nameField{
-    &Tano::PackageInfo::name, &Tano::PackageInfo::setName, &Data::names,
+    &Tano::PackageInfo::names,
+    &Tano::PackageInfo::name,
+    &Tano::PackageInfo::setName,
+    &Tano::PackageInfo::removeName,
+    &Data::names,
     &PackageInfoModel::nameUpdated};
 
 const PackageInfoModel::Data::LocalizedTextField PackageInfoModel::Data::descriptionField{
-    &Tano::PackageInfo::description, &Tano::PackageInfo::setDescription, &Data::descriptions,
+    &Tano::PackageInfo::descriptions,
+    &Tano::PackageInfo::description,
+    &Tano::PackageInfo::setDescription,
+    &Tano::PackageInfo::removeDescription,
+    &Data::descriptions,
     &PackageInfoModel::descriptionUpdated};
 
 const Tano::PackageInfo &PackageInfoModel::packageInfo() const {
@@ -200,6 +242,32 @@ void PackageInfoModel::removeDescriptionLanguage(const RobotLanguage &language) 
     Q_EMIT descriptionRemoved(removed);
 }
 
+void PackageInfoModel::insertSupportedLanguage(int index, const RobotLanguage &language) {
+    const RobotLanguage inserted = copyOf(language);
+    const QPointer<PackageInfoModel> living(this);
+    addSupportedLanguage(inserted);
+    if (living)
+        moveSupportedLanguage(indexOf(supportedLanguages(), inserted),
+                              clampedTo(supportedLanguages(), index));
+}
+
+bool PackageInfoModel::moveSupportedLanguage(int from, int to) {
+    return moveLanguage(this, *m_data, Data::supportedList, from, to);
+}
+
+void PackageInfoModel::insertDescriptionLanguage(int index, const RobotLanguage &language) {
+    const RobotLanguage inserted = copyOf(language);
+    const QPointer<PackageInfoModel> living(this);
+    addDescriptionLanguage(inserted);
+    if (living)
+        moveDescriptionLanguage(indexOf(descriptionLanguages(), inserted),
+                                clampedTo(descriptionLanguages(), index));
+}
+
+bool PackageInfoModel::moveDescriptionLanguage(int from, int to) {
+    return moveLanguage(this, *m_data, Data::descriptionList, from, to);
+}
+
 QString PackageInfoModel::name(const RobotLanguage &language) const {
     return valueFor(m_data->names, language);
 }
@@ -214,6 +282,10 @@ bool PackageInfoModel::hasNameFor(const RobotLanguage &language) const {
 
 void PackageInfoModel::setName(const QString &name, const RobotLanguage &language) {
     Zel::setText(this, *m_data, Data::nameField, name, language);
+}
+
+bool PackageInfoModel::removeName(const RobotLanguage &language) {
+    return removeText(this, *m_data, Data::nameField, language);
 }
 
 void PackageInfoModel::clearNames() {
@@ -236,6 +308,10 @@ bool PackageInfoModel::hasDescriptionFor(const RobotLanguage &language) const {
 
 void PackageInfoModel::setDescription(const QString &desc, const RobotLanguage &language) {
     Zel::setText(this, *m_data, Data::descriptionField, desc, language);
+}
+
+bool PackageInfoModel::removeDescription(const RobotLanguage &language) {
+    return removeText(this, *m_data, Data::descriptionField, language);
 }
 
 } // namespace Zel

@@ -30,6 +30,28 @@ void addOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     Q_EMIT(package->*ChildKind<Child>::added)(child);
 }
 
+template<typename Child>
+bool move(PackageInfoModel *package, ChildList<Child> &list, int from, int to) {
+    const int size = static_cast<int>(list.children().size());
+    if (from < 0 || from >= size || to < 0 || to >= size)
+        return false;
+    if (from == to)
+        return true;
+    list.move(from, to);
+    Q_EMIT(package->*ChildKind<Child>::moved)(list.children().at(to), from, to);
+    return true;
+}
+
+template<typename Child>
+void insertOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child, int index) {
+    const QPointer<PackageInfoModel> living(package);
+    addOwn(package, list, child);
+    if (!living)
+        return;
+    const int size = static_cast<int>(list.children().size());
+    move(package, list, list.indexOf(child), std::clamp(index, 0, std::max(size - 1, 0)));
+}
+
 // Has the package of a child give it up: brings its record up to date and announces the removal.
 // Returns false if an observer deleted the child or one of the packages.
 template<typename Child>
@@ -194,6 +216,14 @@ bool PackageInfoModel::removeBehavior(BehaviorInfoModel *bim) {
     return remove(this, m_data->behaviors, bim);
 }
 
+void PackageInfoModel::insertBehavior(int index, const Tano::BehaviorInfo &bi) {
+    insertOwn(this, m_data->behaviors, new BehaviorInfoModel(bi, this, nullptr), index);
+}
+
+bool PackageInfoModel::moveBehavior(int from, int to) {
+    return Zel::move(this, m_data->behaviors, from, to);
+}
+
 void PackageInfoModel::clearBehaviors() {
     Zel::clear(this, m_data->behaviors);
 }
@@ -222,6 +252,14 @@ bool PackageInfoModel::removeDialog(DialogInfoModel *dim) {
     return remove(this, m_data->dialogs, dim);
 }
 
+void PackageInfoModel::insertDialog(int index, const Tano::DialogInfo &di) {
+    insertOwn(this, m_data->dialogs, new DialogInfoModel(di, this), index);
+}
+
+bool PackageInfoModel::moveDialog(int from, int to) {
+    return Zel::move(this, m_data->dialogs, from, to);
+}
+
 void PackageInfoModel::addService(const Tano::PackageService &si) {
     addOwn(this, m_data->services, new ServiceInfoModel(si, this));
 }
@@ -238,6 +276,14 @@ bool PackageInfoModel::removeService(QString serviceName) {
 
 bool PackageInfoModel::removeService(ServiceInfoModel *sim) {
     return remove(this, m_data->services, sim);
+}
+
+void PackageInfoModel::insertService(int index, const Tano::PackageService &si) {
+    insertOwn(this, m_data->services, new ServiceInfoModel(si, this), index);
+}
+
+bool PackageInfoModel::moveService(int from, int to) {
+    return Zel::move(this, m_data->services, from, to);
 }
 
 void PackageInfoModel::clearServices() {

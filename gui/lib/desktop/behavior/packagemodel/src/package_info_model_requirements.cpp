@@ -3,6 +3,10 @@
 #include "copies.h"
 #include "package_info_data.h"
 
+#include <QPointer>
+
+#include <algorithm>
+
 namespace Zel {
 namespace {
 
@@ -17,10 +21,12 @@ struct RequirementKind<RobotRequirement> {
     static constexpr auto append = &Tano::PackageInfo::addRobotRequirement;
     static constexpr auto replaceAt = &Tano::PackageInfo::replaceRobotRequirement;
     static constexpr auto removeAt = &Tano::PackageInfo::removeRobotRequirement;
+    static constexpr auto move = &Tano::PackageInfo::moveRobotRequirement;
     static constexpr auto toRecord = &toTanoRobotRequirement;
     static constexpr auto added = &PackageInfoModel::robotRequirementAdded;
     static constexpr auto updated = &PackageInfoModel::robotRequirementUpdated;
     static constexpr auto removed = &PackageInfoModel::robotRequirementRemoved;
+    static constexpr auto moved = &PackageInfoModel::robotRequirementMoved;
 };
 
 template<>
@@ -29,10 +35,12 @@ struct RequirementKind<BrioRequirement> {
     static constexpr auto append = &Tano::PackageInfo::addBrioRequirement;
     static constexpr auto replaceAt = &Tano::PackageInfo::replaceBrioRequirement;
     static constexpr auto removeAt = &Tano::PackageInfo::removeBrioRequirement;
+    static constexpr auto move = &Tano::PackageInfo::moveBrioRequirement;
     static constexpr auto toRecord = &toTanoBrioRequirement;
     static constexpr auto added = &PackageInfoModel::brioRequirementAdded;
     static constexpr auto updated = &PackageInfoModel::brioRequirementUpdated;
     static constexpr auto removed = &PackageInfoModel::brioRequirementRemoved;
+    static constexpr auto moved = &PackageInfoModel::brioRequirementMoved;
 };
 
 template<typename Requirement>
@@ -84,6 +92,22 @@ bool remove(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<
     return true;
 }
 
+template<typename Requirement>
+bool move(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Requirement> &list,
+          int from, int to) {
+    using Kind = RequirementKind<Requirement>;
+    const auto size = list.items.size();
+    if (from < 0 || from >= size || to < 0 || to >= size)
+        return false;
+    if (from == to)
+        return true;
+    list.items.move(from, to);
+    if (!list.isMirrored || !(record.*Kind::move)(from, to))
+        resync(list, record);
+    Q_EMIT(model->*Kind::moved)(from, to);
+    return true;
+}
+
 } // namespace
 
 void PackageInfoModel::resyncRobotRequirements() {
@@ -115,6 +139,19 @@ bool PackageInfoModel::removeRobotRequirement(int robotReqIdx) {
     return remove(this, m_data->edit(), m_data->robotRequirements, robotReqIdx);
 }
 
+void PackageInfoModel::insertRobotRequirement(int index, const RobotRequirement &robotReq) {
+    const QPointer<PackageInfoModel> living(this);
+    addRobotRequirement(robotReq);
+    if (!living)
+        return;
+    const int last = static_cast<int>(m_data->robotRequirements.items.size()) - 1;
+    moveRobotRequirement(last, std::clamp(index, 0, std::max(last, 0)));
+}
+
+bool PackageInfoModel::moveRobotRequirement(int from, int to) {
+    return move(this, m_data->edit(), m_data->robotRequirements, from, to);
+}
+
 QVector<BrioRequirement> PackageInfoModel::brioRequirements() const {
     return m_data->brioRequirements.items;
 }
@@ -134,6 +171,19 @@ bool PackageInfoModel::updateBrioRequirement(int brioReqIdx,
 
 bool PackageInfoModel::removeBrioRequirement(int brioReqIdx) {
     return remove(this, m_data->edit(), m_data->brioRequirements, brioReqIdx);
+}
+
+void PackageInfoModel::insertBrioRequirement(int index, const BrioRequirement &brioReq) {
+    const QPointer<PackageInfoModel> living(this);
+    addBrioRequirement(brioReq);
+    if (!living)
+        return;
+    const int last = static_cast<int>(m_data->brioRequirements.items.size()) - 1;
+    moveBrioRequirement(last, std::clamp(index, 0, std::max(last, 0)));
+}
+
+bool PackageInfoModel::moveBrioRequirement(int from, int to) {
+    return move(this, m_data->edit(), m_data->brioRequirements, from, to);
 }
 
 } // namespace Zel

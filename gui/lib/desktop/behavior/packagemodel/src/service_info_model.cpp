@@ -45,6 +45,13 @@ bool ServiceInfoModel::isAutoRun() const {
     return m_data->record().autoRun;
 }
 
+QMap<QString, QString> ServiceInfoModel::properties() const {
+    QMap<QString, QString> properties;
+    for (const auto &[property, value] : m_data->record().properties)
+        properties.insert(fromUtf8(property), fromUtf8(value));
+    return properties;
+}
+
 void ServiceInfoModel::setAutoRun(bool value) {
     if (isAutoRun() == value)
         return;
@@ -66,6 +73,26 @@ void ServiceInfoModel::setExecStart(const QString &newExecStart) {
     const QString execStart = copyOf(newExecStart);
     m_data->edit().execStart = toUtf8(execStart);
     Q_EMIT execStartChanged(execStart);
+}
+
+void ServiceInfoModel::setServiceProperty(const QString &property, const QString &value) {
+    const std::string name = toUtf8(property);
+    const std::string bytes = toUtf8(value);
+    const auto &properties = m_data->record().properties;
+    const auto found = properties.find(name);
+    if (found != properties.end() && found->second == bytes)
+        return;
+    m_data->edit().properties[name] = bytes;
+    Q_EMIT servicePropertyChanged(fromUtf8(name));
+}
+
+bool ServiceInfoModel::removeServiceProperty(const QString &property) {
+    const std::string name = toUtf8(property);
+    if (m_data->record().properties.count(name) == 0)
+        return false;
+    m_data->edit().properties.erase(name);
+    Q_EMIT servicePropertyChanged(fromUtf8(name));
+    return true;
 }
 
 } // namespace Zel

@@ -74,6 +74,8 @@ public:
     [[nodiscard]] const Language::LocalizedStrings &descriptions() const;
 
     [[nodiscard]] QSet<QString> permissions() const;
+    /// The permissions in the order of the record.
+    [[nodiscard]] QStringList permissionList() const;
     [[nodiscard]] bool hasPermission(const QString &permType) const;
 
     /// Whether a user may ask for the behavior.
@@ -92,6 +94,8 @@ public:
 
     /// The conditions for a purpose, which is any text.
     [[nodiscard]] QStringList conditions(const QString &purpose) const;
+    /// The purposes that have conditions, in ascending order.
+    [[nodiscard]] QStringList purposes() const;
 
     /// Drops the names and descriptions in other languages than `descriptionLanguages`, and the
     /// tags, trigger sentences and loading responses in other languages than `supportedLanguages`.
@@ -171,6 +175,14 @@ public Q_SLOTS:
     bool insertCondition(const QString &condition, const QString &purpose, int idx);
     bool updateCondition(int conditionIdx, const QString &newCondition, const QString &purpose);
     bool removeCondition(int conditionIdx, const QString &purpose);
+
+    /// Removes the name in a language, so that names() no longer lists it; announced as an update
+    /// to the empty text. Returns false if there is none.
+    bool removeName(const RobotLanguage &lang);
+    /// The same for the description.
+    bool removeDescription(const RobotLanguage &lang);
+    /// Adds a permission before the one at an index, which is clamped to the list.
+    bool insertPermission(const QString &permType, int idx);
 
 private:
     friend class ChildAccess;

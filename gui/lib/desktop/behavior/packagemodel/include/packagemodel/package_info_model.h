@@ -201,6 +201,15 @@ Q_SIGNALS:
     void serviceAdded(ServiceInfoModel *service);
     void serviceRemoved(ServiceInfoModel *service);
     void iconUpdated(const QIcon &newIcon);
+    /// The entry that was at `from` is at `to`. An insertion is announced as an addition to the end
+    /// and a move.
+    void behaviorMoved(BehaviorInfoModel *behavior, int from, int to);
+    void dialogMoved(DialogInfoModel *dialog, int from, int to);
+    void serviceMoved(ServiceInfoModel *service, int from, int to);
+    void languageMoved(const RobotLanguage &language, int from, int to);
+    void descriptionMoved(const RobotLanguage &language, int from, int to);
+    void robotRequirementMoved(int from, int to);
+    void brioRequirementMoved(int from, int to);
 
 private Q_SLOTS:
     void resyncBehaviors();
@@ -277,6 +286,32 @@ public Q_SLOTS:
     /// Does nothing when the icon looks the same as the current one, at any size. Needs a
     /// QGuiApplication to tell that of two different icons.
     void setIcon(const QIcon &newIcon);
+
+    // Changes of the order. `insert` adds an entry and moves it to the index, which is clamped to
+    // the list. `move` takes an entry out and inserts it so that its new index is `to`; it returns
+    // false for an index outside the list, and notifies only if the index changes. Neither touches
+    // the other entries.
+
+    void insertBehavior(int index, const Tano::BehaviorInfo &bi);
+    bool moveBehavior(int from, int to);
+    void insertDialog(int index, const Tano::DialogInfo &di);
+    bool moveDialog(int from, int to);
+    void insertService(int index, const Tano::PackageService &si);
+    bool moveService(int from, int to);
+    void insertSupportedLanguage(int index, const RobotLanguage &language);
+    bool moveSupportedLanguage(int from, int to);
+    void insertDescriptionLanguage(int index, const RobotLanguage &language);
+    bool moveDescriptionLanguage(int from, int to);
+    void insertRobotRequirement(int index, const RobotRequirement &robotReq);
+    bool moveRobotRequirement(int from, int to);
+    void insertBrioRequirement(int index, const BrioRequirement &brioReq);
+    bool moveBrioRequirement(int from, int to);
+
+    /// Removes the name in a language, so that names() no longer lists it; announced as an update
+    /// to the empty text. Returns false if there is none.
+    bool removeName(const RobotLanguage &language);
+    /// The same for the description; the description language stays.
+    bool removeDescription(const RobotLanguage &language);
 
 private:
     void assign(const PackageInfoModel &other, const WholeChange &change);

@@ -4,6 +4,7 @@
 
 #include <tano/package_service.h>
 
+#include <QMap>
 #include <QMetaType>
 #include <QObject>
 #include <QString>
@@ -34,16 +35,23 @@ public:
     [[nodiscard]] QString name() const;
     [[nodiscard]] QString execStart() const;
     [[nodiscard]] bool isAutoRun() const;
+    /// Further settings of the service, by name.
+    [[nodiscard]] QMap<QString, QString> properties() const;
 
 Q_SIGNALS:
     void autoRunChanged(bool value);
     void nameChanged(const QString &);
     void execStartChanged(const QString &);
+    /// A property was set or removed.
+    void servicePropertyChanged(const QString &property);
 
 public Q_SLOTS:
     void setAutoRun(bool value = true);
     void setName(const QString &);
     void setExecStart(const QString &);
+    void setServiceProperty(const QString &property, const QString &value);
+    /// Returns false if there is no such property.
+    bool removeServiceProperty(const QString &property);
 
 private:
     friend class ChildAccess;
