@@ -5,6 +5,7 @@
 #include <packagemodel/dialog_commands.h>
 #include <packagemodel/package_info_validator.h>
 #include <packagemodel/set_string.h>
+#include <packagemodel/supported_languages_command.h>
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -125,6 +126,7 @@ private Q_SLOTS:
     void wholeChangesSurviveEdits_data();
     void wholeChangesSurviveEdits();
     void theLastLoadWins();
+    void copiesOfAHalfLoadedPackage();
     void childrenGoFirst();
     void removedChildrenStayRemoved();
     void toggledLanguage();
@@ -268,6 +270,16 @@ void TestLifetimes::theLastLoadWins() {
     QVERIFY(!package.loadFromManifestContent(m_manifest));
     QCOMPARE(package.saveToManifestContent(), manifest);
     QCOMPARE(disagreement(package), QString());
+}
+
+void TestLifetimes::copiesOfAHalfLoadedPackage() {
+    PackageInfoModel package;
+    const Observer observer(package, [&](auto &&...) {
+        PackageInfoModel copy(package);
+        copy.syncRecord();
+        QCOMPARE(disagreement(copy), QString());
+    });
+    QVERIFY(package.loadFromManifestContent(m_manifest));
 }
 
 void TestLifetimes::childrenGoFirst() {
@@ -426,9 +438,14 @@ void TestLifetimes::commandsOutliveThePackage() {
         new PackageStringCommand(package.get(), text("x"), PackageStringCommand::Author, true));
     stack.push(new BehaviorNatureCommand(package.get(), text("a"), text("x"), true));
     stack.push(new DialogInfoModelRemoveTopicCommand(package.get(), text("a"), m_english));
+    struct Switch : PackageLanguageCommand {
+        using PackageLanguageCommand::PackageLanguageCommand;
+        void switchLanguage() override { model()->addSupportedLanguage({}); }
+    };
+    stack.push(new Switch(package.get(), m_french));
     package.reset();
     stack.setIndex(0);
-    stack.setIndex(3);
+    stack.setIndex(4);
 }
 
 void TestLifetimes::movingToAnotherPackage() {

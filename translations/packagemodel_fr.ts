@@ -315,6 +315,194 @@
         <source>Write at least one trigger sentence in the language, or remove those in all languages.</source>
         <translation>Écrivez au moins une phrase de déclenchement dans cette langue, ou retirez celles de toutes les langues.</translation>
     </message>
+    <message>
+        <source>The value is of another type.</source>
+        <translation>La valeur est d&apos;un autre type.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is there already.</source>
+        <translation>« %1 » est déjà présent.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is taken.</source>
+        <translation>« %1 » est déjà pris.</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>Robot</translation>
+    </message>
+    <message>
+        <source>Lowest head version</source>
+        <translation>Version minimale de la tête</translation>
+    </message>
+    <message>
+        <source>Highest head version</source>
+        <translation>Version maximale de la tête</translation>
+    </message>
+    <message>
+        <source>Lowest body version</source>
+        <translation>Version minimale du corps</translation>
+    </message>
+    <message>
+        <source>Highest body version</source>
+        <translation>Version maximale du corps</translation>
+    </message>
+    <message>
+        <source>Lowest Brio version</source>
+        <translation>Version minimale de Brio</translation>
+    </message>
+    <message>
+        <source>Highest Brio version</source>
+        <translation>Version maximale de Brio</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>Nature</translation>
+    </message>
+    <message>
+        <source>Users may request it</source>
+        <translation>Peut être demandé par l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Permission</source>
+        <translation>Autorisation</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Condition</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Mot-clé</translation>
+    </message>
+    <message>
+        <source>Trigger sentence</source>
+        <translation>Phrase de déclenchement</translation>
+    </message>
+    <message>
+        <source>Loading response</source>
+        <translation>Réponse au chargement</translation>
+    </message>
+    <message>
+        <source>Topic name</source>
+        <translation>Nom du sujet</translation>
+    </message>
+    <message>
+        <source>Type version</source>
+        <translation>Version du type</translation>
+    </message>
+    <message>
+        <source>Topic file</source>
+        <translation>Fichier du sujet</translation>
+    </message>
+    <message>
+        <source>Starts with the robot</source>
+        <translation>Démarre avec le robot</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>UID</source>
+        <translation>UID</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Installer</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Organization</source>
+        <translation>Organisation</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Supported language</source>
+        <translation>Langue prise en charge</translation>
+    </message>
+    <message>
+        <source>Description language</source>
+        <translation>Langue de description</translation>
+    </message>
+    <message>
+        <source>Robot requirement</source>
+        <translation>Exigence de robot</translation>
+    </message>
+    <message>
+        <source>Brio requirement</source>
+        <translation>Exigence de Brio</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Comportement</translation>
+    </message>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialogue</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The text holds half of a surrogate pair, which a manifest cannot hold.</source>
+        <translation>Le texte contient une demi-paire de substitution, qu&apos;un manifeste ne peut pas contenir.</translation>
+    </message>
+    <message>
+        <source>The text holds the character U+%1, which a manifest cannot hold.</source>
+        <translation>Le texte contient le caractère U+%1, qu&apos;un manifeste ne peut pas contenir.</translation>
+    </message>
+    <message>
+        <source>There is no such field.</source>
+        <translation>Ce champ n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>The field does not allow this change.</source>
+        <translation>Le champ ne permet pas cette modification.</translation>
+    </message>
+    <message>
+        <source>The list has no such index.</source>
+        <translation>La liste n&apos;a pas cet indice.</translation>
+    </message>
+    <message>
+        <source>There is no package to be edited.</source>
+        <translation>Il n&apos;y a pas de paquet à modifier.</translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

@@ -315,6 +315,194 @@
         <source>Write at least one trigger sentence in the language, or remove those in all languages.</source>
         <translation>その言語でトリガー文を少なくとも 1 つ入力するか、すべての言語のトリガー文を削除してください。</translation>
     </message>
+    <message>
+        <source>The value is of another type.</source>
+        <translation>値の種類が違います。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is there already.</source>
+        <translation>「%1」は既にあります。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is taken.</source>
+        <translation>「%1」は既に使われています。</translation>
+    </message>
+    <message>
+        <source>Robot</source>
+        <translation>ロボット</translation>
+    </message>
+    <message>
+        <source>Lowest head version</source>
+        <translation>頭部の最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest head version</source>
+        <translation>頭部の最大バージョン</translation>
+    </message>
+    <message>
+        <source>Lowest body version</source>
+        <translation>本体の最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest body version</source>
+        <translation>本体の最大バージョン</translation>
+    </message>
+    <message>
+        <source>Lowest Brio version</source>
+        <translation>Brio の最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest Brio version</source>
+        <translation>Brio の最大バージョン</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Nature</source>
+        <translation>種別</translation>
+    </message>
+    <message>
+        <source>Users may request it</source>
+        <translation>ユーザーが要求可能</translation>
+    </message>
+    <message>
+        <source>Permission</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Trigger sentence</source>
+        <translation>トリガー文</translation>
+    </message>
+    <message>
+        <source>Loading response</source>
+        <translation>読み込み時の応答</translation>
+    </message>
+    <message>
+        <source>Topic name</source>
+        <translation>トピック名</translation>
+    </message>
+    <message>
+        <source>Type version</source>
+        <translation>型のバージョン</translation>
+    </message>
+    <message>
+        <source>Topic file</source>
+        <translation>トピックファイル</translation>
+    </message>
+    <message>
+        <source>Starts with the robot</source>
+        <translation>ロボットと同時に起動</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>UID</source>
+        <translation>UID</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Installer</source>
+        <translation>インストーラー</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Organization</source>
+        <translation>組織</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Supported language</source>
+        <translation>対応言語</translation>
+    </message>
+    <message>
+        <source>Description language</source>
+        <translation>説明言語</translation>
+    </message>
+    <message>
+        <source>Robot requirement</source>
+        <translation>ロボットの要件</translation>
+    </message>
+    <message>
+        <source>Brio requirement</source>
+        <translation>Brio の要件</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>ビヘイビア</translation>
+    </message>
+    <message>
+        <source>Dialog</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The text holds half of a surrogate pair, which a manifest cannot hold.</source>
+        <translation>テキストに、マニフェストに保存できない不完全なサロゲートペアが含まれています。</translation>
+    </message>
+    <message>
+        <source>The text holds the character U+%1, which a manifest cannot hold.</source>
+        <translation>テキストに、マニフェストに保存できない文字 U+%1 が含まれています。</translation>
+    </message>
+    <message>
+        <source>There is no such field.</source>
+        <translation>そのフィールドはありません。</translation>
+    </message>
+    <message>
+        <source>The field does not allow this change.</source>
+        <translation>このフィールドはその変更に対応していません。</translation>
+    </message>
+    <message>
+        <source>The list has no such index.</source>
+        <translation>リストにその番号はありません。</translation>
+    </message>
+    <message>
+        <source>There is no package to be edited.</source>
+        <translation>編集するパッケージがありません。</translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

@@ -41,6 +41,7 @@ struct PackageInfoModel::Data {
     /// One of the two lists of languages.
     struct LanguageList {
         ByLanguage<RobotLanguage> Data::*cache;
+        const std::vector<std::string> &(Tano::PackageInfo::*codes)() const;
         bool (Tano::PackageInfo::*move)(int from, int to);
         void (PackageInfoModel::*moved)(const RobotLanguage &language, int from, int to);
     };

@@ -58,17 +58,35 @@ int clampedTo(const RobotLanguages &languages, int index) {
     return std::clamp(index, 0, std::max(static_cast<int>(languages.size()) - 1, 0));
 }
 
+// While a removal is announced to the dialogs' receivers, the record lacks a language that the
+// cache still has: where the record's list has it all, its indexes are those of the cache.
+template<typename Data, typename List>
+void moveInRecord(Data &data, const List &list, const RobotLanguage &moved, int from, int to) {
+    const std::vector<std::string> codes = (data.record().*list.codes)();
+    const RobotLanguages &languages = data.*list.cache;
+    const auto isRecorded = [&](const RobotLanguage &language) {
+        return std::find(codes.begin(), codes.end(), codeOf(language)) != codes.end();
+    };
+    if (codes.size() != languages.size()) {
+        if (!isRecorded(moved))
+            return;
+        from =
+            static_cast<int>(std::find(codes.begin(), codes.end(), codeOf(moved)) - codes.begin());
+        to = static_cast<int>(std::count_if(languages.begin(), languages.begin() + to, isRecorded));
+    }
+    (data.edit().*list.move)(from, to);
+}
+
 template<typename Data, typename List>
 bool moveLanguage(PackageInfoModel *model, Data &data, const List &list, int from, int to) {
-    const RobotLanguages &languages = data.*list.cache;
-    const int size = static_cast<int>(languages.size());
+    const int size = static_cast<int>((data.*list.cache).entries().size());
     if (from < 0 || from >= size || to < 0 || to >= size)
         return false;
     if (from == to)
         return true;
-    (data.edit().*list.move)(from, to);
     (data.*list.cache).move(from, to);
     const RobotLanguage moved = (data.*list.cache).entries().at(std::size_t(to));
+    moveInRecord(data, list, moved, from, to);
     Q_EMIT(model->*list.moved)(moved, from, to);
     return true;
 }
@@ -76,12 +94,12 @@ bool moveLanguage(PackageInfoModel *model, Data &data, const List &list, int fro
 } // namespace
 
 const PackageInfoModel::Data::LanguageList PackageInfoModel::Data::supportedList{
-    &Data::supportedLanguages, &Tano::PackageInfo::moveSupportedLanguage,
-    &PackageInfoModel::languageMoved};
+    &Data::supportedLanguages, &Tano::PackageInfo::supportedLanguages,
+    &Tano::PackageInfo::moveSupportedLanguage, &PackageInfoModel::languageMoved};
 
 const PackageInfoModel::Data::LanguageList PackageInfoModel::Data::descriptionList{
-    &Data::descriptionLanguages, &Tano::PackageInfo::moveDescriptionLanguage,
-    &PackageInfoModel::descriptionMoved};
+    &Data::descriptionLanguages, &Tano::PackageInfo::descriptionLanguages,
+    &Tano::PackageInfo::moveDescriptionLanguage, &PackageInfoModel::descriptionMoved};
 
 const PackageInfoModel::Data::LocalizedTextField PackageInfoModel::Data::nameField{
     &Tano::PackageInfo::names,

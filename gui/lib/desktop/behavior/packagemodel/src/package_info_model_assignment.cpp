@@ -201,14 +201,17 @@ void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &
         return;
 
     // Edits by receivers end here, except those of the children, which others may refer to.
-    m_data->edit() = source.record;
-    m_data->version = source.version;
-    m_data->supportedLanguages = source.supportedLanguages;
-    m_data->descriptionLanguages = source.descriptionLanguages;
-    reconcile(m_data->names, source.record.names());
-    reconcile(m_data->descriptions, source.record.descriptions(), oldDescriptions);
-    m_data->robotRequirements = {source.robotRequirements};
-    m_data->brioRequirements = {source.brioRequirements};
+    const Tano::PackageInfo &record = source.record; // its caches may lag while it is being loaded
+    m_data->edit() = record;
+    m_data->version = SoftwareVersionUtils::fromString(fromUtf8(record.version()));
+    m_data->version.setFieldsCount(3);
+    m_data->supportedLanguages = languagesFromCodes(record.supportedLanguages());
+    m_data->descriptionLanguages = languagesFromCodes(record.descriptionLanguages());
+    reconcile(m_data->names, record.names());
+    reconcile(m_data->descriptions, record.descriptions(), oldDescriptions);
+    m_data->robotRequirements = {};
+    m_data->brioRequirements = {};
+    appendRequirements(record);
     m_data->behaviors.settle(source.behaviors.records);
     m_data->dialogs.settle(source.dialogs.records);
     m_data->services.settle(source.services.records);

@@ -70,10 +70,7 @@ bool PackageInfoModel::initFromPackage(const Tano::PackageInfo &loaded, const Wh
     readVersionFromPackage();
     if (!change.isCurrent())
         return false;
-    for (const Tano::RobotRequirement &record : loaded.robotRequirements())
-        m_data->robotRequirements.items.append(fromTanoRobotRequirement(record));
-    for (const Tano::BrioRequirement &record : loaded.brioRequirements())
-        m_data->brioRequirements.items.append(fromTanoBrioRequirement(record));
+    appendRequirements(loaded);
 
     RobotLanguages mentioned; // in use, and thereby known, before the caches hold them
     for (const std::string &code : loaded.languageCodes())

@@ -110,6 +110,13 @@ bool move(PackageInfoModel *model, Tano::PackageInfo &record, RequirementList<Re
 
 } // namespace
 
+void PackageInfoModel::appendRequirements(const Tano::PackageInfo &record) {
+    for (const Tano::RobotRequirement &requirement : record.robotRequirements())
+        m_data->robotRequirements.items.append(fromTanoRobotRequirement(requirement));
+    for (const Tano::BrioRequirement &requirement : record.brioRequirements())
+        m_data->brioRequirements.items.append(fromTanoBrioRequirement(requirement));
+}
+
 void PackageInfoModel::resyncRobotRequirements() {
     resync(m_data->robotRequirements, m_data->edit());
 }

@@ -11,11 +11,13 @@ PackageLanguageCommand::PackageLanguageCommand(PackageInfoModel *model,
 PackageLanguageCommand::~PackageLanguageCommand() = default;
 
 void PackageLanguageCommand::undo() {
-    switchLanguage();
+    if (model())
+        switchLanguage();
 }
 
 void PackageLanguageCommand::redo() {
-    switchLanguage();
+    if (model())
+        switchLanguage();
 }
 
 } // namespace Zel

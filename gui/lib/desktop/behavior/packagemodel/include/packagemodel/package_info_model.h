@@ -321,6 +321,7 @@ private:
     void readVersionFromPackage();
     void readCaches(const Tano::PackageInfo &loaded);
     void createBehaviors(const Tano::PackageInfo &record);
+    void appendRequirements(const Tano::PackageInfo &record);
     void resyncRobotRequirements();
     void resyncBrioRequirements();
 

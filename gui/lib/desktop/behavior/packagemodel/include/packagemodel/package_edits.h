@@ -1,0 +1,51 @@
+#pragma once
+
+#include <packagemodel/package_fields.h>
+
+namespace Zel::PackageModel {
+
+/// A change of a package as a value.
+///
+/// | action | path | value | index |
+/// |---|---|---|---|
+/// | Set | a field or an entry | the new value | |
+/// | Insert | a list, such as `behaviors` or `behaviors[greet].tags[en_US]` | the entry | where |
+/// | Remove | an entry, or a field that may be absent | | |
+/// | Move | an entry | | its new index |
+///
+/// An index is clamped to the list by Insert. A language is inserted as its code.
+struct Edit {
+    enum class Action { Set, Insert, Remove, Move };
+
+    Action action;
+    Tano::FieldPath path;
+    std::optional<FieldValue> value = {};
+    int index = 0;
+};
+using Edits = QVector<Edit>;
+
+/// The outcome of applying edits: the edits that undo them, or why nothing was changed.
+struct Applied {
+    Edits inverse; ///< to be applied in this order
+    QString error; ///< one sentence in the language of the application; empty on success
+};
+
+/// Applies an edit through the public slots, which notify as for any other caller, or changes
+/// nothing and returns the reason.
+///
+/// Applying the inverse restores the manifest's bytes, including comments and unknown content, the
+/// order of languages, and the dialogs' topics that were removed with a language. Refused are paths
+/// that lead nowhere, values of another type, texts that a manifest cannot hold, an entry that a
+/// list has already, and a path, topic name or service name that another entry has.
+///
+/// ```
+/// const Applied applied = apply(&package, {Edit::Action::Set, path, QStringLiteral("Tea")});
+/// if (!applied.error.isEmpty())
+///     showMessage(applied.error);
+/// ```
+PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edit &edit);
+
+/// Applies all edits in their order, or none.
+PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edits &edits);
+
+} // namespace Zel::PackageModel

@@ -1,0 +1,368 @@
+#pragma once
+
+#include "field_row.h"
+
+namespace Zel::PackageModel {
+
+/// The index that the only selector of a path means; -1 for none of a list of that size.
+inline int indexIn(const Selectors &selectors, int size) {
+    const auto index = selectors.size() == 1 ? selectors.front().toIndex() : std::nullopt;
+    return index && *index < size ? *index : -1;
+}
+
+inline QString misfit() {
+    return QCoreApplication::translate("Zel::PackageModel", "The value is of another type.");
+}
+
+inline QString taken(const QString &value) {
+    return QCoreApplication::translate("Zel::PackageModel", "'%1' is there already.").arg(value);
+}
+
+/// A row whose path leads to a list itself, or to an item of it.
+template<typename Owner>
+class ListRow : public FieldRow<Owner> {
+public:
+    using FieldRow<Owner>::FieldRow;
+
+    FieldTarget follow(Owner &owner, const Walk &walk) const override {
+        return walk.isLast() ? followList(makeList(owner), walk, 0) : FieldTarget();
+    }
+
+protected:
+    virtual std::shared_ptr<FieldList> makeList(Owner &owner) const = 0;
+
+    /// The list, or an item of it if there are more selectors than those of the list itself.
+    static FieldTarget followList(std::shared_ptr<FieldList> list, const Walk &walk,
+                                  std::size_t ownSelectors) {
+        FieldTarget target{{}, std::move(list), walk.upTo(ownSelectors), -1};
+        const Selectors &all = walk.selectors();
+        if (all.size() == ownSelectors)
+            return target;
+        const Selectors rest(all.begin() + std::ptrdiff_t(ownSelectors), all.end());
+        target.item = target.list->find(rest);
+        return target.item < 0 ? FieldTarget() : target;
+    }
+};
+
+/// The texts of one list of a behavior: tags in a language, conditions for a purpose.
+template<typename Key>
+class BehaviorTexts : public FieldList {
+public:
+    struct Operations {
+        QStringList (BehaviorInfoModel::*list)(const Key &key) const;
+        bool (BehaviorInfoModel::*add)(const QString &text, const Key &key);
+        bool (BehaviorInfoModel::*insert)(const QString &text, const Key &key, int index);
+        bool (BehaviorInfoModel::*update)(int index, const QString &text, const Key &key);
+        bool (BehaviorInfoModel::*remove)(int index, const Key &key);
+    };
+
+    BehaviorTexts(BehaviorInfoModel &behavior, const Operations &operations, Key key)
+        : m_behavior(&behavior)
+        , m_operations(operations)
+        , m_key(std::move(key)) {}
+
+    int size() const override { return static_cast<int>(texts().size()); }
+    FieldValue at(int index) const override { return texts().at(index); }
+    int find(const Selectors &selectors) const override { return indexIn(selectors, size()); }
+    void select(FieldPath &path, int index) const override { path.index(index); }
+    QString refusal(const FieldValue &value, int) const override {
+        return std::holds_alternative<QString>(value) ? QString() : misfit();
+    }
+    void insert(int index, const FieldValue &value) override {
+        const auto &text = std::get<QString>(value);
+        const QStringList current = texts();
+        if (!current.contains(text)) {
+            insertNew(index, current.size(), text);
+            return;
+        }
+        // The lists may hold equal texts but take them by updates only.
+        QString placeholder = text;
+        while (current.contains(placeholder))
+            placeholder += u'~';
+        insertNew(index, current.size(), placeholder);
+        replace(index, value);
+    }
+    void replace(int index, const FieldValue &value) override {
+        if (m_behavior)
+            (m_behavior->*m_operations.update)(index, std::get<QString>(value), m_key);
+    }
+    void removeAt(int index) override {
+        if (m_behavior)
+            (m_behavior->*m_operations.remove)(index, m_key);
+    }
+    void move(int from, int to) override {
+        const FieldValue moved = at(from);
+        removeAt(from);
+        insert(to, moved);
+    }
+
+private:
+    QStringList texts() const {
+        return m_behavior ? (m_behavior->*m_operations.list)(m_key) : QStringList();
+    }
+    void insertNew(int index, qsizetype size, const QString &text) {
+        if (m_behavior && index == size)
+            (m_behavior->*m_operations.add)(text, m_key);
+        else if (m_behavior)
+            (m_behavior->*m_operations.insert)(text, m_key, index);
+    }
+
+    QPointer<BehaviorInfoModel> m_behavior;
+    Operations m_operations;
+    Key m_key;
+};
+
+/// Lists of texts of a behavior by language or purpose.
+template<typename Key>
+class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
+public:
+    using Keys = std::vector<Key> (*)(const BehaviorInfoModel &behavior);
+
+    BehaviorTextsRow(const char *name, const char *label, Keys keys,
+                     const typename BehaviorTexts<Key>::Operations &operations)
+        : ListRow(name, label)
+        , m_keys(keys)
+        , m_operations(operations) {}
+
+    void list(BehaviorInfoModel &behavior, const FieldPath &base,
+              QVector<Field> &fields) const override {
+        for (const Key &key : m_keys(behavior)) {
+            const QStringList texts = (behavior.*m_operations.list)(key);
+            for (int i = 0; i < texts.size(); ++i)
+                fields.append({pathIn(base).key(toUtf8(printedKey(key))).index(i), FieldKind::Text,
+                               texts.at(i), label()});
+        }
+    }
+    FieldTarget follow(BehaviorInfoModel &behavior, const Walk &walk) const override {
+        if (!walk.isLast() || walk.selectors().empty())
+            return {};
+        const QString key = fromUtf8(walk.selectors().front().text);
+        return followList(
+            std::make_shared<BehaviorTexts<Key>>(behavior, m_operations, keyOf(key, Key())), walk,
+            1);
+    }
+
+protected:
+    std::shared_ptr<FieldList> makeList(BehaviorInfoModel &) const override { return {}; }
+
+private:
+    static QString printedKey(const QString &purpose) { return purpose; }
+    static QString printedKey(const RobotLanguage &language) { return language.isoCode(); }
+    static QString keyOf(const QString &text, const QString &) { return text; }
+    static RobotLanguage keyOf(const QString &text, const RobotLanguage &) {
+        return languageOfCode(text);
+    }
+
+    Keys m_keys;
+    typename BehaviorTexts<Key>::Operations m_operations;
+};
+
+/// The behaviors, dialogs or services of a package.
+template<typename Child>
+struct EntryKind {
+    QVector<Child *> (PackageInfoModel::*all)() const;
+    Child *(PackageInfoModel::*find)(const QString &key) const;
+    QString (Child::*key)() const;
+    FieldValue (*record)(const Child &child);
+    void (*insert)(PackageInfoModel &package, int index, const FieldValue &record);
+    bool (PackageInfoModel::*remove)(Child *child);
+    bool (PackageInfoModel::*move)(int from, int to);
+    bool (*isRecord)(const FieldValue &value);
+    const FieldTable<Child> &(*table)();
+};
+
+template<typename Child>
+class EntryList : public FieldList {
+public:
+    EntryList(PackageInfoModel &package, const EntryKind<Child> &kind)
+        : m_package(&package)
+        , m_kind(kind) {}
+
+    QVector<Child *> all() const {
+        return m_package ? (m_package->*m_kind.all)() : QVector<Child *>();
+    }
+    int size() const override { return static_cast<int>(all().size()); }
+    FieldValue at(int index) const override { return m_kind.record(*all().at(index)); }
+
+    int find(const Selectors &selectors) const override {
+        const auto occurrence = selectors.size() == 2 ? selectors[1].toIndex() : std::optional(0);
+        if (selectors.empty() || selectors.size() > 2 || !occurrence || !m_package)
+            return -1;
+        const QString key = fromUtf8(selectors.front().text);
+        const auto children = all();
+        int index = static_cast<int>(children.indexOf((m_package->*m_kind.find)(key)));
+        for (int i = 0; index >= 0 && i < *occurrence; ++i)
+            index = next(children, index + 1, key);
+        return index;
+    }
+    void select(FieldPath &path, int index) const override {
+        const auto children = all();
+        const QString key = (children.at(index)->*m_kind.key)();
+        int occurrence = 0;
+        for (int i = next(children, 0, key); i >= 0 && i < index; i = next(children, i + 1, key))
+            ++occurrence;
+        path.entry(toUtf8(key), occurrence);
+    }
+    QString refusal(const FieldValue &value, int) const override {
+        return m_kind.isRecord(value) ? QString() : misfit();
+    }
+    void insert(int index, const FieldValue &value) override {
+        if (m_package)
+            m_kind.insert(*m_package, index, value);
+    }
+    void replace(int index, const FieldValue &value) override {
+        removeAt(index);
+        insert(index, value);
+    }
+    void removeAt(int index) override {
+        if (m_package && index < size())
+            (m_package->*m_kind.remove)(all().at(index));
+    }
+    void move(int from, int to) override {
+        if (m_package)
+            (m_package->*m_kind.move)(from, to);
+    }
+
+private:
+    // The next child with a key from an index on; -1 for none.
+    int next(const QVector<Child *> &children, int from, const QString &key) const {
+        for (int i = from; i < children.size(); ++i) {
+            if ((children.at(i)->*m_kind.key)() == key)
+                return i;
+        }
+        return -1;
+    }
+
+    QPointer<PackageInfoModel> m_package;
+    const EntryKind<Child> &m_kind;
+};
+
+template<typename Child>
+class EntriesRow : public ListRow<PackageInfoModel> {
+public:
+    EntriesRow(const char *name, const char *label, const EntryKind<Child> &kind)
+        : ListRow(name, label)
+        , m_kind(kind) {}
+
+    void list(PackageInfoModel &package, const FieldPath &base,
+              QVector<Field> &fields) const override {
+        QHash<QString, int> counts;
+        const auto children = (package.*m_kind.all)();
+        for (Child *child : children) {
+            const QString key = (child->*m_kind.key)();
+            listAll(m_kind.table(), *child, pathIn(base).entry(toUtf8(key), counts[key]++), fields);
+        }
+    }
+    FieldTarget follow(PackageInfoModel &package, const Walk &walk) const override {
+        if (walk.isLast())
+            return ListRow::follow(package, walk);
+        const EntryList<Child> list(package, m_kind);
+        const int index = list.find(walk.selectors());
+        if (index < 0)
+            return {};
+        return followIn(m_kind.table(), *list.all().at(index), {walk.path, walk.step + 1});
+    }
+
+protected:
+    std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
+        return std::make_shared<EntryList<Child>>(package, m_kind);
+    }
+
+private:
+    const EntryKind<Child> &m_kind;
+};
+
+/// A requirement of a package by its index.
+template<typename Requirement>
+struct RequirementPlace {
+    PackageInfoModel &package;
+    int index;
+};
+
+template<typename Requirement>
+struct RequirementOperations {
+    QVector<Requirement> (PackageInfoModel::*all)() const;
+    void (PackageInfoModel::*insert)(int index, const Requirement &requirement);
+    bool (PackageInfoModel::*update)(int index, const Requirement &requirement);
+    bool (PackageInfoModel::*remove)(int index);
+    bool (PackageInfoModel::*move)(int from, int to);
+    const FieldTable<RequirementPlace<Requirement>> &(*table)();
+};
+
+template<typename Requirement>
+class RequirementItems : public FieldList {
+public:
+    RequirementItems(PackageInfoModel &package,
+                     const RequirementOperations<Requirement> &operations)
+        : m_package(&package)
+        , m_operations(operations) {}
+
+    int size() const override { return static_cast<int>(all().size()); }
+    FieldValue at(int index) const override { return all().at(index); }
+    int find(const Selectors &selectors) const override { return indexIn(selectors, size()); }
+    void select(FieldPath &path, int index) const override { path.index(index); }
+    QString refusal(const FieldValue &value, int) const override {
+        return std::holds_alternative<Requirement>(value) ? QString() : misfit();
+    }
+    void insert(int index, const FieldValue &value) override {
+        if (m_package)
+            (m_package->*m_operations.insert)(index, std::get<Requirement>(value));
+    }
+    void replace(int index, const FieldValue &value) override {
+        if (m_package)
+            (m_package->*m_operations.update)(index, std::get<Requirement>(value));
+    }
+    void removeAt(int index) override {
+        if (m_package)
+            (m_package->*m_operations.remove)(index);
+    }
+    void move(int from, int to) override {
+        if (m_package)
+            (m_package->*m_operations.move)(from, to);
+    }
+
+private:
+    QVector<Requirement> all() const {
+        return m_package ? (m_package->*m_operations.all)() : QVector<Requirement>();
+    }
+
+    QPointer<PackageInfoModel> m_package;
+    const RequirementOperations<Requirement> &m_operations;
+};
+
+template<typename Requirement>
+class RequirementsRow : public ListRow<PackageInfoModel> {
+public:
+    RequirementsRow(const char *name, const char *label,
+                    const RequirementOperations<Requirement> &operations)
+        : ListRow(name, label)
+        , m_operations(operations) {}
+
+    void list(PackageInfoModel &package, const FieldPath &base,
+              QVector<Field> &fields) const override {
+        const int size = static_cast<int>((package.*m_operations.all)().size());
+        for (int i = 0; i < size; ++i) {
+            RequirementPlace<Requirement> place{package, i};
+            listAll(m_operations.table(), place, pathIn(base).index(i), fields);
+        }
+    }
+    FieldTarget follow(PackageInfoModel &package, const Walk &walk) const override {
+        if (walk.isLast())
+            return ListRow::follow(package, walk);
+        const RequirementItems<Requirement> list(package, m_operations);
+        RequirementPlace<Requirement> place{package, list.find(walk.selectors())};
+        if (place.index < 0)
+            return {};
+        return followIn(m_operations.table(), place, {walk.path, walk.step + 1});
+    }
+
+protected:
+    std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
+        return std::make_shared<RequirementItems<Requirement>>(package, m_operations);
+    }
+
+private:
+    const RequirementOperations<Requirement> &m_operations;
+};
+
+} // namespace Zel::PackageModel

@@ -1,0 +1,66 @@
+#include <packagemodel/package_edit_command.h>
+
+namespace Zel {
+namespace {
+
+constexpr int editCommandId = 43;
+
+// Whether the edits are a single new text, which may be a part of a typed run.
+bool isText(const PackageModel::Edits &edits) {
+    return edits.size() == 1 && edits.front().action == PackageModel::Edit::Action::Set &&
+           edits.front().value && std::holds_alternative<QString>(*edits.front().value);
+}
+
+} // namespace
+
+PackageEditCommand::PackageEditCommand(PackageInfoModel *model, const PackageModel::Edits &edits,
+                                       const QString &text, bool isFinal)
+    : PackageCommand(model)
+    , m_edits(edits)
+    , m_isFinal(isFinal) {
+    setText(text);
+}
+
+PackageEditCommand::~PackageEditCommand() = default;
+
+void PackageEditCommand::undo() {
+    if (!m_inverse.isEmpty())
+        step(m_edits, m_inverse);
+}
+
+void PackageEditCommand::redo() {
+    m_inverse.clear(); // so that a step that fails is not undone
+    step(m_inverse, m_edits);
+}
+
+void PackageEditCommand::step(PackageModel::Edits &done, const PackageModel::Edits &edits) {
+    PackageModel::Applied applied = PackageModel::apply(model(), edits);
+    m_error = applied.error;
+    if (m_error.isEmpty())
+        done = applied.inverse;
+}
+
+int PackageEditCommand::id() const {
+    return editCommandId;
+}
+
+bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
+    return mergeIf<PackageEditCommand>(incoming, [this](const PackageEditCommand &newer) {
+        if (m_isFinal || !model() || newer.model() != model() || !isText(m_edits) ||
+            !isText(newer.m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1 ||
+            newer.m_edits.front().path != m_inverse.front().path)
+            return false;
+        m_edits.front().value = newer.m_edits.front().value;
+        m_inverse.front().path = newer.m_inverse.front().path;
+        m_isFinal = newer.m_isFinal;
+        const auto &old = m_inverse.front().value;
+        setObsolete(old && *old == *m_edits.front().value);
+        return true;
+    });
+}
+
+bool PackageEditCommand::isFinalCommand() const {
+    return MergeableCommand::isFinalCommand() || m_isFinal;
+}
+
+} // namespace Zel
