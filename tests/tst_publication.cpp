@@ -1,3 +1,4 @@
+#include "golden.h"
 #include "signal_log.h"
 #include "warning_guard.h"
 
@@ -22,6 +23,8 @@ const QString badRepeat =
     QStringLiteral("genPlainTextFromScript: Could not generate plain text value properly: Line 1, "
                    "column 1: The repeat \"-1\" is malformed; it is a number, or a range such as "
                    "0-1 or 1-.");
+
+const QString trimmed = QStringLiteral(ZEL_TEST_DATA "/publication/trimmed.xml");
 
 QByteArray contentOf(const char *name) {
     QFile file(QStringLiteral(ZEL_TEST_DATA "/publication/") % QLatin1String(name));
@@ -64,15 +67,14 @@ private Q_SLOTS:
     void trims() {
         Tano::PackageInfo record = m_package.packageInfo();
         record.trimExtraInfo();
-        QCOMPARE(QByteArray::fromStdString(record.saveToManifestContent()),
-                 contentOf("trimmed.xml"));
+        COMPARE_WITH_GOLDEN(trimmed, QByteArray::fromStdString(record.saveToManifestContent()));
 
         const BehaviorInfoModel *pour = m_package.behaviors().at(0);
         SignalLog log(m_package);
         log.watch(*m_package.behaviors().at(0));
         m_package.trimExtraInfo();
         QCOMPARE(log.take(), QStringList());
-        QCOMPARE(m_package.saveToManifestContent(), contentOf("trimmed.xml"));
+        COMPARE_WITH_GOLDEN(trimmed, m_package.saveToManifestContent());
         QCOMPARE(printed(m_package.names()),
                  QStringLiteral("de_DE:Tee en_US:Tea<break/>time ja_JP-x-scrpol:<p>"));
         QCOMPARE(printed(m_package.descriptions()), QStringLiteral("en_US:One <p>open"));
