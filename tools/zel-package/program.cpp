@@ -1,7 +1,7 @@
+#include "arguments/suggestion.h"
 #include "command.h"
-#include "field_list.h"
-#include "suggestion.h"
-#include "text_layout.h"
+#include "console/field_list.h"
+#include "console/text_layout.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "findings_writer.h"
 
+#include "console/text_layout.h"
 #include "report_rules.h"
-#include "text_layout.h"
 
 #include <QCoreApplication>
 

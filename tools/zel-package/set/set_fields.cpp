@@ -1,8 +1,8 @@
 #include "set_fields.h"
 
+#include "console/text_diff.h"
 #include "field_edit.h"
-#include "manifest_source.h"
-#include "text_diff.h"
+#include "manifest/manifest_source.h"
 
 #include <packagemodel/package_info_model.h>
 

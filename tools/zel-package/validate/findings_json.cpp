@@ -1,6 +1,6 @@
 #include "findings_writer.h"
 
-#include "json_list.h"
+#include "console/json_list.h"
 #include "report_rules.h"
 
 namespace ZelPackage {

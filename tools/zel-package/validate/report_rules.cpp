@@ -1,7 +1,7 @@
 #include "report_rules.h"
 
-#include "suggestion.h"
-#include "text_layout.h"
+#include "arguments/suggestion.h"
+#include "console/text_layout.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #include "command.h"
 
-#include "language_argument.h"
+#include "arguments/language_argument.h"
 #include "manifest_source.h"
 
 #include <packagemodel/package_info_model.h>

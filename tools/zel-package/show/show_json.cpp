@@ -1,6 +1,6 @@
 #include "show_json.h"
 
-#include "json_text.h"
+#include "console/json_text.h"
 
 #include <packagemodel/package_info_model.h>
 

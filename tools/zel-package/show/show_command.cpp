@@ -1,10 +1,10 @@
 #include "command.h"
 
-#include "language_argument.h"
-#include "manifest_source.h"
+#include "arguments/language_argument.h"
+#include "arguments/word_check.h"
+#include "manifest/manifest_source.h"
 #include "show_json.h"
 #include "show_text.h"
-#include "word_check.h"
 
 #include <packagemodel/package_info_model.h>
 

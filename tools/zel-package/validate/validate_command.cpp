@@ -1,9 +1,9 @@
 #include "command.h"
 
+#include "arguments/word_check.h"
 #include "findings_writer.h"
-#include "manifest_source.h"
+#include "manifest/manifest_source.h"
 #include "report_rules.h"
-#include "word_check.h"
 
 #include <packagemodel/package_info_model.h>
 

@@ -1,7 +1,7 @@
 #include "findings_writer.h"
 
-#include "json_list.h"
-#include "manifest_source.h"
+#include "console/json_list.h"
+#include "manifest/manifest_source.h"
 #include "report_rules.h"
 
 #include <QCoreApplication>

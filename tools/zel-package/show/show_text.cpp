@@ -1,9 +1,9 @@
 #include "show_text.h"
 
+#include "console/field_list.h"
+#include "console/text_layout.h"
 #include "coverage_table.h"
-#include "field_list.h"
 #include "shown_text.h"
-#include "text_layout.h"
 
 #include <packagemodel/package_info_model.h>
 

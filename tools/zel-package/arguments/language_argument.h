@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console.h"
+#include "console/console.h"
 
 #include <zel/robot_language.h>
 

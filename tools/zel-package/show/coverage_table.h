@@ -1,6 +1,6 @@
 #pragma once
 
-#include "console.h"
+#include "console/console.h"
 #include "coverage.h"
 
 #include <vector>

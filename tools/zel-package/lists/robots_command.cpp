@@ -1,7 +1,7 @@
 #include "command.h"
 
-#include "text_layout.h"
-#include "text_table.h"
+#include "console/text_layout.h"
+#include "console/text_table.h"
 
 #include <packagemodel/requirements.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "console.h"
+#include "arguments/language_argument.h"
+#include "arguments/suggestion.h"
+#include "console/console.h"
 #include "field_path.h"
-#include "language_argument.h"
-#include "suggestion.h"
 
 #include <packagemodel/package_info_model.h>
 

@@ -1,7 +1,7 @@
 #include "command.h"
 
+#include "console/text_table.h"
 #include "report_rules.h"
-#include "text_table.h"
 
 namespace ZelPackage {
 namespace {
