@@ -19,7 +19,7 @@ class BehaviorsPage : public Page {
 
 public:
     explicit BehaviorsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
     void takePending() override;
 
 private:

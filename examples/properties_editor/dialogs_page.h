@@ -16,7 +16,7 @@ class DialogsPage : public Page {
 
 public:
     explicit DialogsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     QWidget *newList();

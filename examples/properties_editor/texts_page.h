@@ -16,7 +16,7 @@ class TextsPage : public Page {
 
 public:
     explicit TextsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     void fillLanguageMenu();

@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "console/text_layout.h"
 #include "console/text_table.h"
@@ -30,7 +30,7 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
 
 } // namespace
 
-const Command languagesCommand{
+const ProgramCommand languagesCommand{
     "languages",
     QT_TRANSLATE_NOOP("zel-package", "List the known languages"),
     "",

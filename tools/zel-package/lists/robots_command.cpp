@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "console/text_layout.h"
 #include "console/text_table.h"
@@ -24,7 +24,7 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
 
 } // namespace
 
-const Command robotsCommand{
+const ProgramCommand robotsCommand{
     "robots",
     QT_TRANSLATE_NOOP("zel-package", "List the known robots"),
     "",

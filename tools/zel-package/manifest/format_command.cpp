@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "manifest_source.h"
 
@@ -55,7 +55,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command formatCommand{
+const ProgramCommand formatCommand{
     "format",
     QT_TRANSLATE_NOOP("zel-package", "Rewrite manifests in the canonical form"),
     QT_TRANSLATE_NOOP("zel-package", "FILE... [--check]"),
@@ -65,7 +65,7 @@ const Command formatCommand{
                       "form already is left alone. '-' takes standard input and writes to standard "
                       "output."),
     1,
-    Command::anyNumber,
+    ProgramCommand::anyNumber,
     options,
     run,
 };

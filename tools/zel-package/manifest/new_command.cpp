@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "arguments/language_argument.h"
 #include "manifest_source.h"
@@ -127,7 +127,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command newCommand{
+const ProgramCommand newCommand{
     "new",
     QT_TRANSLATE_NOOP("zel-package", "Make a new manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE --uid UID [--name TEXT] [--language CODE]..."),

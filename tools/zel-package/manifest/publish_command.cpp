@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "manifest_source.h"
 
@@ -87,7 +87,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command publishCommand{
+const ProgramCommand publishCommand{
     "publish",
     QT_TRANSLATE_NOOP("zel-package", "Make the manifest of a package that is to be published"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT]"),

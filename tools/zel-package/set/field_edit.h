@@ -1,7 +1,7 @@
 #pragma once
 
+#include "assignment.h"
 #include "console/console.h"
-#include "field_path.h"
 
 namespace Zel {
 class PackageInfoModel;

@@ -2,10 +2,11 @@
 
 #include "arguments/language_argument.h"
 #include "arguments/suggestion.h"
+#include "assignment.h"
 #include "console/console.h"
-#include "field_path.h"
 
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/text_conversion.h>
 
 #include <QCoreApplication>
 
@@ -23,7 +24,7 @@ public:
         : m_assignment(assignment)
         , m_console(console) {}
 
-    [[nodiscard]] const std::vector<FieldStep> &path() const { return m_assignment.path; }
+    [[nodiscard]] const Tano::FieldPath &path() const { return m_assignment.path; }
     [[nodiscard]] const QString &value() const { return m_assignment.value; }
 
     /// Reports what is wrong with the field or its value. Always false.
@@ -56,26 +57,28 @@ struct FieldRow {
 /// Sets the field whose row the step of the edit's path names; false if the edit is refused.
 template<typename Table, typename Owner>
 bool setField(const Table &table, const Edit &edit, Owner &owner, std::size_t step) {
-    const FieldStep &field = edit.path().at(step);
+    const auto &steps = edit.path().steps();
+    const QString field = Zel::fromUtf8(steps.at(step).field);
+    QStringList keys;
+    for (const auto &selector : steps.at(step).selectors)
+        keys += Zel::fromUtf8(selector.text);
     QStringList names;
     for (const auto &row : table)
         names += QLatin1String(row.name);
-    const auto index = names.indexOf(field.name);
+    const auto index = names.indexOf(field);
     if (index < 0)
-        return edit.refuse(
-            QCoreApplication::translate("zel-package", "There is no field '%1'%2")
-                .arg(field.name,
-                     suggestion(field.name, names,
-                                QCoreApplication::translate("zel-package", "; the fields are %1.")
-                                    .arg(names.join(QStringLiteral(", "))))));
+        return edit.refuse(QCoreApplication::translate("zel-package", "There is no field '%1'%2")
+                               .arg(field, suggestion(field, names,
+                                                      QCoreApplication::translate(
+                                                          "zel-package", "; the fields are %1.")
+                                                          .arg(names.join(QStringLiteral(", "))))));
     const auto &row = table[std::size_t(index)];
     const QLatin1String rest(row.rest);
     const bool hasParts = QString(rest).endsWith(QLatin1String("FIELD"));
-    if (field.keys.size() != QString(rest).count(u'[') ||
-        edit.path().size() != step + (hasParts ? 2 : 1))
-        return edit.refuse(QCoreApplication::translate("zel-package", "It is written '%1%2'.")
-                               .arg(field.name, rest));
-    return row.set(edit, owner, field.keys);
+    if (keys.size() != QString(rest).count(u'[') || steps.size() != step + (hasParts ? 2 : 1))
+        return edit.refuse(
+            QCoreApplication::translate("zel-package", "It is written '%1%2'.").arg(field, rest));
+    return row.set(edit, owner, keys);
 }
 
 } // namespace ZelPackage

@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "arguments/language_argument.h"
 #include "arguments/word_check.h"
@@ -64,7 +64,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command showCommand{
+const ProgramCommand showCommand{
     "show",
     QT_TRANSLATE_NOOP("zel-package", "Show what a manifest says"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [--language CODE] [--format text|json]"),

@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "console/text_table.h"
 #include "report_rules.h"
@@ -40,7 +40,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command explainCommand{
+const ProgramCommand explainCommand{
     "explain",
     QT_TRANSLATE_NOOP("zel-package", "Explain what 'validate' finds"),
     QT_TRANSLATE_NOOP("zel-package", "[ID]"),

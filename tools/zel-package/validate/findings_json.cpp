@@ -16,7 +16,7 @@ public:
 
     void begin() override { m_console.print(QStringLiteral("{\"findings\": [")); }
 
-    void write(const Finding &finding) override {
+    void write(const ManifestFinding &finding) override {
         m_findings.add({{QStringLiteral("file"), finding.file},
                         {QStringLiteral("line"), qint64(finding.position.line)},
                         {QStringLiteral("column"), qint64(finding.position.column)},

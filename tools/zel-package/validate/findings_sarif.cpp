@@ -68,7 +68,7 @@ QJsonObject toolObject(const QVector<Rule> &rules) {
     return {{QStringLiteral("driver"), driver}};
 }
 
-QJsonObject locationObject(const Finding &finding) {
+QJsonObject locationObject(const ManifestFinding &finding) {
     const QJsonObject region{{QStringLiteral("startLine"), qint64(finding.position.line)},
                              {QStringLiteral("startColumn"), qint64(finding.position.column)}};
     QJsonObject location{
@@ -102,7 +102,7 @@ public:
             QStringLiteral(",\n\"columnKind\": \"unicodeCodePoints\",\n\"results\": ["));
     }
 
-    void write(const Finding &finding) override {
+    void write(const ManifestFinding &finding) override {
         QJsonObject result{{QStringLiteral("ruleId"), finding.ruleId},
                            {QStringLiteral("ruleIndex"), int(m_ruleIds.indexOf(finding.ruleId))},
                            {QStringLiteral("level"), wordOf(finding.severity)},

@@ -18,7 +18,7 @@ public:
 
     void begin() override {}
 
-    void write(const Finding &finding) override {
+    void write(const ManifestFinding &finding) override {
         const bool isError = finding.severity == Severity::Error;
         const QString place = finding.ruleId == malformedRuleId
                                   ? QCoreApplication::translate("zel-package", "column %1")

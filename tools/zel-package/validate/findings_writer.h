@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/console.h"
-#include "finding.h"
+#include "manifest_finding.h"
 
 #include <QVector>
 
@@ -31,7 +31,7 @@ public:
     FindingsWriter &operator=(const FindingsWriter &) = delete;
 
     virtual void begin() = 0;
-    virtual void write(const Finding &finding) = 0;
+    virtual void write(const ManifestFinding &finding) = 0;
     /// A file that could not be read, and why not.
     virtual void writeUnreadable(const QString &file, const QString &trouble) = 0;
     /// A file with more findings than are listed, and how many those are.

@@ -1,4 +1,4 @@
-#include "command.h"
+#include "program_command.h"
 
 #include "arguments/word_check.h"
 #include "findings_writer.h"
@@ -177,7 +177,7 @@ private:
         m_console.tell(file, reader.errorPosition(), message);
     }
 
-    void found(const Finding &finding) {
+    void found(const ManifestFinding &finding) {
         ++(finding.severity == Severity::Error ? m_report.errors : m_report.warnings);
         m_found += finding.ruleId;
         m_writer.write(finding);
@@ -251,7 +251,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 } // namespace
 
-const Command validateCommand{
+const ProgramCommand validateCommand{
     "validate",
     QT_TRANSLATE_NOOP("zel-package", "Tell what is wrong with manifests"),
     QT_TRANSLATE_NOOP("zel-package", "FILE... [--format text|json|sarif] [--fail-on error|warning] "
@@ -261,7 +261,7 @@ const Command validateCommand{
                       "[id]; the line is that of the field or, where it is missing, of what should "
                       "hold it. 'zel-package explain ID' tells more. '-' reads standard input."),
     1,
-    Command::anyNumber,
+    ProgramCommand::anyNumber,
     options,
     run,
 };

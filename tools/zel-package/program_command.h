@@ -10,7 +10,7 @@
 namespace ZelPackage {
 
 /// One command of the program. The texts are translated in the context "zel-package".
-struct Command {
+struct ProgramCommand {
     static constexpr int anyNumber = 1'000'000;
 
     const char *name;
@@ -24,15 +24,15 @@ struct Command {
     ExitStatus (*run)(const QCommandLineParser &arguments, Console &console);
 };
 
-extern const Command explainCommand;
-extern const Command formatCommand;
-extern const Command languagesCommand;
-extern const Command newCommand;
-extern const Command publishCommand;
-extern const Command robotsCommand;
-extern const Command setCommand;
-extern const Command showCommand;
-extern const Command validateCommand;
+extern const ProgramCommand explainCommand;
+extern const ProgramCommand formatCommand;
+extern const ProgramCommand languagesCommand;
+extern const ProgramCommand newCommand;
+extern const ProgramCommand publishCommand;
+extern const ProgramCommand robotsCommand;
+extern const ProgramCommand setCommand;
+extern const ProgramCommand showCommand;
+extern const ProgramCommand validateCommand;
 
 /// Runs the program: general options, or a command with its arguments.
 [[nodiscard]] ExitStatus runProgram(const QStringList &arguments, Console &console);

@@ -1,4 +1,4 @@
-#include "set_fields.h"
+#include "program_command.h"
 
 #include "console/text_diff.h"
 #include "field_edit.h"
@@ -6,14 +6,21 @@
 
 #include <packagemodel/package_info_model.h>
 
-#include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
 
 namespace ZelPackage {
 namespace {
+
+constexpr const char *dryRunOption = "dry-run";
+
+QList<QCommandLineOption> options() {
+    return {
+        {QLatin1String(dryRunOption),
+         QCoreApplication::translate("zel-package", "Write nothing; print what would change, as a "
+                                                    "unified diff.")}};
+}
 
 // Makes all assignments, each upon the result of those before it; reports every wrong one.
 bool assignAll(const QStringList &arguments, Zel::PackageInfoModel &package, Console &console) {
@@ -58,8 +65,6 @@ std::optional<Tano::PackageInfo> edited(const Tano::PackageInfo &record,
     return result;
 }
 
-} // namespace
-
 ExitStatus setFields(const QCommandLineParser &arguments, Console &console) {
     QStringList assignments = arguments.positionalArguments();
     const QString file = assignments.takeFirst();
@@ -81,5 +86,24 @@ ExitStatus setFields(const QCommandLineParser &arguments, Console &console) {
         console.tell(file, QString::fromStdString(record->errorString()));
     return isDone ? Fine : Failure;
 }
+
+} // namespace
+
+const ProgramCommand setCommand{
+    "set",
+    QT_TRANSLATE_NOOP("zel-package", "Set fields of a manifest"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE FIELD=VALUE... [--dry-run]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Sets fields, named as in 'show --format json': author=Ines, names[fr_FR]=Goûter, "
+        "robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key "
+        "[+] appends to a list. An empty VALUE clears a text and removes an item. Either all "
+        "fields are set or, where one is wrong, none. The file is rewritten in the canonical form "
+        "with nothing lost. '-' takes standard input and writes to standard output."),
+    2,
+    ProgramCommand::anyNumber,
+    options,
+    setFields,
+};
 
 } // namespace ZelPackage

@@ -4,15 +4,15 @@
 
 namespace Editor {
 
-/// The parts of the path of a field, such as "behaviors[greet].triggerSentences[ja_JP]", by which
-/// an issue says what it is about.
-struct FieldPath {
+/// The parts of a field's path, such as "behaviors[greet].triggerSentences[ja_JP]", by which the
+/// editor finds the widget that an issue concerns.
+struct FieldPlace {
     QString list;   ///< "uid", "names", "robotRequirements", "behaviors"
     QString key;    ///< what selects an entry of it: a language code, an index, a behavior's path
     QString field;  ///< the field of that entry
     QString subkey; ///< what selects an entry of that field
 
-    [[nodiscard]] static FieldPath parse(const QString &path);
+    [[nodiscard]] static FieldPlace parse(const QString &path);
     /// The same for people: "Trigger sentences of “greet” in Japanese".
     [[nodiscard]] QString label() const;
 };

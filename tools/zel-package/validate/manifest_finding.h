@@ -9,7 +9,7 @@
 namespace ZelPackage {
 
 /// Something that is wrong with a manifest.
-struct Finding {
+struct ManifestFinding {
     QString file; ///< as it was given
     Tano::SourcePosition position;
     QString ruleId;
