@@ -64,7 +64,7 @@ public:
             text = box->text();
             box->button(button)->click();
         })) {}
-    [[nodiscard]] bool isGiven() const { return m_isGiven; }
+    bool isGiven() const { return m_isGiven; }
 
     QString text;
 

@@ -28,7 +28,7 @@ private:
     void select(const Zel::BehaviorInfoModel *behavior);
     void showCurrent();
     void restoreCurrent();
-    [[nodiscard]] int currentRow() const;
+    int currentRow() const;
 
     BehaviorsModel *m_model;
     QSortFilterProxyModel *m_filtered;

@@ -24,7 +24,7 @@ private:
     void add();
     void showCurrent();
     void refresh();
-    [[nodiscard]] Zel::DialogInfoModel *current() const;
+    Zel::DialogInfoModel *current() const;
 
     DialogsModel *m_dialogs;
     TopicsModel *m_topics;

@@ -14,13 +14,13 @@ struct FieldPlace {
 
     [[nodiscard]] static FieldPlace parse(const QString &path);
     /// The same for people: "Trigger sentences of “greet” in Japanese".
-    [[nodiscard]] QString label() const;
+    QString label() const;
 };
 
 // The paths, as the library writes them.
-[[nodiscard]] QString namePath(const QString &languageCode);
-[[nodiscard]] QString descriptionPath(const QString &languageCode);
-[[nodiscard]] QString requirementPath(const char *list, int index, const char *field);
-[[nodiscard]] QString sentencesPath(const QString &behaviorPath, const QString &languageCode);
+QString namePath(const QString &languageCode);
+QString descriptionPath(const QString &languageCode);
+QString requirementPath(const char *list, int index, const char *field);
+QString sentencesPath(const QString &behaviorPath, const QString &languageCode);
 
 } // namespace Editor

@@ -25,7 +25,7 @@ private:
     void addOtherLanguage();
     void showCurrent();
     void refresh();
-    [[nodiscard]] Zel::RobotLanguage current() const;
+    Zel::RobotLanguage current() const;
 
     LanguagesModel *m_model;
     QTableView *m_table;

@@ -6,13 +6,12 @@
 namespace ZelPackage {
 
 /// The word that a mistyped one most likely stands for; empty where none is near.
-[[nodiscard]] QString nearestWord(const QString &given, const QStringList &words);
+QString nearestWord(const QString &given, const QStringList &words);
 
 /// All words that a mistyped or shortened one may stand for, the likeliest first.
-[[nodiscard]] QStringList nearWords(const QString &given, const QStringList &words);
+QStringList nearWords(const QString &given, const QStringList &words);
 
 /// "; did you mean 'WORD'?", or `otherwise` where no word is near.
-[[nodiscard]] QString suggestion(const QString &given, const QStringList &words,
-                                 const QString &otherwise);
+QString suggestion(const QString &given, const QStringList &words, const QString &otherwise);
 
 } // namespace ZelPackage

@@ -28,7 +28,7 @@ public:
 
     /// A file name or a part of a file as standard output gets it: printable on a terminal, apart
     /// from the characters in `kept`; unchanged elsewhere, for programs that read it.
-    [[nodiscard]] QString shown(const QString &text, const QString &kept = {}) const;
+    QString shown(const QString &text, const QString &kept = {}) const;
 
     // To standard error, as "zel-package: FILE:LINE:COLUMN: message". Control characters are
     // escaped.
@@ -46,11 +46,11 @@ public:
     [[nodiscard]] bool finish();
 
     /// The columns of the terminal on standard output; 80 when it is none.
-    [[nodiscard]] int width() const { return m_width; }
+    int width() const { return m_width; }
 
     /// The text as it looks in a style; itself where standard output is no terminal, and
     /// where the environment sets NO_COLOR (no-color.org).
-    [[nodiscard]] QString styled(const QString &text, Style style) const;
+    QString styled(const QString &text, Style style) const;
 
 private:
     void write(const std::string &bytes);

@@ -20,11 +20,11 @@ public:
     void addMarked(const QString &label, const QString &text, const QString &remark);
 
     /// The columns that the labels take.
-    [[nodiscard]] int labelWidth() const;
+    int labelWidth() const;
     /// The lines of the list, each after `indent` spaces, at least 2, and with a line feed.
     /// `labelWidth` lines several lists up with one another.
-    [[nodiscard]] QString toText(const Console &console, int indent, int labelWidth) const;
-    [[nodiscard]] QString toText(const Console &console, int indent) const {
+    QString toText(const Console &console, int indent, int labelWidth) const;
+    QString toText(const Console &console, int indent) const {
         return toText(console, indent, labelWidth());
     }
 
@@ -35,7 +35,7 @@ private:
         QString remark;
     };
 
-    [[nodiscard]] static QStringList linesOf(const Field &field, int width, const Console &console);
+    static QStringList linesOf(const Field &field, int width, const Console &console);
 
     std::vector<Field> m_fields;
 };

@@ -8,6 +8,6 @@ namespace ZelPackage {
 
 /// The object as JSON text. What would garble a terminal is escaped, which JSON by itself does only
 /// in part.
-[[nodiscard]] QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format);
+QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format);
 
 } // namespace ZelPackage

@@ -12,7 +12,7 @@ namespace ZelPackage {
 /// context, which POSIX diff -u writes and patch reads; empty when there are none. `name` stands
 /// for both texts. On a terminal it is styled, and lines are shown by Console::shown();
 /// elsewhere the lines are unchanged, so that patch can apply them.
-[[nodiscard]] QString unifiedDiff(const QString &name, const std::string &before,
-                                  const std::string &after, const Console &console);
+QString unifiedDiff(const QString &name, const std::string &before, const std::string &after,
+                    const Console &console);
 
 } // namespace ZelPackage

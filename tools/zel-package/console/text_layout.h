@@ -8,25 +8,25 @@
 namespace ZelPackage {
 
 /// Whether a character is invisible or would control the terminal or the direction of writing.
-[[nodiscard]] bool isUnprintable(uint code);
+bool isUnprintable(uint code);
 
 /// The text with each character that isUnprintable() replaced as in "<U+202E>", apart from joiners
 /// and variation selectors where emoji and scripts need them.
-[[nodiscard]] QString printable(const QString &text);
+QString printable(const QString &text);
 /// The same, apart from the characters in `kept` as well.
-[[nodiscard]] QString printableExcept(const QString &kept, const QString &text);
+QString printableExcept(const QString &kept, const QString &text);
 
 /// How many columns the text takes.
-[[nodiscard]] int displayWidth(const QString &text);
+int displayWidth(const QString &text);
 
 /// The text up to its last character that is no white space.
-[[nodiscard]] QString withoutSpacesAtEnd(const QString &text);
+QString withoutSpacesAtEnd(const QString &text);
 
 /// The text followed by spaces up to `width` columns.
-[[nodiscard]] QString padded(const QString &text, int width);
+QString padded(const QString &text, int width);
 
 /// The text, made printable, in lines of at most `width` columns; broken where its script allows
 /// it, within a word only where that is longer than a line. A line feed starts a new line.
-[[nodiscard]] QStringList wrapped(const QString &text, int width);
+QStringList wrapped(const QString &text, int width);
 
 } // namespace ZelPackage

@@ -32,12 +32,12 @@ public:
     void addRow(const Row &row);
 
     /// How many columns of the terminal the table takes.
-    [[nodiscard]] int width() const;
+    int width() const;
     /// The lines of the table, each after `indent` spaces and with a line feed.
-    [[nodiscard]] QString toText(const Console &console, int indent) const;
+    QString toText(const Console &console, int indent) const;
 
 private:
-    [[nodiscard]] QString groupLine() const;
+    QString groupLine() const;
 
     std::vector<Column> m_columns;
     std::vector<int> m_widths;

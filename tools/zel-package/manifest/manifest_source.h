@@ -12,7 +12,7 @@
 namespace ZelPackage {
 
 /// Whether an argument means standard input or output rather than a file: "-".
-[[nodiscard]] bool isStandardStream(const QString &file);
+bool isStandardStream(const QString &file);
 
 /// A manifest as it was read, and its bytes.
 struct Manifest {

@@ -24,21 +24,21 @@ public:
         : m_assignment(assignment)
         , m_console(console) {}
 
-    [[nodiscard]] const Tano::FieldPath &path() const { return m_assignment.path; }
-    [[nodiscard]] const QString &value() const { return m_assignment.value; }
+    const Tano::FieldPath &path() const { return m_assignment.path; }
+    const QString &value() const { return m_assignment.value; }
 
     /// Reports what is wrong with the field or its value. Always false.
     bool refuse(const QString &message) const;
 
     // What a key or the value stands for; nothing, once it is told why, where it stands for none.
 
-    [[nodiscard]] std::optional<Zel::RobotLanguage> language(const QString &key) const;
+    std::optional<Zel::RobotLanguage> language(const QString &key) const;
     /// A version, which an empty value clears.
-    [[nodiscard]] std::optional<Zel::SoftwareVersion> version() const;
+    std::optional<Zel::SoftwareVersion> version() const;
     /// "true" or "false".
-    [[nodiscard]] std::optional<bool> flag() const;
+    std::optional<bool> flag() const;
     /// A position in a list of `size` items.
-    [[nodiscard]] std::optional<int> index(const QString &key, int size) const;
+    std::optional<int> index(const QString &key, int size) const;
 
 private:
     const Assignment &m_assignment;

@@ -47,21 +47,21 @@ struct LanguageCoverage {
     Count topics;
 
     /// All that is expected in the language.
-    [[nodiscard]] Count total() const;
+    Count total() const;
     /// total() in whole percent, 100 only when nothing is missing.
-    [[nodiscard]] int percent() const;
+    int percent() const;
 };
 
 /// The coverage in each of the languages, counted in one pass through the package.
-[[nodiscard]] std::vector<LanguageCoverage> coveragesIn(const Zel::RobotLanguages &languages,
-                                                        const Zel::PackageInfoModel &package);
+std::vector<LanguageCoverage> coveragesIn(const Zel::RobotLanguages &languages,
+                                          const Zel::PackageInfoModel &package);
 
 /// The languages of the package: the supported ones, those it is only described in, both in its
 /// order, then by ascending code those that are not listed but have texts. The script variants of
 /// languages are left out, unless they are listed.
-[[nodiscard]] Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package);
+Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package);
 
 /// Those of languagesOf() in whose script variant (PackageModel::k_sa) the package has something.
-[[nodiscard]] Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package);
+Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package);
 
 } // namespace ZelPackage

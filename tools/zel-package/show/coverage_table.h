@@ -9,7 +9,7 @@ namespace ZelPackage {
 
 /// The coverage of languages as a table, a line for each, as wide as the terminal allows, and notes
 /// on the languages that do not run.
-[[nodiscard]] QString coverageTable(const std::vector<LanguageCoverage> &coverages,
-                                    const Console &console, int indent);
+QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Console &console,
+                      int indent);
 
 } // namespace ZelPackage

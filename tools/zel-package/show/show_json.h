@@ -10,6 +10,6 @@ namespace ZelPackage {
 
 /// All of a package as one JSON object (RFC 8259), in the words of the manifest's fields, with a
 /// final line feed. A field that is not set is an empty text, list or object.
-[[nodiscard]] QString jsonOf(const Zel::PackageInfoModel &package);
+QString jsonOf(const Zel::PackageInfoModel &package);
 
 } // namespace ZelPackage

@@ -14,18 +14,18 @@ namespace ZelPackage {
 extern const QLatin1String malformedRuleId;
 
 /// All rules that findings are reported under: the model's and, last, the program's own.
-[[nodiscard]] QVector<Zel::PackageModel::Rule> reportRules();
+QVector<Zel::PackageModel::Rule> reportRules();
 
-[[nodiscard]] QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
+QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
 
 /// "error" or "warning", in every language.
-[[nodiscard]] QLatin1String wordOf(Zel::PackageModel::Severity severity);
+QLatin1String wordOf(Zel::PackageModel::Severity severity);
 
 /// The rule's message as plain text, "…" where it names something.
-[[nodiscard]] QString messageForm(const Zel::PackageModel::Rule &rule);
+QString messageForm(const Zel::PackageModel::Rule &rule);
 
 /// What there is to know about a rule, in lines of the width of the terminal.
-[[nodiscard]] QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
+QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
 
 /// Tells that there is no such rule, and which it may be.
 void tellUnknownRule(const QString &id, const QStringList &known, Console &console);

@@ -128,7 +128,7 @@ public:
     }
 
     // The rules that have found something, in their order.
-    [[nodiscard]] QVector<Rule> foundRules() const {
+    QVector<Rule> foundRules() const {
         QVector<Rule> rules = reportRules();
         rules.erase(std::remove_if(rules.begin(), rules.end(),
                                    [&](const Rule &rule) { return !m_found.contains(rule.id); }),
@@ -136,7 +136,7 @@ public:
         return rules;
     }
 
-    [[nodiscard]] const Report &report() const { return m_report; }
+    const Report &report() const { return m_report; }
 
 private:
     void checkPackage(const QString &file, const Tano::PackageInfo &record,
