@@ -148,13 +148,13 @@ void clear(PackageInfoModel &package) {
 }
 
 void collectIssues(PackageInfoModel &package) {
-    static_cast<void>(Zel::PackageModel::issues(&package));
+    Zel::PackageModel::issues(&package);
 }
 
 void validate(PackageInfoModel &package) {
     QStringList errors;
     QStringList warnings;
-    static_cast<void>(Zel::PackageModel::validate(&package, errors, warnings));
+    Zel::PackageModel::validate(&package, errors, warnings);
 }
 
 void trim(PackageInfoModel &package) {

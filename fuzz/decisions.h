@@ -10,7 +10,7 @@ public:
         : m_next(data)
         , m_end(data + size) {}
 
-    [[nodiscard]] bool isAtEnd() const { return m_next == m_end; }
+    bool isAtEnd() const { return m_next == m_end; }
 
     /// A number from 0 to `limit` - 1; `limit` is at most 256.
     unsigned below(unsigned limit) {

@@ -49,7 +49,7 @@ public:
     /// Adds a value that lies elsewhere.
     void borrow(const void *value) { m_pointers.push_back(const_cast<void *>(value)); }
 
-    [[nodiscard]] void **pointers() { return m_pointers.data(); }
+    void **pointers() { return m_pointers.data(); }
 
 private:
     std::shared_ptr<void> m_result; // large enough for what any slot returns
@@ -115,10 +115,10 @@ public:
     void callAnySlot(QObject *object);
 
     /// The address of a child, living or not, as a dangling pointer is one.
-    [[nodiscard]] const void *anyAddress();
+    const void *anyAddress();
 
     /// Whether a package may be deleted: not while a child is, which Qt would then delete twice.
-    [[nodiscard]] bool canDeletePackage() const { return m_dying == 0; }
+    bool canDeletePackage() const { return m_dying == 0; }
 
     /// Runs a load, an assignment or a clearing, which may leave descriptions behind.
     void reset(const std::function<void()> &call);
@@ -128,17 +128,17 @@ public:
     /// The records of packages may wait for syncRecord() from now on.
     void expectLag() { m_isLagging = true; }
 
-    [[nodiscard]] bool isLagging() const { return m_isLagging; }
+    bool isLagging() const { return m_isLagging; }
 
     /// Says that the package's record is this one after a step in which observers only read, or
     /// that of another load where observers load as well. Does nothing for other steps.
     void expectRecord(PackageInfoModel *package, const Tano::PackageInfo &record);
 
     /// The argument of a type of the notification that is being heard; null for none.
-    [[nodiscard]] const void *heard(const QByteArray &type) const;
+    const void *heard(const QByteArray &type) const;
 
     void trace(const QString &line);
-    [[nodiscard]] QString nameOf(const void *object) const;
+    QString nameOf(const void *object) const;
 
     std::array<QPointer<PackageInfoModel>, 2> packages;
     std::array<QPointer<PackageInfoValidator>, 2> validators;

@@ -5,7 +5,7 @@
 #include "offscreen.h"
 #include "target.h"
 
-#include "field_edit.h"
+#include "set/field_edit.h"
 
 #include <QFile>
 

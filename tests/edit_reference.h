@@ -250,8 +250,8 @@ class Editor {
 public:
     Package package;
 
-    [[nodiscard]] int index() const { return m_index; }
-    [[nodiscard]] int count() const { return int(m_stack.size()); }
+    int index() const { return m_index; }
+    int count() const { return int(m_stack.size()); }
 
     Told push(const Command &pushed) {
         Command command = made(package, pushed);

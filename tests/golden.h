@@ -2,22 +2,24 @@
 
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryFile>
 #include <QTest>
 
-/// Compares what a test produced with a golden file of the test data, which is written anew where
-/// the environment variable ZEL_UPDATE_GOLDEN is set. Returns the difference as diff(1) shows it.
+/// The difference between a golden file and what a test produced, as diff(1) shows it. With
+/// ZEL_UPDATE_GOLDEN in the environment, the file is written instead.
 inline QString differenceFromGolden(const QString &path, const QByteArray &actual) {
+    QFile file(path);
+    if (file.open(QFile::ReadOnly) && file.readAll() == actual)
+        return {};
+    file.close();
     if (qEnvironmentVariableIsSet("ZEL_UPDATE_GOLDEN")) {
-        QFile file(path);
-        if (!file.open(QFile::WriteOnly) || file.write(actual) != actual.size())
-            return path + QStringLiteral(" cannot be written");
+        if (!file.open(QFile::WriteOnly) || file.write(actual) != actual.size() || !file.flush())
+            return path + QStringLiteral(": ") + file.errorString();
         return {};
     }
     QProcess diff;
     diff.start(QStringLiteral("diff"),
-               {QStringLiteral("-u"), QStringLiteral("--label"), path, QStringLiteral("--label"),
-                QStringLiteral("actual"), path, QStringLiteral("-")});
+               {QStringLiteral("--text"), QStringLiteral("-u"), QStringLiteral("--label"), path,
+                QStringLiteral("--label"), QStringLiteral("actual"), path, QStringLiteral("-")});
     diff.write(actual);
     diff.closeWriteChannel();
     if (!diff.waitForFinished())

@@ -128,6 +128,7 @@ private:
 };
 
 void TestCommands::init() {
+    m_warnings.watch();
     m_package = std::make_unique<PackageInfoModel>();
     fill(*m_package);
     m_behavior = m_package->behavior(text("tea"));

@@ -10,6 +10,7 @@ class TestDialogServiceModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void dialogStartsFromTheRecord();

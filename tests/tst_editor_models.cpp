@@ -1,7 +1,7 @@
 #include "behaviors_model.h"
 #include "editor_commands.h"
 #include "entry_models.h"
-#include "field_path.h"
+#include "field_place.h"
 #include "languages.h"
 #include "languages_model.h"
 #include "problems_model.h"
@@ -255,7 +255,7 @@ private Q_SLOTS:
         QCOMPARE(cell.data().toString(), before);
     }
 
-    void fieldPaths_data() {
+    void fieldPlaces_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("parts");
         const auto row = [](const char *path, const char *parts) {
@@ -265,11 +265,11 @@ private Q_SLOTS:
         row("names[fr_FR]", "names|fr_FR||");
         row("robotRequirements[10].model", "robotRequirements|10|model|");
         row("behaviors[a].triggerSentences[ja_JP]", "behaviors|a|triggerSentences|ja_JP");
-        row("behaviors[a].b[c]].triggerSentences[fr]", "behaviors|a].b[c]|triggerSentences|fr");
+        row("behaviors[a\\].b[c\\]].triggerSentences[fr]", "behaviors|a].b[c]|triggerSentences|fr");
     }
-    void fieldPaths() {
+    void fieldPlaces() {
         QFETCH(QString, path);
-        const FieldPath parsed = FieldPath::parse(path);
+        const FieldPlace parsed = FieldPlace::parse(path);
         const QStringList parts{parsed.list, parsed.key, parsed.field, parsed.subkey};
         QTEST(parts.join(u'|'), "parts");
     }

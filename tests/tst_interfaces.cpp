@@ -1,7 +1,8 @@
+#include "golden.h"
+
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_validator.h>
 
-#include <QFile>
 #include <QMetaMethod>
 #include <QTest>
 
@@ -63,10 +64,9 @@ void TestInterfaces::declared() {
     QFETCH(const QMetaObject *, meta);
     const PackageInfoModel registersTheTypes;
     const QString name = QString::fromLatin1(meta->className()).remove(QStringLiteral("Zel::"));
-    QFile file(QStringLiteral(ZEL_TEST_DATA "/interface/%1.txt").arg(name));
-    QVERIFY(file.open(QFile::ReadOnly));
-    const QString expected = QString::fromUtf8(file.readAll()).trimmed();
-    QCOMPARE(declarations(*meta), expected.split(u'\n'));
+    const QString declared = declarations(*meta).join(u'\n') % u'\n';
+    COMPARE_WITH_GOLDEN(QStringLiteral(ZEL_TEST_DATA "/interface/%1.txt").arg(name),
+                        declared.toUtf8());
 }
 
 QTEST_GUILESS_MAIN(TestInterfaces)

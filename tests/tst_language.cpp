@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(robotLanguage(QStringLiteral("qac")).isoCode(), QStringLiteral("qac"));
         QVERIFY(robotLanguage(QStringLiteral("qac")).nuanceCode().isEmpty());
 
-        static_cast<void>(Language::languageInUse(QStringLiteral("qad")));
+        Language::languageInUse(QStringLiteral("qad"));
         Language::addPartialLanguage(
             {ISOCode(QStringLiteral("qad")), NuanceCode(QStringLiteral("x"))});
         QCOMPARE(robotLanguage(QStringLiteral("qad")).nuanceCode(), QStringLiteral("x"));

@@ -118,6 +118,7 @@ class TestLifetimes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void removingTwice();

@@ -77,6 +77,7 @@ class TestLongLists : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     // Additions, removals and look-ups in any order, with reads of the whole list now and then.

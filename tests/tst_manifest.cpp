@@ -1,3 +1,5 @@
+#include "golden.h"
+
 #include <tano/manifest_reader.h>
 #include <tano/package_info.h>
 
@@ -25,13 +27,17 @@ QByteArray contentOf(const QString &path) {
     return file.readAll();
 }
 
+QString pathOf(const char *name) {
+    return QStringLiteral(ZEL_TEST_DATA "/manifest/") + QLatin1String(name);
+}
+
 QByteArray testData(const char *name) {
-    return contentOf(QStringLiteral(ZEL_TEST_DATA "/manifest/") + QLatin1String(name));
+    return contentOf(pathOf(name));
 }
 
 // A row for each manifest in a folder of the test data.
 void addFiles(const char *folder) {
-    const QDir dir(QStringLiteral(ZEL_TEST_DATA "/manifest/") + QLatin1String(folder));
+    const QDir dir(pathOf(folder));
     const auto names = dir.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name);
     for (const QString &name : names) {
         if (!name.endsWith(QLatin1String(".canonical.xml")))
@@ -78,8 +84,8 @@ private Q_SLOTS:
         const std::string saved = package.saveToManifestContent();
         QString canonical = path;
         canonical.replace(QLatin1String(".xml"), QLatin1String(".canonical.xml"));
-        QCOMPARE(QByteArray::fromStdString(saved),
-                 contentOf(path.contains(QLatin1String("/noncanonical/")) ? canonical : path));
+        COMPARE_WITH_GOLDEN(path.contains(QLatin1String("/noncanonical/")) ? canonical : path,
+                            QByteArray::fromStdString(saved));
         QCOMPARE(loaded(saved), package);
     }
 
@@ -99,9 +105,10 @@ private Q_SLOTS:
 
         QString expected = path;
         expected.replace(QLatin1String(".xml"), QLatin1String(".error"));
-        QCOMPARE(QByteArray::fromStdString(package.errorString()), contentOf(expected).trimmed());
+        const std::string error = package.errorString();
+        COMPARE_WITH_GOLDEN(expected, QByteArray::fromStdString(error) + '\n');
         QVERIFY(!package.loadFromManifestContent(contentOf(path).toStdString()));
-        QCOMPARE(QByteArray::fromStdString(package.errorString()), contentOf(expected).trimmed());
+        QCOMPARE(package.errorString(), error);
         QVERIFY(package.loadFromManifestContent(inPackage("")));
         QCOMPARE(package.errorString(), std::string());
     }
@@ -292,8 +299,8 @@ private Q_SLOTS:
         package.clearServices();
         package.addService({"s", "run", false, {}});
 
-        QCOMPARE(QByteArray::fromStdString(package.saveToManifestContent()),
-                 testData("edited/kept.edited.xml"));
+        COMPARE_WITH_GOLDEN(pathOf("edited/kept.edited.xml"),
+                            QByteArray::fromStdString(package.saveToManifestContent()));
     }
 
     void equalityMindsWhatIsKept() {
@@ -312,16 +319,16 @@ private Q_SLOTS:
         ManifestReader reader(ManifestReader::Positions::Keep);
         PackageInfo package;
         QVERIFY(reader.readContent(testData("places.xml").toStdString(), package));
-        const QByteArray places = testData("places.txt");
-        for (const QByteArray &place : places.trimmed().split('\n')) {
+        QByteArray places;
+        for (const QByteArray &place : testData("places.txt").trimmed().split('\n')) {
             const QByteArray field = place.mid(place.indexOf(' ') + 1);
             const auto path = Tano::FieldPath::parse(field.toStdString());
             QVERIFY2(path, field.constData());
             const Tano::SourcePosition position = reader.position(*path);
-            QCOMPARE(QByteArray::number(qulonglong(position.line)) + ':' +
-                         QByteArray::number(qulonglong(position.column)) + ' ' + field,
-                     place);
+            places += QByteArray::number(qulonglong(position.line)) + ':' +
+                      QByteArray::number(qulonglong(position.column)) + ' ' + field + '\n';
         }
+        COMPARE_WITH_GOLDEN(pathOf("places.txt"), places);
         QCOMPARE(reader.position(std::string("author")).line, std::uint64_t(2));
         ManifestReader without;
         QVERIFY(without.readContent(testData("places.xml").toStdString(), package));
@@ -364,7 +371,7 @@ private Q_SLOTS:
                      QByteArray::fromStdString(node.parent + ' ' + node.parentPath.toString()) +
                      '\n';
         }
-        QCOMPARE(nodes, testData("unknown.txt"));
+        COMPARE_WITH_GOLDEN(pathOf("unknown.txt"), nodes);
     }
 
     // A behavior is saved below another root element than the one that declares its prefixes.

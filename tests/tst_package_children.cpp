@@ -41,6 +41,7 @@ class TestPackageChildren : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void lookingUp_data();

@@ -31,6 +31,7 @@ class TestPackageInfoModel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void convertsText_data();

@@ -1,5 +1,6 @@
 #include <packagemodel/package_info_utils.h>
 
+#include "golden.h"
 #include "signal_log.h"
 #include "text.h"
 #include "warning_guard.h"
@@ -10,6 +11,13 @@
 using namespace Zel;
 
 namespace {
+
+const QDir checkData(text(ZEL_TEST_DATA "/checks"));
+
+// The content of a golden file, one line each.
+QByteArray golden(const QStringList &lines) {
+    return lines.isEmpty() ? QByteArray() : QString(lines.join(u'\n') % u'\n').toUtf8();
+}
 
 // A package without faults but for its languages and behaviors.
 bool load(PackageInfoModel &package, const QString &content) {
@@ -78,6 +86,7 @@ class TestPackageInfoUtils : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void names_data();
@@ -152,8 +161,7 @@ void TestPackageInfoUtils::namesWithoutLanguage() {
 
 void TestPackageInfoUtils::checks_data() {
     QTest::addColumn<QString>("name");
-    const QDir checks(text(ZEL_TEST_DATA "/checks"));
-    const auto names = checks.entryList({text("*.xml")}, QDir::Files, QDir::Name);
+    const auto names = checkData.entryList({text("*.xml")}, QDir::Files, QDir::Name);
     for (const QString &name : names)
         QTest::newRow(qPrintable(name)) << name.chopped(4);
 }
@@ -167,8 +175,8 @@ void TestPackageInfoUtils::checks() {
     const bool isValid = PackageModel::validate(&package, errors, warnings);
     QCOMPARE(isValid, (errors + warnings).isEmpty());
     QCOMPARE(singleMessages(package), errors);
-    const QStringList told = findings(package) + errors + warnings + missingLanguages(package);
-    QCOMPARE(told, lines(testData(text("checks/%1.txt").arg(name)).constData()));
+    const QStringList reported = findings(package) + errors + warnings + missingLanguages(package);
+    COMPARE_WITH_GOLDEN(checkData.filePath(name + text(".txt")), golden(reported));
 }
 
 void TestPackageInfoUtils::uids_data() {
@@ -330,7 +338,7 @@ void TestPackageInfoUtils::rules() {
         ids.append(rule.id);
         QVERIFY2(!rule.explanation.isEmpty() && !rule.remedy.isEmpty(), qPrintable(rule.id));
     }
-    QCOMPARE(ids, lines(testData(text("checks/rules.txt")).constData()));
+    COMPARE_WITH_GOLDEN(checkData.filePath(text("rules.txt")), golden(ids));
 }
 
 QTEST_GUILESS_MAIN(TestPackageInfoUtils)

@@ -25,6 +25,7 @@ class TestPackageInfoValidator : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void removedBehaviorsAreHeardNoMore();

@@ -1,4 +1,4 @@
-#include "field_path.h"
+#include "field_place.h"
 #include "icon_button.h"
 #include "main_window.h"
 #include "message_bar.h"
@@ -64,7 +64,7 @@ public:
             text = box->text();
             box->button(button)->click();
         })) {}
-    [[nodiscard]] bool isGiven() const { return m_isGiven; }
+    bool isGiven() const { return m_isGiven; }
 
     QString text;
 
@@ -115,7 +115,7 @@ private Q_SLOTS:
             const QString path =
                 problems()->model()->index(0, 0).data(ProblemsModel::PathRole).toString();
             doubleClickProblem(0);
-            mend(FieldPath::parse(path));
+            mend(FieldPlace::parse(path));
             QVERIFY2(problemCount() < left, qPrintable(path));
         }
         const int steps = stack()->count();
@@ -789,7 +789,7 @@ private:
     }
 
     // Mends the field that has the focus.
-    void mend(const FieldPath &path) {
+    void mend(const FieldPlace &path) {
         if (path.field == QLatin1String("model")) {
             press(Qt::Key_F2);
             press(Qt::Key_Down);

@@ -1,3 +1,4 @@
+#include "golden.h"
 #include "signal_log.h"
 #include "warning_guard.h"
 
@@ -13,6 +14,17 @@ namespace {
 RobotLanguage language(const char *code) {
     return robotLanguage(QString::fromUtf8(code));
 }
+
+// What the two malformed scripts of source.xml are reported with.
+const QString openParagraph =
+    QStringLiteral("genPlainTextValues: Could not generate plain text value properly: Line 1, "
+                   "column 12: The script ends while <p> is open.");
+const QString badRepeat =
+    QStringLiteral("genPlainTextFromScript: Could not generate plain text value properly: Line 1, "
+                   "column 1: The repeat \"-1\" is malformed; it is a number, or a range such as "
+                   "0-1 or 1-.");
+
+const QString trimmed = QStringLiteral(ZEL_TEST_DATA "/publication/trimmed.xml");
 
 QByteArray contentOf(const char *name) {
     QFile file(QStringLiteral(ZEL_TEST_DATA "/publication/") % QLatin1String(name));
@@ -41,24 +53,28 @@ class TestPublication : public QObject {
 
 private:
     PackageInfoModel m_package;
+    WarningGuard m_warnings;
 
 private Q_SLOTS:
     // It supports English, French and a script variant, is also described in German, and holds
     // texts in Dutch, which it does not list.
-    void init() { QVERIFY(m_package.loadFromManifestContent(contentOf("source.xml"))); }
+    void init() {
+        m_warnings.watch();
+        QVERIFY(m_package.loadFromManifestContent(contentOf("source.xml")));
+    }
+    void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void trims() {
         Tano::PackageInfo record = m_package.packageInfo();
         record.trimExtraInfo();
-        QCOMPARE(QByteArray::fromStdString(record.saveToManifestContent()),
-                 contentOf("trimmed.xml"));
+        COMPARE_WITH_GOLDEN(trimmed, QByteArray::fromStdString(record.saveToManifestContent()));
 
         const BehaviorInfoModel *pour = m_package.behaviors().at(0);
         SignalLog log(m_package);
         log.watch(*m_package.behaviors().at(0));
         m_package.trimExtraInfo();
         QCOMPARE(log.take(), QStringList());
-        QCOMPARE(m_package.saveToManifestContent(), contentOf("trimmed.xml"));
+        COMPARE_WITH_GOLDEN(trimmed, m_package.saveToManifestContent());
         QCOMPARE(printed(m_package.names()),
                  QStringLiteral("de_DE:Tee en_US:Tea<break/>time ja_JP-x-scrpol:<p>"));
         QCOMPARE(printed(m_package.descriptions()), QStringLiteral("en_US:One <p>open"));
@@ -139,7 +155,6 @@ private Q_SLOTS:
         for (BehaviorInfoModel *behavior : m_package.behaviors())
             log.watch(*behavior, behavior->path());
         m_package.trimExtraInfo();
-        WarningGuard warnings;
         m_package.genPlainTextFromScript();
         QCOMPARE(log.take(), lines(R"x(
             nameUpdated("Tee", de_DE-x-scrpol)
@@ -155,15 +170,7 @@ private Q_SLOTS:
             pour.loadingResponseAdded("<sub alias="x">1</sub>.", en_US-x-scrpol)
             pour.loadingResponseUpdated(0, "1.", en_US)
         )x"));
-        const QString failed =
-            QStringLiteral("Could not generate plain text value properly: Line ");
-        QCOMPARE(
-            warnings.take(),
-            QStringList({QLatin1String("genPlainTextValues: ") % failed %
-                             QLatin1String("1, column 12: The script ends while <p> is open."),
-                         QLatin1String("genPlainTextFromScript: ") % failed %
-                             QLatin1String("1, column 1: The repeat \"-1\" is malformed; it is a "
-                                           "number, or a range such as 0-1 or 1-.")}));
+        QCOMPARE(m_warnings.take(), QStringList({openParagraph, badRepeat}));
         QVERIFY(m_package.packageInfo().behaviors() == recordsOf(m_package.behaviors()));
 
         const RobotLanguage variant = m_package.names().back().second;
@@ -181,6 +188,8 @@ private Q_SLOTS:
     void generatesAgain() {
         m_package.genPlainTextFromScript();
         m_package.genPlainTextFromScript();
+        QCOMPARE(m_warnings.take(),
+                 QStringList({openParagraph, badRepeat, openParagraph, badRepeat}));
         const RobotLanguage variant = m_package.names().back().second;
         const BehaviorInfoModel *pour = m_package.behaviors().at(0);
         QCOMPARE(m_package.name(language("en_US")), QStringLiteral("Tea time"));
@@ -201,7 +210,9 @@ private Q_SLOTS:
             QCOMPARE(package.behaviors().size(), 1);
         };
         publish(&BehaviorInfoModel::triggerSentenceAdded);
+        QCOMPARE(m_warnings.take(), QStringList({openParagraph, badRepeat}));
         publish(&BehaviorInfoModel::behaviorDescriptionUpdated);
+        QCOMPARE(m_warnings.take(), QStringList(openParagraph));
     }
 
     void listsErrors() {

@@ -15,6 +15,7 @@ class TestTranslations : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_warnings.watch(); }
     void cleanup();
 
     void languages_data();

@@ -1,3 +1,4 @@
+#include "golden.h"
 #include "program_run.h"
 
 #include <packagemodel/package_info_model.h>
@@ -8,6 +9,25 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+namespace {
+
+// The output, each line of the messages after "2> ", and a status other than 0 after "=> ".
+QByteArray printed(const Outcome &outcome) {
+    QByteArray lines = outcome.out;
+    if (!lines.isEmpty() && !lines.endsWith('\n'))
+        lines += '\n';
+    const QList<QByteArray> messages = outcome.err.split('\n');
+    for (const QByteArray &message : messages) {
+        if (!message.isEmpty())
+            lines += "2> " + message + '\n';
+    }
+    if (outcome.status != 0)
+        lines += "=> " + QByteArray::number(outcome.status) + '\n';
+    return lines;
+}
+
+} // namespace
 
 class TestZelPackage : public QObject {
     Q_OBJECT
@@ -23,34 +43,27 @@ private:
 private Q_SLOTS:
     void init() { resetFiles(m_dir.path()); }
 
-    // Files of lines for a shell, "$ zel-package ...", each with what it prints, the lines of its
-    // messages after "2> ", and its status after "=> " where that is not 0.
+    // Files of lines for a shell, "$ zel-package ...", each followed by the printed() outcome.
     void shellLines_data() {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("expected");
+        QTest::addColumn<QString>("path");
         const auto files = QDir(testData("zel-package/shell")).entryInfoList(QDir::Files);
-        for (const QFileInfo &file : files) {
-            const QString content = u'\n' % QString::fromUtf8(contentOf(file.filePath()));
-            const QStringList steps = content.split(QStringLiteral("\n$ ")).mid(1);
-            for (const QString &step : steps) {
-                const QString line = step.section(u'\n', 0, 0);
-                QTest::addRow("%s: %s", qPrintable(file.baseName()), qUtf8Printable(line))
-                    << line << step.section(u'\n', 1).trimmed();
-            }
-        }
+        for (const QFileInfo &file : files)
+            QTest::newRow(qPrintable(file.baseName())) << file.filePath();
     }
 
     void shellLines() {
-        QFETCH(QString, line);
-        const Outcome outcome = runShell(line, m_dir.path());
-        QString printed = QString::fromUtf8(outcome.out);
-        const QStringList messages =
-            QString::fromUtf8(outcome.err).split(u'\n', Qt::SkipEmptyParts);
-        for (const QString &message : messages)
-            printed += u"2> " % message % u'\n';
-        if (outcome.status != 0)
-            printed += QStringLiteral("=> %1").arg(outcome.status);
-        QTEST(printed.trimmed(), "expected");
+        QFETCH(QString, path);
+        QByteArray transcript;
+        const QList<QByteArray> lines = contentOf(path).split('\n');
+        for (const QByteArray &line : lines) {
+            if (line.startsWith("$ ")) {
+                resetFiles(m_dir.path());
+                transcript +=
+                    line + '\n' + printed(runShell(QString::fromUtf8(line.mid(2)), m_dir.path()));
+            }
+        }
+        QVERIFY(!transcript.isEmpty());
+        COMPARE_WITH_GOLDEN(path, transcript);
     }
 
     // What the help offers, the manual page and the completion know.

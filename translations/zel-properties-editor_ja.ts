@@ -271,7 +271,7 @@
     </message>
 </context>
 <context>
-    <name>Editor::FieldPath</name>
+    <name>Editor::FieldPlace</name>
     <message>
         <source>Robot of requirement %1</source>
         <translation>要件 %1 のロボット</translation>

@@ -32,9 +32,9 @@ private:
     void reload();
     void refresh();
     void setLists();
-    [[nodiscard]] QString path() const;
-    [[nodiscard]] Zel::RobotLanguage language() const;
-    [[nodiscard]] Zel::PackageInfoModel *package() const { return m_document.package(); }
+    QString path() const;
+    Zel::RobotLanguage language() const;
+    Zel::PackageInfoModel *package() const { return m_document.package(); }
 
     Document &m_document;
     QPointer<Zel::BehaviorInfoModel> m_behavior;

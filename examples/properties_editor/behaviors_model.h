@@ -17,15 +17,15 @@ public:
 
     explicit BehaviorsModel(Document &document, QObject *parent = nullptr);
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role = Qt::DisplayRole) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
 
     /// Null for a row outside the list.
-    [[nodiscard]] Zel::BehaviorInfoModel *behavior(int row) const;
-    [[nodiscard]] int rowOf(const Zel::BehaviorInfoModel *behavior) const;
+    Zel::BehaviorInfoModel *behavior(int row) const;
+    int rowOf(const Zel::BehaviorInfoModel *behavior) const;
 
 private:
     void reset();

@@ -133,7 +133,7 @@ void BehaviorsPage::remove() {
         document().push(newRemoveBehaviorCommand(package(), row));
 }
 
-bool BehaviorsPage::showField(const FieldPath &path) {
+bool BehaviorsPage::showField(const FieldPlace &path) {
     if (path.list != QLatin1String("behaviors"))
         return false;
     if (const BehaviorInfoModel *behavior = package()->behavior(path.key)) {

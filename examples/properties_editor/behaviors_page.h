@@ -19,7 +19,7 @@ class BehaviorsPage : public Page {
 
 public:
     explicit BehaviorsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
     void takePending() override;
 
 private:
@@ -28,7 +28,7 @@ private:
     void select(const Zel::BehaviorInfoModel *behavior);
     void showCurrent();
     void restoreCurrent();
-    [[nodiscard]] int currentRow() const;
+    int currentRow() const;
 
     BehaviorsModel *m_model;
     QSortFilterProxyModel *m_filtered;

@@ -140,7 +140,7 @@ void DialogsPage::add() {
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
 }
 
-bool DialogsPage::showField(const FieldPath &) {
+bool DialogsPage::showField(const FieldPlace &) {
     return false; // nothing is checked in dialogs
 }
 

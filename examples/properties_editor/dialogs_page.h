@@ -16,7 +16,7 @@ class DialogsPage : public Page {
 
 public:
     explicit DialogsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     QWidget *newList();
@@ -24,7 +24,7 @@ private:
     void add();
     void showCurrent();
     void refresh();
-    [[nodiscard]] Zel::DialogInfoModel *current() const;
+    Zel::DialogInfoModel *current() const;
 
     DialogsModel *m_dialogs;
     TopicsModel *m_topics;

@@ -1,6 +1,6 @@
 #include "document.h"
 
-#include "field_path.h"
+#include "field_place.h"
 
 #include <packagemodel/set_command.h>
 
@@ -253,7 +253,7 @@ void Document::refreshIssues() {
         const bool isFirst = !m_issueByPath.contains(issue.path);
         keepWorst(m_issueByPath[issue.path], issue,
                   isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
-        const FieldPath path = FieldPath::parse(issue.path);
+        const FieldPlace path = FieldPlace::parse(issue.path);
         if (path.list == QLatin1String("behaviors")) {
             const bool isNew = !m_behaviorSeverity.contains(path.key);
             keepWorst(m_behaviorSeverity[path.key], issue.severity, isNew || isError);

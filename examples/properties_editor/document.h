@@ -37,9 +37,9 @@ public:
     ~Document() override;
 
     /// Replaced as a whole by what opens a package, so do not keep it beyond packageReplaced().
-    [[nodiscard]] Zel::PackageInfoModel *package() const { return m_package.get(); }
-    [[nodiscard]] QUndoStack *undoStack() { return &m_undoStack; }
-    [[nodiscard]] bool isModified() const { return !m_undoStack.isClean(); }
+    Zel::PackageInfoModel *package() const { return m_package.get(); }
+    QUndoStack *undoStack() { return &m_undoStack; }
+    bool isModified() const { return !m_undoStack.isClean(); }
 
     // Files. What fails returns false, leaves everything as it was, and explains itself in
     // errorString().
@@ -52,8 +52,8 @@ public:
     bool save(const QString &fileName);
     /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
     bool publish(const QString &fileName);
-    [[nodiscard]] const QString &fileName() const { return m_fileName; }
-    [[nodiscard]] const QString &errorString() const { return m_errorString; }
+    const QString &fileName() const { return m_fileName; }
+    const QString &errorString() const { return m_errorString; }
 
     /// Compares the file with what was last read or written. Once for every difference, sends
     /// fileDiffers().
@@ -72,15 +72,14 @@ public:
 
     // What is wrong, as it is right now.
 
-    [[nodiscard]] const QVector<Zel::PackageModel::Issue> &issues() const { return m_issues; }
+    const QVector<Zel::PackageModel::Issue> &issues() const { return m_issues; }
     /// The worst issue of the field with that path.
-    [[nodiscard]] std::optional<Zel::PackageModel::Issue> issueAt(const QString &path) const;
+    std::optional<Zel::PackageModel::Issue> issueAt(const QString &path) const;
     /// The severity of the worst issue of a behavior.
-    [[nodiscard]] std::optional<Zel::PackageModel::Severity>
-    behaviorSeverity(const QString &behaviorPath) const;
+    std::optional<Zel::PackageModel::Severity> behaviorSeverity(const QString &behaviorPath) const;
 
     /// Grows when a text of a behavior, or the list of behaviors, changes.
-    [[nodiscard]] int behaviorTextsRevision() const { return m_behaviorTextsRevision; }
+    int behaviorTextsRevision() const { return m_behaviorTextsRevision; }
 
 Q_SIGNALS:
     void packageReplaced();

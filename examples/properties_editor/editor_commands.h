@@ -30,9 +30,9 @@ public:
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override;
+    int id() const override;
     bool mergeWith(const QUndoCommand *incoming) override;
-    [[nodiscard]] bool isFinalCommand() const override;
+    bool isFinalCommand() const override;
 
 private:
     TextSlot m_slot;
@@ -58,7 +58,7 @@ private:
         Zel::RobotLanguages described;
         std::vector<Zel::Language::LocalizedStrings> topics; // of each dialog
     };
-    [[nodiscard]] State state() const;
+    State state() const;
     void restore(const State &state);
 
     State m_before;

@@ -1,6 +1,6 @@
 #include "editor_commands.h"
 
-#include "field_path.h"
+#include "field_place.h"
 
 #include <packagemodel/package_info_model.h>
 

@@ -12,12 +12,12 @@ class DialogsModel : public TableModel {
 
 public:
     explicit DialogsModel(Document &document, QObject *parent = nullptr);
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
 };
 
 /// The topic files of one dialog: a row for each language that the package supports or the dialog
@@ -30,19 +30,19 @@ public:
     /// Shows the dialog at a row of the package's list; none for -1.
     void setDialog(int row);
 
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
-    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 
 private:
-    [[nodiscard]] const Zel::DialogInfoModel *dialog() const;
+    const Zel::DialogInfoModel *dialog() const;
 
     int m_dialogRow = -1;
 };
@@ -55,15 +55,15 @@ public:
     enum Column { Name, ExecStart, AutoRun };
 
     explicit ServicesModel(Document &document, QObject *parent = nullptr);
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
+    QString refusal(const QModelIndex &index, const QString &text) const override;
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
-    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 };
 
 /// A name that no entry has yet: `stem`, or the stem with a number.

@@ -40,7 +40,7 @@ private:
     void tellFailure(const QString &title, const QString &fileName);
     void fillRecentMenu();
     void rememberRecent(const QString &fileName);
-    [[nodiscard]] QString directory() const;
+    QString directory() const;
 
     MainWindow &m_window;
     Document &m_document;

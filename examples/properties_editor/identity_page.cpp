@@ -80,7 +80,7 @@ TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
                       placeholder);
 }
 
-bool IdentityPage::showField(const FieldPath &path) {
+bool IdentityPage::showField(const FieldPlace &path) {
     if (path.list != QLatin1String("uid"))
         return false;
     m_uid->widget()->setFocus(Qt::OtherFocusReason);

@@ -10,7 +10,7 @@ class IdentityPage : public Page {
 
 public:
     explicit IdentityPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,

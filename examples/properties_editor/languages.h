@@ -7,8 +7,8 @@
 namespace Editor {
 
 /// The language of a code, also of one that the table of languages does not know.
-[[nodiscard]] Zel::RobotLanguage languageOf(const QString &code);
+Zel::RobotLanguage languageOf(const QString &code);
 /// The name of the language of a code, for people.
-[[nodiscard]] QString languageName(const QString &code);
+QString languageName(const QString &code);
 
 } // namespace Editor

@@ -1,7 +1,7 @@
 #include "languages_model.h"
 
 #include "editor_commands.h"
-#include "field_path.h"
+#include "field_place.h"
 #include "languages.h"
 #include "marks.h"
 #include "plain_text.h"

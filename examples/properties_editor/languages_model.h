@@ -18,17 +18,17 @@ public:
 
     explicit LanguagesModel(Document &document, QObject *parent = nullptr);
 
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
     /// "Supported languages: 10. With a name: 9. With a description: 8."
-    [[nodiscard]] QString summary() const;
+    QString summary() const;
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
-    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
     void packageReplaced() override;
 
 private:
@@ -37,8 +37,8 @@ private:
         int wanted = 0;
     };
     void countBehaviorTexts() const;
-    [[nodiscard]] Count coverage(const QString &code) const;
-    [[nodiscard]] QVariant display(const QModelIndex &index) const;
+    Count coverage(const QString &code) const;
+    QVariant display(const QModelIndex &index) const;
 
     QStringList m_mentioned; // the languages that the file speaks of anywhere
     // Counted when they are asked for, since there may be very many.

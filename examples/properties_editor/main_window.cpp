@@ -260,7 +260,7 @@ void MainWindow::showPage(int index) {
 }
 
 void MainWindow::showField(const QString &path) {
-    const FieldPath field = FieldPath::parse(path);
+    const FieldPlace field = FieldPlace::parse(path);
     for (int i = 0; i < m_pages.size(); ++i) {
         // It has to be on show to take the focus.
         const int previous = m_navigation->currentRow();

@@ -26,7 +26,7 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    [[nodiscard]] Document &document() { return m_document; }
+    Document &document() { return m_document; }
 
     /// Opens a manifest, once unsaved changes are settled; says so when it cannot be read.
     bool openFile(const QString &fileName);
@@ -52,7 +52,7 @@ private:
     void addStatus();
     void refreshTitle();
     void refreshStatus();
-    [[nodiscard]] QWidget *openCellEditor() const;
+    QWidget *openCellEditor() const;
     bool askAboutRefusal(const QString &refusal, QWidget *field);
 
     Document m_document;

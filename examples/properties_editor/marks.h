@@ -19,25 +19,24 @@ struct Mark {
     Zel::PackageModel::Severity severity;
     QString text; ///< plain
 
-    [[nodiscard]] static std::optional<Mark>
-    ofIssue(const std::optional<Zel::PackageModel::Issue> &issue);
+    static std::optional<Mark> ofIssue(const std::optional<Zel::PackageModel::Issue> &issue);
     /// For a text that the model cannot take; none when `sentence` is empty.
-    [[nodiscard]] static std::optional<Mark> ofRefusal(const QString &sentence);
+    static std::optional<Mark> ofRefusal(const QString &sentence);
 };
 
 /// The icon of the platform's theme, or the style's own where the theme has none.
-[[nodiscard]] QIcon platformIcon(const QString &name, QStyle::StandardPixmap fallback);
-[[nodiscard]] QIcon severityIcon(Zel::PackageModel::Severity severity);
+QIcon platformIcon(const QString &name, QStyle::StandardPixmap fallback);
+QIcon severityIcon(Zel::PackageModel::Severity severity);
 /// "Error" or "Warning".
-[[nodiscard]] QString severityName(Zel::PackageModel::Severity severity);
+QString severityName(Zel::PackageModel::Severity severity);
 /// The background of a field at fault, in light and in dark.
-[[nodiscard]] QColor severityColor(Zel::PackageModel::Severity severity);
+QColor severityColor(Zel::PackageModel::Severity severity);
 
 /// Tints a field, and tells the text as its tool tip and to assistive tools; without a mark it
 /// looks as ever.
 void markField(QWidget *field, const std::optional<Mark> &mark);
 /// How a cell of an item model shows a mark; invalid for roles that it does not concern.
-[[nodiscard]] QVariant markData(const std::optional<Mark> &mark, int role);
+QVariant markData(const std::optional<Mark> &mark, int role);
 
 /// A line of text that says what is wrong, and is hidden while nothing is.
 class MarkLabel : public QWidget {

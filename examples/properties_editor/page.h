@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document.h"
-#include "field_path.h"
+#include "field_place.h"
 #include "text_field.h"
 
 #include <QIcon>
@@ -17,12 +17,12 @@ class Page : public QWidget {
     Q_OBJECT
 
 public:
-    [[nodiscard]] const QString &title() const { return m_title; }
-    [[nodiscard]] const QIcon &icon() const { return m_icon; }
+    const QString &title() const { return m_title; }
+    const QIcon &icon() const { return m_icon; }
 
     /// Shows the field with that path and gives it the focus; returns false when it is on another
     /// page.
-    virtual bool showField(const FieldPath &path) = 0;
+    virtual bool showField(const FieldPlace &path) = 0;
 
     /// Takes what is typed in a line whose text goes into the package with a button only.
     virtual void takePending() {}
@@ -30,8 +30,8 @@ public:
 protected:
     Page(Document &document, const QString &title, const QIcon &icon, QWidget *parent = nullptr);
 
-    [[nodiscard]] Document &document() const { return m_document; }
-    [[nodiscard]] Zel::PackageInfoModel *package() const { return m_document.package(); }
+    Document &document() const { return m_document; }
+    Zel::PackageInfoModel *package() const { return m_document.package(); }
 
 private:
     Document &m_document;

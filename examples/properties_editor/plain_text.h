@@ -8,7 +8,7 @@ namespace Editor {
 // file names are plain text, whatever they look like.
 
 /// The rich text that shows a plain text as a tool tip; empty for an empty text.
-[[nodiscard]] QString toolTipOf(const QString &text);
+QString toolTipOf(const QString &text);
 
 /// A message box whose texts are plain.
 class PlainMessageBox : public QMessageBox {

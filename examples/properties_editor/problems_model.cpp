@@ -1,6 +1,6 @@
 #include "problems_model.h"
 
-#include "field_path.h"
+#include "field_place.h"
 #include "marks.h"
 #include "plain_text.h"
 
@@ -31,7 +31,7 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
         case Text:
             return Mark::ofIssue(issue)->text;
         default:
-            return FieldPath::parse(issue.path).label();
+            return FieldPlace::parse(issue.path).label();
         }
     case Qt::DecorationRole:
         return index.column() == Severity ? severityIcon(issue.severity) : QVariant();

@@ -15,12 +15,12 @@ public:
 
     explicit ProblemsModel(Document &document, QObject *parent = nullptr);
 
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
 };
 
 } // namespace Editor

@@ -1,6 +1,6 @@
 #include "requirements_model.h"
 
-#include "field_path.h"
+#include "field_place.h"
 #include "marks.h"
 #include "text_field.h"
 

@@ -14,24 +14,24 @@ public:
 
     RequirementsModel(Document &document, Kind kind, QObject *parent = nullptr);
 
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
-    [[nodiscard]] QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
+    QString refusal(const QModelIndex &index, const QString &text) const override;
+    QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
     void add();
     void remove(int row);
     /// The column of the field with that name in the paths of issues; -1 when there is none.
-    [[nodiscard]] int columnOf(const QString &field) const;
+    int columnOf(const QString &field) const;
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
-    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 
 private:
-    [[nodiscard]] bool isModelColumn(const QModelIndex &index) const;
+    bool isModelColumn(const QModelIndex &index) const;
 
     Kind m_kind;
     const std::vector<RequirementField> &m_fields;

@@ -74,7 +74,7 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     return {model, table};
 }
 
-bool RequirementsPage::showField(const FieldPath &path) {
+bool RequirementsPage::showField(const FieldPlace &path) {
     const bool isRobot = path.list == QLatin1String("robotRequirements");
     if (!isRobot && path.list != QLatin1String("brioRequirements"))
         return false;

@@ -14,7 +14,7 @@ class RequirementsPage : public Page {
 
 public:
     explicit RequirementsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     struct Part {

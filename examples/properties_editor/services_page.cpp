@@ -57,7 +57,7 @@ void ServicesPage::add() {
     m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
 }
 
-bool ServicesPage::showField(const FieldPath &) {
+bool ServicesPage::showField(const FieldPlace &) {
     return false; // nothing is checked in services
 }
 

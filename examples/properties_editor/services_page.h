@@ -14,7 +14,7 @@ class ServicesPage : public Page {
 
 public:
     explicit ServicesPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     void add();

@@ -24,7 +24,7 @@ public:
     /// Adds what is typed in the line, as its button does.
     void takePending();
     void focusAddition();
-    [[nodiscard]] QListView *view() const { return m_view; }
+    QListView *view() const { return m_view; }
 
 private:
     void refresh();

@@ -24,23 +24,23 @@ public:
     /// Shows another list. It has to be called again for another package.
     void setSource(const ListSource &source);
 
-    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    [[nodiscard]] QString refusal(const QModelIndex &index, const QString &text) const override;
+    QString refusal(const QModelIndex &index, const QString &text) const override;
 
     /// Why a text cannot be added; empty when it can.
-    [[nodiscard]] QString additionRefusal(const QString &text) const;
+    QString additionRefusal(const QString &text) const;
     void add(const QString &text);
     void remove(int row);
 
 protected:
-    [[nodiscard]] QStringList currentKeys() const override;
-    [[nodiscard]] QStringList titles() const override;
-    [[nodiscard]] Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 
 private:
-    [[nodiscard]] QStringList items() const;
+    QStringList items() const;
 
     QString m_title;
     ListSource m_source;

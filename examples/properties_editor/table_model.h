@@ -13,20 +13,20 @@ class TableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role = Qt::DisplayRole) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
 
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
 
     /// Why a cell cannot take a text; empty when it can.
-    [[nodiscard]] virtual QString refusal(const QModelIndex &index, const QString &text) const;
+    virtual QString refusal(const QModelIndex &index, const QString &text) const;
     /// What may be chosen for a cell, as pairs of the value and its text; empty where anything
     /// goes.
-    [[nodiscard]] virtual QVector<QPair<QString, QString>> choices(const QModelIndex &index) const;
+    virtual QVector<QPair<QString, QString>> choices(const QModelIndex &index) const;
 
-    [[nodiscard]] const QStringList &keys() const { return m_keys; }
-    [[nodiscard]] QString key(const QModelIndex &index) const { return m_keys.value(index.row()); }
+    const QStringList &keys() const { return m_keys; }
+    QString key(const QModelIndex &index) const { return m_keys.value(index.row()); }
 
     /// Brings rows and cells up to date.
     void sync();
@@ -35,16 +35,16 @@ protected:
     explicit TableModel(Document &document, QObject *parent = nullptr);
 
     /// What tells the rows apart, in order. Where entries have no key of their own, numbered().
-    [[nodiscard]] virtual QStringList currentKeys() const = 0;
-    [[nodiscard]] virtual QStringList titles() const = 0;
+    virtual QStringList currentKeys() const = 0;
+    virtual QStringList titles() const = 0;
     /// The flags of a cell beside those of any cell.
-    [[nodiscard]] virtual Qt::ItemFlags extraFlags(const QModelIndex &index) const;
+    virtual Qt::ItemFlags extraFlags(const QModelIndex &index) const;
     /// For a new package, before its rows are asked for.
     virtual void packageReplaced() {}
 
-    [[nodiscard]] static QStringList numbered(int count);
-    [[nodiscard]] Document &document() const { return m_document; }
-    [[nodiscard]] Zel::PackageInfoModel *package() const { return m_document.package(); }
+    static QStringList numbered(int count);
+    Document &document() const { return m_document; }
+    Zel::PackageInfoModel *package() const { return m_document.package(); }
 
     /// To be called at the end of a subclass's constructor.
     void start() { reset(); }

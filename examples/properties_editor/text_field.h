@@ -34,8 +34,8 @@ public:
     /// Shows the text of the package, for example since it is that of another entry now.
     void reload();
     /// Why the text in the field cannot be taken; empty when it can.
-    [[nodiscard]] const QString &refusal() const { return m_refusal; }
-    [[nodiscard]] QWidget *widget() const { return m_widget; }
+    const QString &refusal() const { return m_refusal; }
+    QWidget *widget() const { return m_widget; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -45,7 +45,7 @@ private:
     void take();
     void finish();
     void mark();
-    [[nodiscard]] QString text() const;
+    QString text() const;
     void setText(const QString &text);
 
     QWidget *m_widget;
@@ -62,6 +62,6 @@ private:
 void yieldUndo(QWidget *widget);
 
 /// Why a text is no version; empty for one that is, and for an empty text, which is not set.
-[[nodiscard]] QString versionRefusal(const QString &text);
+QString versionRefusal(const QString &text);
 
 } // namespace Editor

@@ -176,7 +176,7 @@ void TextsPage::removeLanguage() {
     stack->endMacro();
 }
 
-bool TextsPage::showField(const FieldPath &path) {
+bool TextsPage::showField(const FieldPlace &path) {
     const bool isName = path.list == QLatin1String("names");
     if (!isName && path.list != QLatin1String("descriptions"))
         return false;

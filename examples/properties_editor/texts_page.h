@@ -16,7 +16,7 @@ class TextsPage : public Page {
 
 public:
     explicit TextsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPath &path) override;
+    bool showField(const FieldPlace &path) override;
 
 private:
     void fillLanguageMenu();
@@ -25,7 +25,7 @@ private:
     void addOtherLanguage();
     void showCurrent();
     void refresh();
-    [[nodiscard]] Zel::RobotLanguage current() const;
+    Zel::RobotLanguage current() const;
 
     LanguagesModel *m_model;
     QTableView *m_table;

@@ -23,11 +23,10 @@ public:
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
-                                 const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
     /// Why the text in an editor cannot be taken; empty when it can.
-    [[nodiscard]] static QString refusal(const QLineEdit *editor);
+    static QString refusal(const QLineEdit *editor);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,5 +1,5 @@
-#include "command.h"
-#include "text_layout.h"
+#include "console/text_layout.h"
+#include "program_command.h"
 
 #include <packagemodel/translation.h>
 

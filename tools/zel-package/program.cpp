@@ -1,7 +1,7 @@
-#include "command.h"
-#include "field_list.h"
-#include "suggestion.h"
-#include "text_layout.h"
+#include "arguments/suggestion.h"
+#include "console/field_list.h"
+#include "console/text_layout.h"
+#include "program_command.h"
 
 #include <algorithm>
 #include <array>
@@ -27,14 +27,14 @@ QString titled(const QString &title, const FieldList &fields, const Console &con
     return console.styled(title, Style::Heading) % u'\n' % fields.toText(console, 2);
 }
 
-QString usageOf(const Command &command) {
+QString usageOf(const ProgramCommand &command) {
     const QString usage = programName % u' ' % QLatin1String(command.name);
     return *command.usage ? usage % u' ' % translated(command.usage) : usage;
 }
 
 void printHelp(Console &console) {
     FieldList list;
-    for (const Command *command : commands)
+    for (const ProgramCommand *command : commands)
         list.add(QLatin1String(command->name), translated(command->summary));
     console.print(
         QCoreApplication::translate("zel-package", "Usage: %1")
@@ -62,7 +62,7 @@ QString labelOf(const QCommandLineOption &option) {
     return option.valueName().isEmpty() ? label : label % u' ' % option.valueName();
 }
 
-void printHelp(const Command &command, Console &console) {
+void printHelp(const ProgramCommand &command, Console &console) {
     console.print(QCoreApplication::translate("zel-package", "Usage: %1").arg(usageOf(command)) %
                   QStringLiteral("\n\n") % paragraph(translated(command.description), console));
     FieldList list;
@@ -91,7 +91,7 @@ void tellUnknownOption(const QString &option, const QStringList &known, const QS
 }
 
 // Tells what is wrong with the arguments of a command, if anything is.
-bool checkArguments(const Command &command, const QStringList &knownOptions,
+bool checkArguments(const ProgramCommand &command, const QStringList &knownOptions,
                     const QCommandLineParser &parser, bool isParsed, Console &console) {
     const QStringList unknown = parser.unknownOptionNames();
     if (!unknown.isEmpty()) {
@@ -119,7 +119,8 @@ bool checkArguments(const Command &command, const QStringList &knownOptions,
     return true;
 }
 
-ExitStatus runCommand(const Command &command, const QStringList &arguments, Console &console) {
+ExitStatus runCommand(const ProgramCommand &command, const QStringList &arguments,
+                      Console &console) {
     QCommandLineParser parser;
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     QList<QCommandLineOption> options = command.options();
@@ -138,16 +139,17 @@ ExitStatus runCommand(const Command &command, const QStringList &arguments, Cons
                                                                      : Failure;
 }
 
-const Command *commandNamed(const QString &name) {
-    const auto it = std::find_if(commands.begin(), commands.end(), [&](const Command *command) {
-        return name == QLatin1String(command->name);
-    });
+const ProgramCommand *commandNamed(const QString &name) {
+    const auto it =
+        std::find_if(commands.begin(), commands.end(), [&](const ProgramCommand *command) {
+            return name == QLatin1String(command->name);
+        });
     return it == commands.end() ? nullptr : *it;
 }
 
 void tellUnknownCommand(const QString &name, Console &console) {
     QStringList names;
-    for (const Command *command : commands)
+    for (const ProgramCommand *command : commands)
         names += QLatin1String(command->name);
     console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
                      .arg(name, suggestion(name, names,
@@ -173,7 +175,7 @@ ExitStatus runProgram(const QStringList &arguments, Console &console) {
         console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
         return Fine;
     }
-    if (const Command *command = commandNamed(first))
+    if (const ProgramCommand *command = commandNamed(first))
         return runCommand(*command, arguments.mid(1), console);
     if (first.startsWith(u'-'))
         tellUnknownOption(first, {QStringLiteral("--help"), QStringLiteral("--version")},

@@ -24,14 +24,14 @@ public:
     /// Leaves it there.
     void keep() { m_path.clear(); }
 
-    [[nodiscard]] int file() const { return m_file.number(); }
-    [[nodiscard]] const std::string &path() const { return m_path; }
+    int file() const { return m_file.number(); }
+    const std::string &path() const { return m_path; }
 
     /// Removes those of the same target whose process has ended.
     void removeStale() const;
 
 private:
-    [[nodiscard]] std::string prefix() const;
+    std::string prefix() const;
 
     std::string m_target;
     std::string m_path; // empty where there is none to remove
@@ -39,6 +39,6 @@ private:
 };
 
 /// The folder of a file.
-[[nodiscard]] std::string folderOf(const std::string &path);
+std::string folderOf(const std::string &path);
 
 } // namespace Tano

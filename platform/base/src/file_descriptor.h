@@ -23,7 +23,7 @@ public:
             ::close(m_number);
     }
 
-    [[nodiscard]] int number() const { return m_number; }
+    int number() const { return m_number; }
     explicit operator bool() const { return m_number >= 0; }
 
 private:

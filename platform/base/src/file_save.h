@@ -26,8 +26,8 @@ public:
     /// Removes the copy, and those that killed processes have left.
     void finish();
 
-    [[nodiscard]] const std::string &path() const { return m_file.path; }
-    [[nodiscard]] bool hasConflict() const { return m_hasConflict; }
+    const std::string &path() const { return m_file.path; }
+    bool hasConflict() const { return m_hasConflict; }
 
 private:
     std::string resolve();

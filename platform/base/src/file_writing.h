@@ -9,11 +9,11 @@ namespace Tano {
 // Functions that return a text return why they failed; the empty text after a success.
 
 /// The text of an error number, by default of the last one.
-[[nodiscard]] std::string systemReason();
-[[nodiscard]] std::string systemReason(int error);
+std::string systemReason();
+std::string systemReason(int error);
 
 /// The whole content of an open file; nothing where it cannot be read.
-[[nodiscard]] std::optional<std::string> contentOf(int file);
+std::optional<std::string> contentOf(int file);
 
 /// Writes the bytes at the beginning of an open file.
 [[nodiscard]] std::string writeAll(int file, const std::string &bytes);

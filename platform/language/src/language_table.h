@@ -16,19 +16,19 @@ public:
     static LanguageTable &instance();
 
     /// In the order of knownLanguages().
-    [[nodiscard]] RobotLanguages languages() const;
+    RobotLanguages languages() const;
 
     /// The language with an empty code if there is none with this code.
-    [[nodiscard]] RobotLanguage find(const QString &isoCode) const;
+    RobotLanguage find(const QString &isoCode) const;
 
     /// Keeps the language for good. Does nothing for an empty code; a code that is known already
     /// keeps its descriptor.
     void add(const RobotLanguage &language);
 
     /// find(), or a new partial language that the table forgets once nobody else has a copy of it.
-    [[nodiscard]] RobotLanguage findOrLend(const QString &isoCode);
+    RobotLanguage findOrLend(const QString &isoCode);
 
-    [[nodiscard]] const RobotLanguage &defaultLanguage() const { return m_default; }
+    const RobotLanguage &defaultLanguage() const { return m_default; }
     void setDefaultLanguage(const RobotLanguage &language);
 
 private:
@@ -36,7 +36,7 @@ private:
         RobotLanguage language;
         bool isLent = false; // known only while its descriptor has other copies
 
-        [[nodiscard]] bool isKnown() const { return !isLent || language.hasCopies(); }
+        bool isKnown() const { return !isLent || language.hasCopies(); }
     };
 
     LanguageTable();

@@ -87,10 +87,10 @@ public:
     }
 
     /// The extras of the child there; null for none.
-    [[nodiscard]] const Extras *child(Element element, std::string_view key, int index) const;
+    const Extras *child(Element element, std::string_view key, int index) const;
 
     /// The keys of the children of a kind that have extras.
-    [[nodiscard]] std::vector<const std::string *> childKeys(Element element) const;
+    std::vector<const std::string *> childKeys(Element element) const;
 
 private:
     std::vector<std::pair<Position, const std::string *>> m_kept; // in the canonical order

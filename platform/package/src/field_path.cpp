@@ -46,10 +46,10 @@ public:
         return path;
     }
 
-    [[nodiscard]] FieldPath::Error error() const { return {m_message, m_at}; }
+    FieldPath::Error error() const { return {m_message, m_at}; }
 
 private:
-    [[nodiscard]] bool isAt(char c) const { return m_at < m_text.size() && m_text[m_at] == c; }
+    bool isAt(char c) const { return m_at < m_text.size() && m_text[m_at] == c; }
 
     bool fail(const char *message) {
         m_message = message;

@@ -31,8 +31,8 @@ public:
                     SourcePosition position);
 
     /// The position of a field, else of the nearest element around it.
-    [[nodiscard]] SourcePosition find(const FieldPath &path) const;
-    [[nodiscard]] std::vector<UnknownNode> unknownNodes() const;
+    SourcePosition find(const FieldPath &path) const;
+    std::vector<UnknownNode> unknownNodes() const;
 
 private:
     using KeyId = std::uint32_t;
@@ -59,12 +59,12 @@ private:
 
     KeyId intern(const std::string &key);
     void buildIndex() const;
-    [[nodiscard]] Siblings siblings(NodeId parent, Element element, std::string_view key) const;
-    [[nodiscard]] NodeId child(NodeId parent, const FieldPath::Step &step) const;
-    [[nodiscard]] NodeId block(NodeId parent, const FieldPath::Step &step) const;
-    [[nodiscard]] NodeId entry(NodeId parent, Element element, const FieldPath::Step &step,
-                               std::size_t used) const;
-    [[nodiscard]] FieldPath pathOf(NodeId node) const;
+    Siblings siblings(NodeId parent, Element element, std::string_view key) const;
+    NodeId child(NodeId parent, const FieldPath::Step &step) const;
+    NodeId block(NodeId parent, const FieldPath::Step &step) const;
+    NodeId entry(NodeId parent, Element element, const FieldPath::Step &step,
+                 std::size_t used) const;
+    FieldPath pathOf(NodeId node) const;
 
     // Deques do not move their contents when they grow, which would take twice the memory.
     std::deque<Node> m_nodes;

@@ -27,15 +27,15 @@ public:
             m_gap = Separator;
     }
 
-    [[nodiscard]] std::size_t size() const { return m_text.size(); }
-    [[nodiscard]] Mark mark() const { return {m_text.size(), m_gap}; }
+    std::size_t size() const { return m_text.size(); }
+    Mark mark() const { return {m_text.size(), m_gap}; }
     /// Takes back all that was appended since `mark`.
     void rewind(const Mark &mark) {
         m_text.resize(mark.size);
         m_gap = mark.gap;
     }
 
-    [[nodiscard]] std::string take() { return std::move(m_text); }
+    std::string take() { return std::move(m_text); }
 
 private:
     enum Gap { NoGap, Separator, WhiteSpace };

@@ -19,7 +19,7 @@ public:
     }
 
     /// The position behind the bytes, counted from 1.
-    [[nodiscard]] SourcePosition position() const { return {m_line, m_column}; }
+    SourcePosition position() const { return {m_line, m_column}; }
 
 private:
     void advanceByLines(std::string_view bytes) {

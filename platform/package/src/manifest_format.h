@@ -72,9 +72,9 @@ public:
         : m_first(rows)
         , m_count(Count) {}
 
-    [[nodiscard]] constexpr const Row *begin() const { return m_first; }
-    [[nodiscard]] constexpr const Row *end() const { return m_first + m_count; }
-    [[nodiscard]] constexpr std::size_t size() const { return m_count; }
+    constexpr const Row *begin() const { return m_first; }
+    constexpr const Row *end() const { return m_first + m_count; }
+    constexpr std::size_t size() const { return m_count; }
     constexpr const Row &operator[](std::size_t i) const { return m_first[i]; }
 
 private:
@@ -121,8 +121,8 @@ struct Position {
     int index = 0;
     std::shared_ptr<const std::string> key = {}; // null for the empty key
 
-    [[nodiscard]] const std::string &keyText() const;
-    [[nodiscard]] Place place() const { return {element, keyText(), index}; }
+    const std::string &keyText() const;
+    Place place() const { return {element, keyText(), index}; }
 };
 
 inline bool operator<(const Position &a, const Position &b) {

@@ -43,10 +43,10 @@ public:
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
     static_assert(int(Element::Count) <= 32, "Frame::seen has a bit per element");
 
-    [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
+    const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
     [[nodiscard]] std::shared_ptr<PackageData> takePackage();
-    [[nodiscard]] FieldPositions takeFieldPositions() { return std::move(m_positions); }
+    FieldPositions takeFieldPositions() { return std::move(m_positions); }
 
 private:
     // An open element that the format knows.
@@ -104,22 +104,20 @@ private:
     void storeExtras(Frame &frame);
     void notePositions(Frame &frame, const XML_Char **attributes);
 
-    [[nodiscard]] int nextIndex(const Frame &frame);
-    [[nodiscard]] std::vector<std::string> *openList(Element element);
-    [[nodiscard]] TextMap &textsField(Element block, Element field);
-    [[nodiscard]] std::string take(int attribute) {
-        return std::move(m_values[std::size_t(attribute)]);
-    }
-    [[nodiscard]] bool takeFlag(const Frame &frame, int attribute);
-    [[nodiscard]] Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
-    [[nodiscard]] Frame &parentOf(const Frame &frame) {
+    int nextIndex(const Frame &frame);
+    std::vector<std::string> *openList(Element element);
+    TextMap &textsField(Element block, Element field);
+    std::string take(int attribute) { return std::move(m_values[std::size_t(attribute)]); }
+    bool takeFlag(const Frame &frame, int attribute);
+    Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
+    Frame &parentOf(const Frame &frame) {
         return m_frames[std::size_t(&frame - m_frames.data()) - 1];
     }
-    [[nodiscard]] static Position positionOf(const Frame &frame);
-    [[nodiscard]] static std::string describe(const Frame &frame);
-    [[nodiscard]] SourcePosition here() const;
+    static Position positionOf(const Frame &frame);
+    static std::string describe(const Frame &frame);
+    SourcePosition here() const;
     SourcePosition countLines(std::uint64_t offset);
-    [[nodiscard]] std::uint64_t eventOffset() const;
+    std::uint64_t eventOffset() const;
 
     void fail(std::string message);
     void failFromExpat();

@@ -84,8 +84,8 @@ private:
     }
     void escaped(const Node &node, std::string_view text, EscapeFor where);
     void fail(const Node &node, std::string reason);
-    [[nodiscard]] int indexOf(const Node &node) const;
-    [[nodiscard]] FieldPath pathOf(const Node &node) const;
+    int indexOf(const Node &node) const;
+    FieldPath pathOf(const Node &node) const;
 
     WrittenManifest result() {
         if (!m_error.empty())

@@ -28,14 +28,14 @@ class UniqueTexts {
 public:
     operator const std::vector<std::string> &() const { return m_texts; } // NOLINT: it is a list
 
-    [[nodiscard]] std::size_t size() const { return m_texts.size(); }
+    std::size_t size() const { return m_texts.size(); }
     /// For texts that are known to be new.
     void append(const std::string &text) {
         m_texts.push_back(text);
         if (!m_known.empty())
             m_known.insert(text);
     }
-    [[nodiscard]] bool contains(const std::string &text) const {
+    bool contains(const std::string &text) const {
         if (m_texts.size() < indexedFrom)
             return std::find(m_texts.begin(), m_texts.end(), text) != m_texts.end();
         if (m_known.empty())
@@ -166,7 +166,7 @@ public:
     }
     explicit KeySet(const std::set<std::string> &keys)
         : m_keys(keys.begin(), keys.end()) {}
-    [[nodiscard]] bool contains(std::string_view key) const {
+    bool contains(std::string_view key) const {
         return std::binary_search(m_keys.begin(), m_keys.end(), key);
     }
 

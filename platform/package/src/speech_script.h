@@ -26,8 +26,8 @@ public:
 
     /// Returns false, and sets errorString(), for a script that is malformed.
     [[nodiscard]] bool read();
-    [[nodiscard]] std::string errorString() const;
-    [[nodiscard]] std::string takePlainText() { return m_text.take(); }
+    std::string errorString() const;
+    std::string takePlainText() { return m_text.take(); }
 
 private:
     // An open element.
@@ -49,10 +49,10 @@ private:
     void text(std::string_view text);
 
     bool feed(std::string_view bytes, bool isLast = false);
-    [[nodiscard]] bool isSilentHere(std::string_view name) const;
+    bool isSilentHere(std::string_view name) const;
     void fail(std::string sentence);
     void failFromExpat();
-    [[nodiscard]] std::size_t offset() const;
+    std::size_t offset() const;
 
     std::string_view m_script;
     std::size_t m_declarationSize;

@@ -34,15 +34,15 @@ public:
     std::string declare(int depth, const char *const *attributes);
     /// Leaves the declarations of the element at `depth`.
     void leave(int depth);
-    [[nodiscard]] bool hasDeclarationsAt(int depth) const {
+    bool hasDeclarationsAt(int depth) const {
         return !m_declared.empty() && m_declared.back().depth == depth;
     }
 
     /// The default namespace; empty for none.
-    [[nodiscard]] const std::string &defaultNamespace() const;
+    const std::string &defaultNamespace() const;
 
     /// The prefixes in scope.
-    [[nodiscard]] std::vector<std::shared_ptr<const Namespace>> declared() const;
+    std::vector<std::shared_ptr<const Namespace>> declared() const;
 
     /// Checks the name of an element, and calls `use` with the binding of its prefix.
     template<typename Use>
@@ -91,7 +91,7 @@ private:
         return isXml ? std::string() : undeclared(name.substr(0, colon));
     }
 
-    [[nodiscard]] const Binding *find(std::string_view prefix) const;
+    const Binding *find(std::string_view prefix) const;
     static std::string checkQualifiedName(std::string_view name);
     static std::string checkDeclaration(std::string_view name, std::string_view uri);
     static std::string undeclared(std::string_view prefix);

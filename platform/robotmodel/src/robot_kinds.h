@@ -7,6 +7,6 @@
 namespace Mel {
 
 /// The kind of that type and model, which gets its value here where it has none yet.
-[[nodiscard]] Model::ROBOT_MODEL robotKind(const QString &type, const QString &model);
+Model::ROBOT_MODEL robotKind(const QString &type, const QString &model);
 
 } // namespace Mel

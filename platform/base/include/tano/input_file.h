@@ -29,11 +29,11 @@ public:
     /// Returns to where reading began.
     [[nodiscard]] bool rewind();
     /// Whether the end is known only when it is reached.
-    [[nodiscard]] bool isSequential() const;
+    bool isSequential() const;
     /// How many bytes are left in a file that is not sequential.
-    [[nodiscard]] std::int64_t left() const;
+    std::int64_t left() const;
     /// Why reading failed, for example "it is larger than 1 GiB"; empty if it did not.
-    [[nodiscard]] const std::string &error() const { return m_error; }
+    const std::string &error() const { return m_error; }
 
 private:
     std::string tooLarge() const;

@@ -23,7 +23,7 @@ enum class Level {
 
 /// Tells whether a line of this level in this category would be written. Verbose and debug lines
 /// are off unless a filter rule switches the category's debug messages on.
-[[nodiscard]] TANO_BASE_EXPORT bool isEnabled(const char *category, Level level);
+TANO_BASE_EXPORT bool isEnabled(const char *category, Level level);
 
 /// Writes "operation: message" in the category, if that is enabled at this level. No level ends
 /// the program.

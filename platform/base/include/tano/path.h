@@ -19,17 +19,17 @@ namespace Tano::path {
 /// installed data or, in a build tree, those of the source tree.
 ///
 /// `excludeUser` leaves the user's own data directory out.
-[[nodiscard]] TANO_BASE_EXPORT std::vector<std::string>
-dataDirectories(const std::string &application, bool excludeUser);
+TANO_BASE_EXPORT std::vector<std::string> dataDirectories(const std::string &application,
+                                                          bool excludeUser);
 
 /// Those of the environment variable alone; nothing where it is not set, even to the empty text.
-[[nodiscard]] TANO_BASE_EXPORT std::optional<std::vector<std::string>>
+TANO_BASE_EXPORT std::optional<std::vector<std::string>>
 environmentDirectories(const std::string &application);
 
 /// The absolute path of the first file or folder named `relativePath` in dataDirectories(), or the
 /// empty text when there is none. A path that is absolute, or that leads out of the data directory
 /// with "..", is not found.
-[[nodiscard]] TANO_BASE_EXPORT std::string
-findData(const std::string &application, const std::string &relativePath, bool excludeUser);
+TANO_BASE_EXPORT std::string findData(const std::string &application,
+                                      const std::string &relativePath, bool excludeUser);
 
 } // namespace Tano::path

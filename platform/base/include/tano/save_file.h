@@ -19,9 +19,9 @@ struct TANO_BASE_EXPORT FileFingerprint {
     std::int64_t size = -1; // bytes
     std::string digest;     // SHA-256, 32 bytes
 
-    [[nodiscard]] static FileFingerprint ofContent(const std::string &content);
+    static FileFingerprint ofContent(const std::string &content);
     /// Reads the file at `path`, in UTF-8; a file that cannot be read counts as none.
-    [[nodiscard]] static FileFingerprint ofFile(const std::string &path);
+    static FileFingerprint ofFile(const std::string &path);
 
     friend bool operator==(const FileFingerprint &a, const FileFingerprint &b) {
         return a.size == b.size && a.digest == b.digest;

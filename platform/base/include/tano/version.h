@@ -19,6 +19,6 @@ using Version = std::vector<std::uint32_t>;
 [[nodiscard]] TANO_BASE_EXPORT std::optional<Version> fromString(std::string_view text);
 
 /// The fields joined by dots; empty for a version without fields.
-[[nodiscard]] TANO_BASE_EXPORT std::string toString(const Version &version);
+TANO_BASE_EXPORT std::string toString(const Version &version);
 
 } // namespace Tano::version

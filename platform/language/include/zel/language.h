@@ -15,7 +15,7 @@ using LocalizedStringLists = std::vector<std::pair<QStringList, RobotLanguage>>;
 
 /// The languages of the built-in table in ascending order of their codes, then the partial ones in
 /// the order of their registration.
-[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
+ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
 
 /// Registers a descriptor for good, so that later look-ups of its code find it. Ignores an empty
 /// code; a code that is known already keeps its descriptor.
@@ -26,11 +26,11 @@ ZEL_LANGUAGE_EXPORT void addPartialLanguage(const RobotLanguage &language);
 ///
 /// The models get their languages from here. A package therefore makes the codes of its manifest
 /// known, and they are forgotten with the last package, command or list that uses them.
-[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage languageInUse(const QString &isoCode);
+ZEL_LANGUAGE_EXPORT RobotLanguage languageInUse(const QString &isoCode);
 
 /// The language that stands in where a text is missing: en_US until setDefaultLanguage(), which
 /// ignores a language whose code is empty.
-[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage defaultLanguage();
+ZEL_LANGUAGE_EXPORT RobotLanguage defaultLanguage();
 ZEL_LANGUAGE_EXPORT void setDefaultLanguage(const RobotLanguage &language);
 
 /// Erases the entry equal to `language`, if any.

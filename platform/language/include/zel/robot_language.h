@@ -21,7 +21,7 @@ public:
     explicit TypedString(QString text)
         : m_text(std::move(text)) {}
 
-    [[nodiscard]] const QString &text() const { return m_text; }
+    const QString &text() const { return m_text; }
 
     friend bool operator==(const TypedString &a, const TypedString &b) {
         return a.m_text == b.m_text;
@@ -72,25 +72,25 @@ public:
     RobotLanguage &operator=(const RobotLanguage &other);
     RobotLanguage &operator=(RobotLanguage &&other) noexcept;
 
-    [[nodiscard]] const QString &isoCode() const;
-    [[nodiscard]] const QString &name() const;
-    [[nodiscard]] const QString &englishName() const;
-    [[nodiscard]] const QString &nativeName() const;
-    [[nodiscard]] const QString &nuanceCode() const;
-    [[nodiscard]] const SoftwareVersion &version() const;
+    const QString &isoCode() const;
+    const QString &name() const;
+    const QString &englishName() const;
+    const QString &nativeName() const;
+    const QString &nuanceCode() const;
+    const SoftwareVersion &version() const;
     void setVersion(const SoftwareVersion &version);
 
     /// The text that names the language to the user: its name, or its ISO code where the name is
     /// empty, so that a language unknown to the table is named too.
-    [[nodiscard]] const QString &uiName() const;
+    const QString &uiName() const;
 
 private:
     friend class LanguageTable;
     friend ZEL_LANGUAGE_EXPORT bool operator==(const RobotLanguage &a, const RobotLanguage &b);
 
-    [[nodiscard]] const RobotLanguageData &data() const;
+    const RobotLanguageData &data() const;
     /// Whether other descriptors share this one's data.
-    [[nodiscard]] bool hasCopies() const;
+    bool hasCopies() const;
 
     QSharedDataPointer<RobotLanguageData> m_data; // null while all texts and the version are empty
 };
@@ -104,8 +104,8 @@ using RobotLanguages = std::vector<RobotLanguage>;
 
 /// Looks a language up by its ISO code among Language::knownLanguages(). An unknown code gives a
 /// descriptor whose ISO code is empty.
-[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const ISOCode &isoCode);
-[[nodiscard]] ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const QString &isoCode);
+ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const ISOCode &isoCode);
+ZEL_LANGUAGE_EXPORT RobotLanguage robotLanguage(const QString &isoCode);
 
 } // namespace Zel
 

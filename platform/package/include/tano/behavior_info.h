@@ -23,37 +23,37 @@ enum class BehaviorList { Tags, TriggerSentences, LoadingResponses, Conditions }
 class TANO_PACKAGE_EXPORT BehaviorInfo {
 public:
     /// The nature of a behavior that reacts to people: "interactive".
-    [[nodiscard]] static const std::string &natureInteractive();
+    static const std::string &natureInteractive();
     /// The nature of a behavior that the robot runs on its own: "solitary".
-    [[nodiscard]] static const std::string &natureSolitary();
+    static const std::string &natureSolitary();
 
     /// Where the behavior lies in the package; "." for the root behavior.
-    [[nodiscard]] const std::string &path() const;
+    const std::string &path() const;
     void setPath(const std::string &path);
 
-    [[nodiscard]] const std::string &nature() const;
+    const std::string &nature() const;
     void setNature(const std::string &nature);
 
     /// Whether a user may ask for the behavior.
-    [[nodiscard]] bool isUserRequestable() const;
+    bool isUserRequestable() const;
     void setUserRequestable(bool userRequestable);
 
-    [[nodiscard]] const TextMap &names() const;
+    const TextMap &names() const;
     /// The name in a language; empty when there is none.
-    [[nodiscard]] const std::string &name(const std::string &code) const;
+    const std::string &name(const std::string &code) const;
     void setName(const std::string &name, const std::string &code);
     /// Returns false if there is no name in that language.
     bool removeName(const std::string &code);
 
-    [[nodiscard]] const TextMap &descriptions() const;
+    const TextMap &descriptions() const;
     /// The description in a language; empty when there is none.
-    [[nodiscard]] const std::string &description(const std::string &code) const;
+    const std::string &description(const std::string &code) const;
     void setDescription(const std::string &description, const std::string &code);
     /// Returns false if there is no description in that language.
     bool removeDescription(const std::string &code);
 
-    [[nodiscard]] const std::vector<std::string> &permissions() const;
-    [[nodiscard]] bool hasPermission(const std::string &permission) const;
+    const std::vector<std::string> &permissions() const;
+    bool hasPermission(const std::string &permission) const;
     /// Returns false, and changes nothing, when the permission is there already.
     bool addPermission(const std::string &permission);
     /// The same before the permission at an index, which is clamped to the list.
@@ -66,7 +66,7 @@ public:
     // index to the list. Update and remove return false, and change nothing, where the list has
     // no such value.
 
-    [[nodiscard]] const TextListMap &languagesToTags() const;
+    const TextListMap &languagesToTags() const;
     void addTag(const std::string &tag, const std::string &code);
     void insertTag(const std::string &tag, const std::string &code, int index);
     bool updateTag(const std::string &oldTag, const std::string &newTag, const std::string &code,
@@ -74,7 +74,7 @@ public:
     bool removeTag(const std::string &tag, const std::string &code, int occurrence = 0);
 
     /// What a user may say to start the behavior.
-    [[nodiscard]] const TextListMap &languagesToTriggerSentences() const;
+    const TextListMap &languagesToTriggerSentences() const;
     void addTriggerSentence(const std::string &sentence, const std::string &code);
     void insertTriggerSentence(const std::string &sentence, const std::string &code, int index);
     bool updateTriggerSentence(const std::string &oldSentence, const std::string &newSentence,
@@ -83,7 +83,7 @@ public:
                                int occurrence = 0);
 
     /// What the robot may say while the behavior is loading.
-    [[nodiscard]] const TextListMap &languagesToLoadingResponses() const;
+    const TextListMap &languagesToLoadingResponses() const;
     void addLoadingResponse(const std::string &response, const std::string &code);
     void insertLoadingResponse(const std::string &response, const std::string &code, int index);
     bool updateLoadingResponse(const std::string &oldResponse, const std::string &newResponse,
@@ -92,9 +92,9 @@ public:
                                int occurrence = 0);
 
     /// The conditions of every purpose.
-    [[nodiscard]] const TextListMap &purposesToConditions() const;
+    const TextListMap &purposesToConditions() const;
     /// The conditions of one purpose; empty when there are none.
-    [[nodiscard]] const std::vector<std::string> &conditions(const std::string &purpose) const;
+    const std::vector<std::string> &conditions(const std::string &purpose) const;
     void addCondition(const std::string &condition, const std::string &purpose);
     void insertCondition(const std::string &condition, const std::string &purpose, int index);
     bool updateCondition(const std::string &oldCondition, const std::string &newCondition,
@@ -105,7 +105,7 @@ public:
     // The same lists by their kind. Update and remove return false, and change nothing, for an
     // index outside the list.
 
-    [[nodiscard]] const TextListMap &lists(BehaviorList kind) const;
+    const TextListMap &lists(BehaviorList kind) const;
     bool updateAt(BehaviorList kind, const std::string &key, int index,
                   const std::string &newValue);
     bool removeAt(BehaviorList kind, const std::string &key, int index);

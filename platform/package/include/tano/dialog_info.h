@@ -16,16 +16,16 @@ struct DialogData;
 /// It is an implicitly shared value: copying counts a reference, and a change detaches.
 class TANO_PACKAGE_EXPORT DialogInfo {
 public:
-    [[nodiscard]] const std::string &topicName() const;
+    const std::string &topicName() const;
     void setTopicName(const std::string &name);
 
-    [[nodiscard]] const std::string &typeVersion() const;
+    const std::string &typeVersion() const;
     void setTypeVersion(const std::string &version);
 
     /// The path of the topic file of each language.
-    [[nodiscard]] const TextMap &topics() const;
+    const TextMap &topics() const;
     /// The path of the topic file of a language; empty when there is none.
-    [[nodiscard]] const std::string &topic(const std::string &code) const;
+    const std::string &topic(const std::string &code) const;
     void setTopic(const std::string &code, const std::string &path);
     /// Returns whether there was a topic file to remove.
     bool removeTopic(const std::string &code);

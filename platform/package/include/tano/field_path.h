@@ -35,7 +35,7 @@ public:
         bool appends = false; ///< true for `[+]`
 
         /// The selector as an index; nothing unless it is a decimal number without leading zeros.
-        [[nodiscard]] TANO_PACKAGE_EXPORT std::optional<int> toIndex() const;
+        TANO_PACKAGE_EXPORT std::optional<int> toIndex() const;
     };
 
     struct Step {
@@ -53,12 +53,12 @@ public:
     [[nodiscard]] static std::optional<FieldPath> parse(std::string_view text,
                                                         Error *error = nullptr);
     /// The first place of `character` outside selectors; npos for none. Separates "path=value".
-    [[nodiscard]] static std::size_t find(std::string_view text, char character);
+    static std::size_t find(std::string_view text, char character);
 
-    [[nodiscard]] std::string toString() const;
+    std::string toString() const;
 
-    [[nodiscard]] const std::vector<Step> &steps() const { return m_steps; }
-    [[nodiscard]] bool isEmpty() const { return m_steps.empty(); }
+    const std::vector<Step> &steps() const { return m_steps; }
+    bool isEmpty() const { return m_steps.empty(); }
 
     // Each appends to the path and returns it. Selectors belong to the last field.
 
@@ -71,7 +71,7 @@ public:
     FieldPath &end();
 
     /// The path without its last selector or, where that has none, without its last field.
-    [[nodiscard]] FieldPath parent() const;
+    FieldPath parent() const;
 
 private:
     std::vector<Step> m_steps;

@@ -63,22 +63,22 @@ public:
     [[nodiscard]] bool readFile(QFile &file, PackageInfo &package);
 
     /// What was wrong, as a sentence without its place; empty after a success.
-    [[nodiscard]] const std::string &errorMessage() const;
+    const std::string &errorMessage() const;
     /// Where it was wrong; no place where the file itself could not be read.
-    [[nodiscard]] SourcePosition errorPosition() const;
+    SourcePosition errorPosition() const;
     /// The place and the sentence in one: "Line 3, column 7: ...".
-    [[nodiscard]] std::string errorString() const;
+    std::string errorString() const;
 
     /// The position of the field at `path`; for a missing field, that of the nearest element around
     /// it, such as its language's block of texts. The empty path is the root element. No position
     /// without Positions::Keep.
-    [[nodiscard]] SourcePosition position(const FieldPath &path) const;
+    SourcePosition position(const FieldPath &path) const;
     /// The same for a path as text; the root element's for a malformed path.
-    [[nodiscard]] SourcePosition position(const std::string &path) const;
+    SourcePosition position(const std::string &path) const;
 
     /// The unknown elements and attributes without a namespace, in the order of the file; of an
     /// element within an unknown one, only the outer. Empty without Positions::Keep.
-    [[nodiscard]] std::vector<UnknownNode> unknownNodes() const;
+    std::vector<UnknownNode> unknownNodes() const;
 
 private:
     struct State;

@@ -16,6 +16,6 @@ namespace Tano::PackageHelper {
 /// Throws std::runtime_error, with a message such as "Line 1, column 7: ...", for malformed markup,
 /// a document type declaration, a `speak` within another element, a malformed `repeat`, and text
 /// that stands beside the alternatives of a `one-of`.
-[[nodiscard]] TANO_PACKAGE_EXPORT std::string getHumanReadableText(const std::string &script);
+TANO_PACKAGE_EXPORT std::string getHumanReadableText(const std::string &script);
 
 } // namespace Tano::PackageHelper

@@ -28,45 +28,45 @@ struct PackageData;
 /// not know) travels with the record and is saved again.
 class TANO_PACKAGE_EXPORT PackageInfo {
 public:
-    [[nodiscard]] const std::string &uuid() const;
+    const std::string &uuid() const;
     void setUuid(const std::string &uuid);
 
     /// The package's version, a dotted number.
-    [[nodiscard]] const std::string &version() const;
+    const std::string &version() const;
     void setVersion(const std::string &version);
 
-    [[nodiscard]] const std::string &typeVersion() const;
+    const std::string &typeVersion() const;
     void setTypeVersion(const std::string &typeVersion);
 
-    [[nodiscard]] const std::string &installer() const;
+    const std::string &installer() const;
     void setInstaller(const std::string &installer);
 
-    [[nodiscard]] const std::string &author() const;
+    const std::string &author() const;
     void setAuthor(const std::string &author);
 
-    [[nodiscard]] const std::string &organization() const;
+    const std::string &organization() const;
     void setOrganization(const std::string &organization);
 
-    [[nodiscard]] const std::string &date() const;
+    const std::string &date() const;
     void setDate(const std::string &date);
 
-    [[nodiscard]] const std::string &channel() const;
+    const std::string &channel() const;
     void setChannel(const std::string &channel);
 
-    [[nodiscard]] const std::string &path() const;
+    const std::string &path() const;
     void setPath(const std::string &path);
 
-    [[nodiscard]] const TextMap &names() const;
+    const TextMap &names() const;
     /// The name in a language; empty when there is none.
-    [[nodiscard]] const std::string &name(const std::string &code) const;
+    const std::string &name(const std::string &code) const;
     void setName(const std::string &name, const std::string &code);
     /// Returns false if there is no name in that language.
     bool removeName(const std::string &code);
     void clearNames();
 
-    [[nodiscard]] const TextMap &descriptions() const;
+    const TextMap &descriptions() const;
     /// The description in a language; empty when there is none.
-    [[nodiscard]] const std::string &description(const std::string &code) const;
+    const std::string &description(const std::string &code) const;
     void setDescription(const std::string &description, const std::string &code);
     /// Returns false if there is no description in that language.
     bool removeDescription(const std::string &code);
@@ -77,20 +77,20 @@ public:
 
     /// The languages that the package runs in. Adding or inserting one that is there, or removing
     /// one that is not, changes nothing.
-    [[nodiscard]] const std::vector<std::string> &supportedLanguages() const;
+    const std::vector<std::string> &supportedLanguages() const;
     void addSupportedLanguage(const std::string &code);
     void removeSupportedLanguage(const std::string &code);
     void insertSupportedLanguage(int index, const std::string &code);
     bool moveSupportedLanguage(int from, int to);
 
     /// The languages that the package is described in.
-    [[nodiscard]] const std::vector<std::string> &descriptionLanguages() const;
+    const std::vector<std::string> &descriptionLanguages() const;
     void addDescriptionLanguage(const std::string &code);
     void removeDescriptionLanguage(const std::string &code);
     void insertDescriptionLanguage(int index, const std::string &code);
     bool moveDescriptionLanguage(int from, int to);
 
-    [[nodiscard]] const std::vector<RobotRequirement> &robotRequirements() const;
+    const std::vector<RobotRequirement> &robotRequirements() const;
     void clearRobotRequirements();
     void addRobotRequirement(const RobotRequirement &requirement);
     bool replaceRobotRequirement(int index, const RobotRequirement &requirement);
@@ -98,7 +98,7 @@ public:
     void insertRobotRequirement(int index, const RobotRequirement &requirement);
     bool moveRobotRequirement(int from, int to);
 
-    [[nodiscard]] const std::vector<BrioRequirement> &brioRequirements() const;
+    const std::vector<BrioRequirement> &brioRequirements() const;
     void clearBrioRequirements();
     void addBrioRequirement(const BrioRequirement &requirement);
     bool replaceBrioRequirement(int index, const BrioRequirement &requirement);
@@ -106,7 +106,7 @@ public:
     void insertBrioRequirement(int index, const BrioRequirement &requirement);
     bool moveBrioRequirement(int from, int to);
 
-    [[nodiscard]] const std::vector<BehaviorInfo> &behaviors() const;
+    const std::vector<BehaviorInfo> &behaviors() const;
     void clearBehaviors();
     void addBehavior(const BehaviorInfo &behavior);
     bool replaceBehavior(int index, const BehaviorInfo &behavior);
@@ -114,7 +114,7 @@ public:
     void insertBehavior(int index, const BehaviorInfo &behavior);
     bool moveBehavior(int from, int to);
 
-    [[nodiscard]] const std::vector<DialogInfo> &dialogs() const;
+    const std::vector<DialogInfo> &dialogs() const;
     void clearDialogs();
     void addDialog(const DialogInfo &dialog);
     bool replaceDialog(int index, const DialogInfo &dialog);
@@ -122,7 +122,7 @@ public:
     void insertDialog(int index, const DialogInfo &dialog);
     bool moveDialog(int from, int to);
 
-    [[nodiscard]] const std::vector<PackageService> &services() const;
+    const std::vector<PackageService> &services() const;
     void clearServices();
     void addService(const PackageService &service);
     bool replaceService(int index, const PackageService &service);
@@ -131,7 +131,7 @@ public:
     bool moveService(int from, int to);
 
     /// Every language code that the record mentions, its behaviors and dialogs included.
-    [[nodiscard]] std::set<std::string> languageCodes() const;
+    std::set<std::string> languageCodes() const;
 
     /// Drops the names and descriptions in languages other than the description languages, those of
     /// the behaviors included, and the behaviors' tags, trigger sentences and loading responses in
@@ -158,7 +158,7 @@ public:
     [[nodiscard]] std::string saveToManifestContent() const;
 
     /// Why the last load or save of this object failed, in one sentence; empty when it succeeded.
-    [[nodiscard]] const std::string &errorString() const;
+    const std::string &errorString() const;
 
     /// True when both have the same content, what a manifest holds beyond the fields included.
     friend TANO_PACKAGE_EXPORT bool operator==(const PackageInfo &a, const PackageInfo &b);

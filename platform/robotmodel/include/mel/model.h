@@ -17,19 +17,19 @@ public:
     enum ROBOT_MODEL : int {};
 
     /// The type of a kind, in UTF-8; empty for a value that is none.
-    [[nodiscard]] static const std::string &robotTypeString(ROBOT_MODEL kind);
+    static const std::string &robotTypeString(ROBOT_MODEL kind);
     /// The model of a kind without its type, in UTF-8; empty for a value that is none.
-    [[nodiscard]] static const std::string &robotModelWithoutTypeString(ROBOT_MODEL kind);
+    static const std::string &robotModelWithoutTypeString(ROBOT_MODEL kind);
 
     virtual ~Model();
     Model(const Model &) = delete;
     Model &operator=(const Model &) = delete;
 
     /// What the makers call the model among themselves.
-    [[nodiscard]] virtual QString name() const = 0;
-    [[nodiscard]] virtual ROBOT_MODEL kind() const = 0;
+    virtual QString name() const = 0;
+    virtual ROBOT_MODEL kind() const = 0;
     /// What users know the model by: in full, or else by the short name of its family.
-    [[nodiscard]] virtual QString displayName(bool full) const = 0;
+    virtual QString displayName(bool full) const = 0;
 
 protected:
     Model();

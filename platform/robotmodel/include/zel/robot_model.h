@@ -16,7 +16,7 @@ namespace Zel::RobotModel {
 /// The empty text stands for the folder "robots" among the data of the application "zentrix": of
 /// the entries of ZENTRIX_DATA_PATH where that is set, even to nothing, else of all its data
 /// directories (Tano::path). A file hides those of the same name in later directories.
-[[nodiscard]] ZEL_ROBOTMODEL_EXPORT QFileInfoList modelFilesInfoList(const QString &directory);
+ZEL_ROBOTMODEL_EXPORT QFileInfoList modelFilesInfoList(const QString &directory);
 
 /// The model that `file` describes; null when it cannot be read or is no description.
 [[nodiscard]] ZEL_ROBOTMODEL_EXPORT std::unique_ptr<Mel::Model> model(const QFileInfo &file);

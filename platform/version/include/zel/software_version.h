@@ -30,16 +30,16 @@ public:
     SoftwareVersion &operator=(SoftwareVersion &&other) noexcept;
 
     /// How many fields there are; 0 means that the version is not set.
-    [[nodiscard]] int fieldsCount() const;
+    int fieldsCount() const;
 
     /// Field `i`, counted from 0; 0 for an index outside the version.
-    [[nodiscard]] std::uint32_t versionField(int i) const;
+    std::uint32_t versionField(int i) const;
 
     /// Pads with zero fields, or drops trailing fields, until there are exactly `n`.
     void setFieldsCount(unsigned n);
 
     /// All fields, the most significant in front; valid until the version changes.
-    [[nodiscard]] const std::vector<std::uint32_t> &fields() const;
+    const std::vector<std::uint32_t> &fields() const;
 
 private:
     QSharedDataPointer<SoftwareVersionData> m_data; // null while there are no fields

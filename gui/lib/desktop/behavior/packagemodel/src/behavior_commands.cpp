@@ -1,5 +1,6 @@
 #include <packagemodel/behavior_commands.h>
 
+#include "command_ids.h"
 #include "entry_call.h"
 
 #include <packagemodel/behavior_info_model.h>
@@ -111,7 +112,7 @@ BehaviorPathCommand::BehaviorPathCommand(PackageInfoModel *model, const QString 
 }
 
 int BehaviorPathCommand::id() const {
-    return 0;
+    return CommandId::behaviorPath;
 }
 
 void BehaviorPathCommand::setValue(const QString &value) {
@@ -131,7 +132,7 @@ BehaviorNatureCommand::BehaviorNatureCommand(PackageInfoModel *model, const QStr
 }
 
 int BehaviorNatureCommand::id() const {
-    return 1;
+    return CommandId::behaviorNature;
 }
 
 void BehaviorNatureCommand::setValue(const QString &value) {
@@ -165,7 +166,7 @@ BehaviorNameCommand::BehaviorNameCommand(PackageInfoModel *model, const QString 
 }
 
 int BehaviorNameCommand::id() const {
-    return 2;
+    return CommandId::behaviorName;
 }
 
 void BehaviorNameCommand::setValue(const QString &value) {
@@ -184,7 +185,7 @@ BehaviorDescriptionCommand::BehaviorDescriptionCommand(PackageInfoModel *model,
 }
 
 int BehaviorDescriptionCommand::id() const {
-    return 3;
+    return CommandId::behaviorDescription;
 }
 
 void BehaviorDescriptionCommand::setValue(const QString &value) {

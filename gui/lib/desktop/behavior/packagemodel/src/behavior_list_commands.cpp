@@ -1,5 +1,6 @@
 #include <packagemodel/behavior_commands.h>
 
+#include "command_ids.h"
 #include "entry_call.h"
 
 #include <packagemodel/behavior_info_model.h>
@@ -148,7 +149,7 @@ BehaviorSetTagCommand::BehaviorSetTagCommand(PackageInfoModel *model, const QStr
 }
 
 int BehaviorSetTagCommand::id() const {
-    return 5;
+    return CommandId::behaviorTag;
 }
 
 void BehaviorSetTagCommand::setValue(const QString &value) {
@@ -169,7 +170,7 @@ BehaviorSetTriggerSentenceCommand::BehaviorSetTriggerSentenceCommand(PackageInfo
 }
 
 int BehaviorSetTriggerSentenceCommand::id() const {
-    return 6;
+    return CommandId::behaviorTriggerSentence;
 }
 
 void BehaviorSetTriggerSentenceCommand::setValue(const QString &value) {
@@ -190,7 +191,7 @@ BehaviorSetLoadingResponseCommand::BehaviorSetLoadingResponseCommand(PackageInfo
 }
 
 int BehaviorSetLoadingResponseCommand::id() const {
-    return 7;
+    return CommandId::behaviorLoadingResponse;
 }
 
 void BehaviorSetLoadingResponseCommand::setValue(const QString &value) {
@@ -211,7 +212,7 @@ BehaviorSetConditionCommand::BehaviorSetConditionCommand(PackageInfoModel *model
 }
 
 int BehaviorSetConditionCommand::id() const {
-    return 8;
+    return CommandId::behaviorCondition;
 }
 
 void BehaviorSetConditionCommand::setValue(const QString &value) {

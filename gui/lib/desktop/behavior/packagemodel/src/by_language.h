@@ -50,27 +50,25 @@ public:
     // NOLINTNEXTLINE(google-explicit-constructor): the models' getters return the vector
     operator const Entries &() const { return entries(); }
 
-    [[nodiscard]] const Entries &entries() const {
+    const Entries &entries() const {
         if (m_index && !m_index->removed.empty())
             dropRemoved();
         return m_entries;
     }
 
-    [[nodiscard]] bool contains(const RobotLanguage &language) const {
-        return find(language) != nullptr;
-    }
+    bool contains(const RobotLanguage &language) const { return find(language) != nullptr; }
 
     /// The entry of the language; null for none. Valid until the entries change.
-    [[nodiscard]] const Entry *find(const RobotLanguage &language) const {
+    const Entry *find(const RobotLanguage &language) const {
         const std::size_t position = positionOf(language);
         return position < m_entries.size() ? &m_entries[position] : nullptr;
     }
-    [[nodiscard]] Entry *find(const RobotLanguage &language) {
+    Entry *find(const RobotLanguage &language) {
         return const_cast<Entry *>(std::as_const(*this).find(language));
     }
 
     /// Differs from an earlier one if entries were added or removed since then.
-    [[nodiscard]] std::uint64_t revision() const { return m_revision; }
+    std::uint64_t revision() const { return m_revision; }
 
     Entry &append(Entry entry) {
         ++m_revision;
@@ -107,7 +105,7 @@ public:
     /// Removes the entries for which `isForeign(language)` is true.
     template<typename Predicate>
     void removeIf(Predicate isForeign) {
-        static_cast<void>(entries());
+        entries();
         ++m_revision;
         m_index.reset();
         m_entries.erase(

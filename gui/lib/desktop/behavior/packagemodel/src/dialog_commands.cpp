@@ -1,5 +1,6 @@
 #include <packagemodel/dialog_commands.h>
 
+#include "command_ids.h"
 #include "entry_call.h"
 
 #include <packagemodel/dialog_info_model.h>
@@ -57,7 +58,7 @@ DialogInfoModelNameCommand::DialogInfoModelNameCommand(PackageInfoModel *model,
 }
 
 int DialogInfoModelNameCommand::id() const {
-    return 0;
+    return CommandId::dialogName;
 }
 
 void DialogInfoModelNameCommand::setValue(const QString &value) {
@@ -81,7 +82,7 @@ DialogInfoModelTypeVersionCommand::DialogInfoModelTypeVersionCommand(PackageInfo
 }
 
 int DialogInfoModelTypeVersionCommand::id() const {
-    return 1;
+    return CommandId::dialogTypeVersion;
 }
 
 void DialogInfoModelTypeVersionCommand::setValue(const QString &value) {
@@ -99,7 +100,7 @@ DialogInfoModelTopicCommand::DialogInfoModelTopicCommand(PackageInfoModel *model
 }
 
 int DialogInfoModelTopicCommand::id() const {
-    return 2;
+    return CommandId::dialogTopic;
 }
 
 bool DialogInfoModelTopicCommand::mergeWith(const QUndoCommand *incoming) {

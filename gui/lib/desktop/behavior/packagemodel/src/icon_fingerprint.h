@@ -20,6 +20,6 @@ bool operator==(const IconFingerprint &a, const IconFingerprint &b);
 
 /// Renders the icon, as large as it goes, to take its fingerprint; a null icon is not rendered.
 /// Needs a QGuiApplication.
-[[nodiscard]] IconFingerprint fingerprint(const QIcon &icon);
+IconFingerprint fingerprint(const QIcon &icon);
 
 } // namespace Zel

@@ -19,31 +19,31 @@ namespace Zel {
 
 /// The language of a code. An unknown code becomes a partial language that is known while it is in
 /// use, so that its texts are kept and shown.
-[[nodiscard]] RobotLanguage languageFromCode(const std::string &code);
-[[nodiscard]] RobotLanguages languagesFromCodes(const std::vector<std::string> &codes);
+RobotLanguage languageFromCode(const std::string &code);
+RobotLanguages languagesFromCodes(const std::vector<std::string> &codes);
 /// The key under which the records keep what belongs to a language.
-[[nodiscard]] std::string codeOf(const RobotLanguage &language);
-[[nodiscard]] std::set<std::string> codesOf(const RobotLanguages &languages);
+std::string codeOf(const RobotLanguage &language);
+std::set<std::string> codesOf(const RobotLanguages &languages);
 
 using CachedTexts = ByLanguage<std::pair<QString, RobotLanguage>>;
 using CachedLists = ByLanguage<std::pair<QStringList, RobotLanguage>>;
 
-[[nodiscard]] Language::LocalizedStrings textsFromRecord(const Tano::TextMap &texts);
-[[nodiscard]] Language::LocalizedStringLists listsFromRecord(const Tano::TextListMap &lists);
-[[nodiscard]] QStringList listFromRecord(const std::vector<std::string> &list);
+Language::LocalizedStrings textsFromRecord(const Tano::TextMap &texts);
+Language::LocalizedStringLists listsFromRecord(const Tano::TextListMap &lists);
+QStringList listFromRecord(const std::vector<std::string> &list);
 
 /// The cached value of a language; the null text, or the empty list, if there is none.
 template<typename Value>
-[[nodiscard]] Value valueFor(const ByLanguage<std::pair<Value, RobotLanguage>> &values,
-                             const RobotLanguage &language) {
+Value valueFor(const ByLanguage<std::pair<Value, RobotLanguage>> &values,
+               const RobotLanguage &language) {
     const auto *entry = values.find(language);
     return entry ? entry->first : Value();
 }
 
 /// The cached value of a language, added if there is none.
 template<typename Value>
-[[nodiscard]] Value &madeValue(ByLanguage<std::pair<Value, RobotLanguage>> &values,
-                               const RobotLanguage &language) {
+Value &madeValue(ByLanguage<std::pair<Value, RobotLanguage>> &values,
+                 const RobotLanguage &language) {
     auto *entry = values.find(language);
     return entry ? entry->first : values.append({Value(), language}).first;
 }

@@ -69,11 +69,9 @@ public:
         }
     }
 
-    [[nodiscard]] const RobotLanguage &at(int place) const {
-        return m_languages[std::size_t(place)];
-    }
+    const RobotLanguage &at(int place) const { return m_languages[std::size_t(place)]; }
     /// -1 for a language that is not among them.
-    [[nodiscard]] int placeOf(const RobotLanguage &language) const {
+    int placeOf(const RobotLanguage &language) const {
         return m_places.value(language.isoCode(), -1);
     }
 
@@ -221,7 +219,7 @@ public:
         }
     }
 
-    [[nodiscard]] const QVector<PackageModel::ScriptError> &all() const { return m_errors; }
+    const QVector<PackageModel::ScriptError> &all() const { return m_errors; }
 
 private:
     void check(const QString &text, const QString &path) {

@@ -90,7 +90,7 @@ public:
         return true;
     }
 
-    [[nodiscard]] bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
+    bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
     // A message without a language would say nothing.

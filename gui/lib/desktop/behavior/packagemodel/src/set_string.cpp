@@ -1,5 +1,6 @@
 #include <packagemodel/set_string.h>
 
+#include "command_ids.h"
 #include "entry_call.h"
 
 #include <packagemodel/package_info_model.h>
@@ -10,8 +11,6 @@
 
 namespace Zel {
 namespace {
-
-constexpr int packageTextId = 42;
 
 // One of the package's plain texts, and the word for it.
 struct PlainText {
@@ -100,7 +99,7 @@ void PackageStringCommand::redo() {
 }
 
 int PackageStringCommand::id() const {
-    return packageTextId;
+    return CommandId::packageText;
 }
 
 bool PackageStringCommand::mergeWith(const QUndoCommand *incoming) {
@@ -147,7 +146,7 @@ void PackageLocalizedStringCommand::redo() {
 }
 
 int PackageLocalizedStringCommand::id() const {
-    return packageTextId;
+    return CommandId::packageText;
 }
 
 bool PackageLocalizedStringCommand::mergeWith(const QUndoCommand *incoming) {

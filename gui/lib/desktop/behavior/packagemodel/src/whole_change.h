@@ -18,7 +18,7 @@ public:
         , m_number(++counter) {}
 
     /// Whether to go on with the next step.
-    [[nodiscard]] bool isCurrent() const { return m_package && m_counter == m_number; }
+    bool isCurrent() const { return m_package && m_counter == m_number; }
 
 private:
     QPointer<PackageInfoModel> m_package;

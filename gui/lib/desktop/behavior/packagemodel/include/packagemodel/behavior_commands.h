@@ -32,7 +32,7 @@ public:
     /// Adds the permission, or removes it; returns whether the behavior changed.
     bool addOrRemove(bool add);
     /// What the last step returned; false before the first.
-    [[nodiscard]] bool lastResult() const { return m_lastResult; }
+    bool lastResult() const { return m_lastResult; }
 
 private:
     QString m_permission;
@@ -52,7 +52,7 @@ public:
     void undo() override;
     void redo() override;
     bool mergeWith(const QUndoCommand *incoming) override;
-    [[nodiscard]] bool isFinalCommand() const override;
+    bool isFinalCommand() const override;
 
     /// Sets the behavior's text; does nothing when the behavior is not there.
     virtual void setValue(const QString &value) = 0;
@@ -72,7 +72,7 @@ public:
     BehaviorPathCommand(PackageInfoModel *model, const QString &behaviorPath,
                         const QString &newPath, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -82,7 +82,7 @@ public:
     BehaviorNatureCommand(PackageInfoModel *model, const QString &behaviorPath,
                           const QString &newNature, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -97,7 +97,7 @@ public:
     bool mergeWith(const QUndoCommand *incoming) override;
 
 protected:
-    [[nodiscard]] const RobotLanguage &language() const { return m_language; }
+    const RobotLanguage &language() const { return m_language; }
 
 private:
     RobotLanguage m_language;
@@ -109,7 +109,7 @@ public:
     BehaviorNameCommand(PackageInfoModel *model, const QString &behaviorPath,
                         const QString &newName, const RobotLanguage &language, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -120,7 +120,7 @@ public:
                                const QString &newDescription, const RobotLanguage &language,
                                bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -138,7 +138,7 @@ public:
     bool mergeWith(const QUndoCommand *incoming) override;
 
 protected:
-    [[nodiscard]] int index() const { return m_index; }
+    int index() const { return m_index; }
 
 private:
     int m_index;
@@ -157,7 +157,7 @@ public:
     bool mergeWith(const QUndoCommand *incoming) override;
 
 protected:
-    [[nodiscard]] const T &tag() const { return m_tag; }
+    const T &tag() const { return m_tag; }
 
 private:
     T m_tag;
@@ -193,7 +193,7 @@ public:
                           const QString &newValue, const RobotLanguage &language, int index,
                           bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -205,7 +205,7 @@ public:
                                       const QString &newValue, const RobotLanguage &language,
                                       int index, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -217,7 +217,7 @@ public:
                                       const QString &newValue, const RobotLanguage &language,
                                       int index, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -229,7 +229,7 @@ public:
                                 const QString &newValue, const QString &purpose, int index,
                                 bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -257,7 +257,7 @@ public:
     virtual QString remove(int index, bool *ok) = 0;
 
 protected:
-    [[nodiscard]] const T &tag() const { return m_tag; }
+    const T &tag() const { return m_tag; }
 
 private:
     void step(bool isAdd);

@@ -28,17 +28,17 @@ class PACKAGEMODEL_EXPORT BehaviorInfoModel : public QObject {
 
 public:
     /// The nature of a behavior that has none: the null text.
-    [[nodiscard]] static const QString &natureNone();
+    static const QString &natureNone();
     /// The nature of a behavior that reacts to people.
-    [[nodiscard]] static const QString &natureInteractive();
+    static const QString &natureInteractive();
     /// The nature of a behavior that the robot runs on its own.
-    [[nodiscard]] static const QString &natureSolitary();
+    static const QString &natureSolitary();
 
     /// The path as it is shown: the root behavior "." reads rootBehaviorPrettyPath(), any other
     /// path itself.
-    [[nodiscard]] static QString prettyPath(const QString &path);
+    static QString prettyPath(const QString &path);
     /// ". (root behavior)".
-    [[nodiscard]] static const QString &rootBehaviorPrettyPath();
+    static const QString &rootBehaviorPrettyPath();
 
     /// A model of `info`. Its parent is `parent`, or `package` when that is null.
     explicit BehaviorInfoModel(const Tano::BehaviorInfo &info, PackageInfoModel *package = nullptr,
@@ -49,53 +49,53 @@ public:
     BehaviorInfoModel &operator=(const BehaviorInfoModel &) = delete;
 
     /// The package that the behavior belongs to; null when there is none or it is gone.
-    [[nodiscard]] PackageInfoModel *parentPackage() const;
+    PackageInfoModel *parentPackage() const;
     /// Makes `package` the parentPackage() and the QObject parent. Does not notify.
     void setParentPackage(PackageInfoModel *package);
 
-    [[nodiscard]] Tano::BehaviorInfo toBehaviorInfo() const;
+    Tano::BehaviorInfo toBehaviorInfo() const;
 
     /// Where the behavior lies in the package; "." for the root behavior.
-    [[nodiscard]] QString path() const;
+    QString path() const;
     /// prettyPath() of path().
-    [[nodiscard]] QString prettyPath() const;
+    QString prettyPath() const;
     /// path(), or "behavior.bhv" for the root behavior.
-    [[nodiscard]] QString pathWithDefaultBhvSuffix() const;
+    QString pathWithDefaultBhvSuffix() const;
 
     /// One of the natures above.
-    [[nodiscard]] QString nature() const;
+    QString nature() const;
 
     /// The name in a language; the null text when there is none.
-    [[nodiscard]] QString name(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStrings &names() const;
+    QString name(const RobotLanguage &lang) const;
+    const Language::LocalizedStrings &names() const;
 
     /// The description in a language; the null text when there is none.
-    [[nodiscard]] QString description(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStrings &descriptions() const;
+    QString description(const RobotLanguage &lang) const;
+    const Language::LocalizedStrings &descriptions() const;
 
-    [[nodiscard]] QSet<QString> permissions() const;
+    QSet<QString> permissions() const;
     /// The permissions in the order of the record.
-    [[nodiscard]] QStringList permissionList() const;
-    [[nodiscard]] bool hasPermission(const QString &permType) const;
+    QStringList permissionList() const;
+    bool hasPermission(const QString &permType) const;
 
     /// Whether a user may ask for the behavior.
-    [[nodiscard]] bool isUserRequestable() const;
+    bool isUserRequestable() const;
 
-    [[nodiscard]] QStringList tags(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStringLists &languagesToTags() const;
+    QStringList tags(const RobotLanguage &lang) const;
+    const Language::LocalizedStringLists &languagesToTags() const;
 
     /// What a user may say to start the behavior.
-    [[nodiscard]] QStringList triggerSentences(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStringLists &languagesToTriggerSentences() const;
+    QStringList triggerSentences(const RobotLanguage &lang) const;
+    const Language::LocalizedStringLists &languagesToTriggerSentences() const;
 
     /// What the robot may say while the behavior is loading.
-    [[nodiscard]] QStringList loadingResponses(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStringLists &languagesToLoadingResponses() const;
+    QStringList loadingResponses(const RobotLanguage &lang) const;
+    const Language::LocalizedStringLists &languagesToLoadingResponses() const;
 
     /// The conditions for a purpose, which is any text.
-    [[nodiscard]] QStringList conditions(const QString &purpose) const;
+    QStringList conditions(const QString &purpose) const;
     /// The purposes that have conditions, in ascending order.
-    [[nodiscard]] QStringList purposes() const;
+    QStringList purposes() const;
 
     /// Drops the names and descriptions in other languages than `descriptionLanguages`, and the
     /// tags, trigger sentences and loading responses in other languages than `supportedLanguages`.

@@ -17,14 +17,14 @@ public:
     void undo() override;
     void redo() override;
     bool mergeWith(const QUndoCommand *incoming) override;
-    [[nodiscard]] bool isFinalCommand() const override;
+    bool isFinalCommand() const override;
 
     /// Sets the dialog's text; does nothing when the dialog is not there.
     virtual void setValue(const QString &value) = 0;
 
 protected:
-    [[nodiscard]] const QString &newValue() const { return m_edit.newValue; }
-    [[nodiscard]] const QString &oldValue() const { return m_edit.oldValue; }
+    const QString &newValue() const { return m_edit.newValue; }
+    const QString &oldValue() const { return m_edit.oldValue; }
     /// For the constructor of a subclass: what undo() writes, empty until then.
     void setOldValue(const QString &oldValue) { m_edit.oldValue = oldValue; }
 
@@ -39,7 +39,7 @@ public:
     DialogInfoModelNameCommand(PackageInfoModel *model, const QString &dialogName,
                                const QString &newName, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -49,7 +49,7 @@ public:
     DialogInfoModelTypeVersionCommand(PackageInfoModel *model, const QString &dialogName,
                                       const QString &newTypeVersion, bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     void setValue(const QString &value) override;
 };
 
@@ -61,7 +61,7 @@ public:
                                 const RobotLanguage &language, const QString &newTopicPath,
                                 bool isFinal);
 
-    [[nodiscard]] int id() const override;
+    int id() const override;
     bool mergeWith(const QUndoCommand *incoming) override;
     void setValue(const QString &value) override;
 

@@ -28,16 +28,16 @@ public:
     ~DialogInfoModel() override;
     DialogInfoModel &operator=(const DialogInfoModel &) = delete;
 
-    [[nodiscard]] Tano::DialogInfo toDialogInfo() const;
+    Tano::DialogInfo toDialogInfo() const;
 
-    [[nodiscard]] QString topicName() const;
-    [[nodiscard]] QString typeVersion() const;
+    QString topicName() const;
+    QString typeVersion() const;
 
     /// The path of the topic file of a language; the null text when there is none.
-    [[nodiscard]] QString topic(const RobotLanguage &lang) const;
-    [[nodiscard]] const Language::LocalizedStrings &topics() const;
+    QString topic(const RobotLanguage &lang) const;
+    const Language::LocalizedStrings &topics() const;
     /// The languages of topics(), in its order.
-    [[nodiscard]] RobotLanguages topicsLanguages() const;
+    RobotLanguages topicsLanguages() const;
 
 Q_SIGNALS:
     void nameChanged(const QString &newName);

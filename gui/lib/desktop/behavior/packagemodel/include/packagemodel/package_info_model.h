@@ -45,7 +45,7 @@ class PACKAGEMODEL_EXPORT PackageInfoModel : public QObject {
 public:
     /// The icon of a package that has none of its own; empty when its file is not installed. Needs
     /// a QGuiApplication.
-    [[nodiscard]] static QIcon defaultIcon();
+    static QIcon defaultIcon();
 
     /// An empty package.
     explicit PackageInfoModel(QObject *parent = nullptr);
@@ -111,59 +111,59 @@ public:
     void genPlainTextFromScript();
 
     /// The record, as it is saved.
-    [[nodiscard]] const Tano::PackageInfo &packageInfo() const;
+    const Tano::PackageInfo &packageInfo() const;
 
-    [[nodiscard]] QString installer() const;
-    [[nodiscard]] QString uid() const;
-    [[nodiscard]] QString typeVersion() const;
-    [[nodiscard]] QString author() const;
-    [[nodiscard]] QString organization() const;
-    [[nodiscard]] QString date() const;
-    [[nodiscard]] QString channel() const;
-    [[nodiscard]] QString path() const;
+    QString installer() const;
+    QString uid() const;
+    QString typeVersion() const;
+    QString author() const;
+    QString organization() const;
+    QString date() const;
+    QString channel() const;
+    QString path() const;
 
     /// Always of three fields.
-    [[nodiscard]] SoftwareVersion version() const;
+    SoftwareVersion version() const;
 
     /// The languages that the package runs in, in the order of their addition.
-    [[nodiscard]] const RobotLanguages &supportedLanguages() const;
-    [[nodiscard]] bool hasLanguageSupport(const RobotLanguage &language) const;
+    const RobotLanguages &supportedLanguages() const;
+    bool hasLanguageSupport(const RobotLanguage &language) const;
     /// The languages that the package is described in.
-    [[nodiscard]] const RobotLanguages &descriptionLanguages() const;
-    [[nodiscard]] bool hasLanguageDescription(const RobotLanguage &language) const;
+    const RobotLanguages &descriptionLanguages() const;
+    bool hasLanguageDescription(const RobotLanguage &language) const;
 
     /// The name in a language; empty when there is none.
-    [[nodiscard]] QString name(const RobotLanguage &language) const;
-    [[nodiscard]] const Language::LocalizedStrings &names() const;
+    QString name(const RobotLanguage &language) const;
+    const Language::LocalizedStrings &names() const;
     /// Whether there is a name in the language that is not empty.
-    [[nodiscard]] bool hasNameFor(const RobotLanguage &language) const;
+    bool hasNameFor(const RobotLanguage &language) const;
 
     /// The description in a language; empty when there is none.
-    [[nodiscard]] QString description(const RobotLanguage &language) const;
-    [[nodiscard]] const Language::LocalizedStrings &descriptions() const;
+    QString description(const RobotLanguage &language) const;
+    const Language::LocalizedStrings &descriptions() const;
     /// Whether there is a description in the language that is not empty.
-    [[nodiscard]] bool hasDescriptionFor(const RobotLanguage &language) const;
+    bool hasDescriptionFor(const RobotLanguage &language) const;
 
-    [[nodiscard]] QVector<RobotRequirement> robotRequirements() const;
+    QVector<RobotRequirement> robotRequirements() const;
     /// The requirement at `i`; a default one for an index outside the list.
-    [[nodiscard]] RobotRequirement robotRequirement(int i) const;
-    [[nodiscard]] QVector<BrioRequirement> brioRequirements() const;
-    [[nodiscard]] BrioRequirement brioRequirement(int i) const;
+    RobotRequirement robotRequirement(int i) const;
+    QVector<BrioRequirement> brioRequirements() const;
+    BrioRequirement brioRequirement(int i) const;
 
     /// The icon, which is no part of the record.
-    [[nodiscard]] QIcon icon() const;
+    QIcon icon() const;
 
     /// The children, in the order of the record.
-    [[nodiscard]] QVector<BehaviorInfoModel *> behaviors() const;
-    [[nodiscard]] QVector<DialogInfoModel *> dialogs() const;
-    [[nodiscard]] QVector<ServiceInfoModel *> services() const;
+    QVector<BehaviorInfoModel *> behaviors() const;
+    QVector<DialogInfoModel *> dialogs() const;
+    QVector<ServiceInfoModel *> services() const;
 
     /// The first behavior with that path; null when there is none.
-    [[nodiscard]] BehaviorInfoModel *behavior(const QString &path) const;
+    BehaviorInfoModel *behavior(const QString &path) const;
     /// The first dialog with that topic name; null when there is none.
-    [[nodiscard]] DialogInfoModel *dialog(const QString &name) const;
+    DialogInfoModel *dialog(const QString &name) const;
     /// The first service with that name; null when there is none.
-    [[nodiscard]] ServiceInfoModel *service(const QString &name) const;
+    ServiceInfoModel *service(const QString &name) const;
 
     /// Replaces the behavior models by one for each behavior of the record. Announces those that
     /// go, not those that come.

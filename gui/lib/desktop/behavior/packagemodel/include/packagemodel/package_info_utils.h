@@ -22,17 +22,16 @@ namespace PackageModel {
 // Names to show. The texts of a null package are empty.
 
 /// The name in that very language; empty when there is none.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString nameFromLanguage(const PackageInfoModel *package,
-                                                           const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString nameFromLanguage(const PackageInfoModel *package,
+                                             const RobotLanguage &language);
 /// The description in that very language; empty when there is none.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString descriptionFromLanguage(const PackageInfoModel *package,
-                                                                  const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString descriptionFromLanguage(const PackageInfoModel *package,
+                                                    const RobotLanguage &language);
 /// The name in the language, else in the default language, else the UID.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString uiName(const PackageInfoModel *package,
-                                                 const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString uiName(const PackageInfoModel *package, const RobotLanguage &language);
 /// The description in the language, else in the default language, else nothing.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString uiDescription(const PackageInfoModel *package,
-                                                        const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString uiDescription(const PackageInfoModel *package,
+                                          const RobotLanguage &language);
 
 // Checks. Each clears the containers that it is given, fills them, and returns whether it found
 // nothing. Messages are in the language of the application; their languages have the order of the
@@ -83,11 +82,11 @@ PACKAGEMODEL_EXPORT bool validateTriggerSentences(const PackageInfoModel *packag
 namespace BehaviorModel {
 
 /// The name in that very language; empty when there is none.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString nameFromLocale(const BehaviorInfoModel *behavior,
-                                                         const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString nameFromLocale(const BehaviorInfoModel *behavior,
+                                           const RobotLanguage &language);
 /// The name in the language, else in the default language, else the path.
-[[nodiscard]] PACKAGEMODEL_EXPORT QString uiName(const BehaviorInfoModel *behavior,
-                                                 const RobotLanguage &language);
+PACKAGEMODEL_EXPORT QString uiName(const BehaviorInfoModel *behavior,
+                                   const RobotLanguage &language);
 
 } // namespace BehaviorModel
 } // namespace Zel

@@ -66,7 +66,7 @@ public:
     /// Stops listening, and forgets the package's errors and warnings without notification; those
     /// of the behaviors are kept.
     void deactivate();
-    [[nodiscard]] bool isActive() const { return m_active; }
+    bool isActive() const { return m_active; }
 
     /// Runs every check.
     void validateAll();
@@ -74,7 +74,7 @@ public:
     /// The behaviors that have errors, in ascending order of their addresses. A behavior that was
     /// removed while it had errors goes on being listed: look for it in the package before using
     /// it. A behavior that was added is checked at its next change or at validateAll().
-    [[nodiscard]] QList<const BehaviorInfoModel *> behaviorInErrors() const;
+    QList<const BehaviorInfoModel *> behaviorInErrors() const;
 
     /// Adds a kind of error to those present, or takes it out.
     void setPackageErrors(PackageError error, bool set);
@@ -82,12 +82,10 @@ public:
 
     /// The kinds of errors of the package itself at the last checks; those of behaviors are in
     /// behaviorInErrors().
-    [[nodiscard]] const std::set<PackageError> &packageErrors() const { return m_packageErrors; }
-    [[nodiscard]] const std::set<PackageWarning> &packageWarnings() const {
-        return m_packageWarnings;
-    }
-    [[nodiscard]] bool hasErrors() const { return !m_packageErrors.empty(); }
-    [[nodiscard]] bool hasWarnings() const { return !m_packageWarnings.empty(); }
+    const std::set<PackageError> &packageErrors() const { return m_packageErrors; }
+    const std::set<PackageWarning> &packageWarnings() const { return m_packageWarnings; }
+    bool hasErrors() const { return !m_packageErrors.empty(); }
+    bool hasWarnings() const { return !m_packageWarnings.empty(); }
 
 Q_SIGNALS:
     void applicationUIDStateChanged(bool validState) const;

@@ -27,7 +27,7 @@ struct Rule {
 };
 
 /// All rules, in the order in which they are checked.
-[[nodiscard]] PACKAGEMODEL_EXPORT QVector<Rule> rules();
+PACKAGEMODEL_EXPORT QVector<Rule> rules();
 
 /// One thing that is wrong in one field.
 struct Issue {
@@ -41,14 +41,14 @@ struct Issue {
     QString text;
 
     /// The text without markup, for a terminal, a report or a plain label.
-    [[nodiscard]] PACKAGEMODEL_EXPORT QString plainText() const;
+    PACKAGEMODEL_EXPORT QString plainText() const;
     /// The text for a rich-text widget. Values of the package appear as they are; none is markup.
-    [[nodiscard]] PACKAGEMODEL_EXPORT QString richText() const;
+    PACKAGEMODEL_EXPORT QString richText() const;
 };
 
 /// All that is wrong with a package: the same findings as the messages of validate(), in the same
 /// order, one for each field. An empty list for a null package.
-[[nodiscard]] PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package);
+PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package);
 
 /// How visitIssues() goes on after an issue.
 enum class IssueVisit {

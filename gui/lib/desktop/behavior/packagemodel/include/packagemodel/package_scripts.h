@@ -22,8 +22,7 @@ struct ScriptError {
 
 /// The texts that PackageInfoModel::genPlainTextFromScript() would leave as they are, in the order
 /// in which it comes to them. An empty list for a null package.
-[[nodiscard]] PACKAGEMODEL_EXPORT QVector<ScriptError>
-scriptErrors(const PackageInfoModel *package);
+PACKAGEMODEL_EXPORT QVector<ScriptError> scriptErrors(const PackageInfoModel *package);
 
 } // namespace PackageModel
 } // namespace Zel

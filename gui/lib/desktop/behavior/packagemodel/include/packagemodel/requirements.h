@@ -20,7 +20,7 @@ struct PACKAGEMODEL_EXPORT RobotRequirement {
     ///
     /// Read from the known robot models (Zel::RobotModel) when first asked for, and kept from then
     /// on. Texts are in the language of the application at that time.
-    [[nodiscard]] static const QMap<QString, QString> &prettyRobotNames();
+    static const QMap<QString, QString> &prettyRobotNames();
 
     QString model; ///< the model or family; empty for any robot
     SoftwareVersion minHeadVersion;
@@ -47,19 +47,15 @@ inline bool operator!=(const BrioRequirement &a, const BrioRequirement &b) {
 
 /// Tells whether `min` to `max` makes a range: both equal, or the first field in which they differ
 /// greater in `max`. When one only continues the other, whichever it is, that is a range too.
-[[nodiscard]] PACKAGEMODEL_EXPORT bool isRangeValid(const SoftwareVersion &min,
-                                                    const SoftwareVersion &max);
+PACKAGEMODEL_EXPORT bool isRangeValid(const SoftwareVersion &min, const SoftwareVersion &max);
 
 // To and from the records. A version text that does not parse gives a version that is not set.
 
-[[nodiscard]] PACKAGEMODEL_EXPORT RobotRequirement
-fromTanoRobotRequirement(const Tano::RobotRequirement &record);
-[[nodiscard]] PACKAGEMODEL_EXPORT Tano::RobotRequirement
+PACKAGEMODEL_EXPORT RobotRequirement fromTanoRobotRequirement(const Tano::RobotRequirement &record);
+PACKAGEMODEL_EXPORT Tano::RobotRequirement
 toTanoRobotRequirement(const RobotRequirement &requirement);
-[[nodiscard]] PACKAGEMODEL_EXPORT BrioRequirement
-fromTanoBrioRequirement(const Tano::BrioRequirement &record);
-[[nodiscard]] PACKAGEMODEL_EXPORT Tano::BrioRequirement
-toTanoBrioRequirement(const BrioRequirement &requirement);
+PACKAGEMODEL_EXPORT BrioRequirement fromTanoBrioRequirement(const Tano::BrioRequirement &record);
+PACKAGEMODEL_EXPORT Tano::BrioRequirement toTanoBrioRequirement(const BrioRequirement &requirement);
 
 } // namespace Zel
 

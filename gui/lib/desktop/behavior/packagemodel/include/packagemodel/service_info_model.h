@@ -30,13 +30,13 @@ public:
     /// Takes the QObject parent of `other` as well as its content. Does not notify.
     ServiceInfoModel &operator=(const ServiceInfoModel &other);
 
-    [[nodiscard]] Tano::PackageService toPackageService() const;
+    Tano::PackageService toPackageService() const;
 
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString execStart() const;
-    [[nodiscard]] bool isAutoRun() const;
+    QString name() const;
+    QString execStart() const;
+    bool isAutoRun() const;
     /// Further settings of the service, by name.
-    [[nodiscard]] QMap<QString, QString> properties() const;
+    QMap<QString, QString> properties() const;
 
 Q_SIGNALS:
     void autoRunChanged(bool value);

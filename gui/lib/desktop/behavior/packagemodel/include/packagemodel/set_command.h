@@ -31,7 +31,7 @@ public:
 
 protected:
     /// The package being edited, which the command does not own; null once it is gone.
-    [[nodiscard]] PackageInfoModel *model() const;
+    PackageInfoModel *model() const;
 
 private:
     QPointer<PackageInfoModel> m_model;
@@ -44,8 +44,8 @@ public:
     ~BehaviorCommand() override;
 
     /// The first behavior of the package with that path; null when there is none.
-    [[nodiscard]] BehaviorInfoModel *behaviorInfoModel() const;
-    [[nodiscard]] const QString &behaviorPath() const { return m_behaviorPath; }
+    BehaviorInfoModel *behaviorInfoModel() const;
+    const QString &behaviorPath() const { return m_behaviorPath; }
 
 protected:
     /// For a command that changes the path itself.
@@ -62,8 +62,8 @@ public:
     ~DialogCommand() override;
 
     /// The first dialog of the package with that topic name; null when there is none.
-    [[nodiscard]] DialogInfoModel *dialogInfoModel() const;
-    [[nodiscard]] const QString &dialogName() const { return m_dialogName; }
+    DialogInfoModel *dialogInfoModel() const;
+    const QString &dialogName() const { return m_dialogName; }
 
 protected:
     /// For a command that changes the topic name itself.
@@ -82,7 +82,7 @@ public:
 
     /// Whether the command's run is over: it was made final, it took in a final command, or the
     /// last merge into it was refused.
-    [[nodiscard]] virtual bool isFinalCommand() const;
+    virtual bool isFinalCommand() const;
 
 protected:
     MergeableCommand() = default;
@@ -125,10 +125,10 @@ public:
     }
 
     /// The package's value.
-    [[nodiscard]] T value() const;
+    T value() const;
     void setValue(const T &value);
     /// The text of the command; translated.
-    [[nodiscard]] QString commandName() const;
+    QString commandName() const;
 
     void undo() override { setValue(m_oldValue); }
     void redo() override { setValue(m_newValue); }

@@ -27,14 +27,14 @@ public:
                          bool isFinal);
 
     /// The package's text.
-    [[nodiscard]] QString value() const;
+    QString value() const;
     void setValue(const QString &value);
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override;
+    int id() const override;
     bool mergeWith(const QUndoCommand *incoming) override;
-    [[nodiscard]] bool isFinalCommand() const override;
+    bool isFinalCommand() const override;
 
 private:
     int m_what;
@@ -54,14 +54,14 @@ public:
                                   const RobotLanguage &language, bool isFinal);
 
     /// The package's text.
-    [[nodiscard]] QString value() const;
+    QString value() const;
     void setValue(const QString &value);
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override;
+    int id() const override;
     bool mergeWith(const QUndoCommand *incoming) override;
-    [[nodiscard]] bool isFinalCommand() const override;
+    bool isFinalCommand() const override;
 
 private:
     int m_what;

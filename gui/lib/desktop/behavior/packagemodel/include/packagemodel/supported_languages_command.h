@@ -21,7 +21,7 @@ public:
     virtual void switchLanguage() = 0;
 
 protected:
-    [[nodiscard]] const RobotLanguage &language() const { return m_language; }
+    const RobotLanguage &language() const { return m_language; }
 
 private:
     RobotLanguage m_language;

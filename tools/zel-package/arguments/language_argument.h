@@ -1,0 +1,20 @@
+#pragma once
+
+#include "console/console.h"
+
+#include <zel/robot_language.h>
+
+#include <QString>
+
+#include <optional>
+
+namespace ZelPackage {
+
+/// The language that an argument names by its code. A code that the table of languages does not
+/// have is taken as well, with a remark, where it is built as a code is (ISO 639 language, then
+/// optionally ISO 15924 script and ISO 3166-1 territory, then a private-use part as in BCP 47); for
+/// any other text tells what is wrong.
+[[nodiscard]] std::optional<Zel::RobotLanguage> languageArgument(const QString &code,
+                                                                 Console &console);
+
+} // namespace ZelPackage

@@ -1,0 +1,41 @@
+#include "program_command.h"
+
+#include "console/text_layout.h"
+#include "console/text_table.h"
+
+#include <packagemodel/requirements.h>
+
+namespace ZelPackage {
+namespace {
+
+QList<QCommandLineOption> options() {
+    return {};
+}
+
+ExitStatus run(const QCommandLineParser &, Console &console) {
+    TextTable table({{QCoreApplication::translate("zel-package", "robot")},
+                     {QCoreApplication::translate("zel-package", "model")}});
+    const auto &robots = Zel::RobotRequirement::prettyRobotNames();
+    for (auto robot = robots.begin(); robot != robots.end(); ++robot)
+        table.addRow({{printable(robot.value())}, {printable(robot.key())}});
+    console.print(table.toText(console, 0));
+    return Fine;
+}
+
+} // namespace
+
+const ProgramCommand robotsCommand{
+    "robots",
+    QT_TRANSLATE_NOOP("zel-package", "List the known robots"),
+    "",
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Lists the robots that a package may require, families and models, and what "
+                      "the model of a robot requirement is for each; it is empty for any robot. A "
+                      "manifest may require others too."),
+    0,
+    0,
+    options,
+    run,
+};
+
+} // namespace ZelPackage

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "console/console.h"
+
+#include <tano/package_info.h>
+
+#include <QString>
+
+#include <optional>
+#include <string>
+
+namespace ZelPackage {
+
+/// Whether an argument means standard input or output rather than a file: "-".
+bool isStandardStream(const QString &file);
+
+/// A manifest as it was read, and its bytes.
+struct Manifest {
+    Tano::PackageInfo package;
+    std::string content;
+};
+
+/// The bytes of `file`, "-" for standard input; where they cannot be read, `trouble` says why.
+[[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &trouble);
+
+/// Reads the manifest in `file`, "-" for standard input; where that fails, tells why and where.
+[[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);
+
+/// Saves a package to the file that a manifest was read from, unless another program has changed it
+/// since. After a failure, package.errorString() explains it.
+[[nodiscard]] bool saveIfUnchanged(const QString &file, const Manifest &read,
+                                   const Tano::PackageInfo &package);
+
+} // namespace ZelPackage

@@ -1,0 +1,143 @@
+#include "program_command.h"
+
+#include "arguments/language_argument.h"
+#include "manifest_source.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_info_utils.h>
+
+#include <QFile>
+
+namespace ZelPackage {
+namespace {
+
+const QLatin1String uidOption("uid");
+const QLatin1String nameOption("name");
+const QLatin1String languageOption("language");
+
+QList<QCommandLineOption> options() {
+    return {
+        {uidOption,
+         QCoreApplication::translate("zel-package",
+                                     "The package's identifier: at most 50 of a-z, 0-9, '_' "
+                                     "and '-', not digits alone."),
+         QStringLiteral("UID")},
+        {nameOption,
+         QCoreApplication::translate("zel-package", "The package's name, in the first language."),
+         QStringLiteral("TEXT")},
+        {languageOption,
+         QCoreApplication::translate("zel-package",
+                                     "A language that the package runs in, for example fr_FR; "
+                                     "may be given several times. %1 when none is given.")
+             .arg(Zel::Language::defaultLanguage().isoCode()),
+         QStringLiteral("CODE")}};
+}
+
+std::optional<Zel::RobotLanguages> languagesOf(const QStringList &codes, Console &console) {
+    Zel::RobotLanguages languages;
+    bool areCodes = true;
+    for (const QString &code : codes) {
+        if (const auto language = languageArgument(code, console))
+            languages.push_back(*language);
+        else
+            areCodes = false;
+    }
+    if (!areCodes)
+        return {};
+    if (languages.empty())
+        languages.push_back(Zel::Language::defaultLanguage());
+    return languages;
+}
+
+// Only a file that is not there yet is written: one that another program makes meanwhile is safe.
+bool writeNewFile(const QString &path, const QByteArray &content, Console &console) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        console.tell(path,
+                     QCoreApplication::translate("zel-package", "The file cannot be made: %1.")
+                         .arg(file.errorString()));
+        return false;
+    }
+    if (file.write(content) == content.size() && file.flush())
+        return true;
+    console.tell(path, QCoreApplication::translate("zel-package", "The file cannot be written: %1.")
+                           .arg(file.errorString()));
+    file.remove();
+    return false;
+}
+
+bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Console &console) {
+    const QByteArray content = package.saveToManifestContent();
+    if (content.isEmpty()) {
+        console.tell(file, QString::fromStdString(package.packageInfo().errorString()));
+        return false;
+    }
+    if (!isStandardStream(file))
+        return writeNewFile(file, content, console);
+    console.printBytes(content.toStdString());
+    return true;
+}
+
+bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
+    QStringList errors;
+    if (Zel::PackageModel::validatePackageUID(&package, errors))
+        return true;
+    console.tell(QCoreApplication::translate(
+                     "zel-package", "%1 'zel-package explain uid-invalid' says what a UID is.")
+                     .arg(errors.constFirst()));
+    return false;
+}
+
+// Standard error, so that the manifest on standard output stays one.
+void tellWhatIsLeft(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
+    QStringList fields;
+    const auto issues = Zel::PackageModel::issues(&package);
+    for (const Zel::PackageModel::Issue &issue : issues)
+        fields += issue.path;
+    console.tell(file, QCoreApplication::translate(
+                           "zel-package", "A manifest of version %1; what it still needs: %2.")
+                           .arg(Zel::SoftwareVersionUtils::toString(package.version()),
+                                fields.join(QStringLiteral(", "))));
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const QString file = arguments.positionalArguments().constFirst();
+    const QString uid = arguments.value(uidOption);
+    if (uid.isEmpty()) {
+        console.tell(QCoreApplication::translate("zel-package", "A package needs a --uid."));
+        return Failure;
+    }
+    const auto languages = languagesOf(arguments.values(languageOption), console);
+    if (!languages)
+        return Failure;
+
+    Zel::PackageInfoModel package;
+    package.setUid(uid);
+    if (!checkUid(package, console))
+        return Failure;
+    package.setVersion({1, 0, 0});
+    for (const Zel::RobotLanguage &language : *languages)
+        package.addSupportedLanguage(language);
+    package.setName(arguments.value(nameOption), languages->front());
+    if (!writeManifest(file, package, console))
+        return Failure;
+    tellWhatIsLeft(package, file, console);
+    return Fine;
+}
+
+} // namespace
+
+const ProgramCommand newCommand{
+    "new",
+    QT_TRANSLATE_NOOP("zel-package", "Make a new manifest"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE --uid UID [--name TEXT] [--language CODE]..."),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Makes FILE, the manifest of a new package of version 1.0.0. A file that "
+                      "exists is never overwritten. '-' writes to standard output."),
+    1,
+    1,
+    options,
+    run,
+};
+
+} // namespace ZelPackage

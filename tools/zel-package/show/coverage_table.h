@@ -1,0 +1,15 @@
+#pragma once
+
+#include "console/console.h"
+#include "coverage.h"
+
+#include <vector>
+
+namespace ZelPackage {
+
+/// The coverage of languages as a table, a line for each, as wide as the terminal allows, and notes
+/// on the languages that do not run.
+QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Console &console,
+                      int indent);
+
+} // namespace ZelPackage

@@ -1,0 +1,82 @@
+#include "program_command.h"
+
+#include "arguments/language_argument.h"
+#include "arguments/word_check.h"
+#include "manifest/manifest_source.h"
+#include "show_json.h"
+#include "show_text.h"
+
+#include <packagemodel/package_info_model.h>
+
+namespace ZelPackage {
+namespace {
+
+const QLatin1String languageOption("language");
+const QLatin1String formatOption("format");
+const QLatin1String textFormat("text");
+const QLatin1String jsonFormat("json");
+
+QList<QCommandLineOption> options() {
+    return {{languageOption,
+             QCoreApplication::translate("zel-package",
+                                         "Show every text in this language; '!' marks those that "
+                                         "are missing."),
+             QStringLiteral("CODE")},
+            {formatOption,
+             QCoreApplication::translate("zel-package", "The form of the output: text or json."),
+             QStringLiteral("FORMAT"), textFormat}};
+}
+
+bool checkOptions(const QCommandLineParser &arguments, Console &console) {
+    const QString format = arguments.value(formatOption);
+    if (!checkWord(format, {textFormat, jsonFormat},
+                   QCoreApplication::translate("zel-package", "There is no format '%1'%2"),
+                   QCoreApplication::translate("zel-package", "; it is either text or json."),
+                   console))
+        return false;
+    if (format == jsonFormat && arguments.isSet(languageOption)) {
+        console.tell(QCoreApplication::translate(
+            "zel-package", "--format json shows all languages and takes no --language."));
+        return false;
+    }
+    return true;
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    if (!checkOptions(arguments, console))
+        return Failure;
+    const auto manifest = readManifest(arguments.positionalArguments().constFirst(), console);
+    if (!manifest)
+        return Failure;
+    // The languages that the manifest mentions are known from here on.
+    const Zel::PackageInfoModel package(manifest->package);
+
+    std::optional<Zel::RobotLanguage> language;
+    if (arguments.isSet(languageOption)) {
+        language = languageArgument(arguments.value(languageOption), console);
+        if (!language)
+            return Failure;
+    }
+    console.print(arguments.value(formatOption) == jsonFormat ? jsonOf(package)
+                                                              : textOf(package, language, console));
+    return Fine;
+}
+
+} // namespace
+
+const ProgramCommand showCommand{
+    "show",
+    QT_TRANSLATE_NOOP("zel-package", "Show what a manifest says"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE [--language CODE] [--format text|json]"),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Shows all that the manifest in FILE says, and how far it is translated. A "
+                      "missing text is replaced as an application does it: by the one in the "
+                      "default language, then, for a name, by the uid or the path. '-' reads "
+                      "standard input."),
+    1,
+    1,
+    options,
+    run,
+};
+
+} // namespace ZelPackage
