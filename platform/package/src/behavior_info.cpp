@@ -1,10 +1,9 @@
 #include <tano/behavior_info.h>
 
 #include "manifest_writer.h"
-#include "record_data.h"
+#include "record_fields.h"
 
 #include <algorithm>
-#include <tuple>
 
 namespace Tano {
 namespace {
@@ -95,7 +94,7 @@ void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
     keepOnly(data.tags, supportedCodes);
     keepOnly(data.triggerSentences, supportedCodes);
     keepOnly(data.loadingResponses, supportedCodes);
-    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
+    dropChildren(data.extras, textsOf<BehaviorData>(), [&](const std::string &code) {
         return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
     });
 }
@@ -317,18 +316,8 @@ void BehaviorInfo::trimExtraInfo(const std::set<std::string> &descriptionCodes,
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
-    if (RecordAccess::sharesData(a, b))
-        return true;
-    const BehaviorData &x = RecordAccess::data(a);
-    const BehaviorData &y = RecordAccess::data(b);
-    const auto fields = [](const BehaviorData &data) {
-        const auto &[path, nature, userRequestable, permissions, conditions, names, descriptions,
-                     tags, triggerSentences, loadingResponses, extras] = data;
-        (void)extras; // compared as it is written
-        return std::tie(path, nature, userRequestable, permissions, conditions, names, descriptions,
-                        tags, triggerSentences, loadingResponses);
-    };
-    return fields(x) == fields(y) && sameExtras(x, y);
+    return RecordAccess::sharesData(a, b) ||
+           sameContent(RecordAccess::data(a), RecordAccess::data(b));
 }
 
 } // namespace Tano

@@ -15,13 +15,13 @@ std::uint32_t bounded(std::uint64_t count) {
     return std::uint32_t(std::min<std::uint64_t>(count, std::numeric_limits<std::uint32_t>::max()));
 }
 
-// The child of an element that a step may name; Element::Count for none.
+// The child of an element that a step may name; Element::None for none.
 Element childWithField(Element parent, std::string_view field) {
     for (const Element child : ruleOf(parent).children) {
         if (ruleOf(child).field == field)
             return child;
     }
-    return Element::Count;
+    return Element::None;
 }
 
 } // namespace
@@ -87,7 +87,7 @@ FieldPositions::NodeId FieldPositions::block(NodeId parent, const FieldPath::Ste
     if (step.selectors.empty())
         return noNode;
     for (const Element kind : ruleOf(m_nodes[parent].element).children) {
-        if (!isTextsBlock(kind) || childWithField(kind, step.field) == Element::Count)
+        if (!isTextsBlock(kind) || childWithField(kind, step.field) == Element::None)
             continue;
         const Siblings blocks = siblings(parent, kind, step.selectors[0].text);
         return blocks.count == 0 ? noNode : *blocks.first;
@@ -117,7 +117,7 @@ FieldPositions::NodeId FieldPositions::entry(NodeId parent, Element element,
 
 FieldPositions::NodeId FieldPositions::child(NodeId parent, const FieldPath::Step &step) const {
     const Element element = childWithField(m_nodes[parent].element, step.field);
-    return element == Element::Count ? noNode : entry(parent, element, step, 0);
+    return element == Element::None ? noNode : entry(parent, element, step, 0);
 }
 
 SourcePosition FieldPositions::find(const FieldPath &path) const {

@@ -2,7 +2,7 @@
 
 #include "field_positions.h"
 #include "line_counter.h"
-#include "record_data.h"
+#include "record_builder.h"
 #include "seen_keys.h"
 #include "xml_namespaces.h"
 #include "xml_reading.h"
@@ -41,7 +41,6 @@ public:
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
-    static_assert(int(Element::Count) <= 32, "Frame::seen has a bit per element");
 
     [[nodiscard]] const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
@@ -55,9 +54,11 @@ private:
         const ElementRule *rule = nullptr; // of the element
         std::string key;                   // the value of its key attribute
         int index = 0;                     // among those of its kind (and key) in the parent
-        std::uint32_t seen = 0;            // which children have stood here
-        std::size_t unplaced = 0;          // from here on, extras->kept wait for the next child
-        SeenKeys keys;                     // of the children that may not repeat
+        static_assert(mostChildren <= 32);
+        std::uint32_t seen = 0;   // which children have occurred, a bit for each
+        std::size_t child = 0;    // the last one, by its index in the rule
+        std::size_t unplaced = 0; // from here on, extras->kept wait for the next child
+        SeenKeys keys;            // of the children that may not repeat
         std::shared_ptr<Extras> extras;
         FieldPositions::NodeId node = 0; // while positions are kept
 
@@ -96,21 +97,11 @@ private:
     void useNamespace(Frame &record, const XmlNamespaces::Binding &binding);
     bool checkOccurrence(Frame &parent, const Frame &child);
     void placeKept(Frame &parent, const Frame &child);
-    void beginRecord(Frame &frame);
-    void beginPackage();
-    void endRecord(const Frame &frame);
-    void storeText(Frame &frame);
-    void storeLists(const std::string &language);
+    bool checkValues(const Frame &frame);
+    bool checkFormat(const std::string &format);
     void storeExtras(Frame &frame);
     void notePositions(Frame &frame, const XML_Char **attributes);
 
-    [[nodiscard]] int nextIndex(const Frame &frame);
-    [[nodiscard]] std::vector<std::string> *openList(Element element);
-    [[nodiscard]] TextMap &textsField(Element block, Element field);
-    [[nodiscard]] std::string take(int attribute) {
-        return std::move(m_values[std::size_t(attribute)]);
-    }
-    [[nodiscard]] bool takeFlag(const Frame &frame, int attribute);
     [[nodiscard]] Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
     [[nodiscard]] Frame &parentOf(const Frame &frame) {
         return m_frames[std::size_t(&frame - m_frames.data()) - 1];
@@ -144,20 +135,14 @@ private:
     std::string m_raw;
     std::string m_text; // of the open text element
     // Of the known attributes of the element that starts.
-    std::array<std::string, mostKnownAttributes> m_values;
-    std::uint32_t m_present = 0; // which of them it has
+    RecordBuilder::Values m_values;
+    std::uint32_t m_present = 0; // which of them it has, a bit for each
+    static_assert(mostKnownAttributes <= 32);
     bool m_hasUnknownAttributes = false;
 
-    std::shared_ptr<PackageData> m_package;
+    RecordBuilder m_builder;
     std::shared_ptr<Extras> m_packageExtras;
     std::vector<Extras::Kept> m_outside; // the root element
-    std::shared_ptr<BehaviorData> m_behavior;
-    // The lists of the block of texts that is open; their memory serves the next block too.
-    std::vector<std::string> m_tags;
-    std::vector<std::string> m_triggerSentences;
-    std::vector<std::string> m_loadingResponses;
-    std::shared_ptr<DialogData> m_dialog;
-    PackageService m_service;
 };
 
 } // namespace Tano

@@ -4,13 +4,12 @@
 #include <tano/save_file.h>
 
 #include "manifest_writer.h"
-#include "record_data.h"
+#include "record_fields.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <ostream>
-#include <tuple>
 
 namespace Tano {
 namespace {
@@ -84,30 +83,16 @@ void addKeys(std::set<std::string> &keys, const Map &map) {
 
 } // namespace
 
-// The bindings name every member, so that a new one does not compile until it is compared.
-
 bool operator==(const RobotRequirement &a, const RobotRequirement &b) {
-    const auto fields = [](const RobotRequirement &requirement) {
-        const auto &[model, minHead, maxHead, minBody, maxBody] = requirement;
-        return std::tie(model, minHead, maxHead, minBody, maxBody);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 bool operator==(const BrioRequirement &a, const BrioRequirement &b) {
-    const auto fields = [](const BrioRequirement &requirement) {
-        const auto &[minVersion, maxVersion] = requirement;
-        return std::tie(minVersion, maxVersion);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 bool operator==(const PackageService &a, const PackageService &b) {
-    const auto fields = [](const PackageService &service) {
-        const auto &[name, execStart, autoRun, properties] = service;
-        return std::tie(name, execStart, autoRun, properties);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 const std::string &PackageInfo::uuid() const {
@@ -421,7 +406,7 @@ void PackageInfo::trimExtraInfo() {
     const KeySet supportedCodes(data.supportedLanguages);
     keepOnly(data.names, descriptionCodes);
     keepOnly(data.descriptions, descriptionCodes);
-    dropChildren(data.extras, Element::PackageTexts,
+    dropChildren(data.extras, textsOf<PackageData>(),
                  [&](const std::string &code) { return !descriptionCodes.contains(code); });
     for (BehaviorInfo &behavior : data.behaviors)
         trimBehavior(behavior, descriptionCodes, supportedCodes);
@@ -476,21 +461,8 @@ const std::string &PackageInfo::errorString() const {
 }
 
 bool operator==(const PackageInfo &a, const PackageInfo &b) {
-    if (RecordAccess::sharesData(a, b))
-        return true;
-    const PackageData &x = RecordAccess::data(a);
-    const PackageData &y = RecordAccess::data(b);
-    const auto fields = [](const PackageData &data) {
-        const auto &[uuid, version, typeVersion, installer, author, organization, date, channel,
-                     path, supportedLanguages, descriptionLanguages, names, descriptions,
-                     robotRequirements, brioRequirements, behaviors, dialogs, services, extras] =
-            data;
-        (void)extras; // compared as it is written
-        return std::tie(uuid, version, typeVersion, installer, author, organization, date, channel,
-                        path, supportedLanguages, descriptionLanguages, names, descriptions,
-                        robotRequirements, brioRequirements, behaviors, dialogs, services);
-    };
-    return fields(x) == fields(y) && sameExtras(x, y);
+    return RecordAccess::sharesData(a, b) ||
+           sameContent(RecordAccess::data(a), RecordAccess::data(b));
 }
 
 std::ostream &operator<<(std::ostream &stream, const PackageInfo &package) {
