@@ -72,8 +72,8 @@ int ignoredMembers(Extras... extras) {
 // Elements of the format, one a line below their parent: how often, their attributes and content.
 
 QString attributeText(const QString &name, Tano::AttributeKind kind) {
-    static const QStringList marks{QStringLiteral("!"), QString(), QStringLiteral("=key"),
-                                   QStringLiteral("=flag")};
+    static const QStringList marks{QString(), QStringLiteral("=flag"), QStringLiteral("!"),
+                                   QStringLiteral("=key"), QStringLiteral("=format")};
     return name + marks[int(kind)];
 }
 
@@ -175,12 +175,14 @@ private:
             if (child.tag != QLatin1String("attribute"))
                 continue;
             const QString type = child["type"];
-            const bool isKey =
-                type == QLatin1String("Key") || type == QLatin1String("LanguageCode");
+            static const QHash<QString, Kind> kinds{{QStringLiteral("Flag"), Kind::Flag},
+                                                    {QStringLiteral("Key"), Kind::Key},
+                                                    {QStringLiteral("LanguageCode"), Kind::Key},
+                                                    {QStringLiteral("Format"), Kind::Format}};
             const bool isRequired = child["use"] == QLatin1String("required");
-            const Kind kind = type == QLatin1String("Flag") ? Kind::Flag : Kind::Optional;
-            const Kind requiredKind = isKey ? Kind::Key : Kind::Required;
-            attributes += attributeText(child["name"], isRequired ? requiredKind : kind);
+            const Kind kind = kinds.value(type, isRequired ? Kind::Required : Kind::Optional);
+            const bool isUsual = isRequired == Tano::AttributeRule{{}, kind}.isRequired();
+            attributes += attributeText(child["name"], kind) + (isUsual ? QString() : child["use"]);
         }
     }
 

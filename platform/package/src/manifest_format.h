@@ -32,16 +32,14 @@ enum class Content : std::uint8_t { Elements, Text, Nothing };
 enum class Occurs : std::uint8_t { Once, OncePerKey, AnyTimes };
 
 /// What an attribute is to its element. A key distinguishes the element from its siblings; a flag
-/// is "true" or "false". Keys are required.
-enum class AttributeKind : std::uint8_t { Required, Optional, Key, Flag };
+/// is "true" or "false"; the format is the version of the format.
+enum class AttributeKind : std::uint8_t { Optional, Flag, Required, Key, Format };
 
 struct AttributeRule {
     std::string_view name;
     AttributeKind kind = AttributeKind::Optional;
 
-    [[nodiscard]] constexpr bool isRequired() const {
-        return kind == AttributeKind::Required || kind == AttributeKind::Key;
-    }
+    [[nodiscard]] constexpr bool isRequired() const { return kind >= AttributeKind::Required; }
 };
 
 /// A constant table that an element's rule refers to.

@@ -11,8 +11,6 @@
 namespace Tano {
 namespace {
 
-static_assert(attributeRules<PackageData>[0].name == "format", "checkValues() expects it there");
-
 ManifestParser &parserAt(void *self) {
     return *static_cast<ManifestParser *>(self);
 }
@@ -37,15 +35,6 @@ bool looksLikeUtf16(std::string_view bytes) {
     using namespace std::string_view_literals;
     const std::string_view start = bytes.substr(0, 2);
     return start == "\xFF\xFE"sv || start == "\xFE\xFF"sv || start == "<\0"sv || start == "\0<"sv;
-}
-
-bool isDecimal(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-bool isKnownAttribute(const ElementRule &rule, std::string_view name) {
-    return std::any_of(rule.attributes.begin(), rule.attributes.end(),
-                       [&](const AttributeRule &attribute) { return attribute.name == name; });
 }
 
 } // namespace
@@ -288,7 +277,7 @@ void ManifestParser::keepRaw(std::string xml) {
         kept.push_back({std::move(position), std::move(xml)});
 }
 
-bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
+void ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
     frame.rule = m_rules + std::size_t(element);
@@ -297,76 +286,28 @@ bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     frame.unplaced = 0;
     frame.keys.clear();
     frame.extras.reset();
-    if (!readAttributes(frame, attributes) || !readKey(frame))
-        return false;
-    if (m_hasUnknownAttributes && !keepAttributes(frame, attributes))
-        return false;
-    if (!checkValues(frame))
-        return false;
+    if (std::string sentence = m_attributes.read(*frame.rule, attributes); !sentence.empty())
+        return fail(std::move(sentence));
+    frame.key = m_attributes.key(*frame.rule);
+    if (m_attributes.hasUnknown() && !keepAttributes(frame, attributes))
+        return;
 
-    const ElementRule &rule = *frame.rule;
     ++m_open;
     if (m_open > 1) {
         frame.index = m_builder.count(frame.element, frame.key);
         Frame &parent = parentOf(frame);
         if (!checkOccurrence(parent, frame))
-            return false;
+            return;
         placeKept(parent, frame);
     }
     if (m_keepsPositions)
         notePositions(frame, attributes);
-    if (rule.content == Content::Text)
+    if (frame.rule->content == Content::Text)
         m_text.clear();
     if (m_open > 1)
-        m_builder.start(frame.element, frame.key, m_values);
+        m_builder.start(frame.element, frame.key, m_attributes.values());
     else
-        m_builder.startPackage(m_values);
-    return true;
-}
-
-bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
-    const ElementRule &rule = *frame.rule;
-    const std::size_t known = rule.attributes.size();
-    m_present = 0;
-    m_hasUnknownAttributes = false;
-    for (std::size_t i = 0; i < known; ++i)
-        m_values[i].clear();
-
-    for (; *attributes; attributes += 2) {
-        const std::string_view name(attributes[0]);
-        std::size_t i = 0;
-        while (i < known && rule.attributes[i].name != name)
-            ++i;
-        if (i == known) {
-            m_hasUnknownAttributes = true;
-        } else {
-            m_values[i] = attributes[1];
-            m_present |= 1U << i;
-        }
-    }
-
-    for (std::size_t i = 0; i < known; ++i) {
-        if (rule.attributes[i].isRequired() && !(m_present & (1U << i))) {
-            fail("The element " + tagged(rule.name) + " lacks the attribute " +
-                 quoted(rule.attributes[i].name) + '.');
-            return false;
-        }
-    }
-    return true;
-}
-
-bool ManifestParser::readKey(Frame &frame) {
-    frame.key.clear();
-    const ElementRule &rule = *frame.rule;
-    if (rule.keyAttribute < 0)
-        return true;
-    const auto attribute = std::size_t(rule.keyAttribute);
-    frame.key = m_values[attribute];
-    if (frame.key.size() <= ManifestReader::maxKeyLength)
-        return true;
-    fail("The attribute " + quoted(rule.attributes[attribute].name) + " of " + tagged(rule.name) +
-         " is longer than 4 KiB.");
-    return false;
+        m_builder.startPackage(m_attributes.values());
 }
 
 bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
@@ -384,7 +325,7 @@ bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
     if (isRoot)
         extras.namespaces = m_namespaces.declared();
     for (; *attributes; attributes += 2) {
-        if (isKnownAttribute(*frame.rule, attributes[0]))
+        if (ManifestAttributes::isKnown(*frame.rule, attributes[0]))
             continue;
         ((extras.attributes += ' ') += attributes[0]) += "=\"";
         appendEscaped(extras.attributes, attributes[1], EscapeFor::Attribute);
@@ -428,34 +369,6 @@ void ManifestParser::placeKept(Frame &parent, const Frame &child) {
     parent.unplaced = kept.size();
 }
 
-// The values that are not free: the version of the format and flags.
-bool ManifestParser::checkValues(const Frame &frame) {
-    const Rows<AttributeRule> &attributes = frame.rule->attributes;
-    if (frame.element == Element::Package)
-        return checkFormat(m_values[0]);
-    for (std::size_t i = 0; i < attributes.size(); ++i) {
-        const std::string &value = m_values[i];
-        const bool isPresent = (m_present & (1U << i)) != 0;
-        if (attributes[i].kind != AttributeKind::Flag || !isPresent || value == yes || value == no)
-            continue;
-        fail("The attribute " + quoted(attributes[i].name) + " of " + tagged(frame.rule->name) +
-             " is " + quoted(value) + R"( instead of "true" or "false".)");
-        return false;
-    }
-    return true;
-}
-
-bool ManifestParser::checkFormat(const std::string &format) {
-    if (format == formatVersion)
-        return true;
-    const bool isNewer = isDecimal(format) && format != "0" && format.front() != '0';
-    fail("The format " + quoted(format) +
-         (isNewer ? " is newer than the one that this version reads, "
-                  : " is unknown; this version reads ") +
-         quoted(formatVersion) + '.');
-    return false;
-}
-
 void ManifestParser::storeExtras(Frame &frame) {
     auto &children = frame.extras->children;
     std::sort(children.begin(), children.end(),
@@ -493,12 +406,12 @@ void ManifestParser::notePositions(Frame &frame, const XML_Char **attributes) {
     const SourcePosition place = countLines(eventOffset());
     const FieldPositions::NodeId parent = m_open > 1 ? parentOf(frame).node : 0;
     frame.node = m_positions.add(parent, frame.element, frame.key, place);
-    if (!m_hasUnknownAttributes)
+    if (!m_attributes.hasUnknown())
         return;
     for (; *attributes; attributes += 2) {
         const std::string_view name = attributes[0];
         const bool isPlain = name != "xmlns" && name.find(':') == std::string_view::npos;
-        if (isPlain && !isKnownAttribute(*frame.rule, name))
+        if (isPlain && !ManifestAttributes::isKnown(*frame.rule, name))
             m_positions.addUnknown(frame.node, UnknownNode::Kind::Attribute, std::string(name),
                                    place);
     }

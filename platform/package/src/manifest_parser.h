@@ -2,6 +2,7 @@
 
 #include "field_positions.h"
 #include "line_counter.h"
+#include "manifest_attributes.h"
 #include "record_builder.h"
 #include "seen_keys.h"
 #include "xml_namespaces.h"
@@ -90,15 +91,11 @@ private:
     bool checkTag();
     bool checkInstruction(std::string_view target);
     bool declareNamespaces(const XML_Char **attributes);
-    bool openFrame(Element element, const XML_Char **attributes);
-    bool readAttributes(Frame &frame, const XML_Char **attributes);
-    bool readKey(Frame &frame);
+    void openFrame(Element element, const XML_Char **attributes);
     bool keepAttributes(Frame &frame, const XML_Char **attributes);
     void useNamespace(Frame &record, const XmlNamespaces::Binding &binding);
     bool checkOccurrence(Frame &parent, const Frame &child);
     void placeKept(Frame &parent, const Frame &child);
-    bool checkValues(const Frame &frame);
-    bool checkFormat(const std::string &format);
     void storeExtras(Frame &frame);
     void notePositions(Frame &frame, const XML_Char **attributes);
 
@@ -133,12 +130,8 @@ private:
     int m_unknownDepth = 0; // of the open elements that are captured as raw text
     bool m_rootDone = false;
     std::string m_raw;
-    std::string m_text; // of the open text element
-    // Of the known attributes of the element that starts.
-    RecordBuilder::Values m_values;
-    std::uint32_t m_present = 0; // which of them it has, a bit for each
-    static_assert(mostKnownAttributes <= 32);
-    bool m_hasUnknownAttributes = false;
+    std::string m_text;              // of the open text element
+    ManifestAttributes m_attributes; // of the element that starts
 
     RecordBuilder m_builder;
     std::shared_ptr<Extras> m_packageExtras;

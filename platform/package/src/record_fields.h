@@ -30,7 +30,7 @@ inline constexpr auto elementsOf = std::tuple<>();
 
 /// The first attribute of the root element, which is no field.
 struct FormatRow {
-    AttributeRule rule{"format", AttributeKind::Required};
+    AttributeRule rule{"format", AttributeKind::Format};
 
     [[nodiscard]] static constexpr auto members() { return std::tuple<>(); }
 };
