@@ -86,19 +86,6 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
 
 } // namespace
 
-void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
-                  const KeySet &supportedCodes) {
-    BehaviorData &data = RecordAccess::edit(behavior);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    keepOnly(data.tags, supportedCodes);
-    keepOnly(data.triggerSentences, supportedCodes);
-    keepOnly(data.loadingResponses, supportedCodes);
-    dropChildren(data.extras, textsOf<BehaviorData>(), [&](const std::string &code) {
-        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
-    });
-}
-
 const std::string &BehaviorInfo::natureInteractive() {
     return interactive;
 }
@@ -307,12 +294,12 @@ bool BehaviorInfo::removeAt(BehaviorList kind, const std::string &key, int index
 
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    trimTexts(RecordAccess::edit(*this), KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 void BehaviorInfo::trimExtraInfo(const std::set<std::string> &descriptionCodes,
                                  const std::set<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    trimTexts(RecordAccess::edit(*this), KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {

@@ -81,6 +81,27 @@ void addKeys(std::set<std::string> &keys, const Map &map) {
     }
 }
 
+// The languages of a record's lists of codes and of its texts, of its entries also.
+template<typename Data>
+void addLanguages(std::set<std::string> &codes, const Data &data) {
+    forEachElement<Data>([&](Element /*child*/, const auto &row) {
+        using Value = typename std::decay_t<decltype(row)>::Value;
+        if constexpr (isTexts<Value>) {
+            forEachElement<Value>(
+                [&](Element /*text*/, const auto &text) { addKeys(codes, data.*text.member); });
+        } else if constexpr (std::is_same_v<Value, UniqueTexts>) {
+            const std::vector<std::string> &list = data.*row.member;
+            codes.insert(list.begin(), list.end());
+        } else if constexpr (isEntryList<Value>) {
+            for (const auto &entry : data.*row.member)
+                addLanguages(codes, dataOf(entry));
+        } else if constexpr (std::is_same_v<Value, TextMap>) {
+            if (row.key.begin() == byLanguage)
+                addKeys(codes, data.*row.member);
+        }
+    });
+}
+
 } // namespace
 
 bool operator==(const RobotRequirement &a, const RobotRequirement &b) {
@@ -384,19 +405,8 @@ bool PackageInfo::moveService(int from, int to) {
 }
 
 std::set<std::string> PackageInfo::languageCodes() const {
-    std::set<std::string> codes(supportedLanguages().begin(), supportedLanguages().end());
-    codes.insert(descriptionLanguages().begin(), descriptionLanguages().end());
-    addKeys(codes, names());
-    addKeys(codes, descriptions());
-    for (const BehaviorInfo &behavior : behaviors()) {
-        addKeys(codes, behavior.names());
-        addKeys(codes, behavior.descriptions());
-        addKeys(codes, behavior.languagesToTags());
-        addKeys(codes, behavior.languagesToTriggerSentences());
-        addKeys(codes, behavior.languagesToLoadingResponses());
-    }
-    for (const DialogInfo &dialog : dialogs())
-        addKeys(codes, dialog.topics());
+    std::set<std::string> codes;
+    addLanguages(codes, RecordAccess::data(*this));
     return codes;
 }
 
@@ -404,12 +414,9 @@ void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
     const KeySet descriptionCodes(data.descriptionLanguages);
     const KeySet supportedCodes(data.supportedLanguages);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    dropChildren(data.extras, textsOf<PackageData>(),
-                 [&](const std::string &code) { return !descriptionCodes.contains(code); });
+    trimTexts(data, descriptionCodes, descriptionCodes);
     for (BehaviorInfo &behavior : data.behaviors)
-        trimBehavior(behavior, descriptionCodes, supportedCodes);
+        trimTexts(RecordAccess::edit(behavior), descriptionCodes, supportedCodes);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {

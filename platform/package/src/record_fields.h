@@ -304,6 +304,20 @@ constexpr Element textsOf() {
     return elementWith<Data>(TextsRow<Data>());
 }
 
+/// Keeps the texts of a record in the description languages, and its lists of texts in the
+/// supported ones.
+template<typename Data>
+void trimTexts(Data &data, const KeySet &descriptionCodes, const KeySet &supportedCodes) {
+    forEachElement<Texts<Data>>([&](Element /*text*/, const auto &row) {
+        using Value = typename std::decay_t<decltype(row)>::Value;
+        keepOnly(data.*row.member,
+                 std::is_same_v<Value, TextMap> ? descriptionCodes : supportedCodes);
+    });
+    dropChildren(data.extras, textsOf<Data>(), [&](const std::string &code) {
+        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
+    });
+}
+
 /// Which attribute is the key of a record; -1 for none.
 template<typename Data>
 constexpr int keyAttributeOf() {
