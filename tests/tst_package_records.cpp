@@ -1,8 +1,11 @@
 #include <tano/package_info.h>
 
-#include "record_data.h" // the private members
+#include "manifest_rules.h" // the private members
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QTest>
+#include <QXmlStreamReader>
 
 using Tano::BehaviorInfo;
 using Tano::DialogInfo;
@@ -10,33 +13,6 @@ using Tano::PackageInfo;
 using Strings = std::vector<std::string>;
 
 namespace {
-
-// Bindings to all members of each record: a new member does not compile until it is listed.
-
-auto members(Tano::RobotRequirement &r) {
-    auto &[a, b, c, d, e] = r;
-    return std::tie(a, b, c, d, e);
-}
-auto members(Tano::BrioRequirement &r) {
-    auto &[a, b] = r;
-    return std::tie(a, b);
-}
-auto members(Tano::PackageService &r) {
-    auto &[a, b, c, d] = r;
-    return std::tie(a, b, c, d);
-}
-auto members(BehaviorInfo &r) {
-    auto &[a, b, c, d, e, f, g, h, i, j, k] = Tano::RecordAccess::edit(r);
-    return std::tie(a, b, c, d, e, f, g, h, i, j, k);
-}
-auto members(DialogInfo &r) {
-    auto &[a, b, c, d] = Tano::RecordAccess::edit(r);
-    return std::tie(a, b, c, d);
-}
-auto members(PackageInfo &r) {
-    auto &[a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, t, u] = Tano::RecordAccess::edit(r);
-    return std::tie(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, t, u);
-}
 
 void change(std::string &text) {
     text += 'x';
@@ -63,16 +39,190 @@ void change(Tano::TextListMap &lists) {
     lists["x"].emplace_back();
 }
 
-// The index of the first member whose change `==` does not notice; the number of members for none.
-template<std::size_t Index = 0, typename Record>
-std::size_t firstIgnoredMember(const Record &record) {
-    if constexpr (Index < std::tuple_size_v<decltype(members(std::declval<Record &>()))>) {
-        Record changed = record;
-        change(std::get<Index>(members(changed)));
-        const bool isNoticed = changed != record && record != changed && changed == changed;
-        return isNoticed ? firstIgnoredMember<Index + 1>(record) : Index;
+template<typename Record>
+Record &editable(Record &record) {
+    return record;
+}
+Tano::BehaviorData &editable(BehaviorInfo &behavior) {
+    return Tano::RecordAccess::edit(behavior);
+}
+Tano::DialogData &editable(DialogInfo &dialog) {
+    return Tano::RecordAccess::edit(dialog);
+}
+Tano::PackageData &editable(PackageInfo &package) {
+    return Tano::RecordAccess::edit(package);
+}
+
+// How many members have no change that `==` notices, those in tables and the extras.
+template<typename Record, typename... Member>
+int ignoredMembers(Member... member) {
+    const auto isIgnored = [](auto wanted) {
+        Record changed;
+        change(editable(changed).*wanted);
+        return !(changed != Record() && Record() != changed && changed == changed);
+    };
+    return (0 + ... + int(isIgnored(member)));
+}
+template<typename Record, typename Data, typename... Extras>
+int ignoredMembers(Extras... extras) {
+    return std::apply([&](auto... member) { return ignoredMembers<Record>(member..., extras...); },
+                      Tano::membersOf<Data>());
+}
+
+// Elements of the format, one a line below their parent: how often, their attributes and content.
+
+QString attributeText(const QString &name, Tano::AttributeKind kind) {
+    static const QStringList marks{QString(), QStringLiteral("=flag"), QStringLiteral("!"),
+                                   QStringLiteral("=key"), QStringLiteral("=format")};
+    return name + marks[int(kind)];
+}
+
+QString elementLine(int level, const QString &name, bool repeats, const QStringList &attributes,
+                    bool isText) {
+    return QString(2 * level, QLatin1Char(' ')) + name +
+           (repeats ? QLatin1String("*") : QLatin1String("")) + QStringLiteral(" (") +
+           attributes.join(QLatin1Char(' ')) + QLatin1Char(')') +
+           (isText ? QStringLiteral(" text") : QString());
+}
+
+QString qstring(std::string_view text) {
+    return QString::fromUtf8(text.data(), int(text.size()));
+}
+
+constexpr Tano::ElementRules rules = Tano::makeRules();
+
+QStringList outlineOfRules(Tano::Element element = Tano::Element::Package, int level = 0) {
+    const Tano::ElementRule &rule = rules[std::size_t(element)];
+    QStringList attributes;
+    for (const Tano::AttributeRule &attribute : rule.attributes)
+        attributes += attributeText(qstring(attribute.name), attribute.kind);
+    QStringList lines{elementLine(level, qstring(rule.name), rule.occurs != Tano::Occurs::Once,
+                                  attributes, rule.content == Tano::Content::Text)};
+    for (const Tano::Element child : rule.children)
+        lines += outlineOfRules(child, level + 1);
+    return lines;
+}
+
+struct Xml {
+    QString tag;
+    QXmlStreamAttributes attributes;
+    std::vector<Xml> children;
+
+    QString operator[](const char *name) const {
+        return attributes.value(QLatin1String(name)).toString();
     }
-    return Index;
+};
+
+Xml readXml(QXmlStreamReader &reader) {
+    Xml xml{reader.name().toString(), reader.attributes(), {}};
+    while (reader.readNextStartElement())
+        xml.children.push_back(readXml(reader));
+    return xml;
+}
+
+class Schema {
+public:
+    explicit Schema(const QString &path) {
+        QFile file(path);
+        QXmlStreamReader reader(&file);
+        if (!file.open(QIODevice::ReadOnly) || !reader.readNextStartElement())
+            qFatal("cannot read %s", qPrintable(path));
+        m_root = readXml(reader);
+    }
+
+    QStringList outline() const {
+        QStringList lines;
+        addElements(m_root, false, 0, lines);
+        return lines;
+    }
+
+private:
+    const Xml &named(const QString &tag, const QString &name) const {
+        for (const Xml &child : m_root.children) {
+            if (child.tag == tag && child["name"] == name)
+                return child;
+        }
+        qFatal("the schema has no %s %s", qPrintable(tag), qPrintable(name));
+    }
+
+    // The elements in a group or type, which repeat where their sequence does.
+    void addElements(const Xml &in, bool repeats, int level, QStringList &lines) const {
+        for (const Xml &child : in.children) {
+            const bool isGroup = child.tag == QLatin1String("group") && !child["ref"].isEmpty();
+            if (child.tag == QLatin1String("element"))
+                addElement(child, repeats, level, lines);
+            else if (isGroup)
+                addElements(named(QStringLiteral("group"), child["ref"]), false, level, lines);
+            else if (child.tag == QLatin1String("sequence"))
+                addElements(child, !child["maxOccurs"].isEmpty(), level, lines);
+        }
+    }
+
+    void addElement(const Xml &element, bool repeats, int level, QStringList &lines) const {
+        const Xml &type = named(QStringLiteral("complexType"), element["type"]);
+        bool isText = type["name"] == QLatin1String("Text");
+        QStringList attributes;
+        addAttributes(type, attributes, isText);
+        lines += elementLine(level, element["name"], repeats, attributes, isText);
+        addElements(type, false, level + 1, lines);
+    }
+
+    static void addAttributes(const Xml &in, QStringList &attributes, bool &isText) {
+        using Kind = Tano::AttributeKind;
+        for (const Xml &child : in.children) {
+            isText = isText || child["base"] == QLatin1String("Text");
+            addAttributes(child, attributes, isText);
+            if (child.tag != QLatin1String("attribute"))
+                continue;
+            const QString type = child["type"];
+            static const QHash<QString, Kind> kinds{{QStringLiteral("Flag"), Kind::Flag},
+                                                    {QStringLiteral("Key"), Kind::Key},
+                                                    {QStringLiteral("LanguageCode"), Kind::Key},
+                                                    {QStringLiteral("Format"), Kind::Format}};
+            const bool isRequired = child["use"] == QLatin1String("required");
+            const Kind kind = kinds.value(type, isRequired ? Kind::Required : Kind::Optional);
+            const bool isUsual = isRequired == Tano::AttributeRule{{}, kind}.isRequired();
+            attributes += attributeText(child["name"], kind) + (isUsual ? QString() : child["use"]);
+        }
+    }
+
+    Xml m_root;
+};
+
+// The names that the document gives for an element, in its order: those in the first column of its
+// table, each followed by those that its description mentions.
+QStringList documentedNames(const QString &document, const QString &element) {
+    static const QRegularExpression name(QStringLiteral("`([^`]+)`"));
+    static const QStringList values{QStringLiteral("1"), QStringLiteral("true"),
+                                    QStringLiteral("false")};
+    const int start = document.indexOf(QStringLiteral("\n### `%1`").arg(element));
+    QStringList names;
+    for (const QString &line : document.mid(start + 1).split(QLatin1Char('\n')).mid(1)) {
+        if (line.startsWith(QLatin1Char('#')))
+            break;
+        if (!line.startsWith(QLatin1Char('|')) && !line.startsWith(QLatin1String("Attributes:")))
+            continue;
+        for (auto match = name.globalMatch(line); match.hasNext();)
+            names += match.next().captured(1);
+    }
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [&](const QString &word) { return values.contains(word); }),
+                names.end());
+    return names;
+}
+
+// The same by the rules. Records with elements of their own have a table of their own.
+QStringList ruledNames(const Tano::ElementRule &rule) {
+    QStringList names;
+    for (const Tano::AttributeRule &attribute : rule.attributes)
+        names += qstring(attribute.name);
+    for (const Tano::Element element : rule.children) {
+        const Tano::ElementRule &child = rules[std::size_t(element)];
+        names += qstring(child.name);
+        if (child.field.empty() || child.content != Tano::Content::Elements)
+            names += ruledNames(child);
+    }
+    return names;
 }
 
 } // namespace
@@ -105,12 +255,31 @@ private Q_SLOTS:
     }
 
     void equalityNoticesEveryMember() {
-        QCOMPARE(firstIgnoredMember(Tano::RobotRequirement()), std::size_t(5));
-        QCOMPARE(firstIgnoredMember(Tano::BrioRequirement()), std::size_t(2));
-        QCOMPARE(firstIgnoredMember(Tano::PackageService()), std::size_t(4));
-        QCOMPARE(firstIgnoredMember(BehaviorInfo()), std::size_t(11));
-        QCOMPARE(firstIgnoredMember(DialogInfo()), std::size_t(4));
-        QCOMPARE(firstIgnoredMember(PackageInfo()), std::size_t(19));
+        QCOMPARE((ignoredMembers<Tano::RobotRequirement, Tano::RobotRequirement>()), 0);
+        QCOMPARE((ignoredMembers<Tano::BrioRequirement, Tano::BrioRequirement>()), 0);
+        QCOMPARE((ignoredMembers<Tano::PackageService, Tano::PackageService>()), 0);
+        QCOMPARE((ignoredMembers<BehaviorInfo, Tano::BehaviorData>(&Tano::BehaviorData::extras)),
+                 0);
+        QCOMPARE((ignoredMembers<DialogInfo, Tano::DialogData>(&Tano::DialogData::extras)), 0);
+        QCOMPARE((ignoredMembers<PackageInfo, Tano::PackageData>(&Tano::PackageData::extras)), 0);
+    }
+
+    void schemaDescribesTheFields() {
+        const QStringList schema =
+            Schema(QStringLiteral(ZEL_SOURCE "/schema/manifest.xsd")).outline();
+        QCOMPARE(schema.join(QLatin1Char('\n')), outlineOfRules().join(QLatin1Char('\n')));
+    }
+
+    void documentDescribesTheFields() {
+        QFile file(QStringLiteral(ZEL_SOURCE "/docs/manifest-format.md"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString document = QString::fromUtf8(file.readAll());
+        for (const Tano::ElementRule &rule : rules) {
+            const bool hasTable = rule.content == Tano::Content::Elements &&
+                                  (!rule.field.empty() || rule.occurs == Tano::Occurs::Once);
+            if (hasTable)
+                QCOMPARE(documentedNames(document, qstring(rule.name)), ruledNames(rule));
+        }
     }
 
     void entriesOutsideTheListChangeNothing() {

@@ -1,10 +1,9 @@
 #include <tano/behavior_info.h>
 
 #include "manifest_writer.h"
-#include "record_data.h"
+#include "record_fields.h"
 
 #include <algorithm>
-#include <tuple>
 
 namespace Tano {
 namespace {
@@ -86,19 +85,6 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
 }
 
 } // namespace
-
-void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
-                  const KeySet &supportedCodes) {
-    BehaviorData &data = RecordAccess::edit(behavior);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    keepOnly(data.tags, supportedCodes);
-    keepOnly(data.triggerSentences, supportedCodes);
-    keepOnly(data.loadingResponses, supportedCodes);
-    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
-        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
-    });
-}
 
 const std::string &BehaviorInfo::natureInteractive() {
     return interactive;
@@ -308,27 +294,17 @@ bool BehaviorInfo::removeAt(BehaviorList kind, const std::string &key, int index
 
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    trimTexts(RecordAccess::edit(*this), KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 void BehaviorInfo::trimExtraInfo(const std::set<std::string> &descriptionCodes,
                                  const std::set<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    trimTexts(RecordAccess::edit(*this), KeySet(descriptionCodes), KeySet(supportedCodes));
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {
-    if (RecordAccess::sharesData(a, b))
-        return true;
-    const BehaviorData &x = RecordAccess::data(a);
-    const BehaviorData &y = RecordAccess::data(b);
-    const auto fields = [](const BehaviorData &data) {
-        const auto &[path, nature, userRequestable, permissions, conditions, names, descriptions,
-                     tags, triggerSentences, loadingResponses, extras] = data;
-        (void)extras; // compared as it is written
-        return std::tie(path, nature, userRequestable, permissions, conditions, names, descriptions,
-                        tags, triggerSentences, loadingResponses);
-    };
-    return fields(x) == fields(y) && sameExtras(x, y);
+    return RecordAccess::sharesData(a, b) ||
+           sameContent(RecordAccess::data(a), RecordAccess::data(b));
 }
 
 } // namespace Tano

@@ -1,9 +1,7 @@
 #include <tano/dialog_info.h>
 
 #include "manifest_writer.h"
-#include "record_data.h"
-
-#include <tuple>
+#include "record_fields.h"
 
 namespace Tano {
 
@@ -33,7 +31,7 @@ const std::string &DialogInfo::topic(const std::string &code) const {
 
 void DialogInfo::setTopic(const std::string &code, const std::string &path) {
     DialogData &data = RecordAccess::edit(*this);
-    hideChild(data.extras, Element::Topic, code, false);
+    hideChild(data.extras, elementOf(&DialogData::topics), code, false);
     data.topics[code] = path;
 }
 
@@ -41,22 +39,14 @@ bool DialogInfo::removeTopic(const std::string &code) {
     if (topics().find(code) == topics().end())
         return false;
     DialogData &data = RecordAccess::edit(*this);
-    hideChild(data.extras, Element::Topic, code, true);
+    hideChild(data.extras, elementOf(&DialogData::topics), code, true);
     data.topics.erase(code);
     return true;
 }
 
 bool operator==(const DialogInfo &a, const DialogInfo &b) {
-    if (RecordAccess::sharesData(a, b))
-        return true;
-    const DialogData &x = RecordAccess::data(a);
-    const DialogData &y = RecordAccess::data(b);
-    const auto fields = [](const DialogData &data) {
-        const auto &[topicName, typeVersion, topics, extras] = data;
-        (void)extras; // compared as it is written
-        return std::tie(topicName, typeVersion, topics);
-    };
-    return fields(x) == fields(y) && sameExtras(x, y);
+    return RecordAccess::sharesData(a, b) ||
+           sameContent(RecordAccess::data(a), RecordAccess::data(b));
 }
 
 } // namespace Tano

@@ -80,7 +80,7 @@ const CurrentList *listOfPosition(const CurrentLists &lists, const Position &pos
 void rememberLists(Extras &extras, const ListKeys &listKeys) {
     Extras::Lists lists;
     const auto remember = [&](const Position &position) {
-        if (position.element >= Element::Count || ruleOf(position.element).occurs == Occurs::Once)
+        if (position.element >= Element::None || ruleOf(position.element).occurs == Occurs::Once)
             return;
         Extras::ListId id(position.element, position.keyText());
         if (lists.find(id) == lists.end()) {

@@ -11,43 +11,52 @@ namespace {
 
 constexpr FieldPositions::NodeId noNode = std::numeric_limits<FieldPositions::NodeId>::max();
 
+// More than the longest text, the name in a tag; the offsets of all pieces fit into 32 bits.
+constexpr std::size_t pieceSize = std::size_t(1) << 20;
+static_assert(ManifestReader::maxTagLength <= pieceSize);
+static_assert(ManifestReader::maxFileSize <= std::size_t(1) << 31);
+
 std::uint32_t bounded(std::uint64_t count) {
     return std::uint32_t(std::min<std::uint64_t>(count, std::numeric_limits<std::uint32_t>::max()));
 }
 
-// The child of an element that a step may name; Element::Count for none.
+// The child of an element that a step may name; Element::None for none.
 Element childWithField(Element parent, std::string_view field) {
     for (const Element child : ruleOf(parent).children) {
         if (ruleOf(child).field == field)
             return child;
     }
-    return Element::Count;
+    return Element::None;
 }
 
 } // namespace
 
-FieldPositions::KeyId FieldPositions::intern(const std::string &key) {
-    if (key.empty() && !m_keys.empty())
-        return 0;
-    const auto [it, isNew] = m_keyIds.try_emplace(key, KeyId(m_keys.size()));
-    if (isNew)
-        m_keys.push_back(&it->first);
-    return it->second;
+std::uint32_t FieldPositions::TextPieces::add(std::string_view text) {
+    if (m_pieces.empty() || m_pieces.back().size() + text.size() > pieceSize)
+        m_pieces.emplace_back();
+    std::string &piece = m_pieces.back();
+    const std::size_t offset = (m_pieces.size() - 1) * pieceSize + piece.size();
+    piece += text;
+    return std::uint32_t(offset);
+}
+
+std::string_view FieldPositions::TextPieces::at(std::uint32_t offset, std::uint32_t size) const {
+    if (size == 0)
+        return {};
+    return std::string_view(m_pieces[offset / pieceSize]).substr(offset % pieceSize, size);
 }
 
 FieldPositions::NodeId FieldPositions::add(NodeId parent, Element element, const std::string &key,
                                            SourcePosition position) {
-    if (m_nodes.empty())
-        intern({}); // which most elements have, as the key 0
-    m_nodes.push_back(
-        {parent, intern(key), bounded(position.line), bounded(position.column), element});
+    m_nodes.push_back({parent, key.empty() ? 0 : m_texts.add(key), bounded(position.line),
+                       bounded(position.column), std::uint16_t(key.size()), element});
     return NodeId(m_nodes.size() - 1);
 }
 
 void FieldPositions::addUnknown(NodeId parent, UnknownNode::Kind kind, const std::string &name,
                                 SourcePosition position) {
-    m_unknown.push_back(
-        {parent, intern(name), bounded(position.line), bounded(position.column), kind});
+    m_unknown.push_back({parent, m_texts.add(name), std::uint32_t(name.size()),
+                         bounded(position.line), bounded(position.column), kind});
 }
 
 void FieldPositions::buildIndex() const {
@@ -55,23 +64,22 @@ void FieldPositions::buildIndex() const {
         return;
     m_index.resize(m_nodes.size());
     std::iota(m_index.begin(), m_index.end(), NodeId(0));
-    const auto rank = [this](NodeId id) {
-        const Node &node = m_nodes[id];
-        return std::make_tuple(node.parent, node.element, node.key, id);
-    };
-    std::sort(m_index.begin() + 1, m_index.end(),
-              [&](NodeId a, NodeId b) { return rank(a) < rank(b); });
+    std::sort(m_index.begin() + 1, m_index.end(), [this](NodeId a, NodeId b) {
+        const Node &x = m_nodes[a];
+        const Node &y = m_nodes[b];
+        if (x.parent != y.parent || x.element != y.element)
+            return std::tie(x.parent, x.element) < std::tie(y.parent, y.element);
+        const int order = keyOf(x).compare(keyOf(y));
+        return order != 0 ? order < 0 : a < b;
+    });
 }
 
 FieldPositions::Siblings FieldPositions::siblings(NodeId parent, Element element,
                                                   std::string_view key) const {
-    const auto keyId = m_keyIds.find(std::string(key));
-    if (keyId == m_keyIds.end())
-        return {};
-    const auto wanted = std::make_tuple(parent, element, keyId->second);
+    const auto wanted = std::make_tuple(parent, element, key);
     const auto groupOf = [this](NodeId id) {
         const Node &node = m_nodes[id];
-        return std::make_tuple(node.parent, node.element, node.key);
+        return std::make_tuple(node.parent, node.element, keyOf(node));
     };
     const auto first =
         std::lower_bound(m_index.begin() + 1, m_index.end(), wanted,
@@ -87,7 +95,7 @@ FieldPositions::NodeId FieldPositions::block(NodeId parent, const FieldPath::Ste
     if (step.selectors.empty())
         return noNode;
     for (const Element kind : ruleOf(m_nodes[parent].element).children) {
-        if (!isTextsBlock(kind) || childWithField(kind, step.field) == Element::Count)
+        if (!isTextsBlock(kind) || childWithField(kind, step.field) == Element::None)
             continue;
         const Siblings blocks = siblings(parent, kind, step.selectors[0].text);
         return blocks.count == 0 ? noNode : *blocks.first;
@@ -117,7 +125,7 @@ FieldPositions::NodeId FieldPositions::entry(NodeId parent, Element element,
 
 FieldPositions::NodeId FieldPositions::child(NodeId parent, const FieldPath::Step &step) const {
     const Element element = childWithField(m_nodes[parent].element, step.field);
-    return element == Element::Count ? noNode : entry(parent, element, step, 0);
+    return element == Element::None ? noNode : entry(parent, element, step, 0);
 }
 
 SourcePosition FieldPositions::find(const FieldPath &path) const {
@@ -146,13 +154,13 @@ FieldPath FieldPositions::pathOf(NodeId id) const {
     if (id == 0)
         return {};
     const Node &node = m_nodes[id];
-    const std::string &key = *m_keys[node.key];
+    const std::string_view key = keyOf(node);
     const Node &parent = m_nodes[node.parent];
     const bool isText = isTextsBlock(parent.element);
     FieldPath path = pathOf(isText ? parent.parent : node.parent);
     const Siblings all = siblings(node.parent, node.element, key);
     const auto index = std::lower_bound(all.first, all.first + all.count, id) - all.first;
-    appendField(path, node.element, key, int(index), isText ? *m_keys[parent.key] : std::string());
+    appendField(path, node.element, key, int(index), isText ? keyOf(parent) : std::string_view());
     return path;
 }
 
@@ -164,7 +172,7 @@ std::vector<UnknownNode> FieldPositions::unknownNodes() const {
     nodes.reserve(m_unknown.size());
     for (const Unknown &unknown : m_unknown) {
         nodes.push_back({unknown.kind,
-                         *m_keys[unknown.name],
+                         std::string(m_texts.at(unknown.name, unknown.nameSize)),
                          std::string(ruleOf(m_nodes[unknown.parent].element).name),
                          pathOf(unknown.parent),
                          {unknown.line, unknown.column}});

@@ -8,7 +8,6 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Tano {
@@ -21,10 +20,6 @@ class FieldPositions {
 public:
     using NodeId = std::uint32_t;
 
-    FieldPositions() = default;
-    FieldPositions(FieldPositions &&) = default;
-    FieldPositions &operator=(FieldPositions &&) = default; // m_keys points into m_keyIds
-
     /// Adds an element below `parent`, which is ignored for the first one, the root.
     NodeId add(NodeId parent, Element element, const std::string &key, SourcePosition position);
     void addUnknown(NodeId parent, UnknownNode::Kind kind, const std::string &name,
@@ -35,18 +30,29 @@ public:
     std::vector<UnknownNode> unknownNodes() const;
 
 private:
-    using KeyId = std::uint32_t;
+    // Texts in pieces of bounded size, which growing does not move, referred to by their offsets.
+    class TextPieces {
+    public:
+        std::uint32_t add(std::string_view text);
+        [[nodiscard]] std::string_view at(std::uint32_t offset, std::uint32_t size) const;
+
+    private:
+        std::vector<std::string> m_pieces;
+    };
 
     struct Node {
         NodeId parent;
-        KeyId key;
+        std::uint32_t key; // in m_texts
         std::uint32_t line;
         std::uint32_t column;
+        std::uint16_t keySize;
         Element element;
     };
+    static_assert(ManifestReader::maxKeyLength <= 0xFFFF);
     struct Unknown {
         NodeId parent;
-        KeyId name;
+        std::uint32_t name; // in m_texts
+        std::uint32_t nameSize;
         std::uint32_t line;
         std::uint32_t column;
         UnknownNode::Kind kind;
@@ -57,7 +63,9 @@ private:
         int count = 0;
     };
 
-    KeyId intern(const std::string &key);
+    [[nodiscard]] std::string_view keyOf(const Node &node) const {
+        return m_texts.at(node.key, node.keySize);
+    }
     void buildIndex() const;
     Siblings siblings(NodeId parent, Element element, std::string_view key) const;
     NodeId child(NodeId parent, const FieldPath::Step &step) const;
@@ -69,8 +77,7 @@ private:
     // Deques do not move their contents when they grow, which would take twice the memory.
     std::deque<Node> m_nodes;
     std::deque<Unknown> m_unknown;
-    std::unordered_map<std::string, KeyId> m_keyIds;
-    std::vector<const std::string *> m_keys;
+    TextPieces m_texts;
     mutable std::vector<NodeId> m_index; // ordered by parent, kind and key
 };
 

@@ -2,6 +2,7 @@
 
 #include <tano/field_path.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -10,45 +11,18 @@
 
 namespace Tano {
 
-/// The elements of a manifest, and the places around them where something may stand. Within one
-/// parent, elements are written in this order.
+/// The elements of a manifest, and the places around them that kept content may precede.
+///
+/// The elements below the root are numbered by the tables of fields (record_fields.h), those of one
+/// parent in a row. Within a parent, elements are written in the order of their numbers.
 enum class Element : std::uint8_t {
-    Prolog, ///< what stands before the root element
+    Prolog, ///< before the root element
     Package,
-    // in a package
-    Installer,
-    Author,
-    Organization,
-    Date,
-    Channel,
-    Path,
-    SupportedLanguage,
-    DescriptionLanguage,
-    PackageTexts,
-    RobotRequirement,
-    BrioRequirement,
-    Behavior,
-    Dialog,
-    Service,
-    // in a behavior
-    Permission,
-    Condition,
-    BehaviorTexts,
-    // in the texts of a language
-    Name,
-    Description,
-    Tag,
-    TriggerSentence,
-    LoadingResponse,
-    // in a dialog
-    Topic,
-    // in a service
-    ExecStart,
-    Property,
-    Count,
+    FirstField,
+    None = 252,
     InText, ///< within a text
     End,    ///< after the last child
-    Epilog, ///< what stands after the root element
+    Epilog, ///< after the root element
 };
 
 /// What an element holds.
@@ -57,9 +31,15 @@ enum class Content : std::uint8_t { Elements, Text, Nothing };
 /// How often an element may stand in its parent.
 enum class Occurs : std::uint8_t { Once, OncePerKey, AnyTimes };
 
+/// What an attribute is to its element. A key distinguishes the element from its siblings; a flag
+/// is "true" or "false"; the format is the version of the format.
+enum class AttributeKind : std::uint8_t { Optional, Flag, Required, Key, Format };
+
 struct AttributeRule {
     std::string_view name;
-    bool required;
+    AttributeKind kind = AttributeKind::Optional;
+
+    [[nodiscard]] constexpr bool isRequired() const { return kind >= AttributeKind::Required; }
 };
 
 /// A constant table that an element's rule refers to.
@@ -70,6 +50,10 @@ public:
     template<std::size_t Count>
     constexpr Rows(const Row (&rows)[Count]) // NOLINT(google-explicit-constructor): a table is one
         : m_first(rows)
+        , m_count(Count) {}
+    template<std::size_t Count>
+    constexpr Rows(const std::array<Row, Count> &rows) // NOLINT(google-explicit-constructor)
+        : m_first(rows.data())
         , m_count(Count) {}
 
     constexpr const Row *begin() const { return m_first; }
@@ -91,19 +75,17 @@ struct ElementRule {
     Rows<AttributeRule> attributes;
     int keyAttribute = -1; ///< which attribute distinguishes its siblings; -1 for none
     bool sortedByKey =
-        false; ///< whether it is written by ascending key, else in the author's order
+        false;             ///< whether it is written by ascending key, else in the author's order
+    bool isRecord = false; ///< whether it becomes a record that keeps extras of its own
     Rows<Element> children;
 };
 
-/// The most attributes that an element of the format has.
-inline constexpr std::size_t mostKnownAttributes = 5;
-/// The most elements of the format within each other: package, behavior, texts, name.
-inline constexpr int deepestKnown = 4;
-
+/// The rule of an element below Element::None; the rules of all elements lie in a row.
 const ElementRule &ruleOf(Element element);
 
-/// The child of a rule's element that has a name; Element::Count for none.
-Element childNamed(const ElementRule &rule, std::string_view name);
+/// The index of a rule's child that has a name; the number of children for none. The search starts
+/// at `likely`, since siblings mostly come in the order of writing.
+std::size_t childNamed(const ElementRule &rule, std::string_view name, std::size_t likely);
 
 /// The place of an element among its siblings: those of one kind are ordered by their key (a
 /// language, a purpose, a name), then by their index.
@@ -130,16 +112,11 @@ inline bool operator<(const Position &a, const Position &b) {
 }
 
 /// Whether an element is a block of the texts of one language, which is no field of its own.
-constexpr bool isTextsBlock(Element element) {
-    return element == Element::PackageTexts || element == Element::BehaviorTexts;
-}
+bool isTextsBlock(Element element);
 
 /// Whether an element is an entry of the package, found by its key and then by its index among the
 /// entries with the same key.
-constexpr bool isEntry(Element element) {
-    return element == Element::Behavior || element == Element::Dialog ||
-           element == Element::Service;
-}
+bool isEntry(Element element);
 
 /// Appends the field of an element; `texts` is the language of the block of texts around it, if
 /// any, and `index` counts the siblings with the same key.
@@ -150,25 +127,5 @@ void appendField(FieldPath &path, Element element, std::string_view key, int ind
 std::string shortened(std::string sentence);
 
 inline constexpr std::string_view formatVersion = "1";
-
-// Which attribute of its element's rule a value belongs to.
-namespace PackageAttribute {
-enum { Format, Uid, Version, TypeVersion };
-}
-namespace RobotAttribute {
-enum { Model, MinHeadVersion, MaxHeadVersion, MinBodyVersion, MaxBodyVersion };
-}
-namespace BrioAttribute {
-enum { MinVersion, MaxVersion };
-}
-namespace BehaviorAttribute {
-enum { Path, Nature, UserRequestable };
-}
-namespace DialogAttribute {
-enum { TopicName, TypeVersion };
-}
-namespace ServiceAttribute {
-enum { Name, AutoRun };
-}
 
 } // namespace Tano

@@ -1,13 +1,11 @@
 #include "manifest_parser.h"
 
-#include "list_keys.h"
 #include "xml_escape.h"
 
 #include <QByteArray>
 
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 #include <utility>
 
 namespace Tano {
@@ -39,41 +37,11 @@ bool looksLikeUtf16(std::string_view bytes) {
     return start == "\xFF\xFE"sv || start == "\xFE\xFF"sv || start == "<\0"sv || start == "\0<"sv;
 }
 
-bool isDecimal(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-bool isKnownAttribute(const ElementRule &rule, std::string_view name) {
-    return std::any_of(rule.attributes.begin(), rule.attributes.end(),
-                       [&](const AttributeRule &attribute) { return attribute.name == name; });
-}
-
-// The text fields of a package that are elements of their own.
-std::string *scalarField(PackageData &package, Element element) {
-    switch (element) {
-    case Element::Installer:
-        return &package.installer;
-    case Element::Author:
-        return &package.author;
-    case Element::Organization:
-        return &package.organization;
-    case Element::Date:
-        return &package.date;
-    case Element::Channel:
-        return &package.channel;
-    case Element::Path:
-        return &package.path;
-    default:
-        return nullptr;
-    }
-}
-
 } // namespace
 
 ManifestParser::ManifestParser(bool keepFieldPositions)
     : m_parser(XML_ParserCreate("UTF-8"), &XML_ParserFree)
-    , m_keepsPositions(keepFieldPositions)
-    , m_package(std::make_shared<PackageData>()) {
+    , m_keepsPositions(keepFieldPositions) {
     XML_Parser parser = m_parser.get();
     XML_SetUserData(parser, this);
     XML_SetElementHandler(parser, onStart, onEnd);
@@ -218,9 +186,12 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
         openFrame(Element::Package, attributes);
         return;
     }
-    const Element child = isForeign ? Element::Count : childNamed(*top().rule, name);
-    if (child != Element::Count) {
-        openFrame(child, attributes);
+    const Rows<Element> &children = top().rule->children;
+    const std::size_t child =
+        isForeign ? children.size() : childNamed(*top().rule, name, top().child);
+    if (child < children.size()) {
+        top().child = child;
+        openFrame(children[child], attributes);
         return;
     }
     m_raw.clear();
@@ -261,12 +232,11 @@ void ManifestParser::end() {
 
     Frame &frame = top();
     if (frame.rule->content == Content::Text)
-        storeText(frame);
-    else if (frame.element == Element::BehaviorTexts)
-        storeLists(frame.key);
+        m_builder.text(frame.element, frame.key, m_text);
+    else if (frame.rule->field.empty() && m_open > 1)
+        m_builder.endTexts(frame.element);
     if (frame.extras)
         storeExtras(frame);
-    endRecord(frame);
     if (--m_open == 0)
         m_rootDone = true;
 }
@@ -307,79 +277,37 @@ void ManifestParser::keepRaw(std::string xml) {
         kept.push_back({std::move(position), std::move(xml)});
 }
 
-bool ManifestParser::openFrame(Element element, const XML_Char **attributes) {
+void ManifestParser::openFrame(Element element, const XML_Char **attributes) {
     Frame &frame = m_frames[std::size_t(m_open)];
     frame.element = element;
     frame.rule = m_rules + std::size_t(element);
     frame.seen = 0;
+    frame.child = 0;
     frame.unplaced = 0;
     frame.keys.clear();
     frame.extras.reset();
-    if (!readAttributes(frame, attributes) || !readKey(frame))
-        return false;
-    if (m_hasUnknownAttributes && !keepAttributes(frame, attributes))
-        return false;
+    if (std::string sentence = m_attributes.read(*frame.rule, attributes); !sentence.empty())
+        return fail(std::move(sentence));
+    frame.key = m_attributes.key(*frame.rule);
+    if (m_attributes.hasUnknown() && !keepAttributes(frame, attributes))
+        return;
 
-    const ElementRule &rule = *frame.rule;
     ++m_open;
-    frame.index = nextIndex(frame);
     if (m_open > 1) {
+        frame.index = m_builder.count(frame.element, frame.key);
         Frame &parent = parentOf(frame);
         if (!checkOccurrence(parent, frame))
-            return false;
+            return;
         placeKept(parent, frame);
     }
     if (m_keepsPositions)
         notePositions(frame, attributes);
-    if (rule.content == Content::Text)
+    if (frame.rule->content == Content::Text)
         m_text.clear();
-    beginRecord(frame);
-    return true;
-}
-
-bool ManifestParser::readAttributes(Frame &frame, const XML_Char **attributes) {
-    const ElementRule &rule = *frame.rule;
-    const std::size_t known = rule.attributes.size();
-    m_present = 0;
-    m_hasUnknownAttributes = false;
-    for (std::size_t i = 0; i < known; ++i)
-        m_values[i].clear();
-
-    for (; *attributes; attributes += 2) {
-        const std::string_view name(attributes[0]);
-        std::size_t i = 0;
-        while (i < known && rule.attributes[i].name != name)
-            ++i;
-        if (i == known) {
-            m_hasUnknownAttributes = true;
-        } else {
-            m_values[i] = attributes[1];
-            m_present |= 1U << i;
-        }
-    }
-
-    for (std::size_t i = 0; i < known; ++i) {
-        if (rule.attributes[i].required && !(m_present & (1U << i))) {
-            fail("The element " + tagged(rule.name) + " lacks the attribute " +
-                 quoted(rule.attributes[i].name) + '.');
-            return false;
-        }
-    }
-    return true;
-}
-
-bool ManifestParser::readKey(Frame &frame) {
-    frame.key.clear();
-    const ElementRule &rule = *frame.rule;
-    if (rule.keyAttribute < 0)
-        return true;
-    const auto attribute = std::size_t(rule.keyAttribute);
-    frame.key = m_values[attribute];
-    if (frame.key.size() <= ManifestReader::maxKeyLength)
-        return true;
-    fail("The attribute " + quoted(rule.attributes[attribute].name) + " of " + tagged(rule.name) +
-         " is longer than 4 KiB.");
-    return false;
+    if (m_open > 1)
+        m_builder.start(frame.element, frame.key, m_attributes.values());
+    else
+        m_builder.startPackage(m_attributes.values());
 }
 
 bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
@@ -397,7 +325,7 @@ bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
     if (isRoot)
         extras.namespaces = m_namespaces.declared();
     for (; *attributes; attributes += 2) {
-        if (isKnownAttribute(*frame.rule, attributes[0]))
+        if (ManifestAttributes::isKnown(*frame.rule, attributes[0]))
             continue;
         ((extras.attributes += ' ') += attributes[0]) += "=\"";
         appendEscaped(extras.attributes, attributes[1], EscapeFor::Attribute);
@@ -409,8 +337,7 @@ bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
 // A behavior or dialog knows the prefixes that it uses of the root element.
 void ManifestParser::useNamespace(Frame &record, const XmlNamespaces::Binding &binding) {
     constexpr int rootDepth = 1;
-    const bool isRecord = record.element == Element::Behavior || record.element == Element::Dialog;
-    if (!isRecord || binding.depth != rootDepth)
+    if (!record.rule->isRecord || binding.depth != rootDepth)
         return;
     auto &used = record.ownExtras().namespaces;
     if (std::find(used.begin(), used.end(), binding.declared) == used.end())
@@ -421,7 +348,7 @@ bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
     const ElementRule &rule = *child.rule;
     bool isNew = true;
     if (rule.occurs == Occurs::Once) {
-        const std::uint32_t bit = 1U << std::uint32_t(child.element);
+        const std::uint32_t bit = 1U << parent.child;
         isNew = !(parent.seen & bit);
         parent.seen |= bit;
     } else if (rule.occurs == Occurs::OncePerKey) {
@@ -442,192 +369,20 @@ void ManifestParser::placeKept(Frame &parent, const Frame &child) {
     parent.unplaced = kept.size();
 }
 
-// What starts here is filled in by the elements within it and handed over when it ends.
-void ManifestParser::beginRecord(Frame &frame) {
-    switch (frame.element) {
-    case Element::Package:
-        beginPackage();
-        break;
-    case Element::SupportedLanguage:
-        m_package->supportedLanguages.append(frame.key);
-        break;
-    case Element::DescriptionLanguage:
-        m_package->descriptionLanguages.append(frame.key);
-        break;
-    case Element::RobotRequirement:
-        m_package->robotRequirements.push_back(
-            {take(RobotAttribute::Model), take(RobotAttribute::MinHeadVersion),
-             take(RobotAttribute::MaxHeadVersion), take(RobotAttribute::MinBodyVersion),
-             take(RobotAttribute::MaxBodyVersion)});
-        break;
-    case Element::BrioRequirement:
-        m_package->brioRequirements.push_back(
-            {take(BrioAttribute::MinVersion), take(BrioAttribute::MaxVersion)});
-        break;
-    case Element::Behavior:
-        m_behavior = std::make_shared<BehaviorData>();
-        m_behavior->path = take(BehaviorAttribute::Path);
-        m_behavior->nature = take(BehaviorAttribute::Nature);
-        m_behavior->userRequestable = takeFlag(frame, BehaviorAttribute::UserRequestable);
-        break;
-    case Element::Dialog:
-        m_dialog = std::make_shared<DialogData>();
-        m_dialog->topicName = take(DialogAttribute::TopicName);
-        m_dialog->typeVersion = take(DialogAttribute::TypeVersion);
-        break;
-    case Element::Service:
-        m_service = PackageService();
-        m_service.name = take(ServiceAttribute::Name);
-        m_service.autoRun = takeFlag(frame, ServiceAttribute::AutoRun);
-        break;
-    default:
-        break;
-    }
-}
-
-void ManifestParser::beginPackage() {
-    const std::string format = take(PackageAttribute::Format);
-    if (format != formatVersion) {
-        const bool isNewer = isDecimal(format) && format != "0" && format.front() != '0';
-        return fail("The format " + quoted(format) +
-                    (isNewer ? " is newer than the one that this version reads, "
-                             : " is unknown; this version reads ") +
-                    quoted(formatVersion) + '.');
-    }
-    m_package->uuid = take(PackageAttribute::Uid);
-    m_package->version = take(PackageAttribute::Version);
-    m_package->typeVersion = take(PackageAttribute::TypeVersion);
-}
-
-bool ManifestParser::takeFlag(const Frame &frame, int attribute) {
-    if (!(m_present & (1U << unsigned(attribute))))
-        return false;
-    const std::string value = take(attribute);
-    if (value != "true" && value != "false") {
-        const ElementRule &rule = *frame.rule;
-        fail("The attribute " + quoted(rule.attributes[std::size_t(attribute)].name) + " of " +
-             tagged(rule.name) + " is " + quoted(value) + R"( instead of "true" or "false".)");
-    }
-    return value == "true";
-}
-
-void ManifestParser::endRecord(const Frame &frame) {
-    switch (frame.element) {
-    case Element::Behavior:
-        m_package->behaviors.emplace_back();
-        RecordAccess::assign(m_package->behaviors.back(), std::move(m_behavior));
-        break;
-    case Element::Dialog:
-        m_package->dialogs.emplace_back();
-        RecordAccess::assign(m_package->dialogs.back(), std::move(m_dialog));
-        break;
-    case Element::Service:
-        m_package->services.push_back(std::move(m_service));
-        break;
-    default:
-        break;
-    }
-}
-
-// An empty text is no text, except in a list, where it holds a place, and as a property's value.
-void ManifestParser::storeText(Frame &frame) {
-    if (std::string *field = scalarField(*m_package, frame.element)) {
-        *field = m_text;
-        return;
-    }
-    switch (frame.element) {
-    case Element::Name:
-    case Element::Description:
-        if (!m_text.empty()) {
-            TextMap &texts = textsField(parentOf(frame).element, frame.element);
-            texts.emplace_hint(texts.end(), parentOf(frame).key, m_text);
-        }
-        break;
-    case Element::Tag:
-    case Element::TriggerSentence:
-    case Element::LoadingResponse:
-        openList(frame.element)->push_back(m_text);
-        break;
-    case Element::Permission:
-        m_behavior->permissions.push_back(m_text);
-        break;
-    case Element::Condition:
-        m_behavior->conditions[frame.key].push_back(m_text);
-        break;
-    case Element::Topic:
-        if (!m_text.empty())
-            m_dialog->topics.emplace(frame.key, m_text);
-        break;
-    case Element::ExecStart:
-        m_service.execStart = m_text;
-        break;
-    case Element::Property:
-        m_service.properties.emplace(frame.key, m_text);
-        break;
-    default:
-        break;
-    }
-}
-
-std::vector<std::string> *ManifestParser::openList(Element element) {
-    switch (element) {
-    case Element::Tag:
-        return &m_tags;
-    case Element::TriggerSentence:
-        return &m_triggerSentences;
-    case Element::LoadingResponse:
-        return &m_loadingResponses;
-    default:
-        return nullptr;
-    }
-}
-
-// Moves the texts of a block's lists into lists that take no more room than they need.
-void ManifestParser::storeLists(const std::string &language) {
-    const auto store = [&](std::vector<std::string> &open, TextListMap &lists) {
-        if (open.empty())
-            return;
-        lists.emplace_hint(lists.end(), std::piecewise_construct, std::forward_as_tuple(language),
-                           std::forward_as_tuple(std::make_move_iterator(open.begin()),
-                                                 std::make_move_iterator(open.end())));
-        open.clear();
-    };
-    store(m_tags, m_behavior->tags);
-    store(m_triggerSentences, m_behavior->triggerSentences);
-    store(m_loadingResponses, m_behavior->loadingResponses);
-}
-
-TextMap &ManifestParser::textsField(Element block, Element field) {
-    const bool isName = field == Element::Name;
-    if (block == Element::PackageTexts)
-        return isName ? m_package->names : m_package->descriptions;
-    return isName ? m_behavior->names : m_behavior->descriptions;
-}
-
 void ManifestParser::storeExtras(Frame &frame) {
     auto &children = frame.extras->children;
     std::sort(children.begin(), children.end(),
               [](const auto &a, const auto &b) { return a.position < b.position; });
-    switch (frame.element) {
-    case Element::Package:
-        rememberLists(*frame.extras, [this](const auto &id) { return listKeys(*m_package, id); });
-        m_packageExtras = std::move(frame.extras);
-        return;
-    case Element::Behavior:
-        rememberLists(*frame.extras, [this](const auto &id) { return listKeys(*m_behavior, id); });
-        m_behavior->extras = std::move(frame.extras);
-        return;
-    case Element::Dialog:
-        m_dialog->extras = std::move(frame.extras);
-        return;
-    case Element::BehaviorTexts:
+    if (frame.rule->content == Content::Elements)
         rememberLists(*frame.extras,
-                      [&](const auto &id) { return listKeys(*m_behavior, frame.key, id); });
-        break;
-    default:
-        break;
-    }
-    parentOf(frame).ownExtras().children.push_back({positionOf(frame), std::move(frame.extras)});
+                      [&](const auto &id) { return m_builder.listKeys(frame.element, id); });
+    if (frame.element == Element::Package)
+        m_packageExtras = std::move(frame.extras);
+    else if (frame.rule->isRecord)
+        m_builder.setExtras(frame.element, std::move(frame.extras));
+    else
+        parentOf(frame).ownExtras().children.push_back(
+            {positionOf(frame), std::move(frame.extras)});
 }
 
 std::shared_ptr<PackageData> ManifestParser::takePackage() {
@@ -636,37 +391,8 @@ std::shared_ptr<PackageData> ManifestParser::takePackage() {
             m_packageExtras = std::make_shared<Extras>();
         std::move(m_outside.begin(), m_outside.end(), std::back_inserter(m_packageExtras->kept));
     }
-    m_package->extras = std::move(m_packageExtras);
-    return std::move(m_package);
-}
-
-int ManifestParser::nextIndex(const Frame &frame) {
-    switch (frame.element) {
-    case Element::SupportedLanguage:
-        return int(m_package->supportedLanguages.size());
-    case Element::DescriptionLanguage:
-        return int(m_package->descriptionLanguages.size());
-    case Element::RobotRequirement:
-        return int(m_package->robotRequirements.size());
-    case Element::BrioRequirement:
-        return int(m_package->brioRequirements.size());
-    case Element::Behavior:
-        return int(m_package->behaviors.size());
-    case Element::Dialog:
-        return int(m_package->dialogs.size());
-    case Element::Service:
-        return int(m_package->services.size());
-    case Element::Permission:
-        return int(m_behavior->permissions.size());
-    case Element::Condition:
-        return int(listOf(m_behavior->conditions, frame.key).size());
-    case Element::Tag:
-    case Element::TriggerSentence:
-    case Element::LoadingResponse:
-        return int(openList(frame.element)->size());
-    default:
-        return 0;
-    }
+    m_builder.setExtras(Element::Package, std::move(m_packageExtras));
+    return m_builder.take();
 }
 
 Position ManifestParser::positionOf(const Frame &frame) {
@@ -680,12 +406,12 @@ void ManifestParser::notePositions(Frame &frame, const XML_Char **attributes) {
     const SourcePosition place = countLines(eventOffset());
     const FieldPositions::NodeId parent = m_open > 1 ? parentOf(frame).node : 0;
     frame.node = m_positions.add(parent, frame.element, frame.key, place);
-    if (!m_hasUnknownAttributes)
+    if (!m_attributes.hasUnknown())
         return;
     for (; *attributes; attributes += 2) {
         const std::string_view name = attributes[0];
         const bool isPlain = name != "xmlns" && name.find(':') == std::string_view::npos;
-        if (isPlain && !isKnownAttribute(*frame.rule, name))
+        if (isPlain && !ManifestAttributes::isKnown(*frame.rule, name))
             m_positions.addUnknown(frame.node, UnknownNode::Kind::Attribute, std::string(name),
                                    place);
     }

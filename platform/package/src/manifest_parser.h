@@ -2,7 +2,8 @@
 
 #include "field_positions.h"
 #include "line_counter.h"
-#include "record_data.h"
+#include "manifest_attributes.h"
+#include "record_builder.h"
 #include "seen_keys.h"
 #include "xml_namespaces.h"
 #include "xml_reading.h"
@@ -41,7 +42,6 @@ public:
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
-    static_assert(int(Element::Count) <= 32, "Frame::seen has a bit per element");
 
     const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all has been fed without a failure.
@@ -55,9 +55,11 @@ private:
         const ElementRule *rule = nullptr; // of the element
         std::string key;                   // the value of its key attribute
         int index = 0;                     // among those of its kind (and key) in the parent
-        std::uint32_t seen = 0;            // which children have stood here
-        std::size_t unplaced = 0;          // from here on, extras->kept wait for the next child
-        SeenKeys keys;                     // of the children that may not repeat
+        static_assert(mostChildren <= 32);
+        std::uint32_t seen = 0;   // which children have occurred, a bit for each
+        std::size_t child = 0;    // the last one, by its index in the rule
+        std::size_t unplaced = 0; // from here on, extras->kept wait for the next child
+        SeenKeys keys;            // of the children that may not repeat
         std::shared_ptr<Extras> extras;
         FieldPositions::NodeId node = 0; // while positions are kept
 
@@ -89,26 +91,14 @@ private:
     bool checkTag();
     bool checkInstruction(std::string_view target);
     bool declareNamespaces(const XML_Char **attributes);
-    bool openFrame(Element element, const XML_Char **attributes);
-    bool readAttributes(Frame &frame, const XML_Char **attributes);
-    bool readKey(Frame &frame);
+    void openFrame(Element element, const XML_Char **attributes);
     bool keepAttributes(Frame &frame, const XML_Char **attributes);
     void useNamespace(Frame &record, const XmlNamespaces::Binding &binding);
     bool checkOccurrence(Frame &parent, const Frame &child);
     void placeKept(Frame &parent, const Frame &child);
-    void beginRecord(Frame &frame);
-    void beginPackage();
-    void endRecord(const Frame &frame);
-    void storeText(Frame &frame);
-    void storeLists(const std::string &language);
     void storeExtras(Frame &frame);
     void notePositions(Frame &frame, const XML_Char **attributes);
 
-    int nextIndex(const Frame &frame);
-    std::vector<std::string> *openList(Element element);
-    TextMap &textsField(Element block, Element field);
-    std::string take(int attribute) { return std::move(m_values[std::size_t(attribute)]); }
-    bool takeFlag(const Frame &frame, int attribute);
     Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
     Frame &parentOf(const Frame &frame) {
         return m_frames[std::size_t(&frame - m_frames.data()) - 1];
@@ -140,22 +130,12 @@ private:
     int m_unknownDepth = 0; // of the open elements that are captured as raw text
     bool m_rootDone = false;
     std::string m_raw;
-    std::string m_text; // of the open text element
-    // Of the known attributes of the element that starts.
-    std::array<std::string, mostKnownAttributes> m_values;
-    std::uint32_t m_present = 0; // which of them it has
-    bool m_hasUnknownAttributes = false;
+    std::string m_text;              // of the open text element
+    ManifestAttributes m_attributes; // of the element that starts
 
-    std::shared_ptr<PackageData> m_package;
+    RecordBuilder m_builder;
     std::shared_ptr<Extras> m_packageExtras;
     std::vector<Extras::Kept> m_outside; // the root element
-    std::shared_ptr<BehaviorData> m_behavior;
-    // The lists of the block of texts that is open; their memory serves the next block too.
-    std::vector<std::string> m_tags;
-    std::vector<std::string> m_triggerSentences;
-    std::vector<std::string> m_loadingResponses;
-    std::shared_ptr<DialogData> m_dialog;
-    PackageService m_service;
 };
 
 } // namespace Tano

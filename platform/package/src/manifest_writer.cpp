@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <initializer_list>
 #include <vector>
 
 namespace Tano {
@@ -25,44 +24,42 @@ struct Node {
     const Extras *extras;
 };
 
-struct Attribute {
-    int number; // in the rule of the element
-    std::string_view value;
-};
-
-constexpr std::string_view yes = "true";
-
 class Writer {
 public:
     WrittenManifest package(const PackageData &package);
-    WrittenManifest behavior(const BehaviorData &data) {
-        behavior({nullptr, Element::Behavior, noKey, 0, data.extras.get()}, data);
-        return result();
-    }
-    WrittenManifest dialog(const DialogData &data) {
-        dialog({nullptr, Element::Dialog, noKey, 0, data.extras.get()}, data);
+    // An entry alone.
+    template<typename Data>
+    WrittenManifest record(Element kind, const Data &data) {
+        owner<Data>({nullptr, kind, noKey, 0, data.extras.get()}, data);
         return result();
     }
 
 private:
     // What is kept before or after the root element.
     void outside(const Extras *extras, Element place);
-    void root(const Node &node, const PackageData &package);
-    void requirements(const Node &node, ExtrasWalk &walk, const PackageData &package);
-    void entries(const Node &node, ExtrasWalk &walk, const PackageData &package);
-    void behavior(const Node &node, const BehaviorData &behavior);
-    void behaviorTexts(const Node &node, const BehaviorData &behavior);
-    void dialog(const Node &node, const DialogData &dialog);
-    void service(const Node &node, const PackageService &service);
+    // The element of a record, or of its texts in the language that is the node's key: its
+    // attributes, and its children in the order of their rows. Without children, it is <x/>.
+    template<typename Owner, typename Data>
+    void owner(const Node &node, const Data &data);
 
-    // Opens the element, has `children` write what is in it with a walk through its extras, and
-    // closes it, as <x/> when nothing was written.
-    template<typename Children>
-    void element(const Node &node, std::initializer_list<Attribute> attributes,
-                 const ListKeys &listKeys, Children &&children);
-    void empty(const Node &node, std::initializer_list<Attribute> attributes) {
-        element(node, attributes, noLists, [](ExtrasWalk &) {});
-    }
+    // What is between the tags of an element that holds elements, and its end tag.
+    template<typename WriteChildren>
+    void content(const Node &node, ExtrasWalk &walk, WriteChildren &&writeChildren);
+
+    // The children that a row describes.
+    template<typename Owner, typename Data, typename Value>
+    void children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
+                  const ElementRow<Data, Value> &row);
+    template<typename Owner, typename Data>
+    void children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
+                  const TextsRow<Data> &row);
+    void codes(const Node &parent, ExtrasWalk &walk, Element kind,
+               const std::vector<std::string> &codes);
+    template<typename Entry>
+    void entries(const Node &parent, ExtrasWalk &walk, Element kind,
+                 const std::vector<Entry> &entries);
+    void textsByKey(const Node &parent, ExtrasWalk &walk, Element kind, const TextMap &texts,
+                    bool keepsEmptyTexts);
     void text(const Node &node, const std::string &text);
     // The text elements of a list, one each.
     void list(const Node &parent, ExtrasWalk &walk, Element kind, const std::string &key,
@@ -70,12 +67,8 @@ private:
     // The text element of a field, left out while it is empty and nothing is kept in it.
     void field(const Node &parent, ExtrasWalk &walk, Element kind, const std::string &key,
                const std::string &value);
-    // The blocks of texts of all languages that have some, or in whose block something is kept.
-    template<typename Block, typename... Maps>
-    void texts(const Node &parent, ExtrasWalk &walk, Element kind, Block &&block,
-               const Maps &...maps);
-
-    void openTag(const Node &node, std::initializer_list<Attribute> attributes);
+    // `values` holds one for each attribute of the rule.
+    void openTag(const Node &node, const std::string_view *values);
     void namespaces(const Node &node);
     void closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine);
     void line(std::string_view xml);
@@ -93,8 +86,6 @@ private:
         return {std::move(m_out), {}};
     }
 
-    static std::vector<std::string> noLists(const Extras::ListId &) { return {}; }
-
     const PackageData *m_package = nullptr; // null while an entry alone is written
     std::string m_out;
     std::string m_error;
@@ -107,15 +98,28 @@ std::string hexadecimal(unsigned char byte) {
     return text.data();
 }
 
-// The keys of all maps in ascending order, each once.
-template<typename... Maps>
-std::vector<const std::string *> mergedKeys(std::vector<const std::string *> keys,
-                                            const Maps &...maps) {
-    const auto add = [&](const auto &map) {
-        for (const auto &entry : map)
-            keys.push_back(&entry.first);
-    };
-    (add(maps), ...);
+std::string_view valueOf(const FormatRow & /*row*/, const PackageData & /*data*/) {
+    return formatVersion;
+}
+template<typename Data>
+std::string_view valueOf(const AttributeRow<Data, std::string> &row, const Data &data) {
+    return data.*row.member;
+}
+template<typename Data>
+std::string_view valueOf(const AttributeRow<Data, bool> &row, const Data &data) {
+    return data.*row.member ? yes : std::string_view();
+}
+
+using Keys = std::vector<const std::string *>;
+
+template<typename Map>
+void addKeys(Keys &keys, const Map &map) {
+    for (const auto &entry : map)
+        keys.push_back(&entry.first);
+}
+
+// In ascending order, each once.
+Keys merged(Keys keys) {
     std::sort(keys.begin(), keys.end(), [](auto *a, auto *b) { return *a < *b; });
     keys.erase(std::unique(keys.begin(), keys.end(), [](auto *a, auto *b) { return *a == *b; }),
                keys.end());
@@ -128,7 +132,7 @@ WrittenManifest Writer::package(const PackageData &package) {
     m_out = R"(<?xml version="1.0" encoding="UTF-8"?>)";
     const Extras *extras = package.extras.get();
     outside(extras, Element::Prolog);
-    root({nullptr, Element::Package, noKey, 0, extras}, package);
+    owner<PackageData>({nullptr, Element::Package, noKey, 0, extras}, package);
     outside(extras, Element::Epilog);
     m_out += '\n';
     return result();
@@ -143,161 +147,127 @@ void Writer::outside(const Extras *extras, Element place) {
     }
 }
 
-void Writer::root(const Node &node, const PackageData &package) {
-    const auto keys = [&](const Extras::ListId &id) { return listKeys(package, id); };
-    element(node,
-            {{PackageAttribute::Format, formatVersion},
-             {PackageAttribute::Uid, package.uuid},
-             {PackageAttribute::Version, package.version},
-             {PackageAttribute::TypeVersion, package.typeVersion}},
-            keys, [&](ExtrasWalk &walk) {
-                walk.before(Element::Prolog, noKey, 0, [](std::string_view) {});
-                field(node, walk, Element::Installer, noKey, package.installer);
-                field(node, walk, Element::Author, noKey, package.author);
-                field(node, walk, Element::Organization, noKey, package.organization);
-                field(node, walk, Element::Date, noKey, package.date);
-                field(node, walk, Element::Channel, noKey, package.channel);
-                field(node, walk, Element::Path, noKey, package.path);
-                requirements(node, walk, package);
-                entries(node, walk, package);
-            });
-}
-
-void Writer::requirements(const Node &node, ExtrasWalk &walk, const PackageData &package) {
-    const auto languages = [&](Element kind, const std::vector<std::string> &codes) {
-        for (int i = 0; i < int(codes.size()); ++i) {
-            const std::string &code = codes[std::size_t(i)];
-            before(walk, kind, noKey, i);
-            empty({&node, kind, code, i, walk.child(kind, noKey, i)}, {{0, code}});
-        }
-    };
-    languages(Element::SupportedLanguage, package.supportedLanguages);
-    languages(Element::DescriptionLanguage, package.descriptionLanguages);
-
-    const auto block = [&](const Node &texts) {
-        element(texts, {{0, texts.key}}, noLists, [&](ExtrasWalk &inner) {
-            field(texts, inner, Element::Name, noKey, textOf(package.names, texts.key));
-            field(texts, inner, Element::Description, noKey,
-                  textOf(package.descriptions, texts.key));
-        });
-    };
-    texts(node, walk, Element::PackageTexts, block, package.names, package.descriptions);
-
-    for (int i = 0; i < int(package.robotRequirements.size()); ++i) {
-        const RobotRequirement &robot = package.robotRequirements[std::size_t(i)];
-        constexpr Element kind = Element::RobotRequirement;
-        before(walk, kind, noKey, i);
-        empty({&node, kind, noKey, i, walk.child(kind, noKey, i)},
-              {{RobotAttribute::Model, robot.model},
-               {RobotAttribute::MinHeadVersion, robot.minHeadVersion},
-               {RobotAttribute::MaxHeadVersion, robot.maxHeadVersion},
-               {RobotAttribute::MinBodyVersion, robot.minBodyVersion},
-               {RobotAttribute::MaxBodyVersion, robot.maxBodyVersion}});
+template<typename Owner, typename Data>
+void Writer::owner(const Node &node, const Data &data) {
+    if constexpr (isTexts<Owner>) {
+        const std::string_view language = node.key;
+        openTag(node, &language);
+    } else {
+        const auto values = std::apply(
+            [&](const auto &...row) {
+                return std::array<std::string_view, sizeof...(row)>{valueOf(row, data)...};
+            },
+            attributesOf<Owner>);
+        openTag(node, values.data());
     }
-    for (int i = 0; i < int(package.brioRequirements.size()); ++i) {
-        const BrioRequirement &brio = package.brioRequirements[std::size_t(i)];
-        constexpr Element kind = Element::BrioRequirement;
-        before(walk, kind, noKey, i);
-        empty({&node, kind, noKey, i, walk.child(kind, noKey, i)},
-              {{BrioAttribute::MinVersion, brio.minVersion},
-               {BrioAttribute::MaxVersion, brio.maxVersion}});
-    }
-}
-
-void Writer::entries(const Node &node, ExtrasWalk &walk, const PackageData &package) {
-    for (int i = 0; i < int(package.behaviors.size()); ++i) {
-        const BehaviorData &data = RecordAccess::data(package.behaviors[std::size_t(i)]);
-        before(walk, Element::Behavior, noKey, i);
-        behavior({&node, Element::Behavior, data.path, i, data.extras.get()}, data);
-    }
-    for (int i = 0; i < int(package.dialogs.size()); ++i) {
-        const DialogData &data = RecordAccess::data(package.dialogs[std::size_t(i)]);
-        before(walk, Element::Dialog, noKey, i);
-        dialog({&node, Element::Dialog, data.topicName, i, data.extras.get()}, data);
-    }
-    for (int i = 0; i < int(package.services.size()); ++i) {
-        const PackageService &data = package.services[std::size_t(i)];
-        before(walk, Element::Service, noKey, i);
-        service({&node, Element::Service, data.name, i, walk.child(Element::Service, noKey, i)},
-                data);
-    }
-}
-
-void Writer::behavior(const Node &node, const BehaviorData &behavior) {
-    const auto keys = [&](const Extras::ListId &id) { return listKeys(behavior, id); };
-    element(
-        node,
-        {{BehaviorAttribute::Path, behavior.path},
-         {BehaviorAttribute::Nature, behavior.nature},
-         {BehaviorAttribute::UserRequestable, behavior.userRequestable ? yes : std::string_view()}},
-        keys, [&](ExtrasWalk &walk) {
-            list(node, walk, Element::Permission, noKey, behavior.permissions);
-            for (const auto &[purpose, conditions] : behavior.conditions)
-                list(node, walk, Element::Condition, purpose, conditions);
-
-            const auto block = [&](const Node &texts) { behaviorTexts(texts, behavior); };
-            texts(node, walk, Element::BehaviorTexts, block, behavior.names, behavior.descriptions,
-                  behavior.tags, behavior.triggerSentences, behavior.loadingResponses);
-        });
-}
-
-void Writer::behaviorTexts(const Node &node, const BehaviorData &behavior) {
-    const std::string &code = node.key;
-    const auto keys = [&](const Extras::ListId &id) { return listKeys(behavior, code, id); };
-    element(node, {{0, code}}, keys, [&](ExtrasWalk &walk) {
-        field(node, walk, Element::Name, noKey, textOf(behavior.names, code));
-        field(node, walk, Element::Description, noKey, textOf(behavior.descriptions, code));
-        list(node, walk, Element::Tag, noKey, listOf(behavior.tags, code));
-        list(node, walk, Element::TriggerSentence, noKey, listOf(behavior.triggerSentences, code));
-        list(node, walk, Element::LoadingResponse, noKey, listOf(behavior.loadingResponses, code));
+    ExtrasWalk walk(node.extras,
+                    [&](const Extras::ListId &id) { return listKeys<Owner>(data, node.key, id); });
+    walk.before(Element::Prolog, noKey, 0, [](std::string_view) {}); // which is written already
+    content(node, walk, [&] {
+        forEachElement<Owner>(
+            [&](Element kind, const auto &row) { children<Owner>(node, walk, kind, data, row); });
     });
 }
 
-void Writer::dialog(const Node &node, const DialogData &dialog) {
-    element(node,
-            {{DialogAttribute::TopicName, dialog.topicName},
-             {DialogAttribute::TypeVersion, dialog.typeVersion}},
-            noLists, [&](ExtrasWalk &walk) {
-                const auto codes = mergedKeys(walk.childKeys(Element::Topic), dialog.topics);
-                for (const std::string *code : codes)
-                    field(node, walk, Element::Topic, *code, textOf(dialog.topics, *code));
-            });
-}
-
-void Writer::service(const Node &node, const PackageService &service) {
-    element(node,
-            {{ServiceAttribute::Name, service.name},
-             {ServiceAttribute::AutoRun, service.autoRun ? yes : std::string_view()}},
-            noLists, [&](ExtrasWalk &walk) {
-                field(node, walk, Element::ExecStart, noKey, service.execStart);
-                for (const auto &[name, value] : service.properties) {
-                    constexpr Element kind = Element::Property;
-                    before(walk, kind, name, 0);
-                    text({&node, kind, name, 0, walk.child(kind, name, 0)}, value);
-                }
-            });
-}
-
-template<typename Children>
-void Writer::element(const Node &node, std::initializer_list<Attribute> attributes,
-                     const ListKeys &listKeys, Children &&children) {
-    openTag(node, attributes);
-    const std::size_t contentStart = m_out.size();
+template<typename WriteChildren>
+void Writer::content(const Node &node, ExtrasWalk &walk, WriteChildren &&writeChildren) {
+    const std::size_t start = m_out.size();
     ++m_level;
-    ExtrasWalk walk(node.extras, listKeys);
-    children(walk);
+    writeChildren();
     before(walk, Element::End, noKey, 0);
     --m_level;
-    closeTag(node, contentStart, true);
+    closeTag(node, start, true);
+}
+
+template<typename Owner, typename Data, typename Value>
+void Writer::children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
+                      const ElementRow<Data, Value> &row) {
+    const Value &value = data.*row.member;
+    if constexpr (std::is_same_v<Value, std::string>) {
+        field(parent, walk, kind, noKey, value);
+    } else if constexpr (std::is_same_v<Value, UniqueTexts>) {
+        codes(parent, walk, kind, value);
+    } else if constexpr (std::is_same_v<Value, std::vector<std::string>>) {
+        list(parent, walk, kind, noKey, value);
+    } else if constexpr (isEntryList<Value>) {
+        entries(parent, walk, kind, value);
+    } else if constexpr (std::is_same_v<Value, TextMap>) {
+        if constexpr (isTexts<Owner>)
+            field(parent, walk, kind, noKey, textOf(value, parent.key));
+        else
+            textsByKey(parent, walk, kind, value, row.keepsEmptyTexts);
+    } else if constexpr (isTexts<Owner>) {
+        list(parent, walk, kind, noKey, listOf(value, parent.key));
+    } else {
+        for (const auto &[key, values] : value)
+            list(parent, walk, kind, key, values);
+    }
+}
+
+// The blocks of all languages that have texts, or in whose block something is kept.
+template<typename Owner, typename Data>
+void Writer::children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
+                      const TextsRow<Data> & /*row*/) {
+    Keys languages = walk.childKeys(kind);
+    forEachElement<Texts<Data>>(
+        [&](Element /*text*/, const auto &row) { addKeys(languages, data.*row.member); });
+    for (const std::string *language : merged(std::move(languages))) {
+        before(walk, kind, *language, 0);
+        const std::size_t start = m_out.size();
+        const Extras *extras = walk.child(kind, *language, 0);
+        owner<Texts<Data>>({&parent, kind, *language, 0, extras}, data);
+        // A block in which all texts turned out empty says nothing.
+        const bool isOneLine = m_out.find('\n', start + 1) == std::string::npos;
+        if (!extras && isOneLine)
+            m_out.resize(start);
+    }
+}
+
+void Writer::codes(const Node &parent, ExtrasWalk &walk, Element kind,
+                   const std::vector<std::string> &codes) {
+    for (int i = 0; i < int(codes.size()); ++i) {
+        before(walk, kind, noKey, i);
+        const Node node{&parent, kind, codes[std::size_t(i)], i, walk.child(kind, noKey, i)};
+        const std::string_view code = node.key;
+        openTag(node, &code);
+        ExtrasWalk inner(node.extras, nullptr);
+        content(node, inner, [] {});
+    }
+}
+
+template<typename Entry>
+void Writer::entries(const Node &parent, ExtrasWalk &walk, Element kind,
+                     const std::vector<Entry> &entries) {
+    for (int i = 0; i < int(entries.size()); ++i) {
+        const auto &data = dataOf(entries[std::size_t(i)]);
+        using Data = std::decay_t<decltype(data)>;
+        before(walk, kind, noKey, i);
+        const Extras *extras = nullptr;
+        if constexpr (hasExtras<Data>)
+            extras = data.extras.get();
+        else
+            extras = walk.child(kind, noKey, i);
+        owner<Data>({&parent, kind, keyOf(data), i, extras}, data);
+    }
+}
+
+void Writer::textsByKey(const Node &parent, ExtrasWalk &walk, Element kind, const TextMap &texts,
+                        bool keepsEmptyTexts) {
+    Keys keys = keepsEmptyTexts ? Keys() : walk.childKeys(kind);
+    addKeys(keys, texts);
+    for (const std::string *key : merged(std::move(keys))) {
+        if (keepsEmptyTexts) {
+            before(walk, kind, *key, 0);
+            text({&parent, kind, *key, 0, walk.child(kind, *key, 0)}, textOf(texts, *key));
+        } else {
+            field(parent, walk, kind, *key, textOf(texts, *key));
+        }
+    }
 }
 
 void Writer::text(const Node &node, const std::string &text) {
-    const ElementRule &rule = ruleOf(node.element);
-    if (rule.keyAttribute >= 0)
-        openTag(node, {{rule.keyAttribute, node.key}});
-    else
-        openTag(node, {});
-
+    const std::string_view key = node.key;
+    openTag(node, &key);
     const std::size_t contentStart = m_out.size();
     std::size_t done = 0;
     if (node.extras) {
@@ -331,37 +301,21 @@ void Writer::field(const Node &parent, ExtrasWalk &walk, Element kind, const std
         text({&parent, kind, key, 0, extras}, value);
 }
 
-template<typename Block, typename... Maps>
-void Writer::texts(const Node &parent, ExtrasWalk &walk, Element kind, Block &&block,
-                   const Maps &...maps) {
-    for (const std::string *code : mergedKeys(walk.childKeys(kind), maps...)) {
-        before(walk, kind, *code, 0);
-        const std::size_t start = m_out.size();
-        const Extras *extras = walk.child(kind, *code, 0);
-        block(Node{&parent, kind, *code, 0, extras});
-        // A block in which all texts turned out empty says nothing.
-        const bool isOneLine = m_out.find('\n', start + 1) == std::string::npos;
-        if (!extras && isOneLine)
-            m_out.resize(start);
-    }
-}
-
-void Writer::openTag(const Node &node, std::initializer_list<Attribute> attributes) {
+void Writer::openTag(const Node &node, const std::string_view *values) {
     const ElementRule &rule = ruleOf(node.element);
     const std::size_t start = m_out.size();
     m_out += '\n';
     m_out.append(2 * m_level, ' ');
     m_out += '<';
     m_out += rule.name;
-    for (const Attribute &attribute : attributes) {
-        const AttributeRule &attributeRule = rule.attributes[std::size_t(attribute.number)];
-        if (attribute.value.empty() && !attributeRule.required)
+    for (const AttributeRule &attribute : rule.attributes) {
+        const std::string_view value = *values++;
+        if (value.empty() && !attribute.isRequired())
             continue;
-        if (attribute.number == rule.keyAttribute &&
-            attribute.value.size() > ManifestReader::maxKeyLength)
+        if (attribute.kind == AttributeKind::Key && value.size() > ManifestReader::maxKeyLength)
             fail(node, "cannot be saved: its key is longer than 4 KiB");
-        ((m_out += ' ') += attributeRule.name) += "=\"";
-        escaped(node, attribute.value, EscapeFor::Attribute);
+        ((m_out += ' ') += attribute.name) += "=\"";
+        escaped(node, value, EscapeFor::Attribute);
         m_out += '"';
     }
     if (node.extras) {
@@ -437,7 +391,7 @@ void Writer::fail(const Node &node, std::string reason) {
 int Writer::indexOf(const Node &node) const {
     if (!m_package || !isEntry(node.element))
         return node.index;
-    const auto keys = listKeys(*m_package, {node.element, {}});
+    const auto keys = listKeys<PackageData>(*m_package, noKey, {node.element, {}});
     return int(std::count(keys.begin(), keys.begin() + node.index, node.key));
 }
 
@@ -458,11 +412,11 @@ WrittenManifest writeManifest(const PackageData &package) {
 }
 
 WrittenManifest writeElement(const BehaviorData &behavior) {
-    return Writer().behavior(behavior);
+    return Writer().record(elementOf(&PackageData::behaviors), behavior);
 }
 
 WrittenManifest writeElement(const DialogData &dialog) {
-    return Writer().dialog(dialog);
+    return Writer().record(elementOf(&PackageData::dialogs), dialog);
 }
 
 } // namespace Tano

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "record_data.h"
+#include "record_fields.h"
 
 #include <string>
 
@@ -22,11 +22,12 @@ inline WrittenManifest writeElement(const PackageData &package) {
     return writeManifest(package);
 }
 
-/// Whether two records with equal fields also agree in what is kept beyond them, which is so when
+/// Whether two records agree in their fields and in what is kept beyond them. The latter is so when
 /// both are written alike.
 template<typename Data>
-bool sameExtras(const Data &a, const Data &b) {
-    return a.extras == b.extras || writeElement(a).text == writeElement(b).text;
+bool sameContent(const Data &a, const Data &b) {
+    return equalFields(a, b) &&
+           (a.extras == b.extras || writeElement(a).text == writeElement(b).text);
 }
 
 } // namespace Tano

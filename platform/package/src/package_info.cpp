@@ -4,13 +4,12 @@
 #include <tano/save_file.h>
 
 #include "manifest_writer.h"
-#include "record_data.h"
+#include "record_fields.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <ostream>
-#include <tuple>
 
 namespace Tano {
 namespace {
@@ -82,32 +81,39 @@ void addKeys(std::set<std::string> &keys, const Map &map) {
     }
 }
 
+// The languages of a record's lists of codes and of its texts, of its entries also.
+template<typename Data>
+void addLanguages(std::set<std::string> &codes, const Data &data) {
+    forEachElement<Data>([&](Element /*child*/, const auto &row) {
+        using Value = typename std::decay_t<decltype(row)>::Value;
+        if constexpr (isTexts<Value>) {
+            forEachElement<Value>(
+                [&](Element /*text*/, const auto &text) { addKeys(codes, data.*text.member); });
+        } else if constexpr (std::is_same_v<Value, UniqueTexts>) {
+            const std::vector<std::string> &list = data.*row.member;
+            codes.insert(list.begin(), list.end());
+        } else if constexpr (isEntryList<Value>) {
+            for (const auto &entry : data.*row.member)
+                addLanguages(codes, dataOf(entry));
+        } else if constexpr (std::is_same_v<Value, TextMap>) {
+            if (row.key.begin() == byLanguage)
+                addKeys(codes, data.*row.member);
+        }
+    });
+}
+
 } // namespace
 
-// The bindings name every member, so that a new one does not compile until it is compared.
-
 bool operator==(const RobotRequirement &a, const RobotRequirement &b) {
-    const auto fields = [](const RobotRequirement &requirement) {
-        const auto &[model, minHead, maxHead, minBody, maxBody] = requirement;
-        return std::tie(model, minHead, maxHead, minBody, maxBody);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 bool operator==(const BrioRequirement &a, const BrioRequirement &b) {
-    const auto fields = [](const BrioRequirement &requirement) {
-        const auto &[minVersion, maxVersion] = requirement;
-        return std::tie(minVersion, maxVersion);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 bool operator==(const PackageService &a, const PackageService &b) {
-    const auto fields = [](const PackageService &service) {
-        const auto &[name, execStart, autoRun, properties] = service;
-        return std::tie(name, execStart, autoRun, properties);
-    };
-    return fields(a) == fields(b);
+    return equalFields(a, b);
 }
 
 const std::string &PackageInfo::uuid() const {
@@ -399,19 +405,8 @@ bool PackageInfo::moveService(int from, int to) {
 }
 
 std::set<std::string> PackageInfo::languageCodes() const {
-    std::set<std::string> codes(supportedLanguages().begin(), supportedLanguages().end());
-    codes.insert(descriptionLanguages().begin(), descriptionLanguages().end());
-    addKeys(codes, names());
-    addKeys(codes, descriptions());
-    for (const BehaviorInfo &behavior : behaviors()) {
-        addKeys(codes, behavior.names());
-        addKeys(codes, behavior.descriptions());
-        addKeys(codes, behavior.languagesToTags());
-        addKeys(codes, behavior.languagesToTriggerSentences());
-        addKeys(codes, behavior.languagesToLoadingResponses());
-    }
-    for (const DialogInfo &dialog : dialogs())
-        addKeys(codes, dialog.topics());
+    std::set<std::string> codes;
+    addLanguages(codes, RecordAccess::data(*this));
     return codes;
 }
 
@@ -419,12 +414,9 @@ void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
     const KeySet descriptionCodes(data.descriptionLanguages);
     const KeySet supportedCodes(data.supportedLanguages);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    dropChildren(data.extras, Element::PackageTexts,
-                 [&](const std::string &code) { return !descriptionCodes.contains(code); });
+    trimTexts(data, descriptionCodes, descriptionCodes);
     for (BehaviorInfo &behavior : data.behaviors)
-        trimBehavior(behavior, descriptionCodes, supportedCodes);
+        trimTexts(RecordAccess::edit(behavior), descriptionCodes, supportedCodes);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {
@@ -476,21 +468,8 @@ const std::string &PackageInfo::errorString() const {
 }
 
 bool operator==(const PackageInfo &a, const PackageInfo &b) {
-    if (RecordAccess::sharesData(a, b))
-        return true;
-    const PackageData &x = RecordAccess::data(a);
-    const PackageData &y = RecordAccess::data(b);
-    const auto fields = [](const PackageData &data) {
-        const auto &[uuid, version, typeVersion, installer, author, organization, date, channel,
-                     path, supportedLanguages, descriptionLanguages, names, descriptions,
-                     robotRequirements, brioRequirements, behaviors, dialogs, services, extras] =
-            data;
-        (void)extras; // compared as it is written
-        return std::tie(uuid, version, typeVersion, installer, author, organization, date, channel,
-                        path, supportedLanguages, descriptionLanguages, names, descriptions,
-                        robotRequirements, brioRequirements, behaviors, dialogs, services);
-    };
-    return fields(x) == fields(y) && sameExtras(x, y);
+    return RecordAccess::sharesData(a, b) ||
+           sameContent(RecordAccess::data(a), RecordAccess::data(b));
 }
 
 std::ostream &operator<<(std::ostream &stream, const PackageInfo &package) {

@@ -181,8 +181,4 @@ void keepOnly(Map &map, const KeySet &keys) {
         it = keys.contains(it->first) ? std::next(it) : map.erase(it);
 }
 
-/// BehaviorInfo::trimExtraInfo() for many behaviors.
-void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
-                  const KeySet &supportedCodes);
-
 } // namespace Tano

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "record_builder.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Tano {
+
+/// The attributes of the element that starts, by its rule.
+class ManifestAttributes {
+public:
+    /// Takes expat's list. Returns why the rule refuses it, in a sentence; empty after a success.
+    std::string read(const ElementRule &rule, const char **attributes);
+
+    /// Of the attributes of the rule; empty for absent ones.
+    [[nodiscard]] RecordBuilder::Values &values() { return m_values; }
+    /// The value that distinguishes the element from its siblings; empty for none.
+    [[nodiscard]] const std::string &key(const ElementRule &rule) const;
+    [[nodiscard]] bool hasUnknown() const { return m_hasUnknown; }
+    [[nodiscard]] static bool isKnown(const ElementRule &rule, std::string_view name);
+
+private:
+    [[nodiscard]] bool isPresent(std::size_t attribute) const {
+        return (m_present & (1U << attribute)) != 0;
+    }
+    [[nodiscard]] std::string checkValue(const ElementRule &rule, std::size_t attribute) const;
+
+    RecordBuilder::Values m_values;
+    std::uint32_t m_present = 0; // a bit for each value
+    static_assert(mostKnownAttributes <= 32);
+    bool m_hasUnknown = false;
+};
+
+} // namespace Tano
