@@ -34,7 +34,7 @@ private:
     class TextPieces {
     public:
         std::uint32_t add(std::string_view text);
-        [[nodiscard]] std::string_view at(std::uint32_t offset, std::uint32_t size) const;
+        std::string_view at(std::uint32_t offset, std::uint32_t size) const;
 
     private:
         std::vector<std::string> m_pieces;
@@ -63,9 +63,7 @@ private:
         int count = 0;
     };
 
-    [[nodiscard]] std::string_view keyOf(const Node &node) const {
-        return m_texts.at(node.key, node.keySize);
-    }
+    std::string_view keyOf(const Node &node) const { return m_texts.at(node.key, node.keySize); }
     void buildIndex() const;
     Siblings siblings(NodeId parent, Element element, std::string_view key) const;
     NodeId child(NodeId parent, const FieldPath::Step &step) const;

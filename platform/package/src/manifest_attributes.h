@@ -15,17 +15,15 @@ public:
     std::string read(const ElementRule &rule, const char **attributes);
 
     /// Of the attributes of the rule; empty for absent ones.
-    [[nodiscard]] RecordBuilder::Values &values() { return m_values; }
+    RecordBuilder::Values &values() { return m_values; }
     /// The value that distinguishes the element from its siblings; empty for none.
-    [[nodiscard]] const std::string &key(const ElementRule &rule) const;
-    [[nodiscard]] bool hasUnknown() const { return m_hasUnknown; }
-    [[nodiscard]] static bool isKnown(const ElementRule &rule, std::string_view name);
+    const std::string &key(const ElementRule &rule) const;
+    bool hasUnknown() const { return m_hasUnknown; }
+    static bool isKnown(const ElementRule &rule, std::string_view name);
 
 private:
-    [[nodiscard]] bool isPresent(std::size_t attribute) const {
-        return (m_present & (1U << attribute)) != 0;
-    }
-    [[nodiscard]] std::string checkValue(const ElementRule &rule, std::size_t attribute) const;
+    bool isPresent(std::size_t attribute) const { return (m_present & (1U << attribute)) != 0; }
+    std::string checkValue(const ElementRule &rule, std::size_t attribute) const;
 
     RecordBuilder::Values m_values;
     std::uint32_t m_present = 0; // a bit for each value

@@ -31,7 +31,7 @@ enum class Content : std::uint8_t { Elements, Text, Nothing };
 /// How often an element may stand in its parent.
 enum class Occurs : std::uint8_t { Once, OncePerKey, AnyTimes };
 
-/// What an attribute is to its element. A key distinguishes the element from its siblings; a flag
+/// The role of an attribute. A key distinguishes the element from its siblings; a flag
 /// is "true" or "false"; the format is the version of the format.
 enum class AttributeKind : std::uint8_t { Optional, Flag, Required, Key, Format };
 
@@ -39,7 +39,7 @@ struct AttributeRule {
     std::string_view name;
     AttributeKind kind = AttributeKind::Optional;
 
-    [[nodiscard]] constexpr bool isRequired() const { return kind >= AttributeKind::Required; }
+    constexpr bool isRequired() const { return kind >= AttributeKind::Required; }
 };
 
 /// A constant table that an element's rule refers to.

@@ -22,7 +22,7 @@ inline WrittenManifest writeElement(const PackageData &package) {
     return writeManifest(package);
 }
 
-/// Whether two records agree in their fields and in what is kept beyond them. The latter is so when
+/// Whether two records agree in their fields and their extras. The extras agree when
 /// both are written alike.
 template<typename Data>
 bool sameContent(const Data &a, const Data &b) {

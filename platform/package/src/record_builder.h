@@ -21,7 +21,7 @@ public:
     // For the elements below the root.
 
     /// How many elements of this kind, and with this key, the open parent has.
-    [[nodiscard]] int count(Element element, const std::string &key) const;
+    int count(Element element, const std::string &key) const;
     /// Starts an element and takes the values that it stores.
     void start(Element element, const std::string &key, Values &values);
     /// Stores the text of an element.
@@ -30,17 +30,17 @@ public:
     void endTexts(Element block);
 
     /// The distinguishing texts of a list of an open element.
-    [[nodiscard]] std::vector<std::string> listKeys(Element parent, const Extras::ListId &id) const;
+    std::vector<std::string> listKeys(Element parent, const Extras::ListId &id) const;
     /// Stores the extras of an open element that becomes a record.
     void setExtras(Element element, ExtrasPointer extras);
 
-    [[nodiscard]] std::shared_ptr<PackageData> take() { return std::move(m_package); }
+    std::shared_ptr<PackageData> take() { return std::move(m_package); }
 
 private:
     template<typename Data>
     void startRecord(Data &data, Values &values);
     template<typename Data>
-    [[nodiscard]] Data &record() const {
+    Data &record() const {
         return *std::get<Data *>(m_records);
     }
 

@@ -32,7 +32,7 @@ inline constexpr auto elementsOf = std::tuple<>();
 struct FormatRow {
     AttributeRule rule{"format", AttributeKind::Format};
 
-    [[nodiscard]] static constexpr auto members() { return std::tuple<>(); }
+    static constexpr auto members() { return std::tuple<>(); }
 };
 
 /// A text or a flag in an attribute.
@@ -41,7 +41,7 @@ struct AttributeRow {
     AttributeRule rule;
     Value Data::*member;
 
-    [[nodiscard]] constexpr auto members() const { return std::tuple(member); }
+    constexpr auto members() const { return std::tuple(member); }
 };
 
 /// One child element, or any number of them. The type of the member says which:
@@ -59,7 +59,7 @@ struct ElementRow {
     Rows<AttributeRule> key = {};
     bool keepsEmptyTexts = false; // else an empty text is no text
 
-    [[nodiscard]] constexpr auto members() const { return std::tuple(member); }
+    constexpr auto members() const { return std::tuple(member); }
 };
 
 template<typename Owner>
@@ -70,7 +70,7 @@ template<typename Data>
 struct TextsRow {
     using Value = Texts<Data>;
 
-    [[nodiscard]] static constexpr auto members() { return membersOf<Texts<Data>>(); }
+    static constexpr auto members() { return membersOf<Texts<Data>>(); }
 };
 
 template<typename Data, typename Value>
