@@ -87,19 +87,6 @@ bool removeFrom(BehaviorInfo &record, Lists lists, const std::string &value, con
 
 } // namespace
 
-void trimBehavior(BehaviorInfo &behavior, const KeySet &descriptionCodes,
-                  const KeySet &supportedCodes) {
-    BehaviorData &data = RecordAccess::edit(behavior);
-    keepOnly(data.names, descriptionCodes);
-    keepOnly(data.descriptions, descriptionCodes);
-    keepOnly(data.tags, supportedCodes);
-    keepOnly(data.triggerSentences, supportedCodes);
-    keepOnly(data.loadingResponses, supportedCodes);
-    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
-        return !descriptionCodes.contains(code) && !supportedCodes.contains(code);
-    });
-}
-
 const std::string &BehaviorInfo::natureInteractive() {
     return interactive;
 }
@@ -308,12 +295,21 @@ bool BehaviorInfo::removeAt(BehaviorList kind, const std::string &key, int index
 
 void BehaviorInfo::trimExtraInfo(const std::vector<std::string> &descriptionCodes,
                                  const std::vector<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    trimExtraInfo(KeySet(descriptionCodes.begin(), descriptionCodes.end()),
+                  KeySet(supportedCodes.begin(), supportedCodes.end()));
 }
 
 void BehaviorInfo::trimExtraInfo(const std::set<std::string> &descriptionCodes,
                                  const std::set<std::string> &supportedCodes) {
-    trimBehavior(*this, KeySet(descriptionCodes), KeySet(supportedCodes));
+    BehaviorData &data = RecordAccess::edit(*this);
+    keepOnly(data.names, descriptionCodes);
+    keepOnly(data.descriptions, descriptionCodes);
+    keepOnly(data.tags, supportedCodes);
+    keepOnly(data.triggerSentences, supportedCodes);
+    keepOnly(data.loadingResponses, supportedCodes);
+    dropChildren(data.extras, Element::BehaviorTexts, [&](const std::string &code) {
+        return descriptionCodes.count(code) == 0 && supportedCodes.count(code) == 0;
+    });
 }
 
 bool operator==(const BehaviorInfo &a, const BehaviorInfo &b) {

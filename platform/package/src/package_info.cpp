@@ -417,14 +417,16 @@ std::set<std::string> PackageInfo::languageCodes() const {
 
 void PackageInfo::trimExtraInfo() {
     PackageData &data = RecordAccess::edit(*this);
-    const KeySet descriptionCodes(data.descriptionLanguages);
-    const KeySet supportedCodes(data.supportedLanguages);
+    const std::vector<std::string> &described = data.descriptionLanguages;
+    const std::vector<std::string> &supported = data.supportedLanguages;
+    const KeySet descriptionCodes(described.begin(), described.end());
+    const KeySet supportedCodes(supported.begin(), supported.end());
     keepOnly(data.names, descriptionCodes);
     keepOnly(data.descriptions, descriptionCodes);
     dropChildren(data.extras, Element::PackageTexts,
-                 [&](const std::string &code) { return !descriptionCodes.contains(code); });
+                 [&](const std::string &code) { return descriptionCodes.count(code) == 0; });
     for (BehaviorInfo &behavior : data.behaviors)
-        trimBehavior(behavior, descriptionCodes, supportedCodes);
+        behavior.trimExtraInfo(descriptionCodes, supportedCodes);
 }
 
 bool PackageInfo::loadFromManifestFile(QFile &file) {
