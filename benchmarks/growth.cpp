@@ -151,7 +151,7 @@ void collectIssues(PackageInfoModel &package) {
     Zel::PackageModel::issues(&package);
 }
 
-void validate(PackageInfoModel &package) {
+void makeMessages(PackageInfoModel &package) {
     QStringList errors;
     QStringList warnings;
     Zel::PackageModel::validate(&package, errors, warnings);
@@ -190,7 +190,7 @@ constexpr std::array operations{Operation{"load", nothing},
                                 Operation{"copy", copy},
                                 Operation{"clear", clear},
                                 Operation{"issues", collectIssues},
-                                Operation{"validate", validate},
+                                Operation{"messages", makeMessages},
                                 Operation{"trim", trim},
                                 Operation{"plainText", generatePlainText},
                                 Operation{"addCondition", appendConditions},

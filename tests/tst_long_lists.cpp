@@ -41,6 +41,13 @@ RobotLanguage numbered(int number) {
     return {ISOCode(text("n%1").arg(number)), NuanceCode()};
 }
 
+std::vector<std::string> codesOf(const RobotLanguages &languages) {
+    std::vector<std::string> codes;
+    for (const RobotLanguage &language : languages)
+        codes.push_back(toUtf8(language.isoCode()));
+    return codes;
+}
+
 QString longText(int number) {
     return text("a text that has a block of its own %1").arg(number);
 }
@@ -100,6 +107,8 @@ private Q_SLOTS:
             }
             if (random() % 4 == 0)
                 QVERIFY(package.supportedLanguages() == expected);
+            if (random() % 4 == 0)
+                QCOMPARE(package.packageInfo().supportedLanguages(), codesOf(expected));
         }
         QVERIFY(package.supportedLanguages() == expected);
         QVERIFY(expected.size() > 20);

@@ -90,6 +90,7 @@ private Q_SLOTS:
         Tano::BehaviorInfo info;
         for (const char *code : {"de_DE", "en_US", "fr_FR", "it_IT"})
             record.addSupportedLanguage(code);
+        info.addTriggerSentence("gone", "cs_CZ");
         info.addTriggerSentence("gone", "de_DE");
         info.addTriggerSentence("one<break/>1", "en_US");
         record.addBehavior(info);
@@ -99,6 +100,7 @@ private Q_SLOTS:
                 [&](int, const QString &, const RobotLanguage &updated) {
                     if (updated != language("en_US"))
                         return;
+                    behavior->removeTriggerSentence(0, language("cs_CZ"));
                     behavior->removeTriggerSentence(0, language("de_DE"));
                     for (const char *code : {"it_IT", "de_DE", "fr_FR"})
                         behavior->addTriggerSentence(QStringLiteral("two<break/>2"),

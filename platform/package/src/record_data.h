@@ -9,7 +9,6 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <string_view>
 #include <unordered_set>
 #include <vector>
 
@@ -23,48 +22,70 @@ void moveWithin(std::vector<Element> &list, int from, int to) {
     std::rotate(first, from < to ? first + 1 : last - 1, last);
 }
 
-/// A list of texts, each of which occurs once, in the order of their addition.
+/// A list of texts, each of which occurs once, in the order of their addition. Removals from a long
+/// list are applied when it is read, so that emptying it text by text takes linear time.
 class UniqueTexts {
 public:
-    operator const std::vector<std::string> &() const { return m_texts; } // NOLINT: it is a list
+    operator const std::vector<std::string> &() const { return texts(); } // NOLINT: it is a list
 
-    std::size_t size() const { return m_texts.size(); }
+    std::size_t size() const { return texts().size(); }
     /// For texts that are known to be new.
     void append(const std::string &text) {
-        m_texts.push_back(text);
-        if (!m_known.empty())
+        if (m_removed.count(text) != 0)
+            static_cast<void>(texts());
+        if (isIndexed())
             m_known.insert(text);
+        m_texts.push_back(text);
     }
     bool contains(const std::string &text) const {
-        if (m_texts.size() < indexedFrom)
+        if (m_texts.size() < indexedFrom && m_removed.empty())
             return std::find(m_texts.begin(), m_texts.end(), text) != m_texts.end();
-        if (m_known.empty())
+        if (!isIndexed())
             m_known.insert(m_texts.begin(), m_texts.end());
         return m_known.count(text) != 0;
     }
     /// The same before the text at an index, which is clamped to the list.
     void insert(int index, const std::string &text) {
-        m_texts.insert(m_texts.begin() + std::clamp(index, 0, int(m_texts.size())), text);
-        if (!m_known.empty())
+        static_cast<void>(texts());
+        if (isIndexed())
             m_known.insert(text);
+        m_texts.insert(m_texts.begin() + std::clamp(index, 0, int(m_texts.size())), text);
     }
     friend void moveWithin(UniqueTexts &list, int from, int to) {
+        static_cast<void>(list.texts());
         Tano::moveWithin(list.m_texts, from, to);
     }
+    /// For a text that is known to be there.
     void remove(const std::string &text) {
-        m_known.erase(text);
-        m_texts.erase(std::remove(m_texts.begin(), m_texts.end(), text), m_texts.end());
+        if (isIndexed()) {
+            m_known.erase(text);
+            m_removed.insert(text);
+        } else {
+            m_texts.erase(std::remove(m_texts.begin(), m_texts.end(), text), m_texts.end());
+        }
     }
 
     friend bool operator==(const UniqueTexts &a, const UniqueTexts &b) {
-        return a.m_texts == b.m_texts;
+        return a.texts() == b.texts();
     }
 
 private:
     static constexpr std::size_t indexedFrom = 32;
 
-    std::vector<std::string> m_texts;
-    mutable std::unordered_set<std::string> m_known; // built at the first search of a long list
+    [[nodiscard]] bool isIndexed() const { return !m_known.empty() || !m_removed.empty(); }
+
+    const std::vector<std::string> &texts() const {
+        if (!m_removed.empty()) {
+            const auto isRemoved = [&](const auto &text) { return m_removed.count(text) != 0; };
+            m_texts.erase(std::remove_if(m_texts.begin(), m_texts.end(), isRemoved), m_texts.end());
+            m_removed.clear();
+        }
+        return m_texts;
+    }
+
+    mutable std::vector<std::string> m_texts;
+    mutable std::unordered_set<std::string> m_known;   // built at the first search of a long list
+    mutable std::unordered_set<std::string> m_removed; // texts that are still in the list
 };
 
 struct BehaviorData {

@@ -59,18 +59,9 @@ QString TextTable::groupLine() const {
 }
 
 QString TextTable::toText(const Console &console, int indent) const {
-    Row titles;
-    for (const Column &column : m_columns)
-        titles.push_back({column.title, Style::Faint});
-    std::vector<Row> rows{titles};
-    rows.insert(rows.end(), m_rows.begin(), m_rows.end());
-
     QString text;
     const QString margin(indent, u' ');
-    const QString groups = withoutSpacesAtEnd(groupLine());
-    if (!groups.isEmpty())
-        text += margin % console.styled(groups, Style::Faint) % u'\n';
-    for (const Row &row : rows) {
+    const auto addLine = [&](const Row &row) {
         QString line;
         for (std::size_t i = 0; i < row.size(); ++i) {
             const int spaces = m_widths[i] - displayWidth(row[i].text);
@@ -79,7 +70,17 @@ QString TextTable::toText(const Console &console, int indent) const {
                     QString(spaces - before + gap, u' ');
         }
         text += withoutSpacesAtEnd(margin % line) % u'\n';
-    }
+    };
+
+    const QString groups = withoutSpacesAtEnd(groupLine());
+    if (!groups.isEmpty())
+        text += margin % console.styled(groups, Style::Faint) % u'\n';
+    Row titles;
+    for (const Column &column : m_columns)
+        titles.push_back({column.title, Style::Faint});
+    addLine(titles);
+    for (const Row &row : m_rows)
+        addLine(row);
     return text;
 }
 
