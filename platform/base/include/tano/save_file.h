@@ -60,8 +60,8 @@ struct SaveResult {
 /// new content who cannot read the old one. Where a rename would change them, or would split hard
 /// links, the file is instead overwritten while the synced copy beside it remains.
 ///
-/// The file beside it is named ".NAME.saving-XXXXXXXX". One that a killed process has left behind
-/// is removed by the next save of the same file that succeeds.
+/// The file beside it is named ".NAME.saving-" and eight random characters. One that a killed
+/// process has left behind is removed by the next save of the same file that succeeds.
 ///
 /// Only regular files are saved to, and only if they may be written. Programs that save with this
 /// function wait for each other; after two seconds it gives up.

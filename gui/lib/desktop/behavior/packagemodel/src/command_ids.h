@@ -18,5 +18,6 @@ constexpr int dialogTypeVersion = 1;
 constexpr int dialogTopic = 2;
 
 constexpr int packageText = 42;
+constexpr int packageEdits = 43;
 
 } // namespace Zel::CommandId

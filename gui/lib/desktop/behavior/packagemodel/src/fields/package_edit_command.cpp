@@ -1,9 +1,9 @@
 #include <packagemodel/package_edit_command.h>
 
+#include "../command_ids.h"
+
 namespace Zel {
 namespace {
-
-constexpr int editCommandId = 43;
 
 // Whether the edits are a single new text, which may be a part of a typed run.
 bool isText(const PackageModel::Edits &edits) {
@@ -41,7 +41,7 @@ void PackageEditCommand::step(PackageModel::Edits &done, const PackageModel::Edi
 }
 
 int PackageEditCommand::id() const {
-    return editCommandId;
+    return CommandId::packageEdits;
 }
 
 bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
