@@ -161,21 +161,22 @@ public:
         const auto *package = qobject_cast<PackageInfoModel *>(owner.parent());
         if (!target.cell || !package)
             return target;
-        target.cell->refusal = [this, &owner, package](const QString &key) {
-            const Child *taker = (package->*m_find)(key);
+        target.cell->refusal = [find = m_find, &owner, package](const QString &key) {
+            const Child *taker = (package->*find)(key);
             return taker && taker != &owner
                        ? QCoreApplication::translate("Zel::PackageModel", "'%1' is taken.").arg(key)
                        : QString();
         };
-        target.cell->inverse = [this, &owner, package, path = walk.path](const QString &key) {
+        target.cell->inverse = [get = m_get, all = m_all, record = m_record, &owner, package,
+                                path = walk.path](const QString &key) {
             FieldPath renamed;
             renamed.field(path.steps().front().field).entry(toUtf8(key));
-            const QString old = (owner.*m_get)();
-            const auto children = (package->*m_all)();
-            const auto isAlike = [&](const Child *child) { return (child->*m_get)() == old; };
+            const QString old = (owner.*get)();
+            const auto children = (package->*all)();
+            const auto isAlike = [&](const Child *child) { return (child->*get)() == old; };
             if (std::count_if(children.begin(), children.end(), isAlike) == 1)
                 return Edit{Edit::Action::Set, renamed.field(path.steps().back().field), old};
-            return Edit{Edit::Action::Set, renamed, m_record(owner)}; // the old key is taken
+            return Edit{Edit::Action::Set, renamed, record(owner)}; // the old key is taken
         };
         return target;
     }
@@ -220,9 +221,9 @@ public:
             if (Owner *living = kept.get())
                 m_set(*living, std::get<QString>(value), language);
         };
-        const auto remove = [this, kept, language] {
+        const auto remove = [kept, language, drop = m_remove] {
             if (Owner *living = kept.get())
-                (living->*m_remove)(language);
+                (living->*drop)(language);
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
     }
