@@ -26,6 +26,14 @@ Texts texts(const Record &record) {
     return decoded;
 }
 
+// An assignment copies through the setters, for which an empty text is as good as none.
+Texts withoutEmpty(Texts texts) {
+    texts.erase(std::remove_if(texts.begin(), texts.end(),
+                               [](const auto &entry) { return entry.second.isEmpty(); }),
+                texts.end());
+    return texts;
+}
+
 QStringList codes(const RobotLanguages &languages) {
     QStringList codes;
     for (const RobotLanguage &language : languages)
@@ -133,8 +141,8 @@ bool areEqual(const QVector<Child *> &children, const std::vector<Record> &recor
 QString faultOfDescriptions(
     const PackageInfoModel &package,
     const std::function<bool(const QString &code, const QString &text)> &isLeftover) {
-    Texts cached = byCode(package.descriptions());
-    const Texts recorded = texts(package.packageInfo().descriptions());
+    Texts cached = withoutEmpty(byCode(package.descriptions()));
+    const Texts recorded = withoutEmpty(texts(package.packageInfo().descriptions()));
     const auto isExtra = [&](const auto &entry) {
         const bool isRecorded =
             std::any_of(recorded.begin(), recorded.end(),
@@ -159,7 +167,8 @@ disagreement(const PackageInfoModel &package,
          "the supported languages are not the record's"},
         {codes(package.descriptionLanguages()) == codes(record.descriptionLanguages()),
          "the description languages are not the record's"},
-        {byCode(package.names()) == texts(record.names()), "the names are not the record's"},
+        {withoutEmpty(byCode(package.names())) == withoutEmpty(texts(record.names())),
+         "the names are not the record's"},
         {areEqual(package.robotRequirements(), record.robotRequirements(),
                   fromTanoRobotRequirement),
          "the robot requirements are not the record's"},

@@ -270,6 +270,14 @@ void TestLifetimes::theLastLoadWins() {
         package, [&](auto &&...) { QVERIFY(package.loadFromManifestContent(manifest)); }, 1);
     QVERIFY(!package.loadFromManifestContent(m_manifest));
     QCOMPARE(package.saveToManifestContent(), manifest);
+
+    const auto loadFull = [&] { QVERIFY(package.loadFromManifestContent(m_manifest)); };
+    loadFull();
+    connect(package.dialogs().at(0), &DialogInfoModel::topicRemoved, this, loadFull);
+    package.removeSupportedLanguage(m_english);
+    QCOMPARE(package.saveToManifestContent(), m_manifest);
+    QVERIFY(package.loadFromManifestContent(manifest));
+    QCOMPARE(package.saveToManifestContent(), manifest);
     QCOMPARE(disagreement(package), QString());
 }
 

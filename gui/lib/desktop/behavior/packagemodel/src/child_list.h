@@ -245,9 +245,11 @@ public:
     /// Lets a child that was announced as removed join another list.
     static void endLeaving(const Child &child) { ChildAccess::data(child).m_leaving = false; }
 
-    /// Takes a child out of the list and brings the record up to date, without notification.
+    /// Takes a child out of the list, stops listening to it and brings the record up to date,
+    /// without notification.
     Child *takeAt(int index) {
         Child *child = m_children.at(index);
+        stopTracking(child);
         remove(index, ChildAccess::data(*child));
         resync();
         ChildAccess::data(*child).m_list = nullptr;

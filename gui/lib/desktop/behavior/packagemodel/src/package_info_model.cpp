@@ -212,8 +212,9 @@ void PackageInfoModel::addSupportedLanguage(const RobotLanguage &language) {
     m_data->edit().addSupportedLanguage(codeOf(added));
     m_data->supportedLanguages.append(added);
     const QPointer<PackageInfoModel> living(this);
+    const std::uint64_t wholeChanges = m_data->wholeChanges;
     Q_EMIT languageAdded(added);
-    if (living)
+    if (living && m_data->wholeChanges == wholeChanges)
         addDescriptionLanguage(added);
 }
 
@@ -222,13 +223,14 @@ void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
         return;
     const RobotLanguage removed = copyOf(language);
     const QPointer<PackageInfoModel> living(this);
+    const std::uint64_t wholeChanges = m_data->wholeChanges;
     m_data->edit().removeSupportedLanguage(codeOf(removed));
     for (const auto &dialog : guarded(dialogs())) {
         if (dialog)
             dialog->removeTopic(removed);
     }
-    if (!living || !hasLanguageSupport(removed))
-        return; // a receiver has removed it, which was announced
+    if (!living || m_data->wholeChanges != wholeChanges || !hasLanguageSupport(removed))
+        return; // a receiver has loaded something else, or removed it, which was announced
     m_data->edit().removeSupportedLanguage(codeOf(removed)); // a receiver may have toggled it
     m_data->supportedLanguages.remove(removed);
     Q_EMIT languageRemoved(removed);

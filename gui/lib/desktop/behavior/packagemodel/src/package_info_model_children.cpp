@@ -62,7 +62,6 @@ bool release(const QPointer<Child> &child, const QPointer<PackageInfoModel> &new
     PackageInfoModel *package = list->package();
     list->startLeaving(*child);
     list->takeAt(list->indexOf(child));
-    list->stopTracking(child);
     Q_EMIT(package->*ChildKind<Child>::removed)(child.data());
     if (child)
         ChildList<Child>::endLeaving(*child);
