@@ -30,7 +30,7 @@ public:
     /// Reports what is wrong with the field or its value. Always false.
     bool refuse(const QString &message) const;
 
-    // What a key or the value stands for; nothing, once it is told why, where it stands for none.
+    // The meaning of a key or a value; on failure, reports the reason and returns nothing.
 
     std::optional<Zel::RobotLanguage> language(const QString &key) const;
     /// A version, which an empty value clears.
