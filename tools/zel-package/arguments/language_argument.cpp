@@ -32,7 +32,7 @@ QStringList nearCodes(const QString &text) {
             named += language.isoCode();
     }
     if (named.isEmpty())
-        named += nearestWord(QString(text).replace(u'-', u'_'), codes);
+        named += Zel::nearestWord(QString(text).replace(u'-', u'_'), codes);
     named.removeAll({});
     return named;
 }

@@ -22,7 +22,8 @@ inline QString taken(const QString &value) {
 template<typename Owner>
 class ListRow : public FieldRow<Owner> {
 public:
-    using FieldRow<Owner>::FieldRow;
+    ListRow(const char *name, const char *label, FieldKind kind, const char *selectors)
+        : FieldRow<Owner>(name, label, kind, selectors, true) {}
 
     FieldTarget follow(Owner &owner, const Walk &walk) const override {
         return walk.isLast() ? followList(makeList(owner), walk, 0) : FieldTarget();
@@ -118,9 +119,9 @@ class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
 public:
     using Keys = std::vector<Key> (*)(const BehaviorInfoModel &behavior);
 
-    BehaviorTextsRow(const char *name, const char *label, Keys keys,
+    BehaviorTextsRow(const char *name, const char *label, const char *selectors, Keys keys,
                      const typename BehaviorTexts<Key>::Operations &operations)
-        : ListRow(name, label)
+        : ListRow(name, label, FieldKind::Text, selectors)
         , m_keys(keys)
         , m_operations(operations) {}
 
@@ -140,6 +141,13 @@ public:
         return followList(
             std::make_shared<BehaviorTexts<Key>>(behavior, m_operations, keyOf(key, Key())), walk,
             1);
+    }
+    QJsonValue toJson(BehaviorInfoModel &behavior) const override {
+        QJsonObject lists;
+        for (const Key &key : m_keys(behavior))
+            lists.insert(printedKey(key),
+                         QJsonArray::fromStringList((behavior.*m_operations.list)(key)));
+        return lists;
     }
 
 protected:
@@ -164,6 +172,7 @@ struct EntryKind {
     Child *(PackageInfoModel::*find)(const QString &key) const;
     QString (Child::*key)() const;
     FieldValue (*record)(const Child &child);
+    FieldValue (*empty)(const std::string &key);
     void (*insert)(PackageInfoModel &package, int index, const FieldValue &record);
     bool (PackageInfoModel::*remove)(Child *child);
     bool (PackageInfoModel::*move)(int from, int to);
@@ -183,6 +192,12 @@ public:
     }
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return m_kind.record(*all().at(index)); }
+    std::optional<QStringList> keys() const override {
+        QStringList keys;
+        for (const Child *child : all())
+            keys += (child->*m_kind.key)();
+        return keys;
+    }
 
     int find(const Selectors &selectors) const override {
         const auto occurrence = selectors.size() == 2 ? selectors[1].toIndex() : std::optional(0);
@@ -240,9 +255,10 @@ private:
 template<typename Child>
 class EntriesRow : public ListRow<PackageInfoModel> {
 public:
-    EntriesRow(const char *name, const char *label, const EntryKind<Child> &kind)
-        : ListRow(name, label)
-        , m_kind(kind) {}
+    EntriesRow(const char *name, const char *label, FieldKind kind, const char *selectors,
+               const EntryKind<Child> &operations)
+        : ListRow(name, label, kind, selectors)
+        , m_kind(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
               QVector<Field> &fields) const override {
@@ -260,8 +276,24 @@ public:
         const int index = list.find(walk.selectors());
         if (index < 0)
             return {};
-        return followIn(m_kind.table(), *list.all().at(index), {walk.path, walk.step + 1});
+        return followIn(m_kind.table(), *list.all().at(index), walk.next());
     }
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
+        const Selectors &selectors = walk.selectors();
+        const bool isEntry =
+            selectors.size() == 1 || (selectors.size() == 2 && selectors.back().toIndex());
+        if (!isEntry)
+            return ListRow::form(walk, error);
+        return walk.isLast() ? formAs(false) : formIn(m_kind.table(), walk.next(), error);
+    }
+    bool visitEntries(PackageInfoModel &package,
+                      const std::function<void(const QJsonObject &)> &visit) const override {
+        for (Child *child : (package.*m_kind.all)())
+            visit(objectOf(m_kind.table(), *child));
+        return true;
+    }
+    const char *keyName() const override { return m_kind.table().front()->name(); }
+    FieldValue emptyEntry(const QString &key) const override { return m_kind.empty(toUtf8(key)); }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -335,7 +367,7 @@ class RequirementsRow : public ListRow<PackageInfoModel> {
 public:
     RequirementsRow(const char *name, const char *label,
                     const RequirementOperations<Requirement> &operations)
-        : ListRow(name, label)
+        : ListRow(name, label, kindOf<Requirement>(), "[N]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -353,8 +385,23 @@ public:
         RequirementPlace<Requirement> place{package, list.find(walk.selectors())};
         if (place.index < 0)
             return {};
-        return followIn(m_operations.table(), place, {walk.path, walk.step + 1});
+        return followIn(m_operations.table(), place, walk.next());
     }
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
+        return walk.isLast() || walk.selectors().size() != 1
+                   ? ListRow::form(walk, error)
+                   : formIn(m_operations.table(), walk.next(), error);
+    }
+    bool visitEntries(PackageInfoModel &package,
+                      const std::function<void(const QJsonObject &)> &visit) const override {
+        const int size = static_cast<int>((package.*m_operations.all)().size());
+        for (int i = 0; i < size; ++i) {
+            RequirementPlace<Requirement> place{package, i};
+            visit(objectOf(m_operations.table(), place));
+        }
+        return true;
+    }
+    FieldValue emptyEntry(const QString &) const override { return Requirement(); }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {

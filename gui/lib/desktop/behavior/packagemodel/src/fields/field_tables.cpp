@@ -53,6 +53,12 @@ public:
     int find(const Selectors &selectors) const override {
         return selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
     }
+    std::optional<QStringList> keys() const override {
+        QStringList codes;
+        for (const RobotLanguage &language : all())
+            codes += language.isoCode();
+        return codes;
+    }
     void select(FieldPath &path, int index) const override {
         path.key(toUtf8(std::get<QString>(at(index))));
     }
@@ -97,7 +103,7 @@ private:
 class LanguagesRow : public ListRow<PackageInfoModel> {
 public:
     LanguagesRow(const char *name, const char *label, const LanguageOperations &operations)
-        : ListRow(name, label)
+        : ListRow(name, label, FieldKind::Text, "[CODE]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -105,6 +111,9 @@ public:
         for (const RobotLanguage &language : (package.*m_operations.all)())
             fields.append({pathIn(base).key(toUtf8(language.isoCode())), FieldKind::Text,
                            language.isoCode(), label()});
+    }
+    QJsonValue toJson(PackageInfoModel &package) const override {
+        return QJsonArray::fromStringList(*LanguageItems(package, m_operations).keys());
     }
 
 protected:
@@ -123,7 +132,13 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(index); }
-    int find(const Selectors &selectors) const override { return indexIn(selectors, size()); }
+    /// Permissions differ, so one may also be selected by its name.
+    int find(const Selectors &selectors) const override {
+        const int index = indexIn(selectors, size());
+        return index < 0 && selectors.size() == 1 && !selectors.front().toIndex()
+                   ? int(all().indexOf(fromUtf8(selectors.front().text)))
+                   : index;
+    }
     void select(FieldPath &path, int index) const override { path.index(index); }
     QString refusal(const FieldValue &value, int replaced) const override {
         const auto *permission = std::get_if<QString>(&value);
@@ -158,13 +173,17 @@ private:
 
 class PermissionsRow : public ListRow<BehaviorInfoModel> {
 public:
-    using ListRow::ListRow;
+    PermissionsRow(const char *name, const char *label)
+        : ListRow(name, label, FieldKind::Text, "[N]") {}
 
     void list(BehaviorInfoModel &behavior, const FieldPath &base,
               QVector<Field> &fields) const override {
         const QStringList permissions = behavior.permissionList();
         for (int i = 0; i < permissions.size(); ++i)
             fields.append({pathIn(base).index(i), FieldKind::Text, permissions.at(i), label()});
+    }
+    QJsonValue toJson(BehaviorInfoModel &behavior) const override {
+        return QJsonArray::fromStringList(behavior.permissionList());
     }
 
 protected:
@@ -175,7 +194,8 @@ protected:
 
 class PropertiesRow : public FieldRow<ServiceInfoModel> {
 public:
-    using FieldRow::FieldRow;
+    PropertiesRow(const char *name, const char *label)
+        : FieldRow(name, label, FieldKind::Text, "[NAME]") {}
 
     void list(ServiceInfoModel &service, const FieldPath &base,
               QVector<Field> &fields) const override {
@@ -202,6 +222,13 @@ public:
                 kept.get()->removeServiceProperty(property);
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
+    }
+    QJsonValue toJson(ServiceInfoModel &service) const override {
+        QJsonObject values;
+        const auto properties = service.properties();
+        for (auto it = properties.begin(); it != properties.end(); ++it)
+            values.insert(it.key(), it.value());
+        return values;
     }
 };
 
@@ -336,6 +363,7 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
                             QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"));
         add<BehaviorTextsRow<QString>>(
             table, "conditions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
+            "[PURPOSE][N]",
             [](const B &behavior) {
                 const QStringList purposes = behavior.purposes();
                 return std::vector<QString>(purposes.begin(), purposes.end());
@@ -348,18 +376,20 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
         add<Texts>(table, "descriptions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Description"),
                    &B::descriptions, &B::setDescription, &B::removeDescription);
         add<Lists>(
-            table, "tags", QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"),
+            table, "tags", QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"), "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
             BehaviorTexts<RobotLanguage>::Operations{&B::tags, &B::addTag, &B::insertTag,
                                                      &B::updateTag, &B::removeTag});
         add<Lists>(
             table, "triggerSentences", QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
+            "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToTriggerSentences()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::triggerSentences, &B::addTriggerSentence, &B::insertTriggerSentence,
                 &B::updateTriggerSentence, &B::removeTriggerSentence});
         add<Lists>(
             table, "loadingResponses", QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
+            "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToLoadingResponses()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::loadingResponses, &B::addLoadingResponse, &B::insertLoadingResponse,
@@ -416,6 +446,11 @@ const EntryKind<BehaviorInfoModel> behaviorEntries{
     &P::behavior,
     &BehaviorInfoModel::path,
     &recordOf<BehaviorInfoModel>,
+    [](const std::string &key) {
+        Tano::BehaviorInfo record;
+        record.setPath(key);
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertBehavior(index, std::get<Tano::BehaviorInfo>(record));
     },
@@ -429,6 +464,11 @@ const EntryKind<DialogInfoModel> dialogEntries{
     &P::dialog,
     &DialogInfoModel::topicName,
     &recordOf<DialogInfoModel>,
+    [](const std::string &key) {
+        Tano::DialogInfo record;
+        record.setTopicName(key);
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertDialog(index, std::get<Tano::DialogInfo>(record));
     },
@@ -442,6 +482,11 @@ const EntryKind<ServiceInfoModel> serviceEntries{
     &P::service,
     &ServiceInfoModel::name,
     &recordOf<ServiceInfoModel>,
+    [](const std::string &key) {
+        Tano::PackageService record;
+        record.name = key;
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertService(index, std::get<Tano::PackageService>(record));
     },
@@ -496,11 +541,13 @@ const FieldTable<PackageInfoModel> &packageFields() {
             operationsOf<BrioRequirement>());
         add<EntriesRow<BehaviorInfoModel>>(table, "behaviors",
                                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
-                                           behaviorEntries);
-        add<EntriesRow<DialogInfoModel>>(
-            table, "dialogs", QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"), dialogEntries);
-        add<EntriesRow<ServiceInfoModel>>(
-            table, "services", QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"), serviceEntries);
+                                           FieldKind::Behavior, "[PATH]", behaviorEntries);
+        add<EntriesRow<DialogInfoModel>>(table, "dialogs",
+                                         QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
+                                         FieldKind::Dialog, "[NAME]", dialogEntries);
+        add<EntriesRow<ServiceInfoModel>>(table, "services",
+                                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
+                                          FieldKind::Service, "[NAME]", serviceEntries);
         return table;
     }();
     return rows;

@@ -46,10 +46,6 @@ FieldPath itemPath(const FieldTarget &target, int index) {
     return path;
 }
 
-QString noField() {
-    return sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no such field."));
-}
-
 QString notForThis() {
     return sentence(
         QT_TRANSLATE_NOOP("Zel::PackageModel", "The field does not allow this change."));
@@ -113,7 +109,7 @@ Applied remove(const Edit &edit, const FieldTarget &target) {
         return {{{Edit::Action::Set, edit.path, old}}, {}};
     }
     if (target.cell && target.cell->remove)
-        return refused(edit, noField());
+        return refused(edit, sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none.")));
     if (target.item < 0)
         return refused(edit, notForThis());
     Edits inverse{
@@ -139,7 +135,7 @@ Applied move(const Edit &edit, const FieldTarget &target) {
 Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     const FieldTarget target = targetOf(package, edit.path);
     if (!target.cell && !target.list)
-        return refused(edit, noField());
+        return refused(edit, reasonOf(package, edit.path));
     switch (edit.action) {
     case Edit::Action::Set:
         return set(edit, target);
