@@ -11,6 +11,8 @@ namespace ZelPackage {
 namespace {
 
 using Cell = TextTable::Cell;
+using Zel::PackageModel::Count;
+using Zel::PackageModel::LanguageCoverage;
 
 constexpr int shortestBar = 4;
 constexpr int longestBar = 20;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "console/console.h"
-#include "coverage.h"
+
+#include <packagemodel/package_coverage.h>
 
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace ZelPackage {
 
 /// The coverage of languages as a table, a line for each, as wide as the terminal allows, and notes
 /// on the languages that do not run.
-QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Console &console,
-                      int indent);
+QString coverageTable(const std::vector<Zel::PackageModel::LanguageCoverage> &coverages,
+                      const Console &console, int indent);
 
 } // namespace ZelPackage

@@ -5,6 +5,7 @@
 #include "coverage_table.h"
 #include "shown_text.h"
 
+#include <packagemodel/package_coverage.h>
 #include <packagemodel/package_info_model.h>
 
 #include <algorithm>
@@ -43,6 +44,17 @@ QString entriesSection(const QString &title, const std::vector<Entry> &entries,
                  u'\n' % entry.fields.toText(console, innerIndent, labelWidth);
     }
     return heading(title, console) % texts.join(u'\n');
+}
+
+// Those of the languages in whose script variant (PackageModel::k_sa) the package has something.
+Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package) {
+    Zel::RobotLanguages languages;
+    const std::set<std::string> codes = package.packageInfo().languageCodes();
+    for (const RobotLanguage &language : Zel::PackageModel::languages(&package)) {
+        if (codes.count(Zel::toUtf8(language.isoCode() % Zel::PackageModel::k_sa.text())) > 0)
+            languages.push_back(language);
+    }
+    return languages;
 }
 
 QString codesOf(const Zel::RobotLanguages &languages) {
@@ -121,7 +133,7 @@ QString textsIn(const RobotLanguage &language, const Zel::PackageInfoModel &pack
 
 QString textsInAll(const Zel::PackageInfoModel &package, const Console &console) {
     FieldList fields;
-    for (const RobotLanguage &language : languagesOf(package)) {
+    for (const RobotLanguage &language : Zel::PackageModel::languages(&package)) {
         const QString name = package.name(language);
         const QString description = package.description(language);
         const bool isListed =
@@ -183,12 +195,14 @@ QString requirementsSection(const Zel::PackageInfoModel &package, const Console 
            fields.toText(console, indent);
 }
 
-QString coverageSection(const Zel::RobotLanguages &languages, const Zel::PackageInfoModel &package,
-                        const Console &console) {
-    if (languages.empty())
+QString coverageSection(const std::optional<RobotLanguage> &language,
+                        const Zel::PackageInfoModel &package, const Console &console) {
+    const auto coverages = language ? std::vector{Zel::PackageModel::coverage(&package, *language)}
+                                    : Zel::PackageModel::coverages(&package);
+    if (coverages.empty())
         return {};
     return heading(QCoreApplication::translate("zel-package", "Translations"), console) %
-           coverageTable(coveragesIn(languages, package), console, indent);
+           coverageTable(coverages, console, indent);
 }
 
 // A list that exists in another language only is missing, where one is expected; nothing stands in
@@ -310,9 +324,8 @@ RobotLanguage usualLanguageOf(const Zel::RobotLanguages &languages) {
 
 QString textOf(const Zel::PackageInfoModel &package, const std::optional<RobotLanguage> &language,
                const Console &console) {
-    const Zel::RobotLanguages languages =
-        language ? Zel::RobotLanguages{*language} : languagesOf(package);
-    const RobotLanguage shown = language ? *language : usualLanguageOf(languages);
+    const RobotLanguage shown =
+        language ? *language : usualLanguageOf(Zel::PackageModel::languages(&package));
     const QString title = printable(shownName(package, shown).text);
     const QString textsTitle =
         language ? QCoreApplication::translate("zel-package", "Texts in %1").arg(language->uiName())
@@ -321,7 +334,7 @@ QString textOf(const Zel::PackageInfoModel &package, const std::optional<RobotLa
         language ? textsIn(*language, package, console) : textsInAll(package, console);
     return console.styled(title, Style::Heading) % u'\n' % identitySection(package, console) %
            (texts.isEmpty() ? QString() : heading(textsTitle, console) % texts) %
-           coverageSection(languages, package, console) % requirementsSection(package, console) %
+           coverageSection(language, package, console) % requirementsSection(package, console) %
            behaviorsSection(package, shown, console) % dialogsSection(package, language, console) %
            servicesSection(package, console);
 }

@@ -1,6 +1,8 @@
-#include "coverage.h"
+#include <packagemodel/package_coverage.h>
 
 #include <packagemodel/package_info_model.h>
+
+#include <zel/language.h>
 
 #include <QHash>
 #include <QSet>
@@ -9,10 +11,8 @@
 #include <array>
 #include <utility>
 
-namespace ZelPackage {
+namespace Zel::PackageModel {
 namespace {
-
-using Zel::RobotLanguage;
 
 bool isFilled(const QString &text) {
     return !text.isEmpty();
@@ -26,7 +26,7 @@ bool isFilled(const QStringList &texts) {
 // Counts the texts of entries, a language in each row.
 class Tally {
 public:
-    Tally(const Zel::RobotLanguages &languages, const Zel::PackageInfoModel &package) {
+    Tally(const PackageInfoModel &package, const RobotLanguages &languages) {
         for (const RobotLanguage &language : languages) {
             LanguageCoverage row;
             row.language = language;
@@ -78,6 +78,25 @@ private:
     LanguageCoverage m_expected;
 };
 
+std::vector<LanguageCoverage> coveragesIn(const PackageInfoModel &package,
+                                          const RobotLanguages &languages) {
+    Tally tally(package, languages);
+    const auto behaviors = package.behaviors();
+    for (const BehaviorInfoModel *behavior : behaviors) {
+        tally.add(&LanguageCoverage::names, behavior->names());
+        tally.addIfUsed(&LanguageCoverage::descriptions, behavior->descriptions());
+        tally.addIfUsed(&LanguageCoverage::tags, behavior->languagesToTags());
+        tally.addIfUsed(&LanguageCoverage::triggerSentences,
+                        behavior->languagesToTriggerSentences());
+        tally.addIfUsed(&LanguageCoverage::loadingResponses,
+                        behavior->languagesToLoadingResponses());
+    }
+    const auto dialogs = package.dialogs();
+    for (const DialogInfoModel *dialog : dialogs)
+        tally.addIfUsed(&LanguageCoverage::topics, dialog->topics());
+    return tally.rows();
+}
+
 } // namespace
 
 Count LanguageCoverage::total() const {
@@ -99,30 +118,13 @@ Count LanguageCoverage::total() const {
 
 int LanguageCoverage::percent() const {
     const Count sum = total();
-    return sum.expected == 0 ? 0 : sum.present * 100 / sum.expected;
+    return sum.expected == 0 ? 0 : static_cast<int>(qint64(sum.present) * 100 / sum.expected);
 }
 
-std::vector<LanguageCoverage> coveragesIn(const Zel::RobotLanguages &languages,
-                                          const Zel::PackageInfoModel &package) {
-    Tally tally(languages, package);
-    const auto behaviors = package.behaviors();
-    for (const Zel::BehaviorInfoModel *behavior : behaviors) {
-        tally.add(&LanguageCoverage::names, behavior->names());
-        tally.addIfUsed(&LanguageCoverage::descriptions, behavior->descriptions());
-        tally.addIfUsed(&LanguageCoverage::tags, behavior->languagesToTags());
-        tally.addIfUsed(&LanguageCoverage::triggerSentences,
-                        behavior->languagesToTriggerSentences());
-        tally.addIfUsed(&LanguageCoverage::loadingResponses,
-                        behavior->languagesToLoadingResponses());
-    }
-    const auto dialogs = package.dialogs();
-    for (const Zel::DialogInfoModel *dialog : dialogs)
-        tally.addIfUsed(&LanguageCoverage::topics, dialog->topics());
-    return tally.rows();
-}
-
-Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package) {
-    Zel::RobotLanguages languages;
+RobotLanguages languages(const PackageInfoModel *package) {
+    RobotLanguages languages;
+    if (!package)
+        return languages;
     QSet<QString> codes;
     const auto add = [&](const RobotLanguage &language) {
         if (codes.contains(language.isoCode()))
@@ -130,26 +132,24 @@ Zel::RobotLanguages languagesOf(const Zel::PackageInfoModel &package) {
         codes.insert(language.isoCode());
         languages.push_back(language);
     };
-    for (const RobotLanguage &language : package.supportedLanguages())
+    for (const RobotLanguage &language : package->supportedLanguages())
         add(language);
-    for (const RobotLanguage &language : package.descriptionLanguages())
+    for (const RobotLanguage &language : package->descriptionLanguages())
         add(language);
-    for (const std::string &bytes : package.packageInfo().languageCodes()) {
-        const QString code = Zel::fromUtf8(bytes);
-        if (!code.endsWith(Zel::PackageModel::k_sa.text()))
-            add(Zel::robotLanguage(code));
+    for (const std::string &bytes : package->packageInfo().languageCodes()) {
+        const QString code = fromUtf8(bytes);
+        if (!code.endsWith(k_sa.text()))
+            add(Language::languageInUse(code));
     }
     return languages;
 }
 
-Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package) {
-    Zel::RobotLanguages languages;
-    const std::set<std::string> codes = package.packageInfo().languageCodes();
-    for (const RobotLanguage &language : languagesOf(package)) {
-        if (codes.count(Zel::toUtf8(language.isoCode() % Zel::PackageModel::k_sa.text())) > 0)
-            languages.push_back(language);
-    }
-    return languages;
+LanguageCoverage coverage(const PackageInfoModel *package, const RobotLanguage &language) {
+    return package ? coveragesIn(*package, {language}).front() : LanguageCoverage();
 }
 
-} // namespace ZelPackage
+std::vector<LanguageCoverage> coverages(const PackageInfoModel *package) {
+    return package ? coveragesIn(*package, languages(package)) : std::vector<LanguageCoverage>();
+}
+
+} // namespace Zel::PackageModel
