@@ -295,7 +295,7 @@ void TestPackageEdits::failedCommands() {
         m_package.get(), {{Edit::Action::Remove, path("behaviors[none]")}}, text("Remove"));
     stack.push(command);
     QCOMPARE(command->error(),
-             text("behaviors[none]: There is no 'none'; there is greet, greet, odd]\\path."));
+             text("behaviors[none]: There is no 'none'; available: greet, greet, odd]\\path."));
     stack.undo();
     QCOMPARE(bytes(), before);
     m_package.reset();

@@ -548,10 +548,6 @@
         <translation>Il n&apos;y a pas de &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>; there is %1.</source>
-        <translation> ; il y a %1.</translation>
-    </message>
-    <message>
         <source>There is no item &apos;%1&apos;: the list is empty.</source>
         <translation>Il n&apos;y a pas d&apos;élément &apos;%1&apos; : la liste est vide.</translation>
     </message>
@@ -590,6 +586,10 @@
     <message>
         <source>&apos;%1&apos; is no entry with its fields.</source>
         <translation>&apos;%1&apos; n&apos;est pas une entrée avec ses champs.</translation>
+    </message>
+    <message>
+        <source>; available: %1.</source>
+        <translation> ; disponibles : %1.</translation>
     </message>
 </context>
 <context>

@@ -548,10 +548,6 @@
         <translation>&apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>; there is %1.</source>
-        <translation>。あるのは %1 です。</translation>
-    </message>
-    <message>
         <source>There is no item &apos;%1&apos;: the list is empty.</source>
         <translation>項目 &apos;%1&apos; はありません。リストは空です。</translation>
     </message>
@@ -590,6 +586,10 @@
     <message>
         <source>&apos;%1&apos; is no entry with its fields.</source>
         <translation>&apos;%1&apos; はフィールドを持つ項目ではありません。</translation>
+    </message>
+    <message>
+        <source>; available: %1.</source>
+        <translation>。使えるのは %1 です。</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,7 @@ struct FieldForm {
     bool isList;       ///< the path leads to a list rather than to one value or entry
     QString selectors; ///< how one of several is selected, as in "[CODE][N]"
     QString label;     ///< as in Field
+    bool isKey;        ///< the field names its entry among the others of a list
 };
 
 /// The form of a path; `[+]` counts as a selector. Nothing for a path that no package has: then

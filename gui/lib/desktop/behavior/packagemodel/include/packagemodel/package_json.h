@@ -3,6 +3,7 @@
 #include <packagemodel/package_edits.h>
 
 #include <QByteArray>
+#include <QJsonValue>
 
 #include <functional>
 
@@ -23,6 +24,16 @@ constexpr int jsonFormat = 1;
 PACKAGEMODEL_EXPORT void writeJson(const PackageInfoModel *package,
                                    const std::function<void(const QByteArray &piece)> &write);
 
+/// A value as JSON: a text, a flag, or an entry as an object of its fields. An entry with comments
+/// or content that no field describes is `{"manifest": "<package>..."}`, a manifest with this entry
+/// alone.
+PACKAGEMODEL_EXPORT QJsonValue toJson(const FieldValue &value);
+
+/// The value of a kind that toJson() wrote. An entry may lack any fields except the one that names
+/// it. Nothing for JSON of another form: then `error`, if given, says why in one sentence.
+PACKAGEMODEL_EXPORT std::optional<FieldValue> valueFromJson(FieldKind kind, const QJsonValue &json,
+                                                            QString *error = nullptr);
+
 /// Edits as JSON:
 ///
 /// ```
@@ -33,9 +44,7 @@ PACKAGEMODEL_EXPORT void writeJson(const PackageInfoModel *package,
 ///     {"action": "remove", "path": "dialogs[talk]"}]}
 /// ```
 ///
-/// An entry is an object of its fields or, if it has comments or content that no field describes,
-/// `{"manifest": "<package>..."}`, a manifest with this entry alone. Reading the result gives the
-/// same edits.
+/// Reading the result gives the same edits.
 PACKAGEMODEL_EXPORT QByteArray toJson(const Edits &edits);
 
 /// Edits that were read, or why there are none.

@@ -1,7 +1,5 @@
 #include <packagemodel/package_json.h>
 
-#include "entry_json.h"
-
 #include <packagemodel/text_conversion.h>
 
 #include <QCoreApplication>
@@ -48,7 +46,7 @@ QJsonObject toObject(const Edit &edit) {
     QJsonObject object{{actionMember, QLatin1String(rowOf(edit).name)},
                        {pathMember, fromUtf8(edit.path.toString())}};
     if (rowOf(edit).hasValue && edit.value)
-        object.insert(valueMember, jsonOf(*edit.value));
+        object.insert(valueMember, toJson(*edit.value));
     if (rowOf(edit).hasIndex)
         object.insert(indexMember, edit.index);
     return object;
@@ -108,7 +106,7 @@ void readValue(Edit &edit, const FieldForm &form, Members &members) {
     QString reason;
     const QJsonValue json = members.take(valueMember, QJsonValue::Undefined);
     if (members.error.isEmpty())
-        edit.value = valueOfJson(form.kind, json, reason);
+        edit.value = valueFromJson(form.kind, json, &reason);
     if (!reason.isEmpty())
         members.fail(valueMember, reason);
 }

@@ -1,4 +1,4 @@
-#include "entry_json.h"
+#include <packagemodel/package_json.h>
 
 #include "field_tables.h"
 
@@ -84,7 +84,7 @@ private:
     void add(Edit edit, const QJsonValue &json) {
         QString reason;
         if (const auto form = formOf(edit.path, &reason))
-            edit.value = valueOfJson(form->kind, json, reason);
+            edit.value = valueFromJson(form->kind, json, &reason);
         if (!edit.value && error.isEmpty())
             error = fromUtf8(edit.path.toString()) % QStringLiteral(": ") % reason;
         edits.append(edit);
@@ -132,9 +132,25 @@ bool isEntry(FieldKind kind) {
     return kind >= FieldKind::RobotRequirement;
 }
 
+std::optional<FieldValue> readValue(FieldKind kind, const QJsonValue &json, QString &error) {
+    if (isEntry(kind) && json.isObject()) {
+        const QJsonObject object = json.toObject();
+        const QJsonValue manifest = object.value(manifestMember);
+        return manifest.isString() && object.size() == 1
+                   ? EntryPackage(kind).readManifest(manifest.toString(), error)
+                   : EntryPackage(kind).read(object, error);
+    }
+    if (kind == FieldKind::Flag && json.isBool())
+        return json.toBool();
+    if (json.isString() && (kind == FieldKind::Text || kind == FieldKind::Version))
+        return parsedValue(kind, json.toString(), &error);
+    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+    return {};
+}
+
 } // namespace
 
-QJsonValue jsonOf(const FieldValue &value) {
+QJsonValue toJson(const FieldValue &value) {
     const auto kind = static_cast<FieldKind>(value.index());
     if (const auto *flag = std::get_if<bool>(&value))
         return *flag;
@@ -149,20 +165,12 @@ QJsonValue jsonOf(const FieldValue &value) {
     return manifest.empty() ? fields : QJsonObject{{manifestMember, fromUtf8(manifest)}};
 }
 
-std::optional<FieldValue> valueOfJson(FieldKind kind, const QJsonValue &json, QString &error) {
-    if (isEntry(kind) && json.isObject()) {
-        const QJsonObject object = json.toObject();
-        const QJsonValue manifest = object.value(manifestMember);
-        return manifest.isString() && object.size() == 1
-                   ? EntryPackage(kind).readManifest(manifest.toString(), error)
-                   : EntryPackage(kind).read(object, error);
-    }
-    if (kind == FieldKind::Flag && json.isBool())
-        return json.toBool();
-    if (json.isString() && (kind == FieldKind::Text || kind == FieldKind::Version))
-        return parsedValue(kind, json.toString(), &error);
-    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
-    return {};
+std::optional<FieldValue> valueFromJson(FieldKind kind, const QJsonValue &json, QString *error) {
+    QString reason;
+    auto value = readValue(kind, json, reason);
+    if (error)
+        *error = reason;
+    return value;
 }
 
 } // namespace Zel::PackageModel

@@ -25,7 +25,7 @@ QString noItem(const FieldList &list, const QString &selector) {
         return QCoreApplication::translate("Zel::PackageModel", "There is no '%1'%2")
             .arg(selector,
                  alternatives(selector, *keys,
-                              QCoreApplication::translate("Zel::PackageModel", "; there is %1.")));
+                              QCoreApplication::translate("Zel::PackageModel", "; available: %1.")));
     if (list.size() == 0)
         return QCoreApplication::translate("Zel::PackageModel",
                                            "There is no item '%1': the list is empty.")

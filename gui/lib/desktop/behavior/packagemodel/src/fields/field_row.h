@@ -126,7 +126,7 @@ public:
 protected:
     FieldPath pathIn(const FieldPath &base) const { return FieldPath(base).field(m_name); }
     FieldForm formAs(bool isList) const {
-        return {m_kind, isList, QLatin1String(m_selectors), label()};
+        return {m_kind, isList, QLatin1String(m_selectors), label(), false};
     }
 
 private:
@@ -232,6 +232,12 @@ public:
         , m_all(all)
         , m_record(record) {}
 
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
+        auto form = CellRow<Child, QString>::form(walk, error);
+        if (form)
+            form->isKey = true;
+        return form;
+    }
     FieldTarget follow(Child &owner, const Walk &walk) const override {
         FieldTarget target = CellRow<Child, QString>::follow(owner, walk);
         const auto *package = qobject_cast<PackageInfoModel *>(owner.parent());
