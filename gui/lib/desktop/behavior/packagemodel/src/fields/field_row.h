@@ -92,6 +92,7 @@ public:
 
     const char *name() const { return m_name; }
     FieldKind kind() const { return m_kind; }
+    bool isPlain() const { return *m_selectors == '\0'; }
     QString label() const { return QCoreApplication::translate("Zel::PackageModel", m_label); }
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.

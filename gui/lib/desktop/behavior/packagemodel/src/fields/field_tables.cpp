@@ -1,5 +1,6 @@
 #include "field_tables.h"
 
+#include "../package_texts.h"
 #include "field_lists.h"
 
 namespace Zel::PackageModel {
@@ -495,34 +496,18 @@ const EntryKind<ServiceInfoModel> serviceEntries{
     [](const FieldValue &value) { return std::holds_alternative<Tano::PackageService>(value); },
     &serviceFields};
 
-void addText(FieldTable<P> &table, const char *name, const char *label, QString (P::*get)() const,
-             void (P::*set)(const QString &)) {
-    add<CellRow<P, QString>>(table, name, label, get, set);
-}
-
 } // namespace
 
 const FieldTable<PackageInfoModel> &packageFields() {
     static const auto rows = [] {
         FieldTable<P> table;
-        addText(table, "uid", QT_TRANSLATE_NOOP("Zel::PackageModel", "UID"), &P::uid, &P::setUid);
-        add<CellRow<P, SoftwareVersion>>(table, "version",
-                                         QT_TRANSLATE_NOOP("Zel::PackageModel", "Version"),
-                                         &P::version, &P::setVersion);
-        addText(table, "typeVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Type version"),
-                &P::typeVersion, &P::setTypeVersion);
-        addText(table, "installer", QT_TRANSLATE_NOOP("Zel::PackageModel", "Installer"),
-                &P::installer, &P::setInstaller);
-        addText(table, "author", QT_TRANSLATE_NOOP("Zel::PackageModel", "Author"), &P::author,
-                &P::setAuthor);
-        addText(table, "organization", QT_TRANSLATE_NOOP("Zel::PackageModel", "Organization"),
-                &P::organization, &P::setOrganization);
-        addText(table, "date", QT_TRANSLATE_NOOP("Zel::PackageModel", "Date"), &P::date,
-                &P::setDate);
-        addText(table, "channel", QT_TRANSLATE_NOOP("Zel::PackageModel", "Channel"), &P::channel,
-                &P::setChannel);
-        addText(table, "path", QT_TRANSLATE_NOOP("Zel::PackageModel", "Path"), &P::path,
-                &P::setPath);
+        for (const PackageText *row : packageTexts) {
+            add<CellRow<P, QString>>(table, row->field, row->label, row->text, row->setText);
+            if (row == &uidText)
+                add<CellRow<P, SoftwareVersion>>(table, "version",
+                                                 QT_TRANSLATE_NOOP("Zel::PackageModel", "Version"),
+                                                 &P::version, &P::setVersion);
+        }
         add<LanguagesRow>(table, "supportedLanguages",
                           QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"), supported);
         add<LanguagesRow>(table, "descriptionLanguages",
