@@ -51,8 +51,11 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(std::size_t(index)).isoCode(); }
+    /// A code is no number, so a language may also be selected by its index.
     int find(const Selectors &selectors) const override {
-        return selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
+        const int index = indexIn(selectors, size());
+        return index < 0 && selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text))
+                                                  : index;
     }
     std::optional<QStringList> keys() const override {
         QStringList codes;
