@@ -214,7 +214,9 @@ public:
         const auto children = all();
         const QString key = (children.at(index)->*m_kind.key)();
         int occurrence = 0;
-        for (int i = next(children, 0, key); i >= 0 && i < index; i = next(children, i + 1, key))
+        const bool isFirst = (m_package->*m_kind.find)(key) == children.at(index);
+        for (int i = isFirst ? index : next(children, 0, key); i >= 0 && i < index;
+             i = next(children, i + 1, key))
             ++occurrence;
         path.entry(toUtf8(key), occurrence);
     }
