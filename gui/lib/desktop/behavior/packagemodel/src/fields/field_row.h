@@ -1,6 +1,7 @@
 #pragma once
 
 #include "field_target.h"
+#include "list_difference.h"
 
 #include <packagemodel/package_info_model.h>
 
@@ -123,6 +124,11 @@ public:
     /// The field that names such an entry in its list, null if it has an index instead.
     virtual const char *keyName() const { return nullptr; }
     virtual FieldValue emptyEntry(const QString &key) const { return key; }
+    /// Appends the edits that turn the field of `from` into that of `to`; `base` is the path of the
+    /// owner when they are applied.
+    virtual void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const = 0;
+    /// Whether edits of the field change fields of later rows too.
+    virtual bool changesOthers() const { return false; }
 
 protected:
     FieldPath pathIn(const FieldPath &base) const { return FieldPath(base).field(m_name); }
@@ -153,6 +159,13 @@ const FieldRow<Owner> *rowOf(const FieldTable<Owner> &table, const Walk &walk) {
     const auto row = std::find_if(table.begin(), table.end(),
                                   [&](const auto &each) { return each->name() == walk.field(); });
     return row == table.end() ? nullptr : row->get();
+}
+
+template<typename Owner>
+void compareAll(const FieldTable<Owner> &table, Owner &from, Owner &to, const FieldPath &base,
+                Edits &edits) {
+    for (const auto &row : table)
+        row->compare(from, to, base, edits);
 }
 
 template<typename Owner>
@@ -210,6 +223,11 @@ public:
         else
             return m_get(owner);
     }
+    void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const override {
+        const Value wanted = m_get(to);
+        if (!(m_get(from) == wanted))
+            edits.append({Edit::Action::Set, this->pathIn(base), FieldValue(wanted)});
+    }
 
 private:
     Get m_get;
@@ -263,6 +281,9 @@ public:
         };
         return target;
     }
+    void compare(Child &, Child &, const FieldPath &, Edits &) const override {
+        // The list of entries renames them.
+    }
 
 private:
     Get m_get;
@@ -300,9 +321,13 @@ public:
                 current = text;
         }
         const Kept<Owner> kept(owner);
-        const auto set = [this, kept, language](const FieldValue &value) {
+        const auto set = [this, kept, language, isAbsent = !current](const FieldValue &value) {
+            const auto &text = std::get<QString>(value);
+            // The setters take an absent text for an empty one.
+            if (Owner *living = kept.get(); living && isAbsent && text.isEmpty())
+                m_set(*living, QStringLiteral("~"), language);
             if (Owner *living = kept.get())
-                m_set(*living, std::get<QString>(value), language);
+                m_set(*living, text, language);
         };
         const auto remove = [kept, language, drop = m_remove] {
             if (Owner *living = kept.get())
@@ -315,6 +340,9 @@ public:
         for (const auto &[text, language] : (owner.*m_all)())
             texts.insert(language.isoCode(), text);
         return texts;
+    }
+    void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const override {
+        appendTextEdits(toJson(from).toObject(), toJson(to).toObject(), this->pathIn(base), edits);
     }
 
 private:

@@ -119,6 +119,16 @@ public:
     QJsonValue toJson(PackageInfoModel &package) const override {
         return QJsonArray::fromStringList(*LanguageItems(package, m_operations).keys());
     }
+    void compare(PackageInfoModel &from, PackageInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        const QStringList before = *LanguageItems(from, m_operations).keys();
+        const QStringList after = *LanguageItems(to, m_operations).keys();
+        SequenceMatch match(int(before.size()), int(after.size()));
+        match.pairEqual(before, after);
+        const auto newCode = [&](int index) { return FieldValue(after.at(index)); };
+        appendEdits({pathIn(base), match, before, after, newCode}, edits);
+    }
+    bool changesOthers() const override { return m_operations.isSupported; }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -189,6 +199,10 @@ public:
     QJsonValue toJson(BehaviorInfoModel &behavior) const override {
         return QJsonArray::fromStringList(behavior.permissionList());
     }
+    void compare(BehaviorInfoModel &from, BehaviorInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        appendTextSetEdits(from.permissionList(), to.permissionList(), pathIn(base), edits);
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(BehaviorInfoModel &behavior) const override {
@@ -233,6 +247,10 @@ public:
         for (auto it = properties.begin(); it != properties.end(); ++it)
             values.insert(it.key(), it.value());
         return values;
+    }
+    void compare(ServiceInfoModel &from, ServiceInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        appendTextEdits(toJson(from).toObject(), toJson(to).toObject(), pathIn(base), edits);
     }
 };
 
