@@ -4,6 +4,7 @@
 #include <packagemodel/package_difference.h>
 #include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
 
 #include <QSet>
 #include <QTest>
@@ -287,6 +288,8 @@ void TestPackageEdits::inversesRestoreEverything() {
         const QByteArray after = bytes();
         QVERIFY2(cacheDifference(*m_package).isEmpty(),
                  describe(cacheDifference(*m_package) + " after").c_str());
+        QVERIFY2(editsFromJson(toJson(applied.inverse)).edits == applied.inverse,
+                 describe("JSON of the inverse").c_str());
         const Applied back = apply(m_package.get(), applied.inverse);
         QVERIFY2(back.error.isEmpty(), describe(back.error.toUtf8() + " by the inverse").c_str());
         QVERIFY2(bytes() == before,
@@ -313,6 +316,8 @@ void TestPackageEdits::differences() {
         }
         const QByteArray before = bytes();
         const Edits found = edits(m_package.get(), &target);
+        const ParsedEdits read = editsFromJson(toJson(found));
+        QVERIFY2(read.error.isEmpty() && read.edits == found, qPrintable(read.error));
         const Applied applied = apply(m_package.get(), found);
         QVERIFY2(applied.error.isEmpty(), qPrintable(applied.error + u'\n' + script(found)));
         QCOMPARE(orderedListing(*m_package), orderedListing(target));
