@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     // The whole way: every problem mended from the dock, undone, done again, saved and validated.
     void mendEverything() {
-        const QString fileName = copyOf("faulty");
+        const QString fileName = copyOf(ZEL_TEST_DATA "/editor/faulty");
         QVERIFY(m_window->openFile(fileName));
         const QByteArray before = contentOf(fileName);
         QCOMPARE(problemCount(), 15);
@@ -704,8 +704,8 @@ private:
     }
 
     QString copyOf(const char *sample) {
-        const QDir from(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/") +
-                        QLatin1String(sample));
+        const QDir samples(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages"));
+        const QDir from(samples.filePath(QLatin1String(sample)));
         QDir to(m_directory.filePath(QString::number(++m_copies)));
         to.mkpath(QStringLiteral("."));
         for (const QString &name : from.entryList(QDir::Files))

@@ -453,10 +453,6 @@
         <translation>出力の形式: text、json または sarif。</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error or warning; error when none is given.</source>
-        <translation>終了ステータスを 1 にする最低の重大度: error または warning。指定がない場合は error。</translation>
-    </message>
-    <message>
         <source>Leave out what these rules find; IDs are joined by commas, and the option may be given several times.</source>
         <translation>これらの規則の指摘を除く。ID はコンマで区切り、オプションは複数回指定できます。</translation>
     </message>
@@ -467,10 +463,6 @@
     <message>
         <source>There is no severity &apos;%1&apos;%2</source>
         <translation>重大度 &apos;%1&apos; はありません%2</translation>
-    </message>
-    <message>
-        <source>; it is either error or warning.</source>
-        <translation>。error または warning を指定してください。</translation>
     </message>
     <message>
         <source>; it is text, json or sarif.</source>
@@ -499,10 +491,6 @@
     <message>
         <source>Tell what is wrong with manifests</source>
         <translation>マニフェストの問題を指摘する</translation>
-    </message>
-    <message>
-        <source>FILE... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</source>
-        <translation>ファイル... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
     <message>
         <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
@@ -635,6 +623,22 @@
     <message>
         <source>First make the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
         <translation>最初にこの JSON ファイルの編集を行います。形式は schema/edits.schema.json にあります。&apos;-&apos; は標準入力です。</translation>
+    </message>
+    <message>
+        <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
+        <translation>終了コードを 1 にする最低の重大度: error、warning、note。省略時は error。</translation>
+    </message>
+    <message>
+        <source>; it is error, warning or note.</source>
+        <translation>。error、warning、note のいずれかです。</translation>
+    </message>
+    <message>
+        <source>, notes: %1</source>
+        <translation>、注記: %1</translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
+        <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
 </context>
 </TS>

@@ -686,6 +686,10 @@ Version %1</translation>
         <source>Warning</source>
         <translation>Avertissement</translation>
     </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ProblemsModel</name>

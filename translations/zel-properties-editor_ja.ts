@@ -686,6 +686,10 @@ Version %1</source>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ProblemsModel</name>

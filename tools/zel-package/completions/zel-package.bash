@@ -10,7 +10,7 @@ _zel_package_languages() {
 # The rules that validate can ignore, as the program itself lists them.
 _zel_package_rules() {
     "$1" explain 2>/dev/null | while read -r id severity _; do
-        [[ $severity == @(error|warning) && $id != manifest-malformed ]] && printf '%s\n' "$id"
+        [[ $severity == @(error|warning|note) && $id != manifest-malformed ]] && printf '%s\n' "$id"
     done
 }
 
@@ -28,7 +28,7 @@ _zel_package() {
         *:--language) mapfile -t words < <(_zel_package_languages "${COMP_WORDS[0]}") ;;
         show:--format) words=(text json) ;;
         validate:--format) words=(text json sarif) ;;
-        validate:--fail-on) words=(error warning) ;;
+        validate:--fail-on) words=(error warning note) ;;
         validate:--ignore)
             # The list so far stays in front of each word.
             [[ $current == *,* ]] && prefix=${current%,*},
