@@ -51,6 +51,16 @@ PACKAGEMODEL_EXPORT QVector<Field> fields(const PackageInfoModel *package);
 PACKAGEMODEL_EXPORT std::optional<FieldValue> value(const PackageInfoModel *package,
                                                     const Tano::FieldPath &path);
 
+/// The path of an item of a list by its index: `behaviors[greet][1]` for the second behavior with
+/// the path "greet". The empty path if there is no such item.
+PACKAGEMODEL_EXPORT Tano::FieldPath itemPath(const PackageInfoModel *package,
+                                             const Tano::FieldPath &list, int index);
+
+/// A path in words, in the language of the application: "Trigger sentences of “greet” in Japanese"
+/// for `behaviors[greet].triggerSentences[ja_JP]`, "Robot requirement 1" for
+/// `robotRequirements[0]`. A path that leads to no kind of field is returned as it is.
+PACKAGEMODEL_EXPORT QString label(const Tano::FieldPath &path);
+
 /// A value of a FieldKind as text: a version in its dotted form, a flag as "true" or "false". Empty
 /// for an entry.
 PACKAGEMODEL_EXPORT QString printed(const FieldValue &value);

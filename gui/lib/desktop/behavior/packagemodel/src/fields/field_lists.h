@@ -10,8 +10,11 @@ inline int indexIn(const Selectors &selectors, int size) {
     return index && *index < size ? *index : -1;
 }
 
-inline QString misfit() {
-    return QCoreApplication::translate("Zel::PackageModel", "The value is of another type.");
+/// The label of a list, or of one of its items by its index: "Tags" or "Tag 1".
+template<typename Owner>
+QString labelOf(const FieldRow<Owner> &row, const FieldPath::Selector *index) {
+    const auto number = index ? index->toIndex() : std::nullopt;
+    return number ? row.label() % u' ' % QString::number(*number + 1) : row.listLabel();
 }
 
 inline QString taken(const QString &value) {
@@ -26,6 +29,9 @@ public:
 
     FieldTarget follow(Owner &owner, const Walk &walk) const override {
         return walk.isLast() ? followList(makeList(owner), walk, 0) : FieldTarget();
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        return of(labelOf(*this, walk.selectors().empty() ? nullptr : &walk.selectors().front()));
     }
 
 protected:
@@ -118,9 +124,9 @@ class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
 public:
     using Keys = std::vector<Key> (*)(const BehaviorInfoModel &behavior);
 
-    BehaviorTextsRow(const char *name, const char *label, Keys keys,
+    BehaviorTextsRow(const char *name, const char *label, const char *listLabel, Keys keys,
                      const typename BehaviorTexts<Key>::Operations &operations)
-        : ListRow(name, label)
+        : ListRow(name, label, listLabel)
         , m_keys(keys)
         , m_operations(operations) {}
 
@@ -141,6 +147,11 @@ public:
             std::make_shared<BehaviorTexts<Key>>(behavior, m_operations, keyOf(key, Key())), walk,
             1);
     }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        const Selectors &selectors = walk.selectors();
+        const QString what = of(labelOf(*this, selectors.size() > 1 ? &selectors[1] : nullptr));
+        return selectors.empty() ? what : forKey(what, selectors.front(), Key());
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(BehaviorInfoModel &) const override { return {}; }
@@ -148,6 +159,15 @@ protected:
 private:
     static QString printedKey(const QString &purpose) { return purpose; }
     static QString printedKey(const RobotLanguage &language) { return language.isoCode(); }
+    static QString forKey(const QString &label, const FieldPath::Selector &purpose,
+                          const QString &) {
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 for “%2”"))
+            .arg(label, fromUtf8(purpose.text));
+    }
+    static QString forKey(const QString &label, const FieldPath::Selector &code,
+                          const RobotLanguage &) {
+        return inLanguage(label, code);
+    }
     static QString keyOf(const QString &text, const QString &) { return text; }
     static RobotLanguage keyOf(const QString &text, const RobotLanguage &) {
         return languageOfCode(text);
@@ -240,8 +260,9 @@ private:
 template<typename Child>
 class EntriesRow : public ListRow<PackageInfoModel> {
 public:
-    EntriesRow(const char *name, const char *label, const EntryKind<Child> &kind)
-        : ListRow(name, label)
+    EntriesRow(const char *name, const char *label, const char *listLabel,
+               const EntryKind<Child> &kind)
+        : ListRow(name, label, listLabel)
         , m_kind(kind) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -261,6 +282,19 @@ public:
         if (index < 0)
             return {};
         return followIn(m_kind.table(), *list.all().at(index), {walk.path, walk.step + 1});
+    }
+    QString describe(const Walk &walk, const OfOwner &) const override {
+        const Selectors &selectors = walk.selectors();
+        if (selectors.empty())
+            return listLabel();
+        QString key = fromUtf8(selectors.front().text);
+        if (const auto index = selectors.size() > 1 ? selectors[1].toIndex() : std::nullopt)
+            key += QStringLiteral(" (%1)").arg(*index + 1);
+        if (walk.isLast())
+            return named(label(), key);
+        return describeIn(m_kind.table(), {walk.path, walk.step + 1}, [&](const QString &label) {
+            return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of “%2”")).arg(label, key);
+        });
     }
 
 protected:
@@ -287,6 +321,7 @@ struct RequirementOperations {
     bool (PackageInfoModel::*remove)(int index);
     bool (PackageInfoModel::*move)(int from, int to);
     const FieldTable<RequirementPlace<Requirement>> &(*table)();
+    const char *memberLabel; ///< of a field of a requirement: its label, and the number
 };
 
 template<typename Requirement>
@@ -333,9 +368,9 @@ private:
 template<typename Requirement>
 class RequirementsRow : public ListRow<PackageInfoModel> {
 public:
-    RequirementsRow(const char *name, const char *label,
+    RequirementsRow(const char *name, const char *label, const char *listLabel,
                     const RequirementOperations<Requirement> &operations)
-        : ListRow(name, label)
+        : ListRow(name, label, listLabel)
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -354,6 +389,16 @@ public:
         if (place.index < 0)
             return {};
         return followIn(m_operations.table(), place, {walk.path, walk.step + 1});
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        const auto index =
+            walk.selectors().size() == 1 ? walk.selectors().front().toIndex() : std::nullopt;
+        if (walk.isLast() || !index)
+            return ListRow::describe(walk, of);
+        return describeIn(
+            m_operations.table(), {walk.path, walk.step + 1}, [&](const QString &label) {
+                return inWords(m_operations.memberLabel).arg(label, QString::number(*index + 1));
+            });
     }
 
 protected:

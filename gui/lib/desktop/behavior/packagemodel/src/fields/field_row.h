@@ -61,24 +61,54 @@ struct Walk {
     }
 };
 
+inline QString inWords(const char *source) {
+    return QCoreApplication::translate("Zel::PackageModel", source);
+}
+
+inline QString misfit() {
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+}
+
+/// Adds the owner of a field to its label: "Nature" becomes "Nature of “greet”".
+using OfOwner = std::function<QString(const QString &label)>;
+
+/// "Name" and "fr_FR" become "Name in French (France)".
+inline QString inLanguage(const QString &label, const FieldPath::Selector &code) {
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 in %2"))
+        .arg(label, languageOfCode(fromUtf8(code.text)).uiName());
+}
+
+/// "Behavior" and "greet" become "Behavior “greet”".
+inline QString named(const QString &label, const QString &key) {
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 “%2”")).arg(label, key);
+}
+
 /// One field of an owner: a package, or an entry of it. `Owner` is a model, or refers to a
 /// requirement.
 template<typename Owner>
 class FieldRow {
 public:
-    FieldRow(const char *name, const char *label)
+    /// A list has a label for one of its items, and one for all of them.
+    FieldRow(const char *name, const char *label, const char *listLabel = nullptr)
         : m_name(name)
-        , m_label(label) {}
+        , m_label(label)
+        , m_listLabel(listLabel) {}
     FieldRow(const FieldRow &) = delete;
     FieldRow &operator=(const FieldRow &) = delete;
     virtual ~FieldRow() = default;
 
     const char *name() const { return m_name; }
-    QString label() const { return QCoreApplication::translate("Zel::PackageModel", m_label); }
+    QString label() const { return inWords(m_label); }
+    QString listLabel() const { return m_listLabel ? inWords(m_listLabel) : label(); }
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
     virtual void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const = 0;
     virtual FieldTarget follow(Owner &owner, const Walk &walk) const = 0;
+    /// The field, or one of its items or theirs, in words.
+    virtual QString describe(const Walk &walk, const OfOwner &of) const {
+        Q_UNUSED(walk)
+        return of(label());
+    }
 
 protected:
     FieldPath pathIn(const FieldPath &base) const { return FieldPath(base).field(m_name); }
@@ -86,6 +116,7 @@ protected:
 private:
     const char *m_name;
     const char *m_label;
+    const char *m_listLabel;
 };
 
 template<typename Owner>
@@ -98,12 +129,26 @@ void listAll(const FieldTable<Owner> &table, Owner &owner, const FieldPath &base
         row->list(owner, base, fields);
 }
 
+/// The row of the field that a path comes to; null for none.
 template<typename Owner>
-FieldTarget followIn(const FieldTable<Owner> &table, Owner &owner, const Walk &walk) {
+const FieldRow<Owner> *rowFor(const FieldTable<Owner> &table, const Walk &walk) {
     const std::string &name = walk.path.steps()[walk.step].field;
     const auto row = std::find_if(table.begin(), table.end(),
                                   [&](const auto &each) { return each->name() == name; });
-    return row == table.end() ? FieldTarget() : (*row)->follow(owner, walk);
+    return row == table.end() ? nullptr : row->get();
+}
+
+template<typename Owner>
+FieldTarget followIn(const FieldTable<Owner> &table, Owner &owner, const Walk &walk) {
+    const auto *row = rowFor(table, walk);
+    return row ? row->follow(owner, walk) : FieldTarget();
+}
+
+/// The words for a path; empty if it leads to no kind of field.
+template<typename Owner>
+QString describeIn(const FieldTable<Owner> &table, const Walk &walk, const OfOwner &of) {
+    const auto *row = rowFor(table, walk);
+    return row ? row->describe(walk, of) : QString();
 }
 
 /// A field that holds one value: a text, a flag or a version.
@@ -226,6 +271,10 @@ public:
                 (living->*drop)(language);
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        const QString label = of(this->label());
+        return walk.selectors().empty() ? label : inLanguage(label, walk.selectors().front());
     }
 
 private:

@@ -96,8 +96,9 @@ private:
 
 class LanguagesRow : public ListRow<PackageInfoModel> {
 public:
-    LanguagesRow(const char *name, const char *label, const LanguageOperations &operations)
-        : ListRow(name, label)
+    LanguagesRow(const char *name, const char *label, const char *listLabel,
+                 const LanguageOperations &operations)
+        : ListRow(name, label, listLabel)
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -105,6 +106,11 @@ public:
         for (const RobotLanguage &language : (package.*m_operations.all)())
             fields.append({pathIn(base).key(toUtf8(language.isoCode())), FieldKind::Text,
                            language.isoCode(), label()});
+    }
+    QString describe(const Walk &walk, const OfOwner &) const override {
+        if (walk.selectors().empty())
+            return listLabel();
+        return named(label(), languageOfCode(fromUtf8(walk.selectors().front().text)).uiName());
     }
 
 protected:
@@ -203,6 +209,11 @@ public:
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
     }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        return of(walk.selectors().empty()
+                      ? label()
+                      : named(label(), fromUtf8(walk.selectors().front().text)));
+    }
 };
 
 Edits LanguageItems::lostWith(int index) const {
@@ -282,11 +293,9 @@ const FieldTable<RequirementPlace<RobotRequirement>> &robotFields() {
 const FieldTable<RequirementPlace<BrioRequirement>> &brioFields() {
     static const auto rows = [] {
         FieldTable<RequirementPlace<BrioRequirement>> table;
-        addMember(table, "minVersion",
-                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest Brio version"),
+        addMember(table, "minVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest version"),
                   &BrioRequirement::minVersion);
-        addMember(table, "maxVersion",
-                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Highest Brio version"),
+        addMember(table, "maxVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Highest version"),
                   &BrioRequirement::maxVersion);
         return table;
     }();
@@ -297,8 +306,13 @@ template<>
 const RequirementOperations<RobotRequirement> &operationsOf<RobotRequirement>() {
     using P = PackageInfoModel;
     static const RequirementOperations<RobotRequirement> operations{
-        &P::robotRequirements,      &P::insertRobotRequirement, &P::updateRobotRequirement,
-        &P::removeRobotRequirement, &P::moveRobotRequirement,   &robotFields};
+        &P::robotRequirements,
+        &P::insertRobotRequirement,
+        &P::updateRobotRequirement,
+        &P::removeRobotRequirement,
+        &P::moveRobotRequirement,
+        &robotFields,
+        QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of robot requirement %2")};
     return operations;
 }
 
@@ -306,8 +320,13 @@ template<>
 const RequirementOperations<BrioRequirement> &operationsOf<BrioRequirement>() {
     using P = PackageInfoModel;
     static const RequirementOperations<BrioRequirement> operations{
-        &P::brioRequirements,      &P::insertBrioRequirement, &P::updateBrioRequirement,
-        &P::removeBrioRequirement, &P::moveBrioRequirement,   &brioFields};
+        &P::brioRequirements,
+        &P::insertBrioRequirement,
+        &P::updateBrioRequirement,
+        &P::removeBrioRequirement,
+        &P::moveBrioRequirement,
+        &brioFields,
+        QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of Brio requirement %2")};
     return operations;
 }
 
@@ -330,12 +349,14 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
         add<CellRow<B, QString>>(table, "nature", QT_TRANSLATE_NOOP("Zel::PackageModel", "Nature"),
                                  &B::nature, &B::setNature);
         add<CellRow<B, bool>>(table, "userRequestable",
-                              QT_TRANSLATE_NOOP("Zel::PackageModel", "Users may request it"),
+                              QT_TRANSLATE_NOOP("Zel::PackageModel", "User requests"),
                               &B::isUserRequestable, &B::setUserRequestable);
         add<PermissionsRow>(table, "permissions",
-                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"));
+                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"),
+                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permissions"));
         add<BehaviorTextsRow<QString>>(
             table, "conditions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Conditions"),
             [](const B &behavior) {
                 const QStringList purposes = behavior.purposes();
                 return std::vector<QString>(purposes.begin(), purposes.end());
@@ -349,17 +370,20 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
                    &B::descriptions, &B::setDescription, &B::removeDescription);
         add<Lists>(
             table, "tags", QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Tags"),
             [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
             BehaviorTexts<RobotLanguage>::Operations{&B::tags, &B::addTag, &B::insertTag,
                                                      &B::updateTag, &B::removeTag});
         add<Lists>(
             table, "triggerSentences", QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentences"),
             [](const B &behavior) { return languagesOf(behavior.languagesToTriggerSentences()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::triggerSentences, &B::addTriggerSentence, &B::insertTriggerSentence,
                 &B::updateTriggerSentence, &B::removeTriggerSentence});
         add<Lists>(
             table, "loadingResponses", QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading responses"),
             [](const B &behavior) { return languagesOf(behavior.languagesToLoadingResponses()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::loadingResponses, &B::addLoadingResponse, &B::insertLoadingResponse,
@@ -397,8 +421,7 @@ const FieldTable<ServiceInfoModel> &serviceFields() {
         add<KeyRow<S>>(table, "name", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &S::name,
                        &S::setName, &PackageInfoModel::service, &PackageInfoModel::services,
                        &recordOf<S>);
-        add<CellRow<S, bool>>(table, "autoRun",
-                              QT_TRANSLATE_NOOP("Zel::PackageModel", "Starts with the robot"),
+        add<CellRow<S, bool>>(table, "autoRun", QT_TRANSLATE_NOOP("Zel::PackageModel", "Autostart"),
                               &S::isAutoRun, &S::setAutoRun);
         add<CellRow<S, QString>>(table, "execStart",
                                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Command"), &S::execStart,
@@ -479,9 +502,11 @@ const FieldTable<PackageInfoModel> &packageFields() {
         addText(table, "path", QT_TRANSLATE_NOOP("Zel::PackageModel", "Path"), &P::path,
                 &P::setPath);
         add<LanguagesRow>(table, "supportedLanguages",
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"), supported);
+                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"),
+                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported languages"), supported);
         add<LanguagesRow>(table, "descriptionLanguages",
                           QT_TRANSLATE_NOOP("Zel::PackageModel", "Description language"),
+                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description languages"),
                           described);
         add<TextsRow<P>>(table, "names", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &P::names,
                          &P::setName, &P::removeName);
@@ -490,17 +515,21 @@ const FieldTable<PackageInfoModel> &packageFields() {
                          &P::setDescription, &P::removeDescription);
         add<RequirementsRow<RobotRequirement>>(
             table, "robotRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirement"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirements"),
             operationsOf<RobotRequirement>());
         add<RequirementsRow<BrioRequirement>>(
             table, "brioRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirement"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirements"),
             operationsOf<BrioRequirement>());
-        add<EntriesRow<BehaviorInfoModel>>(table, "behaviors",
-                                           QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
-                                           behaviorEntries);
+        add<EntriesRow<BehaviorInfoModel>>(
+            table, "behaviors", QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Behaviors"), behaviorEntries);
         add<EntriesRow<DialogInfoModel>>(
-            table, "dialogs", QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"), dialogEntries);
+            table, "dialogs", QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialogs"), dialogEntries);
         add<EntriesRow<ServiceInfoModel>>(
-            table, "services", QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"), serviceEntries);
+            table, "services", QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
+            QT_TRANSLATE_NOOP("Zel::PackageModel", "Services"), serviceEntries);
         return table;
     }();
     return rows;

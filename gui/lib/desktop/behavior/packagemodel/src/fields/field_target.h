@@ -65,5 +65,7 @@ struct FieldTarget {
 
 /// What a path of a package leads to.
 FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path);
+/// The path of an item of a list that has it.
+Tano::FieldPath itemPath(const FieldTarget &list, int index);
 
 } // namespace Zel::PackageModel
