@@ -1,11 +1,14 @@
-// Lines FIELD=VALUE, as "zel-package set" takes them: the result is consistent, and survives being
-// saved.
+// Lines FIELD=VALUE, as "zel-package set" takes them, or edits as JSON: the result is consistent, and
+// survives being saved; the edits survive being written as JSON, and their inverses restore the
+// package.
 
 #include "observer_world.h"
 #include "offscreen.h"
 #include "target.h"
 
-#include "set/field_edit.h"
+#include "set/assigned_edit.h"
+
+#include <packagemodel/package_json.h>
 
 #include <QFile>
 
@@ -20,6 +23,15 @@ std::string contentOf(PackageInfoModel &package) {
     return package.packageInfo().saveToManifestContent();
 }
 
+PackageModel::Edits editsOf(const QString &line, const PackageInfoModel &package) {
+    if (line.startsWith(QLatin1Char('{')))
+        return PackageModel::editsFromJson(line.toUtf8()).edits;
+    const auto assignment = ZelPackage::parseAssignment(line);
+    const auto edit =
+        assignment ? ZelPackage::assignedEdit(*assignment, package).edit : std::nullopt;
+    return edit ? PackageModel::Edits{*edit} : PackageModel::Edits();
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
@@ -28,11 +40,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const auto lines = QString::fromUtf8(reinterpret_cast<const char *>(data), int(size))
                            .split(QLatin1Char('\n'))
                            .mid(0, mostAssignments);
-    ZelPackage::Console console;
+    const std::string initial = contentOf(package);
+    PackageModel::Edits undo;
     for (const QString &line : lines) {
-        const auto assignment = ZelPackage::parseAssignment(line);
-        if (assignment)
-            static_cast<void>(assign(*assignment, package, console));
+        const PackageModel::Edits edits = editsOf(line, package);
+        require(PackageModel::editsFromJson(toJson(edits)).edits == edits, "JSON keeps the edits");
+        undo = apply(&package, edits).inverse + undo;
     }
     const std::string content = contentOf(package);
     const QString fault =
@@ -42,5 +55,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     require(content.empty() || (reread.loadFromManifestContent(content) &&
                                 reread.saveToManifestContent() == content),
             "the manifest can be read again");
+    require(apply(&package, undo).error.isEmpty() && contentOf(package) == initial,
+            "the inverses restore the package");
     return 0;
 }

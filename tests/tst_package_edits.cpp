@@ -156,7 +156,7 @@ void TestPackageEdits::refused_data() {
         QTest::addRow("%d %s %s", int(action), at, value)
             << int(action) << text(at) << QString::fromUtf8(value) << text(error);
     };
-    row(A::Set, "none", "x", "none: There is no such field.");
+    row(A::Set, "autor", "x", "autor: There is no field 'autor'; did you mean 'author'?");
     row(A::Set, "version", "1.0", "version: The value is of another type.");
     row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value is of another type.");
     row(A::Set, "behaviors", "x", "behaviors: The field does not allow this change.");
@@ -172,7 +172,7 @@ void TestPackageEdits::refused_data() {
         "behaviors[greet].permissions: 'camera' is there already.");
     row(A::Insert, "author", "x", "author: The field does not allow this change.");
     row(A::Remove, "author", "", "author: The field does not allow this change.");
-    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: There is no such field.");
+    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: There is none.");
     row(A::Move, "dialogs[talk]", "", "dialogs[talk]: The list has no such index.");
     row(A::Move, "names[en_US]", "", "names[en_US]: The field does not allow this change.");
 }
@@ -195,8 +195,9 @@ void TestPackageEdits::allOrNone() {
     const Edits edits{{Edit::Action::Remove, path("supportedLanguages[fr_FR]")},
                       {Edit::Action::Move, path("behaviors[greet]"), {}, 2},
                       {Edit::Action::Set, path("services[clock].properties[zone]"), text("CET")},
-                      {Edit::Action::Set, path("none"), text("x")}};
-    QCOMPARE(apply(m_package.get(), edits).error, text("none: There is no such field."));
+                      {Edit::Action::Set, path("autor"), text("x")}};
+    QCOMPARE(apply(m_package.get(), edits).error,
+             text("autor: There is no field 'autor'; did you mean 'author'?"));
     QCOMPARE(bytes(), before);
 
     const Applied applied = apply(m_package.get(), edits.mid(0, 3));
@@ -312,7 +313,8 @@ void TestPackageEdits::failedCommands() {
     auto *command = new PackageEditCommand(
         m_package.get(), {{Edit::Action::Remove, path("behaviors[none]")}}, text("Remove"));
     stack.push(command);
-    QCOMPARE(command->error(), text("behaviors[none]: There is no such field."));
+    QCOMPARE(command->error(),
+             text("behaviors[none]: There is no 'none'; available: greet, greet, odd]\\path."));
     stack.undo();
     QCOMPARE(bytes(), before);
     m_package.reset();

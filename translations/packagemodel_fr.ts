@@ -472,10 +472,6 @@
         <translation>Le texte contient le caractère U+%1, qu&apos;un manifeste ne peut pas contenir.</translation>
     </message>
     <message>
-        <source>There is no such field.</source>
-        <translation>Ce champ n&apos;existe pas.</translation>
-    </message>
-    <message>
         <source>The field does not allow this change.</source>
         <translation>Le champ ne permet pas cette modification.</translation>
     </message>
@@ -488,20 +484,100 @@
         <translation>Il n&apos;y a pas de paquet à modifier.</translation>
     </message>
     <message>
-        <source>%1 for “%2”</source>
-        <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
+        <source>It is missing.</source>
+        <translation>Il manque.</translation>
+    </message>
+    <message>
+        <source>It must be a whole number, 0 or more.</source>
+        <translation>Ce doit être un nombre entier, 0 ou plus.</translation>
+    </message>
+    <message>
+        <source>There is no such member.</source>
+        <translation>Ce membre n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>It must be &apos;set&apos;, &apos;insert&apos;, &apos;remove&apos; or &apos;move&apos;.</source>
+        <translation>Ce doit être &apos;set&apos;, &apos;insert&apos;, &apos;remove&apos; ou &apos;move&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not the path of a field.</source>
+        <translation>&apos;%1&apos; n&apos;est pas le chemin d&apos;un champ.</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>It is not JSON at %1: %2.</source>
+        <translation>Ce n&apos;est pas du JSON à la %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The format %1 is not known.</source>
+        <translation>Le format %1 est inconnu.</translation>
+    </message>
+    <message>
+        <source>Its &apos;%1&apos; is missing.</source>
+        <translation>Son champ &apos;%1&apos; manque.</translation>
+    </message>
+    <message>
+        <source>The manifest must have one entry of &apos;%1&apos;.</source>
+        <translation>Le manifeste doit avoir une seule entrée de &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>; did you mean &apos;%1&apos;?</source>
+        <translation> ; vouliez-vous dire &apos;%1&apos; ?</translation>
+    </message>
+    <message>
+        <source>There is no &apos;%1&apos;%2</source>
+        <translation>Il n&apos;y a pas de &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>There is no item &apos;%1&apos;: the list is empty.</source>
+        <translation>Il n&apos;y a pas d&apos;élément &apos;%1&apos; : la liste est vide.</translation>
+    </message>
+    <message>
+        <source>There is no item &apos;%1&apos;; there are 0 to %2.</source>
+        <translation>Il n&apos;y a pas d&apos;élément &apos;%1&apos; ; il y a 0 à %2.</translation>
+    </message>
+    <message>
+        <source>There is no field &apos;%1&apos;%2</source>
+        <translation>Il n&apos;y a pas de champ &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>; the fields are %1.</source>
+        <translation> ; les champs sont %1.</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>Il n&apos;y en a pas.</translation>
+    </message>
+    <message>
+        <source>It is written &apos;%1%2&apos;.</source>
+        <translation>Il s&apos;écrit &apos;%1%2&apos;.</translation>
+    </message>
+    <message>
+        <source>The path is empty.</source>
+        <translation>Le chemin est vide.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; n&apos;est ni true ni false.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no entry with its fields.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une entrée avec ses champs.</translation>
+    </message>
+    <message>
+        <source>; available: %1.</source>
+        <translation> ; disponibles : %1.</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
         <translation>%1 de «&#xa0;%2&#xa0;»</translation>
-    </message>
-    <message>
-        <source>%1 in %2</source>
-        <translation>%1 en %2</translation>
-    </message>
-    <message>
-        <source>%1 “%2”</source>
-        <translation>%1 «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Lowest version</source>
@@ -574,6 +650,18 @@
     <message>
         <source>Services</source>
         <translation>Services</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>

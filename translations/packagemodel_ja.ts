@@ -472,10 +472,6 @@
         <translation>テキストに、マニフェストに保存できない文字 U+%1 が含まれています。</translation>
     </message>
     <message>
-        <source>There is no such field.</source>
-        <translation>そのフィールドはありません。</translation>
-    </message>
-    <message>
         <source>The field does not allow this change.</source>
         <translation>このフィールドはその変更に対応していません。</translation>
     </message>
@@ -488,20 +484,100 @@
         <translation>編集するパッケージがありません。</translation>
     </message>
     <message>
-        <source>%1 for “%2”</source>
-        <translation>%1 (目的: %2)</translation>
+        <source>It is missing.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <source>It must be a whole number, 0 or more.</source>
+        <translation>0 以上の整数でなければなりません。</translation>
+    </message>
+    <message>
+        <source>There is no such member.</source>
+        <translation>そのメンバーはありません。</translation>
+    </message>
+    <message>
+        <source>It must be &apos;set&apos;, &apos;insert&apos;, &apos;remove&apos; or &apos;move&apos;.</source>
+        <translation>&apos;set&apos;、&apos;insert&apos;、&apos;remove&apos;、&apos;move&apos; のいずれかでなければなりません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not the path of a field.</source>
+        <translation>&apos;%1&apos; はフィールドのパスではありません。</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>It is not JSON at %1: %2.</source>
+        <translation>%1 で JSON になっていません: %2。</translation>
+    </message>
+    <message>
+        <source>The format %1 is not known.</source>
+        <translation>形式 %1 は不明です。</translation>
+    </message>
+    <message>
+        <source>Its &apos;%1&apos; is missing.</source>
+        <translation>&apos;%1&apos; がありません。</translation>
+    </message>
+    <message>
+        <source>The manifest must have one entry of &apos;%1&apos;.</source>
+        <translation>マニフェストには &apos;%1&apos; の項目が一つだけ必要です。</translation>
+    </message>
+    <message>
+        <source>; did you mean &apos;%1&apos;?</source>
+        <translation>。&apos;%1&apos; のことですか?</translation>
+    </message>
+    <message>
+        <source>There is no &apos;%1&apos;%2</source>
+        <translation>&apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>There is no item &apos;%1&apos;: the list is empty.</source>
+        <translation>項目 &apos;%1&apos; はありません。リストは空です。</translation>
+    </message>
+    <message>
+        <source>There is no item &apos;%1&apos;; there are 0 to %2.</source>
+        <translation>項目 &apos;%1&apos; はありません。あるのは 0 から %2 です。</translation>
+    </message>
+    <message>
+        <source>There is no field &apos;%1&apos;%2</source>
+        <translation>フィールド &apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>; the fields are %1.</source>
+        <translation>。フィールドは %1 です。</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <source>It is written &apos;%1%2&apos;.</source>
+        <translation>&apos;%1%2&apos; と書きます。</translation>
+    </message>
+    <message>
+        <source>The path is empty.</source>
+        <translation>パスが空です。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither true nor false.</source>
+        <translation>&apos;%1&apos; は true でも false でもありません。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <translation>&apos;%1&apos; はバージョンではありません。2.1 のように数字を点で区切ります。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no entry with its fields.</source>
+        <translation>&apos;%1&apos; はフィールドを持つ項目ではありません。</translation>
+    </message>
+    <message>
+        <source>; available: %1.</source>
+        <translation>。使えるのは %1 です。</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
         <translation>「%2」の%1</translation>
-    </message>
-    <message>
-        <source>%1 in %2</source>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>%1 “%2”</source>
-        <translation>%1「%2」</translation>
     </message>
     <message>
         <source>Lowest version</source>
@@ -574,6 +650,18 @@
     <message>
         <source>Services</source>
         <translation>サービス</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1「%2」</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 (目的: %2)</translation>
     </message>
 </context>
 <context>

@@ -541,72 +541,12 @@
         <translation>Affiche ce qui ne va pas dans chaque manifeste, sous la forme FICHIER:LIGNE: error: texte (champ) [id] ; la ligne est celle du champ ou, s&apos;il manque, de ce qui devrait le contenir. &apos;zel-package explain ID&apos; en dit plus. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>; it has %1.</source>
-        <translation> ; il a %1.</translation>
-    </message>
-    <message>
-        <source>The package has no &apos;%1&apos;%2</source>
-        <translation>Le paquet n&apos;a pas de &apos;%1&apos;%2</translation>
-    </message>
-    <message>
         <source>It cannot be empty.</source>
         <translation>Cela ne peut pas être vide.</translation>
     </message>
     <message>
-        <source>The package has &apos;%1&apos; already.</source>
-        <translation>Le paquet a déjà &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>[+]=NAME adds a permission, [NAME]= removes it.</source>
-        <translation>[+]=NOM ajoute une permission, [NOM]= la retire.</translation>
-    </message>
-    <message>
-        <source>The list has &apos;%1&apos; already.</source>
-        <translation>La liste a déjà &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>The list does not have &apos;%1&apos;%2</source>
-        <translation>La liste n&apos;a pas &apos;%1&apos;%2</translation>
-    </message>
-    <message>
         <source>A package has a version.</source>
         <translation>Un paquet a une version.</translation>
-    </message>
-    <message>
-        <source>[+]=CODE adds a language, [CODE]= removes it.</source>
-        <translation>[+]=CODE ajoute une langue, [CODE]= la retire.</translation>
-    </message>
-    <message>
-        <source>The list does not have &apos;%1&apos;.</source>
-        <translation>La liste n&apos;a pas &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
-        <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false.</source>
-        <translation>&apos;%1&apos; n&apos;est ni true ni false.</translation>
-    </message>
-    <message>
-        <source>The list has no item &apos;%1&apos;; it is empty, and [+] appends to it.</source>
-        <translation>La liste n&apos;a pas d&apos;élément &apos;%1&apos; ; elle est vide, et [+] y ajoute.</translation>
-    </message>
-    <message>
-        <source>The list has no item &apos;%1&apos;; there are 0 to %2, and [+] appends one.</source>
-        <translation>La liste n&apos;a pas d&apos;élément &apos;%1&apos; ; il y a 0 à %2, et [+] en ajoute un.</translation>
-    </message>
-    <message>
-        <source>There is no field &apos;%1&apos;%2</source>
-        <translation>Il n&apos;y a pas de champ &apos;%1&apos;%2</translation>
-    </message>
-    <message>
-        <source>; the fields are %1.</source>
-        <translation> ; les champs sont %1.</translation>
-    </message>
-    <message>
-        <source>It is written &apos;%1%2&apos;.</source>
-        <translation>Cela s&apos;écrit &apos;%1%2&apos;.</translation>
     </message>
     <message>
         <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
@@ -619,18 +559,6 @@
     <message>
         <source>&apos;%1&apos; is not of the form FIELD=VALUE, as in author=Ines or names[en_US]=Tea.</source>
         <translation>&apos;%1&apos; n&apos;est pas de la forme CHAMP=VALEUR, comme author=Ines ou names[en_US]=Tea.</translation>
-    </message>
-    <message>
-        <source>Set fields of a manifest</source>
-        <translation>Modifier des champs d&apos;un manifeste</translation>
-    </message>
-    <message>
-        <source>FILE FIELD=VALUE... [--dry-run]</source>
-        <translation>FICHIER CHAMP=VALEUR... [--dry-run]</translation>
-    </message>
-    <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
-        <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. La clé [+] ajoute à une liste. Une VALEUR vide efface un texte et retire un élément. Tous les champs sont modifiés ou, si l&apos;un est faux, aucun. Le fichier est réécrit sous forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
     </message>
     <message>
         <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
@@ -679,6 +607,66 @@
     <message>
         <source>Of each rule, only the first %1 findings are listed.</source>
         <translation>Pour chaque règle, seuls les %1 premiers problèmes sont indiqués.</translation>
+    </message>
+    <message>
+        <source>There is none, so nothing is removed.</source>
+        <translation>Il n&apos;y en a pas, donc rien n&apos;est supprimé.</translation>
+    </message>
+    <message>
+        <source>This is an entry: an empty VALUE removes it; a field of it is set as in &apos;%1.FIELD=VALUE&apos;.</source>
+        <translation>C&apos;est une entrée : une VALUE vide la supprime ; un de ses champs s&apos;écrit &apos;%1.FIELD=VALUE&apos;.</translation>
+    </message>
+    <message>
+        <source>This is a list: &apos;%1[+]=VALUE&apos; adds to it, &apos;%1[+]@INDEX=VALUE&apos; at an index.</source>
+        <translation>C&apos;est une liste : &apos;%1[+]=VALUE&apos; y ajoute, &apos;%1[+]@INDEX=VALUE&apos; à un index.</translation>
+    </message>
+    <message>
+        <source>&apos;@INDEX&apos; with a value adds an entry, so it follows the key [+].</source>
+        <translation>&apos;@INDEX&apos; avec une valeur ajoute une entrée, donc suit la clé [+].</translation>
+    </message>
+    <message>
+        <source>The FILE to edit is missing.</source>
+        <translation>Le FILE à modifier manque.</translation>
+    </message>
+    <message>
+        <source>&apos;-&apos; can be given once only.</source>
+        <translation>&apos;-&apos; ne peut être donné qu&apos;une fois.</translation>
+    </message>
+    <message>
+        <source>Also removes %1.</source>
+        <translation>Supprime aussi %1.</translation>
+    </message>
+    <message>
+        <source>Set fields of manifests</source>
+        <translation>Modifier des champs de manifestes</translation>
+    </message>
+    <message>
+        <source>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</source>
+        <translation>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so that a command can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. Une VALUE vide efface un texte et supprime une entrée ou un élément : behaviors[greet]=. La clé [+] en ajoute à une liste : supportedLanguages[+]=fr_FR, behaviors[+].path=greet ; &apos;@INDEX&apos; l&apos;ajoute à un index, à partir de 0 : supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; déplace une entrée : behaviors[greet]@0. Ajouter ce qui existe et supprimer ce qui n&apos;existe pas ne change rien, si bien qu&apos;une commande peut être répétée. Tous les champs de tous les fichiers sont modifiés ou, si l&apos;un d&apos;eux est faux, aucun. Les fichiers sont réécrits sous la forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard ; un fichier dont le nom contient &apos;=&apos; est donné avec son dossier, comme ./a=b.xml.</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>Il n&apos;y en a pas.</translation>
+    </message>
+    <message>
+        <source>Print fields of a manifest</source>
+        <translation>Afficher des champs d&apos;un manifeste</translation>
+    </message>
+    <message>
+        <source>FILE FIELD...</source>
+        <translation>FILE FIELD...</translation>
+    </message>
+    <message>
+        <source>Prints the values of fields, named as in &apos;show --format json&apos;: author, names[fr_FR], behaviors[greet].tags[en_US][0]. For a list or an entry, such as names or behaviors[greet], prints FIELD=VALUE for each field in it. The exit status is 1 if the package has no such entry. &apos;-&apos; reads standard input.</source>
+        <translation>Affiche les valeurs de champs, nommés comme dans &apos;show --format json&apos; : author, names[fr_FR], behaviors[greet].tags[en_US][0]. Pour une liste ou une entrée, comme names ou behaviors[greet], affiche FIELD=VALUE pour chacun de ses champs. Le code de sortie est 1 si le paquet n&apos;a pas cette entrée. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>First make the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <translation>Faire d&apos;abord les modifications de ce fichier JSON, décrit par schema/edits.schema.json ; &apos;-&apos; est l&apos;entrée standard.</translation>
     </message>
 </context>
 </TS>

@@ -541,72 +541,12 @@
         <translation>各マニフェストの問題を「ファイル:行: error: テキスト (フィールド) [id]」の形で表示します。行は、そのフィールドの行、欠けている場合はそれを含むはずの要素の行です。詳しくは &apos;zel-package explain ID&apos; を参照してください。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
-        <source>; it has %1.</source>
-        <translation>。あるのは %1 です。</translation>
-    </message>
-    <message>
-        <source>The package has no &apos;%1&apos;%2</source>
-        <translation>パッケージに &apos;%1&apos; はありません%2</translation>
-    </message>
-    <message>
         <source>It cannot be empty.</source>
         <translation>空にはできません。</translation>
     </message>
     <message>
-        <source>The package has &apos;%1&apos; already.</source>
-        <translation>パッケージにはすでに &apos;%1&apos; があります。</translation>
-    </message>
-    <message>
-        <source>[+]=NAME adds a permission, [NAME]= removes it.</source>
-        <translation>[+]=名前 で権限を追加し、[名前]= で削除します。</translation>
-    </message>
-    <message>
-        <source>The list has &apos;%1&apos; already.</source>
-        <translation>リストにはすでに &apos;%1&apos; があります。</translation>
-    </message>
-    <message>
-        <source>The list does not have &apos;%1&apos;%2</source>
-        <translation>リストに &apos;%1&apos; はありません%2</translation>
-    </message>
-    <message>
         <source>A package has a version.</source>
         <translation>パッケージにはバージョンが必要です。</translation>
-    </message>
-    <message>
-        <source>[+]=CODE adds a language, [CODE]= removes it.</source>
-        <translation>[+]=コード で言語を追加し、[コード]= で削除します。</translation>
-    </message>
-    <message>
-        <source>The list does not have &apos;%1&apos;.</source>
-        <translation>リストに &apos;%1&apos; はありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
-        <translation>&apos;%1&apos; はバージョンではありません。2.1 のように、数字を点で区切ってください。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither true nor false.</source>
-        <translation>&apos;%1&apos; は true でも false でもありません。</translation>
-    </message>
-    <message>
-        <source>The list has no item &apos;%1&apos;; it is empty, and [+] appends to it.</source>
-        <translation>リストに項目 &apos;%1&apos; はありません。リストは空で、[+] で追加できます。</translation>
-    </message>
-    <message>
-        <source>The list has no item &apos;%1&apos;; there are 0 to %2, and [+] appends one.</source>
-        <translation>リストに項目 &apos;%1&apos; はありません。0 から %2 まであり、[+] で追加できます。</translation>
-    </message>
-    <message>
-        <source>There is no field &apos;%1&apos;%2</source>
-        <translation>フィールド &apos;%1&apos; はありません%2</translation>
-    </message>
-    <message>
-        <source>; the fields are %1.</source>
-        <translation>。フィールドは %1 です。</translation>
-    </message>
-    <message>
-        <source>It is written &apos;%1%2&apos;.</source>
-        <translation>&apos;%1%2&apos; と書きます。</translation>
     </message>
     <message>
         <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
@@ -619,18 +559,6 @@
     <message>
         <source>&apos;%1&apos; is not of the form FIELD=VALUE, as in author=Ines or names[en_US]=Tea.</source>
         <translation>&apos;%1&apos; は フィールド=値 の形ではありません。例: author=Ines、names[en_US]=Tea。</translation>
-    </message>
-    <message>
-        <source>Set fields of a manifest</source>
-        <translation>マニフェストのフィールドを設定する</translation>
-    </message>
-    <message>
-        <source>FILE FIELD=VALUE... [--dry-run]</source>
-        <translation>ファイル フィールド=値... [--dry-run]</translation>
-    </message>
-    <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. The key [+] appends to a list. An empty VALUE clears a text and removes an item. Either all fields are set or, where one is wrong, none. The file is rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output.</source>
-        <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します。例: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。キー [+] はリストに追加します。空の値はテキストを消し、項目を削除します。誤りが 1 つでもあれば、どのフィールドも設定されません。ファイルは何も失わずに正規形で書き直されます。&apos;-&apos; は標準入力を読み、標準出力に書き込みます。</translation>
     </message>
     <message>
         <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
@@ -679,6 +607,66 @@
     <message>
         <source>Of each rule, only the first %1 findings are listed.</source>
         <translation>各規則につき、最初の%1件だけを表示します。</translation>
+    </message>
+    <message>
+        <source>There is none, so nothing is removed.</source>
+        <translation>ないので、何も削除しません。</translation>
+    </message>
+    <message>
+        <source>This is an entry: an empty VALUE removes it; a field of it is set as in &apos;%1.FIELD=VALUE&apos;.</source>
+        <translation>これは項目です。空の VALUE で削除し、そのフィールドは &apos;%1.FIELD=VALUE&apos; と設定します。</translation>
+    </message>
+    <message>
+        <source>This is a list: &apos;%1[+]=VALUE&apos; adds to it, &apos;%1[+]@INDEX=VALUE&apos; at an index.</source>
+        <translation>これはリストです。&apos;%1[+]=VALUE&apos; で追加し、&apos;%1[+]@INDEX=VALUE&apos; でその位置に追加します。</translation>
+    </message>
+    <message>
+        <source>&apos;@INDEX&apos; with a value adds an entry, so it follows the key [+].</source>
+        <translation>値のある &apos;@INDEX&apos; は項目を追加するので、キー [+] の後に書きます。</translation>
+    </message>
+    <message>
+        <source>The FILE to edit is missing.</source>
+        <translation>編集する FILE がありません。</translation>
+    </message>
+    <message>
+        <source>&apos;-&apos; can be given once only.</source>
+        <translation>&apos;-&apos; は一度しか指定できません。</translation>
+    </message>
+    <message>
+        <source>Also removes %1.</source>
+        <translation>%1 も削除します。</translation>
+    </message>
+    <message>
+        <source>Set fields of manifests</source>
+        <translation>マニフェストのフィールドを設定する</translation>
+    </message>
+    <message>
+        <source>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</source>
+        <translation>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so that a command can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。空の VALUE はテキストを消し、項目を削除します: behaviors[greet]=。キー [+] はリストに追加します: supportedLanguages[+]=fr_FR、behaviors[+].path=greet。&apos;@INDEX&apos; は 0 から数えた位置に追加します: supportedLanguages[+]@0=fr_FR。&apos;ENTRY@INDEX&apos; は項目を移動します: behaviors[greet]@0。あるものの追加とないものの削除は何も変えないので、コマンドは繰り返せます。すべてのファイルのすべてのフィールドを設定し、一つでも誤りがあれば何も設定しません。ファイルは正準形に書き直され、何も失われません。&apos;-&apos; は標準入力を読み、標準出力に書きます。名前に &apos;=&apos; を含むファイルは ./a=b.xml のようにフォルダーと共に指定します。</translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <source>Print fields of a manifest</source>
+        <translation>マニフェストのフィールドを表示する</translation>
+    </message>
+    <message>
+        <source>FILE FIELD...</source>
+        <translation>FILE FIELD...</translation>
+    </message>
+    <message>
+        <source>Prints the values of fields, named as in &apos;show --format json&apos;: author, names[fr_FR], behaviors[greet].tags[en_US][0]. For a list or an entry, such as names or behaviors[greet], prints FIELD=VALUE for each field in it. The exit status is 1 if the package has no such entry. &apos;-&apos; reads standard input.</source>
+        <translation>&apos;show --format json&apos; と同じ名前のフィールドの値を表示します: author、names[fr_FR]、behaviors[greet].tags[en_US][0]。names や behaviors[greet] のようなリストや項目では、その各フィールドを FIELD=VALUE と表示します。パッケージにその項目がなければ終了コードは 1 です。&apos;-&apos; は標準入力を読みます。</translation>
+    </message>
+    <message>
+        <source>First make the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <translation>最初にこの JSON ファイルの編集を行います。形式は schema/edits.schema.json にあります。&apos;-&apos; は標準入力です。</translation>
     </message>
 </context>
 </TS>

@@ -763,13 +763,6 @@ Version %1</translation>
     </message>
 </context>
 <context>
-    <name>Editor::TextField</name>
-    <message>
-        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une version. Une version est faite de nombres séparés par des points, comme 2.5.0.</translation>
-    </message>
-</context>
-<context>
     <name>Editor::TextsPage</name>
     <message>
         <source>&amp;Languages</source>

@@ -763,13 +763,6 @@ Version %1</source>
     </message>
 </context>
 <context>
-    <name>Editor::TextField</name>
-    <message>
-        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
-        <translation>「%1」はバージョンではありません。バージョンは 2.5.0 のように、数字をドットで区切ったものです。</translation>
-    </message>
-</context>
-<context>
     <name>Editor::TextsPage</name>
     <message>
         <source>&amp;Languages</source>

@@ -164,8 +164,8 @@ bool ServicesModel::setData(const QModelIndex &index, const QVariant &value, int
     // A new name is a new path.
     document().pushTyped([this, cell = QPersistentModelIndex(index), text = value.toString(),
                           commandText](bool isFinal) {
-        return new Zel::PackageEditCommand(package(), {setText(package(), field(cell), text)},
-                                           commandText, isFinal);
+        return new Zel::PackageEditCommand(package(), {setText(field(cell), text)}, commandText,
+                                           isFinal);
     });
     return true;
 }

@@ -2,23 +2,20 @@
 
 #include <packagemodel/text_conversion.h>
 
-#include <QCoreApplication>
-
 #include <limits>
 
 namespace Editor {
 
 using Tano::FieldPath;
 using Zel::PackageInfoModel;
-using Zel::SoftwareVersion;
 using Zel::PackageModel::Edit;
 using Zel::PackageModel::FieldValue;
 
 namespace {
 
-bool isVersion(const PackageInfoModel *package, const FieldPath &path) {
-    const auto value = Zel::PackageModel::value(package, path);
-    return value && std::holds_alternative<SoftwareVersion>(*value);
+std::optional<FieldValue> valueOf(const FieldPath &path, const QString &text, QString &error) {
+    const auto form = Zel::PackageModel::formOf(path, &error);
+    return form ? Zel::PackageModel::parsedValue(form->kind, text, &error) : std::nullopt;
 }
 
 } // namespace
@@ -28,25 +25,15 @@ QString fieldText(const PackageInfoModel *package, const FieldPath &path) {
     return value ? Zel::PackageModel::printed(*value) : QString();
 }
 
-Edit setText(const PackageInfoModel *package, const FieldPath &path, const QString &text) {
-    const FieldValue value = isVersion(package, path)
-                                 ? FieldValue(Zel::SoftwareVersionUtils::fromString(text))
-                                 : FieldValue(text);
-    return {Edit::Action::Set, path, value};
+Edit setText(const FieldPath &path, const QString &text) {
+    QString error;
+    return {Edit::Action::Set, path, valueOf(path, text, error)};
 }
 
 QString textRefusal(const PackageInfoModel *package, const FieldPath &path, const QString &text) {
-    if (isVersion(package, path) && !text.trimmed().isEmpty()) {
-        bool isValid = false;
-        Zel::SoftwareVersionUtils::fromString(text, &isValid);
-        if (!isValid)
-            return QCoreApplication::translate(
-                       "Editor::TextField",
-                       "“%1” is no version. A version is numbers with dots between them, such as "
-                       "2.5.0.")
-                .arg(text);
-    }
-    return Zel::PackageModel::refusal(package, setText(package, path, text));
+    QString error;
+    const auto value = valueOf(path, text, error);
+    return value ? Zel::PackageModel::refusal(package, {Edit::Action::Set, path, value}) : error;
 }
 
 Edit appended(const FieldPath &list, const FieldValue &entry) {

@@ -8,9 +8,8 @@ namespace Editor {
 
 /// The text of a field; empty where there is no such field.
 QString fieldText(const Zel::PackageInfoModel *package, const Tano::FieldPath &path);
-/// The edit that sets a field to a typed text. A version is unset by a text that is none.
-Zel::PackageModel::Edit setText(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
-                                const QString &text);
+/// The edit that sets a field to a typed text, which may be that of a version.
+Zel::PackageModel::Edit setText(const Tano::FieldPath &path, const QString &text);
 /// Why a field cannot be set to a text, for people; empty if it can.
 QString textRefusal(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
                     const QString &text);

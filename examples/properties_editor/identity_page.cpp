@@ -33,8 +33,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
          [=](const QString &text, bool isFinal) {
              const QString name =
                  Zel::PackageGenericValueCommand<Zel::SoftwareVersion>(package(), {}).commandName();
-             return new Zel::PackageEditCommand(package(), {setText(package(), version, text)},
-                                                name, isFinal);
+             return new Zel::PackageEditCommand(package(), {setText(version, text)}, name, isFinal);
          }},
         QStringLiteral("1.0.0"));
     addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion, "typeVersion");

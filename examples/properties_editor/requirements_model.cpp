@@ -68,7 +68,7 @@ QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
 bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (role != Qt::EditRole || !checkIndex(index))
         return false;
-    const auto edit = setText(package(), field(index), value.toString());
+    const auto edit = setText(field(index), value.toString());
     const QString commandText =
         (m_kind == Kind::Robot ? tr("Edit robot requirement %1") : tr("Edit Brio requirement %1"))
             .arg(index.row() + 1);

@@ -9,9 +9,9 @@
 namespace ZelPackage {
 namespace {
 
-const std::array commands{&newCommand,     &showCommand,      &validateCommand,
-                          &formatCommand,  &setCommand,       &publishCommand,
-                          &explainCommand, &languagesCommand, &robotsCommand};
+const std::array commands{&newCommand,       &showCommand,  &getCommand,     &validateCommand,
+                          &formatCommand,    &setCommand,   &publishCommand, &explainCommand,
+                          &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 

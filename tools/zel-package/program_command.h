@@ -26,6 +26,7 @@ struct ProgramCommand {
 
 extern const ProgramCommand explainCommand;
 extern const ProgramCommand formatCommand;
+extern const ProgramCommand getCommand;
 extern const ProgramCommand languagesCommand;
 extern const ProgramCommand newCommand;
 extern const ProgramCommand publishCommand;

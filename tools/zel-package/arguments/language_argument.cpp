@@ -32,33 +32,42 @@ QStringList nearCodes(const QString &text) {
             named += language.isoCode();
     }
     if (named.isEmpty())
-        named += nearestWord(QString(text).replace(u'-', u'_'), codes);
+        named += Zel::nearestWord(QString(text).replace(u'-', u'_'), codes);
     named.removeAll({});
     return named;
 }
 
 } // namespace
 
-std::optional<Zel::RobotLanguage> languageArgument(const QString &code, Console &console) {
+std::optional<Zel::RobotLanguage> languageArgument(const QString &code, QString &message) {
+    message.clear();
     const Zel::RobotLanguage known = Zel::robotLanguage(code);
     if (!known.isoCode().isEmpty())
         return known;
     if (looksLikeCode(code)) {
-        console.tell(
+        message =
             QCoreApplication::translate("zel-package", "The language '%1' is not a known one.")
-                .arg(code));
+                .arg(code);
         return Zel::RobotLanguage(Zel::ISOCode(code), Zel::NuanceCode());
     }
     const QStringList near = nearCodes(code);
-    console.tell(near.isEmpty()
-                     ? QCoreApplication::translate(
-                           "zel-package", "'%1' is not a language code; 'zel-package languages' "
-                                          "lists those that are known.")
-                           .arg(code)
-                     : QCoreApplication::translate("zel-package",
-                                                   "'%1' is not a language code; did you mean %2?")
-                           .arg(code, near.join(QStringLiteral(", "))));
+    message = near.isEmpty()
+                  ? QCoreApplication::translate("zel-package",
+                                                "'%1' is not a language code; 'zel-package "
+                                                "languages' lists those that are known.")
+                        .arg(code)
+                  : QCoreApplication::translate("zel-package",
+                                                "'%1' is not a language code; did you mean %2?")
+                        .arg(code, near.join(QStringLiteral(", ")));
     return {};
+}
+
+std::optional<Zel::RobotLanguage> languageArgument(const QString &code, Console &console) {
+    QString message;
+    auto language = languageArgument(code, message);
+    if (!message.isEmpty())
+        console.tell(message);
+    return language;
 }
 
 } // namespace ZelPackage

@@ -22,7 +22,7 @@ _zel_package() {
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        words=(new show validate format set publish explain languages robots --help --version)
+        words=(new show get validate format set publish explain languages robots --help --version)
     else
         case ${COMP_WORDS[1]}:$previous in
         *:--language) mapfile -t words < <(_zel_package_languages "${COMP_WORDS[0]}") ;;
@@ -45,9 +45,9 @@ _zel_package() {
             show) words=(--language --format --help) ;;
             validate) words=(--format --fail-on --ignore --explain --help) ;;
             format) words=(--check --help) ;;
-            set) words=(--dry-run --help) ;;
+            set) words=(--edits --dry-run --help) ;;
             publish) words=(--output --help) ;;
-            explain | languages | robots) words=(--help) ;;
+            explain | get | languages | robots) words=(--help) ;;
             esac
             ;;
         esac

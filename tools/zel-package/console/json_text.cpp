@@ -5,10 +5,14 @@
 namespace ZelPackage {
 
 QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format) {
-    const QString json = QString::fromUtf8(QJsonDocument(object).toJson(format));
+    return printableJson(QJsonDocument(object).toJson(format));
+}
+
+QString printableJson(const QByteArray &bytes) {
+    const QString json = QString::fromUtf8(bytes);
     QString result;
     result.reserve(json.size());
-    // Such characters stand only within texts; a line feed only between them.
+    // Such characters occur only within texts; a line feed only between them.
     for (const QChar character : json) {
         if (character != u'\n' && isUnprintable(character.unicode()))
             result += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QChar(u'0'));

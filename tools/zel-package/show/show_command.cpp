@@ -2,11 +2,12 @@
 
 #include "arguments/language_argument.h"
 #include "arguments/word_check.h"
+#include "console/json_text.h"
 #include "manifest/manifest_source.h"
-#include "show_json.h"
 #include "show_text.h"
 
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
 
 namespace ZelPackage {
 namespace {
@@ -57,8 +58,11 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
         if (!language)
             return Failure;
     }
-    console.print(arguments.value(formatOption) == jsonFormat ? jsonOf(package)
-                                                              : textOf(package, language, console));
+    if (arguments.value(formatOption) == jsonFormat)
+        Zel::PackageModel::writeJson(
+            &package, [&](const QByteArray &json) { console.print(printableJson(json)); });
+    else
+        console.print(textOf(package, language, console));
     return Fine;
 }
 

@@ -71,7 +71,7 @@ QString explanationOf(const Rule &rule, const Console &console) {
 }
 
 void tellUnknownRule(const QString &id, const QStringList &known, Console &console) {
-    const QStringList near = nearWords(id, known);
+    const QStringList near = Zel::nearWords(id, known);
     const QString hint =
         near.isEmpty()
             ? QCoreApplication::translate("zel-package", "; 'zel-package explain' lists the rules.")

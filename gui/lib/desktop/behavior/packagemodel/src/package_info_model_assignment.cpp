@@ -218,7 +218,8 @@ void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &
 }
 
 PackageInfoModel &PackageInfoModel::operator=(const PackageInfoModel &other) {
-    if (this != &other)
+    // A package in destruction would not take the copied children.
+    if (this != &other && !m_data->behaviors.isClosed())
         assign(other, WholeChange(this, m_data->wholeChanges));
     return *this;
 }

@@ -24,6 +24,13 @@ struct Edit {
 };
 using Edits = QVector<Edit>;
 
+inline bool operator==(const Edit &a, const Edit &b) {
+    return a.action == b.action && a.path == b.path && a.value == b.value && a.index == b.index;
+}
+inline bool operator!=(const Edit &a, const Edit &b) {
+    return !(a == b);
+}
+
 /// The outcome of applying edits: the edits that undo them, or why nothing was changed.
 struct Applied {
     Edits inverse; ///< to be applied in this order

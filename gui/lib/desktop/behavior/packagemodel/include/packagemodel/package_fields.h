@@ -26,8 +26,17 @@ namespace PackageModel {
 using FieldValue = std::variant<QString, bool, SoftwareVersion, RobotRequirement, BrioRequirement,
                                 Tano::BehaviorInfo, Tano::DialogInfo, Tano::PackageService>;
 
-/// The kinds of fields that hold one value, in the order of FieldValue.
-enum class FieldKind { Text, Flag, Version };
+/// The kinds of values, in the order of FieldValue: those of one field, then entries of lists.
+enum class FieldKind {
+    Text,
+    Flag,
+    Version,
+    RobotRequirement,
+    BrioRequirement,
+    Behavior,
+    Dialog,
+    Service
+};
 
 /// One field of a package.
 struct Field {
@@ -51,6 +60,11 @@ PACKAGEMODEL_EXPORT QVector<Field> fields(const PackageInfoModel *package);
 PACKAGEMODEL_EXPORT std::optional<FieldValue> value(const PackageInfoModel *package,
                                                     const Tano::FieldPath &path);
 
+/// The entries of a list, such as `behaviors`, `supportedLanguages` or
+/// `behaviors[greet].tags[en_US]`, in their order; none if the path leads to no list.
+PACKAGEMODEL_EXPORT QVector<FieldValue> entries(const PackageInfoModel *package,
+                                                const Tano::FieldPath &path);
+
 /// The path of an item of a list by its index: `behaviors[greet][1]` for the second behavior with
 /// the path "greet". The empty path if there is no such item.
 PACKAGEMODEL_EXPORT Tano::FieldPath itemPath(const PackageInfoModel *package,
@@ -61,9 +75,28 @@ PACKAGEMODEL_EXPORT Tano::FieldPath itemPath(const PackageInfoModel *package,
 /// `robotRequirements[0]`. A path that leads to no kind of field is returned as it is.
 PACKAGEMODEL_EXPORT QString label(const Tano::FieldPath &path);
 
-/// A value of a FieldKind as text: a version in its dotted form, a flag as "true" or "false". Empty
-/// for an entry.
+/// What the paths of a form lead to in any package, whether or not it has such an entry.
+struct FieldForm {
+    FieldKind kind;    ///< of the value, or of each entry of a list
+    bool isList;       ///< the path leads to a list rather than to one value or entry
+    QString selectors; ///< how one of several is selected, as in "[CODE][N]"
+    QString label;     ///< as in Field
+    bool isKey;        ///< the field names its entry among the others of a list
+};
+
+/// The form of a path; `[+]` counts as a selector. Nothing for a path that no package has: then
+/// `error`, if given, says why in one sentence, with the nearest name.
+PACKAGEMODEL_EXPORT std::optional<FieldForm> formOf(const Tano::FieldPath &path,
+                                                    QString *error = nullptr);
+
+/// A value of a single field as text: a version in its dotted form, a flag as "true" or "false".
+/// Empty for an entry.
 PACKAGEMODEL_EXPORT QString printed(const FieldValue &value);
+
+/// The value of a kind that a text means, as printed() writes it; the empty text is the empty
+/// version. Nothing for entries and for a text of another form: then `error`, if given, says why.
+PACKAGEMODEL_EXPORT std::optional<FieldValue> parsedValue(FieldKind kind, const QString &text,
+                                                          QString *error = nullptr);
 
 } // namespace PackageModel
 } // namespace Zel

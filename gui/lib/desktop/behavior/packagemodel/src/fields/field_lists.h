@@ -10,13 +10,6 @@ inline int indexIn(const Selectors &selectors, int size) {
     return index && *index < size ? *index : -1;
 }
 
-/// The label of a list, or of one of its items by its index: "Tags" or "Tag 1".
-template<typename Owner>
-QString labelOf(const FieldRow<Owner> &row, const FieldPath::Selector *index) {
-    const auto number = index ? index->toIndex() : std::nullopt;
-    return number ? row.label() % u' ' % QString::number(*number + 1) : row.listLabel();
-}
-
 inline QString taken(const QString &value) {
     return QCoreApplication::translate("Zel::PackageModel", "'%1' is there already.").arg(value);
 }
@@ -25,13 +18,11 @@ inline QString taken(const QString &value) {
 template<typename Owner>
 class ListRow : public FieldRow<Owner> {
 public:
-    using FieldRow<Owner>::FieldRow;
+    ListRow(const char *name, const FieldLabels &labels, FieldKind kind, const char *selectors)
+        : FieldRow<Owner>(name, labels, kind, selectors, true) {}
 
     FieldTarget follow(Owner &owner, const Walk &walk) const override {
         return walk.isLast() ? followList(makeList(owner), walk, 0) : FieldTarget();
-    }
-    QString describe(const Walk &walk, const OfOwner &of) const override {
-        return of(labelOf(*this, walk.selectors().empty() ? nullptr : &walk.selectors().front()));
     }
 
 protected:
@@ -124,9 +115,9 @@ class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
 public:
     using Keys = std::vector<Key> (*)(const BehaviorInfoModel &behavior);
 
-    BehaviorTextsRow(const char *name, const char *label, const char *listLabel, Keys keys,
+    BehaviorTextsRow(const char *name, const FieldLabels &labels, const char *selectors, Keys keys,
                      const typename BehaviorTexts<Key>::Operations &operations)
-        : ListRow(name, label, listLabel)
+        : ListRow(name, labels, FieldKind::Text, selectors)
         , m_keys(keys)
         , m_operations(operations) {}
 
@@ -147,10 +138,12 @@ public:
             std::make_shared<BehaviorTexts<Key>>(behavior, m_operations, keyOf(key, Key())), walk,
             1);
     }
-    QString describe(const Walk &walk, const OfOwner &of) const override {
-        const Selectors &selectors = walk.selectors();
-        const QString what = of(labelOf(*this, selectors.size() > 1 ? &selectors[1] : nullptr));
-        return selectors.empty() ? what : forKey(what, selectors.front(), Key());
+    QJsonValue toJson(BehaviorInfoModel &behavior) const override {
+        QJsonObject lists;
+        for (const Key &key : m_keys(behavior))
+            lists.insert(printedKey(key),
+                         QJsonArray::fromStringList((behavior.*m_operations.list)(key)));
+        return lists;
     }
 
 protected:
@@ -159,15 +152,6 @@ protected:
 private:
     static QString printedKey(const QString &purpose) { return purpose; }
     static QString printedKey(const RobotLanguage &language) { return language.isoCode(); }
-    static QString forKey(const QString &label, const FieldPath::Selector &purpose,
-                          const QString &) {
-        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 for “%2”"))
-            .arg(label, fromUtf8(purpose.text));
-    }
-    static QString forKey(const QString &label, const FieldPath::Selector &code,
-                          const RobotLanguage &) {
-        return inLanguage(label, code);
-    }
     static QString keyOf(const QString &text, const QString &) { return text; }
     static RobotLanguage keyOf(const QString &text, const RobotLanguage &) {
         return languageOfCode(text);
@@ -184,6 +168,7 @@ struct EntryKind {
     Child *(PackageInfoModel::*find)(const QString &key) const;
     QString (Child::*key)() const;
     FieldValue (*record)(const Child &child);
+    FieldValue (*empty)(const std::string &key);
     void (*insert)(PackageInfoModel &package, int index, const FieldValue &record);
     bool (PackageInfoModel::*remove)(Child *child);
     bool (PackageInfoModel::*move)(int from, int to);
@@ -203,6 +188,12 @@ public:
     }
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return m_kind.record(*all().at(index)); }
+    std::optional<QStringList> keys() const override {
+        QStringList keys;
+        for (const Child *child : all())
+            keys += (child->*m_kind.key)();
+        return keys;
+    }
 
     int find(const Selectors &selectors) const override {
         const auto occurrence = selectors.size() == 2 ? selectors[1].toIndex() : std::optional(0);
@@ -260,10 +251,10 @@ private:
 template<typename Child>
 class EntriesRow : public ListRow<PackageInfoModel> {
 public:
-    EntriesRow(const char *name, const char *label, const char *listLabel,
-               const EntryKind<Child> &kind)
-        : ListRow(name, label, listLabel)
-        , m_kind(kind) {}
+    EntriesRow(const char *name, const FieldLabels &labels, FieldKind kind, const char *selectors,
+               const EntryKind<Child> &operations)
+        : ListRow(name, labels, kind, selectors)
+        , m_kind(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
               QVector<Field> &fields) const override {
@@ -281,21 +272,32 @@ public:
         const int index = list.find(walk.selectors());
         if (index < 0)
             return {};
-        return followIn(m_kind.table(), *list.all().at(index), {walk.path, walk.step + 1});
+        return followIn(m_kind.table(), *list.all().at(index), walk.next());
     }
-    QString describe(const Walk &walk, const OfOwner &) const override {
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
         const Selectors &selectors = walk.selectors();
-        if (selectors.empty())
-            return listLabel();
-        QString key = fromUtf8(selectors.front().text);
-        if (const auto index = selectors.size() > 1 ? selectors[1].toIndex() : std::nullopt)
-            key += QStringLiteral(" (%1)").arg(*index + 1);
-        if (walk.isLast())
-            return named(label(), key);
-        return describeIn(m_kind.table(), {walk.path, walk.step + 1}, [&](const QString &label) {
-            return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of “%2”")).arg(label, key);
+        const bool isEntry =
+            selectors.size() == 1 || (selectors.size() == 2 && selectors.back().toIndex());
+        if (!isEntry)
+            return ListRow::form(walk, error);
+        return walk.isLast() ? formAs(false) : formIn(m_kind.table(), walk.next(), error);
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        if (walk.isLast() || walk.selectors().empty())
+            return ListRow::describe(walk, of);
+        return describeIn(m_kind.table(), walk.next(), [&](const QString &label) {
+            return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of “%2”"))
+                .arg(label, entryName(walk.selectors()));
         });
     }
+    bool visitEntries(PackageInfoModel &package,
+                      const std::function<void(const QJsonObject &)> &visit) const override {
+        for (Child *child : (package.*m_kind.all)())
+            visit(objectOf(m_kind.table(), *child));
+        return true;
+    }
+    const char *keyName() const override { return m_kind.table().front()->name(); }
+    FieldValue emptyEntry(const QString &key) const override { return m_kind.empty(toUtf8(key)); }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -368,9 +370,9 @@ private:
 template<typename Requirement>
 class RequirementsRow : public ListRow<PackageInfoModel> {
 public:
-    RequirementsRow(const char *name, const char *label, const char *listLabel,
+    RequirementsRow(const char *name, const FieldLabels &labels,
                     const RequirementOperations<Requirement> &operations)
-        : ListRow(name, label, listLabel)
+        : ListRow(name, labels, kindOf<Requirement>(), "[N]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -388,18 +390,32 @@ public:
         RequirementPlace<Requirement> place{package, list.find(walk.selectors())};
         if (place.index < 0)
             return {};
-        return followIn(m_operations.table(), place, {walk.path, walk.step + 1});
+        return followIn(m_operations.table(), place, walk.next());
+    }
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
+        return walk.isLast() || walk.selectors().size() != 1
+                   ? ListRow::form(walk, error)
+                   : formIn(m_operations.table(), walk.next(), error);
     }
     QString describe(const Walk &walk, const OfOwner &of) const override {
         const auto index =
-            walk.selectors().size() == 1 ? walk.selectors().front().toIndex() : std::nullopt;
+            walk.selectors().empty() ? std::nullopt : walk.selectors().front().toIndex();
         if (walk.isLast() || !index)
             return ListRow::describe(walk, of);
-        return describeIn(
-            m_operations.table(), {walk.path, walk.step + 1}, [&](const QString &label) {
-                return inWords(m_operations.memberLabel).arg(label, QString::number(*index + 1));
-            });
+        return describeIn(m_operations.table(), walk.next(), [&](const QString &label) {
+            return inWords(m_operations.memberLabel).arg(label, QString::number(*index + 1));
+        });
     }
+    bool visitEntries(PackageInfoModel &package,
+                      const std::function<void(const QJsonObject &)> &visit) const override {
+        const int size = static_cast<int>((package.*m_operations.all)().size());
+        for (int i = 0; i < size; ++i) {
+            RequirementPlace<Requirement> place{package, i};
+            visit(objectOf(m_operations.table(), place));
+        }
+        return true;
+    }
+    FieldValue emptyEntry(const QString &) const override { return Requirement(); }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "field_target.h"
+#include "field_words.h"
 
 #include <packagemodel/package_info_model.h>
 
 #include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QPointer>
 
 #include <algorithm>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -49,7 +53,9 @@ struct Walk {
     const FieldPath &path;
     std::size_t step = 0;
 
+    const std::string &field() const { return path.steps()[step].field; }
     const Selectors &selectors() const { return path.steps()[step].selectors; }
+    Walk next() const { return {path, step + 1}; }
     bool isLast() const { return step + 1 == path.steps().size(); }
     /// The path up to this step, with the first `selectorCount` of its selectors.
     FieldPath upTo(std::size_t selectorCount) const {
@@ -61,26 +67,10 @@ struct Walk {
     }
 };
 
-inline QString inWords(const char *source) {
-    return QCoreApplication::translate("Zel::PackageModel", source);
-}
-
-inline QString misfit() {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
-}
-
-/// Adds the owner of a field to its label: "Nature" becomes "Nature of “greet”".
-using OfOwner = std::function<QString(const QString &label)>;
-
-/// "Name" and "fr_FR" become "Name in French (France)".
-inline QString inLanguage(const QString &label, const FieldPath::Selector &code) {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 in %2"))
-        .arg(label, languageOfCode(fromUtf8(code.text)).uiName());
-}
-
-/// "Behavior" and "greet" become "Behavior “greet”".
-inline QString named(const QString &label, const QString &key) {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 “%2”")).arg(label, key);
+/// The kind of a type that FieldValue holds.
+template<typename Value>
+constexpr FieldKind kindOf() {
+    return static_cast<FieldKind>(FieldValue(Value()).index());
 }
 
 /// One field of an owner: a package, or an entry of it. `Owner` is a model, or refers to a
@@ -88,35 +78,68 @@ inline QString named(const QString &label, const QString &key) {
 template<typename Owner>
 class FieldRow {
 public:
-    /// A list has a label for one of its items, and one for all of them.
-    FieldRow(const char *name, const char *label, const char *listLabel = nullptr)
+    /// `kind` is that of the value or of each entry, `selectors` is how one of several is selected:
+    /// "[CODE][N]". Of a list, the path without its last selector leads to the list.
+    FieldRow(const char *name, const FieldLabels &labels, FieldKind kind,
+             const char *selectors = "", bool isList = false)
         : m_name(name)
-        , m_label(label)
-        , m_listLabel(listLabel) {}
+        , m_labels(labels)
+        , m_kind(kind)
+        , m_selectors(selectors)
+        , m_isList(isList) {}
     FieldRow(const FieldRow &) = delete;
     FieldRow &operator=(const FieldRow &) = delete;
     virtual ~FieldRow() = default;
 
     const char *name() const { return m_name; }
-    QString label() const { return inWords(m_label); }
-    QString listLabel() const { return m_listLabel ? inWords(m_listLabel) : label(); }
+    FieldKind kind() const { return m_kind; }
+    QString label() const { return inWords(m_labels.one); }
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
     virtual void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const = 0;
     virtual FieldTarget follow(Owner &owner, const Walk &walk) const = 0;
-    /// The field, or one of its items or theirs, in words.
-    virtual QString describe(const Walk &walk, const OfOwner &of) const {
-        Q_UNUSED(walk)
-        return of(label());
+    /// What a path leads to if the package has it; nothing for a malformed one, then sets `error`.
+    virtual std::optional<FieldForm> form(const Walk &walk, QString &error) const {
+        const std::string_view selectors(m_selectors);
+        const auto all = std::size_t(std::count(selectors.begin(), selectors.end(), '['));
+        const std::size_t given = walk.selectors().size();
+        const bool isList = m_isList && given + 1 == all;
+        if (walk.isLast() && (isList || given == all))
+            return formAs(isList);
+        error = QCoreApplication::translate("Zel::PackageModel", "It is written '%1%2'.")
+                    .arg(QLatin1String(m_name), QLatin1String(m_selectors));
+        return {};
     }
+    /// The field, an item of it, or a field of the item, in words; empty for a malformed path.
+    virtual QString describe(const Walk &walk, const OfOwner &of) const {
+        return fieldWords(m_labels, m_selectors, walk.selectors(), of);
+    }
+    /// The whole field: a value, an array or an object by key.
+    virtual QJsonValue toJson(Owner &owner) const {
+        QJsonArray entries;
+        visitEntries(owner, [&](const QJsonObject &entry) { entries.append(entry); });
+        return entries;
+    }
+    /// Of a list of entries that have fields: visits each as JSON. False for any other field.
+    virtual bool visitEntries(Owner &, const std::function<void(const QJsonObject &)> &) const {
+        return false;
+    }
+    /// The field that names such an entry in its list, null if it has an index instead.
+    virtual const char *keyName() const { return nullptr; }
+    virtual FieldValue emptyEntry(const QString &key) const { return key; }
 
 protected:
     FieldPath pathIn(const FieldPath &base) const { return FieldPath(base).field(m_name); }
+    FieldForm formAs(bool isList) const {
+        return {m_kind, isList, QLatin1String(m_selectors), label(), false};
+    }
 
 private:
     const char *m_name;
-    const char *m_label;
-    const char *m_listLabel;
+    FieldLabels m_labels;
+    FieldKind m_kind;
+    const char *m_selectors;
+    bool m_isList;
 };
 
 template<typename Owner>
@@ -129,26 +152,42 @@ void listAll(const FieldTable<Owner> &table, Owner &owner, const FieldPath &base
         row->list(owner, base, fields);
 }
 
-/// The row of the field that a path comes to; null for none.
 template<typename Owner>
-const FieldRow<Owner> *rowFor(const FieldTable<Owner> &table, const Walk &walk) {
-    const std::string &name = walk.path.steps()[walk.step].field;
+const FieldRow<Owner> *rowOf(const FieldTable<Owner> &table, const Walk &walk) {
     const auto row = std::find_if(table.begin(), table.end(),
-                                  [&](const auto &each) { return each->name() == name; });
+                                  [&](const auto &each) { return each->name() == walk.field(); });
     return row == table.end() ? nullptr : row->get();
 }
 
 template<typename Owner>
 FieldTarget followIn(const FieldTable<Owner> &table, Owner &owner, const Walk &walk) {
-    const auto *row = rowFor(table, walk);
+    const auto *row = rowOf(table, walk);
     return row ? row->follow(owner, walk) : FieldTarget();
 }
 
-/// The words for a path; empty if it leads to no kind of field.
+template<typename Owner>
+std::optional<FieldForm> formIn(const FieldTable<Owner> &table, const Walk &walk, QString &error) {
+    if (const auto *row = rowOf(table, walk))
+        return row->form(walk, error);
+    QStringList names;
+    for (const auto &row : table)
+        names += QLatin1String(row->name());
+    error = noFieldNamed(fromUtf8(walk.field()), names);
+    return {};
+}
+
 template<typename Owner>
 QString describeIn(const FieldTable<Owner> &table, const Walk &walk, const OfOwner &of) {
-    const auto *row = rowFor(table, walk);
+    const auto *row = rowOf(table, walk);
     return row ? row->describe(walk, of) : QString();
+}
+
+template<typename Owner>
+QJsonObject objectOf(const FieldTable<Owner> &table, Owner &owner) {
+    QJsonObject object;
+    for (const auto &row : table)
+        object.insert(QLatin1String(row->name()), row->toJson(owner));
+    return object;
 }
 
 /// A field that holds one value: a text, a flag or a version.
@@ -159,12 +198,12 @@ public:
     using Set = std::function<void(Owner &, const Value &)>;
 
     CellRow(const char *name, const char *label, Get get, Set set)
-        : FieldRow<Owner>(name, label)
+        : FieldRow<Owner>(name, label, kindOf<Value>())
         , m_get(std::move(get))
         , m_set(std::move(set)) {}
 
     void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const override {
-        fields.append({this->pathIn(base), kind, m_get(owner), this->label()});
+        fields.append({this->pathIn(base), this->kind(), m_get(owner), this->label()});
     }
     FieldTarget follow(Owner &owner, const Walk &walk) const override {
         if (!walk.isLast() || !walk.selectors().empty())
@@ -173,13 +212,16 @@ public:
             if (Owner *living = kept.get())
                 m_set(*living, std::get<Value>(value));
         };
-        return {FieldCell{kind, FieldValue(m_get(owner)), set, {}}};
+        return {FieldCell{this->kind(), FieldValue(m_get(owner)), set, {}}};
+    }
+    QJsonValue toJson(Owner &owner) const override {
+        if constexpr (std::is_same_v<Value, SoftwareVersion>)
+            return SoftwareVersionUtils::toString(m_get(owner));
+        else
+            return m_get(owner);
     }
 
 private:
-    static constexpr FieldKind kind = std::is_same_v<Value, QString> ? FieldKind::Text
-                                      : std::is_same_v<Value, bool>  ? FieldKind::Flag
-                                                                     : FieldKind::Version;
     Get m_get;
     Set m_set;
 };
@@ -201,6 +243,12 @@ public:
         , m_all(all)
         , m_record(record) {}
 
+    std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
+        auto form = CellRow<Child, QString>::form(walk, error);
+        if (form)
+            form->isKey = true;
+        return form;
+    }
     FieldTarget follow(Child &owner, const Walk &walk) const override {
         FieldTarget target = CellRow<Child, QString>::follow(owner, walk);
         const auto *package = qobject_cast<PackageInfoModel *>(owner.parent());
@@ -242,7 +290,7 @@ public:
     using Remove = bool (Owner::*)(const RobotLanguage &);
 
     TextsRow(const char *name, const char *label, All all, Set set, Remove remove)
-        : FieldRow<Owner>(name, label)
+        : FieldRow<Owner>(name, label, FieldKind::Text, "[CODE]")
         , m_all(all)
         , m_set(std::move(set))
         , m_remove(remove) {}
@@ -272,9 +320,11 @@ public:
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
     }
-    QString describe(const Walk &walk, const OfOwner &of) const override {
-        const QString label = of(this->label());
-        return walk.selectors().empty() ? label : inLanguage(label, walk.selectors().front());
+    QJsonValue toJson(Owner &owner) const override {
+        QJsonObject texts;
+        for (const auto &[text, language] : (owner.*m_all)())
+            texts.insert(language.isoCode(), text);
+        return texts;
     }
 
 private:

@@ -53,6 +53,12 @@ public:
     int find(const Selectors &selectors) const override {
         return selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
     }
+    std::optional<QStringList> keys() const override {
+        QStringList codes;
+        for (const RobotLanguage &language : all())
+            codes += language.isoCode();
+        return codes;
+    }
     void select(FieldPath &path, int index) const override {
         path.key(toUtf8(std::get<QString>(at(index))));
     }
@@ -96,9 +102,8 @@ private:
 
 class LanguagesRow : public ListRow<PackageInfoModel> {
 public:
-    LanguagesRow(const char *name, const char *label, const char *listLabel,
-                 const LanguageOperations &operations)
-        : ListRow(name, label, listLabel)
+    LanguagesRow(const char *name, const FieldLabels &labels, const LanguageOperations &operations)
+        : ListRow(name, labels, FieldKind::Text, "[CODE]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -107,10 +112,8 @@ public:
             fields.append({pathIn(base).key(toUtf8(language.isoCode())), FieldKind::Text,
                            language.isoCode(), label()});
     }
-    QString describe(const Walk &walk, const OfOwner &) const override {
-        if (walk.selectors().empty())
-            return listLabel();
-        return named(label(), languageOfCode(fromUtf8(walk.selectors().front().text)).uiName());
+    QJsonValue toJson(PackageInfoModel &package) const override {
+        return QJsonArray::fromStringList(*LanguageItems(package, m_operations).keys());
     }
 
 protected:
@@ -129,7 +132,13 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(index); }
-    int find(const Selectors &selectors) const override { return indexIn(selectors, size()); }
+    /// Permissions differ, so one may also be selected by its name.
+    int find(const Selectors &selectors) const override {
+        const int index = indexIn(selectors, size());
+        return index < 0 && selectors.size() == 1 && !selectors.front().toIndex()
+                   ? int(all().indexOf(fromUtf8(selectors.front().text)))
+                   : index;
+    }
     void select(FieldPath &path, int index) const override { path.index(index); }
     QString refusal(const FieldValue &value, int replaced) const override {
         const auto *permission = std::get_if<QString>(&value);
@@ -164,13 +173,17 @@ private:
 
 class PermissionsRow : public ListRow<BehaviorInfoModel> {
 public:
-    using ListRow::ListRow;
+    PermissionsRow(const char *name, const FieldLabels &labels)
+        : ListRow(name, labels, FieldKind::Text, "[N]") {}
 
     void list(BehaviorInfoModel &behavior, const FieldPath &base,
               QVector<Field> &fields) const override {
         const QStringList permissions = behavior.permissionList();
         for (int i = 0; i < permissions.size(); ++i)
             fields.append({pathIn(base).index(i), FieldKind::Text, permissions.at(i), label()});
+    }
+    QJsonValue toJson(BehaviorInfoModel &behavior) const override {
+        return QJsonArray::fromStringList(behavior.permissionList());
     }
 
 protected:
@@ -181,7 +194,8 @@ protected:
 
 class PropertiesRow : public FieldRow<ServiceInfoModel> {
 public:
-    using FieldRow::FieldRow;
+    PropertiesRow(const char *name, const char *label)
+        : FieldRow(name, label, FieldKind::Text, "[NAME]") {}
 
     void list(ServiceInfoModel &service, const FieldPath &base,
               QVector<Field> &fields) const override {
@@ -209,10 +223,12 @@ public:
         };
         return {FieldCell{FieldKind::Text, current, set, remove}};
     }
-    QString describe(const Walk &walk, const OfOwner &of) const override {
-        return of(walk.selectors().empty()
-                      ? label()
-                      : named(label(), fromUtf8(walk.selectors().front().text)));
+    QJsonValue toJson(ServiceInfoModel &service) const override {
+        QJsonObject values;
+        const auto properties = service.properties();
+        for (auto it = properties.begin(); it != properties.end(); ++it)
+            values.insert(it.key(), it.value());
+        return values;
     }
 };
 
@@ -352,11 +368,13 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
                               QT_TRANSLATE_NOOP("Zel::PackageModel", "User requests"),
                               &B::isUserRequestable, &B::setUserRequestable);
         add<PermissionsRow>(table, "permissions",
-                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"),
-                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permissions"));
+                            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"),
+                                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Permissions")));
         add<BehaviorTextsRow<QString>>(
-            table, "conditions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Conditions"),
+            table, "conditions",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Conditions")),
+            "[PURPOSE][N]",
             [](const B &behavior) {
                 const QStringList purposes = behavior.purposes();
                 return std::vector<QString>(purposes.begin(), purposes.end());
@@ -369,21 +387,26 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
         add<Texts>(table, "descriptions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Description"),
                    &B::descriptions, &B::setDescription, &B::removeDescription);
         add<Lists>(
-            table, "tags", QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Tags"),
-            [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
+            table, "tags",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Tags")),
+            "[CODE][N]", [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
             BehaviorTexts<RobotLanguage>::Operations{&B::tags, &B::addTag, &B::insertTag,
                                                      &B::updateTag, &B::removeTag});
         add<Lists>(
-            table, "triggerSentences", QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentences"),
+            table, "triggerSentences",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentences")),
+            "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToTriggerSentences()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::triggerSentences, &B::addTriggerSentence, &B::insertTriggerSentence,
                 &B::updateTriggerSentence, &B::removeTriggerSentence});
         add<Lists>(
-            table, "loadingResponses", QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading responses"),
+            table, "loadingResponses",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading responses")),
+            "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToLoadingResponses()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::loadingResponses, &B::addLoadingResponse, &B::insertLoadingResponse,
@@ -439,6 +462,11 @@ const EntryKind<BehaviorInfoModel> behaviorEntries{
     &P::behavior,
     &BehaviorInfoModel::path,
     &recordOf<BehaviorInfoModel>,
+    [](const std::string &key) {
+        Tano::BehaviorInfo record;
+        record.setPath(key);
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertBehavior(index, std::get<Tano::BehaviorInfo>(record));
     },
@@ -452,6 +480,11 @@ const EntryKind<DialogInfoModel> dialogEntries{
     &P::dialog,
     &DialogInfoModel::topicName,
     &recordOf<DialogInfoModel>,
+    [](const std::string &key) {
+        Tano::DialogInfo record;
+        record.setTopicName(key);
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertDialog(index, std::get<Tano::DialogInfo>(record));
     },
@@ -465,6 +498,11 @@ const EntryKind<ServiceInfoModel> serviceEntries{
     &P::service,
     &ServiceInfoModel::name,
     &recordOf<ServiceInfoModel>,
+    [](const std::string &key) {
+        Tano::PackageService record;
+        record.name = key;
+        return FieldValue(record);
+    },
     [](P &package, int index, const FieldValue &record) {
         package.insertService(index, std::get<Tano::PackageService>(record));
     },
@@ -501,35 +539,46 @@ const FieldTable<PackageInfoModel> &packageFields() {
                 &P::setChannel);
         addText(table, "path", QT_TRANSLATE_NOOP("Zel::PackageModel", "Path"), &P::path,
                 &P::setPath);
-        add<LanguagesRow>(table, "supportedLanguages",
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"),
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported languages"), supported);
-        add<LanguagesRow>(table, "descriptionLanguages",
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description language"),
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description languages"),
-                          described);
+        add<LanguagesRow>(
+            table, "supportedLanguages",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported languages")),
+            supported);
+        add<LanguagesRow>(
+            table, "descriptionLanguages",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Description language"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Description languages")),
+            described);
         add<TextsRow<P>>(table, "names", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &P::names,
                          &P::setName, &P::removeName);
         add<TextsRow<P>>(table, "descriptions",
                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description"), &P::descriptions,
                          &P::setDescription, &P::removeDescription);
         add<RequirementsRow<RobotRequirement>>(
-            table, "robotRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirement"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirements"),
+            table, "robotRequirements",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirement"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirements")),
             operationsOf<RobotRequirement>());
         add<RequirementsRow<BrioRequirement>>(
-            table, "brioRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirement"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirements"),
+            table, "brioRequirements",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirement"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirements")),
             operationsOf<BrioRequirement>());
         add<EntriesRow<BehaviorInfoModel>>(
-            table, "behaviors", QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Behaviors"), behaviorEntries);
+            table, "behaviors",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Behaviors")),
+            FieldKind::Behavior, "[PATH]", behaviorEntries);
         add<EntriesRow<DialogInfoModel>>(
-            table, "dialogs", QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialogs"), dialogEntries);
+            table, "dialogs",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialogs")),
+            FieldKind::Dialog, "[NAME]", dialogEntries);
         add<EntriesRow<ServiceInfoModel>>(
-            table, "services", QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
-            QT_TRANSLATE_NOOP("Zel::PackageModel", "Services"), serviceEntries);
+            table, "services",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Services")),
+            FieldKind::Service, "[NAME]", serviceEntries);
         return table;
     }();
     return rows;

@@ -23,6 +23,8 @@ public:
     virtual FieldValue at(int index) const = 0;
     /// The index that the selectors of a path mean; -1 for none.
     virtual int find(const Selectors &selectors) const = 0;
+    /// The keys that select the items; nothing if they are selected by index.
+    virtual std::optional<QStringList> keys() const { return {}; }
     /// Appends the selectors of an item to the path of the list.
     virtual void select(Tano::FieldPath &path, int index) const = 0;
 
@@ -67,5 +69,10 @@ struct FieldTarget {
 FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path);
 /// The path of an item of a list that has it.
 Tano::FieldPath itemPath(const FieldTarget &list, int index);
+
+/// Why a path leads to nothing in a package.
+QString reasonOf(PackageInfoModel &package, const Tano::FieldPath &path);
+/// Why an owner with fields of these names has none of another.
+QString noFieldNamed(const QString &name, const QStringList &names);
 
 } // namespace Zel::PackageModel

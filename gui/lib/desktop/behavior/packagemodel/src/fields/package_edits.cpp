@@ -36,10 +36,6 @@ QString refusalOfValue(const FieldValue &value) {
     return text ? refusalOfText(*text) : QString();
 }
 
-QString noField() {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no such field."));
-}
-
 QString notForThis() {
     return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The field does not allow this change."));
 }
@@ -66,7 +62,9 @@ QString insertRefusal(const Edit &edit, const FieldTarget &target) {
 
 QString removeRefusal(const FieldTarget &target) {
     if (target.cell && target.cell->remove)
-        return target.cell->value ? QString() : noField();
+        return target.cell->value
+                   ? QString()
+                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none."));
     return target.item < 0 ? notForThis() : QString();
 }
 
@@ -79,9 +77,9 @@ QString moveRefusal(const Edit &edit, const FieldTarget &target) {
 }
 
 // Why an edit of what its path leads to changes nothing; empty if it can be applied.
-QString refusalOf(const Edit &edit, const FieldTarget &target) {
+QString refusalOf(PackageInfoModel &package, const Edit &edit, const FieldTarget &target) {
     if (!target.cell && !target.list)
-        return noField();
+        return reasonOf(package, edit.path);
     switch (edit.action) {
     case Edit::Action::Set:
         return setRefusal(edit, target);
@@ -146,7 +144,7 @@ Edits move(const Edit &edit, const FieldTarget &target) {
 
 Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     const FieldTarget target = targetOf(package, edit.path);
-    if (const QString reason = refusalOf(edit, target); !reason.isEmpty())
+    if (const QString reason = refusalOf(package, edit, target); !reason.isEmpty())
         return refused(edit, reason);
     switch (edit.action) {
     case Edit::Action::Set:
@@ -170,8 +168,8 @@ QString noPackage() {
 QString refusal(const PackageInfoModel *package, const Edit &edit) {
     if (!package)
         return noPackage();
-    // Only looked at: the target is not changed.
-    return refusalOf(edit, targetOf(const_cast<PackageInfoModel &>(*package), edit.path));
+    auto &target = const_cast<PackageInfoModel &>(*package); // it is only looked at
+    return refusalOf(target, edit, targetOf(target, edit.path));
 }
 
 Applied apply(PackageInfoModel *package, const Edit &edit) {

@@ -40,6 +40,28 @@ std::optional<FieldValue> value(const PackageInfoModel *package, const Tano::Fie
     return {};
 }
 
+QVector<FieldValue> entries(const PackageInfoModel *package, const Tano::FieldPath &path) {
+    QVector<FieldValue> values;
+    if (!package)
+        return values;
+    const FieldTarget target = targetOf(unconst(*package), path);
+    for (int i = 0; target.list && target.item < 0 && i < target.list->size(); ++i)
+        values.append(target.list->at(i));
+    return values;
+}
+
+std::optional<FieldForm> formOf(const Tano::FieldPath &path, QString *error) {
+    QString reason;
+    std::optional<FieldForm> form;
+    if (path.isEmpty())
+        reason = QCoreApplication::translate("Zel::PackageModel", "The path is empty.");
+    else
+        form = formIn(packageFields(), {path, 0}, reason);
+    if (error)
+        *error = reason;
+    return form;
+}
+
 Tano::FieldPath itemPath(const PackageInfoModel *package, const Tano::FieldPath &list, int index) {
     if (!package)
         return {};
@@ -63,6 +85,36 @@ QString printed(const FieldValue &value) {
     if (const auto *version = std::get_if<SoftwareVersion>(&value))
         return SoftwareVersionUtils::toString(*version);
     return {};
+}
+
+std::optional<FieldValue> parsedValue(FieldKind kind, const QString &text, QString *error) {
+    QString reason;
+    std::optional<FieldValue> value;
+    if (kind == FieldKind::Text) {
+        value = text;
+    } else if (kind == FieldKind::Flag) {
+        const bool isTrue = text == QLatin1String("true");
+        if (isTrue || text == QLatin1String("false"))
+            value = isTrue;
+        else
+            reason =
+                QCoreApplication::translate("Zel::PackageModel", "'%1' is neither true nor false.");
+    } else if (kind == FieldKind::Version) {
+        bool isVersion = true;
+        const SoftwareVersion version = SoftwareVersionUtils::fromString(text, &isVersion);
+        if (isVersion || text.isEmpty())
+            value = version;
+        else
+            reason = QCoreApplication::translate(
+                "Zel::PackageModel",
+                "'%1' is not a version: numbers with dots between them, as in 2.1.");
+    } else {
+        reason =
+            QCoreApplication::translate("Zel::PackageModel", "'%1' is no entry with its fields.");
+    }
+    if (error)
+        *error = reason.isEmpty() ? QString() : reason.arg(text);
+    return value;
 }
 
 } // namespace Zel::PackageModel

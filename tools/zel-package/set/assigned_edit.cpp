@@ -1,0 +1,168 @@
+#include "assigned_edit.h"
+
+#include "arguments/language_argument.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace ZelPackage {
+namespace {
+
+using Tano::FieldPath;
+using Zel::PackageModel::Edit;
+using Zel::PackageModel::FieldForm;
+using Zel::PackageModel::FieldKind;
+using Zel::PackageModel::FieldValue;
+
+QString text(const char *source) {
+    return QCoreApplication::translate("zel-package", source);
+}
+
+// Where an assignment adds an entry: "[+]" after the path of a list, then maybe one of its fields.
+struct Addition {
+    FieldPath list;
+    std::optional<std::string> field;
+};
+
+std::optional<Addition> additionOf(const FieldPath &path) {
+    const auto isEnd = [](const FieldPath &part) {
+        const auto &selectors = part.steps().back().selectors;
+        return !selectors.empty() && selectors.back().appends;
+    };
+    if (isEnd(path))
+        return Addition{path.parent(), {}};
+    const FieldPath owner = path.parent();
+    if (!owner.isEmpty() && path.steps().back().selectors.empty() && isEnd(owner))
+        return Addition{owner.parent(), path.steps().back().field};
+    return {};
+}
+
+class Resolver {
+public:
+    Resolver(const Assignment &assignment, const Zel::PackageInfoModel &package)
+        : m_assignment(assignment)
+        , m_package(package) {}
+
+    AssignedEdit resolve();
+
+private:
+    bool checkLanguage(const FieldForm &form, bool isAddition, QString &message) const;
+    AssignedEdit resolved(const FieldForm &form, const std::optional<Addition> &addition) const;
+    AssignedEdit add(const Addition &addition, const FieldForm &form) const;
+    AssignedEdit remove() const;
+    AssignedEdit set(const FieldForm &form) const;
+    bool has(const FieldPath &path) const {
+        return Zel::PackageModel::value(&m_package, path).has_value();
+    }
+
+    const Assignment &m_assignment;
+    const Zel::PackageInfoModel &m_package;
+};
+
+// A language is named by a key, or is itself the entry that is added.
+bool Resolver::checkLanguage(const FieldForm &form, bool isAddition, QString &message) const {
+    const auto &selectors = m_assignment.path.steps().back().selectors;
+    if (!form.selectors.startsWith(QLatin1String("[CODE]")) || selectors.empty())
+        return true;
+    const QString code = isAddition && selectors.size() == 1
+                             ? m_assignment.value.value_or(QString())
+                             : Zel::fromUtf8(selectors.front().text);
+    return languageArgument(code, message).has_value();
+}
+
+AssignedEdit Resolver::add(const Addition &addition, const FieldForm &form) const {
+    const QString value = m_assignment.value.value_or(QString());
+    if (value.isEmpty())
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
+    AssignedEdit result;
+    std::optional<FieldValue> entry =
+        Zel::PackageModel::parsedValue(form.kind, value, &result.error);
+    if (entry && addition.field) {
+        const auto listForm = Zel::PackageModel::formOf(addition.list);
+        const QJsonObject fields{
+            {QString::fromStdString(*addition.field), Zel::PackageModel::toJson(*entry)}};
+        entry = Zel::PackageModel::valueFromJson(listForm->kind, fields, &result.error);
+    }
+    if (!entry)
+        return result;
+    const auto entries = Zel::PackageModel::entries(&m_package, addition.list);
+    const bool isThere = entries.contains(*entry) ||
+                         (form.isKey && has(FieldPath(addition.list).key(Zel::toUtf8(value))));
+    if (!isThere)
+        result.edit = Edit{Edit::Action::Insert, addition.list, entry,
+                           m_assignment.index.value_or(int(entries.size()))};
+    return result;
+}
+
+AssignedEdit Resolver::remove() const {
+    const FieldPath &path = m_assignment.path;
+    if (has(path) || path.steps().back().selectors.back().toIndex())
+        return {Edit{Edit::Action::Remove, path}};
+    return {
+        {}, {}, text(QT_TRANSLATE_NOOP("zel-package", "There is none, so nothing is removed."))};
+}
+
+AssignedEdit Resolver::set(const FieldForm &form) const {
+    const QString value = m_assignment.value.value_or(QString());
+    if (value.isEmpty() && !m_assignment.path.steps().back().selectors.empty())
+        return remove();
+    if (value.isEmpty() && form.isKey)
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
+    if (value.isEmpty() && m_assignment.path == FieldPath().field("version"))
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "A package has a version."))};
+    AssignedEdit result;
+    if (form.kind > FieldKind::Version)
+        result.error =
+            text(QT_TRANSLATE_NOOP(
+                     "zel-package",
+                     "This is an entry: an empty VALUE removes it; a field of it is set as "
+                     "in '%1.FIELD=VALUE'."))
+                .arg(m_assignment.field);
+    else if (const auto parsed = Zel::PackageModel::parsedValue(form.kind, value, &result.error))
+        result.edit = Edit{Edit::Action::Set, m_assignment.path, parsed};
+    return result;
+}
+
+AssignedEdit Resolver::resolve() {
+    QString error;
+    const auto form = Zel::PackageModel::formOf(m_assignment.path, &error);
+    if (!form)
+        return {{}, error};
+    const auto addition = additionOf(m_assignment.path);
+    if (form->isList)
+        return {{},
+                text(QT_TRANSLATE_NOOP("zel-package", "This is a list: '%1[+]=VALUE' adds to it, "
+                                                      "'%1[+]@INDEX=VALUE' at an index."))
+                    .arg(m_assignment.field)};
+    if (m_assignment.index && m_assignment.value && !addition)
+        return {{},
+                text(QT_TRANSLATE_NOOP("zel-package", "'@INDEX' with a value adds an entry, so it "
+                                                      "follows the key [+]."))};
+    QString message;
+    if (!checkLanguage(*form, addition.has_value(), message))
+        return {{}, message};
+    AssignedEdit result = resolved(*form, addition);
+    if (result.remark.isEmpty())
+        result.remark = message;
+    return result;
+}
+
+AssignedEdit Resolver::resolved(const FieldForm &form,
+                                const std::optional<Addition> &addition) const {
+    if (addition)
+        return add(*addition, form);
+    if (m_assignment.value)
+        return set(form);
+    return {Edit{Edit::Action::Move, m_assignment.path, {}, *m_assignment.index}};
+}
+
+} // namespace
+
+AssignedEdit assignedEdit(const Assignment &assignment, const Zel::PackageInfoModel &package) {
+    return Resolver(assignment, package).resolve();
+}
+
+} // namespace ZelPackage

@@ -1,0 +1,284 @@
+#include "program_command.h"
+
+#include "assigned_edit.h"
+#include "console/text_diff.h"
+#include "manifest/manifest_source.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_issues.h>
+#include <packagemodel/package_json.h>
+#include <packagemodel/record_editor.h>
+
+#include <tano/save_file.h>
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+
+namespace ZelPackage {
+namespace {
+
+using Zel::PackageModel::Edit;
+using Zel::PackageModel::Edits;
+
+const QLatin1String dryRunOption("dry-run");
+const QLatin1String editsOption("edits");
+
+QList<QCommandLineOption> options() {
+    return {{dryRunOption,
+             QCoreApplication::translate("zel-package",
+                                         "Write nothing; print what would change, as a unified "
+                                         "diff.")},
+            {editsOption,
+             QCoreApplication::translate("zel-package",
+                                         "First make the edits in this JSON file, which "
+                                         "schema/edits.schema.json describes; '-' is standard "
+                                         "input."),
+             QStringLiteral("FILE")}};
+}
+
+// What the arguments ask for.
+struct Request {
+    QStringList files;
+    std::vector<Assignment> assignments;
+    Edits edits; // of the JSON file
+};
+
+// The files come first; returns false once it has reported what is wrong.
+bool readArguments(const QStringList &arguments, Request &request, Console &console) {
+    bool isFine = true;
+    for (const QString &argument : arguments) {
+        const bool isFile = request.assignments.empty() && isFine && !looksLikeAssignment(argument);
+        if (isFile) {
+            request.files += argument;
+            continue;
+        }
+        const auto assignment = parseAssignment(argument);
+        if (assignment)
+            request.assignments.push_back(*assignment);
+        else
+            console.tell(QCoreApplication::translate("zel-package",
+                                                     "'%1' is not of the form FIELD=VALUE, as in "
+                                                     "author=Ines or names[en_US]=Tea.")
+                             .arg(argument));
+        isFine = isFine && assignment;
+    }
+    return isFine;
+}
+
+bool readEdits(const QString &file, Request &request, Console &console) {
+    QString trouble;
+    const auto content = readContent(file, trouble);
+    if (content) {
+        auto parsed = Zel::PackageModel::editsFromJson(QByteArray::fromStdString(*content));
+        request.edits = parsed.edits;
+        trouble = parsed.error;
+    }
+    if (!trouble.isEmpty())
+        console.tell(file, trouble);
+    return trouble.isEmpty();
+}
+
+bool checkRequest(const Request &request, bool hasEdits, Console &console) {
+    const auto streams =
+        std::count_if(request.files.begin(), request.files.end(), isStandardStream);
+    QString trouble;
+    if (request.files.isEmpty())
+        trouble = QCoreApplication::translate("zel-package", "The FILE to edit is missing.");
+    else if (request.assignments.empty() && !hasEdits)
+        trouble =
+            QCoreApplication::translate("zel-package", "'%1' is not of the form FIELD=VALUE, as in "
+                                                       "author=Ines or names[en_US]=Tea.")
+                .arg(request.files.constLast());
+    else if (streams > 1)
+        trouble = QCoreApplication::translate("zel-package", "'-' can be given once only.");
+    if (!trouble.isEmpty())
+        console.tell(trouble);
+    return trouble.isEmpty();
+}
+
+// One manifest on its way through the edits.
+class FileEdit {
+public:
+    FileEdit(const QString &file, const Manifest &manifest, Console &console)
+        : m_file(file)
+        , m_console(console)
+        , m_written(manifest.package)
+        , m_editor(manifest.package) {}
+
+    /// Makes the edits, each on the result of those before it; reports every wrong one.
+    bool apply(const Request &request);
+    /// What the edited fields are at fault for that they were not before.
+    void reportNewFindings();
+    Tano::PackageInfo record() const { return m_editor.record(); }
+
+private:
+    using Finding = QPair<QString, QString>; // path and text
+
+    QVector<Finding> findingsOn(const Zel::PackageInfoModel &package) const;
+    bool apply(const Edits &edits);
+    bool apply(const Assignment &assignment);
+    void reportLostTopics(const Edit &edit, const Edits &inverse);
+
+    const QString &m_file;
+    Console &m_console;
+    const Tano::PackageInfo &m_written;
+    Zel::RecordEditor m_editor;
+    QSet<QString> m_edited; // the paths
+};
+
+// What is wrong with the edited fields of a package.
+QVector<FileEdit::Finding> FileEdit::findingsOn(const Zel::PackageInfoModel &package) const {
+    using namespace Zel::PackageModel;
+    constexpr int mostOfARule = 10000;
+    QHash<QString, int> counts;
+    QVector<Finding> found;
+    visitIssues(&package, [&](const Issue &issue) {
+        if (m_edited.contains(issue.path))
+            found.append({issue.path, issue.plainText()});
+        return ++counts[issue.id] < mostOfARule ? IssueVisit::Continue : IssueVisit::SkipRule;
+    });
+    return found;
+}
+
+bool FileEdit::apply(const Request &request) {
+    bool isFine = apply(request.edits);
+    for (const Assignment &assignment : request.assignments)
+        isFine = apply(assignment) && isFine;
+    return isFine;
+}
+
+bool FileEdit::apply(const Assignment &assignment) {
+    const AssignedEdit assigned = assignedEdit(assignment, *m_editor.package());
+    for (const QString &message : {assigned.error, assigned.remark}) {
+        if (!message.isEmpty())
+            m_console.tell(m_file, assignment.field % QStringLiteral(": ") % message);
+    }
+    if (!assigned.error.isEmpty())
+        return false;
+    return !assigned.edit || apply(Edits{*assigned.edit});
+}
+
+bool FileEdit::apply(const Edits &edits) {
+    for (const Edit &edit : edits) {
+        const auto applied = m_editor.apply({edit});
+        if (!applied.error.isEmpty()) {
+            m_console.tell(m_file, applied.error);
+            return false;
+        }
+        reportLostTopics(edit, applied.inverse);
+        m_edited.insert(Zel::fromUtf8(edit.path.toString()));
+    }
+    return true;
+}
+
+// The topics of dialogs go with a supported language.
+void FileEdit::reportLostTopics(const Edit &edit, const Edits &inverse) {
+    if (edit.action != Edit::Action::Remove)
+        return;
+    QStringList topics;
+    for (const Edit &restored : inverse) {
+        if (restored.action == Edit::Action::Set && restored.path != edit.path)
+            topics += Zel::fromUtf8(restored.path.toString());
+    }
+    if (!topics.isEmpty())
+        m_console.tell(m_file, Zel::fromUtf8(edit.path.toString()) % QStringLiteral(": ") %
+                                   QCoreApplication::translate("zel-package", "Also removes %1.")
+                                       .arg(topics.join(QStringLiteral(", "))));
+}
+
+void FileEdit::reportNewFindings() {
+    const auto found = findingsOn(*m_editor.package());
+    if (found.isEmpty())
+        return;
+    const auto known = findingsOn(Zel::PackageInfoModel(m_written));
+    for (const Finding &finding : found) {
+        if (!known.contains(finding))
+            m_console.tell(m_file, finding.first % QStringLiteral(": ") % finding.second);
+    }
+}
+
+// The bytes of an edited manifest; nothing once the fault has been reported.
+std::optional<std::string> editedContent(const QString &file, const Manifest &manifest,
+                                         const Request &request, Console &console) {
+    FileEdit edit(file, manifest, console);
+    if (!edit.apply(request))
+        return {};
+    const Tano::PackageInfo record = edit.record();
+    std::string content = record.saveToManifestContent();
+    if (content.empty()) {
+        console.tell(file, QString::fromStdString(record.errorString()));
+        return {};
+    }
+    edit.reportNewFindings();
+    return content;
+}
+
+ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
+    std::vector<Tano::FileToSave> saved;
+    QString printed;
+    std::string streamed;
+    bool isFine = true;
+    for (const QString &file : request.files) {
+        const auto manifest = readManifest(file, console);
+        const auto content =
+            manifest ? editedContent(file, *manifest, request, console) : std::nullopt;
+        isFine = isFine && content;
+        if (!content)
+            continue;
+        if (isDryRun)
+            printed += unifiedDiff(file, manifest->content, *content, console);
+        else if (isStandardStream(file))
+            streamed = *content;
+        else if (manifest->content != *content)
+            saved.push_back({file.toStdString(), *content,
+                             Tano::FileFingerprint::ofContent(manifest->content)});
+    }
+    if (!isFine)
+        return Failure;
+    if (const Tano::SaveResult result = Tano::saveFiles(saved); !result) {
+        console.tell(QString::fromStdString(result.error));
+        return Failure;
+    }
+    console.print(printed);
+    console.printBytes(streamed);
+    return Fine;
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    Request request;
+    const bool hasEdits = arguments.isSet(editsOption);
+    if (!readArguments(arguments.positionalArguments(), request, console) ||
+        !checkRequest(request, hasEdits, console))
+        return Failure;
+    if (hasEdits && !readEdits(arguments.value(editsOption), request, console))
+        return Failure;
+    return editFiles(request, arguments.isSet(dryRunOption), console);
+}
+
+} // namespace
+
+const ProgramCommand setCommand{
+    "set",
+    QT_TRANSLATE_NOOP("zel-package", "Set fields of manifests"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE... FIELD=VALUE... [--edits FILE] [--dry-run]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Sets fields, named as in 'show --format json': author=Ines, names[fr_FR]=Goûter, "
+        "robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty "
+        "VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds "
+        "one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds it at "
+        "an index, from 0 on: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
+        "behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so "
+        "that a command can be repeated. Either all fields of all files are set or, where one is "
+        "wrong, none. Files are rewritten in the canonical form with nothing lost. '-' takes "
+        "standard input and writes to standard output; a file whose name has a '=' is given with "
+        "its folder, as in ./a=b.xml."),
+    1,
+    ProgramCommand::anyNumber,
+    options,
+    run,
+};
+
+} // namespace ZelPackage
