@@ -1,8 +1,10 @@
 #include "golden.h"
 #include "text.h"
 
+#include <packagemodel/package_difference.h>
 #include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
 
 #include <QSet>
 #include <QTest>
@@ -47,6 +49,67 @@ QByteArray cacheDifference(const PackageInfoModel &package) {
                                            "Description language “%2”")
                                 .arg(language.isoCode(), language.uiName()));
     return differing.join(u'\n').toUtf8();
+}
+
+// The fields of a package in the order that a difference keeps: texts by their language's code.
+QList<QByteArray> orderedListing(const PackageInfoModel &package) {
+    QList<QByteArray> lines = listing(package).split('\n');
+    std::sort(lines.begin(), lines.end());
+    return listing(PackageInfoModel(package.packageInfo())).split('\n') + lines;
+}
+
+// Edits as lines: the action, the path, the index where it has one, the value or a behavior's path.
+const QStringList &actions() {
+    static const QStringList names{text("set"), text("insert"), text("remove"), text("move")};
+    return names;
+}
+
+bool hasIndex(const Edit &edit) {
+    return edit.action == Edit::Action::Insert || edit.action == Edit::Action::Move;
+}
+
+QString script(const Edits &edits) {
+    QString lines;
+    for (const Edit &edit : edits) {
+        lines += actions().at(int(edit.action)) % u' ' % fromUtf8(edit.path.toString());
+        if (hasIndex(edit))
+            lines += u' ' % QString::number(edit.index);
+        const FieldValue value = edit.value.value_or(QString());
+        if (const auto *behavior = std::get_if<Tano::BehaviorInfo>(&value))
+            lines += u' ' % fromUtf8(behavior->path());
+        else if (edit.value)
+            lines += u' ' % printed(value);
+        lines += u'\n';
+    }
+    return lines;
+}
+
+Edit editOf(const QString &line) {
+    QStringList words = line.split(u' ');
+    const auto action = Edit::Action(actions().indexOf(words.takeFirst()));
+    Edit edit{action, path(words.takeFirst().toUtf8().constData())};
+    if (hasIndex(edit))
+        edit.index = words.takeFirst().toInt();
+    const QString value = words.join(u' ');
+    Tano::BehaviorInfo behavior;
+    behavior.setPath(toUtf8(value));
+    const std::string &field = edit.path.steps().back().field;
+    if (edit.path == path("behaviors"))
+        edit.value = behavior;
+    else if (field == "version" || field == "maxBodyVersion")
+        edit.value = SoftwareVersionUtils::fromString(value);
+    else
+        edit.value = value;
+    return edit;
+}
+
+Edits editsOf(const QString &lines) {
+    Edits edits;
+    for (const QString &line : lines.split(u'\n')) {
+        if (!line.isEmpty())
+            edits.append(editOf(line));
+    }
+    return edits;
 }
 
 // Random edits of a package: of its fields, and of lists found by dropping selectors.
@@ -107,6 +170,11 @@ private Q_SLOTS:
     void allOrNone();
     void inversesRestoreEverything_data();
     void inversesRestoreEverything();
+    void differences_data() { inversesRestoreEverything_data(); }
+    void differences();
+    void fewEdits_data();
+    void fewEdits();
+    void repeatedPermissions();
     void otherModelsStay();
     void typedRuns();
     void renamedRuns();
@@ -233,6 +301,8 @@ void TestPackageEdits::inversesRestoreEverything() {
         const QByteArray after = bytes();
         QVERIFY2(cacheDifference(*m_package).isEmpty(),
                  describe(cacheDifference(*m_package) + " after").c_str());
+        QVERIFY2(editsFromJson(toJson(applied.inverse)).edits == applied.inverse,
+                 describe("JSON of the inverse").c_str());
         const Applied back = apply(m_package.get(), applied.inverse);
         QVERIFY2(back.error.isEmpty(), describe(back.error.toUtf8() + " by the inverse").c_str());
         QVERIFY2(bytes() == before,
@@ -244,6 +314,125 @@ void TestPackageEdits::inversesRestoreEverything() {
     QCOMPARE(apply(m_package.get(), undo).error, QString());
     QCOMPARE(bytes(), initial);
     QCOMPARE(cacheDifference(*m_package), QByteArray());
+}
+
+void TestPackageEdits::differences() {
+    QFETCH(unsigned, seed);
+    RandomEdits random(seed);
+    PackageInfoModel target;
+    QVERIFY(target.loadFromManifestContent(bytes()));
+    for (int round = 0; round < 6; ++round) {
+        for (int step = 0; step < 10; ++step) {
+            apply(&target, random.next(target));
+            if (step < round)
+                apply(m_package.get(), random.next(*m_package));
+        }
+        const QByteArray before = bytes();
+        const Edits found = edits(m_package.get(), &target);
+        const ParsedEdits read = editsFromJson(toJson(found));
+        QVERIFY2(read.error.isEmpty() && read.edits == found, qPrintable(read.error));
+        const Applied applied = apply(m_package.get(), found);
+        QVERIFY2(applied.error.isEmpty(), qPrintable(applied.error + u'\n' + script(found)));
+        QCOMPARE(orderedListing(*m_package), orderedListing(target));
+        QCOMPARE(cacheDifference(*m_package), QByteArray());
+        QCOMPARE(script(edits(m_package.get(), &target)), QString());
+        QCOMPARE(apply(m_package.get(), applied.inverse).error, QString());
+        QCOMPARE(bytes().split('\n'), before.split('\n'));
+    }
+}
+
+void TestPackageEdits::fewEdits_data() {
+    QTest::addColumn<QString>("setup");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("found");
+    const auto row = [](const char *name, const char *setup, const char *change,
+                        const char *found = nullptr) {
+        QTest::newRow(name) << text(setup) << text(change) << text(found ? found : change);
+    };
+    row("nothing", "", "");
+    row("values", "",
+        "set version 4.5.6\nset author B\nset robotRequirements[1].maxBodyVersion 3.0\n"
+        "set behaviors[greet].nature x\nset services[clock].properties[zone] CET\n");
+    row("texts", "",
+        "remove names[en_US]\nset names[fr_FR] \nset dialogs[talk].topics[xx_YY] x\n"
+        "remove services[clock].properties[zone]\nset services[clock].properties[b] \n");
+    row("first to last", "insert behaviors 0 a\ninsert behaviors 1 b\n",
+        "move supportedLanguages[en_US] 2\nmove behaviors[a] 4\n");
+    row("last to first", "",
+        "move robotRequirements[0] 1\nmove behaviors[odd\\]\\\\path] 0\n"
+        "move behaviors[greet].permissions[0] 1\n");
+    row("moves of several", "insert behaviors 0 a\ninsert behaviors 1 b\n",
+        "move behaviors[b] 4\nmove behaviors[a] 4\n");
+    row("insertions", "",
+        "insert behaviors[greet].conditions[launch] 1 c\n"
+        "insert behaviors[greet].tags[en_US] 1 new\n"
+        "insert behaviors[greet].tags[en_US] 4 y\n"
+        "insert behaviors 1 b\n");
+    row("removals", "",
+        "remove behaviors[greet].tags[en_US][0]\n"
+        "remove behaviors[greet].loadingResponses[fr_FR][0]\nremove dialogs[talk]\n");
+    row("items replaced", "",
+        "set behaviors[greet].permissions[1] light\nset behaviors[greet].tags[en_US][1] z\n");
+    row("renamed and moved", "insert behaviors 0 a\n",
+        "set behaviors[a].path b\nmove behaviors[b] 3\nset dialogs[talk].topicName x\n");
+    row("swapped paths", "insert behaviors 0 a\nset behaviors[a].nature x\ninsert behaviors 1 b\n",
+        "set behaviors[a].path c\nset behaviors[b].path a\nset behaviors[c].path b\n",
+        "move behaviors[a] 1\nset behaviors[b].nature x\nset behaviors[a].nature \n");
+    row("equal paths", "set behaviors[greet][1].nature x\ninsert behaviors 3 greet\n",
+        "move behaviors[greet] 3\nremove behaviors[greet]\n",
+        "remove behaviors[greet][1]\nmove behaviors[greet] 2\n");
+    row("a path that several have", "", "set behaviors[greet][1].path a\n");
+    row("a path that others take",
+        "insert behaviors 0 a\ninsert behaviors 1 b\ninsert behaviors 2 d\n"
+        "set behaviors[d].nature x\n",
+        "remove behaviors[d]\nremove behaviors[b]\nset behaviors[a].path c\n"
+        "insert behaviors 1 c\ninsert behaviors 5 greet\nset behaviors[greet][2].nature x\n",
+        "remove behaviors[d]\nremove behaviors[b]\nset behaviors[a].path c\n"
+        "insert behaviors 1 c\ninsert behaviors 5 greet\n");
+    row("language added", "", "insert supportedLanguages 1 de_DE\n");
+    row("language added without descriptions", "",
+        "insert supportedLanguages 1 de_DE\nremove descriptionLanguages[de_DE]\n");
+    row("language removed", "", "remove supportedLanguages[fr_FR]\n");
+    row("language removed except for its topic", "",
+        "remove supportedLanguages[fr_FR]\nset dialogs[talk].topics[fr_FR] talk_fr.top\n");
+}
+
+void TestPackageEdits::fewEdits() {
+    QFETCH(QString, setup);
+    QFETCH(QString, change);
+    QCOMPARE(apply(m_package.get(), editsOf(setup)).error, QString());
+    PackageInfoModel target(*m_package);
+    QCOMPARE(apply(&target, editsOf(change)).error, QString());
+    const Edits found = edits(m_package.get(), &target);
+    QTEST(script(found), "found");
+    const QByteArray before = bytes();
+    const Applied applied = apply(m_package.get(), found);
+    QCOMPARE(applied.error, QString());
+    QCOMPARE(orderedListing(*m_package), orderedListing(target));
+    QCOMPARE(apply(m_package.get(), applied.inverse).error, QString());
+    QCOMPARE(bytes(), before);
+    QVERIFY(edits(nullptr, &target).isEmpty() && edits(&target, nullptr).isEmpty());
+}
+
+void TestPackageEdits::repeatedPermissions() {
+    const auto load = [](PackageInfoModel &package, const QStringList &permissions) {
+        const QString elements = permissions.join(text("</permission><permission>"));
+        return package.loadFromManifestContent(
+            QString(text("<package format=\"1\" uid=\"u\" version=\"1\"><behavior path=\"p\">"
+                         "<permission>") %
+                    elements % text("</permission></behavior></package>"))
+                .toUtf8());
+    };
+    const QStringList repeated{text("a"), text("b"), text("a"), text("c")};
+    PackageInfoModel target;
+    QVERIFY(load(*m_package, repeated) && load(target, {text("a"), text("b")}));
+    QVERIFY(edits(m_package.get(), m_package.get()).isEmpty());
+    QCOMPARE(apply(m_package.get(), edits(m_package.get(), &target)).error, QString());
+    QCOMPARE(listing(*m_package), listing(target));
+    QVERIFY(load(target, repeated));
+    QCOMPARE(apply(m_package.get(), edits(m_package.get(), &target)).error, QString());
+    QCOMPARE(m_package->behaviors().at(0)->permissionList(),
+             QStringList({text("a"), text("b"), text("c")}));
 }
 
 void TestPackageEdits::otherModelsStay() {

@@ -328,10 +328,6 @@
         <translation>« %1 » est déjà pris.</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>Robot</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>Version minimale de la tête</translation>
     </message>
@@ -662,6 +658,10 @@
     <message>
         <source>%1 for “%2”</source>
         <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
     </message>
 </context>
 <context>

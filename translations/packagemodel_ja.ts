@@ -328,10 +328,6 @@
         <translation>「%1」は既に使われています。</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>ロボット</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>頭部の最小バージョン</translation>
     </message>
@@ -662,6 +658,10 @@
     <message>
         <source>%1 for “%2”</source>
         <translation>%1 (目的: %2)</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
     </message>
 </context>
 <context>

@@ -313,48 +313,16 @@
         <translation>ceci est l&apos;uid</translation>
     </message>
     <message>
-        <source>uid</source>
-        <translation>uid</translation>
-    </message>
-    <message>
-        <source>version</source>
-        <translation>version</translation>
-    </message>
-    <message>
         <source>type version</source>
         <translation>version de type</translation>
     </message>
     <message>
-        <source>installer</source>
-        <translation>installateur</translation>
+        <source>Runs in</source>
+        <translation>Fonctionne en</translation>
     </message>
     <message>
-        <source>author</source>
-        <translation>auteur</translation>
-    </message>
-    <message>
-        <source>organization</source>
-        <translation>organisation</translation>
-    </message>
-    <message>
-        <source>date</source>
-        <translation>date</translation>
-    </message>
-    <message>
-        <source>channel</source>
-        <translation>canal</translation>
-    </message>
-    <message>
-        <source>path</source>
-        <translation>chemin</translation>
-    </message>
-    <message>
-        <source>runs in</source>
-        <translation>fonctionne en</translation>
-    </message>
-    <message>
-        <source>described in</source>
-        <translation>décrit en</translation>
+        <source>Described in</source>
+        <translation>Décrit en</translation>
     </message>
     <message>
         <source>the same languages</source>
@@ -601,8 +569,8 @@
         <translation>Énumère les robots qu&apos;un paquet peut exiger, familles et modèles, et pour chacun le modèle d&apos;une exigence ; il est vide pour tout robot. Un manifeste peut en exiger d&apos;autres.</translation>
     </message>
     <message>
-        <source>scripts in</source>
-        <translation>scripts en</translation>
+        <source>Scripts in</source>
+        <translation>Scripts en</translation>
     </message>
     <message>
         <source>Of each rule, only the first %1 findings are listed.</source>

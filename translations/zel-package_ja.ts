@@ -313,47 +313,15 @@
         <translation>これは uid です</translation>
     </message>
     <message>
-        <source>uid</source>
-        <translation>uid</translation>
-    </message>
-    <message>
-        <source>version</source>
-        <translation>バージョン</translation>
-    </message>
-    <message>
         <source>type version</source>
         <translation>種別バージョン</translation>
     </message>
     <message>
-        <source>installer</source>
-        <translation>インストーラー</translation>
-    </message>
-    <message>
-        <source>author</source>
-        <translation>作者</translation>
-    </message>
-    <message>
-        <source>organization</source>
-        <translation>組織</translation>
-    </message>
-    <message>
-        <source>date</source>
-        <translation>日付</translation>
-    </message>
-    <message>
-        <source>channel</source>
-        <translation>チャンネル</translation>
-    </message>
-    <message>
-        <source>path</source>
-        <translation>パス</translation>
-    </message>
-    <message>
-        <source>runs in</source>
+        <source>Runs in</source>
         <translation>対応言語</translation>
     </message>
     <message>
-        <source>described in</source>
+        <source>Described in</source>
         <translation>説明の言語</translation>
     </message>
     <message>
@@ -601,7 +569,7 @@
         <translation>パッケージが要件にできるロボットをファミリーとモデルで一覧にし、それぞれについてロボット要件のモデルの値を示します。すべてのロボットの場合は空です。マニフェストではこれ以外のロボットも要件にできます。</translation>
     </message>
     <message>
-        <source>scripts in</source>
+        <source>Scripts in</source>
         <translation>スクリプトの言語</translation>
     </message>
     <message>

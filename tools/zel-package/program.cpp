@@ -1,5 +1,5 @@
 #include "arguments/suggestion.h"
-#include "console/field_list.h"
+#include "console/labeled_list.h"
 #include "console/text_layout.h"
 #include "program_command.h"
 
@@ -23,7 +23,7 @@ QString paragraph(const QString &text, const Console &console) {
     return wrapped(text, console.width()).join(u'\n') % QStringLiteral("\n\n");
 }
 
-QString titled(const QString &title, const FieldList &fields, const Console &console) {
+QString titled(const QString &title, const LabeledList &fields, const Console &console) {
     return console.styled(title, Style::Heading) % u'\n' % fields.toText(console, 2);
 }
 
@@ -33,7 +33,7 @@ QString usageOf(const ProgramCommand &command) {
 }
 
 void printHelp(Console &console) {
-    FieldList list;
+    LabeledList list;
     for (const ProgramCommand *command : commands)
         list.add(QLatin1String(command->name), translated(command->summary));
     console.print(
@@ -44,7 +44,7 @@ void printHelp(Console &console) {
                                               "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
-    FieldList options;
+    LabeledList options;
     options.add(QStringLiteral("-h, --help"),
                 QCoreApplication::translate("zel-package",
                                             "Show this help; after a command, that command's."));
@@ -65,7 +65,7 @@ QString labelOf(const QCommandLineOption &option) {
 void printHelp(const ProgramCommand &command, Console &console) {
     console.print(QCoreApplication::translate("zel-package", "Usage: %1").arg(usageOf(command)) %
                   QStringLiteral("\n\n") % paragraph(translated(command.description), console));
-    FieldList list;
+    LabeledList list;
     const auto options = command.options();
     for (const QCommandLineOption &option : options)
         list.add(labelOf(option), option.description());

@@ -1,11 +1,12 @@
 #include "show_text.h"
 
-#include "console/field_list.h"
+#include "console/labeled_list.h"
 #include "console/text_layout.h"
 #include "coverage_table.h"
 #include "shown_text.h"
 
 #include <packagemodel/package_coverage.h>
+#include <packagemodel/package_fields.h>
 #include <packagemodel/package_info_model.h>
 
 #include <algorithm>
@@ -28,7 +29,7 @@ QString heading(const QString &title, const Console &console) {
 // One behavior, dialog or service.
 struct Entry {
     QString title;
-    FieldList fields;
+    LabeledList fields;
 };
 
 QString entriesSection(const QString &title, const std::vector<Entry> &entries,
@@ -64,14 +65,14 @@ QString codesOf(const Zel::RobotLanguages &languages) {
     return codes.join(QStringLiteral(", "));
 }
 
-void add(FieldList &fields, const QString &label, const ShownText &shown) {
+void add(LabeledList &fields, const QString &label, const ShownText &shown) {
     if (shown.remark.isEmpty())
         fields.add(label, shown.text);
     else
         fields.addMarked(label, shown.text, shown.remark);
 }
 
-void addMissing(FieldList &fields, const QString &label, const RobotLanguage &language) {
+void addMissing(LabeledList &fields, const QString &label, const RobotLanguage &language) {
     fields.addMarked(
         label, {},
         QCoreApplication::translate("zel-package", "missing in %1").arg(language.isoCode()));
@@ -82,7 +83,7 @@ bool isSpokenIn(const RobotLanguage &language, const Zel::PackageInfoModel &pack
     return package.hasLanguageSupport(language) || !package.hasLanguageDescription(language);
 }
 
-void addLanguages(FieldList &fields, const QString &label, const Zel::RobotLanguages &languages,
+void addLanguages(LabeledList &fields, const QString &label, const Zel::RobotLanguages &languages,
                   const Zel::PackageInfoModel &package) {
     fields.addFilled(label, !languages.empty() && languages == package.supportedLanguages()
                                 ? QCoreApplication::translate("zel-package", "the same languages")
@@ -100,23 +101,14 @@ ShownText shownDescription(const Zel::PackageInfoModel &package, const RobotLang
 }
 
 QString identitySection(const Zel::PackageInfoModel &package, const Console &console) {
-    FieldList fields;
-    fields.add(QCoreApplication::translate("zel-package", "uid"), package.uid());
-    fields.add(QCoreApplication::translate("zel-package", "version"), toString(package.version()));
-    fields.addFilled(QCoreApplication::translate("zel-package", "type version"),
-                     package.typeVersion());
-    fields.addFilled(QCoreApplication::translate("zel-package", "installer"), package.installer());
-    fields.addFilled(QCoreApplication::translate("zel-package", "author"), package.author());
-    fields.addFilled(QCoreApplication::translate("zel-package", "organization"),
-                     package.organization());
-    fields.addFilled(QCoreApplication::translate("zel-package", "date"), package.date());
-    fields.addFilled(QCoreApplication::translate("zel-package", "channel"), package.channel());
-    fields.addFilled(QCoreApplication::translate("zel-package", "path"), package.path());
-    fields.addFilled(QCoreApplication::translate("zel-package", "runs in"),
+    LabeledList fields;
+    for (const auto &field : Zel::PackageModel::plainFields(&package))
+        fields.addFilled(field.label, Zel::PackageModel::printed(field.value));
+    fields.addFilled(QCoreApplication::translate("zel-package", "Runs in"),
                      codesOf(package.supportedLanguages()));
-    addLanguages(fields, QCoreApplication::translate("zel-package", "described in"),
+    addLanguages(fields, QCoreApplication::translate("zel-package", "Described in"),
                  package.descriptionLanguages(), package);
-    addLanguages(fields, QCoreApplication::translate("zel-package", "scripts in"),
+    addLanguages(fields, QCoreApplication::translate("zel-package", "Scripts in"),
                  scriptLanguagesOf(package), package);
     return heading(QCoreApplication::translate("zel-package", "Identity"), console) %
            fields.toText(console, indent);
@@ -124,7 +116,7 @@ QString identitySection(const Zel::PackageInfoModel &package, const Console &con
 
 QString textsIn(const RobotLanguage &language, const Zel::PackageInfoModel &package,
                 const Console &console) {
-    FieldList fields;
+    LabeledList fields;
     add(fields, QCoreApplication::translate("zel-package", "name"), shownName(package, language));
     add(fields, QCoreApplication::translate("zel-package", "description"),
         shownDescription(package, language));
@@ -132,7 +124,7 @@ QString textsIn(const RobotLanguage &language, const Zel::PackageInfoModel &pack
 }
 
 QString textsInAll(const Zel::PackageInfoModel &package, const Console &console) {
-    FieldList fields;
+    LabeledList fields;
     for (const RobotLanguage &language : Zel::PackageModel::languages(&package)) {
         const QString name = package.name(language);
         const QString description = package.description(language);
@@ -171,7 +163,7 @@ QString versionsOf(const Zel::RobotRequirement &requirement) {
 }
 
 QString requirementsSection(const Zel::PackageInfoModel &package, const Console &console) {
-    FieldList fields;
+    LabeledList fields;
     const auto robots = package.robotRequirements();
     for (const Zel::RobotRequirement &requirement : robots)
         fields.add(requirement.model.isEmpty()
@@ -207,7 +199,7 @@ QString coverageSection(const std::optional<RobotLanguage> &language,
 
 // A list that exists in another language only is missing, where one is expected; nothing stands in
 // for it.
-void addList(FieldList &fields, const QString &label,
+void addList(LabeledList &fields, const QString &label,
              const Zel::Language::LocalizedStringLists &lists, const RobotLanguage &language,
              bool isExpected, const QString &separator) {
     QStringList texts;
@@ -221,7 +213,7 @@ void addList(FieldList &fields, const QString &label,
         addMissing(fields, label, language);
 }
 
-void addConditions(FieldList &fields, const Zel::BehaviorInfoModel &behavior) {
+void addConditions(LabeledList &fields, const Zel::BehaviorInfoModel &behavior) {
     const Tano::BehaviorInfo record = behavior.toBehaviorInfo();
     for (const auto &[purpose, values] : record.purposesToConditions()) {
         const QString text = Zel::fromUtf8(purpose);
@@ -241,7 +233,7 @@ QString kindOf(const Zel::BehaviorInfoModel &behavior) {
 
 Entry behaviorEntry(const Zel::BehaviorInfoModel &behavior, const RobotLanguage &language,
                     bool isSpoken) {
-    FieldList fields;
+    LabeledList fields;
     add(fields, QCoreApplication::translate("zel-package", "name"),
         shownText([&](const RobotLanguage &lang) { return behavior.name(lang); }, language,
                   behavior.path(), QCoreApplication::translate("zel-package", "this is the path")));
@@ -280,7 +272,7 @@ QString dialogsSection(const Zel::PackageInfoModel &package,
     std::vector<Entry> entries;
     const auto dialogs = package.dialogs();
     for (const Zel::DialogInfoModel *dialog : dialogs) {
-        FieldList fields;
+        LabeledList fields;
         fields.addFilled(QCoreApplication::translate("zel-package", "type version"),
                          dialog->typeVersion());
         for (const auto &[path, itsLanguage] : dialog->topics()) {
@@ -299,7 +291,7 @@ QString servicesSection(const Zel::PackageInfoModel &package, const Console &con
     std::vector<Entry> entries;
     const auto services = package.services();
     for (const Zel::ServiceInfoModel *service : services) {
-        FieldList fields;
+        LabeledList fields;
         fields.addFilled(QCoreApplication::translate("zel-package", "command"),
                          service->execStart());
         fields.add(QCoreApplication::translate("zel-package", "starts"),

@@ -13,7 +13,7 @@ namespace {
 
 // One kind of list of a behavior: the model's operations on it.
 template<typename Key>
-struct ListKind {
+struct CommandList {
     QStringList (BehaviorInfoModel::*list)(const Key &key) const;
     bool (BehaviorInfoModel::*append)(const QString &value, const Key &key);
     bool (BehaviorInfoModel::*insert)(const QString &value, const Key &key, int index);
@@ -21,46 +21,47 @@ struct ListKind {
     bool (BehaviorInfoModel::*remove)(int index, const Key &key);
 };
 
-constexpr ListKind<RobotLanguage> tags{&BehaviorInfoModel::tags, &BehaviorInfoModel::addTag,
-                                       &BehaviorInfoModel::insertTag, &BehaviorInfoModel::updateTag,
-                                       &BehaviorInfoModel::removeTag};
+constexpr CommandList<RobotLanguage> tags{
+    &BehaviorInfoModel::tags, &BehaviorInfoModel::addTag, &BehaviorInfoModel::insertTag,
+    &BehaviorInfoModel::updateTag, &BehaviorInfoModel::removeTag};
 
-constexpr ListKind<RobotLanguage> triggerSentences{
+constexpr CommandList<RobotLanguage> triggerSentences{
     &BehaviorInfoModel::triggerSentences, &BehaviorInfoModel::addTriggerSentence,
     &BehaviorInfoModel::insertTriggerSentence, &BehaviorInfoModel::updateTriggerSentence,
     &BehaviorInfoModel::removeTriggerSentence};
 
-constexpr ListKind<RobotLanguage> loadingResponses{
+constexpr CommandList<RobotLanguage> loadingResponses{
     &BehaviorInfoModel::loadingResponses, &BehaviorInfoModel::addLoadingResponse,
     &BehaviorInfoModel::insertLoadingResponse, &BehaviorInfoModel::updateLoadingResponse,
     &BehaviorInfoModel::removeLoadingResponse};
 
-constexpr ListKind<QString> conditions{
+constexpr CommandList<QString> conditions{
     &BehaviorInfoModel::conditions, &BehaviorInfoModel::addCondition,
     &BehaviorInfoModel::insertCondition, &BehaviorInfoModel::updateCondition,
     &BehaviorInfoModel::removeCondition};
 
 template<typename Key>
-QStringList listOf(const BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &key) {
+QStringList listOf(const BehaviorInfoModel *behavior, const CommandList<Key> &kind,
+                   const Key &key) {
     return callOn(behavior, kind.list, key);
 }
 
 template<typename Key>
-QString itemAt(const BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &key,
+QString itemAt(const BehaviorInfoModel *behavior, const CommandList<Key> &kind, const Key &key,
                int index) {
     return listOf(behavior, kind, key).value(index);
 }
 
 template<typename Key>
-void setItem(BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &key, int index,
+void setItem(BehaviorInfoModel *behavior, const CommandList<Key> &kind, const Key &key, int index,
              const QString &value) {
     callOn(behavior, kind.update, index, value, key); // refuses an index outside the list
 }
 
 // Receivers of the addition may remove the behavior.
 template<typename Key>
-int addItem(const QPointer<BehaviorInfoModel> &behavior, const ListKind<Key> &kind, const Key &key,
-            const QString &value, int index) {
+int addItem(const QPointer<BehaviorInfoModel> &behavior, const CommandList<Key> &kind,
+            const Key &key, const QString &value, int index) {
     const auto items = [&] { return listOf(behavior.data(), kind, key); };
     const auto size = items().size();
     if ((index < 0 || index >= size) && callOn(behavior.data(), kind.append, value, key))
@@ -71,7 +72,7 @@ int addItem(const QPointer<BehaviorInfoModel> &behavior, const ListKind<Key> &ki
 }
 
 template<typename Key>
-QString removeItem(BehaviorInfoModel *behavior, const ListKind<Key> &kind, const Key &key,
+QString removeItem(BehaviorInfoModel *behavior, const CommandList<Key> &kind, const Key &key,
                    int index, bool *ok) {
     const QStringList list = listOf(behavior, kind, key);
     const bool isThere = index >= 0 && index < list.size();

@@ -3,50 +3,24 @@
 #include "copies.h"
 #include "localized_texts.h"
 #include "package_info_data.h"
+#include "package_texts.h"
 
 #include <algorithm>
 
 namespace Zel {
 namespace {
 
-// One of the package's plain texts: the operations of the record behind it, and the notification
-// that its setter sends.
-struct TextField {
-    const std::string &(Tano::PackageInfo::*text)() const;
-    void (Tano::PackageInfo::*setText)(const std::string &text);
-    void (PackageInfoModel::*updated)(const QString &text);
-};
-
-constexpr TextField installerField{&Tano::PackageInfo::installer, &Tano::PackageInfo::setInstaller,
-                                   &PackageInfoModel::installerUpdated};
-constexpr TextField uidField{&Tano::PackageInfo::uuid, &Tano::PackageInfo::setUuid,
-                             &PackageInfoModel::uidUpdated};
-constexpr TextField typeVersionField{&Tano::PackageInfo::typeVersion,
-                                     &Tano::PackageInfo::setTypeVersion,
-                                     &PackageInfoModel::typeVersionUpdated};
-constexpr TextField authorField{&Tano::PackageInfo::author, &Tano::PackageInfo::setAuthor,
-                                &PackageInfoModel::authorUpdated};
-constexpr TextField organizationField{&Tano::PackageInfo::organization,
-                                      &Tano::PackageInfo::setOrganization,
-                                      &PackageInfoModel::organizationUpdated};
-constexpr TextField dateField{&Tano::PackageInfo::date, &Tano::PackageInfo::setDate,
-                              &PackageInfoModel::dateUpdated};
-constexpr TextField channelField{&Tano::PackageInfo::channel, &Tano::PackageInfo::setChannel,
-                                 &PackageInfoModel::channelUpdated};
-constexpr TextField pathField{&Tano::PackageInfo::path, &Tano::PackageInfo::setPath,
-                              &PackageInfoModel::pathUpdated};
-
-QString textOf(const Tano::PackageInfo &record, const TextField &field) {
-    return fromUtf8((record.*field.text)());
+QString textOf(const Tano::PackageInfo &record, const PackageText &row) {
+    return fromUtf8((record.*row.recorded)());
 }
 
-void setText(PackageInfoModel *model, Tano::PackageInfo &record, const TextField &field,
+void setText(PackageInfoModel *model, Tano::PackageInfo &record, const PackageText &row,
              const QString &newText) {
-    if (textOf(record, field) == newText)
+    if (textOf(record, row) == newText)
         return;
     const QString text = copyOf(newText);
-    (record.*field.setText)(toUtf8(text));
-    Q_EMIT(model->*field.updated)(text);
+    (record.*row.record)(toUtf8(text));
+    Q_EMIT(model->*row.updated)(text);
 }
 
 int indexOf(const RobotLanguages &languages, const RobotLanguage &language) {
@@ -122,67 +96,67 @@ const Tano::PackageInfo &PackageInfoModel::packageInfo() const {
 }
 
 QString PackageInfoModel::installer() const {
-    return textOf(m_data->record(), installerField);
+    return textOf(m_data->record(), installerText);
 }
 
 void PackageInfoModel::setInstaller(const QString &installer) {
-    setText(this, m_data->edit(), installerField, installer);
+    setText(this, m_data->edit(), installerText, installer);
 }
 
 QString PackageInfoModel::uid() const {
-    return textOf(m_data->record(), uidField);
+    return textOf(m_data->record(), uidText);
 }
 
 void PackageInfoModel::setUid(const QString &uid) {
-    setText(this, m_data->edit(), uidField, uid);
+    setText(this, m_data->edit(), uidText, uid);
 }
 
 QString PackageInfoModel::typeVersion() const {
-    return textOf(m_data->record(), typeVersionField);
+    return textOf(m_data->record(), typeVersionText);
 }
 
 void PackageInfoModel::setTypeVersion(const QString &typeVersion) {
-    setText(this, m_data->edit(), typeVersionField, typeVersion);
+    setText(this, m_data->edit(), typeVersionText, typeVersion);
 }
 
 QString PackageInfoModel::author() const {
-    return textOf(m_data->record(), authorField);
+    return textOf(m_data->record(), authorText);
 }
 
 void PackageInfoModel::setAuthor(const QString &author) {
-    setText(this, m_data->edit(), authorField, author);
+    setText(this, m_data->edit(), authorText, author);
 }
 
 QString PackageInfoModel::organization() const {
-    return textOf(m_data->record(), organizationField);
+    return textOf(m_data->record(), organizationText);
 }
 
 void PackageInfoModel::setOrganization(const QString &organization) {
-    setText(this, m_data->edit(), organizationField, organization);
+    setText(this, m_data->edit(), organizationText, organization);
 }
 
 QString PackageInfoModel::date() const {
-    return textOf(m_data->record(), dateField);
+    return textOf(m_data->record(), dateText);
 }
 
 void PackageInfoModel::setDate(const QString &date) {
-    setText(this, m_data->edit(), dateField, date);
+    setText(this, m_data->edit(), dateText, date);
 }
 
 QString PackageInfoModel::channel() const {
-    return textOf(m_data->record(), channelField);
+    return textOf(m_data->record(), channelText);
 }
 
 void PackageInfoModel::setChannel(const QString &channel) {
-    setText(this, m_data->edit(), channelField, channel);
+    setText(this, m_data->edit(), channelText, channel);
 }
 
 QString PackageInfoModel::path() const {
-    return textOf(m_data->record(), pathField);
+    return textOf(m_data->record(), pathText);
 }
 
 void PackageInfoModel::setPath(const QString &path) {
-    setText(this, m_data->edit(), pathField, path);
+    setText(this, m_data->edit(), pathText, path);
 }
 
 SoftwareVersion PackageInfoModel::version() const {

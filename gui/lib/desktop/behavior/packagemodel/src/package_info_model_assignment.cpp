@@ -59,9 +59,9 @@ struct Snapshot {
     ChildCopies<ServiceInfoModel> services;
 };
 
-class Assignment {
+class PackageAssignment {
 public:
-    Assignment(const PackageInfoModel &from, PackageInfoModel &to, const WholeChange &change)
+    PackageAssignment(const PackageInfoModel &from, PackageInfoModel &to, const WholeChange &change)
         : m_from(from)
         , m_to(to)
         , m_change(change) {}
@@ -107,7 +107,7 @@ private:
     const WholeChange &m_change;
 };
 
-void Assignment::copyFields() {
+void PackageAssignment::copyFields() {
     using Package = PackageInfoModel;
     m_to.setVersion(m_from.version);
     copyText(m_from.record.author(), &Package::setAuthor);
@@ -130,10 +130,10 @@ void Assignment::copyFields() {
                      m_from.descriptionLanguages, &Package::addDescriptionLanguage);
 }
 
-void Assignment::replaceLanguages(const RobotLanguages &(PackageInfoModel::*current)() const,
-                                  void (PackageInfoModel::*remove)(const RobotLanguage &),
-                                  const RobotLanguages &added,
-                                  void (PackageInfoModel::*add)(const RobotLanguage &)) {
+void PackageAssignment::replaceLanguages(const RobotLanguages &(PackageInfoModel::*current)() const,
+                                         void (PackageInfoModel::*remove)(const RobotLanguage &),
+                                         const RobotLanguages &added,
+                                         void (PackageInfoModel::*add)(const RobotLanguage &)) {
     if (!m_change.isCurrent())
         return;
     const RobotLanguages removed = (m_to.*current)();
@@ -141,7 +141,7 @@ void Assignment::replaceLanguages(const RobotLanguages &(PackageInfoModel::*curr
     forEach(added, [&](const RobotLanguage &language) { (m_to.*add)(language); });
 }
 
-void Assignment::copyChildren() {
+void PackageAssignment::copyChildren() {
     using Package = PackageInfoModel;
     if (m_change.isCurrent())
         m_to.clearBehaviors();
@@ -182,7 +182,7 @@ void reconcile(CachedTexts &cache, const Tano::TextMap &record, const CachedText
 
 void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &change) {
     const CachedTexts oldDescriptions = m_data->descriptions;
-    Assignment assignment(other, *this, change);
+    PackageAssignment assignment(other, *this, change);
     const Snapshot &source = assignment.source();
     assignment.copyFields();
     assignment.copyChildren();

@@ -22,20 +22,20 @@ namespace {
 // A kind of text that may be a script, with one per language: its word in the path of a field, and
 // how the model gives and takes it.
 template<typename Model>
-struct TextKind {
+struct ScriptText {
     const char *field;
     const Language::LocalizedStrings &(Model::*texts)() const;
     void (Model::*set)(const QString &text, const RobotLanguage &language);
 };
 
 template<typename Model>
-constexpr std::array textKinds{
-    TextKind<Model>{"names", &Model::names, &Model::setName},
-    TextKind<Model>{"descriptions", &Model::descriptions, &Model::setDescription},
+constexpr std::array scriptTexts{
+    ScriptText<Model>{"names", &Model::names, &Model::setName},
+    ScriptText<Model>{"descriptions", &Model::descriptions, &Model::setDescription},
 };
 
 // The same for lists of them.
-struct ListKind {
+struct ScriptList {
     const char *field;
     const Language::LocalizedStringLists &(BehaviorInfoModel::*lists)() const;
     QStringList (BehaviorInfoModel::*texts)(const RobotLanguage &language) const;
@@ -44,13 +44,13 @@ struct ListKind {
                                       const RobotLanguage &language);
 };
 
-constexpr std::array listKinds{
-    ListKind{"triggerSentences", &BehaviorInfoModel::languagesToTriggerSentences,
-             &BehaviorInfoModel::triggerSentences, &BehaviorInfoModel::addTriggerSentence,
-             &BehaviorInfoModel::updateTriggerSentence},
-    ListKind{"loadingResponses", &BehaviorInfoModel::languagesToLoadingResponses,
-             &BehaviorInfoModel::loadingResponses, &BehaviorInfoModel::addLoadingResponse,
-             &BehaviorInfoModel::updateLoadingResponse},
+constexpr std::array scriptLists{
+    ScriptList{"triggerSentences", &BehaviorInfoModel::languagesToTriggerSentences,
+               &BehaviorInfoModel::triggerSentences, &BehaviorInfoModel::addTriggerSentence,
+               &BehaviorInfoModel::updateTriggerSentence},
+    ScriptList{"loadingResponses", &BehaviorInfoModel::languagesToLoadingResponses,
+               &BehaviorInfoModel::loadingResponses, &BehaviorInfoModel::addLoadingResponse,
+               &BehaviorInfoModel::updateLoadingResponse},
 };
 
 bool isXScrpolLanguage(const RobotLanguage &language) {
@@ -91,8 +91,8 @@ public:
     const RobotLanguage *next(const BehaviorInfoModel *behavior) {
         if (!behavior)
             return nullptr;
-        for (std::size_t i = 0; i < listKinds.size(); ++i)
-            note((behavior->*listKinds[i].lists)(), m_seen[i]);
+        for (std::size_t i = 0; i < scriptLists.size(); ++i)
+            note((behavior->*scriptLists[i].lists)(), m_seen[i]);
         if (m_ahead.empty())
             return nullptr;
         m_place = *m_ahead.begin();
@@ -121,7 +121,7 @@ private:
     const LanguageOrder &m_order;
     int m_place = -1;
     std::set<int> m_ahead;
-    std::array<Seen, listKinds.size()> m_seen;
+    std::array<Seen, scriptLists.size()> m_seen;
 };
 
 RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
@@ -163,7 +163,7 @@ void generate(const QString &script, const RobotLanguage &language, const char *
 
 template<typename Model>
 void genPlainTextValues(const QPointer<Model> &model) {
-    for (const TextKind<Model> &kind : textKinds<Model>) {
+    for (const ScriptText<Model> &kind : scriptTexts<Model>) {
         const auto set = [&](const QString &text, const RobotLanguage &language) {
             if (model)
                 (model->*kind.set)(text, language);
@@ -177,7 +177,7 @@ void genPlainTextValues(const QPointer<Model> &model) {
 }
 
 void genPlainTextLists(const QPointer<BehaviorInfoModel> &behavior, const RobotLanguage &language) {
-    for (const ListKind &kind : listKinds) {
+    for (const ScriptList &kind : scriptLists) {
         const QStringList texts = behavior ? (behavior->*kind.texts)(language) : QStringList();
         for (int i = 0; i < texts.size(); ++i) {
             const auto add = [&](const QString &text, const RobotLanguage &variant) {
@@ -201,7 +201,7 @@ class ScriptErrors {
 public:
     template<typename Model>
     void checkTexts(const Model &model, const QString &parent) {
-        for (const TextKind<Model> &kind : textKinds<Model>) {
+        for (const ScriptText<Model> &kind : scriptTexts<Model>) {
             for (const auto &[text, language] : (model.*kind.texts)()) {
                 if (!isXScrpolLanguage(language))
                     check(text, selected(parent % QLatin1String(kind.field), language.isoCode()));
@@ -211,7 +211,7 @@ public:
 
     void checkLists(const BehaviorInfoModel &behavior, const QString &parent,
                     const RobotLanguage &language) {
-        for (const ListKind &kind : listKinds) {
+        for (const ScriptList &kind : scriptLists) {
             const QString path = selected(parent % QLatin1String(kind.field), language.isoCode());
             const QStringList texts = (behavior.*kind.texts)(language);
             for (int i = 0; i < texts.size(); ++i)

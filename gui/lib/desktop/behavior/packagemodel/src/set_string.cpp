@@ -2,6 +2,7 @@
 
 #include "command_ids.h"
 #include "entry_call.h"
+#include "package_texts.h"
 
 #include <packagemodel/package_info_model.h>
 
@@ -12,36 +13,13 @@
 namespace Zel {
 namespace {
 
-// One of the package's plain texts, and the word for it.
-struct PlainText {
-    QString (PackageInfoModel::*text)() const;
-    void (PackageInfoModel::*setText)(const QString &text);
-    const char *word;
-};
-
 constexpr const char *plainContext = "Zel::PackageStringCommand";
 
 // In the order of PackageStringCommand::WhatString.
-constexpr std::array plainTexts{
-    PlainText{&PackageInfoModel::installer, &PackageInfoModel::setInstaller,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "installer")},
-    PlainText{&PackageInfoModel::uid, &PackageInfoModel::setUid,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "id")},
-    PlainText{&PackageInfoModel::typeVersion, &PackageInfoModel::setTypeVersion,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "type version")},
-    PlainText{&PackageInfoModel::author, &PackageInfoModel::setAuthor,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "author")},
-    PlainText{&PackageInfoModel::organization, &PackageInfoModel::setOrganization,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "organization")},
-    PlainText{&PackageInfoModel::date, &PackageInfoModel::setDate,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "date")},
-    PlainText{&PackageInfoModel::channel, &PackageInfoModel::setChannel,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "channel")},
-    PlainText{&PackageInfoModel::path, &PackageInfoModel::setPath,
-              QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "path")},
-};
+constexpr std::array plainTexts{&installerText,    &uidText,  &typeVersionText, &authorText,
+                                &organizationText, &dateText, &channelText,     &pathText};
 
-// The same for its texts in one language.
+// One of the package's texts by language, and the word for it.
 struct LocalizedText {
     QString (PackageInfoModel::*text)(const RobotLanguage &language) const;
     void (PackageInfoModel::*setText)(const QString &text, const RobotLanguage &language);
@@ -58,10 +36,16 @@ constexpr std::array localizedTexts{
                   QT_TRANSLATE_NOOP("Zel::PackageLocalizedStringCommand", "description")},
 };
 
-template<typename Table>
-auto rowOf(const Table &table, int what) {
-    const bool isThere = what >= 0 && what < static_cast<int>(table.size());
-    return isThere ? &table[static_cast<std::size_t>(what)] : nullptr;
+bool isIn(std::size_t size, int what) {
+    return what >= 0 && what < static_cast<int>(size);
+}
+
+const PackageText *plainText(int what) {
+    return isIn(plainTexts.size(), what) ? plainTexts[std::size_t(what)] : nullptr;
+}
+
+const LocalizedText *localizedText(int what) {
+    return isIn(localizedTexts.size(), what) ? &localizedTexts[std::size_t(what)] : nullptr;
 }
 
 template<typename Row>
@@ -77,16 +61,16 @@ PackageStringCommand::PackageStringCommand(PackageInfoModel *model, const QStrin
     , m_what(what)
     , m_edit{newValue, value(), isFinal} {
     setText(QCoreApplication::translate("Zel::PackageStringCommand", "Set application's %1")
-                .arg(wordOf(rowOf(plainTexts, m_what), plainContext)));
+                .arg(wordOf(plainText(m_what), plainContext)));
 }
 
 QString PackageStringCommand::value() const {
-    const PlainText *row = rowOf(plainTexts, m_what);
+    const PackageText *row = plainText(m_what);
     return row ? callOn(model(), row->text) : QString();
 }
 
 void PackageStringCommand::setValue(const QString &value) {
-    if (const PlainText *row = rowOf(plainTexts, m_what))
+    if (const PackageText *row = plainText(m_what))
         callOn(model(), row->setText, value);
 }
 
@@ -121,19 +105,18 @@ PackageLocalizedStringCommand::PackageLocalizedStringCommand(PackageInfoModel *m
     , m_what(what)
     , m_language(language)
     , m_edit{newValue, value(), isFinal} {
-    setText(
-        QCoreApplication::translate("Zel::PackageLocalizedStringCommand",
-                                    "Set application's %1 (%2)")
-            .arg(wordOf(rowOf(localizedTexts, m_what), localizedContext), m_language.isoCode()));
+    setText(QCoreApplication::translate("Zel::PackageLocalizedStringCommand",
+                                        "Set application's %1 (%2)")
+                .arg(wordOf(localizedText(m_what), localizedContext), m_language.isoCode()));
 }
 
 QString PackageLocalizedStringCommand::value() const {
-    const LocalizedText *row = rowOf(localizedTexts, m_what);
+    const LocalizedText *row = localizedText(m_what);
     return row ? callOn(model(), row->text, m_language) : QString();
 }
 
 void PackageLocalizedStringCommand::setValue(const QString &value) {
-    if (const LocalizedText *row = rowOf(localizedTexts, m_what))
+    if (const LocalizedText *row = localizedText(m_what))
         callOn(model(), row->setText, value, m_language);
 }
 

@@ -56,6 +56,9 @@ struct Field {
 /// ```
 PACKAGEMODEL_EXPORT QVector<Field> fields(const PackageInfoModel *package);
 
+/// Those of fields() that hold one value of the package itself: `uid`, `version`, `author`.
+PACKAGEMODEL_EXPORT QVector<Field> plainFields(const PackageInfoModel *package);
+
 /// The value of a field or an entry; nothing if the path leads to none.
 PACKAGEMODEL_EXPORT std::optional<FieldValue> value(const PackageInfoModel *package,
                                                     const Tano::FieldPath &path);

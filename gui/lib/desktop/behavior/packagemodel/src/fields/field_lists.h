@@ -145,6 +145,17 @@ public:
                          QJsonArray::fromStringList((behavior.*m_operations.list)(key)));
         return lists;
     }
+    void compare(BehaviorInfoModel &from, BehaviorInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        QMap<QString, Key> keys;
+        for (BehaviorInfoModel *behavior : {&from, &to}) {
+            for (const Key &key : m_keys(*behavior))
+                keys.insert(printedKey(key), key);
+        }
+        for (auto key = keys.cbegin(); key != keys.cend(); ++key)
+            appendTextListEdits((from.*m_operations.list)(*key), (to.*m_operations.list)(*key),
+                                pathIn(base).key(toUtf8(key.key())), edits);
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(BehaviorInfoModel &) const override { return {}; }
@@ -210,7 +221,9 @@ public:
         const auto children = all();
         const QString key = (children.at(index)->*m_kind.key)();
         int occurrence = 0;
-        for (int i = next(children, 0, key); i >= 0 && i < index; i = next(children, i + 1, key))
+        const bool isFirst = (m_package->*m_kind.find)(key) == children.at(index);
+        for (int i = isFirst ? index : next(children, 0, key); i >= 0 && i < index;
+             i = next(children, i + 1, key))
             ++occurrence;
         path.entry(toUtf8(key), occurrence);
     }
@@ -298,6 +311,22 @@ public:
     }
     const char *keyName() const override { return m_kind.table().front()->name(); }
     FieldValue emptyEntry(const QString &key) const override { return m_kind.empty(toUtf8(key)); }
+    void compare(PackageInfoModel &from, PackageInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        const auto before = (from.*m_kind.all)();
+        const auto after = (to.*m_kind.all)();
+        const EntrySummaries oldEntries = summariesOf(from);
+        const EntrySummaries newEntries = summariesOf(to);
+        const auto newRecord = [&](int index) { return m_kind.record(*after.at(index)); };
+        const auto compareFields = [&](int oldIndex, int newIndex, const FieldPath &item,
+                                       Edits &all) {
+            if (!(m_kind.record(*before.at(oldIndex)) == newRecord(newIndex)))
+                compareAll(m_kind.table(), *before.at(oldIndex), *after.at(newIndex), item, all);
+        };
+        appendEdits({pathIn(base), matchEntries(oldEntries, newEntries), oldEntries.keys,
+                     newEntries.keys, newRecord, compareFields, keyName()},
+                    edits);
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -305,6 +334,18 @@ protected:
     }
 
 private:
+    EntrySummaries summariesOf(PackageInfoModel &package) const {
+        EntrySummaries entries;
+        const EntryList<Child> list(package, m_kind);
+        entries.keys = *list.keys();
+        entries.content = [this, children = list.all()](int index) {
+            QJsonObject entry = objectOf(m_kind.table(), *children.at(index));
+            entry.remove(QLatin1String(keyName()));
+            return contentOf(entry);
+        };
+        return entries;
+    }
+
     const EntryKind<Child> &m_kind;
 };
 
@@ -416,6 +457,22 @@ public:
         return true;
     }
     FieldValue emptyEntry(const QString &) const override { return Requirement(); }
+    void compare(PackageInfoModel &from, PackageInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        const auto before = (from.*m_operations.all)();
+        const auto after = (to.*m_operations.all)();
+        SequenceMatch match(int(before.size()), int(after.size()));
+        match.pairEqual(contentsOf(from), contentsOf(to));
+        match.pairReplaced();
+        const auto newRequirement = [&](int index) { return FieldValue(after.at(index)); };
+        const auto compareMembers = [&](int oldIndex, int newIndex, const FieldPath &item,
+                                        Edits &all) {
+            RequirementPlace<Requirement> old{from, oldIndex};
+            RequirementPlace<Requirement> wanted{to, newIndex};
+            compareAll(m_operations.table(), old, wanted, item, all);
+        };
+        appendEdits({pathIn(base), match, {}, {}, newRequirement, compareMembers}, edits);
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -423,6 +480,12 @@ protected:
     }
 
 private:
+    QStringList contentsOf(PackageInfoModel &package) const {
+        QStringList contents;
+        visitEntries(package, [&](const QJsonObject &entry) { contents.append(contentOf(entry)); });
+        return contents;
+    }
+
     const RequirementOperations<Requirement> &m_operations;
 };
 

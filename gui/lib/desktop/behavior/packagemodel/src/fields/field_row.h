@@ -2,6 +2,7 @@
 
 #include "field_target.h"
 #include "field_words.h"
+#include "list_difference.h"
 
 #include <packagemodel/package_info_model.h>
 
@@ -93,6 +94,7 @@ public:
 
     const char *name() const { return m_name; }
     FieldKind kind() const { return m_kind; }
+    bool isPlain() const { return *m_selectors == '\0'; }
     QString label() const { return inWords(m_labels.one); }
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
@@ -127,6 +129,11 @@ public:
     /// The field that names such an entry in its list, null if it has an index instead.
     virtual const char *keyName() const { return nullptr; }
     virtual FieldValue emptyEntry(const QString &key) const { return key; }
+    /// Appends the edits that turn the field of `from` into that of `to`; `base` is the path of the
+    /// owner when they are applied.
+    virtual void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const = 0;
+    /// Whether edits of the field change fields of later rows too.
+    virtual bool changesOthers() const { return false; }
 
 protected:
     FieldPath pathIn(const FieldPath &base) const { return FieldPath(base).field(m_name); }
@@ -157,6 +164,13 @@ const FieldRow<Owner> *rowOf(const FieldTable<Owner> &table, const Walk &walk) {
     const auto row = std::find_if(table.begin(), table.end(),
                                   [&](const auto &each) { return each->name() == walk.field(); });
     return row == table.end() ? nullptr : row->get();
+}
+
+template<typename Owner>
+void compareAll(const FieldTable<Owner> &table, Owner &from, Owner &to, const FieldPath &base,
+                Edits &edits) {
+    for (const auto &row : table)
+        row->compare(from, to, base, edits);
 }
 
 template<typename Owner>
@@ -220,6 +234,11 @@ public:
         else
             return m_get(owner);
     }
+    void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const override {
+        const Value wanted = m_get(to);
+        if (!(m_get(from) == wanted))
+            edits.append({Edit::Action::Set, this->pathIn(base), FieldValue(wanted)});
+    }
 
 private:
     Get m_get;
@@ -273,6 +292,9 @@ public:
         };
         return target;
     }
+    void compare(Child &, Child &, const FieldPath &, Edits &) const override {
+        // The list of entries renames them.
+    }
 
 private:
     Get m_get;
@@ -310,9 +332,13 @@ public:
                 current = text;
         }
         const Kept<Owner> kept(owner);
-        const auto set = [this, kept, language](const FieldValue &value) {
+        const auto set = [this, kept, language, isAbsent = !current](const FieldValue &value) {
+            const auto &text = std::get<QString>(value);
+            // The setters take an absent text for an empty one.
+            if (Owner *living = kept.get(); living && isAbsent && text.isEmpty())
+                m_set(*living, QStringLiteral("~"), language);
             if (Owner *living = kept.get())
-                m_set(*living, std::get<QString>(value), language);
+                m_set(*living, text, language);
         };
         const auto remove = [kept, language, drop = m_remove] {
             if (Owner *living = kept.get())
@@ -325,6 +351,9 @@ public:
         for (const auto &[text, language] : (owner.*m_all)())
             texts.insert(language.isoCode(), text);
         return texts;
+    }
+    void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const override {
+        appendTextEdits(toJson(from).toObject(), toJson(to).toObject(), this->pathIn(base), edits);
     }
 
 private:

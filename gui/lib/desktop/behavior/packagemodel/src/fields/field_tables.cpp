@@ -1,5 +1,6 @@
 #include "field_tables.h"
 
+#include "../package_texts.h"
 #include "field_lists.h"
 
 namespace Zel::PackageModel {
@@ -50,8 +51,11 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(std::size_t(index)).isoCode(); }
+    /// A code is no number, so a language may also be selected by its index.
     int find(const Selectors &selectors) const override {
-        return selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
+        const int index = indexIn(selectors, size());
+        return index < 0 && selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text))
+                                                  : index;
     }
     std::optional<QStringList> keys() const override {
         QStringList codes;
@@ -115,6 +119,16 @@ public:
     QJsonValue toJson(PackageInfoModel &package) const override {
         return QJsonArray::fromStringList(*LanguageItems(package, m_operations).keys());
     }
+    void compare(PackageInfoModel &from, PackageInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        const QStringList before = *LanguageItems(from, m_operations).keys();
+        const QStringList after = *LanguageItems(to, m_operations).keys();
+        SequenceMatch match(int(before.size()), int(after.size()));
+        match.pairEqual(before, after);
+        const auto newCode = [&](int index) { return FieldValue(after.at(index)); };
+        appendEdits({pathIn(base), match, before, after, newCode}, edits);
+    }
+    bool changesOthers() const override { return m_operations.isSupported; }
 
 protected:
     std::shared_ptr<FieldList> makeList(PackageInfoModel &package) const override {
@@ -185,6 +199,10 @@ public:
     QJsonValue toJson(BehaviorInfoModel &behavior) const override {
         return QJsonArray::fromStringList(behavior.permissionList());
     }
+    void compare(BehaviorInfoModel &from, BehaviorInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        appendTextSetEdits(from.permissionList(), to.permissionList(), pathIn(base), edits);
+    }
 
 protected:
     std::shared_ptr<FieldList> makeList(BehaviorInfoModel &behavior) const override {
@@ -229,6 +247,10 @@ public:
         for (auto it = properties.begin(); it != properties.end(); ++it)
             values.insert(it.key(), it.value());
         return values;
+    }
+    void compare(ServiceInfoModel &from, ServiceInfoModel &to, const FieldPath &base,
+                 Edits &edits) const override {
+        appendTextEdits(toJson(from).toObject(), toJson(to).toObject(), pathIn(base), edits);
     }
 };
 
@@ -288,7 +310,7 @@ const FieldTable<RequirementPlace<RobotRequirement>> &robotFields() {
     static const auto rows = [] {
         FieldTable<RequirementPlace<RobotRequirement>> table;
         using R = RobotRequirement;
-        addMember(table, "model", QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot"), &R::model);
+        addMember(table, "model", QT_TRANSLATE_NOOP("Zel::PackageModel", "Model"), &R::model);
         addMember(table, "minHeadVersion",
                   QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest head version"),
                   &R::minHeadVersion);
@@ -511,34 +533,18 @@ const EntryKind<ServiceInfoModel> serviceEntries{
     [](const FieldValue &value) { return std::holds_alternative<Tano::PackageService>(value); },
     &serviceFields};
 
-void addText(FieldTable<P> &table, const char *name, const char *label, QString (P::*get)() const,
-             void (P::*set)(const QString &)) {
-    add<CellRow<P, QString>>(table, name, label, get, set);
-}
-
 } // namespace
 
 const FieldTable<PackageInfoModel> &packageFields() {
     static const auto rows = [] {
         FieldTable<P> table;
-        addText(table, "uid", QT_TRANSLATE_NOOP("Zel::PackageModel", "UID"), &P::uid, &P::setUid);
-        add<CellRow<P, SoftwareVersion>>(table, "version",
-                                         QT_TRANSLATE_NOOP("Zel::PackageModel", "Version"),
-                                         &P::version, &P::setVersion);
-        addText(table, "typeVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Type version"),
-                &P::typeVersion, &P::setTypeVersion);
-        addText(table, "installer", QT_TRANSLATE_NOOP("Zel::PackageModel", "Installer"),
-                &P::installer, &P::setInstaller);
-        addText(table, "author", QT_TRANSLATE_NOOP("Zel::PackageModel", "Author"), &P::author,
-                &P::setAuthor);
-        addText(table, "organization", QT_TRANSLATE_NOOP("Zel::PackageModel", "Organization"),
-                &P::organization, &P::setOrganization);
-        addText(table, "date", QT_TRANSLATE_NOOP("Zel::PackageModel", "Date"), &P::date,
-                &P::setDate);
-        addText(table, "channel", QT_TRANSLATE_NOOP("Zel::PackageModel", "Channel"), &P::channel,
-                &P::setChannel);
-        addText(table, "path", QT_TRANSLATE_NOOP("Zel::PackageModel", "Path"), &P::path,
-                &P::setPath);
+        for (const PackageText *row : packageTexts) {
+            add<CellRow<P, QString>>(table, row->field, row->label, row->text, row->setText);
+            if (row == &uidText)
+                add<CellRow<P, SoftwareVersion>>(table, "version",
+                                                 QT_TRANSLATE_NOOP("Zel::PackageModel", "Version"),
+                                                 &P::version, &P::setVersion);
+        }
         add<LanguagesRow>(
             table, "supportedLanguages",
             FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"),

@@ -178,26 +178,31 @@ Applied apply(PackageInfoModel *package, const Edit &edit) {
 
 Applied apply(PackageInfoModel *package, const Edits &edits) {
     const QPointer<PackageInfoModel> living(package);
-    Applied result;
+    std::vector<Edits> inverses;
+    QString error;
     for (const Edit &edit : edits) {
         Applied applied;
         if (living)
             applied = applyOne(*living, edit);
         else
             applied.error = noPackage();
-        if (!applied.error.isEmpty()) {
-            for (const Edit &undo : std::as_const(result.inverse)) {
-                if (living)
-                    applyOne(*living, undo);
-            }
-            result = {{}, applied.error};
+        error = applied.error;
+        if (!error.isEmpty())
             break;
+        inverses.push_back(applied.inverse);
+    }
+    Edits inverse;
+    for (auto last = inverses.rbegin(); last != inverses.rend(); ++last)
+        inverse += *last;
+    if (!error.isEmpty()) {
+        for (const Edit &undo : std::exchange(inverse, {})) {
+            if (living)
+                applyOne(*living, undo);
         }
-        result.inverse = applied.inverse + result.inverse;
     }
     if (living)
         living->syncRecord(); // insertions into the lists of a behavior wait for it
-    return result;
+    return {inverse, error};
 }
 
 } // namespace Zel::PackageModel

@@ -29,6 +29,15 @@ QVector<Field> fields(const PackageInfoModel *package) {
     return all;
 }
 
+QVector<Field> plainFields(const PackageInfoModel *package) {
+    QVector<Field> plain;
+    for (const auto &row : packageFields()) {
+        if (package && row->isPlain())
+            row->list(unconst(*package), {}, plain);
+    }
+    return plain;
+}
+
 std::optional<FieldValue> value(const PackageInfoModel *package, const Tano::FieldPath &path) {
     if (!package)
         return {};

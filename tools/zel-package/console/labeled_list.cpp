@@ -1,4 +1,4 @@
-#include "field_list.h"
+#include "labeled_list.h"
 
 #include "text_layout.h"
 
@@ -13,27 +13,27 @@ constexpr int narrowestTextColumn = 20;
 
 } // namespace
 
-void FieldList::add(const QString &label, const QString &text) {
+void LabeledList::add(const QString &label, const QString &text) {
     m_fields.push_back({printable(label), text, {}});
 }
 
-void FieldList::addFilled(const QString &label, const QString &text) {
+void LabeledList::addFilled(const QString &label, const QString &text) {
     if (!text.isEmpty())
         add(label, text);
 }
 
-void FieldList::addMarked(const QString &label, const QString &text, const QString &remark) {
+void LabeledList::addMarked(const QString &label, const QString &text, const QString &remark) {
     m_fields.push_back({printable(label), text, u'(' % remark % u')'});
 }
 
-int FieldList::labelWidth() const {
+int LabeledList::labelWidth() const {
     int width = 0;
     for (const Field &field : m_fields)
         width = std::max(width, displayWidth(field.label));
     return std::min(width, widestLabelColumn);
 }
 
-QStringList FieldList::linesOf(const Field &field, int width, const Console &console) {
+QStringList LabeledList::linesOf(const Field &field, int width, const Console &console) {
     QStringList lines;
     if (!field.text.isEmpty() || field.remark.isEmpty())
         lines = wrapped(field.text, width);
@@ -47,7 +47,7 @@ QStringList FieldList::linesOf(const Field &field, int width, const Console &con
     return lines;
 }
 
-QString FieldList::toText(const Console &console, int indent, int labelWidth) const {
+QString LabeledList::toText(const Console &console, int indent, int labelWidth) const {
     const int textColumn = indent + labelWidth + gap;
     const int textWidth = std::max(narrowestTextColumn, console.width() - textColumn);
 

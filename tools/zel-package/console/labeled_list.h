@@ -10,7 +10,7 @@
 namespace ZelPackage {
 
 /// Labels, each with its text beside it, wrapped to the width of the terminal.
-class FieldList {
+class LabeledList {
 public:
     /// Both of any text; a line feed in `text` starts a new line.
     void add(const QString &label, const QString &text);
