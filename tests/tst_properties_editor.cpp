@@ -3,6 +3,7 @@
 #include "main_window.h"
 #include "message_bar.h"
 #include "problems_model.h"
+#include "roomy_style.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -662,6 +663,12 @@ private Q_SLOTS:
                 QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
                          area->widget()->metaObject()->className());
         }
+    }
+
+    void hintsAreVisible() {
+        QPalette palette;
+        RoomyStyle().polish(palette);
+        QCOMPARE(palette.brush(QPalette::PlaceholderText).style(), Qt::SolidPattern);
     }
 
     // Whoever uses the keyboard or a screen reader finds every field named.
