@@ -328,10 +328,6 @@
         <translation>« %1 » est déjà pris.</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>Robot</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>Version minimale de la tête</translation>
     </message>
@@ -348,24 +344,12 @@
         <translation>Version maximale du corps</translation>
     </message>
     <message>
-        <source>Lowest Brio version</source>
-        <translation>Version minimale de Brio</translation>
-    </message>
-    <message>
-        <source>Highest Brio version</source>
-        <translation>Version maximale de Brio</translation>
-    </message>
-    <message>
         <source>Path</source>
         <translation>Chemin</translation>
     </message>
     <message>
         <source>Nature</source>
         <translation>Nature</translation>
-    </message>
-    <message>
-        <source>Users may request it</source>
-        <translation>Peut être demandé par l&apos;utilisateur</translation>
     </message>
     <message>
         <source>Permission</source>
@@ -406,10 +390,6 @@
     <message>
         <source>Topic file</source>
         <translation>Fichier du sujet</translation>
-    </message>
-    <message>
-        <source>Starts with the robot</source>
-        <translation>Démarre avec le robot</translation>
     </message>
     <message>
         <source>Command</source>
@@ -842,6 +822,98 @@
     <message>
         <source>Add the languages that the package speaks.</source>
         <translation>Ajoutez les langues que parle le paquet.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Lowest version</source>
+        <translation>Version minimale</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>Version maximale</translation>
+    </message>
+    <message>
+        <source>%1 of robot requirement %2</source>
+        <translation>%1 de l&apos;exigence de robot %2</translation>
+    </message>
+    <message>
+        <source>%1 of Brio requirement %2</source>
+        <translation>%1 de l&apos;exigence de Brio %2</translation>
+    </message>
+    <message>
+        <source>User requests</source>
+        <translation>Demandes des utilisateurs</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Autorisations</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>Phrases de déclenchement</translation>
+    </message>
+    <message>
+        <source>Loading responses</source>
+        <translation>Réponses au chargement</translation>
+    </message>
+    <message>
+        <source>Autostart</source>
+        <translation>Démarrage automatique</translation>
+    </message>
+    <message>
+        <source>Supported languages</source>
+        <translation>Langues prises en charge</translation>
+    </message>
+    <message>
+        <source>Description languages</source>
+        <translation>Langues de description</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>Exigences de robot</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Exigences de Brio</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>Comportements</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>Dialogues</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>

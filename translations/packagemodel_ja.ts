@@ -328,10 +328,6 @@
         <translation>「%1」は既に使われています。</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>ロボット</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>頭部の最小バージョン</translation>
     </message>
@@ -348,24 +344,12 @@
         <translation>本体の最大バージョン</translation>
     </message>
     <message>
-        <source>Lowest Brio version</source>
-        <translation>Brio の最小バージョン</translation>
-    </message>
-    <message>
-        <source>Highest Brio version</source>
-        <translation>Brio の最大バージョン</translation>
-    </message>
-    <message>
         <source>Path</source>
         <translation>パス</translation>
     </message>
     <message>
         <source>Nature</source>
         <translation>種別</translation>
-    </message>
-    <message>
-        <source>Users may request it</source>
-        <translation>ユーザーが要求可能</translation>
     </message>
     <message>
         <source>Permission</source>
@@ -406,10 +390,6 @@
     <message>
         <source>Topic file</source>
         <translation>トピックファイル</translation>
-    </message>
-    <message>
-        <source>Starts with the robot</source>
-        <translation>ロボットと同時に起動</translation>
     </message>
     <message>
         <source>Command</source>
@@ -842,6 +822,98 @@
     <message>
         <source>Add the languages that the package speaks.</source>
         <translation>パッケージが話す言語を加えてください。</translation>
+    </message>
+    <message>
+        <source>%1 of “%2”</source>
+        <translation>「%2」の%1</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Lowest version</source>
+        <translation>最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>最大バージョン</translation>
+    </message>
+    <message>
+        <source>%1 of robot requirement %2</source>
+        <translation>ロボット要件 %2 の%1</translation>
+    </message>
+    <message>
+        <source>%1 of Brio requirement %2</source>
+        <translation>Brio の要件 %2 の%1</translation>
+    </message>
+    <message>
+        <source>User requests</source>
+        <translation>ユーザーからの要求</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>トリガー文</translation>
+    </message>
+    <message>
+        <source>Loading responses</source>
+        <translation>読み込み時の応答</translation>
+    </message>
+    <message>
+        <source>Autostart</source>
+        <translation>自動起動</translation>
+    </message>
+    <message>
+        <source>Supported languages</source>
+        <translation>対応言語</translation>
+    </message>
+    <message>
+        <source>Description languages</source>
+        <translation>説明言語</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>ロボットの要件</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Brio の要件</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>ビヘイビア</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1「%2」</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 (目的: %2)</translation>
     </message>
 </context>
 <context>

@@ -10,11 +10,11 @@ class IdentityPage : public Page {
 
 public:
     explicit IdentityPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,
-                       int what, QString (Zel::PackageInfoModel::*read)() const);
+                       int what, const char *field);
 
     TextField *m_uid;
 };

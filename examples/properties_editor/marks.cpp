@@ -108,7 +108,7 @@ QVariant markData(const std::optional<Mark> &mark, int role) {
     }
 }
 
-MarkLabel::MarkLabel(Document &document, std::function<QString()> path, QWidget *parent)
+MarkLabel::MarkLabel(Document &document, std::function<Tano::FieldPath()> path, QWidget *parent)
     : QWidget(parent)
     , m_document(document)
     , m_path(std::move(path))
