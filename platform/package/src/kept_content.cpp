@@ -17,10 +17,6 @@ namespace {
 constexpr std::string_view commentStart = "<!--";
 constexpr std::string_view commentEnd = "-->";
 
-bool startsWith(std::string_view text, std::string_view start) {
-    return text.substr(0, start.size()) == start;
-}
-
 // Knows the path of the innermost element that is being written.
 class PathObserver : public WriteObserver {
 public:
@@ -78,7 +74,7 @@ public:
         PathObserver::elementEnds();
     }
     void keptPiece(std::string_view xml, std::size_t offset) override {
-        if (!startsWith(xml, commentStart))
+        if (xml.substr(0, commentStart.size()) != commentStart)
             return;
         const std::size_t textSize = xml.size() - commentStart.size() - commentEnd.size();
         const std::string_view text = xml.substr(commentStart.size(), textSize);
@@ -141,7 +137,7 @@ public:
         }
     }
     void keptPiece(std::string_view xml, std::size_t offset) override {
-        if (startsWith(xml, "<!") || startsWith(xml, "<?") || isInNamespace(xml))
+        if (xml[1] == '!' || xml[1] == '?' || isInNamespace(xml))
             return;
         Offsets names{offset + 1};
         const bool hasEndTag = xml[xml.size() - 2] != '/';

@@ -34,9 +34,10 @@ struct KeptComment {
     /// Empty for the root element, and outside it. Since a block of texts is no field, a comment in
     /// it has the package or behavior as its parent.
     FieldPath parent;
-    /// The field whose element comes next within the parent when the manifest is written, for
-    /// example `robotRequirements[1]` or `behaviors[greet].tags[en_US][0]`; the parent where none
-    /// does. Of a comment before a block of texts, the first text in the block: `names[fr_FR]`.
+    /// The field whose element comes next when the manifest is written, for example
+    /// `robotRequirements[1]` or `behaviors[greet].tags[en_US][0]`; the parent for a comment that
+    /// no field follows in its element or block of texts. Of a comment before a block, the first
+    /// text in the block: `names[fr_FR]`.
     FieldPath before;
     int index = 0; ///< among the comments with the same text, parent and `before`
 };
