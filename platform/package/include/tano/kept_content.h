@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // What a manifest holds beyond the fields of its records: comments, and elements and attributes
@@ -45,10 +46,18 @@ struct KeptComment {
 /// The comments of a package in the order of writing.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptComment> comments(const PackageInfo &package);
 
+/// Whether any comment has such a part; quicker than comments().
+[[nodiscard]] TANO_PACKAGE_EXPORT bool hasComment(const PackageInfo &package,
+                                                  const std::string &part);
+
 /// The package without that comment; the same package if it has no such comment, or cannot be
 /// saved.
 [[nodiscard]] TANO_PACKAGE_EXPORT PackageInfo withoutComment(const PackageInfo &package,
                                                              const KeptComment &comment);
+
+/// The same for several comments at once; those that the package does not have are left out.
+[[nodiscard]] TANO_PACKAGE_EXPORT PackageInfo
+withoutComments(const PackageInfo &package, const std::vector<KeptComment> &removed);
 
 /// The package with a comment directly before the element of a field.
 ///
@@ -85,5 +94,9 @@ struct KeptComment {
 /// valid manifest, for example because the field is there already.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::optional<PackageInfo>
 withRenamedNode(const PackageInfo &package, const UnknownNode &node, const std::string &name);
+/// The same for several nodes at once; all or none.
+[[nodiscard]] TANO_PACKAGE_EXPORT std::optional<PackageInfo>
+withRenamedNodes(const PackageInfo &package,
+                 const std::vector<std::pair<UnknownNode, std::string>> &renamed);
 
 } // namespace Tano

@@ -310,7 +310,44 @@ void checkSupport(const CheckedPackage &checked, Findings &findings) {
             {RuleId::SupportedLanguageMissing, fieldNamed("supportedLanguages"), {}, {}});
 }
 
+void checkUnknownNodes(const CheckedPackage &checked, Findings &findings) {
+    for (const Tano::UnknownNode &node : checked.unknownNodes) {
+        const QString name = fromUtf8(node.name);
+        QStringList arguments{name, nearest(name, namesBeside(node))};
+        const bool isElement = node.kind == Tano::UnknownNode::Kind::Element;
+        if (!isElement)
+            arguments += fromUtf8(node.parent);
+        findings.push_back({isElement ? RuleId::ElementUnknown : RuleId::AttributeUnknown,
+                            node.parentPath,
+                            arguments,
+                            {}});
+    }
+}
+
+void checkConflicts(const CheckedPackage &checked, Findings &findings) {
+    for (const Tano::KeptComment &comment : conflicts(checked.package.packageInfo()))
+        findings.push_back({RuleId::MergeConflict, comment.before, {}, {}});
+}
+
 } // namespace
+
+QStringList namesBeside(const Tano::UnknownNode &node) {
+    QStringList names;
+    for (const std::string &name : Tano::knownNames(node))
+        names += fromUtf8(name);
+    return names;
+}
+
+std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record) {
+    if (!Tano::hasComment(record, conflictMark))
+        return {};
+    std::vector<Tano::KeptComment> all = Tano::comments(record);
+    const auto isOther = [](const Tano::KeptComment &comment) {
+        return fromUtf8(comment.text).trimmed().indexOf(QLatin1String(conflictMark)) != 0;
+    };
+    all.erase(std::remove_if(all.begin(), all.end(), isOther), all.end());
+    return all;
+}
 
 FieldPath BehaviorPlace::path() const {
     return fieldNamed("behaviors").entry(toUtf8(behavior->path()), occurrence);
@@ -318,7 +355,8 @@ FieldPath BehaviorPlace::path() const {
 
 CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith)
     : package(checked)
-    , options(checkedWith) {
+    , options(checkedWith)
+    , unknownNodes(Tano::unknownNodes(checked.packageInfo())) {
     QHash<QString, int> counts;
     for (const BehaviorInfoModel *behavior : checked.behaviors())
         behaviors.push_back({behavior, counts[behavior->path()]++});
@@ -331,9 +369,9 @@ CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptio
 
 const std::vector<FurtherCheck> &furtherChecks() {
     static const std::vector<FurtherCheck> checks{
-        checkScripts,       checkKeys,       checkPermissions, checkNatures,
-        checkLanguageCodes, checkRobots,     checkVersions,    checkDate,
-        checkTexts,         checkTopicFiles, checkIcon,        checkSupport};
+        checkScripts, checkKeys,     checkPermissions,  checkNatures,  checkLanguageCodes,
+        checkRobots,  checkVersions, checkDate,         checkTexts,    checkTopicFiles,
+        checkIcon,    checkSupport,  checkUnknownNodes, checkConflicts};
     return checks;
 }
 

@@ -4,6 +4,8 @@
 
 #include <packagemodel/package_issues.h>
 
+#include <tano/kept_content.h>
+
 #include <QSet>
 
 namespace Zel::PackageModel {
@@ -24,7 +26,16 @@ struct CheckedPackage {
     const IssueOptions &options;
     std::vector<BehaviorPlace> behaviors;
     QSet<QString> languages; // the codes of those that the package lists
+    std::vector<Tano::UnknownNode> unknownNodes;
 };
+
+/// The names that the format knows where an unknown node is.
+QStringList namesBeside(const Tano::UnknownNode &node);
+
+/// The beginning of a comment that holds both sides of a merge.
+constexpr const char *conflictMark = "zel-package: conflict";
+/// Such comments.
+std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record);
 
 /// The checks beyond those of the messages, in the order of their rules; each appends what it
 /// finds.

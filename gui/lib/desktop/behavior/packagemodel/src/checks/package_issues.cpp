@@ -16,7 +16,7 @@ class FindingVisit {
 public:
     FindingVisit(const PackageInfoModel &package,
                  const std::function<IssueVisit(const Issue &issue)> &visit)
-        : m_package(package)
+        : m_fixes(package)
         , m_visit(visit) {}
 
     // Returns false when the visitor stops.
@@ -36,10 +36,10 @@ public:
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
-    Issue issueOf(const Finding &finding) const {
+    Issue issueOf(const Finding &finding) {
         const RuleRow &row = ruleRow(finding.rule);
         return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()),
-                message(finding, {finding.language}), fixesOf(finding, m_package)};
+                message(finding, {finding.language}), m_fixes.fixesOf(finding)};
     }
 
     // A message without a language would say nothing.
@@ -48,7 +48,7 @@ private:
                !finding.language.uiName().isEmpty();
     }
 
-    const PackageInfoModel &m_package;
+    FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
     std::set<RuleId> m_skipped;
 };
