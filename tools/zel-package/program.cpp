@@ -1,3 +1,4 @@
+#include "arguments/option_check.h"
 #include "arguments/suggestion.h"
 #include "console/labeled_list.h"
 #include "console/text_layout.h"
@@ -74,69 +75,87 @@ void printHelp(const ProgramCommand &command, Console &console) {
     console.print(titled(QCoreApplication::translate("zel-package", "Options"), list, console));
 }
 
-QStringList dashed(const QStringList &names) {
-    QStringList result;
-    for (const QString &name : names)
-        result += QStringLiteral("--") % name;
-    return result;
-}
-
-void tellUnknownOption(const QString &option, const QStringList &known, const QString &helpOf,
-                       Console &console) {
+void reportUnknownOption(const QString &option, const QList<QCommandLineOption> &options,
+                         const QString &helpOf, Console &console) {
+    QStringList known;
+    for (const QCommandLineOption &each : options)
+        known += QStringLiteral("--") % each.names().constLast();
+    const bool isShortened = !option.startsWith(QLatin1String("--")) && option.size() > 2;
     console.tell(QCoreApplication::translate("zel-package", "There is no option '%1'%2")
-                     .arg(option, suggestion(option, known,
+                     .arg(option, suggestion(isShortened ? u'-' % option : option, known,
                                              QCoreApplication::translate(
                                                  "zel-package", "; '%1 --help' lists the options.")
                                                  .arg(helpOf))));
 }
 
-// Tells what is wrong with the arguments of a command, if anything is.
-bool checkArguments(const ProgramCommand &command, const QStringList &knownOptions,
-                    const QCommandLineParser &parser, bool isParsed, Console &console) {
-    const QStringList unknown = parser.unknownOptionNames();
-    if (!unknown.isEmpty()) {
-        const QString &name = unknown.constFirst();
-        tellUnknownOption((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) % name,
-                          dashed(knownOptions), programName % u' ' % QLatin1String(command.name),
-                          console);
+// Parses arguments into options and others; `program` is named in messages.
+bool parse(const QStringList &arguments, const QList<QCommandLineOption> &options,
+           const QString &program, QCommandLineParser &parser, Console &console) {
+    parser.addOptions(options);
+    if (const auto unknown = unknownOption(arguments, options)) {
+        reportUnknownOption(*unknown, options, program, console);
         return false;
     }
-    if (!isParsed) {
+    const bool isParsed = parser.parse(QStringList{program} + arguments);
+    if (!isParsed)
         console.tell(parser.errorText());
-        return false;
-    }
-    const QStringList arguments = parser.positionalArguments();
+    return isParsed;
+}
+
+bool checkCount(const QStringList &arguments, const ProgramCommand &command, Console &console) {
     if (arguments.size() < command.minArguments) {
-        console.tell(QCoreApplication::translate("zel-package", "An argument is missing: %1")
-                         .arg(usageOf(command)));
+        const QString usage = translated(command.usage);
+        console.tell(
+            QCoreApplication::translate("zel-package", "Missing argument %1; usage: %2")
+                .arg(usage.section(u' ', int(arguments.size()), int(arguments.size())).remove(u'.'),
+                     usageOf(command)));
         return false;
     }
     if (arguments.size() > command.maxArguments) {
-        console.tell(QCoreApplication::translate("zel-package", "'%1' is one argument too many: %2")
-                         .arg(arguments.at(command.maxArguments), usageOf(command)));
+        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                         .arg(arguments.at(command.maxArguments)));
         return false;
     }
     return true;
 }
 
+QCommandLineOption helpOption() {
+    return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+}
+
 ExitStatus runCommand(const ProgramCommand &command, const QStringList &arguments,
                       Console &console) {
     QCommandLineParser parser;
-    const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    QList<QCommandLineOption> options = command.options();
-    options += help;
-    parser.addOptions(options);
-    QStringList names;
-    for (const QCommandLineOption &option : std::as_const(options))
-        names += option.names().constLast();
-
-    const bool isParsed = parser.parse(QStringList{programName} + arguments);
+    const QCommandLineOption help = helpOption();
+    const QString program = programName % u' ' % QLatin1String(command.name);
+    if (!parse(arguments, command.options() + QList{help}, program, parser, console))
+        return Failure;
     if (parser.isSet(help)) {
         printHelp(command, console);
         return Fine;
     }
-    return checkArguments(command, names, parser, isParsed, console) ? command.run(parser, console)
-                                                                     : Failure;
+    return checkCount(parser.positionalArguments(), command, console) ? command.run(parser, console)
+                                                                      : Failure;
+}
+
+// Runs the program with an option in place of a command.
+ExitStatus runOption(const QStringList &arguments, Console &console) {
+    QCommandLineParser parser;
+    const QCommandLineOption help = helpOption();
+    const QCommandLineOption version(QStringLiteral("version"));
+    if (!parse(arguments, {help, version}, programName, parser, console))
+        return Failure;
+    const QStringList others = parser.positionalArguments();
+    if (!others.isEmpty()) {
+        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                         .arg(others.constFirst()));
+        return Failure;
+    }
+    if (parser.isSet(help))
+        printHelp(console);
+    else
+        console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
+    return Fine;
 }
 
 const ProgramCommand *commandNamed(const QString &name) {
@@ -147,7 +166,7 @@ const ProgramCommand *commandNamed(const QString &name) {
     return it == commands.end() ? nullptr : *it;
 }
 
-void tellUnknownCommand(const QString &name, Console &console) {
+void reportUnknownCommand(const QString &name, Console &console) {
     QStringList names;
     for (const ProgramCommand *command : commands)
         names += QLatin1String(command->name);
@@ -167,21 +186,11 @@ ExitStatus runProgram(const QStringList &arguments, Console &console) {
         return Failure;
     }
     const QString &first = arguments.constFirst();
-    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
-        printHelp(console);
-        return Fine;
-    }
-    if (first == QLatin1String("--version")) {
-        console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
-        return Fine;
-    }
     if (const ProgramCommand *command = commandNamed(first))
         return runCommand(*command, arguments.mid(1), console);
     if (first.startsWith(u'-'))
-        tellUnknownOption(first, {QStringLiteral("--help"), QStringLiteral("--version")},
-                          programName, console);
-    else
-        tellUnknownCommand(first, console);
+        return runOption(arguments, console);
+    reportUnknownCommand(first, console);
     return Failure;
 }
 
