@@ -1,3 +1,4 @@
+#include "arguments/native_text.h"
 #include "console/text_layout.h"
 #include "program_command.h"
 
@@ -65,6 +66,11 @@ int main(int argc, char **argv) {
     // A closed pipe shall be a failed write.
     std::signal(SIGPIPE, SIG_IGN);
 
+    // Qt would replace what is not UTF-8.
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += ZelPackage::nativeText(argv[i]);
+
     auto locale = std::make_optional<Utf8Locale>();
     const QCoreApplication application(argc, argv);
     locale.reset();
@@ -76,7 +82,6 @@ int main(int argc, char **argv) {
         Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 
     ZelPackage::Console console;
-    const ZelPackage::ExitStatus status =
-        ZelPackage::runProgram(QCoreApplication::arguments().mid(1), console);
+    const ZelPackage::ExitStatus status = ZelPackage::runProgram(arguments, console);
     return console.finish() ? status : ZelPackage::Failure;
 }

@@ -1,5 +1,6 @@
 #include "arguments/option_check.h"
 #include "arguments/suggestion.h"
+#include "arguments/word_check.h"
 #include "console/labeled_list.h"
 #include "console/text_layout.h"
 #include "program_command.h"
@@ -123,19 +124,38 @@ QCommandLineOption helpOption() {
     return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
 }
 
+bool namesFile(const QCommandLineOption &option) {
+    return option.valueName() == QLatin1String("FILE") ||
+           option.valueName() == QLatin1String("OUT");
+}
+
+// All but the names of files has to be text.
+bool checkTexts(const ProgramCommand &command, const QList<QCommandLineOption> &options,
+                const QCommandLineParser &parser, Console &console) {
+    QStringList texts = parser.positionalArguments().mid(command.fileArguments);
+    for (const QCommandLineOption &option : options) {
+        if (!namesFile(option))
+            texts += parser.values(option);
+    }
+    return std::all_of(texts.begin(), texts.end(),
+                       [&](const QString &text) { return checkText(text, console); });
+}
+
 ExitStatus runCommand(const ProgramCommand &command, const QStringList &arguments,
                       Console &console) {
     QCommandLineParser parser;
     const QCommandLineOption help = helpOption();
     const QString program = programName % u' ' % QLatin1String(command.name);
-    if (!parse(arguments, command.options() + QList{help}, program, parser, console))
+    const QList<QCommandLineOption> options = command.options();
+    if (!parse(arguments, options + QList{help}, program, parser, console))
         return Failure;
     if (parser.isSet(help)) {
         printHelp(command, console);
         return Fine;
     }
-    return checkCount(parser.positionalArguments(), command, console) ? command.run(parser, console)
-                                                                      : Failure;
+    const bool isFine = checkCount(parser.positionalArguments(), command, console) &&
+                        checkTexts(command, options, parser, console);
+    return isFine ? command.run(parser, console) : Failure;
 }
 
 // Runs the program with an option in place of a command.

@@ -22,6 +22,8 @@ struct ProgramCommand {
     QList<QCommandLineOption> (*options)();
     /// `arguments` has its options and the right number of arguments.
     ExitStatus (*run)(const QCommandLineParser &arguments, Console &console);
+    /// How many of the first arguments are names of files, which may have any bytes.
+    int fileArguments = anyNumber;
 };
 
 extern const ProgramCommand explainCommand;

@@ -1,5 +1,6 @@
 #include "console.h"
 
+#include "arguments/native_text.h"
 #include "text_layout.h"
 
 #include <QCoreApplication>
@@ -59,7 +60,7 @@ Console::Console()
 }
 
 void Console::print(const QString &text) {
-    write(text.toStdString());
+    write(nativeBytes(text));
 }
 
 void Console::printBytes(const std::string &bytes) {

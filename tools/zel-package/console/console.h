@@ -21,7 +21,8 @@ class Console {
 public:
     Console();
 
-    /// Writes to standard output. A failure shows in finish().
+    /// Writes to standard output, the bytes of nativeText() as they were. A failure shows in
+    /// finish().
     void print(const QString &text);
     /// Writes content in UTF-8; on a terminal it is printable, apart from tabs and line feeds.
     void printBytes(const std::string &bytes);

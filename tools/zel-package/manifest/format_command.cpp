@@ -1,5 +1,6 @@
 #include "program_command.h"
 
+#include "console/library_text.h"
 #include "manifest_source.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ QList<QCommandLineOption> options() {
 }
 
 ExitStatus tellFailure(const QString &file, const Manifest &manifest, Console &console) {
-    console.tell(file, QString::fromStdString(manifest.package.errorString()));
+    console.tell(file, translatedSentence(manifest.package.errorString()));
     return Failure;
 }
 

@@ -1,12 +1,19 @@
 #include "program_command.h"
 
 #include "arguments/language_argument.h"
+#include "arguments/native_text.h"
+#include "console/library_text.h"
 #include "manifest_source.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
 
 #include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <system_error>
+#include <unistd.h>
 
 namespace ZelPackage {
 namespace {
@@ -51,25 +58,25 @@ std::optional<Zel::RobotLanguages> languagesOf(const QStringList &codes, Console
 
 // Only a file that is not there yet is written: one that another program makes meanwhile is safe.
 bool writeNewFile(const QString &path, const QByteArray &content, Console &console) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        console.tell(path,
-                     QCoreApplication::translate("zel-package", "The file cannot be made: %1.")
-                         .arg(file.errorString()));
+    const std::string name = nativeBytes(path);
+    const int made = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (made < 0) {
+        console.tell(path, reasonSentence(std::generic_category().message(errno)));
         return false;
     }
-    if (file.write(content) == content.size() && file.flush())
+    QFile file;
+    if (file.open(made, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle) &&
+        file.write(content) == content.size() && file.flush())
         return true;
-    console.tell(path, QCoreApplication::translate("zel-package", "The file cannot be written: %1.")
-                           .arg(file.errorString()));
-    file.remove();
+    console.tell(path, reasonSentence(file.errorString().toStdString()));
+    static_cast<void>(::unlink(name.c_str()));
     return false;
 }
 
 bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Console &console) {
     const QByteArray content = package.saveToManifestContent();
     if (content.isEmpty()) {
-        console.tell(file, QString::fromStdString(package.packageInfo().errorString()));
+        console.tell(file, translatedSentence(package.packageInfo().errorString()));
         return false;
     }
     if (!isStandardStream(file))
@@ -138,6 +145,7 @@ const ProgramCommand newCommand{
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

@@ -1,5 +1,6 @@
 #include "program_command.h"
 
+#include "arguments/native_text.h"
 #include "manifest_source.h"
 
 #include <packagemodel/package_info_model.h>
@@ -26,7 +27,7 @@ QList<QCommandLineOption> options() {
 bool writeManifest(const QString &output, const QString &file, const Tano::PackageInfo &package,
                    Console &console) {
     if (!isStandardStream(output)) {
-        if (package.saveToManifestFile(output.toStdString()))
+        if (package.saveToManifestFile(nativeBytes(output)))
             return true;
         console.tell(output, QString::fromStdString(package.errorString()));
         return false;
@@ -101,6 +102,7 @@ const ProgramCommand publishCommand{
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

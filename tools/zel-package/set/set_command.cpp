@@ -1,6 +1,9 @@
 #include "program_command.h"
 
+#include "arguments/native_text.h"
+#include "arguments/word_check.h"
 #include "assigned_edit.h"
+#include "console/library_text.h"
 #include "console/text_diff.h"
 #include "manifest/manifest_source.h"
 
@@ -50,6 +53,8 @@ bool readArguments(const QStringList &arguments, Request &request, Console &cons
     bool isFine = true;
     for (const QString &argument : arguments) {
         const bool isFile = request.assignments.empty() && isFine && !looksLikeAssignment(argument);
+        if (!isFile && !checkText(argument, console))
+            return false;
         if (isFile) {
             request.files += argument;
             continue;
@@ -208,7 +213,7 @@ std::optional<std::string> editedContent(const QString &file, const Manifest &ma
     const Tano::PackageInfo record = edit.record();
     std::string content = record.saveToManifestContent();
     if (content.empty()) {
-        console.tell(file, QString::fromStdString(record.errorString()));
+        console.tell(file, translatedSentence(record.errorString()));
         return {};
     }
     edit.reportNewFindings();
@@ -232,13 +237,13 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
         else if (isStandardStream(file))
             streamed = *content;
         else if (manifest->content != *content)
-            saved.push_back({file.toStdString(), *content,
-                             Tano::FileFingerprint::ofContent(manifest->content)});
+            saved.push_back(
+                {nativeBytes(file), *content, Tano::FileFingerprint::ofContent(manifest->content)});
     }
     if (!isFine)
         return Failure;
     if (const Tano::SaveResult result = Tano::saveFiles(saved); !result) {
-        console.tell(QString::fromStdString(result.error));
+        console.tell(translatedSentence(result.error));
         return Failure;
     }
     console.print(printed);

@@ -81,6 +81,7 @@ const ProgramCommand showCommand{
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage
