@@ -63,8 +63,8 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
-    // A closed pipe shall be a failed write.
-    std::signal(SIGPIPE, SIG_IGN);
+    // Whoever reads the output may close it. The parent may have had this signal ignored.
+    std::signal(SIGPIPE, SIG_DFL);
 
     // Qt would replace what is not UTF-8.
     QStringList arguments;

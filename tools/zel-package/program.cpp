@@ -5,6 +5,8 @@
 #include "console/text_layout.h"
 #include "program_command.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -29,6 +31,23 @@ QString titled(const QString &title, const LabeledList &fields, const Console &c
     return console.styled(title, Style::Heading) % u'\n' % fields.toText(console, 2);
 }
 
+// "Usage: ...", broken between arguments.
+QString usageLines(const QString &usage, const Console &console) {
+    static const QRegularExpression gap(QStringLiteral(R"( (?![^\[]*\]))"));
+    QStringList lines{QCoreApplication::translate("zel-package", "Usage: %1").arg(QString())};
+    const QString margin(4, u' ');
+    const auto words = usage.split(gap);
+    for (const QString &word : words) {
+        const bool isSpaced = lines.constLast().endsWith(u' ');
+        const QString line = lines.constLast() % QString(isSpaced ? 0 : 1, u' ') % word;
+        if (displayWidth(line) <= console.width())
+            lines.last() = line;
+        else
+            lines += margin % word;
+    }
+    return lines.join(u'\n') % QStringLiteral("\n\n");
+}
+
 QString usageOf(const ProgramCommand &command) {
     const QString usage = programName % u' ' % QLatin1String(command.name);
     return *command.usage ? usage % u' ' % translated(command.usage) : usage;
@@ -39,8 +58,7 @@ void printHelp(Console &console) {
     for (const ProgramCommand *command : commands)
         list.add(QLatin1String(command->name), translated(command->summary));
     console.print(
-        QCoreApplication::translate("zel-package", "Usage: %1")
-            .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
+        usageLines(QStringLiteral("zel-package COMMAND [ARGUMENT...]"), console) %
         paragraph(QCoreApplication::translate("zel-package",
                                               "Makes, shows, checks, edits and rewrites the "
                                               "manifests of robot application packages."),
@@ -65,8 +83,8 @@ QString labelOf(const QCommandLineOption &option) {
 }
 
 void printHelp(const ProgramCommand &command, Console &console) {
-    console.print(QCoreApplication::translate("zel-package", "Usage: %1").arg(usageOf(command)) %
-                  QStringLiteral("\n\n") % paragraph(translated(command.description), console));
+    console.print(usageLines(usageOf(command), console) %
+                  paragraph(translated(command.description), console));
     LabeledList list;
     const auto options = command.options();
     for (const QCommandLineOption &option : options)
