@@ -1,19 +1,12 @@
 #include "program_command.h"
 
 #include "arguments/language_argument.h"
-#include "arguments/native_text.h"
 #include "console/library_text.h"
 #include "manifest_source.h"
+#include "output_file.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
-
-#include <QFile>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <system_error>
-#include <unistd.h>
 
 namespace ZelPackage {
 namespace {
@@ -56,33 +49,20 @@ std::optional<Zel::RobotLanguages> languagesOf(const QStringList &codes, Console
     return languages;
 }
 
-// Only a file that is not there yet is written: one that another program makes meanwhile is safe.
-bool writeNewFile(const QString &path, const QByteArray &content, Console &console) {
-    const std::string name = nativeBytes(path);
-    const int made = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (made < 0) {
-        console.tell(path, reasonSentence(std::generic_category().message(errno)));
-        return false;
-    }
-    QFile file;
-    if (file.open(made, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle) &&
-        file.write(content) == content.size() && file.flush())
-        return true;
-    console.tell(path, reasonSentence(file.errorString().toStdString()));
-    static_cast<void>(::unlink(name.c_str()));
-    return false;
-}
-
 bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Console &console) {
     const QByteArray content = package.saveToManifestContent();
     if (content.isEmpty()) {
         console.tell(file, translatedSentence(package.packageInfo().errorString()));
         return false;
     }
-    if (!isStandardStream(file))
-        return writeNewFile(file, content, console);
-    console.printBytes(content.toStdString());
-    return true;
+    if (isStandardStream(file)) {
+        console.printBytes(content.toStdString());
+        return true;
+    }
+    const QString trouble = createFile(file, content.toStdString());
+    if (!trouble.isEmpty())
+        console.tell(file, trouble);
+    return trouble.isEmpty();
 }
 
 bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
@@ -95,16 +75,16 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     return false;
 }
 
-// Standard error, so that the manifest on standard output stays one.
-void tellWhatIsLeft(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
+// To standard error, since the manifest may go to standard output.
+void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
     QStringList fields;
     const auto issues = Zel::PackageModel::issues(&package);
     for (const Zel::PackageModel::Issue &issue : issues)
         fields += issue.path;
-    console.tell(file, QCoreApplication::translate(
-                           "zel-package", "A manifest of version %1; what it still needs: %2.")
-                           .arg(Zel::SoftwareVersionUtils::toString(package.version()),
-                                fields.join(QStringLiteral(", "))));
+    console.tell(
+        QCoreApplication::translate("zel-package", "Created %1, version %2. Still needed: %3.")
+            .arg(file, Zel::SoftwareVersionUtils::toString(package.version()),
+                 fields.join(QStringLiteral(", "))));
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
@@ -128,7 +108,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     package.setName(arguments.value(nameOption), languages->front());
     if (!writeManifest(file, package, console))
         return Failure;
-    tellWhatIsLeft(package, file, console);
+    reportCreated(package, file, console);
     return Fine;
 }
 
