@@ -1,5 +1,7 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "console/json_list.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
 
@@ -9,11 +11,23 @@ namespace ZelPackage {
 namespace {
 
 QList<QCommandLineOption> options() {
-    return {};
+    return {formatOption()};
 }
 
-ExitStatus run(const QCommandLineParser &, Console &console) {
-    // The native names stand last, where writing from right to left moves no other column.
+void printJson(Console &console) {
+    JsonListForm form(QLatin1String("languages"), console);
+    for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
+        form.add({{QStringLiteral("code"), language.isoCode()},
+                  {QStringLiteral("name"), language.uiName()},
+                  {QStringLiteral("englishName"), language.englishName()},
+                  {QStringLiteral("nativeName"), language.nativeName()},
+                  {QStringLiteral("speech"), language.nuanceCode()}});
+    }
+    form.finish();
+}
+
+void printTable(Console &console) {
+    // The native names come last, where writing from right to left moves no other column.
     TextTable table({{QCoreApplication::translate("zel-package", "code")},
                      {QCoreApplication::translate("zel-package", "name")},
                      {QCoreApplication::translate("zel-package", "speech")},
@@ -25,6 +39,13 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
                       {language.nativeName()}});
     }
     console.print(table.toText(console, 0));
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const auto format = formatOf(arguments, console);
+    if (!format)
+        return Failure;
+    format == OutputFormat::Json ? printJson(console) : printTable(console);
     return Fine;
 }
 
@@ -33,7 +54,7 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
 const ProgramCommand languagesCommand{
     "languages",
     QT_TRANSLATE_NOOP("zel-package", "List the known languages"),
-    "",
+    QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
                       "Lists the languages that are known: the code that manifests use, the name, "
                       "the code of the speech engine where it has a voice, and the name in the "

@@ -68,21 +68,26 @@ std::optional<std::string> readContent(const QString &file, QString &trouble) {
     return content;
 }
 
-std::optional<Manifest> readManifest(const QString &file, Console &console) {
-    QString trouble;
-    auto content = readContent(file, trouble);
-    if (!content) {
-        console.tell(file, trouble);
+std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble) {
+    auto content = readContent(file, trouble.text);
+    if (!content)
         return {};
-    }
     Manifest manifest;
     manifest.content = std::move(*content);
 
     Tano::ManifestReader reader;
     if (!reader.readContent(manifest.content, manifest.package)) {
-        console.tell(file, reader.errorPosition(), translatedSentence(reader.errorMessage()));
+        trouble = {reader.errorPosition(), translatedSentence(reader.errorMessage())};
         return {};
     }
+    return manifest;
+}
+
+std::optional<Manifest> readManifest(const QString &file, Console &console) {
+    ManifestTrouble trouble;
+    auto manifest = readManifest(file, trouble);
+    if (!manifest)
+        console.tell(file, trouble.position, trouble.text);
     return manifest;
 }
 
