@@ -6,6 +6,7 @@
 #include "console/library_text.h"
 #include "console/text_diff.h"
 #include "manifest/manifest_source.h"
+#include "patch_names.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_issues.h>
@@ -225,7 +226,9 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
     QString printed;
     std::string streamed;
     bool isFine = true;
-    for (const QString &file : request.files) {
+    const QStringList names = isDryRun ? patchNames(request.files) : request.files;
+    for (int i = 0; i < request.files.size(); ++i) {
+        const QString &file = request.files.at(i);
         const auto manifest = readManifest(file, console);
         const auto content =
             manifest ? editedContent(file, *manifest, request, console) : std::nullopt;
@@ -233,7 +236,7 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
         if (!content)
             continue;
         if (isDryRun)
-            printed += unifiedDiff(file, manifest->content, *content, console);
+            printed += unifiedDiff(names.at(i), manifest->content, *content, console);
         else if (isStandardStream(file))
             streamed = *content;
         else if (manifest->content != *content)
