@@ -1,6 +1,7 @@
 #include "arguments/option_check.h"
 #include "arguments/suggestion.h"
 #include "arguments/word_check.h"
+#include "completions/completion.h"
 #include "console/labeled_list.h"
 #include "console/text_layout.h"
 #include "program_command.h"
@@ -8,14 +9,9 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
 
 namespace ZelPackage {
 namespace {
-
-const std::array commands{&newCommand,       &showCommand,  &getCommand,     &validateCommand,
-                          &formatCommand,    &setCommand,   &publishCommand, &explainCommand,
-                          &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -55,7 +51,7 @@ QString usageOf(const ProgramCommand &command) {
 
 void printHelp(Console &console) {
     LabeledList list;
-    for (const ProgramCommand *command : commands)
+    for (const ProgramCommand *command : programCommands())
         list.add(QLatin1String(command->name), translated(command->summary));
     console.print(
         usageLines(QStringLiteral("zel-package COMMAND [ARGUMENT...]"), console) %
@@ -197,16 +193,16 @@ ExitStatus runOption(const QStringList &arguments, Console &console) {
 }
 
 const ProgramCommand *commandNamed(const QString &name) {
-    const auto it =
-        std::find_if(commands.begin(), commands.end(), [&](const ProgramCommand *command) {
-            return name == QLatin1String(command->name);
-        });
-    return it == commands.end() ? nullptr : *it;
+    for (const ProgramCommand *command : programCommands()) {
+        if (name == QLatin1String(command->name))
+            return command;
+    }
+    return nullptr;
 }
 
 void reportUnknownCommand(const QString &name, Console &console) {
     QStringList names;
-    for (const ProgramCommand *command : commands)
+    for (const ProgramCommand *command : programCommands())
         names += QLatin1String(command->name);
     console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
                      .arg(name, suggestion(name, names,
@@ -217,6 +213,11 @@ void reportUnknownCommand(const QString &name, Console &console) {
 
 } // namespace
 
+QVector<const ProgramCommand *> programCommands() {
+    return {&newCommand, &showCommand,    &getCommand,     &validateCommand,  &formatCommand,
+            &setCommand, &publishCommand, &explainCommand, &languagesCommand, &robotsCommand};
+}
+
 ExitStatus runProgram(const QStringList &arguments, Console &console) {
     if (arguments.isEmpty()) {
         console.tell(QCoreApplication::translate(
@@ -224,6 +225,12 @@ ExitStatus runProgram(const QStringList &arguments, Console &console) {
         return Failure;
     }
     const QString &first = arguments.constFirst();
+    if (first == QLatin1String("--complete")) { // for the scripts in completions/
+        const QStringList words = completions(arguments.mid(1));
+        for (const QString &word : words)
+            console.print(word % u'\n');
+        return Fine;
+    }
     if (const ProgramCommand *command = commandNamed(first))
         return runCommand(*command, arguments.mid(1), console);
     if (first.startsWith(u'-'))

@@ -37,6 +37,9 @@ extern const ProgramCommand setCommand;
 extern const ProgramCommand showCommand;
 extern const ProgramCommand validateCommand;
 
+/// All commands, in the order of the help.
+QVector<const ProgramCommand *> programCommands();
+
 /// Runs the program: general options, or a command with its arguments.
 [[nodiscard]] ExitStatus runProgram(const QStringList &arguments, Console &console);
 
