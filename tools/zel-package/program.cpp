@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 namespace ZelPackage {
 namespace {
@@ -56,14 +57,14 @@ void printHelp(Console &console) {
     console.print(
         usageLines(QStringLiteral("zel-package COMMAND [ARGUMENT...]"), console) %
         paragraph(QCoreApplication::translate("zel-package",
-                                              "Makes, shows, checks, edits and rewrites the "
+                                              "Creates, shows, checks, edits and rewrites the "
                                               "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     LabeledList options;
-    options.add(QStringLiteral("-h, --help"),
-                QCoreApplication::translate("zel-package",
-                                            "Show this help; after a command, that command's."));
+    options.add(
+        QStringLiteral("-h, --help"),
+        QCoreApplication::translate("zel-package", "Show this help; after a command, its help."));
     options.add(QStringLiteral("--version"),
                 QCoreApplication::translate("zel-package", "Show the version of the program."));
     console.print(titled(QCoreApplication::translate("zel-package", "Options"), options, console));
@@ -116,6 +117,11 @@ bool parse(const QStringList &arguments, const QList<QCommandLineOption> &option
         console.tell(parser.errorText());
     return isParsed;
 }
+
+// Those of QCommandLineParser::errorText() that can occur.
+[[maybe_unused]] constexpr std::array parserSentences{
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'.")};
 
 bool checkCount(const QStringList &arguments, const ProgramCommand &command, Console &console) {
     if (arguments.size() < command.minArguments) {
@@ -221,7 +227,7 @@ QVector<const ProgramCommand *> programCommands() {
 ExitStatus runProgram(const QStringList &arguments, Console &console) {
     if (arguments.isEmpty()) {
         console.tell(QCoreApplication::translate(
-            "zel-package", "A command is missing; 'zel-package --help' lists the commands."));
+            "zel-package", "Missing command; 'zel-package --help' lists the commands."));
         return Failure;
     }
     const QString &first = arguments.constFirst();

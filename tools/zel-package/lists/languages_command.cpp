@@ -2,6 +2,7 @@
 
 #include "arguments/format_option.h"
 #include "console/json_list.h"
+#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
 
@@ -18,7 +19,7 @@ void printJson(Console &console) {
     JsonListForm form(QLatin1String("languages"), console);
     for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
         form.add({{QStringLiteral("code"), language.isoCode()},
-                  {QStringLiteral("name"), language.uiName()},
+                  {QStringLiteral("name"), nameOf(language)},
                   {QStringLiteral("englishName"), language.englishName()},
                   {QStringLiteral("nativeName"), language.nativeName()},
                   {QStringLiteral("speech"), language.nuanceCode()}});
@@ -34,7 +35,7 @@ void printTable(Console &console) {
                      {QCoreApplication::translate("zel-package", "native name")}});
     for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
         table.addRow({{language.isoCode()},
-                      {language.uiName()},
+                      {nameOf(language)},
                       {language.nuanceCode()},
                       {language.nativeName()}});
     }
@@ -56,9 +57,9 @@ const ProgramCommand languagesCommand{
     QT_TRANSLATE_NOOP("zel-package", "List the known languages"),
     QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the languages that are known: the code that manifests use, the name, "
-                      "the code of the speech engine where it has a voice, and the name in the "
-                      "language itself. A manifest may use others too."),
+                      "Lists the known languages: the code in manifests, the name, the code of the "
+                      "speech engine if it has a voice, and the name in the language itself. "
+                      "Manifests may use other languages too."),
     0,
     0,
     options,

@@ -46,9 +46,9 @@ const ProgramCommand robotsCommand{
     QT_TRANSLATE_NOOP("zel-package", "List the known robots"),
     QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the robots that a package may require, families and models, and what "
-                      "the model of a robot requirement is for each; it is empty for any robot. A "
-                      "manifest may require others too."),
+                      "Lists the robots that a package may require, families and models, with the "
+                      "model that a robot requirement names; it is empty for any robot. Manifests "
+                      "may require other robots too."),
     0,
     0,
     options,

@@ -121,9 +121,9 @@ const ProgramCommand formatCommand{
     QT_TRANSLATE_NOOP("zel-package", "Rewrite manifests in the canonical form"),
     QT_TRANSLATE_NOOP("zel-package", "FILE... [--check [--format text|json]]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Rewrites each FILE in the canonical form, with nothing lost: comments, and "
-                      "elements and attributes that are not known, stay. A file that is in that "
-                      "form already is left alone. '-' takes standard input and writes to standard "
+                      "Rewrites each FILE in the canonical form, and preserves comments, unknown "
+                      "elements and unknown attributes. A file already in that form is left "
+                      "unchanged. '-' takes standard input and writes to standard "
                       "output."),
     1,
     ProgramCommand::anyNumber,

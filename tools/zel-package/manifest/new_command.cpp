@@ -70,8 +70,9 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     if (Zel::PackageModel::validatePackageUID(&package, errors))
         return true;
     console.tell(QCoreApplication::translate(
-                     "zel-package", "%1 'zel-package explain uid-invalid' says what a UID is.")
-                     .arg(errors.constFirst()));
+                     "zel-package",
+                     "'%1' is not a valid UID; 'zel-package explain uid-invalid' describes one.")
+                     .arg(package.uid()));
     return false;
 }
 
@@ -91,7 +92,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
     const QString uid = arguments.value(uidOption);
     if (uid.isEmpty()) {
-        console.tell(QCoreApplication::translate("zel-package", "A package needs a --uid."));
+        console.tell(QCoreApplication::translate("zel-package", "Missing option --uid UID."));
         return Failure;
     }
     const auto languages = languagesOf(arguments.values(languageOption), console);
@@ -116,10 +117,10 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand newCommand{
     "new",
-    QT_TRANSLATE_NOOP("zel-package", "Make a new manifest"),
+    QT_TRANSLATE_NOOP("zel-package", "Create a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE --uid UID [--name TEXT] [--language CODE]..."),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Makes FILE, the manifest of a new package of version 1.0.0. A file that "
+                      "Creates FILE, the manifest of a new package of version 1.0.0. A file that "
                       "exists is never overwritten. '-' writes to standard output."),
     1,
     1,

@@ -183,11 +183,11 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand publishCommand{
     "publish",
-    QT_TRANSLATE_NOOP("zel-package", "Make the manifest of a package that is to be published"),
+    QT_TRANSLATE_NOOP("zel-package", "Write a manifest for publication"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT] [--format text|json]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Writes the manifest in FILE as it is published: without texts in languages "
+        "Writes the manifest in FILE for publication: without texts in languages "
         "that the package no longer offers, and with plain text in place of speech "
         "scripts, which are kept in a private-use variant of their language. If a text "
         "is a malformed script, reports it and writes nothing. '-' reads standard "

@@ -36,7 +36,7 @@ QList<QCommandLineOption> options() {
                                          "diff.")},
             {editsOption,
              QCoreApplication::translate("zel-package",
-                                         "First make the edits in this JSON file, which "
+                                         "First apply the edits in this JSON file, which "
                                          "schema/edits.schema.json describes; '-' is standard "
                                          "input."),
              QStringLiteral("FILE")}};
@@ -91,14 +91,14 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
         std::count_if(request.files.begin(), request.files.end(), isStandardStream);
     QString trouble;
     if (request.files.isEmpty())
-        trouble = QCoreApplication::translate("zel-package", "The FILE to edit is missing.");
+        trouble = QCoreApplication::translate("zel-package", "Missing argument FILE.");
     else if (request.assignments.empty() && !hasEdits)
         trouble =
             QCoreApplication::translate("zel-package", "'%1' is not of the form FIELD=VALUE, as in "
                                                        "author=Ines or names[en_US]=Tea.")
                 .arg(request.files.constLast());
     else if (streams > 1)
-        trouble = QCoreApplication::translate("zel-package", "'-' can be given once only.");
+        trouble = QCoreApplication::translate("zel-package", "'-' can be given only once.");
     if (!trouble.isEmpty())
         console.tell(trouble);
     return trouble.isEmpty();
@@ -278,8 +278,8 @@ const ProgramCommand setCommand{
         "VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds "
         "one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds it at "
         "an index, from 0 on: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
-        "behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so "
-        "that a command can be repeated. Either all fields of all files are set or, where one is "
+        "behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so "
+        "that commands can be repeated. Either all fields of all files are set or, where one is "
         "wrong, none. Files are rewritten in the canonical form with nothing lost. '-' takes "
         "standard input and writes to standard output; a file whose name has a '=' is given with "
         "its folder, as in ./a=b.xml."),

@@ -58,7 +58,8 @@ ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
             return Fine;
         if (form) {
             console.tell(file, argument % QStringLiteral(": ") %
-                                   QCoreApplication::translate("zel-package", "There is none."));
+                                   QCoreApplication::translate("zel-package",
+                                                               "The package has no such entry."));
             return Findings;
         }
     }

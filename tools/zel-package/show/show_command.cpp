@@ -56,13 +56,14 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand showCommand{
     "show",
-    QT_TRANSLATE_NOOP("zel-package", "Show what a manifest says"),
+    QT_TRANSLATE_NOOP("zel-package", "Show a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [--language CODE] [--format text|json]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Shows all that the manifest in FILE says, and how far it is translated. A "
-                      "missing text is replaced as an application does it: by the one in the "
-                      "default language, then, for a name, by the uid or the path. '-' reads "
-                      "standard input."),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Shows every field of the manifest in FILE, and how much of it is translated. "
+        "A missing text is replaced as in an application: by the text in the "
+        "default language, then, for a name, by the uid or the path. '-' reads "
+        "standard input."),
     1,
     1,
     options,
