@@ -1,25 +1,23 @@
 #include "behaviors_model.h"
-#include "editor_commands.h"
 #include "entry_models.h"
-#include "field_place.h"
-#include "languages.h"
+#include "field_edits.h"
 #include "languages_model.h"
 #include "problems_model.h"
 #include "requirements_model.h"
 #include "string_list_model.h"
 
 #include <packagemodel/behavior_commands.h>
-#include <packagemodel/dialog_commands.h>
-#include <packagemodel/set_string.h>
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QTest>
 
 #include <functional>
 
 using namespace Editor;
-using Zel::PackageInfoModel;
+using Tano::FieldPath;
+using Zel::Language::languageInUse;
 
 namespace {
 
@@ -31,6 +29,13 @@ QString sample(const char *name) {
 QByteArray manifestOf(Document &document) {
     document.package()->syncRecord();
     return document.package()->saveToManifestContent();
+}
+
+QStringList languagesOf(const Zel::PackageInfoModel &package) {
+    QStringList codes;
+    for (const Zel::RobotLanguage &language : Zel::PackageModel::languages(&package))
+        codes.append(language.isoCode());
+    return codes;
 }
 
 // What a model shows, one line a row.
@@ -72,7 +77,7 @@ struct AllModels {
                                  const auto all = document.package()->behaviors();
                                  return all.isEmpty() ? QStringList()
                                                       : all.first()->triggerSentences(
-                                                            languageOf(QStringLiteral("en_US")));
+                                                            languageInUse(QStringLiteral("en_US")));
                              },
                              {},
                              {}});
@@ -100,7 +105,31 @@ struct AllModels {
     StringListModel sentences;
 };
 
-using MakeEdit = std::function<QUndoCommand *(PackageInfoModel *package)>;
+using MakeEdit = std::function<void(Document &document, AllModels &models)>;
+
+template<typename Model>
+void check(Model &model, int row, int column) {
+    model.setData(model.index(row, column), Qt::Checked, Qt::CheckStateRole);
+}
+
+template<typename Model>
+void write(Model &model, int row, int column, const char *text) {
+    model.setData(model.index(row, column), QLatin1String(text));
+}
+
+MakeEdit remove(const char *list, int index) {
+    return [=](Document &document, AllModels &) {
+        document.edit({removed(document.package(), FieldPath().field(list), index)},
+                      QStringLiteral("Remove"));
+    };
+}
+
+template<typename Record>
+MakeEdit add(const char *list, const Record &record) {
+    return [=](Document &document, AllModels &) {
+        document.edit({appended(FieldPath().field(list), record)}, QStringLiteral("Add"));
+    };
+}
 
 } // namespace
 
@@ -112,80 +141,49 @@ class TestEditorModels : public QObject {
 private Q_SLOTS:
     void edit_data() {
         QTest::addColumn<MakeEdit>("make");
+        using D = Document;
+        using M = AllModels;
         const auto row = [](const char *name, const MakeEdit &make) {
             QTest::newRow(name) << make;
         };
-        const auto language = [](const char *code) { return languageOf(QLatin1String(code)); };
-
-        row("add language", [=](PackageInfoModel *p) {
-            return new SupportedLanguageCommand(p, language("it_IT"));
+        row("add language", [](D &, M &m) { m.languages.add(QStringLiteral("it_CH")); });
+        row("remove language", [](D &, M &m) { m.languages.remove(QStringLiteral("de_DE")); });
+        row("stop supporting the third language",
+            [](D &, M &m) { check(m.languages, 2, LanguagesModel::Supported); });
+        row("remove the first description language",
+            [](D &, M &m) { check(m.languages, 0, LanguagesModel::Described); });
+        row("add description language", add("descriptionLanguages", QStringLiteral("xx_")));
+        row("name", [](D &, M &m) { write(m.languages, 1, LanguagesModel::Name, ""); });
+        row("add behavior", add("behaviors", Tano::BehaviorInfo()));
+        row("remove the second behavior", remove("behaviors", 1));
+        row("remove the last behavior", remove("behaviors", 7));
+        row("rename behavior", [](D &d, M &) {
+            d.push(new Zel::BehaviorPathCommand(d.package(), d.package()->behaviors()[0]->path(),
+                                                QStringLiteral("renamed"), true));
         });
-        row("remove the third language", [=](PackageInfoModel *p) {
-            return new SupportedLanguageCommand(p, language("de_DE"));
+        row("remove trigger sentence", [](D &d, M &) {
+            d.push(Zel::BehaviorAddRemoveTriggerSentenceCommand::removeCommand(
+                d.package(), d.package()->behaviors()[0]->path(),
+                languageInUse(QStringLiteral("en_US")), 0));
         });
-        row("remove the first description language", [=](PackageInfoModel *p) {
-            return new DescriptionLanguageCommand(p, language("en_US"));
-        });
-        row("add description language", [=](PackageInfoModel *p) {
-            return new DescriptionLanguageCommand(p, language("xx_"));
-        });
-        row("add behavior",
-            [](PackageInfoModel *p) { return newAddBehaviorCommand(p, QStringLiteral("new")); });
-        row("remove the second behavior",
-            [](PackageInfoModel *p) { return newRemoveBehaviorCommand(p, 1); });
-        row("remove the last behavior", [](PackageInfoModel *p) {
-            return newRemoveBehaviorCommand(p, int(p->behaviors().size()) - 1);
-        });
-        row("rename behavior", [](PackageInfoModel *p) {
-            return new Zel::BehaviorPathCommand(p, p->behaviors().first()->path(),
-                                                QStringLiteral("renamed"), true);
-        });
-        row("remove trigger sentence", [=](PackageInfoModel *p) {
-            return Zel::BehaviorAddRemoveTriggerSentenceCommand::removeCommand(
-                p, p->behaviors().first()->path(), language("en_US"), 0);
-        });
-        row("add dialog",
-            [](PackageInfoModel *p) { return newAddDialogCommand(p, QStringLiteral("new")); });
-        row("remove the first dialog",
-            [](PackageInfoModel *p) { return newRemoveDialogCommand(p, 0); });
-        row("remove topic", [=](PackageInfoModel *p) {
-            return new Zel::DialogInfoModelRemoveTopicCommand(p, p->dialogs().first()->topicName(),
-                                                              language("en_US"));
-        });
-        row("add service",
-            [](PackageInfoModel *p) { return newAddServiceCommand(p, QStringLiteral("new")); });
-        row("remove the first service",
-            [](PackageInfoModel *p) { return newRemoveServiceCommand(p, 0); });
-        row("rename service", [](PackageInfoModel *p) {
-            return newServiceFieldCommand(p, 1, ServiceField::Name, QStringLiteral("other"), true);
-        });
-        row("command of service", [](PackageInfoModel *p) {
-            return newServiceFieldCommand(p, 0, ServiceField::ExecStart, QStringLiteral("other"),
-                                          true);
-        });
-        row("start of service",
-            [](PackageInfoModel *p) { return new ServiceAutoRunCommand(p, 0); });
-        row("add robot", [](PackageInfoModel *p) { return newAddRobotRequirementCommand(p); });
-        row("remove the first robot",
-            [](PackageInfoModel *p) { return newRemoveRobotRequirementCommand(p, 0); });
-        row("wrong range", [](PackageInfoModel *p) {
-            return newRequirementFieldCommand(p, robotRequirementFields().at(4), 0,
-                                              QStringLiteral("1.0"), true);
-        });
-        row("add Brio version",
-            [](PackageInfoModel *p) { return newAddBrioRequirementCommand(p); });
-        row("remove Brio version",
-            [](PackageInfoModel *p) { return newRemoveBrioRequirementCommand(p, 0); });
-        row("Brio minimum", [](PackageInfoModel *p) {
-            return newRequirementFieldCommand(p, brioRequirementFields().at(0), 0, QString(), true);
-        });
-        row("name", [=](PackageInfoModel *p) {
-            return new Zel::PackageLocalizedStringCommand(
-                p, QString(), Zel::PackageLocalizedStringCommand::Name, language("fr_FR"), true);
-        });
-        row("version", [](PackageInfoModel *p) {
-            return newVersionCommand(p, QStringLiteral("9.8.7"), true);
-        });
+        row("add dialog", add("dialogs", Tano::DialogInfo()));
+        row("remove the first dialog", remove("dialogs", 0));
+        row("topic", [](D &, M &m) { write(m.topics, 1, 1, "other.top"); });
+        row("remove topic", [](D &, M &m) { m.topics.removeTopic(0); });
+        row("add service", add("services", Tano::PackageService()));
+        row("remove the first service", remove("services", 0));
+        row("rename service",
+            [](D &, M &m) { write(m.services, 1, ServicesModel::Name, "other"); });
+        row("command of service",
+            [](D &, M &m) { write(m.services, 0, ServicesModel::ExecStart, "other"); });
+        row("start of service", [](D &, M &m) { check(m.services, 0, ServicesModel::AutoRun); });
+        row("add robot", [](D &, M &m) { m.robots.add(); });
+        row("remove the first robot", [](D &, M &m) { m.robots.remove(0); });
+        row("wrong range", [](D &, M &m) { write(m.robots, 0, 4, "1.0"); });
+        row("robot", [](D &, M &m) { write(m.robots, 0, 0, "HERON"); });
+        row("add Brio version", [](D &, M &m) { m.brio.add(); });
+        row("remove Brio version", [](D &, M &m) { m.brio.remove(0); });
+        row("Brio minimum", [](D &, M &m) { write(m.brio, 0, 0, ""); });
     }
 
     // Each edit is seen by the models, is undone to the very bytes of the file, and done again.
@@ -198,12 +196,14 @@ private Q_SLOTS:
         const QByteArray before = manifestOf(document);
         const auto shownBefore = models.state();
 
-        document.push(make(document.package()));
+        make(document, models);
+        QCOMPARE(document.undoStack()->count(), 1);
         const QByteArray after = manifestOf(document);
         const auto shownAfter = models.state();
         QVERIFY(after != before);
         AllModels fresh(document);
         QCOMPARE(shownAfter, fresh.state());
+        QCOMPARE(models.languages.keys(), languagesOf(*document.package()));
         document.undoStack()->undo();
         QCOMPARE(manifestOf(document), before);
         QCOMPARE(models.state(), shownBefore);
@@ -218,16 +218,18 @@ private Q_SLOTS:
         QVERIFY(document.open(sample("small")));
         QCOMPARE(problems.rowCount(), 0);
         const QString path = document.package()->behaviors().first()->path();
-        document.push(
-            new SupportedLanguageCommand(document.package(), languageOf(QStringLiteral("ja_JP"))));
+        AllModels models(document);
+        models.languages.add(QStringLiteral("ja_JP"));
         QStringList paths;
         for (int row = 0; row < problems.rowCount(); ++row)
             paths.append(problems.index(row, 0).data(ProblemsModel::PathRole).toString());
-        QCOMPARE(paths, (QStringList{namePath(QStringLiteral("ja_JP")),
-                                     descriptionPath(QStringLiteral("ja_JP")),
-                                     sentencesPath(path, QStringLiteral("ja_JP"))}));
+        QCOMPARE(paths,
+                 (QStringList{QStringLiteral("names[ja_JP]"), QStringLiteral("descriptions[ja_JP]"),
+                              QStringLiteral("behaviors[%1].triggerSentences[ja_JP]").arg(path)}));
+        QCOMPARE(problems.index(2, ProblemsModel::Field).data().toString(),
+                 QStringLiteral("Trigger sentences of “%1” in Japanese (Japan)").arg(path));
         QVERIFY(document.behaviorSeverity(path));
-        document.push(newRemoveBehaviorCommand(document.package(), 0));
+        remove("behaviors", 0)(document, models);
         QCOMPARE(problems.rowCount(), 2);
         document.undoStack()->undo();
         QCOMPARE(problems.rowCount(), 3);
@@ -255,23 +257,42 @@ private Q_SLOTS:
         QCOMPARE(cell.data().toString(), before);
     }
 
-    void fieldPlaces_data() {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("parts");
-        const auto row = [](const char *path, const char *parts) {
-            QTest::newRow(path) << QString::fromLatin1(path) << QString::fromLatin1(parts);
-        };
-        row("uid", "uid|||");
-        row("names[fr_FR]", "names|fr_FR||");
-        row("robotRequirements[10].model", "robotRequirements|10|model|");
-        row("behaviors[a].triggerSentences[ja_JP]", "behaviors|a|triggerSentences|ja_JP");
-        row("behaviors[a\\].b[c\\]].triggerSentences[fr]", "behaviors|a].b[c]|triggerSentences|fr");
+    // The package keeps what it has, and the user learns why.
+    void refusals() {
+        Document document;
+        QVERIFY(document.open(sample("ten-languages")));
+        AllModels models(document);
+        const QSignalSpy refused(&document, &Document::editRefused);
+        const QString taken = document.package()->services().at(0)->name();
+        QCOMPARE(models.services.refusal(models.services.index(1, ServicesModel::Name), taken),
+                 QStringLiteral("'%1' is taken.").arg(taken));
+        QVERIFY(!models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.x")).isEmpty());
+        QVERIFY(models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.2")).isEmpty());
+        QVERIFY(!models.languages
+                     .refusal(models.languages.index(0, LanguagesModel::Name), QString(QChar(1)))
+                     .isEmpty());
+        models.languages.add(QStringLiteral("en_US"));
+        QCOMPARE(refused.size(), 1);
+        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("'en_US' is there already."));
+        QCOMPARE(document.undoStack()->count(), 0);
     }
-    void fieldPlaces() {
-        QFETCH(QString, path);
-        const FieldPlace parsed = FieldPlace::parse(path);
-        const QStringList parts{parsed.list, parsed.key, parsed.field, parsed.subkey};
-        QTEST(parts.join(u'|'), "parts");
+
+    void coverageFollowsEdits() {
+        Document document;
+        QVERIFY(document.open(sample("small")));
+        const LanguagesModel languages(document);
+        const QModelIndex cell = languages.index(0, LanguagesModel::Coverage);
+        const auto percent = [&] { return cell.data(LanguagesModel::PercentRole).toInt(); };
+        QCOMPARE(percent(), 100);
+        const auto *behavior = document.package()->behaviors().first();
+        document.push(new Zel::BehaviorNameCommand(document.package(), behavior->path(), QString(),
+                                                   Zel::Language::defaultLanguage(), true));
+        const auto expected = Zel::PackageModel::coverages(document.package()).front();
+        QCOMPARE(percent(), expected.percent());
+        QVERIFY(percent() < 100);
+        QCOMPARE(cell.data().toString(), QStringLiteral("%1 of %2")
+                                             .arg(expected.total().present)
+                                             .arg(expected.total().expected));
     }
 };
 

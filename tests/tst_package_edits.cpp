@@ -4,6 +4,7 @@
 #include <packagemodel/package_difference.h>
 #include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
 
 #include <QSet>
 #include <QTest>
@@ -28,7 +29,7 @@ QByteArray listing(const PackageInfoModel &package) {
     QString lines;
     for (const Field &field : fields(&package))
         lines += fromUtf8(field.path.toString()) % u'=' % printed(field.value) % text("  # ") %
-                 field.label % u'\n';
+                 field.label % text(": ") % label(field.path) % u'\n';
     return lines.toUtf8();
 }
 
@@ -44,8 +45,9 @@ QByteArray cacheDifference(const PackageInfoModel &package) {
     // A new model makes every supported language a description language.
     QStringList differing = ((live - made) + (made - live)).values();
     for (const RobotLanguage &language : package.supportedLanguages())
-        differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language")
-                                .arg(language.isoCode()));
+        differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language: "
+                                           "Description language “%2”")
+                                .arg(language.isoCode(), language.uiName()));
     return differing.join(u'\n').toUtf8();
 }
 
@@ -201,6 +203,15 @@ void TestPackageEdits::listed() {
                                 "robotRequirements[2]", "robotRequirements[0].none", "version.x"})
         QVERIFY2(!value(m_package.get(), path(nothing)), nothing);
     QVERIFY(fields(nullptr).isEmpty() && !value(nullptr, path("uid")));
+    for (const auto &[of, expected] :
+         {std::pair("robotRequirements", "Robot requirements"),
+          {"brioRequirements[1]", "Brio requirement 2"},
+          {"behaviors[none][1]", "Behavior “none (2)”"},
+          {"behaviors[a].triggerSentences[qad]", "Trigger sentences of “a” in qad"},
+          {"none[1].x", "none[1].x"},
+          {"services[a].none", "services[a].none"},
+          {"", ""}})
+        QCOMPARE(label(*of ? path(of) : FieldPath()), text(expected));
 }
 
 void TestPackageEdits::refused_data() {
@@ -240,6 +251,9 @@ void TestPackageEdits::refused() {
     QFETCH(QString, text);
     const QByteArray before = bytes();
     const Edit edit{Edit::Action(action), path(at.toUtf8().constData()), text, 1};
+    const QString reason = refusal(m_package.get(), edit);
+    QVERIFY(!reason.isEmpty());
+    QTEST(QString(at % QStringLiteral(": ") % reason), "error");
     QTEST(error(edit), "error");
     QCOMPARE(bytes(), before);
 }
@@ -287,6 +301,8 @@ void TestPackageEdits::inversesRestoreEverything() {
         const QByteArray after = bytes();
         QVERIFY2(cacheDifference(*m_package).isEmpty(),
                  describe(cacheDifference(*m_package) + " after").c_str());
+        QVERIFY2(editsFromJson(toJson(applied.inverse)).edits == applied.inverse,
+                 describe("JSON of the inverse").c_str());
         const Applied back = apply(m_package.get(), applied.inverse);
         QVERIFY2(back.error.isEmpty(), describe(back.error.toUtf8() + " by the inverse").c_str());
         QVERIFY2(bytes() == before,
@@ -313,6 +329,8 @@ void TestPackageEdits::differences() {
         }
         const QByteArray before = bytes();
         const Edits found = edits(m_package.get(), &target);
+        const ParsedEdits read = editsFromJson(toJson(found));
+        QVERIFY2(read.error.isEmpty() && read.edits == found, qPrintable(read.error));
         const Applied applied = apply(m_package.get(), found);
         QVERIFY2(applied.error.isEmpty(), qPrintable(applied.error + u'\n' + script(found)));
         QCOMPARE(orderedListing(*m_package), orderedListing(target));
@@ -449,6 +467,12 @@ void TestPackageEdits::typedRuns() {
     type(m_package.get(), "z");
     type(&other, "z");
     QCOMPARE(stack.count(), 3);
+    for (const char *version : {"2", "2.5"}) {
+        const Edit edit{Edit::Action::Set, path("brioRequirements[0].minVersion"),
+                        SoftwareVersionUtils::fromString(text(version))};
+        stack.push(new PackageEditCommand(m_package.get(), {edit}, text("Type"), false));
+    }
+    QCOMPARE(stack.count(), 4);
     stack.setIndex(0);
     QCOMPARE(m_package->author(), text("A B"));
     stack.setIndex(3);

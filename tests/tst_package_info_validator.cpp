@@ -241,9 +241,19 @@ void expectFresh(const PackageInfoModel &package, const PackageInfoValidator &va
 void expectIssuesAsMessages(const PackageInfoModel &package) {
     std::array<QStringList, 2> told; // warnings, errors
     std::array<QString, 2> last;     // the beginning of the message that a language is added to
-    const auto issues = PackageModel::issues(&package);
-    for (const auto &issue : issues) {
-        const auto kind = std::size_t(issue.severity);
+    const auto rules = PackageModel::rules();
+    auto issues = PackageModel::issues(&package);
+    // Those of further rules follow.
+    const auto isFurther = [&](const auto &issue) {
+        const auto last = std::find_if(rules.begin(), rules.end(), [](const auto &rule) {
+            return rule.id == text("trigger-sentences-missing");
+        });
+        return std::any_of(last + 1, rules.end(),
+                           [&](const auto &rule) { return rule.id == issue.id; });
+    };
+    issues.erase(std::find_if(issues.begin(), issues.end(), isFurther), issues.end());
+    for (const auto &issue : std::as_const(issues)) {
+        const auto kind = std::size_t(issue.severity == PackageModel::Severity::Error);
         const auto colon = issue.text.lastIndexOf(text(" for: "));
         const QString beginning = colon < 0 ? QString() : issue.text.left(colon);
         const QString language = issue.text.mid(colon + 6);

@@ -201,6 +201,9 @@ void TestPackageLoading::shippedManifestsComeBack() {
     QCOMPARE(model.saveToManifestContent(), content);
     model.syncRecord();
     QCOMPARE(model.saveToManifestContent(), content);
+    // The icon beside the faulty sample is no image.
+    const bool isFaulty = path.contains(text("/faulty/"));
+    QCOMPARE(m_warnings.take().filter(text("icon.png is not read")).size(), isFaulty ? 1 : 0);
 }
 
 void TestPackageLoading::copies() {

@@ -1,8 +1,9 @@
-#include "field_place.h"
+#include "field_edits.h"
 #include "icon_button.h"
 #include "main_window.h"
 #include "message_bar.h"
 #include "problems_model.h"
+#include "roomy_style.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -106,7 +107,7 @@ private Q_SLOTS:
 
     // The whole way: every problem mended from the dock, undone, done again, saved and validated.
     void mendEverything() {
-        const QString fileName = copyOf("faulty");
+        const QString fileName = copyOf(ZEL_TEST_DATA "/editor/faulty");
         QVERIFY(m_window->openFile(fileName));
         const QByteArray before = contentOf(fileName);
         QCOMPARE(problemCount(), 15);
@@ -115,7 +116,7 @@ private Q_SLOTS:
             const QString path =
                 problems()->model()->index(0, 0).data(ProblemsModel::PathRole).toString();
             doubleClickProblem(0);
-            mend(FieldPlace::parse(path));
+            mend(*Tano::FieldPath::parse(Zel::toUtf8(path)));
             QVERIFY2(problemCount() < left, qPrintable(path));
         }
         const int steps = stack()->count();
@@ -498,6 +499,13 @@ private Q_SLOTS:
         QCOMPARE(problemCount(), 3);
         stack()->undo();
         QCOMPARE(manifest(), before);
+
+        Answer answer(QMessageBox::Ok);
+        m_window->document().edit(
+            {appended(Tano::FieldPath().field("supportedLanguages"), QStringLiteral("en_US"))},
+            QStringLiteral("Add language"));
+        QVERIFY(answer.isGiven());
+        QCOMPARE(answer.text, QStringLiteral("'en_US' is there already."));
     }
 
     void editsTheListsOfABehavior() {
@@ -657,6 +665,12 @@ private Q_SLOTS:
         }
     }
 
+    void hintsAreVisible() {
+        QPalette palette;
+        RoomyStyle().polish(palette);
+        QCOMPARE(palette.brush(QPalette::PlaceholderText).style(), Qt::SolidPattern);
+    }
+
     // Whoever uses the keyboard or a screen reader finds every field named.
     void fieldsAreNamed() {
         for (const auto *edit : m_window->findChildren<QWidget *>()) {
@@ -704,8 +718,8 @@ private:
     }
 
     QString copyOf(const char *sample) {
-        const QDir from(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/") +
-                        QLatin1String(sample));
+        const QDir samples(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages"));
+        const QDir from(samples.filePath(QLatin1String(sample)));
         QDir to(m_directory.filePath(QString::number(++m_copies)));
         to.mkpath(QStringLiteral("."));
         for (const QString &name : from.entryList(QDir::Files))
@@ -789,19 +803,20 @@ private:
     }
 
     // Mends the field that has the focus.
-    void mend(const FieldPlace &path) {
-        if (path.field == QLatin1String("model")) {
+    void mend(const Tano::FieldPath &path) {
+        const QString field = fieldName(path, 1);
+        if (field == QLatin1String("model")) {
             press(Qt::Key_F2);
             press(Qt::Key_Down);
-        } else if (path.field.endsWith(QLatin1String("Version"))) {
-            type(path.field.startsWith(QLatin1String("min")) ? QStringLiteral("1.0")
-                                                             : QStringLiteral("9.0"));
+        } else if (field.endsWith(QLatin1String("Version"))) {
+            type(field.startsWith(QLatin1String("min")) ? QStringLiteral("1.0")
+                                                        : QStringLiteral("9.0"));
             press(Qt::Key_Return);
-        } else if (path.list == QLatin1String("uid")) {
+        } else if (fieldName(path) == QLatin1String("uid")) {
             replaceText(QStringLiteral("night-watch"));
         } else {
             type(QStringLiteral("mended"));
-            if (path.list == QLatin1String("behaviors"))
+            if (fieldName(path) == QLatin1String("behaviors"))
                 press(Qt::Key_Return);
         }
         QCoreApplication::processEvents(); // an editor of a cell closes on its way back

@@ -328,10 +328,6 @@
         <translation>« %1 » est déjà pris.</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>Robot</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>Version minimale de la tête</translation>
     </message>
@@ -348,24 +344,12 @@
         <translation>Version maximale du corps</translation>
     </message>
     <message>
-        <source>Lowest Brio version</source>
-        <translation>Version minimale de Brio</translation>
-    </message>
-    <message>
-        <source>Highest Brio version</source>
-        <translation>Version maximale de Brio</translation>
-    </message>
-    <message>
         <source>Path</source>
         <translation>Chemin</translation>
     </message>
     <message>
         <source>Nature</source>
         <translation>Nature</translation>
-    </message>
-    <message>
-        <source>Users may request it</source>
-        <translation>Peut être demandé par l&apos;utilisateur</translation>
     </message>
     <message>
         <source>Permission</source>
@@ -406,10 +390,6 @@
     <message>
         <source>Topic file</source>
         <translation>Fichier du sujet</translation>
-    </message>
-    <message>
-        <source>Starts with the robot</source>
-        <translation>Démarre avec le robot</translation>
     </message>
     <message>
         <source>Command</source>
@@ -590,6 +570,350 @@
     <message>
         <source>; available: %1.</source>
         <translation> ; disponibles : %1.</translation>
+    </message>
+    <message>
+        <source>Change it to &apos;%1&apos;</source>
+        <translation>Changer en &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Remove the requirement</source>
+        <translation>Supprimer l&apos;exigence</translation>
+    </message>
+    <message>
+        <source>Swap minimum and maximum</source>
+        <translation>Échanger minimum et maximum</translation>
+    </message>
+    <message>
+        <source>Clear the maximum</source>
+        <translation>Effacer le maximum</translation>
+    </message>
+    <message>
+        <source>Stop supporting %1</source>
+        <translation>Ne plus prendre en charge : %1</translation>
+    </message>
+    <message>
+        <source>Copy from %1</source>
+        <translation>Copier depuis : %1</translation>
+    </message>
+    <message>
+        <source>Rename it to &apos;%1&apos;</source>
+        <translation>Renommer en &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>Remove the entry</source>
+        <translation>Supprimer l&apos;entrée</translation>
+    </message>
+    <message>
+        <source>Remove the permission</source>
+        <translation>Supprimer la permission</translation>
+    </message>
+    <message>
+        <source>Clear it</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Remove the language</source>
+        <translation>Supprimer la langue</translation>
+    </message>
+    <message>
+        <source>Describe the package in %1</source>
+        <translation>Décrire le paquet en : %1</translation>
+    </message>
+    <message>
+        <source>Remove the text</source>
+        <translation>Supprimer le texte</translation>
+    </message>
+    <message>
+        <source>Remove the topic</source>
+        <translation>Supprimer le sujet</translation>
+    </message>
+    <message>
+        <source>Support %1</source>
+        <translation>Prendre en charge : %1</translation>
+    </message>
+    <message>
+        <source>Malformed speech script (line %1, column %2): %3</source>
+        <translation>Script vocal mal formé (ligne %1, colonne %2) : %3</translation>
+    </message>
+    <message>
+        <source>A text with markup is a speech script. Of a malformed one no plain text can be made, so that publishing leaves the markup in it and users read the tags.</source>
+        <translation>Un texte avec des balises est un script vocal. D&apos;un script mal formé, on ne peut pas tirer de texte brut : la publication y laisse les balises et les utilisateurs les lisent.</translation>
+    </message>
+    <message>
+        <source>Correct the markup, or write &amp;lt; for a &lt; that is no tag.</source>
+        <translation>Corrigez les balises, ou écrivez &amp;lt; pour un &lt; qui n&apos;est pas une balise.</translation>
+    </message>
+    <message>
+        <source>Another behavior has the path &apos;%1&apos;, too.</source>
+        <translation>Un autre comportement a aussi le chemin &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>A behavior is started by its path; of several with the same path, only the first is found.</source>
+        <translation>Un comportement est lancé par son chemin ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
+    </message>
+    <message>
+        <source>Give each behavior a path of its own, or remove one of them.</source>
+        <translation>Donnez à chaque comportement son propre chemin, ou supprimez l&apos;un d&apos;eux.</translation>
+    </message>
+    <message>
+        <source>Another dialog has the topic name &apos;%1&apos;, too.</source>
+        <translation>Un autre dialogue a aussi le nom de sujet &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>A dialog is found by its topic name; of several with the same name, only the first is found.</source>
+        <translation>Un dialogue est trouvé par son nom de sujet ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
+    </message>
+    <message>
+        <source>Give each dialog a topic name of its own, or remove one of them.</source>
+        <translation>Donnez à chaque dialogue son propre nom de sujet, ou supprimez l&apos;un d&apos;eux.</translation>
+    </message>
+    <message>
+        <source>Another service has the name &apos;%1&apos;, too.</source>
+        <translation>Un autre service a aussi le nom &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>A service is found by its name; of several with the same name, only the first is found.</source>
+        <translation>Un service est trouvé par son nom ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
+    </message>
+    <message>
+        <source>Give each service a name of its own, or remove one of them.</source>
+        <translation>Donnez à chaque service son propre nom, ou supprimez l&apos;un d&apos;eux.</translation>
+    </message>
+    <message>
+        <source>The permission &apos;%1&apos; is listed twice.</source>
+        <translation>La permission &apos;%1&apos; est donnée deux fois.</translation>
+    </message>
+    <message>
+        <source>A permission that is listed again grants nothing more.</source>
+        <translation>Une permission répétée n&apos;accorde rien de plus.</translation>
+    </message>
+    <message>
+        <source>Remove the second one.</source>
+        <translation>Supprimez la seconde.</translation>
+    </message>
+    <message>
+        <source>%1: It is empty.</source>
+        <translation>%1 : c&apos;est vide.</translation>
+    </message>
+    <message>
+        <source>Behaviors, dialogs, services, permissions and properties are found by their names; one without a name cannot be used.</source>
+        <translation>Comportements, dialogues, services, permissions et propriétés sont trouvés par leur nom ; sans nom, on ne peut pas s&apos;en servir.</translation>
+    </message>
+    <message>
+        <source>Write a name, or remove the entry.</source>
+        <translation>Écrivez un nom, ou supprimez l&apos;entrée.</translation>
+    </message>
+    <message>
+        <source>There is no nature &apos;%1&apos;%2</source>
+        <translation>Il n&apos;y a pas de nature &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>The nature says how a behavior shares the robot with others: &apos;interactive&apos; or &apos;solitary&apos;, or nothing.</source>
+        <translation>La nature dit comment un comportement partage le robot avec d&apos;autres : &apos;interactive&apos;, &apos;solitary&apos; ou rien.</translation>
+    </message>
+    <message>
+        <source>Choose one of the two, or clear the nature.</source>
+        <translation>Choisissez l&apos;une des deux, ou effacez la nature.</translation>
+    </message>
+    <message>
+        <source>There is no language &apos;%1&apos; among those that are known%2</source>
+        <translation>La langue &apos;%1&apos; n&apos;est pas parmi celles qui sont connues%2</translation>
+    </message>
+    <message>
+        <source>The code is none of those that &apos;zel-package languages&apos; lists, so that its users will not be found.</source>
+        <translation>Le code n&apos;est pas de ceux que &apos;zel-package languages&apos; énumère : ses utilisateurs ne seront pas trouvés.</translation>
+    </message>
+    <message>
+        <source>Correct the code, which is that of a language and a country, as in fr_FR.</source>
+        <translation>Corrigez le code, celui d&apos;une langue et d&apos;un pays, comme fr_FR.</translation>
+    </message>
+    <message>
+        <source>There is no robot &apos;%1&apos; among those that are known%2</source>
+        <translation>Le robot &apos;%1&apos; n&apos;est pas parmi ceux qui sont connus%2</translation>
+    </message>
+    <message>
+        <source>The model is none of those that &apos;zel-package robots&apos; lists, so that no robot may meet the requirement.</source>
+        <translation>Le modèle n&apos;est pas de ceux que &apos;zel-package robots&apos; énumère : peut-être aucun robot ne satisfait l&apos;exigence.</translation>
+    </message>
+    <message>
+        <source>Correct the model, or install the description of the robot.</source>
+        <translation>Corrigez le modèle, ou installez la description du robot.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une version.</translation>
+    </message>
+    <message>
+        <source>A version has decimal fields with dots between them. One of another form counts as none.</source>
+        <translation>Une version a des nombres séparés par des points. Sous une autre forme, elle compte pour rien.</translation>
+    </message>
+    <message>
+        <source>Write a version such as 2.1.</source>
+        <translation>Écrivez une version comme 2.1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une date.</translation>
+    </message>
+    <message>
+        <source>Dates are written as ISO 8601 has them, the year first, so that all programs read them alike.</source>
+        <translation>Les dates s&apos;écrivent selon ISO 8601, l&apos;année d&apos;abord, pour que tous les programmes les lisent de même.</translation>
+    </message>
+    <message>
+        <source>Write a date such as 2026-09-14.</source>
+        <translation>Écrivez une date comme 2026-09-14.</translation>
+    </message>
+    <message>
+        <source>There is a text in %1, which the package does not list.</source>
+        <translation>Il y a un texte en %1, langue que le paquet n&apos;énumère pas.</translation>
+    </message>
+    <message>
+        <source>The package neither supports nor is described in the language, so that the text is not used, and publishing drops it.</source>
+        <translation>Le paquet ne prend pas en charge cette langue et n&apos;y est pas décrit : le texte ne sert pas, et la publication l&apos;écarte.</translation>
+    </message>
+    <message>
+        <source>Add the language to the package, or remove the text.</source>
+        <translation>Ajoutez la langue au paquet, ou supprimez le texte.</translation>
+    </message>
+    <message>
+        <source>There is only white space in the text.</source>
+        <translation>Le texte n&apos;a que des espaces.</translation>
+    </message>
+    <message>
+        <source>Users would see an empty name, and the robot would say or wait for nothing.</source>
+        <translation>Les utilisateurs verraient un nom vide, et le robot ne dirait ou n&apos;attendrait rien.</translation>
+    </message>
+    <message>
+        <source>Write a text, or remove it.</source>
+        <translation>Écrivez un texte, ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>There is no topic file &apos;%1&apos; beside the manifest.</source>
+        <translation>Il n&apos;y a pas de fichier de sujet &apos;%1&apos; à côté du manifeste.</translation>
+    </message>
+    <message>
+        <source>A dialog speaks a language by the topic file that it names. The path is relative to the manifest&apos;s folder.</source>
+        <translation>Un dialogue parle une langue par le fichier de sujet qu&apos;il nomme. Le chemin est relatif au dossier du manifeste.</translation>
+    </message>
+    <message>
+        <source>Correct the path, add the file, or remove the topic.</source>
+        <translation>Corrigez le chemin, ajoutez le fichier, ou supprimez le sujet.</translation>
+    </message>
+    <message>
+        <source>The file icon.png beside the manifest is not a PNG image.</source>
+        <translation>Le fichier icon.png à côté du manifeste n&apos;est pas une image PNG.</translation>
+    </message>
+    <message>
+        <source>The icon of a package is the PNG image icon.png beside its manifest. Without one, users see the default icon.</source>
+        <translation>L&apos;icône d&apos;un paquet est l&apos;image PNG icon.png à côté de son manifeste. Sans elle, les utilisateurs voient l&apos;icône par défaut.</translation>
+    </message>
+    <message>
+        <source>Save the icon as PNG.</source>
+        <translation>Enregistrez l&apos;icône en PNG.</translation>
+    </message>
+    <message>
+        <source>No supported language is defined.</source>
+        <translation>Aucune langue prise en charge n&apos;est définie.</translation>
+    </message>
+    <message>
+        <source>A package is offered to the users of the languages that it supports, so that this one is offered to none.</source>
+        <translation>Un paquet est proposé aux utilisateurs des langues qu&apos;il prend en charge ; celui-ci ne l&apos;est à personne.</translation>
+    </message>
+    <message>
+        <source>Add the languages that the package speaks.</source>
+        <translation>Ajoutez les langues que parle le paquet.</translation>
+    </message>
+    <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Lowest version</source>
+        <translation>Version minimale</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>Version maximale</translation>
+    </message>
+    <message>
+        <source>%1 of robot requirement %2</source>
+        <translation>%1 de l&apos;exigence de robot %2</translation>
+    </message>
+    <message>
+        <source>%1 of Brio requirement %2</source>
+        <translation>%1 de l&apos;exigence de Brio %2</translation>
+    </message>
+    <message>
+        <source>User requests</source>
+        <translation>Demandes des utilisateurs</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Autorisations</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>Phrases de déclenchement</translation>
+    </message>
+    <message>
+        <source>Loading responses</source>
+        <translation>Réponses au chargement</translation>
+    </message>
+    <message>
+        <source>Autostart</source>
+        <translation>Démarrage automatique</translation>
+    </message>
+    <message>
+        <source>Supported languages</source>
+        <translation>Langues prises en charge</translation>
+    </message>
+    <message>
+        <source>Description languages</source>
+        <translation>Langues de description</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>Exigences de robot</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Exigences de Brio</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>Comportements</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>Dialogues</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>

@@ -328,10 +328,6 @@
         <translation>「%1」は既に使われています。</translation>
     </message>
     <message>
-        <source>Robot</source>
-        <translation>ロボット</translation>
-    </message>
-    <message>
         <source>Lowest head version</source>
         <translation>頭部の最小バージョン</translation>
     </message>
@@ -348,24 +344,12 @@
         <translation>本体の最大バージョン</translation>
     </message>
     <message>
-        <source>Lowest Brio version</source>
-        <translation>Brio の最小バージョン</translation>
-    </message>
-    <message>
-        <source>Highest Brio version</source>
-        <translation>Brio の最大バージョン</translation>
-    </message>
-    <message>
         <source>Path</source>
         <translation>パス</translation>
     </message>
     <message>
         <source>Nature</source>
         <translation>種別</translation>
-    </message>
-    <message>
-        <source>Users may request it</source>
-        <translation>ユーザーが要求可能</translation>
     </message>
     <message>
         <source>Permission</source>
@@ -406,10 +390,6 @@
     <message>
         <source>Topic file</source>
         <translation>トピックファイル</translation>
-    </message>
-    <message>
-        <source>Starts with the robot</source>
-        <translation>ロボットと同時に起動</translation>
     </message>
     <message>
         <source>Command</source>
@@ -590,6 +570,350 @@
     <message>
         <source>; available: %1.</source>
         <translation>。使えるのは %1 です。</translation>
+    </message>
+    <message>
+        <source>Change it to &apos;%1&apos;</source>
+        <translation>&apos;%1&apos; に変更</translation>
+    </message>
+    <message>
+        <source>Remove the requirement</source>
+        <translation>要件を削除</translation>
+    </message>
+    <message>
+        <source>Swap minimum and maximum</source>
+        <translation>最小と最大を入れ替え</translation>
+    </message>
+    <message>
+        <source>Clear the maximum</source>
+        <translation>最大を消去</translation>
+    </message>
+    <message>
+        <source>Stop supporting %1</source>
+        <translation>%1 の対応をやめる</translation>
+    </message>
+    <message>
+        <source>Copy from %1</source>
+        <translation>%1 からコピー</translation>
+    </message>
+    <message>
+        <source>Rename it to &apos;%1&apos;</source>
+        <translation>&apos;%1&apos; に改名</translation>
+    </message>
+    <message>
+        <source>Remove the entry</source>
+        <translation>項目を削除</translation>
+    </message>
+    <message>
+        <source>Remove the permission</source>
+        <translation>権限を削除</translation>
+    </message>
+    <message>
+        <source>Clear it</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Remove the language</source>
+        <translation>言語を削除</translation>
+    </message>
+    <message>
+        <source>Describe the package in %1</source>
+        <translation>パッケージの説明言語に %1 を追加</translation>
+    </message>
+    <message>
+        <source>Remove the text</source>
+        <translation>テキストを削除</translation>
+    </message>
+    <message>
+        <source>Remove the topic</source>
+        <translation>トピックを削除</translation>
+    </message>
+    <message>
+        <source>Support %1</source>
+        <translation>%1 に対応</translation>
+    </message>
+    <message>
+        <source>Malformed speech script (line %1, column %2): %3</source>
+        <translation>音声スクリプトの形式が正しくありません (%1 行 %2 列): %3</translation>
+    </message>
+    <message>
+        <source>A text with markup is a speech script. Of a malformed one no plain text can be made, so that publishing leaves the markup in it and users read the tags.</source>
+        <translation>マークアップのあるテキストは音声スクリプトです。形式が正しくないとプレーンテキストを作れず、公開してもタグが残り、利用者に見えてしまいます。</translation>
+    </message>
+    <message>
+        <source>Correct the markup, or write &amp;lt; for a &lt; that is no tag.</source>
+        <translation>マークアップを直すか、タグでない &lt; は &amp;lt; と書いてください。</translation>
+    </message>
+    <message>
+        <source>Another behavior has the path &apos;%1&apos;, too.</source>
+        <translation>パス &apos;%1&apos; のビヘイビアーがほかにもあります。</translation>
+    </message>
+    <message>
+        <source>A behavior is started by its path; of several with the same path, only the first is found.</source>
+        <translation>ビヘイビアーはパスで起動されます。同じパスが複数あると最初のものしか見つかりません。</translation>
+    </message>
+    <message>
+        <source>Give each behavior a path of its own, or remove one of them.</source>
+        <translation>ビヘイビアーごとに別のパスを付けるか、どれかを削除してください。</translation>
+    </message>
+    <message>
+        <source>Another dialog has the topic name &apos;%1&apos;, too.</source>
+        <translation>トピック名 &apos;%1&apos; のダイアログがほかにもあります。</translation>
+    </message>
+    <message>
+        <source>A dialog is found by its topic name; of several with the same name, only the first is found.</source>
+        <translation>ダイアログはトピック名で見つけられます。同じ名前が複数あると最初のものしか見つかりません。</translation>
+    </message>
+    <message>
+        <source>Give each dialog a topic name of its own, or remove one of them.</source>
+        <translation>ダイアログごとに別のトピック名を付けるか、どれかを削除してください。</translation>
+    </message>
+    <message>
+        <source>Another service has the name &apos;%1&apos;, too.</source>
+        <translation>名前 &apos;%1&apos; のサービスがほかにもあります。</translation>
+    </message>
+    <message>
+        <source>A service is found by its name; of several with the same name, only the first is found.</source>
+        <translation>サービスは名前で見つけられます。同じ名前が複数あると最初のものしか見つかりません。</translation>
+    </message>
+    <message>
+        <source>Give each service a name of its own, or remove one of them.</source>
+        <translation>サービスごとに別の名前を付けるか、どれかを削除してください。</translation>
+    </message>
+    <message>
+        <source>The permission &apos;%1&apos; is listed twice.</source>
+        <translation>権限 &apos;%1&apos; が二度書かれています。</translation>
+    </message>
+    <message>
+        <source>A permission that is listed again grants nothing more.</source>
+        <translation>同じ権限を繰り返しても、許可は増えません。</translation>
+    </message>
+    <message>
+        <source>Remove the second one.</source>
+        <translation>二つ目を削除してください。</translation>
+    </message>
+    <message>
+        <source>%1: It is empty.</source>
+        <translation>%1: 空です。</translation>
+    </message>
+    <message>
+        <source>Behaviors, dialogs, services, permissions and properties are found by their names; one without a name cannot be used.</source>
+        <translation>ビヘイビアー、ダイアログ、サービス、権限、プロパティは名前で見つけられます。名前がないと使えません。</translation>
+    </message>
+    <message>
+        <source>Write a name, or remove the entry.</source>
+        <translation>名前を書くか、項目を削除してください。</translation>
+    </message>
+    <message>
+        <source>There is no nature &apos;%1&apos;%2</source>
+        <translation>性質 &apos;%1&apos; はありません%2</translation>
+    </message>
+    <message>
+        <source>The nature says how a behavior shares the robot with others: &apos;interactive&apos; or &apos;solitary&apos;, or nothing.</source>
+        <translation>性質は、ビヘイビアーがほかとロボットをどう共有するかを表します。&apos;interactive&apos;、&apos;solitary&apos;、または空です。</translation>
+    </message>
+    <message>
+        <source>Choose one of the two, or clear the nature.</source>
+        <translation>どちらかを選ぶか、性質を消去してください。</translation>
+    </message>
+    <message>
+        <source>There is no language &apos;%1&apos; among those that are known%2</source>
+        <translation>言語 &apos;%1&apos; は既知の言語にありません%2</translation>
+    </message>
+    <message>
+        <source>The code is none of those that &apos;zel-package languages&apos; lists, so that its users will not be found.</source>
+        <translation>このコードは &apos;zel-package languages&apos; の一覧にないので、その利用者を見つけられません。</translation>
+    </message>
+    <message>
+        <source>Correct the code, which is that of a language and a country, as in fr_FR.</source>
+        <translation>fr_FR のような言語と国のコードに直してください。</translation>
+    </message>
+    <message>
+        <source>There is no robot &apos;%1&apos; among those that are known%2</source>
+        <translation>ロボット &apos;%1&apos; は既知のロボットにありません%2</translation>
+    </message>
+    <message>
+        <source>The model is none of those that &apos;zel-package robots&apos; lists, so that no robot may meet the requirement.</source>
+        <translation>このモデルは &apos;zel-package robots&apos; の一覧にないので、要件を満たすロボットがないかもしれません。</translation>
+    </message>
+    <message>
+        <source>Correct the model, or install the description of the robot.</source>
+        <translation>モデルを直すか、そのロボットの記述をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version.</source>
+        <translation>&apos;%1&apos; はバージョンではありません。</translation>
+    </message>
+    <message>
+        <source>A version has decimal fields with dots between them. One of another form counts as none.</source>
+        <translation>バージョンは点で区切った数字です。ほかの形のものは、ないものとみなされます。</translation>
+    </message>
+    <message>
+        <source>Write a version such as 2.1.</source>
+        <translation>2.1 のようなバージョンを書いてください。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date.</source>
+        <translation>&apos;%1&apos; は日付ではありません。</translation>
+    </message>
+    <message>
+        <source>Dates are written as ISO 8601 has them, the year first, so that all programs read them alike.</source>
+        <translation>日付は、どのプログラムでも同じに読めるよう、ISO 8601 に従って年から書きます。</translation>
+    </message>
+    <message>
+        <source>Write a date such as 2026-09-14.</source>
+        <translation>2026-09-14 のような日付を書いてください。</translation>
+    </message>
+    <message>
+        <source>There is a text in %1, which the package does not list.</source>
+        <translation>パッケージの言語にない %1 のテキストがあります。</translation>
+    </message>
+    <message>
+        <source>The package neither supports nor is described in the language, so that the text is not used, and publishing drops it.</source>
+        <translation>パッケージはその言語に対応しておらず、説明もその言語にないので、テキストは使われず、公開時に削られます。</translation>
+    </message>
+    <message>
+        <source>Add the language to the package, or remove the text.</source>
+        <translation>言語をパッケージに加えるか、テキストを削除してください。</translation>
+    </message>
+    <message>
+        <source>There is only white space in the text.</source>
+        <translation>テキストが空白だけです。</translation>
+    </message>
+    <message>
+        <source>Users would see an empty name, and the robot would say or wait for nothing.</source>
+        <translation>利用者には空の名前が見え、ロボットは何も言わず、何も待ちません。</translation>
+    </message>
+    <message>
+        <source>Write a text, or remove it.</source>
+        <translation>テキストを書くか、削除してください。</translation>
+    </message>
+    <message>
+        <source>There is no topic file &apos;%1&apos; beside the manifest.</source>
+        <translation>マニフェストの隣にトピックファイル &apos;%1&apos; がありません。</translation>
+    </message>
+    <message>
+        <source>A dialog speaks a language by the topic file that it names. The path is relative to the manifest&apos;s folder.</source>
+        <translation>ダイアログは、指定したトピックファイルによってその言語で話します。パスはマニフェストのフォルダーからの相対パスです。</translation>
+    </message>
+    <message>
+        <source>Correct the path, add the file, or remove the topic.</source>
+        <translation>パスを直すか、ファイルを加えるか、トピックを削除してください。</translation>
+    </message>
+    <message>
+        <source>The file icon.png beside the manifest is not a PNG image.</source>
+        <translation>マニフェストの隣の icon.png は PNG 画像ではありません。</translation>
+    </message>
+    <message>
+        <source>The icon of a package is the PNG image icon.png beside its manifest. Without one, users see the default icon.</source>
+        <translation>パッケージのアイコンは、マニフェストの隣の PNG 画像 icon.png です。なければ既定のアイコンが表示されます。</translation>
+    </message>
+    <message>
+        <source>Save the icon as PNG.</source>
+        <translation>アイコンを PNG で保存してください。</translation>
+    </message>
+    <message>
+        <source>No supported language is defined.</source>
+        <translation>対応言語が定義されていません。</translation>
+    </message>
+    <message>
+        <source>A package is offered to the users of the languages that it supports, so that this one is offered to none.</source>
+        <translation>パッケージは対応言語の利用者に提供されます。これは誰にも提供されません。</translation>
+    </message>
+    <message>
+        <source>Add the languages that the package speaks.</source>
+        <translation>パッケージが話す言語を加えてください。</translation>
+    </message>
+    <message>
+        <source>%1 of “%2”</source>
+        <translation>「%2」の%1</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Lowest version</source>
+        <translation>最小バージョン</translation>
+    </message>
+    <message>
+        <source>Highest version</source>
+        <translation>最大バージョン</translation>
+    </message>
+    <message>
+        <source>%1 of robot requirement %2</source>
+        <translation>ロボット要件 %2 の%1</translation>
+    </message>
+    <message>
+        <source>%1 of Brio requirement %2</source>
+        <translation>Brio の要件 %2 の%1</translation>
+    </message>
+    <message>
+        <source>User requests</source>
+        <translation>ユーザーからの要求</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>権限</translation>
+    </message>
+    <message>
+        <source>Conditions</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Trigger sentences</source>
+        <translation>トリガー文</translation>
+    </message>
+    <message>
+        <source>Loading responses</source>
+        <translation>読み込み時の応答</translation>
+    </message>
+    <message>
+        <source>Autostart</source>
+        <translation>自動起動</translation>
+    </message>
+    <message>
+        <source>Supported languages</source>
+        <translation>対応言語</translation>
+    </message>
+    <message>
+        <source>Description languages</source>
+        <translation>説明言語</translation>
+    </message>
+    <message>
+        <source>Robot requirements</source>
+        <translation>ロボットの要件</translation>
+    </message>
+    <message>
+        <source>Brio requirements</source>
+        <translation>Brio の要件</translation>
+    </message>
+    <message>
+        <source>Behaviors</source>
+        <translation>ビヘイビア</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>ダイアログ</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1「%2」</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 for “%2”</source>
+        <translation>%1 (目的: %2)</translation>
     </message>
 </context>
 <context>

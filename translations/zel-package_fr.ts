@@ -663,10 +663,6 @@
         <translation>La forme de la sortie : text, json ou sarif.</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error or warning; error when none is given.</source>
-        <translation>La gravité à partir de laquelle le code de sortie est 1 : error ou warning ; error si elle n&apos;est pas donnée.</translation>
-    </message>
-    <message>
         <source>Leave out what these rules find; IDs are joined by commas, and the option may be given several times.</source>
         <translation>Laisser de côté ce que trouvent ces règles ; les ID sont séparés par des virgules, et l&apos;option peut être donnée plusieurs fois.</translation>
     </message>
@@ -677,10 +673,6 @@
     <message>
         <source>There is no severity &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de gravité &apos;%1&apos;%2</translation>
-    </message>
-    <message>
-        <source>; it is either error or warning.</source>
-        <translation> ; c&apos;est error ou warning.</translation>
     </message>
     <message>
         <source>; it is text, json or sarif.</source>
@@ -709,10 +701,6 @@
     <message>
         <source>Tell what is wrong with manifests</source>
         <translation>Dire ce qui ne va pas dans des manifestes</translation>
-    </message>
-    <message>
-        <source>FILE... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</source>
-        <translation>FICHIER... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
     <message>
         <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
@@ -950,6 +938,22 @@
     <message>
         <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
         <translation>Explique à quoi sert la règle ID de &apos;validate&apos; et comment corriger ce qu&apos;elle signale ; sans ID, affiche toutes les règles.</translation>
+    </message>
+    <message>
+        <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
+        <translation>La gravité minimale qui donne le code de sortie 1 : error, warning ou note ; error par défaut.</translation>
+    </message>
+    <message>
+        <source>; it is error, warning or note.</source>
+        <translation> ; c&apos;est error, warning ou note.</translation>
+    </message>
+    <message>
+        <source>, notes: %1</source>
+        <translation>, remarques : %1</translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
+        <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
 </context>
 </TS>

@@ -663,10 +663,6 @@
         <translation>出力の形式: text、json または sarif。</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error or warning; error when none is given.</source>
-        <translation>終了ステータスを 1 にする最低の重大度: error または warning。指定がない場合は error。</translation>
-    </message>
-    <message>
         <source>Leave out what these rules find; IDs are joined by commas, and the option may be given several times.</source>
         <translation>これらの規則の指摘を除く。ID はコンマで区切り、オプションは複数回指定できます。</translation>
     </message>
@@ -677,10 +673,6 @@
     <message>
         <source>There is no severity &apos;%1&apos;%2</source>
         <translation>重大度 &apos;%1&apos; はありません%2</translation>
-    </message>
-    <message>
-        <source>; it is either error or warning.</source>
-        <translation>。error または warning を指定してください。</translation>
     </message>
     <message>
         <source>; it is text, json or sarif.</source>
@@ -709,10 +701,6 @@
     <message>
         <source>Tell what is wrong with manifests</source>
         <translation>マニフェストの問題を指摘する</translation>
-    </message>
-    <message>
-        <source>FILE... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</source>
-        <translation>ファイル... [--format text|json|sarif] [--fail-on error|warning] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
     <message>
         <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
@@ -950,6 +938,22 @@
     <message>
         <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
         <translation>&apos;validate&apos; の規則 ID の目的と、指摘された点の直し方を説明します。ID がなければ、すべての規則を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
+        <translation>終了コードを 1 にする最低の重大度: error、warning、note。省略時は error。</translation>
+    </message>
+    <message>
+        <source>; it is error, warning or note.</source>
+        <translation>。error、warning、note のいずれかです。</translation>
+    </message>
+    <message>
+        <source>, notes: %1</source>
+        <translation>、注記: %1</translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
+        <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
 </context>
 </TS>

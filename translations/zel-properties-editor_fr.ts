@@ -16,10 +16,6 @@
         <translation>Il faut un chemin à un comportement.</translation>
     </message>
     <message>
-        <source>There is another behavior with this path.</source>
-        <translation>Un autre comportement a ce chemin.</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>Aucune</translation>
     </message>
@@ -133,9 +129,6 @@
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
     </message>
-</context>
-<context>
-    <name>Editor::Commands</name>
     <message>
         <source>Add behavior %1</source>
         <translation>Ajouter le comportement %1</translation>
@@ -143,74 +136,6 @@
     <message>
         <source>Remove behavior %1</source>
         <translation>Retirer le comportement %1</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>Ajouter le dialogue %1</translation>
-    </message>
-    <message>
-        <source>Remove dialog %1</source>
-        <translation>Retirer le dialogue %1</translation>
-    </message>
-    <message>
-        <source>Add service %1</source>
-        <translation>Ajouter le service %1</translation>
-    </message>
-    <message>
-        <source>Remove service %1</source>
-        <translation>Retirer le service %1</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>Ajouter une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>Retirer une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Ajouter une exigence Brio</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Retirer une exigence Brio</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>Renommer le service %1</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>Modifier la commande du service %1</translation>
-    </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>Changer le démarrage du service %1</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Modifier l&apos;exigence Brio %1</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>Modifier l&apos;exigence sur le robot %1</translation>
-    </message>
-    <message>
-        <source>Remove language %1</source>
-        <translation>Retirer la langue %1</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>Ajouter la langue %1</translation>
-    </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>Retirer la langue de description %1</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>Ajouter la langue de description %1</translation>
     </message>
 </context>
 <context>
@@ -247,10 +172,6 @@
         <translation>Il faut un nom de sujet à un dialogue.</translation>
     </message>
     <message>
-        <source>There is another dialog with this topic.</source>
-        <translation>Un autre dialogue a ce sujet.</translation>
-    </message>
-    <message>
         <source>Type &amp;version:</source>
         <translation>&amp;Version de type&#xa0;:</translation>
     </message>
@@ -262,67 +183,20 @@
         <source>Remove &amp;File</source>
         <translation>Retirer le &amp;fichier</translation>
     </message>
+    <message>
+        <source>Remove dialog %1</source>
+        <translation>Retirer le dialogue %1</translation>
+    </message>
+    <message>
+        <source>Add dialog %1</source>
+        <translation>Ajouter le dialogue %1</translation>
+    </message>
 </context>
 <context>
     <name>Editor::Document</name>
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>L&apos;icône ne peut pas être convertie en PNG.</translation>
-    </message>
-</context>
-<context>
-    <name>Editor::FieldPlace</name>
-    <message>
-        <source>Robot of requirement %1</source>
-        <translation>Robot de l&apos;exigence %1</translation>
-    </message>
-    <message>
-        <source>Lowest head version of robot requirement %1</source>
-        <translation>Version minimale de tête de l&apos;exigence %1</translation>
-    </message>
-    <message>
-        <source>Highest head version of robot requirement %1</source>
-        <translation>Version maximale de tête de l&apos;exigence %1</translation>
-    </message>
-    <message>
-        <source>Lowest body version of robot requirement %1</source>
-        <translation>Version minimale de corps de l&apos;exigence %1</translation>
-    </message>
-    <message>
-        <source>Highest body version of robot requirement %1</source>
-        <translation>Version maximale de corps de l&apos;exigence %1</translation>
-    </message>
-    <message>
-        <source>Lowest version of Brio requirement %1</source>
-        <translation>Version minimale de l&apos;exigence Brio %1</translation>
-    </message>
-    <message>
-        <source>Highest version of Brio requirement %1</source>
-        <translation>Version maximale de l&apos;exigence Brio %1</translation>
-    </message>
-    <message>
-        <source>UID</source>
-        <translation>UID</translation>
-    </message>
-    <message>
-        <source>Name in %1</source>
-        <translation>Nom en %1</translation>
-    </message>
-    <message>
-        <source>Description in %1</source>
-        <translation>Description en %1</translation>
-    </message>
-    <message>
-        <source>Trigger sentences of “%1” in %2</source>
-        <translation>Phrases de déclenchement de «&#xa0;%1&#xa0;» en %2</translation>
-    </message>
-    <message>
-        <source>Robot requirements</source>
-        <translation>Exigences sur le robot</translation>
-    </message>
-    <message>
-        <source>Brio requirements</source>
-        <translation>Exigences Brio</translation>
     </message>
 </context>
 <context>
@@ -545,6 +419,14 @@
         <source>Icon</source>
         <translation>Icône</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Modifier : %1</translation>
+    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>
@@ -579,6 +461,22 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>Retirer la langue %1</translation>
+    </message>
+    <message>
+        <source>Remove description language %1</source>
+        <translation>Retirer la langue de description %1</translation>
+    </message>
+    <message>
+        <source>Add language %1</source>
+        <translation>Ajouter la langue %1</translation>
+    </message>
+    <message>
+        <source>Add description language %1</source>
+        <translation>Ajouter la langue de description %1</translation>
     </message>
 </context>
 <context>
@@ -675,6 +573,10 @@ Version %1</translation>
         <source>Mend It</source>
         <translation>Corriger</translation>
     </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modification</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -685,6 +587,10 @@ Version %1</translation>
     <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
     </message>
 </context>
 <context>
@@ -732,6 +638,30 @@ Version %1</translation>
         <source>Highest body</source>
         <translation>Corps, maximum</translation>
     </message>
+    <message>
+        <source>Edit robot requirement %1</source>
+        <translation>Modifier l&apos;exigence sur le robot %1</translation>
+    </message>
+    <message>
+        <source>Edit Brio requirement %1</source>
+        <translation>Modifier l&apos;exigence Brio %1</translation>
+    </message>
+    <message>
+        <source>Add robot requirement</source>
+        <translation>Ajouter une exigence sur le robot</translation>
+    </message>
+    <message>
+        <source>Add Brio requirement</source>
+        <translation>Ajouter une exigence Brio</translation>
+    </message>
+    <message>
+        <source>Remove robot requirement</source>
+        <translation>Retirer une exigence sur le robot</translation>
+    </message>
+    <message>
+        <source>Remove Brio requirement</source>
+        <translation>Retirer une exigence Brio</translation>
+    </message>
 </context>
 <context>
     <name>Editor::RequirementsPage</name>
@@ -775,10 +705,6 @@ Version %1</translation>
 <context>
     <name>Editor::ServicesModel</name>
     <message>
-        <source>There is another service with this name.</source>
-        <translation>Un autre service a ce nom.</translation>
-    </message>
-    <message>
         <source>Name</source>
         <translation>Nom</translation>
     </message>
@@ -789,6 +715,18 @@ Version %1</translation>
     <message>
         <source>Starts with the robot</source>
         <translation>Démarre avec le robot</translation>
+    </message>
+    <message>
+        <source>Switch start of service %1</source>
+        <translation>Changer le démarrage du service %1</translation>
+    </message>
+    <message>
+        <source>Rename service %1</source>
+        <translation>Renommer le service %1</translation>
+    </message>
+    <message>
+        <source>Set command of service %1</source>
+        <translation>Modifier la commande du service %1</translation>
     </message>
 </context>
 <context>
@@ -809,6 +747,14 @@ Version %1</translation>
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
     </message>
+    <message>
+        <source>Remove service %1</source>
+        <translation>Retirer le service %1</translation>
+    </message>
+    <message>
+        <source>Add service %1</source>
+        <translation>Ajouter le service %1</translation>
+    </message>
 </context>
 <context>
     <name>Editor::StringListEditor</name>
@@ -826,13 +772,6 @@ Version %1</translation>
     <message>
         <source>The list has “%1” already.</source>
         <translation>La liste contient déjà «&#xa0;%1&#xa0;».</translation>
-    </message>
-</context>
-<context>
-    <name>Editor::TextField</name>
-    <message>
-        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une version. Une version est faite de nombres séparés par des points, comme 2.5.0.</translation>
     </message>
 </context>
 <context>
@@ -876,10 +815,6 @@ Version %1</translation>
     <message>
         <source>Code of the language, such as en or pt_BR:</source>
         <translation>Code de la langue, comme en ou pt_BR&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Remove language %1</source>
-        <translation>Retirer la langue %1</translation>
     </message>
 </context>
 <context>

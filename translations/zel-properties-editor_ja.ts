@@ -16,10 +16,6 @@
         <translation>ビヘイビアにはパスが必要です。</translation>
     </message>
     <message>
-        <source>There is another behavior with this path.</source>
-        <translation>このパスのビヘイビアは既にあります。</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>なし</translation>
     </message>
@@ -133,9 +129,6 @@
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
     </message>
-</context>
-<context>
-    <name>Editor::Commands</name>
     <message>
         <source>Add behavior %1</source>
         <translation>ビヘイビア %1 を追加</translation>
@@ -143,74 +136,6 @@
     <message>
         <source>Remove behavior %1</source>
         <translation>ビヘイビア %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>ダイアログ %1 を追加</translation>
-    </message>
-    <message>
-        <source>Remove dialog %1</source>
-        <translation>ダイアログ %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add service %1</source>
-        <translation>サービス %1 を追加</translation>
-    </message>
-    <message>
-        <source>Remove service %1</source>
-        <translation>サービス %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>ロボット要件を追加</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>ロボット要件を削除</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Brio の要件を追加</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Brio の要件を削除</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>サービス %1 の名前を変更</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>サービス %1 のコマンドを変更</translation>
-    </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>サービス %1 の自動起動を切り替え</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Brio の要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>ロボット要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Remove language %1</source>
-        <translation>言語 %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>言語 %1 を追加</translation>
-    </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>説明の言語 %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>説明の言語 %1 を追加</translation>
     </message>
 </context>
 <context>
@@ -247,10 +172,6 @@
         <translation>ダイアログにはトピック名が必要です。</translation>
     </message>
     <message>
-        <source>There is another dialog with this topic.</source>
-        <translation>このトピックのダイアログは既にあります。</translation>
-    </message>
-    <message>
         <source>Type &amp;version:</source>
         <translation>種別バージョン(&amp;V):</translation>
     </message>
@@ -262,67 +183,20 @@
         <source>Remove &amp;File</source>
         <translation>ファイルを削除(&amp;F)</translation>
     </message>
+    <message>
+        <source>Remove dialog %1</source>
+        <translation>ダイアログ %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add dialog %1</source>
+        <translation>ダイアログ %1 を追加</translation>
+    </message>
 </context>
 <context>
     <name>Editor::Document</name>
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>アイコンを PNG に変換できません。</translation>
-    </message>
-</context>
-<context>
-    <name>Editor::FieldPlace</name>
-    <message>
-        <source>Robot of requirement %1</source>
-        <translation>要件 %1 のロボット</translation>
-    </message>
-    <message>
-        <source>Lowest head version of robot requirement %1</source>
-        <translation>ロボット要件 %1 のヘッドの最小バージョン</translation>
-    </message>
-    <message>
-        <source>Highest head version of robot requirement %1</source>
-        <translation>ロボット要件 %1 のヘッドの最大バージョン</translation>
-    </message>
-    <message>
-        <source>Lowest body version of robot requirement %1</source>
-        <translation>ロボット要件 %1 のボディの最小バージョン</translation>
-    </message>
-    <message>
-        <source>Highest body version of robot requirement %1</source>
-        <translation>ロボット要件 %1 のボディの最大バージョン</translation>
-    </message>
-    <message>
-        <source>Lowest version of Brio requirement %1</source>
-        <translation>Brio の要件 %1 の最小バージョン</translation>
-    </message>
-    <message>
-        <source>Highest version of Brio requirement %1</source>
-        <translation>Brio の要件 %1 の最大バージョン</translation>
-    </message>
-    <message>
-        <source>UID</source>
-        <translation>UID</translation>
-    </message>
-    <message>
-        <source>Name in %1</source>
-        <translation>名前 (%1)</translation>
-    </message>
-    <message>
-        <source>Description in %1</source>
-        <translation>説明 (%1)</translation>
-    </message>
-    <message>
-        <source>Trigger sentences of “%1” in %2</source>
-        <translation>「%1」のトリガー文 (%2)</translation>
-    </message>
-    <message>
-        <source>Robot requirements</source>
-        <translation>ロボットの要件</translation>
-    </message>
-    <message>
-        <source>Brio requirements</source>
-        <translation>Brio の要件</translation>
     </message>
 </context>
 <context>
@@ -545,6 +419,14 @@
         <source>Icon</source>
         <translation>アイコン</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>%1 を設定</translation>
+    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>
@@ -579,6 +461,22 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Remove language %1</source>
+        <translation>言語 %1 を削除</translation>
+    </message>
+    <message>
+        <source>Remove description language %1</source>
+        <translation>説明の言語 %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add language %1</source>
+        <translation>言語 %1 を追加</translation>
+    </message>
+    <message>
+        <source>Add description language %1</source>
+        <translation>説明の言語 %1 を追加</translation>
     </message>
 </context>
 <context>
@@ -675,6 +573,10 @@ Version %1</source>
         <source>Mend It</source>
         <translation>修正する</translation>
     </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -685,6 +587,10 @@ Version %1</source>
     <message>
         <source>Warning</source>
         <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
     </message>
 </context>
 <context>
@@ -732,6 +638,30 @@ Version %1</source>
         <source>Highest body</source>
         <translation>ボディの最大</translation>
     </message>
+    <message>
+        <source>Edit robot requirement %1</source>
+        <translation>ロボット要件 %1 を編集</translation>
+    </message>
+    <message>
+        <source>Edit Brio requirement %1</source>
+        <translation>Brio の要件 %1 を編集</translation>
+    </message>
+    <message>
+        <source>Add robot requirement</source>
+        <translation>ロボット要件を追加</translation>
+    </message>
+    <message>
+        <source>Add Brio requirement</source>
+        <translation>Brio の要件を追加</translation>
+    </message>
+    <message>
+        <source>Remove robot requirement</source>
+        <translation>ロボット要件を削除</translation>
+    </message>
+    <message>
+        <source>Remove Brio requirement</source>
+        <translation>Brio の要件を削除</translation>
+    </message>
 </context>
 <context>
     <name>Editor::RequirementsPage</name>
@@ -775,10 +705,6 @@ Version %1</source>
 <context>
     <name>Editor::ServicesModel</name>
     <message>
-        <source>There is another service with this name.</source>
-        <translation>この名前のサービスは既にあります。</translation>
-    </message>
-    <message>
         <source>Name</source>
         <translation>名前</translation>
     </message>
@@ -789,6 +715,18 @@ Version %1</source>
     <message>
         <source>Starts with the robot</source>
         <translation>ロボットと同時に起動</translation>
+    </message>
+    <message>
+        <source>Switch start of service %1</source>
+        <translation>サービス %1 の自動起動を切り替え</translation>
+    </message>
+    <message>
+        <source>Rename service %1</source>
+        <translation>サービス %1 の名前を変更</translation>
+    </message>
+    <message>
+        <source>Set command of service %1</source>
+        <translation>サービス %1 のコマンドを変更</translation>
     </message>
 </context>
 <context>
@@ -809,6 +747,14 @@ Version %1</source>
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
     </message>
+    <message>
+        <source>Remove service %1</source>
+        <translation>サービス %1 を削除</translation>
+    </message>
+    <message>
+        <source>Add service %1</source>
+        <translation>サービス %1 を追加</translation>
+    </message>
 </context>
 <context>
     <name>Editor::StringListEditor</name>
@@ -826,13 +772,6 @@ Version %1</source>
     <message>
         <source>The list has “%1” already.</source>
         <translation>一覧には既に「%1」があります。</translation>
-    </message>
-</context>
-<context>
-    <name>Editor::TextField</name>
-    <message>
-        <source>“%1” is no version. A version is numbers with dots between them, such as 2.5.0.</source>
-        <translation>「%1」はバージョンではありません。バージョンは 2.5.0 のように、数字をドットで区切ったものです。</translation>
     </message>
 </context>
 <context>
@@ -876,10 +815,6 @@ Version %1</source>
     <message>
         <source>Code of the language, such as en or pt_BR:</source>
         <translation>言語コード (en、pt_BR など):</translation>
-    </message>
-    <message>
-        <source>Remove language %1</source>
-        <translation>言語 %1 を削除</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,5 @@
 #include "behavior_details.h"
 
-#include "languages.h"
 #include "languages_model.h"
 #include "marks.h"
 
@@ -18,6 +17,7 @@
 namespace Editor {
 namespace {
 
+using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 using Zel::PackageInfoModel;
 using Zel::RobotLanguage;
@@ -43,10 +43,7 @@ ListSource listSource(QStringList (BehaviorInfoModel::*list)(const Key &) const,
 }
 
 QStringList permissionsOf(const BehaviorInfoModel *behavior) {
-    const QSet<QString> permissions = behavior ? behavior->permissions() : QSet<QString>();
-    QStringList sorted(permissions.begin(), permissions.end());
-    sorted.sort();
-    return sorted;
+    return behavior ? behavior->permissionList() : QStringList();
 }
 
 ListSource permissionSource(PackageInfoModel *package,
@@ -75,20 +72,12 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     , m_purpose(new QComboBox(this)) {
     auto *form = new QFormLayout;
     m_fields.append(addTextRow(form, tr("&Path:"), document,
-                               {[this] { return path(); },
+                               {[this] { return field("path"); },
                                 [this](const QString &text, bool isFinal) {
                                     return new Zel::BehaviorPathCommand(package(), path(), text,
                                                                         isFinal);
                                 },
-                                {},
-                                [this](const QString &text) {
-                                    if (text.isEmpty())
-                                        return tr("A behavior needs a path.");
-                                    const BehaviorInfoModel *other = package()->behavior(text);
-                                    return other && other != m_behavior
-                                               ? tr("There is another behavior with this path.")
-                                               : QString();
-                                }}));
+                                tr("A behavior needs a path.")}));
     m_nature->addItem(tr("None"), BehaviorInfoModel::natureNone());
     m_nature->addItem(tr("Interactive: it reacts to people"),
                       BehaviorInfoModel::natureInteractive());
@@ -128,7 +117,7 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
                                    QStringLiteral("motion"), QStringLiteral("speech")});
 
     auto *mark = new MarkLabel(
-        document, [this] { return sentencesPath(path(), language().isoCode()); }, this);
+        document, [this] { return textField("triggerSentences"); }, this);
     auto *sentencesLayout = qobject_cast<QVBoxLayout *>(m_sentences->parentWidget()->layout());
     sentencesLayout->insertWidget(0, mark);
 
@@ -157,22 +146,20 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
 QWidget *BehaviorDetails::newTextsTab() {
     auto *tab = new QWidget(this);
     auto *form = new QFormLayout(tab);
-    const auto read = [this](QString (BehaviorInfoModel::*get)(const RobotLanguage &) const) {
-        return [this, get] { return m_behavior ? (m_behavior->*get)(language()) : QString(); };
-    };
-    m_fields.append(addTextRow(
-        form, tr("&Name:"), m_document,
-        {read(&BehaviorInfoModel::name), [this](const QString &text, bool isFinal) {
-             return new Zel::BehaviorNameCommand(package(), path(), text, language(), isFinal);
-         }}));
+    m_fields.append(addTextRow(form, tr("&Name:"), m_document,
+                               {[this] { return textField("names"); },
+                                [this](const QString &text, bool isFinal) {
+                                    return new Zel::BehaviorNameCommand(package(), path(), text,
+                                                                        language(), isFinal);
+                                }}));
     auto *description = new QPlainTextEdit(tab);
     form->addRow(tr("D&escription:"), description);
-    m_fields.append(new TextField(
-        description, m_document,
-        {read(&BehaviorInfoModel::description), [this](const QString &text, bool isFinal) {
-             return new Zel::BehaviorDescriptionCommand(package(), path(), text, language(),
-                                                        isFinal);
-         }}));
+    m_fields.append(new TextField(description, m_document,
+                                  {[this] { return textField("descriptions"); },
+                                   [this](const QString &text, bool isFinal) {
+                                       return new Zel::BehaviorDescriptionCommand(
+                                           package(), path(), text, language(), isFinal);
+                                   }}));
     return tab;
 }
 
@@ -189,8 +176,20 @@ QString BehaviorDetails::path() const {
     return m_behavior ? m_behavior->path() : QString();
 }
 
+FieldPath BehaviorDetails::field(const char *name) const {
+    const FieldPath list = FieldPath().field("behaviors");
+    const int row = int(package()->behaviors().indexOf(m_behavior));
+    const FieldPath entry = Zel::PackageModel::itemPath(package(), list, row);
+    return entry.isEmpty() ? entry : FieldPath(entry).field(name);
+}
+
+FieldPath BehaviorDetails::textField(const char *name) const {
+    const FieldPath texts = field(name);
+    return texts.isEmpty() ? texts : FieldPath(texts).key(Zel::toUtf8(language().isoCode()));
+}
+
 RobotLanguage BehaviorDetails::language() const {
-    return languageOf(m_languages->keys().value(m_language->currentIndex()));
+    return Zel::Language::languageInUse(m_languages->keys().value(m_language->currentIndex()));
 }
 
 void BehaviorDetails::setBehavior(BehaviorInfoModel *behavior) {

@@ -33,6 +33,10 @@ private:
     void refresh();
     void setLists();
     QString path() const;
+    /// The path of a field of the behavior; the empty path while none is shown.
+    Tano::FieldPath field(const char *name) const;
+    /// The same for the language that is shown.
+    Tano::FieldPath textField(const char *name) const;
     Zel::RobotLanguage language() const;
     Zel::PackageInfoModel *package() const { return m_document.package(); }
 

@@ -73,6 +73,7 @@ void BehaviorsModel::reset() {
     connect(m_document.package(), &PackageInfoModel::behaviorAdded, this, &BehaviorsModel::add);
     connect(m_document.package(), &PackageInfoModel::behaviorRemoved, this,
             &BehaviorsModel::remove);
+    connect(m_document.package(), &PackageInfoModel::behaviorMoved, this, &BehaviorsModel::move);
 }
 
 void BehaviorsModel::add(BehaviorInfoModel *behavior) {
@@ -87,6 +88,13 @@ void BehaviorsModel::remove(BehaviorInfoModel *behavior) {
     beginRemoveRows({}, row, row);
     m_behaviors.removeAt(row);
     endRemoveRows();
+}
+
+void BehaviorsModel::move(BehaviorInfoModel *, int from, int to) {
+    // Qt takes the row before which the moved one comes, counted before the move.
+    beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+    m_behaviors.move(from, to);
+    endMoveRows();
 }
 
 void BehaviorsModel::watch(BehaviorInfoModel *behavior) {

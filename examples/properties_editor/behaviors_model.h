@@ -31,6 +31,7 @@ private:
     void reset();
     void add(Zel::BehaviorInfoModel *behavior);
     void remove(Zel::BehaviorInfoModel *behavior);
+    void move(Zel::BehaviorInfoModel *behavior, int from, int to);
     void watch(Zel::BehaviorInfoModel *behavior);
     void announce(const Zel::BehaviorInfoModel *behavior);
 

@@ -2,8 +2,8 @@
 
 #include "behavior_details.h"
 #include "behaviors_model.h"
-#include "editor_commands.h"
 #include "entry_models.h"
+#include "field_edits.h"
 #include "marks.h"
 #include "typing_delegate.h"
 
@@ -18,6 +18,7 @@
 
 namespace Editor {
 
+using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 
 BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
@@ -73,12 +74,12 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
 
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &BehaviorsPage::showCurrent);
-    connect(m_filtered, &QAbstractItemModel::modelReset, this, [this] {
-        m_currentPath.clear();
-        restoreCurrent();
+    connect(m_filtered, &QAbstractItemModel::modelReset, this, &BehaviorsPage::selectFirst);
+    connect(&document, &Document::edited, this, [this] {
+        if (!m_view->currentIndex().isValid())
+            selectFirst();
     });
-    connect(&document, &Document::edited, this, &BehaviorsPage::restoreCurrent);
-    restoreCurrent();
+    selectFirst();
 }
 
 int BehaviorsPage::currentRow() const {
@@ -88,24 +89,12 @@ int BehaviorsPage::currentRow() const {
 void BehaviorsPage::showCurrent() {
     BehaviorInfoModel *behavior = m_model->behavior(currentRow());
     m_remove->setEnabled(behavior != nullptr);
-    // While entries go and come again, another is current only in passing.
-    if (behavior == m_current && behavior)
-        return;
-    m_current = behavior;
     m_details->setBehavior(behavior);
 }
 
-void BehaviorsPage::restoreCurrent() {
-    const BehaviorInfoModel *wanted =
-        m_currentPath.isEmpty() ? nullptr : package()->behavior(m_currentPath);
-    if (m_current && m_current->path() != m_currentPath && !wanted)
-        wanted = m_current; // it was renamed
-    if (wanted && wanted != m_current)
-        select(wanted);
-    if (!m_view->currentIndex().isValid() && m_filtered->rowCount() > 0)
-        m_view->setCurrentIndex(m_filtered->index(0, 0));
+void BehaviorsPage::selectFirst() {
+    m_view->setCurrentIndex(m_filtered->index(0, 0));
     showCurrent();
-    m_currentPath = m_current ? m_current->path() : QString();
 }
 
 void BehaviorsPage::select(const BehaviorInfoModel *behavior) {
@@ -115,30 +104,31 @@ void BehaviorsPage::select(const BehaviorInfoModel *behavior) {
     const QModelIndex index = m_filtered->mapFromSource(source);
     m_view->setCurrentIndex(index);
     m_view->scrollTo(index);
-    showCurrent();
-    m_currentPath = behavior->path();
 }
 
 void BehaviorsPage::add() {
     const QString path = freeName(QStringLiteral("new-behavior"), [this](const QString &name) {
         return package()->behavior(name);
     });
-    document().push(newAddBehaviorCommand(package(), path));
+    Tano::BehaviorInfo behavior;
+    behavior.setPath(Zel::toUtf8(path));
+    document().edit({appended(FieldPath().field("behaviors"), behavior)},
+                    tr("Add behavior %1").arg(path));
     select(package()->behavior(path));
 }
 
 void BehaviorsPage::remove() {
-    const int row = currentRow();
-    if (row >= 0)
-        document().push(newRemoveBehaviorCommand(package(), row));
+    if (const BehaviorInfoModel *behavior = m_model->behavior(currentRow()))
+        document().edit({removed(package(), FieldPath().field("behaviors"), currentRow())},
+                        tr("Remove behavior %1").arg(behavior->path()));
 }
 
-bool BehaviorsPage::showField(const FieldPlace &path) {
-    if (path.list != QLatin1String("behaviors"))
+bool BehaviorsPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("behaviors"))
         return false;
-    if (const BehaviorInfoModel *behavior = package()->behavior(path.key)) {
+    if (const BehaviorInfoModel *behavior = package()->behavior(fieldKey(path))) {
         select(behavior);
-        m_details->showSentences(path.subkey);
+        m_details->showSentences(fieldKey(path, 1));
     }
     return true;
 }

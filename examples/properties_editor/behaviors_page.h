@@ -2,8 +2,6 @@
 
 #include "page.h"
 
-#include <QPointer>
-
 class QLineEdit;
 class QSortFilterProxyModel;
 class QTreeView;
@@ -19,7 +17,7 @@ class BehaviorsPage : public Page {
 
 public:
     explicit BehaviorsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
     void takePending() override;
 
 private:
@@ -27,7 +25,7 @@ private:
     void remove();
     void select(const Zel::BehaviorInfoModel *behavior);
     void showCurrent();
-    void restoreCurrent();
+    void selectFirst();
     int currentRow() const;
 
     BehaviorsModel *m_model;
@@ -36,8 +34,6 @@ private:
     QTreeView *m_view;
     QPushButton *m_remove;
     BehaviorDetails *m_details;
-    QPointer<Zel::BehaviorInfoModel> m_current;
-    QString m_currentPath;
 };
 
 } // namespace Editor

@@ -9,7 +9,10 @@ namespace Editor {
 void CoverageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const {
     QStyledItemDelegate::paint(painter, option, index);
-    const int percent = index.data(LanguagesModel::PercentRole).toInt();
+    const QVariant coverage = index.data(LanguagesModel::PercentRole);
+    if (!coverage.isValid())
+        return;
+    const int percent = coverage.toInt();
     const QRect full = option.rect.adjusted(4, option.rect.height() - 5, -8, -2);
     QRect filled = full;
     filled.setWidth(full.width() * percent / 100);

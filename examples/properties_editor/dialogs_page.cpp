@@ -1,7 +1,7 @@
 #include "dialogs_page.h"
 
-#include "editor_commands.h"
 #include "entry_models.h"
+#include "field_edits.h"
 #include "marks.h"
 #include "typing_delegate.h"
 
@@ -17,6 +17,7 @@
 
 namespace Editor {
 
+using Tano::FieldPath;
 using Zel::DialogInfoModel;
 
 DialogsPage::DialogsPage(Document &document, QWidget *parent)
@@ -52,7 +53,9 @@ QWidget *DialogsPage::newList() {
     connect(add, &QPushButton::clicked, this, &DialogsPage::add);
     connect(m_remove, &QPushButton::clicked, this, [this] {
         if (current())
-            document().push(newRemoveDialogCommand(package(), m_list->currentIndex().row()));
+            document().edit(
+                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())},
+                tr("Remove dialog %1").arg(current()->topicName()));
     });
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
@@ -70,22 +73,14 @@ QWidget *DialogsPage::newDetails() {
     m_details = new QWidget(this);
     auto *form = new QFormLayout;
     m_name = addTextRow(form, tr("&Topic:"), document(),
-                        {[this] { return current() ? current()->topicName() : QString(); },
+                        {[this] { return field("topicName"); },
                          [this](const QString &text, bool isFinal) {
                              return new Zel::DialogInfoModelNameCommand(
                                  package(), current()->topicName(), text, isFinal);
                          },
-                         {},
-                         [this](const QString &text) {
-                             if (text.isEmpty())
-                                 return tr("A dialog needs a topic name.");
-                             const DialogInfoModel *other = package()->dialog(text);
-                             return other && other != current()
-                                        ? tr("There is another dialog with this topic.")
-                                        : QString();
-                         }});
+                         tr("A dialog needs a topic name.")});
     m_typeVersion = addTextRow(form, tr("Type &version:"), document(),
-                               {[this] { return current() ? current()->typeVersion() : QString(); },
+                               {[this] { return field("typeVersion"); },
                                 [this](const QString &text, bool isFinal) {
                                     return new Zel::DialogInfoModelTypeVersionCommand(
                                         package(), current()->topicName(), text, isFinal);
@@ -117,6 +112,12 @@ DialogInfoModel *DialogsPage::current() const {
     return package()->dialogs().value(m_list->currentIndex().row());
 }
 
+FieldPath DialogsPage::field(const char *name) const {
+    const FieldPath entry = Zel::PackageModel::itemPath(package(), FieldPath().field("dialogs"),
+                                                        m_list->currentIndex().row());
+    return entry.isEmpty() ? entry : FieldPath(entry).field(name);
+}
+
 void DialogsPage::showCurrent() {
     if (!m_list->currentIndex().isValid() && m_dialogs->rowCount() > 0)
         m_list->setCurrentIndex(m_dialogs->index(0, 0));
@@ -136,11 +137,14 @@ void DialogsPage::add() {
     const QString name = freeName(QStringLiteral("new-topic"), [this](const QString &taken) {
         return package()->dialog(taken);
     });
-    document().push(newAddDialogCommand(package(), name));
+    Tano::DialogInfo dialog;
+    dialog.setTopicName(Zel::toUtf8(name));
+    document().edit({appended(FieldPath().field("dialogs"), dialog)},
+                    tr("Add dialog %1").arg(name));
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
 }
 
-bool DialogsPage::showField(const FieldPlace &) {
+bool DialogsPage::showField(const FieldPath &) {
     return false; // nothing is checked in dialogs
 }
 

@@ -16,7 +16,7 @@ class DialogsPage : public Page {
 
 public:
     explicit DialogsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     QWidget *newList();
@@ -25,6 +25,8 @@ private:
     void showCurrent();
     void refresh();
     Zel::DialogInfoModel *current() const;
+    /// The path of a field of the dialog; the empty path while none is shown.
+    Tano::FieldPath field(const char *name) const;
 
     DialogsModel *m_dialogs;
     TopicsModel *m_topics;

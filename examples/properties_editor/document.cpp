@@ -1,26 +1,32 @@
 #include "document.h"
 
-#include "field_place.h"
+#include "field_edits.h"
 
-#include <packagemodel/set_command.h>
+#include <packagemodel/package_edit_command.h>
 
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace Editor {
 namespace {
 
-using Zel::BehaviorInfoModel;
 using Zel::PackageInfoModel;
-using Zel::PackageInfoValidator;
 using Zel::PackageModel::Issue;
+using Zel::PackageModel::LanguageCoverage;
 using Zel::PackageModel::Severity;
 
 qint64 keyOf(const QIcon &icon) {
     return icon.isNull() ? 0 : icon.cacheKey();
+}
+
+template<typename Sender, typename Function, typename... Signals>
+void connectAll(const Sender *sender, const QObject *context, Function function,
+                Signals... signals) {
+    (QObject::connect(sender, signals, context, function), ...);
 }
 
 QPixmap largest(const QIcon &icon) {
@@ -172,15 +178,14 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
         const QSignalBlocker blocker(m_undoStack);
         m_undoStack.clear();
     }
-    m_validator.reset();
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(content);
     watchPackage();
-    ++m_behaviorTextsRevision;
-    m_issuesStale = true;
+    m_languages.reset();
+    m_coverages.reset();
     refreshIssues();
     Q_EMIT packageReplaced();
     m_undoStack.clear(); // tells its views and actions
@@ -189,59 +194,44 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
 }
 
 void Document::watchPackage() {
-    const auto setStale = [this] { m_issuesStale = true; };
-    const auto setSentencesStale = [this] { m_sentencesStale = true; };
-    PackageInfoModel *package = m_package.get();
-    m_validator = std::make_unique<PackageInfoValidator>(package);
-    PackageInfoValidator *validator = m_validator.get();
-    connect(validator, &PackageInfoValidator::applicationUIDStateChanged, this, setStale);
-    connect(validator, &PackageInfoValidator::robotRequirementsStateChanged, this, setStale);
-    connect(validator, &PackageInfoValidator::brioRequirementsStateChanged, this, setStale);
-    connect(validator, &PackageInfoValidator::applicationNamesStateChanged, this, setStale);
-    connect(validator, &PackageInfoValidator::applicationDescriptionsStateChanged, this, setStale);
-    connect(validator, &PackageInfoValidator::triggerSentencesStateChanged, this, setStale);
-    validator->activate();
-
-    connect(package, &PackageInfoModel::languageAdded, this, setSentencesStale);
-    connect(package, &PackageInfoModel::languageRemoved, this, setSentencesStale);
-    connect(package, &PackageInfoModel::behaviorRemoved, this, [this] {
-        m_sentencesStale = true;
-        ++m_behaviorTextsRevision;
-    });
-    connect(package, &PackageInfoModel::behaviorAdded, this, [this](BehaviorInfoModel *behavior) {
-        m_sentencesStale = true;
-        ++m_behaviorTextsRevision;
-        watchBehavior(behavior);
-    });
-    const auto behaviors = package->behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors)
-        watchBehavior(behavior);
+    using Package = PackageInfoModel;
+    connectAll(
+        m_package.get(), this, [this] { m_languages.reset(); }, &Package::languageAdded,
+        &Package::languageRemoved, &Package::descriptionAdded, &Package::descriptionRemoved,
+        &Package::nameUpdated, &Package::descriptionUpdated);
 }
 
-void Document::watchBehavior(const BehaviorInfoModel *behavior) {
-    // The issues name their behavior by its path.
-    connect(behavior, &BehaviorInfoModel::pathUpdated, this, [this] { m_issuesStale = true; });
-    const auto countRevision = [this] { ++m_behaviorTextsRevision; };
-    connect(behavior, &BehaviorInfoModel::behaviorNameUpdated, this, countRevision);
-    connect(behavior, &BehaviorInfoModel::behaviorDescriptionUpdated, this, countRevision);
-    connect(behavior, &BehaviorInfoModel::triggerSentenceAdded, this, countRevision);
-    connect(behavior, &BehaviorInfoModel::triggerSentenceInserted, this, countRevision);
-    connect(behavior, &BehaviorInfoModel::triggerSentenceRemoved, this, countRevision);
+const Zel::RobotLanguages &Document::languages() const {
+    if (!m_languages)
+        m_languages = Zel::PackageModel::languages(m_package.get());
+    return *m_languages;
+}
+
+LanguageCoverage Document::coverage(const QString &languageCode) const {
+    if (!m_coverages)
+        m_coverages = Zel::PackageModel::coverages(m_package.get());
+    const auto found =
+        std::find_if(m_coverages->begin(), m_coverages->end(), [&](const LanguageCoverage &each) {
+            return each.language.isoCode() == languageCode;
+        });
+    return found == m_coverages->end() ? LanguageCoverage() : *found;
 }
 
 void Document::finishEdit() {
+    m_coverages.reset();
     refreshIssues();
     Q_EMIT edited();
 }
 
 void Document::refreshIssues() {
-    if (std::exchange(m_sentencesStale, false)) {
-        m_validator->validateBehaviorTriggerSentences();
-        m_issuesStale = true;
-    }
-    if (!std::exchange(m_issuesStale, false))
+    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
+    const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
+    const auto isSame = [](const Issue &a, const Issue &b) {
+        return a.id == b.id && a.path == b.path && a.text == b.text;
+    };
+    if (std::equal(issues.begin(), issues.end(), m_issues.begin(), m_issues.end(), isSame))
         return;
-    m_issues = Zel::PackageModel::issues(m_package.get());
+    m_issues = issues;
     m_issueByPath.clear();
     m_behaviorSeverity.clear();
     const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {
@@ -253,23 +243,35 @@ void Document::refreshIssues() {
         const bool isFirst = !m_issueByPath.contains(issue.path);
         keepWorst(m_issueByPath[issue.path], issue,
                   isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
-        const FieldPlace path = FieldPlace::parse(issue.path);
-        if (path.list == QLatin1String("behaviors")) {
-            const bool isNew = !m_behaviorSeverity.contains(path.key);
-            keepWorst(m_behaviorSeverity[path.key], issue.severity, isNew || isError);
+        const auto path = Tano::FieldPath::parse(Zel::toUtf8(issue.path));
+        if (path && fieldName(*path) == QLatin1String("behaviors")) {
+            const QString key = fieldKey(*path);
+            const bool isNew = !m_behaviorSeverity.contains(key);
+            keepWorst(m_behaviorSeverity[key], issue.severity, isNew || isError);
         }
     }
     Q_EMIT issuesChanged();
 }
 
-std::optional<Issue> Document::issueAt(const QString &path) const {
-    const auto found = m_issueByPath.constFind(path);
+std::optional<Issue> Document::issueAt(const Tano::FieldPath &path) const {
+    const auto found = m_issueByPath.constFind(Zel::fromUtf8(path.toString()));
     return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
 }
 
 std::optional<Severity> Document::behaviorSeverity(const QString &behaviorPath) const {
     const auto found = m_behaviorSeverity.constFind(behaviorPath);
     return found == m_behaviorSeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
+}
+
+void Document::edit(const Zel::PackageModel::Edits &edits, const QString &text) {
+    for (const auto &edit : edits) {
+        if (const QString reason = Zel::PackageModel::refusal(m_package.get(), edit);
+            !reason.isEmpty()) {
+            Q_EMIT editRefused(reason);
+            return;
+        }
+    }
+    push(new Zel::PackageEditCommand(m_package.get(), edits, text));
 }
 
 void Document::push(QUndoCommand *command) {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <packagemodel/package_coverage.h>
+#include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
-#include <packagemodel/package_info_validator.h>
 #include <packagemodel/package_issues.h>
 
 #include <tano/save_file.h>
@@ -21,8 +22,8 @@ namespace Editor {
 
 /// The open package: its model, the file it came from, its undo stack, and what is wrong with it.
 ///
-/// Every edit goes through push() or pushTyped(). When one is done, undone or redone, the issues
-/// are brought up to date first, and edited() is sent last.
+/// Every edit goes through edit(), push() or pushTyped(). When one is done, undone or redone, the
+/// issues are brought up to date first, and edited() is sent last.
 class Document : public QObject {
     Q_OBJECT
 
@@ -61,6 +62,9 @@ public:
 
     // Edits.
 
+    /// Applies edits as an undo step of its own with that text, or changes nothing and sends
+    /// editRefused(). None of the edits may depend on another one.
+    void edit(const Zel::PackageModel::Edits &edits, const QString &text);
     /// Does an edit that is an undo step of its own.
     void push(QUndoCommand *command);
     /// Does an edit that is part of a run of keystrokes.
@@ -74,16 +78,21 @@ public:
 
     const QVector<Zel::PackageModel::Issue> &issues() const { return m_issues; }
     /// The worst issue of the field with that path.
-    std::optional<Zel::PackageModel::Issue> issueAt(const QString &path) const;
+    std::optional<Zel::PackageModel::Issue> issueAt(const Tano::FieldPath &path) const;
     /// The severity of the worst issue of a behavior.
     std::optional<Zel::PackageModel::Severity> behaviorSeverity(const QString &behaviorPath) const;
 
-    /// Grows when a text of a behavior, or the list of behaviors, changes.
-    int behaviorTextsRevision() const { return m_behaviorTextsRevision; }
+    // How far the package is translated. Counted when asked for, since there may be very many
+    // texts.
+
+    const Zel::RobotLanguages &languages() const;
+    /// The coverage in one of languages(); nothing is expected in others.
+    Zel::PackageModel::LanguageCoverage coverage(const QString &languageCode) const;
 
 Q_SIGNALS:
     void packageReplaced();
     void edited();
+    void editRefused(const QString &reason);
     void issuesChanged();
     void fileNameChanged();
     void fileDiffers(Editor::Document::DiskState state);
@@ -92,14 +101,12 @@ private:
     void replacePackage(std::unique_ptr<Zel::PackageInfoModel> package, const QString &fileName,
                         const Tano::FileFingerprint &content);
     void watchPackage();
-    void watchBehavior(const Zel::BehaviorInfoModel *behavior);
     void finishEdit();
     void refreshIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);
 
     std::unique_ptr<Zel::PackageInfoModel> m_package;
-    std::unique_ptr<Zel::PackageInfoValidator> m_validator;
     QUndoStack m_undoStack;
     MakeCommand m_openRun;
     int m_openRunIndex = 0;
@@ -107,10 +114,10 @@ private:
     QVector<Zel::PackageModel::Issue> m_issues;
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
     QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
-    bool m_issuesStale = true;
-    bool m_sentencesStale = false; // the validator does not look at them again by itself
 
-    int m_behaviorTextsRevision = 0;
+    // Texts of behaviors and dialogs are edited in these languages only.
+    mutable std::optional<Zel::RobotLanguages> m_languages;
+    mutable std::optional<std::vector<Zel::PackageModel::LanguageCoverage>> m_coverages;
 
     QString m_fileName;
     QString m_errorString;

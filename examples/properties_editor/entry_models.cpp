@@ -1,17 +1,19 @@
 #include "entry_models.h"
 
-#include "editor_commands.h"
-#include "languages.h"
+#include "field_edits.h"
 
 #include <packagemodel/dialog_commands.h>
+#include <packagemodel/package_edit_command.h>
 
-#include <QSet>
+#include <array>
 
 namespace Editor {
 
+using Tano::FieldPath;
 using Zel::DialogInfoModel;
 using Zel::RobotLanguage;
-using Zel::ServiceInfoModel;
+using Zel::Language::languageInUse;
+using Zel::PackageModel::Edit;
 
 DialogsModel::DialogsModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
@@ -58,13 +60,21 @@ int TopicsModel::columnCount(const QModelIndex &parent) const {
 QVariant TopicsModel::data(const QModelIndex &index, int role) const {
     if (!checkIndex(index) || !dialog() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
-    return index.column() == 0 ? languageName(key(index)) : dialog()->topic(languageOf(key(index)));
+    return index.column() == 0 ? languageInUse(key(index)).uiName()
+                               : fieldText(package(), field(index));
+}
+
+FieldPath TopicsModel::field(const QModelIndex &index) const {
+    const FieldPath list = FieldPath().field("dialogs");
+    const FieldPath entry = Zel::PackageModel::itemPath(package(), list, m_dialogRow);
+    return entry.isEmpty() ? entry : FieldPath(entry).field("topics").key(Zel::toUtf8(key(index)));
 }
 
 bool TopicsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (!checkIndex(index) || !dialog() || role != Qt::EditRole || index.column() != 1)
         return false;
-    document().pushTyped([package = package(), row = m_dialogRow, language = languageOf(key(index)),
+    document().pushTyped([package = package(), row = m_dialogRow,
+                          language = languageInUse(key(index)),
                           text = value.toString()](bool isFinal) {
         return new Zel::DialogInfoModelTopicCommand(
             package, package->dialogs().at(row)->topicName(), language, text, isFinal);
@@ -73,7 +83,7 @@ bool TopicsModel::setData(const QModelIndex &index, const QVariant &value, int r
 }
 
 void TopicsModel::removeTopic(int row) {
-    const RobotLanguage language = languageOf(keys().value(row));
+    const RobotLanguage language = languageInUse(keys().value(row));
     if (!dialog())
         return;
     const auto &topics = dialog()->topics();
@@ -116,8 +126,15 @@ int ServicesModel::columnCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : 3;
 }
 
+FieldPath ServicesModel::field(const QModelIndex &index) const {
+    constexpr std::array names{"name", "execStart", "autoRun"}; // in the order of Column
+    const FieldPath list = FieldPath().field("services");
+    return Zel::PackageModel::itemPath(package(), list, index.row())
+        .field(names.at(std::size_t(index.column())));
+}
+
 QVariant ServicesModel::data(const QModelIndex &index, int role) const {
-    const ServiceInfoModel *service = package()->services().value(index.row());
+    const Zel::ServiceInfoModel *service = package()->services().value(index.row());
     if (!checkIndex(index) || !service)
         return {};
     if (index.column() == AutoRun) {
@@ -127,35 +144,34 @@ QVariant ServicesModel::data(const QModelIndex &index, int role) const {
     }
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
-    return index.column() == Name ? service->name() : service->execStart();
+    return fieldText(package(), field(index));
 }
 
 bool ServicesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index))
+    const Zel::ServiceInfoModel *service = package()->services().value(index.row());
+    if (!checkIndex(index) || !service)
         return false;
     if (role == Qt::CheckStateRole && index.column() == AutoRun) {
-        document().push(new ServiceAutoRunCommand(package(), index.row()));
+        document().edit({{Edit::Action::Set, field(index), !service->isAutoRun()}},
+                        tr("Switch start of service %1").arg(service->name()));
         return true;
     }
     if (role != Qt::EditRole || index.column() == AutoRun)
         return false;
-    document().pushTyped([package = package(), row = index.row(), text = value.toString(),
-                          field = index.column() == Name ? ServiceField::Name
-                                                         : ServiceField::ExecStart](bool isFinal) {
-        return newServiceFieldCommand(package, row, field, text, isFinal);
+    const QString commandText =
+        (index.column() == Name ? tr("Rename service %1") : tr("Set command of service %1"))
+            .arg(service->name());
+    // A new name is a new path.
+    document().pushTyped([this, cell = QPersistentModelIndex(index), text = value.toString(),
+                          commandText](bool isFinal) {
+        return new Zel::PackageEditCommand(package(), {setText(field(cell), text)}, commandText,
+                                           isFinal);
     });
     return true;
 }
 
 Qt::ItemFlags ServicesModel::extraFlags(const QModelIndex &index) const {
     return (index.column() == AutoRun ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
-}
-
-QString ServicesModel::refusal(const QModelIndex &index, const QString &text) const {
-    const ServiceInfoModel *other = package()->service(text);
-    if (index.column() == Name && other && other != package()->services().value(index.row()))
-        return tr("There is another service with this name.");
-    return {};
 }
 
 QStringList ServicesModel::currentKeys() const {

@@ -33,6 +33,7 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    Tano::FieldPath field(const QModelIndex &index) const override;
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
@@ -58,7 +59,7 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    QString refusal(const QModelIndex &index, const QString &text) const override;
+    Tano::FieldPath field(const QModelIndex &index) const override;
 
 protected:
     QStringList currentKeys() const override;

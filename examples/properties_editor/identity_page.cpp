@@ -1,9 +1,10 @@
 #include "identity_page.h"
 
-#include "editor_commands.h"
+#include "field_edits.h"
 #include "icon_button.h"
 #include "marks.h"
 
+#include <packagemodel/package_edit_command.h>
 #include <packagemodel/set_string.h>
 
 #include <QFormLayout>
@@ -13,7 +14,7 @@
 
 namespace Editor {
 
-using Zel::PackageInfoModel;
+using Tano::FieldPath;
 using Zel::PackageStringCommand;
 
 IdentityPage::IdentityPage(Document &document, QWidget *parent)
@@ -24,29 +25,28 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(newHeading(tr("Package"), this));
-    m_uid = addText(form, tr("&UID:"), QStringLiteral("my-app"), PackageStringCommand::Uid,
-                    &PackageInfoModel::uid);
-    addTextRow(form, tr("&Version:"), document,
-               {[this] { return Zel::SoftwareVersionUtils::toString(package()->version()); },
-                [this](const QString &text, bool isFinal) {
-                    return newVersionCommand(package(), text, isFinal);
-                },
-                [] { return QStringLiteral("version"); }, versionRefusal},
-               QStringLiteral("1.0.0"));
-    addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion,
-            &PackageInfoModel::typeVersion);
-    addText(form, tr("&Path on the robot:"), {}, PackageStringCommand::Path,
-            &PackageInfoModel::path);
-    addText(form, tr("I&nstaller:"), {}, PackageStringCommand::Installer,
-            &PackageInfoModel::installer);
+    m_uid = addText(form, tr("&UID:"), QStringLiteral("my-app"), PackageStringCommand::Uid, "uid");
+    const FieldPath version = FieldPath().field("version");
+    m_shown.insert(version);
+    addTextRow(
+        form, tr("&Version:"), document,
+        {[version] { return version; },
+         [=](const QString &text, bool isFinal) {
+             const QString name =
+                 Zel::PackageGenericValueCommand<Zel::SoftwareVersion>(package(), {}).commandName();
+             return new Zel::PackageEditCommand(package(), {setText(version, text)}, name, isFinal);
+         }},
+        QStringLiteral("1.0.0"));
+    addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion, "typeVersion");
+    addText(form, tr("&Path on the robot:"), {}, PackageStringCommand::Path, "path");
+    addText(form, tr("I&nstaller:"), {}, PackageStringCommand::Installer, "installer");
     form->addItem(new QSpacerItem(0, 12));
     form->addRow(newHeading(tr("Publisher"), this));
-    addText(form, tr("&Author:"), {}, PackageStringCommand::Author, &PackageInfoModel::author);
-    addText(form, tr("&Organization:"), {}, PackageStringCommand::Organization,
-            &PackageInfoModel::organization);
-    addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), PackageStringCommand::Date,
-            &PackageInfoModel::date);
-    addText(form, tr("&Channel:"), {}, PackageStringCommand::Channel, &PackageInfoModel::channel);
+    addText(form, tr("&Author:"), {}, PackageStringCommand::Author, "author");
+    addText(form, tr("&Organization:"), {}, PackageStringCommand::Organization, "organization");
+    addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), PackageStringCommand::Date, "date");
+    addText(form, tr("&Channel:"), {}, PackageStringCommand::Channel, "channel");
+    addOthers(form);
 
     auto *icon = new IconButton(document, this);
     auto *hint = new QLabel(tr("Click, or drop a picture."), this);
@@ -67,21 +67,35 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
 }
 
 TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
-                                 const QString &placeholder, int what,
-                                 QString (PackageInfoModel::*read)() const) {
-    const auto string = PackageStringCommand::WhatString(what);
-    const QString path = string == PackageStringCommand::Uid ? QStringLiteral("uid") : QString();
+                                 const QString &placeholder, int what, const char *field) {
+    m_shown.insert(FieldPath().field(field));
     return addTextRow(form, label, document(),
-                      {[this, read] { return (package()->*read)(); },
-                       [this, string](const QString &text, bool isFinal) {
-                           return new PackageStringCommand(package(), text, string, isFinal);
-                       },
-                       [path] { return QString(path); }},
+                      {[path = FieldPath().field(field)] { return path; },
+                       [this, what](const QString &text, bool isFinal) {
+                           return new PackageStringCommand(
+                               package(), text, PackageStringCommand::WhatString(what), isFinal);
+                       }},
                       placeholder);
 }
 
-bool IdentityPage::showField(const FieldPlace &path) {
-    if (path.list != QLatin1String("uid"))
+// The fields that have no place of their own.
+void IdentityPage::addOthers(QFormLayout *form) {
+    for (const auto &field : Zel::PackageModel::plainFields(package())) {
+        if (m_shown.count(field.path) > 0)
+            continue;
+        addTextRow(
+            form, tr("%1:").arg(field.label), document(),
+            {[path = field.path] { return path; },
+             [this, path = field.path, label = field.label](const QString &text, bool isFinal) {
+                 return new Zel::PackageEditCommand(package(), {setText(path, text)},
+                                                    tr("Set %1").arg(label), isFinal);
+             }},
+            {});
+    }
+}
+
+bool IdentityPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("uid"))
         return false;
     m_uid->widget()->setFocus(Qt::OtherFocusReason);
     return true;

@@ -2,6 +2,8 @@
 
 #include "page.h"
 
+#include <set>
+
 namespace Editor {
 
 /// What identifies the package, who publishes it, and its icon.
@@ -10,13 +12,15 @@ class IdentityPage : public Page {
 
 public:
     explicit IdentityPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,
-                       int what, QString (Zel::PackageInfoModel::*read)() const);
+                       int what, const char *field);
+    void addOthers(QFormLayout *form);
 
     TextField *m_uid;
+    std::set<Tano::FieldPath> m_shown; // the fields that have a row
 };
 
 } // namespace Editor

@@ -1,42 +1,27 @@
 #include "languages_model.h"
 
-#include "editor_commands.h"
-#include "field_place.h"
-#include "languages.h"
+#include "field_edits.h"
 #include "marks.h"
 #include "plain_text.h"
 
 #include <packagemodel/set_string.h>
 
 #include <QLocale>
-#include <QSet>
 
 namespace Editor {
 namespace {
 
-using Zel::BehaviorInfoModel;
+using Tano::FieldPath;
 using Zel::PackageLocalizedStringCommand;
 using Zel::RobotLanguage;
+using Zel::Language::languageInUse;
+using Zel::PackageModel::Edit;
+using Zel::PackageModel::LanguageCoverage;
 
-bool hasText(const QString &text) {
-    return !text.isEmpty();
-}
-
-bool hasText(const QStringList &texts) {
-    return !texts.isEmpty();
-}
-
-// Counts a behavior's text of one kind once for each language; returns whether there is any.
-template<typename Texts>
-int countTexts(const Texts &texts, QHash<QString, int> &counts) {
-    bool isWanted = false;
-    for (const auto &[text, language] : texts) {
-        if (hasText(text)) {
-            ++counts[language.isoCode()];
-            isWanted = true;
-        }
-    }
-    return isWanted ? 1 : 0;
+// The list that a check box puts a language in.
+FieldPath listOf(LanguagesModel::Column column) {
+    return FieldPath().field(column == LanguagesModel::Supported ? "supportedLanguages"
+                                                                 : "descriptionLanguages");
 }
 
 } // namespace
@@ -44,35 +29,6 @@ int countTexts(const Texts &texts, QHash<QString, int> &counts) {
 LanguagesModel::LanguagesModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
     start();
-}
-
-void LanguagesModel::packageReplaced() {
-    m_mentioned.clear();
-    for (const std::string &code : package()->packageInfo().languageCodes())
-        m_mentioned.append(Zel::fromUtf8(code));
-}
-
-void LanguagesModel::countBehaviorTexts() const {
-    if (m_countedRevision == document().behaviorTextsRevision())
-        return;
-    m_countedRevision = document().behaviorTextsRevision();
-    m_behaviorTexts.clear();
-    m_behaviorTextsWanted = 0;
-    const auto behaviors = package()->behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors) {
-        m_behaviorTextsWanted +=
-            countTexts(behavior->names(), m_behaviorTexts) +
-            countTexts(behavior->descriptions(), m_behaviorTexts) +
-            countTexts(behavior->languagesToTriggerSentences(), m_behaviorTexts);
-    }
-}
-
-LanguagesModel::Count LanguagesModel::coverage(const QString &code) const {
-    countBehaviorTexts();
-    const RobotLanguage language = languageOf(code);
-    const int own =
-        int(package()->hasNameFor(language)) + int(package()->hasDescriptionFor(language));
-    return {own + m_behaviorTexts.value(code), 2 + m_behaviorTextsWanted};
 }
 
 QString LanguagesModel::summary() const {
@@ -91,23 +47,8 @@ QString LanguagesModel::summary() const {
 
 QStringList LanguagesModel::currentKeys() const {
     QStringList keys;
-    QSet<QString> seen;
-    const auto add = [&](const QString &code) {
-        if (!seen.contains(code)) {
-            seen.insert(code);
-            keys.append(code);
-        }
-    };
-    for (const RobotLanguage &language : package()->supportedLanguages())
-        add(language.isoCode());
-    for (const RobotLanguage &language : package()->descriptionLanguages())
-        add(language.isoCode());
-    for (const auto &[text, language] : package()->names())
-        add(language.isoCode());
-    for (const auto &[text, language] : package()->descriptions())
-        add(language.isoCode());
-    for (const QString &code : m_mentioned)
-        add(code);
+    for (const RobotLanguage &language : document().languages())
+        keys.append(language.isoCode());
     return keys;
 }
 
@@ -120,79 +61,101 @@ int LanguagesModel::columnCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : 6;
 }
 
-QVariant LanguagesModel::display(const QModelIndex &index) const {
-    const QString code = key(index);
-    switch (index.column()) {
-    case Language:
-        return languageName(code);
-    case Name:
-        return package()->name(languageOf(code));
-    case Description:
-        return package()->description(languageOf(code));
-    case Coverage: {
-        const Count count = coverage(code);
-        return tr("%1 of %2")
-            .arg(QLocale().toString(count.present), QLocale().toString(count.wanted));
-    }
-    default:
+FieldPath LanguagesModel::field(const QModelIndex &index) const {
+    if (index.column() != Name && index.column() != Description)
         return {};
-    }
+    return FieldPath()
+        .field(index.column() == Name ? "names" : "descriptions")
+        .key(Zel::toUtf8(key(index)));
+}
+
+QVariant LanguagesModel::display(const QModelIndex &index) const {
+    if (index.column() == Language)
+        return languageInUse(key(index)).uiName();
+    if (index.column() != Coverage)
+        return fieldText(package(), field(index));
+    const auto total = document().coverage(key(index)).total();
+    return total.expected == 0
+               ? QString()
+               : tr("%1 of %2")
+                     .arg(QLocale().toString(total.present), QLocale().toString(total.expected));
 }
 
 QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
     if (!checkIndex(index))
         return {};
-    const QString code = key(index);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
         return display(index);
     case Qt::CheckStateRole:
-        if (index.column() == Supported)
-            return package()->hasLanguageSupport(languageOf(code)) ? Qt::Checked : Qt::Unchecked;
-        if (index.column() == Described)
-            return package()->hasLanguageDescription(languageOf(code)) ? Qt::Checked
-                                                                       : Qt::Unchecked;
-        return {};
+        if (index.column() != Supported && index.column() != Described)
+            return {};
+        return isIn(Column(index.column()), key(index)) ? Qt::Checked : Qt::Unchecked;
     case CodeRole:
-        return code;
+        return key(index);
     case PercentRole: {
-        const Count count = coverage(code);
-        return 100 * count.present / count.wanted;
+        const LanguageCoverage coverage = document().coverage(key(index));
+        return coverage.total().expected == 0 ? QVariant() : coverage.percent();
     }
     default:
         break;
     }
-    QVariant mark;
-    if (index.column() == Name)
-        mark = markData(Mark::ofIssue(document().issueAt(namePath(code))), role);
-    if (index.column() == Description)
-        mark = markData(Mark::ofIssue(document().issueAt(descriptionPath(code))), role);
+    const QVariant mark = markData(Mark::ofIssue(document().issueAt(field(index))), role);
     if (!mark.isValid() && role == Qt::ToolTipRole)
-        return toolTipOf(index.column() == Language ? code : display(index).toString());
+        return toolTipOf(index.column() == Language ? key(index) : display(index).toString());
     return mark;
 }
 
 bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (!checkIndex(index))
         return false;
-    const RobotLanguage language = languageOf(key(index));
-    if (role == Qt::CheckStateRole && index.column() == Supported) {
-        document().push(new SupportedLanguageCommand(package(), language));
+    const auto column = Column(index.column());
+    if (role == Qt::CheckStateRole && (column == Supported || column == Described)) {
+        switchIn(column, key(index));
         return true;
     }
-    if (role == Qt::CheckStateRole && index.column() == Described) {
-        document().push(new DescriptionLanguageCommand(package(), language));
-        return true;
-    }
-    if (role != Qt::EditRole || (index.column() != Name && index.column() != Description))
+    if (role != Qt::EditRole || (column != Name && column != Description))
         return false;
-    const auto what = index.column() == Name ? PackageLocalizedStringCommand::Name
-                                             : PackageLocalizedStringCommand::Description;
-    document().pushTyped([=, package = package(), text = value.toString()](bool isFinal) {
+    const auto what = column == Name ? PackageLocalizedStringCommand::Name
+                                     : PackageLocalizedStringCommand::Description;
+    document().pushTyped([what, language = languageInUse(key(index)), package = package(),
+                          text = value.toString()](bool isFinal) {
         return new PackageLocalizedStringCommand(package, text, what, language, isFinal);
     });
     return true;
+}
+
+bool LanguagesModel::isIn(Column column, const QString &code) const {
+    const RobotLanguage language = languageInUse(code);
+    return column == Supported ? package()->hasLanguageSupport(language)
+                               : package()->hasLanguageDescription(language);
+}
+
+void LanguagesModel::switchIn(Column column, const QString &code) {
+    const FieldPath list = listOf(column);
+    if (isIn(column, code)) {
+        document().edit({{Edit::Action::Remove, FieldPath(list).key(Zel::toUtf8(code))}},
+                        column == Supported ? tr("Remove language %1").arg(code)
+                                            : tr("Remove description language %1").arg(code));
+        return;
+    }
+    document().edit({appended(list, code)}, column == Supported
+                                                ? tr("Add language %1").arg(code)
+                                                : tr("Add description language %1").arg(code));
+}
+
+void LanguagesModel::add(const QString &code) {
+    document().edit({appended(listOf(Supported), code)}, tr("Add language %1").arg(code));
+}
+
+void LanguagesModel::remove(const QString &code) {
+    Zel::PackageModel::Edits edits;
+    for (const Column column : {Supported, Described}) {
+        if (isIn(column, code))
+            edits.append({Edit::Action::Remove, listOf(column).key(Zel::toUtf8(code))});
+    }
+    document().edit(edits, tr("Remove language %1").arg(code));
 }
 
 Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {

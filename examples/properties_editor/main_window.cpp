@@ -78,6 +78,9 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_document.undoStack(), &QUndoStack::cleanChanged, this,
             [this](bool isClean) { setWindowModified(!isClean); });
     connect(&m_document, &Document::fileNameChanged, this, &MainWindow::refreshTitle);
+    connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
+        PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
+    });
     refreshTitle();
 }
 
@@ -260,12 +263,12 @@ void MainWindow::showPage(int index) {
 }
 
 void MainWindow::showField(const QString &path) {
-    const FieldPlace field = FieldPlace::parse(path);
-    for (int i = 0; i < m_pages.size(); ++i) {
+    const auto field = Tano::FieldPath::parse(Zel::toUtf8(path));
+    for (int i = 0; field && i < m_pages.size(); ++i) {
         // It has to be on show to take the focus.
         const int previous = m_navigation->currentRow();
         m_navigation->setCurrentRow(i);
-        if (m_pages.at(i)->showField(field))
+        if (m_pages.at(i)->showField(*field))
             return;
         m_navigation->setCurrentRow(previous);
     }

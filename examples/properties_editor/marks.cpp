@@ -55,19 +55,28 @@ QIcon platformIcon(const QString &name, QStyle::StandardPixmap fallback) {
 }
 
 QIcon severityIcon(Severity severity) {
-    return severity == Severity::Error
-               ? platformIcon(QStringLiteral("dialog-error"), QStyle::SP_MessageBoxCritical)
-               : platformIcon(QStringLiteral("dialog-warning"), QStyle::SP_MessageBoxWarning);
+    switch (severity) {
+    case Severity::Note:
+        return platformIcon(QStringLiteral("dialog-information"), QStyle::SP_MessageBoxInformation);
+    case Severity::Warning:
+        return platformIcon(QStringLiteral("dialog-warning"), QStyle::SP_MessageBoxWarning);
+    case Severity::Error:
+        break;
+    }
+    return platformIcon(QStringLiteral("dialog-error"), QStyle::SP_MessageBoxCritical);
 }
 
 QString severityName(Severity severity) {
-    return severity == Severity::Error ? MarkLabel::tr("Error") : MarkLabel::tr("Warning");
+    return severity == Severity::Error     ? MarkLabel::tr("Error")
+           : severity == Severity::Warning ? MarkLabel::tr("Warning")
+                                           : MarkLabel::tr("Note");
 }
 
 QColor severityColor(Severity severity) {
     const QColor base = QApplication::palette().color(QPalette::Base);
-    const QColor hue =
-        severity == Severity::Error ? QColor(0xd6, 0x2f, 0x3a) : QColor(0xd9, 0x98, 0x00);
+    const QColor hue = severity == Severity::Error     ? QColor(0xd6, 0x2f, 0x3a)
+                       : severity == Severity::Warning ? QColor(0xd9, 0x98, 0x00)
+                                                       : QColor(0x2f, 0x7a, 0xd6);
     return mixed(base, hue, base.lightness() < 128 ? 0.34 : 0.18);
 }
 
@@ -99,7 +108,7 @@ QVariant markData(const std::optional<Mark> &mark, int role) {
     }
 }
 
-MarkLabel::MarkLabel(Document &document, std::function<QString()> path, QWidget *parent)
+MarkLabel::MarkLabel(Document &document, std::function<Tano::FieldPath()> path, QWidget *parent)
     : QWidget(parent)
     , m_document(document)
     , m_path(std::move(path))

@@ -2,6 +2,8 @@
 
 #include <packagemodel/package_issues.h>
 
+#include <tano/field_path.h>
+
 #include <QIcon>
 #include <QLabel>
 #include <QStyle>
@@ -44,12 +46,12 @@ class MarkLabel : public QWidget {
 
 public:
     /// Shows the issue of the field whose path `path` returns.
-    MarkLabel(Document &document, std::function<QString()> path, QWidget *parent = nullptr);
+    MarkLabel(Document &document, std::function<Tano::FieldPath()> path, QWidget *parent = nullptr);
     void refresh();
 
 private:
     Document &m_document;
-    std::function<QString()> m_path;
+    std::function<Tano::FieldPath()> m_path;
     QLabel *m_icon;
     QLabel *m_text;
 };

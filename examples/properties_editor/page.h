@@ -1,7 +1,6 @@
 #pragma once
 
 #include "document.h"
-#include "field_place.h"
 #include "text_field.h"
 
 #include <QIcon>
@@ -22,7 +21,7 @@ public:
 
     /// Shows the field with that path and gives it the focus; returns false when it is on another
     /// page.
-    virtual bool showField(const FieldPlace &path) = 0;
+    virtual bool showField(const Tano::FieldPath &path) = 0;
 
     /// Takes what is typed in a line whose text goes into the package with a button only.
     virtual void takePending() {}

@@ -1,6 +1,5 @@
 #include "problems_model.h"
 
-#include "field_place.h"
 #include "marks.h"
 #include "plain_text.h"
 
@@ -9,6 +8,15 @@
 namespace Editor {
 
 using Zel::PackageModel::Issue;
+
+namespace {
+
+QString fieldLabel(const QString &printedPath) {
+    const auto path = Tano::FieldPath::parse(Zel::toUtf8(printedPath));
+    return path ? Zel::PackageModel::label(*path) : printedPath;
+}
+
+} // namespace
 
 ProblemsModel::ProblemsModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
@@ -31,7 +39,7 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
         case Text:
             return Mark::ofIssue(issue)->text;
         default:
-            return FieldPlace::parse(issue.path).label();
+            return fieldLabel(issue.path);
         }
     case Qt::DecorationRole:
         return index.column() == Severity ? severityIcon(issue.severity) : QVariant();

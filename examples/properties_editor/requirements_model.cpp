@@ -1,10 +1,16 @@
 #include "requirements_model.h"
 
-#include "field_place.h"
+#include "field_edits.h"
 #include "marks.h"
-#include "text_field.h"
+
+#include <packagemodel/package_edit_command.h>
+
+#include <algorithm>
 
 namespace Editor {
+
+using Tano::FieldPath;
+
 namespace {
 
 const QMap<QString, QString> &robots() {
@@ -15,54 +21,68 @@ const QMap<QString, QString> &robots() {
 
 RequirementsModel::RequirementsModel(Document &document, Kind kind, QObject *parent)
     : TableModel(document, parent)
-    , m_kind(kind)
-    , m_fields(kind == Kind::Robot ? robotRequirementFields() : brioRequirementFields()) {
+    , m_kind(kind) {
     start();
 }
 
+const std::vector<RequirementsModel::Column> &RequirementsModel::columns() const {
+    static const std::vector<Column> robot{
+        {"model", QT_TR_NOOP("Robot")},
+        {"minHeadVersion", QT_TR_NOOP("Lowest head")},
+        {"maxHeadVersion", QT_TR_NOOP("Highest head")},
+        {"minBodyVersion", QT_TR_NOOP("Lowest body")},
+        {"maxBodyVersion", QT_TR_NOOP("Highest body")},
+    };
+    static const std::vector<Column> brio{
+        {"minVersion", QT_TR_NOOP("Lowest version")},
+        {"maxVersion", QT_TR_NOOP("Highest version")},
+    };
+    return m_kind == Kind::Robot ? robot : brio;
+}
+
 int RequirementsModel::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(m_fields.size());
+    return parent.isValid() ? 0 : int(columns().size());
 }
 
 bool RequirementsModel::isModelColumn(const QModelIndex &index) const {
     return m_kind == Kind::Robot && index.column() == 0;
 }
 
+FieldPath RequirementsModel::list() const {
+    return FieldPath().field(m_kind == Kind::Robot ? "robotRequirements" : "brioRequirements");
+}
+
+FieldPath RequirementsModel::field(const QModelIndex &index) const {
+    return list().index(index.row()).field(columns().at(std::size_t(index.column())).field);
+}
+
 QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
     if (!checkIndex(index))
         return {};
-    const RequirementField &field = m_fields.at(std::size_t(index.column()));
-    const QString text = field.read(*package(), index.row());
-    if (role == Qt::EditRole)
-        return text;
-    if (role == Qt::DisplayRole)
-        return isModelColumn(index) ? robots().value(text, text) : text;
-    return markData(
-        Mark::ofIssue(document().issueAt(requirementPath(field.list, index.row(), field.name))),
-        role);
+    if (role != Qt::EditRole && role != Qt::DisplayRole)
+        return markData(Mark::ofIssue(document().issueAt(field(index))), role);
+    const QString text = fieldText(package(), field(index));
+    return role == Qt::DisplayRole && isModelColumn(index) ? robots().value(text, text) : text;
 }
 
 bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (role != Qt::EditRole || !checkIndex(index))
         return false;
-    const RequirementField &field = m_fields.at(std::size_t(index.column()));
-    const auto make = [=, &field, package = package(), row = index.row(),
-                       text = value.toString()](bool isFinal) {
-        return newRequirementFieldCommand(package, field, row, text, isFinal);
-    };
+    const auto edit = setText(field(index), value.toString());
+    const QString commandText =
+        (m_kind == Kind::Robot ? tr("Edit robot requirement %1") : tr("Edit Brio requirement %1"))
+            .arg(index.row() + 1);
     if (!isModelColumn(index))
-        document().pushTyped(make);
-    else if (value.toString() != field.read(*package(), index.row()))
-        document().push(make(true));
+        document().pushTyped([=, package = package()](bool isFinal) {
+            return new Zel::PackageEditCommand(package, {edit}, commandText, isFinal);
+        });
+    else if (value.toString() != fieldText(package(), field(index)))
+        document().edit({edit}, commandText);
     return true;
 }
 
 Qt::ItemFlags RequirementsModel::extraFlags(const QModelIndex &) const {
     return Qt::ItemIsEditable;
-}
-
-QString RequirementsModel::refusal(const QModelIndex &index, const QString &text) const {
-    return isModelColumn(index) ? QString() : versionRefusal(text);
 }
 
 QVector<QPair<QString, QString>> RequirementsModel::choices(const QModelIndex &index) const {
@@ -78,23 +98,24 @@ QVector<QPair<QString, QString>> RequirementsModel::choices(const QModelIndex &i
 }
 
 void RequirementsModel::add() {
-    document().push(m_kind == Kind::Robot ? newAddRobotRequirementCommand(package())
-                                          : newAddBrioRequirementCommand(package()));
+    if (m_kind == Kind::Robot)
+        document().edit({appended(list(), Zel::RobotRequirement())}, tr("Add robot requirement"));
+    else
+        document().edit({appended(list(), Zel::BrioRequirement())}, tr("Add Brio requirement"));
 }
 
 void RequirementsModel::remove(int row) {
-    if (row < 0 || row >= rowCount())
-        return;
-    document().push(m_kind == Kind::Robot ? newRemoveRobotRequirementCommand(package(), row)
-                                          : newRemoveBrioRequirementCommand(package(), row));
+    if (row >= 0 && row < rowCount())
+        document().edit({removed(package(), list(), row)}, m_kind == Kind::Robot
+                                                               ? tr("Remove robot requirement")
+                                                               : tr("Remove Brio requirement"));
 }
 
 int RequirementsModel::columnOf(const QString &field) const {
-    for (std::size_t column = 0; column < m_fields.size(); ++column) {
-        if (field == QLatin1String(m_fields.at(column).name))
-            return int(column);
-    }
-    return -1;
+    const auto found = std::find_if(columns().begin(), columns().end(), [&](const Column &column) {
+        return field == QLatin1String(column.field);
+    });
+    return found == columns().end() ? -1 : int(found - columns().begin());
 }
 
 QStringList RequirementsModel::currentKeys() const {
@@ -103,10 +124,10 @@ QStringList RequirementsModel::currentKeys() const {
 }
 
 QStringList RequirementsModel::titles() const {
-    if (m_kind == Kind::Brio)
-        return {tr("Lowest version"), tr("Highest version")};
-    return {tr("Robot"), tr("Lowest head"), tr("Highest head"), tr("Lowest body"),
-            tr("Highest body")};
+    QStringList titles;
+    for (const Column &column : columns())
+        titles.append(tr(column.title));
+    return titles;
 }
 
 } // namespace Editor

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "editor_commands.h"
 #include "table_model.h"
 
 namespace Editor {
@@ -17,13 +16,15 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    QString refusal(const QModelIndex &index, const QString &text) const override;
+    Tano::FieldPath field(const QModelIndex &index) const override;
     QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
     void add();
     void remove(int row);
-    /// The column of the field with that name in the paths of issues; -1 when there is none.
+    /// The column of the field of a requirement with that name in paths; -1 for none.
     int columnOf(const QString &field) const;
+    /// The path of the list.
+    Tano::FieldPath list() const;
 
 protected:
     QStringList currentKeys() const override;
@@ -33,8 +34,13 @@ protected:
 private:
     bool isModelColumn(const QModelIndex &index) const;
 
+    struct Column {
+        const char *field;
+        const char *title;
+    };
+    const std::vector<Column> &columns() const;
+
     Kind m_kind;
-    const std::vector<RequirementField> &m_fields;
 };
 
 } // namespace Editor

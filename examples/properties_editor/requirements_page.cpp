@@ -1,5 +1,6 @@
 #include "requirements_page.h"
 
+#include "field_edits.h"
 #include "marks.h"
 #include "typing_delegate.h"
 
@@ -17,13 +18,13 @@ RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
            parent) {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
-    m_robot = addPart(layout, RequirementsModel::Kind::Robot, "robotRequirements",
+    m_robot = addPart(layout, RequirementsModel::Kind::Robot,
                       {tr("Robots"),
                        tr("The package is offered to robots that meet one of these. An empty "
                           "version is a bound that is not set."),
                        tr("Add &Robot"), tr("Re&move Robot")});
     layout->addSpacing(12);
-    m_brio = addPart(layout, RequirementsModel::Kind::Brio, "brioRequirements",
+    m_brio = addPart(layout, RequirementsModel::Kind::Brio,
                      {tr("Brio middleware"),
                       tr("The versions that the package was tried on; the lowest is needed."),
                       tr("Add &Brio Version"), tr("Remo&ve Brio Version")});
@@ -32,7 +33,7 @@ RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
 }
 
 RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, RequirementsModel::Kind kind,
-                                                 const char *list, const Texts &texts) {
+                                                 const Texts &texts) {
     auto *model = new RequirementsModel(document(), kind, this);
     auto *table = new QTableView(this);
     table->setModel(model);
@@ -45,7 +46,7 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     hint->setForegroundRole(QPalette::PlaceholderText);
     auto *mark = new MarkLabel(
-        document(), [list] { return QString(QLatin1String(list)); }, this);
+        document(), [model] { return model->list(); }, this);
 
     auto *add = newListButton(texts.addition, true, this);
     connect(add, &QPushButton::clicked, model, [model, table] {
@@ -74,15 +75,16 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     return {model, table};
 }
 
-bool RequirementsPage::showField(const FieldPlace &path) {
-    const bool isRobot = path.list == QLatin1String("robotRequirements");
-    if (!isRobot && path.list != QLatin1String("brioRequirements"))
-        return false;
-    const Part &part = isRobot ? m_robot : m_brio;
-    part.table->setFocus(Qt::OtherFocusReason);
-    part.table->setCurrentIndex(
-        part.model->index(path.key.toInt(), part.model->columnOf(path.field)));
-    return true;
+bool RequirementsPage::showField(const Tano::FieldPath &path) {
+    for (const Part &part : {m_robot, m_brio}) {
+        if (fieldName(path) != fieldName(part.model->list()))
+            continue;
+        part.table->setFocus(Qt::OtherFocusReason);
+        part.table->setCurrentIndex(
+            part.model->index(fieldKey(path).toInt(), part.model->columnOf(fieldName(path, 1))));
+        return true;
+    }
+    return false;
 }
 
 } // namespace Editor

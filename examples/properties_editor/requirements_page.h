@@ -14,7 +14,7 @@ class RequirementsPage : public Page {
 
 public:
     explicit RequirementsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     struct Part {
@@ -24,8 +24,7 @@ private:
     struct Texts {
         QString heading, hint, addition, removal;
     };
-    Part addPart(QVBoxLayout *layout, RequirementsModel::Kind kind, const char *list,
-                 const Texts &texts);
+    Part addPart(QVBoxLayout *layout, RequirementsModel::Kind kind, const Texts &texts);
 
     Part m_robot;
     Part m_brio;

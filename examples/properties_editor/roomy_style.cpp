@@ -21,4 +21,12 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     }
 }
 
+void RoomyStyle::polish(QPalette &palette) {
+    QProxyStyle::polish(palette);
+    // Qt 5 has the color of placeholders without a brush, which draws labels in it invisible.
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        palette.setColor(group, QPalette::PlaceholderText,
+                         palette.color(group, QPalette::PlaceholderText));
+}
+
 } // namespace Editor

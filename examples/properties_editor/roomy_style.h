@@ -15,6 +15,8 @@ public:
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
+    using QProxyStyle::polish;
+    void polish(QPalette &palette) override;
 };
 
 } // namespace Editor

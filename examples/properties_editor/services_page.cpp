@@ -1,7 +1,7 @@
 #include "services_page.h"
 
-#include "editor_commands.h"
 #include "entry_models.h"
+#include "field_edits.h"
 #include "marks.h"
 #include "typing_delegate.h"
 
@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 
 namespace Editor {
+
+using Tano::FieldPath;
 
 ServicesPage::ServicesPage(Document &document, QWidget *parent)
     : Page(document, tr("&Services"),
@@ -31,8 +33,9 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
     connect(add, &QPushButton::clicked, this, &ServicesPage::add);
     connect(remove, &QPushButton::clicked, this, [this] {
         const int row = m_table->currentIndex().row();
-        if (row >= 0)
-            this->document().push(newRemoveServiceCommand(package(), row));
+        if (const Zel::ServiceInfoModel *service = package()->services().value(row))
+            this->document().edit({removed(package(), FieldPath().field("services"), row)},
+                                  tr("Remove service %1").arg(service->name()));
     });
     const auto refresh = [this, remove] { remove->setEnabled(m_table->currentIndex().isValid()); };
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
@@ -53,11 +56,14 @@ void ServicesPage::add() {
     const QString name = freeName(QStringLiteral("new-service"), [this](const QString &taken) {
         return package()->service(taken);
     });
-    document().push(newAddServiceCommand(package(), name));
+    Tano::PackageService service;
+    service.name = Zel::toUtf8(name);
+    document().edit({appended(FieldPath().field("services"), service)},
+                    tr("Add service %1").arg(name));
     m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
 }
 
-bool ServicesPage::showField(const FieldPlace &) {
+bool ServicesPage::showField(const FieldPath &) {
     return false; // nothing is checked in services
 }
 

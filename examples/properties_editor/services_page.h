@@ -14,7 +14,7 @@ class ServicesPage : public Page {
 
 public:
     explicit ServicesPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     void add();

@@ -1,5 +1,7 @@
 #include "table_model.h"
 
+#include "field_edits.h"
+
 #include <QSet>
 
 namespace Editor {
@@ -30,8 +32,13 @@ Qt::ItemFlags TableModel::extraFlags(const QModelIndex &) const {
     return Qt::NoItemFlags;
 }
 
-QString TableModel::refusal(const QModelIndex &, const QString &) const {
+Tano::FieldPath TableModel::field(const QModelIndex &) const {
     return {};
+}
+
+QString TableModel::refusal(const QModelIndex &index, const QString &text) const {
+    const Tano::FieldPath path = field(index);
+    return path.isEmpty() ? QString() : textRefusal(package(), path, text);
 }
 
 QVector<QPair<QString, QString>> TableModel::choices(const QModelIndex &) const {

@@ -19,6 +19,8 @@ public:
 
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
+    /// The field of the package that a cell edits as a text; the empty path for other cells.
+    virtual Tano::FieldPath field(const QModelIndex &index) const;
     /// Why a cell cannot take a text; empty when it can.
     virtual QString refusal(const QModelIndex &index, const QString &text) const;
     /// What may be chosen for a cell, as pairs of the value and its text; empty where anything

@@ -1,5 +1,6 @@
 #include "text_field.h"
 
+#include "field_edits.h"
 #include "marks.h"
 
 #include <QKeyEvent>
@@ -29,16 +30,6 @@ public:
 
 void yieldUndo(QWidget *widget) {
     widget->installEventFilter(new UndoYielder(widget));
-}
-
-QString versionRefusal(const QString &text) {
-    bool ok = text.trimmed().isEmpty();
-    if (!ok)
-        Zel::SoftwareVersionUtils::fromString(text, &ok);
-    return ok ? QString()
-              : TextField::tr("“%1” is no version. A version is numbers with dots between them, "
-                              "such as 2.5.0.")
-                    .arg(text);
 }
 
 TextField::TextField(QLineEdit *edit, Document &document, TextBinding binding)
@@ -81,14 +72,14 @@ bool TextField::eventFilter(QObject *watched, QEvent *event) {
 
 void TextField::reload() {
     m_refusal.clear();
-    m_shown = m_binding.read();
+    m_shown = read();
     setText(m_shown);
     mark();
 }
 
 void TextField::refresh() {
     // While its own edit is under way, the field shows what is being typed.
-    if (!m_isBusy && m_binding.read() != m_shown)
+    if (!m_isBusy && read() != m_shown)
         reload();
     else
         mark();
@@ -98,13 +89,15 @@ void TextField::take() {
     if (m_isBusy)
         return;
     const QString typed = text();
-    m_refusal = m_binding.refusal ? m_binding.refusal(typed) : QString();
-    if (m_refusal.isEmpty() && typed != m_binding.read()) {
+    m_refusal = typed.isEmpty() ? m_binding.emptyRefusal : QString();
+    if (m_refusal.isEmpty())
+        m_refusal = textRefusal(m_document.package(), m_binding.path(), typed);
+    if (m_refusal.isEmpty() && typed != read()) {
         m_isBusy = true;
         m_document.pushTyped(
             [this, typed](bool isFinal) { return m_binding.write(typed, isFinal); });
         m_isBusy = false;
-        m_shown = m_binding.read();
+        m_shown = read();
     }
     mark();
 }
@@ -113,15 +106,19 @@ void TextField::finish() {
     m_isBusy = true;
     m_document.closeRun();
     m_isBusy = false;
-    if (m_refusal.isEmpty() && text() != m_binding.read())
+    if (m_refusal.isEmpty() && text() != read())
         reload(); // as the package has put it
 }
 
 void TextField::mark() {
     auto mark = Mark::ofRefusal(m_refusal);
-    if (!mark && m_binding.path)
+    if (!mark)
         mark = Mark::ofIssue(m_document.issueAt(m_binding.path()));
     markField(m_widget, mark);
+}
+
+QString TextField::read() const {
+    return fieldText(m_document.package(), m_binding.path());
 }
 
 QString TextField::text() const {

@@ -9,14 +9,13 @@
 
 namespace Editor {
 
-/// How a field reads its text from the package, and which command writes it.
+/// Which field of the package a widget shows, and which command writes it.
 struct TextBinding {
-    std::function<QString()> read;
+    /// The empty path while there is no such field.
+    std::function<Tano::FieldPath()> path;
     std::function<QUndoCommand *(const QString &text, bool isFinal)> write;
-    /// The path of the field in issues; may be left out.
-    std::function<QString()> path = {};
-    /// A sentence that says why the package cannot take the text, or nothing; may be left out.
-    std::function<QString(const QString &text)> refusal = {};
+    /// What to say of an empty text, if the field must not be empty.
+    QString emptyRefusal = {};
 };
 
 /// Keeps a text widget and a text of the package alike, in both directions.
@@ -45,6 +44,7 @@ private:
     void take();
     void finish();
     void mark();
+    QString read() const;
     QString text() const;
     void setText(const QString &text);
 
@@ -60,8 +60,5 @@ private:
 
 /// Leaves undo and redo, while the widget has the focus, to the window's actions.
 void yieldUndo(QWidget *widget);
-
-/// Why a text is no version; empty for one that is, and for an empty text, which is not set.
-QString versionRefusal(const QString &text);
 
 } // namespace Editor

@@ -1,8 +1,7 @@
 #include "texts_page.h"
 
 #include "coverage_delegate.h"
-#include "editor_commands.h"
-#include "languages.h"
+#include "field_edits.h"
 #include "languages_model.h"
 #include "marks.h"
 #include "typing_delegate.h"
@@ -22,7 +21,7 @@
 
 namespace Editor {
 
-using Zel::PackageInfoModel;
+using Tano::FieldPath;
 using Zel::PackageLocalizedStringCommand;
 using Zel::RobotLanguage;
 
@@ -54,7 +53,8 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     add->setMenu(m_languageMenu);
     connect(m_languageMenu, &QMenu::aboutToShow, this, &TextsPage::fillLanguageMenu);
     m_remove = newListButton(tr("&Remove Language"), false, this);
-    connect(m_remove, &QPushButton::clicked, this, &TextsPage::removeLanguage);
+    connect(m_remove, &QPushButton::clicked, this,
+            [this] { m_model->remove(current().isoCode()); });
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -76,24 +76,22 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     m_detailsTitle->setFont(bold);
     form->addRow(m_detailsTitle);
     const auto binding = [this](PackageLocalizedStringCommand::WhatString what,
-                                QString (PackageInfoModel::*read)(const RobotLanguage &) const,
-                                QString (*path)(const QString &)) -> TextBinding {
-        return {[this, read] { return (package()->*read)(current()); },
+                                const char *field) -> TextBinding {
+        return {[this, field] {
+                    return FieldPath().field(field).key(Zel::toUtf8(current().isoCode()));
+                },
                 [this, what](const QString &text, bool isFinal) {
                     return new PackageLocalizedStringCommand(package(), text, what, current(),
                                                              isFinal);
-                },
-                [this, path] { return path(current().isoCode()); }};
+                }};
     };
-    m_name =
-        addTextRow(form, tr("&Name:"), document,
-                   binding(PackageLocalizedStringCommand::Name, &PackageInfoModel::name, namePath));
+    m_name = addTextRow(form, tr("&Name:"), document,
+                        binding(PackageLocalizedStringCommand::Name, "names"));
     auto *description = new QPlainTextEdit(m_details);
     description->setMinimumHeight(description->fontMetrics().lineSpacing() * 3 + 14);
     form->addRow(tr("D&escription:"), description);
-    m_description = new TextField(description, document,
-                                  binding(PackageLocalizedStringCommand::Description,
-                                          &PackageInfoModel::description, descriptionPath));
+    m_description = new TextField(
+        description, document, binding(PackageLocalizedStringCommand::Description, "descriptions"));
 
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
@@ -114,7 +112,8 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
 }
 
 RobotLanguage TextsPage::current() const {
-    return languageOf(m_table->currentIndex().data(LanguagesModel::CodeRole).toString());
+    return Zel::Language::languageInUse(
+        m_table->currentIndex().data(LanguagesModel::CodeRole).toString());
 }
 
 void TextsPage::showCurrent() {
@@ -154,33 +153,21 @@ void TextsPage::addOtherLanguage() {
                              .trimmed();
     static const QRegularExpression form(
         QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9]+([_-][A-Za-z0-9]+)*")));
-    if (form.match(code).hasMatch() && !package()->hasLanguageSupport(languageOf(code)))
+    if (form.match(code).hasMatch())
         addLanguage(code);
 }
 
 void TextsPage::addLanguage(const QString &code) {
-    document().push(new SupportedLanguageCommand(package(), languageOf(code)));
+    m_model->add(code);
     m_table->setCurrentIndex(
         m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
 }
 
-void TextsPage::removeLanguage() {
-    const RobotLanguage language = current();
-    document().closeRun();
-    QUndoStack *stack = document().undoStack();
-    stack->beginMacro(tr("Remove language %1").arg(language.isoCode()));
-    if (package()->hasLanguageSupport(language))
-        stack->push(new SupportedLanguageCommand(package(), language));
-    if (package()->hasLanguageDescription(language))
-        stack->push(new DescriptionLanguageCommand(package(), language));
-    stack->endMacro();
-}
-
-bool TextsPage::showField(const FieldPlace &path) {
-    const bool isName = path.list == QLatin1String("names");
-    if (!isName && path.list != QLatin1String("descriptions"))
+bool TextsPage::showField(const FieldPath &path) {
+    const bool isName = fieldName(path) == QLatin1String("names");
+    if (!isName && fieldName(path) != QLatin1String("descriptions"))
         return false;
-    const int row = int(m_model->keys().indexOf(path.key));
+    const int row = int(m_model->keys().indexOf(fieldKey(path)));
     m_table->setCurrentIndex(
         m_model->index(row, isName ? LanguagesModel::Name : LanguagesModel::Description));
     (isName ? m_name : m_description)->widget()->setFocus(Qt::OtherFocusReason);

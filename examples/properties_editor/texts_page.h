@@ -16,12 +16,11 @@ class TextsPage : public Page {
 
 public:
     explicit TextsPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const FieldPlace &path) override;
+    bool showField(const Tano::FieldPath &path) override;
 
 private:
     void fillLanguageMenu();
     void addLanguage(const QString &code);
-    void removeLanguage();
     void addOtherLanguage();
     void showCurrent();
     void refresh();

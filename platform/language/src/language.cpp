@@ -29,6 +29,10 @@ RobotLanguages knownLanguages() {
     return LanguageTable::instance().languages();
 }
 
+RobotLanguages builtInLanguages() {
+    return LanguageTable::instance().builtInLanguages();
+}
+
 void addPartialLanguage(const RobotLanguage &language) {
     LanguageTable::instance().add(language);
 }

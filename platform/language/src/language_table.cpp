@@ -42,7 +42,7 @@ RobotLanguage languageOf(const QJsonObject &row) {
             SoftwareVersionUtils::fromString(text("version"))};
 }
 
-RobotLanguages builtInLanguages() {
+RobotLanguages readLanguages() {
     QFile file(QStringLiteral(":/zel/language/languages.json"));
     const bool isOpen = file.open(QIODevice::ReadOnly);
     Q_ASSERT(isOpen);
@@ -65,10 +65,18 @@ LanguageTable &LanguageTable::instance() {
 }
 
 LanguageTable::LanguageTable() {
-    for (const RobotLanguage &language : builtInLanguages())
+    for (const RobotLanguage &language : readLanguages())
         add(language);
-    m_forgetAt = m_entries.size() + leastGrowth;
+    m_builtIn = m_entries.size();
+    m_forgetAt = m_builtIn + leastGrowth;
     m_default = find(QStringLiteral("en_US"));
+}
+
+RobotLanguages LanguageTable::builtInLanguages() const {
+    RobotLanguages languages;
+    for (std::size_t i = 0; i < m_builtIn; ++i)
+        languages.push_back(m_entries[i].language);
+    return languages;
 }
 
 RobotLanguages LanguageTable::languages() const {

@@ -18,6 +18,9 @@ public:
     /// In the order of knownLanguages().
     RobotLanguages languages() const;
 
+    /// Those that the tool comes with, in ascending order of their codes.
+    RobotLanguages builtInLanguages() const;
+
     /// The language with an empty code if there is none with this code.
     RobotLanguage find(const QString &isoCode) const;
 
@@ -46,6 +49,7 @@ private:
 
     std::vector<Entry> m_entries; // in the order of their registration
     QHash<QString, std::size_t> m_indexes;
+    std::size_t m_builtIn = 0;  // how many of them, from the first on, are built in
     std::size_t m_forgetAt = 0; // the number of entries at which unused ones are dropped next
     RobotLanguage m_default;
 };

@@ -80,8 +80,10 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
 void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
     QStringList fields;
     const auto issues = Zel::PackageModel::issues(&package);
-    for (const Zel::PackageModel::Issue &issue : issues)
-        fields += issue.path;
+    for (const Zel::PackageModel::Issue &issue : issues) {
+        if (issue.id.contains(QLatin1String("-missing")))
+            fields += issue.path;
+    }
     console.tell(
         QCoreApplication::translate("zel-package", "Created %1, version %2. Still needed: %3.")
             .arg(file, Zel::SoftwareVersionUtils::toString(package.version()),

@@ -14,6 +14,7 @@ struct Report {
     int files = 0;
     int errors = 0; ///< malformed manifests among them
     int warnings = 0;
+    int notes = 0;
     int malformed = 0;
     int unreadable = 0;
     int truncated = 0; ///< with more findings of a rule than are listed

@@ -53,7 +53,15 @@ QStringList idsOf(const QVector<Rule> &rules) {
 }
 
 QLatin1String wordOf(Severity severity) {
-    return severity == Severity::Error ? QLatin1String("error") : QLatin1String("warning");
+    switch (severity) {
+    case Severity::Note:
+        return QLatin1String("note");
+    case Severity::Warning:
+        return QLatin1String("warning");
+    case Severity::Error:
+        break;
+    }
+    return QLatin1String("error");
 }
 
 QString messageForm(const Rule &rule) {

@@ -8,6 +8,7 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
@@ -46,8 +47,8 @@ QList<QCommandLineOption> options() {
          QStringLiteral("FORMAT"), formats[0].name},
         {failOnOption,
          QCoreApplication::translate("zel-package",
-                                     "The least severity that makes the exit status 1: error "
-                                     "or warning; error when none is given."),
+                                     "The least severity that makes the exit status 1: error, "
+                                     "warning or note; error when none is given."),
          QStringLiteral("SEVERITY"), wordOf(Severity::Error)},
         {ignoreOption,
          QCoreApplication::translate("zel-package",
@@ -60,12 +61,15 @@ QList<QCommandLineOption> options() {
 }
 
 std::optional<Severity> failOnOf(const QString &word, Console &console) {
-    if (!checkWord(word, {wordOf(Severity::Error), wordOf(Severity::Warning)},
-                   QCoreApplication::translate("zel-package", "There is no severity '%1'%2"),
-                   QCoreApplication::translate("zel-package", "; it is either error or warning."),
-                   console))
+    const std::array severities{Severity::Note, Severity::Warning, Severity::Error};
+    QStringList words;
+    for (const Severity severity : severities)
+        words += wordOf(severity);
+    if (!checkWord(
+            word, words, QCoreApplication::translate("zel-package", "There is no severity '%1'%2"),
+            QCoreApplication::translate("zel-package", "; it is error, warning or note."), console))
         return {};
-    return word == wordOf(Severity::Error) ? Severity::Error : Severity::Warning;
+    return severities.at(std::size_t(words.indexOf(word)));
 }
 
 std::unique_ptr<FindingsWriter> writerOf(const QString &format, Console &console) {
@@ -145,7 +149,7 @@ private:
         const Zel::PackageInfoModel package(record);
         QHash<QString, int> counts;
         bool isTruncated = false;
-        Zel::PackageModel::visitIssues(&package, [&](const Issue &issue) {
+        const auto visit = [&](const Issue &issue) {
             int &count = counts[issue.id];
             const bool isBeyond = count == mostFindings;
             if (m_ignored.contains(issue.id) || isBeyond) {
@@ -156,7 +160,9 @@ private:
             found({file, reader.position(Zel::toUtf8(issue.path)), issue.id, issue.severity,
                    issue.path, issue.plainText()});
             return IssueVisit::Continue;
-        });
+        };
+        const QString folder = isStandardStream(file) ? QString() : QFileInfo(file).path();
+        Zel::PackageModel::visitIssues(&package, visit, {folder, &record});
         if (isTruncated)
             tellTruncated(file);
     }
@@ -179,7 +185,9 @@ private:
     }
 
     void found(const ManifestFinding &finding) {
-        ++(finding.severity == Severity::Error ? m_report.errors : m_report.warnings);
+        ++(finding.severity == Severity::Error     ? m_report.errors
+           : finding.severity == Severity::Warning ? m_report.warnings
+                                                   : m_report.notes);
         m_found += finding.ruleId;
         m_writer.write(finding);
     }
@@ -207,20 +215,23 @@ void checkAll(const QStringList &files, Validation &validation, Console &console
 ExitStatus statusOf(const Report &report, Severity failOn) {
     if (report.malformed > 0 || report.unreadable > 0)
         return Failure;
-    const bool hasFailed =
-        report.errors > 0 || (failOn == Severity::Warning && report.warnings > 0);
+    const bool hasFailed = report.errors > 0 ||
+                           (failOn <= Severity::Warning && report.warnings > 0) ||
+                           (failOn == Severity::Note && report.notes > 0);
     return hasFailed ? Findings : Fine;
 }
 
 // Says nothing where nothing was found.
 void tellSummary(const Report &report, Console &console) {
-    if (report.errors == 0 && report.warnings == 0 && report.unreadable == 0)
+    if (report.errors + report.warnings + report.notes + report.unreadable == 0)
         return;
     QString summary =
         QCoreApplication::translate("zel-package", "Manifests: %1, errors: %2, warnings: %3")
             .arg(report.files)
             .arg(report.errors)
             .arg(report.warnings);
+    if (report.notes > 0)
+        summary += QCoreApplication::translate("zel-package", ", notes: %1").arg(report.notes);
     if (report.malformed > 0)
         summary +=
             QCoreApplication::translate("zel-package", ", malformed: %1").arg(report.malformed);
@@ -255,8 +266,9 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 const ProgramCommand validateCommand{
     "validate",
     QT_TRANSLATE_NOOP("zel-package", "Tell what is wrong with manifests"),
-    QT_TRANSLATE_NOOP("zel-package", "FILE... [--format text|json|sarif] [--fail-on error|warning] "
-                                     "[--ignore ID[,ID]...]... [--explain]"),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "FILE... [--format text|json|sarif] [--fail-on error|warning|note] "
+                      "[--ignore ID[,ID]...]... [--explain]"),
     QT_TRANSLATE_NOOP("zel-package",
                       "Prints what is wrong with each manifest, as FILE:LINE: error: text (field) "
                       "[id]; the line is that of the field or, where it is missing, of what should "

@@ -17,6 +17,9 @@ using LocalizedStringLists = std::vector<std::pair<QStringList, RobotLanguage>>;
 /// the order of their registration.
 ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
 
+/// Those that the tool comes with, in ascending order of their codes.
+ZEL_LANGUAGE_EXPORT RobotLanguages builtInLanguages();
+
 /// Registers a descriptor for good, so that later look-ups of its code find it. Ignores an empty
 /// code; a code that is known already keeps its descriptor.
 ZEL_LANGUAGE_EXPORT void addPartialLanguage(const RobotLanguage &language);

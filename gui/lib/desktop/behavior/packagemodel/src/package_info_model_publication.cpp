@@ -6,6 +6,7 @@
 
 #include <packagemodel/package_scripts.h>
 
+#include <tano/field_path.h>
 #include <tano/log.h>
 #include <tano/package_helper.h>
 
@@ -193,38 +194,42 @@ void genPlainTextLists(const QPointer<BehaviorInfoModel> &behavior, const RobotL
     }
 }
 
-QString selected(const QString &path, const QString &selector) {
-    return path % u'[' % selector % u']';
-}
+using Tano::FieldPath;
 
 class ScriptErrors {
 public:
     template<typename Model>
-    void checkTexts(const Model &model, const QString &parent) {
+    void checkTexts(const Model &model, const FieldPath &parent) {
         for (const ScriptText<Model> &kind : scriptTexts<Model>) {
             for (const auto &[text, language] : (model.*kind.texts)()) {
                 if (!isXScrpolLanguage(language))
-                    check(text, selected(parent % QLatin1String(kind.field), language.isoCode()));
+                    check(text, [&] { return pathOf(parent, kind.field, language); });
             }
         }
     }
 
-    void checkLists(const BehaviorInfoModel &behavior, const QString &parent,
+    void checkLists(const BehaviorInfoModel &behavior, const FieldPath &parent,
                     const RobotLanguage &language) {
         for (const ScriptList &kind : scriptLists) {
-            const QString path = selected(parent % QLatin1String(kind.field), language.isoCode());
             const QStringList texts = (behavior.*kind.texts)(language);
             for (int i = 0; i < texts.size(); ++i)
-                check(texts.at(i), selected(path, QString::number(i)));
+                check(texts.at(i), [&] { return pathOf(parent, kind.field, language).index(i); });
         }
     }
 
     const QVector<PackageModel::ScriptError> &all() const { return m_errors; }
 
 private:
-    void check(const QString &text, const QString &path) {
+    static FieldPath pathOf(const FieldPath &parent, const char *field,
+                            const RobotLanguage &language) {
+        return FieldPath(parent).field(field).key(toUtf8(language.isoCode()));
+    }
+    template<typename Path>
+    void check(const QString &text, Path path) {
+        if (!text.contains(u'<'))
+            return; // plain
         if (const PlainText plain = plainTextOf(text); !plain.error.isEmpty())
-            m_errors.append({path, plain.error});
+            m_errors.append({fromUtf8(path().toString()), plain.error});
     }
 
     QVector<PackageModel::ScriptError> m_errors;
@@ -273,9 +278,13 @@ QVector<PackageModel::ScriptError> PackageModel::scriptErrors(const PackageInfoM
         return {};
     errors.checkTexts(*package, {});
     const LanguageOrder order(package->supportedLanguages());
+    QHash<QString, int> occurrences;
     const auto behaviors = package->behaviors();
     for (const BehaviorInfoModel *behavior : behaviors) {
-        const QString parent = selected(QStringLiteral("behaviors"), behavior->path()) % u'.';
+        const FieldPath parent =
+            FieldPath()
+                .field("behaviors")
+                .entry(toUtf8(behavior->path()), occurrences[behavior->path()]++);
         errors.checkTexts(*behavior, parent);
         SpokenLanguages languages(order);
         while (const RobotLanguage *language = languages.next(behavior))

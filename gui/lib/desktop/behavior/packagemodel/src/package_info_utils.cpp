@@ -1,25 +1,17 @@
 #include <packagemodel/package_info_utils.h>
 
-#include "package_checks.h"
+#include "checks/package_checks.h"
 
 #include <packagemodel/package_info_model.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <set>
 #include <utility>
 #include <vector>
 
 namespace Zel {
 namespace PackageModel {
 namespace {
-
-using Check = void (*)(const PackageInfoModel &package, Findings &findings);
-
-// The checks of the package itself, in the order of their messages.
-constexpr std::array<Check, 5> applicationChecks{
-    checkUid, checkRobotRequirements, checkBrioRequirements, checkNames, checkDescriptions};
 
 Findings run(Check check, const PackageInfoModel *package) {
     Findings findings;
@@ -30,7 +22,7 @@ Findings run(Check check, const PackageInfoModel *package) {
 Findings triggerSentenceFindings(const PackageInfoModel *package,
                                  const BehaviorInfoModel *behavior) {
     Findings findings;
-    checkTriggerSentences(*package, *behavior, findings);
+    checkTriggerSentences(*package, *behavior, 0, findings);
     return findings;
 }
 
@@ -62,61 +54,6 @@ bool validateAlone(Check check, const PackageInfoModel *package, QStringList &er
     QStringList warnings;
     appendMessages(run(check, package), errors, warnings);
     return errors.isEmpty();
-}
-
-Issue issueOf(const Finding &finding) {
-    const RuleRow &row = ruleRow(finding.rule);
-    return {QLatin1String(row.id), row.severity, pathOf(finding),
-            message(finding, {finding.language})};
-}
-
-// Passes findings on as issues until the visitor has had enough.
-class FindingVisit {
-public:
-    explicit FindingVisit(const std::function<IssueVisit(const Issue &issue)> &visit)
-        : m_visit(visit) {}
-
-    // Returns false when the visitor stops.
-    bool visit(const Findings &findings) {
-        for (const Finding &finding : findings) {
-            if (skips(finding.rule) || !isNamed(finding))
-                continue;
-            const IssueVisit next = m_visit(issueOf(finding));
-            if (next == IssueVisit::Stop)
-                return false;
-            if (next == IssueVisit::SkipRule)
-                m_skipped.insert(finding.rule);
-        }
-        return true;
-    }
-
-    bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
-
-private:
-    // A message without a language would say nothing.
-    static bool isNamed(const Finding &finding) {
-        return finding.rule != RuleId::TriggerSentencesMissing ||
-               !finding.language.uiName().isEmpty();
-    }
-
-    const std::function<IssueVisit(const Issue &issue)> &m_visit;
-    std::set<RuleId> m_skipped;
-};
-
-// By ascending path; behaviors with the same path keep their order.
-std::vector<const BehaviorInfoModel *>
-inOrderOfMessages(const QVector<BehaviorInfoModel *> &behaviors) {
-    std::vector<std::pair<QString, const BehaviorInfoModel *>> byPath;
-    byPath.reserve(std::size_t(behaviors.size()));
-    for (const BehaviorInfoModel *behavior : behaviors)
-        byPath.emplace_back(behavior->path(), behavior);
-    std::stable_sort(byPath.begin(), byPath.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
-    std::vector<const BehaviorInfoModel *> ordered;
-    ordered.reserve(byPath.size());
-    for (const auto &[path, behavior] : byPath)
-        ordered.push_back(behavior);
-    return ordered;
 }
 
 // A text in a language, else in the default language, else none.
@@ -242,31 +179,6 @@ bool validateTriggerSentences(const PackageInfoModel *package, const BehaviorInf
     missing =
         languagesOf(triggerSentenceFindings(package, behavior), RuleId::TriggerSentencesMissing);
     return missing.empty();
-}
-
-QVector<Issue> issues(const PackageInfoModel *package) {
-    QVector<Issue> issues;
-    visitIssues(package, [&](const Issue &issue) {
-        issues.append(issue);
-        return IssueVisit::Continue;
-    });
-    return issues;
-}
-
-void visitIssues(const PackageInfoModel *package,
-                 const std::function<IssueVisit(const Issue &issue)> &visit) {
-    if (!package)
-        return;
-    FindingVisit findings(visit);
-    for (const Check check : applicationChecks) {
-        if (!findings.visit(run(check, package)))
-            return;
-    }
-    for (const BehaviorInfoModel *behavior : inOrderOfMessages(package->behaviors())) {
-        if (findings.skips(RuleId::TriggerSentencesMissing) ||
-            !findings.visit(triggerSentenceFindings(package, behavior)))
-            return;
-    }
 }
 
 } // namespace PackageModel

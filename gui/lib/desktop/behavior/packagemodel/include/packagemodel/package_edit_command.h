@@ -7,9 +7,9 @@ namespace Zel {
 
 /// Applies edits of a package as one undo step.
 ///
-/// A command that sets one text merges with later ones for the same field of the same package,
-/// until one of them is final; a run that ends at its old text becomes obsolete, so that the stack
-/// drops it. error() says why a step changed nothing.
+/// A command that sets one text or version merges with later ones for the same field of the same
+/// package, until one of them is final; a run that ends at its old text becomes obsolete, so that
+/// the stack drops it. error() says why a step changed nothing.
 ///
 /// ```
 /// stack.push(new PackageEditCommand(&package, {edit}, tr("Set the author")));

@@ -55,4 +55,8 @@ PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edit &edit);
 /// Applies all edits in their order, or none.
 PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edits &edits);
 
+/// Why apply() would refuse an edit, in one sentence without the path: for a form that checks a
+/// text while it is typed. Empty if it would apply the edit.
+PACKAGEMODEL_EXPORT QString refusal(const PackageInfoModel *package, const Edit &edit);
+
 } // namespace Zel::PackageModel

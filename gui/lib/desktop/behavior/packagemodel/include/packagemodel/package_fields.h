@@ -68,6 +68,16 @@ PACKAGEMODEL_EXPORT std::optional<FieldValue> value(const PackageInfoModel *pack
 PACKAGEMODEL_EXPORT QVector<FieldValue> entries(const PackageInfoModel *package,
                                                 const Tano::FieldPath &path);
 
+/// The path of an item of a list by its index: `behaviors[greet][1]` for the second behavior with
+/// the path "greet". The empty path if there is no such item.
+PACKAGEMODEL_EXPORT Tano::FieldPath itemPath(const PackageInfoModel *package,
+                                             const Tano::FieldPath &list, int index);
+
+/// A path in words, in the language of the application: "Trigger sentences of “greet” in Japanese"
+/// for `behaviors[greet].triggerSentences[ja_JP]`, "Robot requirement 1" for
+/// `robotRequirements[0]`. A path that leads to no kind of field is returned as it is.
+PACKAGEMODEL_EXPORT QString label(const Tano::FieldPath &path);
+
 /// What the paths of a form lead to in any package, whether or not it has such an entry.
 struct FieldForm {
     FieldKind kind;    ///< of the value, or of each entry of a list

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <packagemodel/packagemodel_export.h>
+#include <packagemodel/package_edits.h>
+
+#include <tano/package_info.h>
 
 #include <QString>
 #include <QVector>
@@ -15,7 +17,7 @@ class PackageInfoModel;
 /// come from the same table of rules.
 namespace PackageModel {
 
-enum class Severity { Warning, Error };
+enum class Severity { Note, Warning, Error };
 
 /// One thing that can be wrong, in the language of the application.
 struct Rule {
@@ -23,11 +25,18 @@ struct Rule {
     Severity severity;   ///< of what it finds
     QString message;     ///< with its placeholders; rich text, so that "<" is "&lt;"
     QString explanation; ///< a paragraph of plain text
-    QString remedy;      ///< how to mend it, in plain text
+    QString remedy;      ///< how to correct it, in plain text
 };
 
 /// All rules, in the order in which they are checked.
 PACKAGEMODEL_EXPORT QVector<Rule> rules();
+
+/// A way to correct an issue.
+struct Fix {
+    QString title; ///< what it does, as a button or a menu has it: "Remove the permission"
+    bool isSafe;   ///< it keeps the meaning, so that it may be made without a question
+    Edits edits;   ///< for apply() or a PackageEditCommand
+};
 
 /// One thing that is wrong in one field.
 struct Issue {
@@ -39,6 +48,7 @@ struct Issue {
     /// What is wrong, worded as in the messages: "<" of the wording is "&lt;", while values of the
     /// package are not escaped. Show plainText() or richText() instead.
     QString text;
+    QVector<Fix> fixes = {}; ///< the most likely first
 
     /// The text without markup, for a terminal, a report or a plain label.
     PACKAGEMODEL_EXPORT QString plainText() const;
@@ -46,9 +56,26 @@ struct Issue {
     PACKAGEMODEL_EXPORT QString richText() const;
 };
 
-/// All that is wrong with a package: the same findings as the messages of validate(), in the same
-/// order, one for each field. An empty list for a null package.
-PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package);
+/// What issues() need beyond the package.
+struct IssueOptions {
+    /// The folder of the manifest, in which topic files and the icon are looked for; empty to leave
+    /// them alone.
+    QString folder = {};
+    /// The record as it was read, if a version that the model has normalized is to be judged as
+    /// written.
+    const Tano::PackageInfo *written = nullptr;
+};
+
+/// All that is wrong with a package, each with the path of its field. First come the findings of
+/// the messages of validate(), in their order, one for each field, then those of further rules. An
+/// empty list for a null package.
+///
+/// ```
+/// for (const auto &issue : PackageModel::issues(&package))
+///     list.add(issue.path, issue.plainText());
+/// ```
+PACKAGEMODEL_EXPORT QVector<Issue> issues(const PackageInfoModel *package,
+                                          const IssueOptions &options = {});
 
 /// How visitIssues() goes on after an issue.
 enum class IssueVisit {
@@ -60,7 +87,17 @@ enum class IssueVisit {
 /// Calls `visit` for each of issues(), in the same order, without collecting them: a package can
 /// have as many as behaviors times languages. `visit` must not change the package.
 PACKAGEMODEL_EXPORT void visitIssues(const PackageInfoModel *package,
-                                     const std::function<IssueVisit(const Issue &issue)> &visit);
+                                     const std::function<IssueVisit(const Issue &issue)> &visit,
+                                     const IssueOptions &options = {});
+
+/// Which fixes fixIssues() makes.
+enum class FixChoice { Safe, All };
+
+/// Makes the first fix of each issue that has one of the choice, then those of the issues that this
+/// leaves, until none is left that can be fixed. Returns the edits in the order in which they were
+/// made; making it again changes nothing.
+PACKAGEMODEL_EXPORT Edits fixIssues(PackageInfoModel *package, FixChoice choice,
+                                    const IssueOptions &options = {});
 
 } // namespace PackageModel
 } // namespace Zel

@@ -10,10 +10,6 @@ inline int indexIn(const Selectors &selectors, int size) {
     return index && *index < size ? *index : -1;
 }
 
-inline QString misfit() {
-    return QCoreApplication::translate("Zel::PackageModel", "The value is of another type.");
-}
-
 inline QString taken(const QString &value) {
     return QCoreApplication::translate("Zel::PackageModel", "'%1' is there already.").arg(value);
 }
@@ -22,8 +18,8 @@ inline QString taken(const QString &value) {
 template<typename Owner>
 class ListRow : public FieldRow<Owner> {
 public:
-    ListRow(const char *name, const char *label, FieldKind kind, const char *selectors)
-        : FieldRow<Owner>(name, label, kind, selectors, true) {}
+    ListRow(const char *name, const FieldLabels &labels, FieldKind kind, const char *selectors)
+        : FieldRow<Owner>(name, labels, kind, selectors, true) {}
 
     FieldTarget follow(Owner &owner, const Walk &walk) const override {
         return walk.isLast() ? followList(makeList(owner), walk, 0) : FieldTarget();
@@ -119,9 +115,9 @@ class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
 public:
     using Keys = std::vector<Key> (*)(const BehaviorInfoModel &behavior);
 
-    BehaviorTextsRow(const char *name, const char *label, const char *selectors, Keys keys,
+    BehaviorTextsRow(const char *name, const FieldLabels &labels, const char *selectors, Keys keys,
                      const typename BehaviorTexts<Key>::Operations &operations)
-        : ListRow(name, label, FieldKind::Text, selectors)
+        : ListRow(name, labels, FieldKind::Text, selectors)
         , m_keys(keys)
         , m_operations(operations) {}
 
@@ -268,9 +264,9 @@ private:
 template<typename Child>
 class EntriesRow : public ListRow<PackageInfoModel> {
 public:
-    EntriesRow(const char *name, const char *label, FieldKind kind, const char *selectors,
+    EntriesRow(const char *name, const FieldLabels &labels, FieldKind kind, const char *selectors,
                const EntryKind<Child> &operations)
-        : ListRow(name, label, kind, selectors)
+        : ListRow(name, labels, kind, selectors)
         , m_kind(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -298,6 +294,14 @@ public:
         if (!isEntry)
             return ListRow::form(walk, error);
         return walk.isLast() ? formAs(false) : formIn(m_kind.table(), walk.next(), error);
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        if (walk.isLast() || walk.selectors().empty())
+            return ListRow::describe(walk, of);
+        return describeIn(m_kind.table(), walk.next(), [&](const QString &label) {
+            return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of “%2”"))
+                .arg(label, entryName(walk.selectors()));
+        });
     }
     bool visitEntries(PackageInfoModel &package,
                       const std::function<void(const QJsonObject &)> &visit) const override {
@@ -360,6 +364,7 @@ struct RequirementOperations {
     bool (PackageInfoModel::*remove)(int index);
     bool (PackageInfoModel::*move)(int from, int to);
     const FieldTable<RequirementPlace<Requirement>> &(*table)();
+    const char *memberLabel; ///< of a field of a requirement: its label, and the number
 };
 
 template<typename Requirement>
@@ -406,9 +411,9 @@ private:
 template<typename Requirement>
 class RequirementsRow : public ListRow<PackageInfoModel> {
 public:
-    RequirementsRow(const char *name, const char *label,
+    RequirementsRow(const char *name, const FieldLabels &labels,
                     const RequirementOperations<Requirement> &operations)
-        : ListRow(name, label, kindOf<Requirement>(), "[N]")
+        : ListRow(name, labels, kindOf<Requirement>(), "[N]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -432,6 +437,15 @@ public:
         return walk.isLast() || walk.selectors().size() != 1
                    ? ListRow::form(walk, error)
                    : formIn(m_operations.table(), walk.next(), error);
+    }
+    QString describe(const Walk &walk, const OfOwner &of) const override {
+        const auto index =
+            walk.selectors().empty() ? std::nullopt : walk.selectors().front().toIndex();
+        if (walk.isLast() || !index)
+            return ListRow::describe(walk, of);
+        return describeIn(m_operations.table(), walk.next(), [&](const QString &label) {
+            return inWords(m_operations.memberLabel).arg(label, QString::number(*index + 1));
+        });
     }
     bool visitEntries(PackageInfoModel &package,
                       const std::function<void(const QJsonObject &)> &visit) const override {

@@ -23,9 +23,9 @@ QString alternatives(const QString &word, const QStringList &words, const QStrin
 QString noItem(const FieldList &list, const QString &selector) {
     if (const auto keys = list.keys())
         return QCoreApplication::translate("Zel::PackageModel", "There is no '%1'%2")
-            .arg(selector,
-                 alternatives(selector, *keys,
-                              QCoreApplication::translate("Zel::PackageModel", "; available: %1.")));
+            .arg(selector, alternatives(selector, *keys,
+                                        QCoreApplication::translate("Zel::PackageModel",
+                                                                    "; available: %1.")));
     if (list.size() == 0)
         return QCoreApplication::translate("Zel::PackageModel",
                                            "There is no item '%1': the list is empty.")

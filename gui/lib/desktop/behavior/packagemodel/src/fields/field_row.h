@@ -1,6 +1,7 @@
 #pragma once
 
 #include "field_target.h"
+#include "field_words.h"
 #include "list_difference.h"
 
 #include <packagemodel/package_info_model.h>
@@ -80,10 +81,10 @@ class FieldRow {
 public:
     /// `kind` is that of the value or of each entry, `selectors` is how one of several is selected:
     /// "[CODE][N]". Of a list, the path without its last selector leads to the list.
-    FieldRow(const char *name, const char *label, FieldKind kind, const char *selectors = "",
-             bool isList = false)
+    FieldRow(const char *name, const FieldLabels &labels, FieldKind kind,
+             const char *selectors = "", bool isList = false)
         : m_name(name)
-        , m_label(label)
+        , m_labels(labels)
         , m_kind(kind)
         , m_selectors(selectors)
         , m_isList(isList) {}
@@ -94,7 +95,7 @@ public:
     const char *name() const { return m_name; }
     FieldKind kind() const { return m_kind; }
     bool isPlain() const { return *m_selectors == '\0'; }
-    QString label() const { return QCoreApplication::translate("Zel::PackageModel", m_label); }
+    QString label() const { return inWords(m_labels.one); }
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
     virtual void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const = 0;
@@ -110,6 +111,10 @@ public:
         error = QCoreApplication::translate("Zel::PackageModel", "It is written '%1%2'.")
                     .arg(QLatin1String(m_name), QLatin1String(m_selectors));
         return {};
+    }
+    /// The field, an item of it, or a field of the item, in words; empty for a malformed path.
+    virtual QString describe(const Walk &walk, const OfOwner &of) const {
+        return fieldWords(m_labels, m_selectors, walk.selectors(), of);
     }
     /// The whole field: a value, an array or an object by key.
     virtual QJsonValue toJson(Owner &owner) const {
@@ -138,7 +143,7 @@ protected:
 
 private:
     const char *m_name;
-    const char *m_label;
+    FieldLabels m_labels;
     FieldKind m_kind;
     const char *m_selectors;
     bool m_isList;
@@ -183,6 +188,12 @@ std::optional<FieldForm> formIn(const FieldTable<Owner> &table, const Walk &walk
         names += QLatin1String(row->name());
     error = noFieldNamed(fromUtf8(walk.field()), names);
     return {};
+}
+
+template<typename Owner>
+QString describeIn(const FieldTable<Owner> &table, const Walk &walk, const OfOwner &of) {
+    const auto *row = rowOf(table, walk);
+    return row ? row->describe(walk, of) : QString();
 }
 
 template<typename Owner>

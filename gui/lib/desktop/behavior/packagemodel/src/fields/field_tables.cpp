@@ -106,8 +106,8 @@ private:
 
 class LanguagesRow : public ListRow<PackageInfoModel> {
 public:
-    LanguagesRow(const char *name, const char *label, const LanguageOperations &operations)
-        : ListRow(name, label, FieldKind::Text, "[CODE]")
+    LanguagesRow(const char *name, const FieldLabels &labels, const LanguageOperations &operations)
+        : ListRow(name, labels, FieldKind::Text, "[CODE]")
         , m_operations(operations) {}
 
     void list(PackageInfoModel &package, const FieldPath &base,
@@ -187,8 +187,8 @@ private:
 
 class PermissionsRow : public ListRow<BehaviorInfoModel> {
 public:
-    PermissionsRow(const char *name, const char *label)
-        : ListRow(name, label, FieldKind::Text, "[N]") {}
+    PermissionsRow(const char *name, const FieldLabels &labels)
+        : ListRow(name, labels, FieldKind::Text, "[N]") {}
 
     void list(BehaviorInfoModel &behavior, const FieldPath &base,
               QVector<Field> &fields) const override {
@@ -310,7 +310,7 @@ const FieldTable<RequirementPlace<RobotRequirement>> &robotFields() {
     static const auto rows = [] {
         FieldTable<RequirementPlace<RobotRequirement>> table;
         using R = RobotRequirement;
-        addMember(table, "model", QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot"), &R::model);
+        addMember(table, "model", QT_TRANSLATE_NOOP("Zel::PackageModel", "Model"), &R::model);
         addMember(table, "minHeadVersion",
                   QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest head version"),
                   &R::minHeadVersion);
@@ -331,11 +331,9 @@ const FieldTable<RequirementPlace<RobotRequirement>> &robotFields() {
 const FieldTable<RequirementPlace<BrioRequirement>> &brioFields() {
     static const auto rows = [] {
         FieldTable<RequirementPlace<BrioRequirement>> table;
-        addMember(table, "minVersion",
-                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest Brio version"),
+        addMember(table, "minVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Lowest version"),
                   &BrioRequirement::minVersion);
-        addMember(table, "maxVersion",
-                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Highest Brio version"),
+        addMember(table, "maxVersion", QT_TRANSLATE_NOOP("Zel::PackageModel", "Highest version"),
                   &BrioRequirement::maxVersion);
         return table;
     }();
@@ -346,8 +344,13 @@ template<>
 const RequirementOperations<RobotRequirement> &operationsOf<RobotRequirement>() {
     using P = PackageInfoModel;
     static const RequirementOperations<RobotRequirement> operations{
-        &P::robotRequirements,      &P::insertRobotRequirement, &P::updateRobotRequirement,
-        &P::removeRobotRequirement, &P::moveRobotRequirement,   &robotFields};
+        &P::robotRequirements,
+        &P::insertRobotRequirement,
+        &P::updateRobotRequirement,
+        &P::removeRobotRequirement,
+        &P::moveRobotRequirement,
+        &robotFields,
+        QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of robot requirement %2")};
     return operations;
 }
 
@@ -355,8 +358,13 @@ template<>
 const RequirementOperations<BrioRequirement> &operationsOf<BrioRequirement>() {
     using P = PackageInfoModel;
     static const RequirementOperations<BrioRequirement> operations{
-        &P::brioRequirements,      &P::insertBrioRequirement, &P::updateBrioRequirement,
-        &P::removeBrioRequirement, &P::moveBrioRequirement,   &brioFields};
+        &P::brioRequirements,
+        &P::insertBrioRequirement,
+        &P::updateBrioRequirement,
+        &P::removeBrioRequirement,
+        &P::moveBrioRequirement,
+        &brioFields,
+        QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 of Brio requirement %2")};
     return operations;
 }
 
@@ -379,12 +387,15 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
         add<CellRow<B, QString>>(table, "nature", QT_TRANSLATE_NOOP("Zel::PackageModel", "Nature"),
                                  &B::nature, &B::setNature);
         add<CellRow<B, bool>>(table, "userRequestable",
-                              QT_TRANSLATE_NOOP("Zel::PackageModel", "Users may request it"),
+                              QT_TRANSLATE_NOOP("Zel::PackageModel", "User requests"),
                               &B::isUserRequestable, &B::setUserRequestable);
         add<PermissionsRow>(table, "permissions",
-                            QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"));
+                            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Permission"),
+                                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Permissions")));
         add<BehaviorTextsRow<QString>>(
-            table, "conditions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
+            table, "conditions",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Condition"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Conditions")),
             "[PURPOSE][N]",
             [](const B &behavior) {
                 const QStringList purposes = behavior.purposes();
@@ -398,19 +409,25 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
         add<Texts>(table, "descriptions", QT_TRANSLATE_NOOP("Zel::PackageModel", "Description"),
                    &B::descriptions, &B::setDescription, &B::removeDescription);
         add<Lists>(
-            table, "tags", QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"), "[CODE][N]",
-            [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
+            table, "tags",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Tag"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Tags")),
+            "[CODE][N]", [](const B &behavior) { return languagesOf(behavior.languagesToTags()); },
             BehaviorTexts<RobotLanguage>::Operations{&B::tags, &B::addTag, &B::insertTag,
                                                      &B::updateTag, &B::removeTag});
         add<Lists>(
-            table, "triggerSentences", QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
+            table, "triggerSentences",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentence"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Trigger sentences")),
             "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToTriggerSentences()); },
             BehaviorTexts<RobotLanguage>::Operations{
                 &B::triggerSentences, &B::addTriggerSentence, &B::insertTriggerSentence,
                 &B::updateTriggerSentence, &B::removeTriggerSentence});
         add<Lists>(
-            table, "loadingResponses", QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
+            table, "loadingResponses",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading response"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Loading responses")),
             "[CODE][N]",
             [](const B &behavior) { return languagesOf(behavior.languagesToLoadingResponses()); },
             BehaviorTexts<RobotLanguage>::Operations{
@@ -449,8 +466,7 @@ const FieldTable<ServiceInfoModel> &serviceFields() {
         add<KeyRow<S>>(table, "name", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &S::name,
                        &S::setName, &PackageInfoModel::service, &PackageInfoModel::services,
                        &recordOf<S>);
-        add<CellRow<S, bool>>(table, "autoRun",
-                              QT_TRANSLATE_NOOP("Zel::PackageModel", "Starts with the robot"),
+        add<CellRow<S, bool>>(table, "autoRun", QT_TRANSLATE_NOOP("Zel::PackageModel", "Autostart"),
                               &S::isAutoRun, &S::setAutoRun);
         add<CellRow<S, QString>>(table, "execStart",
                                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Command"), &S::execStart,
@@ -529,31 +545,46 @@ const FieldTable<PackageInfoModel> &packageFields() {
                                                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Version"),
                                                  &P::version, &P::setVersion);
         }
-        add<LanguagesRow>(table, "supportedLanguages",
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"), supported);
-        add<LanguagesRow>(table, "descriptionLanguages",
-                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description language"),
-                          described);
+        add<LanguagesRow>(
+            table, "supportedLanguages",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported language"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Supported languages")),
+            supported);
+        add<LanguagesRow>(
+            table, "descriptionLanguages",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Description language"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Description languages")),
+            described);
         add<TextsRow<P>>(table, "names", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &P::names,
                          &P::setName, &P::removeName);
         add<TextsRow<P>>(table, "descriptions",
                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Description"), &P::descriptions,
                          &P::setDescription, &P::removeDescription);
         add<RequirementsRow<RobotRequirement>>(
-            table, "robotRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirement"),
+            table, "robotRequirements",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirement"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Robot requirements")),
             operationsOf<RobotRequirement>());
         add<RequirementsRow<BrioRequirement>>(
-            table, "brioRequirements", QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirement"),
+            table, "brioRequirements",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirement"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Brio requirements")),
             operationsOf<BrioRequirement>());
-        add<EntriesRow<BehaviorInfoModel>>(table, "behaviors",
-                                           QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
-                                           FieldKind::Behavior, "[PATH]", behaviorEntries);
-        add<EntriesRow<DialogInfoModel>>(table, "dialogs",
-                                         QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
-                                         FieldKind::Dialog, "[NAME]", dialogEntries);
-        add<EntriesRow<ServiceInfoModel>>(table, "services",
-                                          QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
-                                          FieldKind::Service, "[NAME]", serviceEntries);
+        add<EntriesRow<BehaviorInfoModel>>(
+            table, "behaviors",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Behavior"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Behaviors")),
+            FieldKind::Behavior, "[PATH]", behaviorEntries);
+        add<EntriesRow<DialogInfoModel>>(
+            table, "dialogs",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialog"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Dialogs")),
+            FieldKind::Dialog, "[NAME]", dialogEntries);
+        add<EntriesRow<ServiceInfoModel>>(
+            table, "services",
+            FieldLabels(QT_TRANSLATE_NOOP("Zel::PackageModel", "Service"),
+                        QT_TRANSLATE_NOOP("Zel::PackageModel", "Services")),
+            FieldKind::Service, "[NAME]", serviceEntries);
         return table;
     }();
     return rows;

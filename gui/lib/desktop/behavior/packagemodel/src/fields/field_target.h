@@ -67,6 +67,8 @@ struct FieldTarget {
 
 /// What a path of a package leads to.
 FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path);
+/// The path of an item of a list that has it.
+Tano::FieldPath itemPath(const FieldTarget &list, int index);
 
 /// Why a path leads to nothing in a package.
 QString reasonOf(PackageInfoModel &package, const Tano::FieldPath &path);

@@ -5,10 +5,12 @@
 namespace Zel {
 namespace {
 
-// Whether the edits are a single new text, which may be a part of a typed run.
-bool isText(const PackageModel::Edits &edits) {
+// Whether the edits are a single new text or version, which may be a part of a typed run.
+bool isTyped(const PackageModel::Edits &edits) {
     return edits.size() == 1 && edits.front().action == PackageModel::Edit::Action::Set &&
-           edits.front().value && std::holds_alternative<QString>(*edits.front().value);
+           edits.front().value &&
+           (std::holds_alternative<QString>(*edits.front().value) ||
+            std::holds_alternative<SoftwareVersion>(*edits.front().value));
 }
 
 } // namespace
@@ -46,8 +48,8 @@ int PackageEditCommand::id() const {
 
 bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
     return mergeIf<PackageEditCommand>(incoming, [this](const PackageEditCommand &newer) {
-        if (m_isFinal || !model() || newer.model() != model() || !isText(m_edits) ||
-            !isText(newer.m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1 ||
+        if (m_isFinal || !model() || newer.model() != model() || !isTyped(m_edits) ||
+            !isTyped(newer.m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1 ||
             newer.m_edits.front().path != m_inverse.front().path)
             return false;
         m_edits.front().value = newer.m_edits.front().value;

@@ -7,10 +7,6 @@
 namespace Zel::PackageModel {
 namespace {
 
-QString sentence(const char *text) {
-    return QCoreApplication::translate("Zel::PackageModel", text);
-}
-
 Applied refused(const Edit &edit, const QString &reason) {
     return {{},
             QCoreApplication::translate("Zel::PackageModel", "%1: %2")
@@ -20,9 +16,9 @@ Applied refused(const Edit &edit, const QString &reason) {
 // Why a manifest cannot hold a text; empty if it can.
 QString refusalOfText(const QString &text) {
     if (!text.isValidUtf16())
-        return sentence(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                          "The text holds half of a surrogate pair, which a "
-                                          "manifest cannot hold."));
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel",
+                                         "The text holds half of a surrogate pair, which a "
+                                         "manifest cannot hold."));
     const auto isControl = [](QChar c) {
         return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c == QChar(0xFFFE) ||
                c == QChar(0xFFFF);
@@ -30,8 +26,8 @@ QString refusalOfText(const QString &text) {
     const auto found = std::find_if(text.begin(), text.end(), isControl);
     if (found == text.end())
         return {};
-    return sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The text holds the character U+%1, "
-                                                           "which a manifest cannot hold."))
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The text holds the character U+%1, "
+                                                          "which a manifest cannot hold."))
         .arg(QString::number(found->unicode(), 16).toUpper().rightJustified(4, u'0'));
 }
 
@@ -40,116 +36,141 @@ QString refusalOfValue(const FieldValue &value) {
     return text ? refusalOfText(*text) : QString();
 }
 
-FieldPath itemPath(const FieldTarget &target, int index) {
-    FieldPath path = target.listPath;
-    target.list->select(path, index);
-    return path;
-}
-
 QString notForThis() {
-    return sentence(
-        QT_TRANSLATE_NOOP("Zel::PackageModel", "The field does not allow this change."));
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The field does not allow this change."));
 }
 
-Applied setCell(const Edit &edit, const FieldCell &cell) {
-    if (edit.value->index() != std::size_t(cell.kind))
-        return refused(edit, sentence(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                                        "The value is of another type.")));
+QString setRefusal(const Edit &edit, const FieldTarget &target) {
+    if (!edit.value || (!target.cell && target.item < 0))
+        return notForThis();
+    if (const QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
+        return reason;
+    if (!target.cell)
+        return target.list->refusal(*edit.value, target.item);
+    if (edit.value->index() != std::size_t(target.cell->kind))
+        return misfit();
     const auto *text = std::get_if<QString>(&*edit.value);
-    if (const QString reason = cell.refusal && text ? cell.refusal(*text) : QString();
-        !reason.isEmpty())
-        return refused(edit, reason);
+    return text && target.cell->refusal ? target.cell->refusal(*text) : QString();
+}
+
+QString insertRefusal(const Edit &edit, const FieldTarget &target) {
+    if (!target.list || target.item >= 0 || !edit.value)
+        return notForThis();
+    const QString reason = refusalOfValue(*edit.value);
+    return reason.isEmpty() ? target.list->refusal(*edit.value, -1) : reason;
+}
+
+QString removeRefusal(const FieldTarget &target) {
+    if (target.cell && target.cell->remove)
+        return target.cell->value
+                   ? QString()
+                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none."));
+    return target.item < 0 ? notForThis() : QString();
+}
+
+QString moveRefusal(const Edit &edit, const FieldTarget &target) {
+    if (target.item < 0)
+        return notForThis();
+    return edit.index >= 0 && edit.index < target.list->size()
+               ? QString()
+               : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The list has no such index."));
+}
+
+// Why an edit of what its path leads to changes nothing; empty if it can be applied.
+QString refusalOf(PackageInfoModel &package, const Edit &edit, const FieldTarget &target) {
+    if (!target.cell && !target.list)
+        return reasonOf(package, edit.path);
+    switch (edit.action) {
+    case Edit::Action::Set:
+        return setRefusal(edit, target);
+    case Edit::Action::Insert:
+        return insertRefusal(edit, target);
+    case Edit::Action::Remove:
+        return removeRefusal(target);
+    case Edit::Action::Move:
+        return moveRefusal(edit, target);
+    }
+    return notForThis();
+}
+
+// The following apply an edit that is not refused, and return the edits that undo it.
+
+Edits setCell(const Edit &edit, const FieldCell &cell) {
     Edit inverse{Edit::Action::Remove, edit.path};
     if (cell.inverse)
-        inverse = cell.inverse(*text);
+        inverse = cell.inverse(std::get<QString>(*edit.value));
     else if (cell.value)
         inverse = {Edit::Action::Set, edit.path, cell.value};
     cell.set(*edit.value);
-    return {{inverse}, {}};
+    return {inverse};
 }
 
-Applied set(const Edit &edit, const FieldTarget &target) {
-    if (!edit.value)
-        return refused(edit, notForThis());
-    if (const QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
-        return refused(edit, reason);
-    if (target.cell)
-        return setCell(edit, *target.cell);
-    if (target.item < 0)
-        return refused(edit, notForThis());
-    if (const QString reason = target.list->refusal(*edit.value, target.item); !reason.isEmpty())
-        return refused(edit, reason);
+Edits setItem(const Edit &edit, const FieldTarget &target) {
     const FieldValue old = target.list->at(target.item);
     target.list->replace(target.item, *edit.value);
     if (target.item >= target.list->size())
         return {}; // an observer has removed it
-    return {{{Edit::Action::Set, itemPath(target, target.item), old}}, {}};
+    return {{Edit::Action::Set, itemPath(target, target.item), old}};
 }
 
-Applied insert(const Edit &edit, const FieldTarget &target) {
-    if (!target.list || target.item >= 0 || !edit.value)
-        return refused(edit, notForThis());
-    QString reason = refusalOfValue(*edit.value);
-    if (reason.isEmpty())
-        reason = target.list->refusal(*edit.value, -1);
-    if (!reason.isEmpty())
-        return refused(edit, reason);
+Edits insert(const Edit &edit, const FieldTarget &target) {
     const int index = std::clamp(edit.index, 0, target.list->size());
     const Edits gained = target.list->gainedWith(*edit.value);
     target.list->insert(index, *edit.value);
     if (index >= target.list->size())
-        return {gained, {}}; // an observer has removed it
-    return {Edits{{Edit::Action::Remove, itemPath(target, index)}} + gained, {}};
+        return gained; // an observer has removed it
+    return Edits{{Edit::Action::Remove, itemPath(target, index)}} + gained;
 }
 
-Applied remove(const Edit &edit, const FieldTarget &target) {
-    if (target.cell && target.cell->remove && target.cell->value) {
+Edits remove(const Edit &edit, const FieldTarget &target) {
+    if (target.cell) {
         const FieldValue old = *target.cell->value;
         target.cell->remove();
-        return {{{Edit::Action::Set, edit.path, old}}, {}};
+        return {{Edit::Action::Set, edit.path, old}};
     }
-    if (target.cell && target.cell->remove)
-        return refused(edit, sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none.")));
-    if (target.item < 0)
-        return refused(edit, notForThis());
     Edits inverse{
         {Edit::Action::Insert, target.listPath, target.list->at(target.item), target.item}};
     inverse += target.list->lostWith(target.item);
     target.list->removeAt(target.item);
-    return {inverse, {}};
+    return inverse;
 }
 
-Applied move(const Edit &edit, const FieldTarget &target) {
-    if (target.item < 0)
-        return refused(edit, notForThis());
-    const int to = edit.index;
-    if (to < 0 || to >= target.list->size())
-        return refused(
-            edit, sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The list has no such index.")));
-    target.list->move(target.item, to);
-    if (to >= target.list->size())
+Edits move(const Edit &edit, const FieldTarget &target) {
+    target.list->move(target.item, edit.index);
+    if (edit.index >= target.list->size())
         return {};
-    return {{{Edit::Action::Move, itemPath(target, to), {}, target.item}}, {}};
+    return {{Edit::Action::Move, itemPath(target, edit.index), {}, target.item}};
 }
 
 Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     const FieldTarget target = targetOf(package, edit.path);
-    if (!target.cell && !target.list)
-        return refused(edit, reasonOf(package, edit.path));
+    if (const QString reason = refusalOf(package, edit, target); !reason.isEmpty())
+        return refused(edit, reason);
     switch (edit.action) {
     case Edit::Action::Set:
-        return set(edit, target);
+        return {target.cell ? setCell(edit, *target.cell) : setItem(edit, target), {}};
     case Edit::Action::Insert:
-        return insert(edit, target);
+        return {insert(edit, target), {}};
     case Edit::Action::Remove:
-        return remove(edit, target);
+        return {remove(edit, target), {}};
     case Edit::Action::Move:
-        return move(edit, target);
+        return {move(edit, target), {}};
     }
-    return refused(edit, notForThis());
+    return {};
+}
+
+QString noPackage() {
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
 }
 
 } // namespace
+
+QString refusal(const PackageInfoModel *package, const Edit &edit) {
+    if (!package)
+        return noPackage();
+    auto &target = const_cast<PackageInfoModel &>(*package); // it is only looked at
+    return refusalOf(target, edit, targetOf(target, edit.path));
+}
 
 Applied apply(PackageInfoModel *package, const Edit &edit) {
     return apply(package, Edits{edit});
@@ -164,8 +185,7 @@ Applied apply(PackageInfoModel *package, const Edits &edits) {
         if (living)
             applied = applyOne(*living, edit);
         else
-            applied.error = sentence(
-                QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
+            applied.error = noPackage();
         error = applied.error;
         if (!error.isEmpty())
             break;

@@ -16,6 +16,12 @@ FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path) {
     return path.isEmpty() ? FieldTarget() : followIn(packageFields(), package, {path, 0});
 }
 
+Tano::FieldPath itemPath(const FieldTarget &list, int index) {
+    Tano::FieldPath path = list.listPath;
+    list.list->select(path, index);
+    return path;
+}
+
 QVector<Field> fields(const PackageInfoModel *package) {
     QVector<Field> all;
     if (package)
@@ -63,6 +69,21 @@ std::optional<FieldForm> formOf(const Tano::FieldPath &path, QString *error) {
     if (error)
         *error = reason;
     return form;
+}
+
+Tano::FieldPath itemPath(const PackageInfoModel *package, const Tano::FieldPath &list, int index) {
+    if (!package)
+        return {};
+    const FieldTarget target = targetOf(unconst(*package), list);
+    const bool isItem = target.list && target.item < 0 && index >= 0 && index < target.list->size();
+    return isItem ? itemPath(target, index) : Tano::FieldPath();
+}
+
+QString label(const Tano::FieldPath &path) {
+    const QString words = path.isEmpty() ? QString()
+                                         : describeIn(packageFields(), {path, 0},
+                                                      [](const QString &label) { return label; });
+    return words.isEmpty() ? fromUtf8(path.toString()) : words;
 }
 
 QString printed(const FieldValue &value) {

@@ -17,14 +17,35 @@ enum class RuleId {
     NameMissingDefault,
     NameMissing,
     DescriptionMissing,
-    TriggerSentencesMissing,
+    TriggerSentencesMissing, // the last one of the messages
+    ScriptMalformed,
+    BehaviorPathDuplicate,
+    TopicNameDuplicate,
+    ServiceNameDuplicate,
+    PermissionDuplicate,
+    KeyEmpty,
+    NatureUnknown,
+    LanguageUnknown,
+    RobotUnknown,
+    VersionInvalid,
+    DateInvalid,
+    TextUnlisted,
+    TextBlank,
+    TopicFileMissing,
+    IconInvalid,
+    SupportedLanguageMissing,
 };
+
+/// Whether a rule is one of those that messages and live flags are made from.
+constexpr bool hasMessage(RuleId rule) {
+    return rule <= RuleId::TriggerSentencesMissing;
+}
 
 /// A row of the table, in the source language.
 struct RuleRow {
     const char *id;
     Severity severity;
-    const char *message; // translated in the context "QObject"
+    const char *message; // translated in the context "QObject" if hasMessage()
     const char *explanation;
     const char *remedy;
 };

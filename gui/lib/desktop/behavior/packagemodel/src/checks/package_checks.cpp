@@ -4,23 +4,23 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QStringBuilder>
 
 #include <algorithm>
 
 namespace Zel::PackageModel {
 namespace {
 
+using Tano::FieldPath;
+
 const QRegularExpression k_packageUIDRegexp(
     QRegularExpression::anchoredPattern(QStringLiteral("(?=.*[a-z\\-_])[_\\-a-z0-9]{1,50}")));
 
-QString indexed(const char *list, int index, const char *field) {
-    return QStringLiteral("%1[%2].%3")
-        .arg(QLatin1String(list), QString::number(index), QLatin1String(field));
+FieldPath fieldNamed(const char *name) {
+    return FieldPath().field(name);
 }
 
-QString selected(const QString &list, const QString &selector) {
-    return list + QLatin1Char('[') + selector + QLatin1Char(']');
+FieldPath indexed(const char *list, int index, const char *field) {
+    return fieldNamed(list).index(index).field(field);
 }
 
 bool isSet(const SoftwareVersion &version) {
@@ -36,14 +36,14 @@ bool isReversed(const SoftwareVersion &min, const SoftwareVersion &max) {
 void checkUid(const PackageInfoModel &package, Findings &findings) {
     const QString uid = package.uid();
     if (uid.isEmpty() || !k_packageUIDRegexp.match(uid).hasMatch())
-        findings.push_back({RuleId::UidInvalid, QStringLiteral("uid"), {}, {}});
+        findings.push_back({RuleId::UidInvalid, fieldNamed("uid"), {}, {}});
 }
 
 void checkRobotRequirements(const PackageInfoModel &package, Findings &findings) {
     const QVector<RobotRequirement> requirements = package.robotRequirements();
     if (requirements.isEmpty()) {
         findings.push_back(
-            {RuleId::RobotRequirementsMissing, QStringLiteral("robotRequirements"), {}, {}});
+            {RuleId::RobotRequirementsMissing, fieldNamed("robotRequirements"), {}, {}});
         return;
     }
     for (int i = 0; i < requirements.size(); ++i) {
@@ -64,7 +64,7 @@ void checkBrioRequirements(const PackageInfoModel &package, Findings &findings) 
     const QVector<BrioRequirement> requirements = package.brioRequirements();
     if (requirements.isEmpty()) {
         findings.push_back(
-            {RuleId::BrioRequirementMissing, QStringLiteral("brioRequirements"), {}, {}});
+            {RuleId::BrioRequirementMissing, fieldNamed("brioRequirements"), {}, {}});
         return;
     }
     for (int i = 0; i < requirements.size(); ++i) {
@@ -91,7 +91,7 @@ void checkNames(const PackageInfoModel &package, Findings &findings) {
             continue;
         const bool isDefault = language == defaultLanguage;
         findings.push_back({isDefault ? RuleId::NameMissingDefault : RuleId::NameMissing,
-                            QStringLiteral("names"),
+                            fieldNamed("names"),
                             {},
                             language});
     }
@@ -105,12 +105,12 @@ void checkDescriptions(const PackageInfoModel &package, Findings &findings) {
     for (const RobotLanguage &language : package.supportedLanguages()) {
         if (!package.hasDescriptionFor(language))
             findings.push_back(
-                {RuleId::DescriptionMissing, QStringLiteral("descriptions"), {}, language});
+                {RuleId::DescriptionMissing, fieldNamed("descriptions"), {}, language});
     }
 }
 
 void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoModel &behavior,
-                           Findings &findings) {
+                           int occurrence, Findings &findings) {
     const auto &all = behavior.languagesToTriggerSentences();
     const bool isTriggered = std::any_of(all.begin(), all.end(), [](const auto &sentences) {
         return std::any_of(sentences.first.begin(), sentences.first.end(),
@@ -125,8 +125,8 @@ void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoMo
             present.insert(language.isoCode());
     }
     const QString path = behavior.path();
-    const QString field =
-        selected(QStringLiteral("behaviors"), path) % QLatin1String(".triggerSentences");
+    const FieldPath field =
+        fieldNamed("behaviors").entry(toUtf8(path), occurrence).field("triggerSentences");
     const QStringList arguments{path};
     for (const RobotLanguage &language : package.supportedLanguages()) {
         if (!present.contains(language.isoCode()))
@@ -135,12 +135,13 @@ void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoMo
 }
 
 bool speaksOfLanguages(RuleId rule) {
-    return rule >= RuleId::NameMissingDefault;
+    return rule >= RuleId::NameMissingDefault && hasMessage(rule);
 }
 
-QString pathOf(const Finding &finding) {
-    return speaksOfLanguages(finding.rule) ? selected(finding.field, finding.language.isoCode())
-                                           : finding.field;
+FieldPath pathOf(const Finding &finding) {
+    return speaksOfLanguages(finding.rule)
+               ? FieldPath(finding.field).key(toUtf8(finding.language.isoCode()))
+               : finding.field;
 }
 
 RobotLanguages languagesOf(const Findings &findings, RuleId rule) {
@@ -154,8 +155,14 @@ RobotLanguages languagesOf(const Findings &findings, RuleId rule) {
 
 QString message(const Finding &finding, const RobotLanguages &languages) {
     QString text = ruleMessage(finding.rule);
-    for (const QString &argument : finding.arguments)
-        text = text.arg(argument);
+    // Of further rules, no value is taken for a placeholder.
+    const QStringList &values = finding.arguments;
+    if (!hasMessage(finding.rule) && values.size() == 3)
+        return text.arg(values.at(0), values.at(1), values.at(2));
+    if (!hasMessage(finding.rule) && values.size() == 2)
+        return text.arg(values.at(0), values.at(1));
+    for (const QString &value : values)
+        text = text.arg(value);
     return speaksOfLanguages(finding.rule) ? text.arg(languagesUiNamesList(languages)) : text;
 }
 

@@ -2,11 +2,13 @@
 
 #include "package_rules.h"
 
+#include <tano/field_path.h>
 #include <zel/robot_language.h>
 
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <vector>
 
 namespace Zel {
@@ -20,7 +22,7 @@ namespace PackageModel {
 /// language make one message; they share their texts.
 struct Finding {
     RuleId rule;
-    QString field; // for a rule about languages, the field that holds one entry per language
+    Tano::FieldPath field; // for a rule about languages, the one with an entry per language
     QStringList arguments; // of the message, except for the language
     RobotLanguage language;
 };
@@ -33,14 +35,20 @@ void checkRobotRequirements(const PackageInfoModel &package, Findings &findings)
 void checkBrioRequirements(const PackageInfoModel &package, Findings &findings);
 void checkNames(const PackageInfoModel &package, Findings &findings);
 void checkDescriptions(const PackageInfoModel &package, Findings &findings);
+/// Those of the package itself, in the order of their messages.
+using Check = void (*)(const PackageInfoModel &package, Findings &findings);
+constexpr std::array<Check, 5> applicationChecks{
+    checkUid, checkRobotRequirements, checkBrioRequirements, checkNames, checkDescriptions};
+
+/// `occurrence` tells behaviors with the same path apart.
 void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoModel &behavior,
-                           Findings &findings);
+                           int occurrence, Findings &findings);
 
 /// Whether the last placeholder of the rule's message is for languages.
 bool speaksOfLanguages(RuleId rule);
 
 /// The path of the field at fault, for example "names[fr_FR]".
-QString pathOf(const Finding &finding);
+Tano::FieldPath pathOf(const Finding &finding);
 
 /// The languages of the findings of one rule.
 RobotLanguages languagesOf(const Findings &findings, RuleId rule);

@@ -65,10 +65,74 @@ const std::array table{
      QT_TRANSLATE_NOOP("QObject", "Behavior '%1' has no trigger sentence defined for: %2"),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "A behavior that can be started by a sentence in one language can be started so in every language that the package supports; otherwise it is out of reach for some users."),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "Write at least one trigger sentence in the language, or remove those in all languages.")},
+    RuleRow{"script-malformed", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Malformed speech script (line %1, column %2): %3"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A text with markup is a speech script. Of a malformed one no plain text can be made, so that publishing leaves the markup in it and users read the tags."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the markup, or write &lt; for a < that is no tag.")},
+    RuleRow{"behavior-path-duplicate", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Another behavior has the path '%1', too."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A behavior is started by its path; of several with the same path, only the first is found."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Give each behavior a path of its own, or remove one of them.")},
+    RuleRow{"topic-name-duplicate", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Another dialog has the topic name '%1', too."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A dialog is found by its topic name; of several with the same name, only the first is found."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Give each dialog a topic name of its own, or remove one of them.")},
+    RuleRow{"service-name-duplicate", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Another service has the name '%1', too."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A service is found by its name; of several with the same name, only the first is found."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Give each service a name of its own, or remove one of them.")},
+    RuleRow{"permission-duplicate", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The permission '%1' is listed twice."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A permission that is listed again grants nothing more."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Remove the second one.")},
+    RuleRow{"key-empty", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "%1: It is empty."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Behaviors, dialogs, services, permissions and properties are found by their names; one without a name cannot be used."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Write a name, or remove the entry.")},
+    RuleRow{"nature-unknown", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no nature '%1'%2"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The nature says how a behavior shares the robot with others: 'interactive' or 'solitary', or nothing."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Choose one of the two, or clear the nature.")},
+    RuleRow{"language-unknown", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no language '%1' among those that are known%2"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The code is none of those that 'zel-package languages' lists, so that its users will not be found."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the code, which is that of a language and a country, as in fr_FR.")},
+    RuleRow{"robot-unknown", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no robot '%1' among those that are known%2"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The model is none of those that 'zel-package robots' lists, so that no robot may meet the requirement."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the model, or install the description of the robot.")},
+    RuleRow{"version-invalid", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "'%1' is not a version."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A version has decimal fields with dots between them. One of another form counts as none."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Write a version such as 2.1.")},
+    RuleRow{"date-invalid", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "'%1' is not a date."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Dates are written as ISO 8601 has them, the year first, so that all programs read them alike."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Write a date such as 2026-09-14.")},
+    RuleRow{"text-unlisted", Severity::Note,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is a text in %1, which the package does not list."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The package neither supports nor is described in the language, so that the text is not used, and publishing drops it."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Add the language to the package, or remove the text.")},
+    RuleRow{"text-blank", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is only white space in the text."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Users would see an empty name, and the robot would say or wait for nothing."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Write a text, or remove it.")},
+    RuleRow{"topic-file-missing", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no topic file '%1' beside the manifest."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A dialog speaks a language by the topic file that it names. The path is relative to the manifest's folder."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the path, add the file, or remove the topic.")},
+    RuleRow{"icon-invalid", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The file icon.png beside the manifest is not a PNG image."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The icon of a package is the PNG image icon.png beside its manifest. Without one, users see the default icon."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Save the icon as PNG.")},
+    RuleRow{"supported-language-missing", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "No supported language is defined."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A package is offered to the users of the languages that it supports, so that this one is offered to none."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Add the languages that the package speaks.")},
 };
 // clang-format on
 
-static_assert(table.size() == std::size_t(RuleId::TriggerSentencesMissing) + 1);
+static_assert(table.size() == std::size_t(RuleId::SupportedLanguageMissing) + 1);
 
 } // namespace
 
@@ -77,14 +141,15 @@ const RuleRow &ruleRow(RuleId rule) {
 }
 
 QString ruleMessage(RuleId rule) {
-    return QCoreApplication::translate("QObject", ruleRow(rule).message);
+    return QCoreApplication::translate(hasMessage(rule) ? "QObject" : explanationContext,
+                                       ruleRow(rule).message);
 }
 
 QVector<Rule> rules() {
     QVector<Rule> rules;
-    for (const RuleRow &row : table) {
-        rules.append({QLatin1String(row.id), row.severity,
-                      QCoreApplication::translate("QObject", row.message),
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const RuleRow &row = table[i];
+        rules.append({QLatin1String(row.id), row.severity, ruleMessage(static_cast<RuleId>(i)),
                       QCoreApplication::translate(explanationContext, row.explanation),
                       QCoreApplication::translate(explanationContext, row.remedy)});
     }

@@ -1,0 +1,340 @@
+#include "further_checks.h"
+
+#include <packagemodel/near_words.h>
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_scripts.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace Zel::PackageModel {
+namespace {
+
+using Tano::FieldPath;
+
+FieldPath fieldNamed(const char *name) {
+    return FieldPath().field(name);
+}
+
+bool isScriptVariant(const QString &code) {
+    return code.endsWith(k_sa.text());
+}
+
+// The end of a message about an unknown word: the nearest known one, if any is near.
+QString nearest(const QString &word, const QStringList &known) {
+    const QString near = nearestWord(word, known);
+    return near.isEmpty()
+               ? QStringLiteral(".")
+               : QCoreApplication::translate("Zel::PackageModel", "; did you mean '%1'?").arg(near);
+}
+
+void checkScripts(const CheckedPackage &checked, Findings &findings) {
+    static const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("Line ([0-9]+), column ([0-9]+): (.*)")),
+        QRegularExpression::DotMatchesEverythingOption);
+    for (const ScriptError &error : scriptErrors(&checked.package)) {
+        const auto match = form.match(error.text);
+        findings.push_back({RuleId::ScriptMalformed,
+                            *FieldPath::parse(toUtf8(error.path)),
+                            match.capturedTexts().mid(1),
+                            {}});
+    }
+}
+
+// Entries are found by their keys, so each has one, and no other has the same.
+class KeyCheck {
+public:
+    KeyCheck(const char *list, const char *keyField, RuleId duplicate, Findings &findings)
+        : m_list(list)
+        , m_keyField(keyField)
+        , m_duplicate(duplicate)
+        , m_findings(findings) {}
+
+    void add(const QString &key) {
+        const FieldPath path =
+            fieldNamed(m_list).entry(toUtf8(key), m_counts[key]).field(m_keyField);
+        if (key.isEmpty())
+            m_findings.push_back({RuleId::KeyEmpty, path, {labelOf(path)}, {}});
+        else if (m_counts[key] > 0)
+            m_findings.push_back({m_duplicate, path, {key}, {}});
+        ++m_counts[key];
+    }
+
+    static QString labelOf(const FieldPath &path) {
+        const auto form = formOf(path);
+        return form ? form->label : QString();
+    }
+
+private:
+    const char *m_list;
+    const char *m_keyField;
+    RuleId m_duplicate;
+    Findings &m_findings;
+    QHash<QString, int> m_counts;
+};
+
+void checkKeys(const CheckedPackage &checked, Findings &findings) {
+    KeyCheck paths("behaviors", "path", RuleId::BehaviorPathDuplicate, findings);
+    for (const BehaviorPlace &place : checked.behaviors)
+        paths.add(place.behavior->path());
+    KeyCheck topics("dialogs", "topicName", RuleId::TopicNameDuplicate, findings);
+    for (const DialogInfoModel *dialog : checked.package.dialogs())
+        topics.add(dialog->topicName());
+    KeyCheck names("services", "name", RuleId::ServiceNameDuplicate, findings);
+    QHash<QString, int> counts;
+    for (const ServiceInfoModel *service : checked.package.services()) {
+        names.add(service->name());
+        const FieldPath property = fieldNamed("services")
+                                       .entry(toUtf8(service->name()), counts[service->name()]++)
+                                       .field("properties")
+                                       .key({});
+        if (service->properties().contains(QString()))
+            findings.push_back({RuleId::KeyEmpty, property, {KeyCheck::labelOf(property)}, {}});
+    }
+}
+
+void checkPermissions(const CheckedPackage &checked, Findings &findings) {
+    for (const BehaviorPlace &place : checked.behaviors) {
+        const QStringList permissions = place.behavior->permissionList();
+        for (int i = 0; i < permissions.size(); ++i) {
+            const auto path = [&] { return place.path().field("permissions").index(i); };
+            if (permissions.at(i).isEmpty())
+                findings.push_back({RuleId::KeyEmpty, path(), {KeyCheck::labelOf(path())}, {}});
+            else if (permissions.indexOf(permissions.at(i)) < i)
+                findings.push_back({RuleId::PermissionDuplicate, path(), {permissions.at(i)}, {}});
+        }
+    }
+}
+
+void checkNatures(const CheckedPackage &checked, Findings &findings) {
+    const QStringList known{BehaviorInfoModel::natureInteractive(),
+                            BehaviorInfoModel::natureSolitary()};
+    for (const BehaviorPlace &place : checked.behaviors) {
+        const QString nature = place.behavior->nature();
+        if (!nature.isEmpty() && !known.contains(nature))
+            findings.push_back({RuleId::NatureUnknown,
+                                place.path().field("nature"),
+                                {nature, nearest(nature, known)},
+                                {}});
+    }
+}
+
+void checkLanguageCodes(const CheckedPackage &checked, Findings &findings) {
+    QStringList known;
+    for (const RobotLanguage &language : Language::builtInLanguages())
+        known += language.isoCode();
+    const auto check = [&](const RobotLanguages &languages, const char *list) {
+        for (const RobotLanguage &language : languages) {
+            const QString code = language.isoCode();
+            if (!known.contains(code) && !isScriptVariant(code))
+                findings.push_back({RuleId::LanguageUnknown,
+                                    fieldNamed(list).key(toUtf8(code)),
+                                    {code, nearest(QString(code).replace(u'-', u'_'), known)},
+                                    {}});
+        }
+    };
+    check(checked.package.supportedLanguages(), "supportedLanguages");
+    RobotLanguages others;
+    for (const RobotLanguage &language : checked.package.descriptionLanguages()) {
+        if (!checked.package.hasLanguageSupport(language))
+            others.push_back(language);
+    }
+    check(others, "descriptionLanguages");
+}
+
+void checkRobots(const CheckedPackage &checked, Findings &findings) {
+    const QStringList known = RobotRequirement::prettyRobotNames().keys();
+    const auto requirements = checked.package.robotRequirements();
+    for (int i = 0; known.size() > 1 && i < requirements.size(); ++i) {
+        const QString model = requirements.at(i).model;
+        if (!known.contains(model) && !model.isEmpty())
+            findings.push_back({RuleId::RobotUnknown,
+                                fieldNamed("robotRequirements").index(i).field("model"),
+                                {model, nearest(model, known)},
+                                {}});
+    }
+}
+
+// The records have versions as they were written; a model takes those of another form for none.
+void checkVersions(const CheckedPackage &checked, Findings &findings) {
+    const auto check = [&](const std::string &text, const FieldPath &path) {
+        bool isVersion = false;
+        SoftwareVersionUtils::fromString(fromUtf8(text), &isVersion);
+        if (!isVersion)
+            findings.push_back({RuleId::VersionInvalid, path, {fromUtf8(text)}, {}});
+    };
+    const Tano::PackageInfo &record = checked.package.packageInfo();
+    check((checked.options.written ? *checked.options.written : record).version(),
+          fieldNamed("version"));
+    const auto checkBounds = [&](const char *list, int index, auto... bounds) {
+        const auto checkBound = [&](const auto &bound) {
+            if (!bound.first.empty())
+                check(bound.first, fieldNamed(list).index(index).field(bound.second));
+        };
+        (checkBound(bounds), ...);
+    };
+    int index = 0;
+    for (const Tano::RobotRequirement &robot : record.robotRequirements()) {
+        checkBounds("robotRequirements", index++, std::pair(robot.minHeadVersion, "minHeadVersion"),
+                    std::pair(robot.maxHeadVersion, "maxHeadVersion"),
+                    std::pair(robot.minBodyVersion, "minBodyVersion"),
+                    std::pair(robot.maxBodyVersion, "maxBodyVersion"));
+    }
+    index = 0;
+    for (const Tano::BrioRequirement &brio : record.brioRequirements()) {
+        checkBounds("brioRequirements", index++, std::pair(brio.minVersion, "minVersion"),
+                    std::pair(brio.maxVersion, "maxVersion"));
+    }
+}
+
+void checkDate(const CheckedPackage &checked, Findings &findings) {
+    const QString date = checked.package.date();
+    const bool isDate = QDate::fromString(date, Qt::ISODate).isValid() ||
+                        QDateTime::fromString(date, Qt::ISODate).isValid();
+    if (!date.isEmpty() && !isDate)
+        findings.push_back({RuleId::DateInvalid, fieldNamed("date"), {date}, {}});
+}
+
+bool isBlank(const QString &text) {
+    return !text.isEmpty() && text.trimmed().isEmpty();
+}
+
+// Checks the texts of one owner, whose path is made when something is found.
+template<typename Path>
+class TextCheck {
+public:
+    TextCheck(const CheckedPackage &checked, Path path, Findings &findings)
+        : m_checked(checked)
+        , m_path(path)
+        , m_findings(findings) {}
+
+    void add(const char *field, const Language::LocalizedStrings &texts) {
+        for (const auto &[text, language] : texts) {
+            if (isBlank(text))
+                m_findings.push_back({RuleId::TextBlank, path(field, language), {}, {}});
+            if (!text.isEmpty())
+                checkLanguage(field, language);
+        }
+    }
+
+    void add(const char *field, const Language::LocalizedStringLists &lists) {
+        for (const auto &[texts, language] : lists) {
+            for (int i = 0; i < texts.size(); ++i) {
+                if (isBlank(texts.at(i)))
+                    m_findings.push_back(
+                        {RuleId::TextBlank, path(field, language).index(i), {}, {}});
+            }
+            if (!texts.isEmpty())
+                checkLanguage(field, language);
+        }
+    }
+
+private:
+    FieldPath path(const char *field, const RobotLanguage &language) const {
+        return m_path().field(field).key(toUtf8(language.isoCode()));
+    }
+
+    // The script of a published text belongs to the text.
+    void checkLanguage(const char *field, const RobotLanguage &language) {
+        const QString code = language.isoCode();
+        const QString spoken =
+            isScriptVariant(code) ? code.left(code.size() - k_sa.text().size()) : code;
+        if (!m_checked.languages.contains(spoken))
+            m_findings.push_back(
+                {RuleId::TextUnlisted, path(field, language), {language.uiName()}, {}});
+    }
+
+    const CheckedPackage &m_checked;
+    Path m_path;
+    Findings &m_findings;
+};
+
+void checkTexts(const CheckedPackage &checked, Findings &findings) {
+    TextCheck own(
+        checked, [] { return FieldPath(); }, findings);
+    own.add("names", checked.package.names());
+    own.add("descriptions", checked.package.descriptions());
+    for (const BehaviorPlace &place : checked.behaviors) {
+        const BehaviorInfoModel &behavior = *place.behavior;
+        TextCheck texts(
+            checked, [&] { return place.path(); }, findings);
+        texts.add("names", behavior.names());
+        texts.add("descriptions", behavior.descriptions());
+        texts.add("tags", behavior.languagesToTags());
+        texts.add("triggerSentences", behavior.languagesToTriggerSentences());
+        texts.add("loadingResponses", behavior.languagesToLoadingResponses());
+    }
+}
+
+void checkTopicFiles(const CheckedPackage &checked, Findings &findings) {
+    if (checked.options.folder.isEmpty())
+        return;
+    const QDir folder(checked.options.folder);
+    QHash<QString, int> counts;
+    for (const DialogInfoModel *dialog : checked.package.dialogs()) {
+        const FieldPath path =
+            fieldNamed("dialogs").entry(toUtf8(dialog->topicName()), counts[dialog->topicName()]++);
+        for (const auto &[file, language] : dialog->topics()) {
+            if (!file.isEmpty() && !QFileInfo(folder, file).isFile())
+                findings.push_back({RuleId::TopicFileMissing,
+                                    FieldPath(path).field("topics").key(toUtf8(language.isoCode())),
+                                    {file},
+                                    {}});
+        }
+    }
+}
+
+// The signature of PNG (ISO/IEC 15948), and its first chunk, which is "IHDR".
+void checkIcon(const CheckedPackage &checked, Findings &findings) {
+    if (checked.options.folder.isEmpty())
+        return;
+    const QFileInfo info(QDir(checked.options.folder), QStringLiteral("icon.png"));
+    if (!info.exists())
+        return;
+    QFile file(info.filePath());
+    const bool isOpen = info.isFile() && file.open(QIODevice::ReadOnly);
+    const QByteArray start = isOpen ? file.read(16) : QByteArray();
+    if (!start.startsWith("\x89PNG\r\n\x1a\n") || start.mid(12) != "IHDR")
+        findings.push_back({RuleId::IconInvalid, {}, {}, {}});
+}
+
+void checkSupport(const CheckedPackage &checked, Findings &findings) {
+    if (checked.package.supportedLanguages().empty())
+        findings.push_back(
+            {RuleId::SupportedLanguageMissing, fieldNamed("supportedLanguages"), {}, {}});
+}
+
+} // namespace
+
+FieldPath BehaviorPlace::path() const {
+    return fieldNamed("behaviors").entry(toUtf8(behavior->path()), occurrence);
+}
+
+CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith)
+    : package(checked)
+    , options(checkedWith) {
+    QHash<QString, int> counts;
+    for (const BehaviorInfoModel *behavior : checked.behaviors())
+        behaviors.push_back({behavior, counts[behavior->path()]++});
+    for (const RobotLanguages &list :
+         {checked.supportedLanguages(), checked.descriptionLanguages()}) {
+        for (const RobotLanguage &language : list)
+            languages.insert(language.isoCode());
+    }
+}
+
+const std::vector<FurtherCheck> &furtherChecks() {
+    static const std::vector<FurtherCheck> checks{
+        checkScripts,       checkKeys,       checkPermissions, checkNatures,
+        checkLanguageCodes, checkRobots,     checkVersions,    checkDate,
+        checkTexts,         checkTopicFiles, checkIcon,        checkSupport};
+    return checks;
+}
+
+} // namespace Zel::PackageModel

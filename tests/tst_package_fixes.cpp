@@ -1,0 +1,74 @@
+#include "golden.h"
+#include "text.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_issues.h>
+#include <packagemodel/package_json.h>
+
+#include <QDir>
+
+using namespace Zel;
+using namespace Zel::PackageModel;
+
+namespace {
+
+// "uid [uid-invalid]: Application UID is not defined correctly.", then a line for each fix.
+QByteArray listing(const QVector<Issue> &issues) {
+    QString lines;
+    for (const Issue &issue : issues) {
+        lines += issue.path % text(" [") % issue.id % text("]: ") % issue.plainText() % u'\n';
+        for (const Fix &fix : issue.fixes)
+            lines += text(fix.isSafe ? "  safe: " : "  else: ") % fix.title % u'\n';
+    }
+    return lines.toUtf8();
+}
+
+} // namespace
+
+class TestPackageFixes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void manifests_data() {
+        QTest::addColumn<QString>("file");
+        const QDir own(text(ZEL_TEST_DATA "/fixes"));
+        for (const QString &name : own.entryList({text("*.xml")}))
+            QTest::newRow(qPrintable(name)) << own.filePath(name);
+        const QDir samples(text(ZEL_SOURCE_DIR "/examples/packages"));
+        for (const char *name : {"faulty", "unfinished", "small"})
+            QTest::newRow(name) << samples.filePath(text(name) % text("/manifest.xml"));
+    }
+
+    // What is found, how it can be fixed, and the manifest after the safe fixes and after all.
+    void manifests() {
+        QFETCH(QString, file);
+        const IssueOptions options{QFileInfo(file).path()};
+        QByteArray result;
+        for (const FixChoice choice : {FixChoice::Safe, FixChoice::All}) {
+            QFile manifest(file);
+            PackageInfoModel package;
+            QVERIFY(package.loadFromManifestFile(manifest));
+            const QByteArray before = package.saveToManifestContent();
+            if (choice == FixChoice::Safe)
+                result += listing(issues(&package, options));
+            const Edits made = fixIssues(&package, choice, options);
+            const QByteArray after = package.saveToManifestContent();
+            QCOMPARE(QString::fromUtf8(toJson(fixIssues(&package, choice, options))),
+                     QString::fromUtf8(toJson(Edits())));
+            result += "\nafter " + QByteArray(choice == FixChoice::Safe ? "safe" : "all") +
+                      " fixes:\n" + (after == before ? "" : after) +
+                      listing(issues(&package, options));
+
+            PackageInfoModel other;
+            QVERIFY(other.loadFromManifestContent(before));
+            QCOMPARE(apply(&other, made).error, QString());
+            QCOMPARE(other.saveToManifestContent(), after);
+        }
+        COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/") % QFileInfo(file).dir().dirName() % u'-' %
+                                QFileInfo(file).baseName() % text(".txt"),
+                            result);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPackageFixes)
+#include "tst_package_fixes.moc"
