@@ -22,7 +22,7 @@ int sequenceLength(uchar lead) {
 
 // The letter in front keeps a byte order mark.
 QString decoded(const QByteArray &bytes) {
-    return QString::fromUtf8('x' + bytes).mid(1);
+    return QString::fromUtf8(QByteArray('x' + bytes)).mid(1);
 }
 
 } // namespace
