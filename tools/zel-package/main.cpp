@@ -1,3 +1,4 @@
+#include "arguments/native_text.h"
 #include "console/text_layout.h"
 #include "program_command.h"
 
@@ -62,8 +63,13 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
-    // A closed pipe shall be a failed write.
-    std::signal(SIGPIPE, SIG_IGN);
+    // Whoever reads the output may close it. The parent may have had this signal ignored.
+    std::signal(SIGPIPE, SIG_DFL);
+
+    // Qt would replace what is not UTF-8.
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += ZelPackage::nativeText(argv[i]);
 
     auto locale = std::make_optional<Utf8Locale>();
     const QCoreApplication application(argc, argv);
@@ -76,7 +82,6 @@ int main(int argc, char **argv) {
         Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 
     ZelPackage::Console console;
-    const ZelPackage::ExitStatus status =
-        ZelPackage::runProgram(QCoreApplication::arguments().mid(1), console);
+    const ZelPackage::ExitStatus status = ZelPackage::runProgram(arguments, console);
     return console.finish() ? status : ZelPackage::Failure;
 }

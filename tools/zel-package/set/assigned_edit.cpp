@@ -76,7 +76,7 @@ bool Resolver::checkLanguage(const FieldForm &form, bool isAddition, QString &me
 AssignedEdit Resolver::add(const Addition &addition, const FieldForm &form) const {
     const QString value = m_assignment.value.value_or(QString());
     if (value.isEmpty())
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "The value cannot be empty."))};
     AssignedEdit result;
     std::optional<FieldValue> entry =
         Zel::PackageModel::parsedValue(form.kind, value, &result.error);
@@ -109,10 +109,8 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
     const QString value = m_assignment.value.value_or(QString());
     if (value.isEmpty() && !m_assignment.path.steps().back().selectors.empty())
         return remove();
-    if (value.isEmpty() && form.isKey)
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
-    if (value.isEmpty() && m_assignment.path == FieldPath().field("version"))
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "A package has a version."))};
+    if (value.isEmpty() && (form.isKey || m_assignment.path == FieldPath().field("version")))
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "The value cannot be empty."))};
     AssignedEdit result;
     if (form.kind > FieldKind::Version)
         result.error =
@@ -129,6 +127,10 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
 AssignedEdit Resolver::resolve() {
     QString error;
     const auto form = Zel::PackageModel::formOf(m_assignment.path, &error);
+    if (!form && Zel::PackageModel::formOf(FieldPath(m_assignment.path).key("en_US")))
+        return {{},
+                text(QT_TRANSLATE_NOOP("zel-package", "It needs a language, as in %1[en_US]."))
+                    .arg(m_assignment.field)};
     if (!form)
         return {{}, error};
     const auto addition = additionOf(m_assignment.path);

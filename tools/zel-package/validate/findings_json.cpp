@@ -1,5 +1,6 @@
 #include "findings_writer.h"
 
+#include "arguments/native_text.h"
 #include "console/json_list.h"
 #include "report_rules.h"
 
@@ -17,7 +18,7 @@ public:
     void begin() override { m_console.print(QStringLiteral("{\"findings\": [")); }
 
     void write(const ManifestFinding &finding) override {
-        m_findings.add({{QStringLiteral("file"), finding.file},
+        m_findings.add({{QStringLiteral("file"), withVisibleBytes(finding.file)},
                         {QStringLiteral("line"), qint64(finding.position.line)},
                         {QStringLiteral("column"), qint64(finding.position.column)},
                         {QStringLiteral("id"), finding.ruleId},
@@ -27,8 +28,8 @@ public:
     }
 
     void writeUnreadable(const QString &file, const QString &trouble) override {
-        m_unreadable +=
-            QJsonObject{{QStringLiteral("file"), file}, {QStringLiteral("text"), trouble}};
+        m_unreadable += QJsonObject{{QStringLiteral("file"), withVisibleBytes(file)},
+                                    {QStringLiteral("text"), trouble}};
     }
 
     // The summary counts them.

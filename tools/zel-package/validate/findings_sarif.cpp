@@ -1,5 +1,6 @@
 #include "findings_writer.h"
 
+#include "arguments/native_text.h"
 #include "console/json_list.h"
 #include "manifest/manifest_source.h"
 #include "report_rules.h"
@@ -7,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
-#include <QUrl>
 
 namespace ZelPackage {
 namespace {
@@ -28,7 +28,8 @@ QJsonObject messageObject(const QString &text) {
 QString uriOf(const QString &file) {
     const QString path = QDir::cleanPath(file);
     const auto encoded = [](const QString &text) {
-        return QString::fromLatin1(QUrl::toPercentEncoding(text, "/"));
+        return QString::fromLatin1(
+            QByteArray::fromStdString(nativeBytes(text)).toPercentEncoding("/"));
     };
     if (QDir::isRelativePath(path) && path != QLatin1String("..") &&
         !path.startsWith(QLatin1String("../")))

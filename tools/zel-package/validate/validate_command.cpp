@@ -1,6 +1,7 @@
 #include "program_command.h"
 
 #include "arguments/word_check.h"
+#include "console/library_text.h"
 #include "findings_writer.h"
 #include "manifest/manifest_source.h"
 #include "report_rules.h"
@@ -178,7 +179,7 @@ private:
 
     void tellMalformed(const QString &file, const Tano::ManifestReader &reader) {
         ++m_report.malformed;
-        const QString message = QString::fromStdString(reader.errorMessage());
+        const QString message = translatedSentence(reader.errorMessage());
         found({file, reader.errorPosition(), malformedRuleId, Severity::Error, {}, message});
         m_console.tell(file, reader.errorPosition(), message);
     }
