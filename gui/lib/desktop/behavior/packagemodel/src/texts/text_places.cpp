@@ -1,5 +1,6 @@
 #include "text_places.h"
 
+#include "../behavior_paths.h"
 #include "../plain_text.h"
 
 #include <packagemodel/text_conversion.h>

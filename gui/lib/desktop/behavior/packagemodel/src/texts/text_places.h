@@ -56,15 +56,4 @@ private:
     QHash<QString, const BehaviorInfoModel *> m_behaviors; // by their paths as fields
 };
 
-/// Calls `visit` for each behavior with its path as a field.
-template<typename Visit>
-void visitBehaviors(const PackageInfoModel &package, Visit visit) {
-    QHash<QString, int> counts;
-    const auto behaviors = package.behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors) {
-        const QString path = behavior->path();
-        visit(Tano::FieldPath().field("behaviors").entry(toUtf8(path), counts[path]++), *behavior);
-    }
-}
-
 } // namespace Zel::PackageModel
