@@ -52,6 +52,13 @@ void appendTexts(const Owner &owner, Texts<Owner> textsOf, const Tano::FieldPath
     }
 }
 
+// One behavior: [PATH], or [PATH][N] for one of several with that path.
+bool isBehavior(const Tano::FieldPath::Step &step) {
+    const auto &selectors = step.selectors;
+    return step.field == "behaviors" && !selectors.empty() && !selectors.front().appends &&
+           (selectors.size() == 1 || (selectors.size() == 2 && selectors.back().toIndex()));
+}
+
 } // namespace
 
 QString TextKind::scriptError(const QString &text) const {
@@ -78,24 +85,23 @@ Tano::FieldPath TextPlace::path() const {
 }
 
 std::optional<TextPlace> textPlace(const Tano::FieldPath &path) {
-    const auto form = path.isEmpty() ? std::nullopt : formOf(path);
-    if (!form || form->isList)
+    const auto &steps = path.steps();
+    if (steps.empty() || steps.size() > 2 || (steps.size() == 2 && !isBehavior(steps.front())))
         return {};
-    const auto &step = path.steps().back();
-    const auto kind = std::find_if(textKinds().begin(), textKinds().end(),
-                                   [&](const TextKind &each) { return each.field == step.field; });
-    if (kind == textKinds().end())
-        return {};
-    TextPlace place{path, &*kind, fromUtf8(step.selectors.front().text)};
-    while (place.owner.steps().size() == path.steps().size())
-        place.owner = place.owner.parent();
-    if (kind->isList) {
-        const auto index = step.selectors.back().toIndex();
+    const auto &[field, selectors] = steps.back();
+    for (const TextKind &kind : textKinds()) {
+        if (field != kind.field || (steps.size() == 1 && !kind.ofPackage) ||
+            selectors.size() != (kind.isList ? 2 : 1) || selectors.front().appends)
+            continue;
+        const auto index = kind.isList ? selectors.back().toIndex() : 0;
         if (!index)
             return {};
-        place.index = *index;
+        TextPlace place{path, &kind, fromUtf8(selectors.front().text), *index};
+        while (place.owner.steps().size() == steps.size())
+            place.owner = place.owner.parent();
+        return place;
     }
-    return place;
+    return {};
 }
 
 TextOwners::TextOwners(const PackageInfoModel &package)
