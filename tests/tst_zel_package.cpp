@@ -86,15 +86,18 @@ private Q_SLOTS:
                          word.constData());
             }
         };
-        const QByteArray commands = completion({QString()});
-        check(run({QStringLiteral("--help")}).out, commands);
-        for (const QByteArray &command : commands.trimmed().split('\n')) {
-            if (command.startsWith('-'))
-                continue;
-            const QString name = QString::fromUtf8(command);
-            const QByteArray page = run({name, QStringLiteral("-h")}).out;
-            QVERIFY(page.startsWith("Usage: zel-package " + command));
-            check(page, completion({name, QStringLiteral("--")}));
+        QList<QStringList> left{QStringList()};
+        while (!left.isEmpty()) {
+            const QStringList names = left.takeFirst();
+            const QByteArray page = run(names + QStringList{QStringLiteral("-h")}).out;
+            QVERIFY(page.startsWith("Usage: zel-package " + names.join(u' ').toUtf8()));
+            const QByteArray words = completion(names + QStringList{QString()});
+            const bool isGroup = words.contains("--help\n");
+            check(page, isGroup ? words : completion(names + QStringList{QStringLiteral("--")}));
+            for (const QByteArray &word : words.trimmed().split('\n')) {
+                if (isGroup && !word.startsWith('-'))
+                    left.append(names + QStringList{QString::fromUtf8(word)});
+            }
         }
     }
 

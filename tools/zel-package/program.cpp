@@ -69,8 +69,9 @@ constexpr std::array groups{
 void printHelp(const CommandGroup &group, Console &console) {
     LabeledList list;
     for (const ProgramCommand *command : programCommands()) {
-        if (QLatin1String(command->name).startsWith(group.start()))
-            list.add(QLatin1String(command->name), translated(command->summary));
+        const QString name = QLatin1String(command->name);
+        if (name.startsWith(group.start()))
+            list.add(name.mid(group.start().size()), translated(command->summary));
     }
     console.print(usageLines(group.program() % QStringLiteral(" COMMAND [ARGUMENT...]"), console) %
                   paragraph(translated(group.description), console) %

@@ -41,6 +41,10 @@ QString withoutSpace(QString text) {
     return text;
 }
 
+bool hasTarget(const TextUnit &unit) {
+    return !unit.target.isEmpty() && !(unit.isUntranslated && unit.target == unit.source);
+}
+
 // Makes the edits for units, each on the result of those before it.
 class TextImporter {
 public:
@@ -53,7 +57,8 @@ public:
             m_codes.insert(bcp47(language.isoCode()).toLower(), language.isoCode());
         for (int i = 0; i < units.size(); ++i) {
             m_places.push_back(textPlace(units.at(i).path));
-            m_last.insert(fromUtf8(units.at(i).path.toString()), i);
+            if (hasTarget(units.at(i)))
+                m_last.insert(fromUtf8(units.at(i).path.toString()), i);
         }
     }
 
@@ -72,7 +77,7 @@ private:
     const bool m_force;
     QHash<QString, QString> m_codes; // by language tag
     std::vector<std::optional<TextPlace>> m_places;
-    QHash<QString, int> m_last;          // the last unit of each field
+    QHash<QString, int> m_last;          // the last unit with a target, by field
     QHash<QString, QStringList> m_texts; // by field, with the edits
     QSet<QString> m_described;
     Edits m_languages;
@@ -129,12 +134,11 @@ TextOutcome TextImporter::import(int index, QString &reason) {
     const auto &place = m_places[std::size_t(index)];
     if (!place)
         return TextOutcome::FieldGone;
-    const int last = m_last.value(fromUtf8(unit.path.toString()));
-    if (last != index && m_units.at(last).target != unit.target)
-        return TextOutcome::Superseded;
-    const bool isCopy = unit.isUntranslated && unit.target == unit.source;
-    if (unit.target.isEmpty() || isCopy)
+    if (!hasTarget(unit))
         return TextOutcome::Untranslated;
+    const int last = m_last.value(fromUtf8(unit.path.toString()));
+    if (m_units.at(last).target != unit.target)
+        return TextOutcome::Superseded;
     const auto present = m_owners.texts(*place, place->code);
     if (!present)
         return TextOutcome::FieldGone;
