@@ -66,6 +66,26 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(path, transcript);
     }
 
+    // The commands in docs/translating.md print what it says, one after the other.
+    void documentedTranslation() {
+        const QByteArray manual = contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/translating.md"));
+        QVERIFY(QFile::copy(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/small/manifest.xml"),
+                            m_dir.filePath(QStringLiteral("manifest.xml"))));
+        const QRegularExpression block(QStringLiteral("```console\n(.*?)```"),
+                                       QRegularExpression::DotMatchesEverythingOption);
+        QString expected;
+        QByteArray actual;
+        for (auto blocks = block.globalMatch(QString::fromUtf8(manual)); blocks.hasNext();)
+            expected += blocks.next().captured(1);
+        const QStringList lines = expected.split(u'\n');
+        for (const QString &line : lines) {
+            if (line.startsWith(QLatin1String("$ ")))
+                actual += line.toUtf8() + '\n' + printed(runShell(line.mid(2), m_dir.path()));
+        }
+        QVERIFY(!actual.isEmpty());
+        QCOMPARE(QString::fromUtf8(actual), expected);
+    }
+
     // The manual page and the completion know what the help offers.
     void helpIsComplete() {
         const QByteArray manual =
