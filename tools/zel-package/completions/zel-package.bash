@@ -27,7 +27,8 @@ _zel_package() {
         case ${COMP_WORDS[1]}:$previous in
         *:--language) mapfile -t words < <(_zel_package_languages "${COMP_WORDS[0]}") ;;
         show:--format) words=(text json) ;;
-        validate:--format) words=(text json sarif) ;;
+        validate:--format) words=(text json sarif github) ;;
+        validate:--color) words=(auto always never) ;;
         validate:--fail-on) words=(error warning note) ;;
         validate:--ignore)
             # The list so far stays in front of each word.
@@ -43,7 +44,10 @@ _zel_package() {
             [[ $current == -* ]] && case ${COMP_WORDS[1]} in
             new) words=(--uid --name --language --help) ;;
             show) words=(--language --format --help) ;;
-            validate) words=(--format --fail-on --ignore --explain --help) ;;
+            validate)
+                words=(--format --fail-on --ignore --fix --unsafe-fixes --diff --config --baseline
+                    --write-baseline --stdin-name --quiet --color --explain --help)
+                ;;
             format) words=(--check --help) ;;
             set) words=(--edits --dry-run --help) ;;
             publish) words=(--output --help) ;;

@@ -31,7 +31,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QStringList known = idsOf(rules);
     const auto index = known.indexOf(ids.constFirst());
     if (index < 0) {
-        tellUnknownRule(ids.constFirst(), known, console);
+        console.tell(unknownRule(ids.constFirst(), known));
         return Failure;
     }
     console.print(explanationOf(rules.at(index), console));

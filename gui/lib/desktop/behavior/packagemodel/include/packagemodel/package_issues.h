@@ -56,6 +56,9 @@ struct Issue {
     PACKAGEMODEL_EXPORT QString richText() const;
 };
 
+/// Whether an issue, which has neither text nor fixes yet, is wanted.
+using IssueFilter = std::function<bool(const Issue &issue)>;
+
 /// What issues() need beyond the package.
 struct IssueOptions {
     /// The folder of the manifest, in which topic files and the icon are looked for; empty to leave
@@ -64,6 +67,11 @@ struct IssueOptions {
     /// The record as it was read, if a version that the model has normalized is to be judged as
     /// written.
     const Tano::PackageInfo *written = nullptr;
+    /// Returns the filter for the issues of a package; null to have all of them. fixIssues() calls
+    /// it again after each change of the package, since paths with indexes change too.
+    std::function<IssueFilter(const PackageInfoModel &package)> filterFor = {};
+    /// Whether issues have their fixes, which take longer to make than the rest.
+    bool withFixes = true;
 };
 
 /// All that is wrong with a package, each with the path of its field. First come the findings of

@@ -15,16 +15,25 @@ namespace {
 class FindingVisit {
 public:
     FindingVisit(const PackageInfoModel &package,
-                 const std::function<IssueVisit(const Issue &issue)> &visit)
+                 const std::function<IssueVisit(const Issue &issue)> &visit,
+                 const IssueOptions &options)
         : m_package(package)
-        , m_visit(visit) {}
+        , m_visit(visit)
+        , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
+        , m_withFixes(options.withFixes) {}
 
     // Returns false when the visitor stops.
     bool visit(const Findings &findings) {
         for (const Finding &finding : findings) {
             if (skips(finding.rule) || !isNamed(finding))
                 continue;
-            const IssueVisit next = m_visit(issueOf(finding));
+            Issue issue = bareIssueOf(finding);
+            if (m_filter && !m_filter(issue))
+                continue;
+            issue.text = message(finding, {finding.language});
+            if (m_withFixes)
+                issue.fixes = fixesOf(finding, m_package);
+            const IssueVisit next = m_visit(issue);
             if (next == IssueVisit::Stop)
                 return false;
             if (next == IssueVisit::SkipRule)
@@ -36,10 +45,9 @@ public:
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
-    Issue issueOf(const Finding &finding) const {
+    static Issue bareIssueOf(const Finding &finding) {
         const RuleRow &row = ruleRow(finding.rule);
-        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()),
-                message(finding, {finding.language}), fixesOf(finding, m_package)};
+        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()), {}};
     }
 
     // A message without a language would say nothing.
@@ -50,6 +58,8 @@ private:
 
     const PackageInfoModel &m_package;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
+    IssueFilter m_filter;
+    bool m_withFixes;
     std::set<RuleId> m_skipped;
 };
 
@@ -85,7 +95,7 @@ void visitIssues(const PackageInfoModel *package,
                  const IssueOptions &options) {
     if (!package)
         return;
-    FindingVisit findings(*package, visit);
+    FindingVisit findings(*package, visit, options);
     const auto visitResult = [&](auto &&check) {
         Findings found;
         check(found);
