@@ -419,6 +419,14 @@
         <source>Icon</source>
         <translation>Icône</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>Modifier : %1</translation>
+    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>

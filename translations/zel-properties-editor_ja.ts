@@ -419,6 +419,14 @@
         <source>Icon</source>
         <translation>アイコン</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>%1 を設定</translation>
+    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>

@@ -14,9 +14,7 @@
 namespace Editor {
 namespace {
 
-using Zel::BehaviorInfoModel;
 using Zel::PackageInfoModel;
-using Zel::PackageInfoValidator;
 using Zel::PackageModel::Issue;
 using Zel::PackageModel::LanguageCoverage;
 using Zel::PackageModel::Severity;
@@ -180,7 +178,6 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
         const QSignalBlocker blocker(m_undoStack);
         m_undoStack.clear();
     }
-    m_validator.reset();
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
@@ -189,7 +186,6 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     watchPackage();
     m_languages.reset();
     m_coverages.reset();
-    m_issuesStale = true;
     refreshIssues();
     Q_EMIT packageReplaced();
     m_undoStack.clear(); // tells its views and actions
@@ -199,29 +195,8 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
 
 void Document::watchPackage() {
     using Package = PackageInfoModel;
-    using Validator = PackageInfoValidator;
-    const auto setStale = [this] { m_issuesStale = true; };
-    const auto setSentencesStale = [this] { m_sentencesStale = true; };
-    const auto watchPath = [this, setStale](const BehaviorInfoModel *behavior) {
-        // The issues name their behavior by its path.
-        connect(behavior, &BehaviorInfoModel::pathUpdated, this, setStale);
-    };
-    m_validator = std::make_unique<Validator>(m_package.get());
-    connectAll(m_validator.get(), this, setStale, &Validator::applicationUIDStateChanged,
-               &Validator::robotRequirementsStateChanged, &Validator::brioRequirementsStateChanged,
-               &Validator::applicationNamesStateChanged,
-               &Validator::applicationDescriptionsStateChanged,
-               &Validator::triggerSentencesStateChanged);
-    m_validator->activate();
-
-    const Package *package = m_package.get();
-    connectAll(package, this, setSentencesStale, &Package::languageAdded, &Package::languageRemoved,
-               &Package::behaviorAdded, &Package::behaviorRemoved);
-    connect(package, &Package::behaviorAdded, this, watchPath);
-    const auto behaviors = package->behaviors();
-    std::for_each(behaviors.begin(), behaviors.end(), watchPath);
     connectAll(
-        package, this, [this] { m_languages.reset(); }, &Package::languageAdded,
+        m_package.get(), this, [this] { m_languages.reset(); }, &Package::languageAdded,
         &Package::languageRemoved, &Package::descriptionAdded, &Package::descriptionRemoved,
         &Package::nameUpdated, &Package::descriptionUpdated);
 }
@@ -249,13 +224,14 @@ void Document::finishEdit() {
 }
 
 void Document::refreshIssues() {
-    if (std::exchange(m_sentencesStale, false)) {
-        m_validator->validateBehaviorTriggerSentences();
-        m_issuesStale = true;
-    }
-    if (!std::exchange(m_issuesStale, false))
+    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
+    const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
+    const auto isSame = [](const Issue &a, const Issue &b) {
+        return a.id == b.id && a.path == b.path && a.text == b.text;
+    };
+    if (std::equal(issues.begin(), issues.end(), m_issues.begin(), m_issues.end(), isSame))
         return;
-    m_issues = Zel::PackageModel::issues(m_package.get());
+    m_issues = issues;
     m_issueByPath.clear();
     m_behaviorSeverity.clear();
     const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {

@@ -3,7 +3,6 @@
 #include <packagemodel/package_coverage.h>
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
-#include <packagemodel/package_info_validator.h>
 #include <packagemodel/package_issues.h>
 
 #include <tano/save_file.h>
@@ -108,7 +107,6 @@ private:
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);
 
     std::unique_ptr<Zel::PackageInfoModel> m_package;
-    std::unique_ptr<Zel::PackageInfoValidator> m_validator;
     QUndoStack m_undoStack;
     MakeCommand m_openRun;
     int m_openRunIndex = 0;
@@ -116,8 +114,6 @@ private:
     QVector<Zel::PackageModel::Issue> m_issues;
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
     QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
-    bool m_issuesStale = true;
-    bool m_sentencesStale = false; // the validator does not look at them again by itself
 
     // Texts of behaviors and dialogs are edited in these languages only.
     mutable std::optional<Zel::RobotLanguages> m_languages;

@@ -27,6 +27,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     form->addRow(newHeading(tr("Package"), this));
     m_uid = addText(form, tr("&UID:"), QStringLiteral("my-app"), PackageStringCommand::Uid, "uid");
     const FieldPath version = FieldPath().field("version");
+    m_shown.insert(version);
     addTextRow(
         form, tr("&Version:"), document,
         {[version] { return version; },
@@ -45,6 +46,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     addText(form, tr("&Organization:"), {}, PackageStringCommand::Organization, "organization");
     addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), PackageStringCommand::Date, "date");
     addText(form, tr("&Channel:"), {}, PackageStringCommand::Channel, "channel");
+    addOthers(form);
 
     auto *icon = new IconButton(document, this);
     auto *hint = new QLabel(tr("Click, or drop a picture."), this);
@@ -66,6 +68,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
 
 TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
                                  const QString &placeholder, int what, const char *field) {
+    m_shown.insert(FieldPath().field(field));
     return addTextRow(form, label, document(),
                       {[path = FieldPath().field(field)] { return path; },
                        [this, what](const QString &text, bool isFinal) {
@@ -73,6 +76,22 @@ TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
                                package(), text, PackageStringCommand::WhatString(what), isFinal);
                        }},
                       placeholder);
+}
+
+// The fields that have no place of their own.
+void IdentityPage::addOthers(QFormLayout *form) {
+    for (const auto &field : Zel::PackageModel::plainFields(package())) {
+        if (m_shown.count(field.path) > 0)
+            continue;
+        addTextRow(
+            form, tr("%1:").arg(field.label), document(),
+            {[path = field.path] { return path; },
+             [this, path = field.path, label = field.label](const QString &text, bool isFinal) {
+                 return new Zel::PackageEditCommand(package(), {setText(path, text)},
+                                                    tr("Set %1").arg(label), isFinal);
+             }},
+            {});
+    }
 }
 
 bool IdentityPage::showField(const FieldPath &path) {

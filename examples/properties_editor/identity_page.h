@@ -2,6 +2,8 @@
 
 #include "page.h"
 
+#include <set>
+
 namespace Editor {
 
 /// What identifies the package, who publishes it, and its icon.
@@ -15,8 +17,10 @@ public:
 private:
     TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,
                        int what, const char *field);
+    void addOthers(QFormLayout *form);
 
     TextField *m_uid;
+    std::set<Tano::FieldPath> m_shown; // the fields that have a row
 };
 
 } // namespace Editor

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <numeric>
 #include <optional>
 #include <tuple>
@@ -30,6 +31,13 @@ Element childWithField(Element parent, std::string_view field) {
 }
 
 } // namespace
+
+void countEqual(std::vector<UnknownNode> &nodes) {
+    std::map<std::tuple<UnknownNode::Kind, std::string_view, std::string_view, FieldPath>, int>
+        counts;
+    for (UnknownNode &node : nodes)
+        node.index = counts[{node.kind, node.name, node.parent, node.parentPath}]++;
+}
 
 std::uint32_t FieldPositions::TextPieces::add(std::string_view text) {
     if (m_pieces.empty() || m_pieces.back().size() + text.size() > pieceSize)
@@ -175,8 +183,10 @@ std::vector<UnknownNode> FieldPositions::unknownNodes() const {
                          std::string(m_texts.at(unknown.name, unknown.nameSize)),
                          std::string(ruleOf(m_nodes[unknown.parent].element).name),
                          pathOf(unknown.parent),
-                         {unknown.line, unknown.column}});
+                         {unknown.line, unknown.column},
+                         0});
     }
+    countEqual(nodes);
     return nodes;
 }
 

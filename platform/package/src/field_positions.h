@@ -12,6 +12,9 @@
 
 namespace Tano {
 
+/// Sets the index of each node: how many equal ones precede it.
+void countEqual(std::vector<UnknownNode> &nodes);
+
 /// The positions of a manifest's elements and of its unknown elements and attributes.
 ///
 /// Reading appends one small node per element; the index that paths are looked up in is built when

@@ -26,6 +26,9 @@ struct Node {
 
 class Writer {
 public:
+    explicit Writer(WriteObserver *observer = nullptr)
+        : m_observer(observer) {}
+
     WrittenManifest package(const PackageData &package);
     // An entry alone.
     template<typename Data>
@@ -72,6 +75,7 @@ private:
     void namespaces(const Node &node);
     void closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine);
     void line(std::string_view xml);
+    void piece(std::string_view xml);
     void before(ExtrasWalk &walk, Element kind, const std::string &key, int index) {
         walk.before(kind, key, index, [this](std::string_view xml) { line(xml); });
     }
@@ -86,6 +90,7 @@ private:
         return {std::move(m_out), {}};
     }
 
+    WriteObserver *m_observer;
     const PackageData *m_package = nullptr; // null while an entry alone is written
     std::string m_out;
     std::string m_error;
@@ -277,7 +282,7 @@ void Writer::text(const Node &node, const std::string &text) {
             while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U)
                 ++at;
             escaped(node, std::string_view(text).substr(done, at - done), EscapeFor::Text);
-            forEachPiece(kept.xml, [this](std::string_view xml) { m_out += xml; });
+            forEachPiece(kept.xml, [this](std::string_view xml) { piece(xml); });
             done = at;
         }
     }
@@ -304,6 +309,8 @@ void Writer::field(const Node &parent, ExtrasWalk &walk, Element kind, const std
 void Writer::openTag(const Node &node, const std::string_view *values) {
     const ElementRule &rule = ruleOf(node.element);
     const std::size_t start = m_out.size();
+    if (m_observer)
+        m_observer->elementStarts(node.element, node.key, node.index, start);
     m_out += '\n';
     m_out.append(2 * m_level, ' ');
     m_out += '<';
@@ -320,6 +327,8 @@ void Writer::openTag(const Node &node, const std::string_view *values) {
     }
     if (node.extras) {
         namespaces(node);
+        if (m_observer)
+            m_observer->keptAttributes(node.extras->attributes, m_out.size());
         m_out += node.extras->attributes;
     }
     m_out += '>';
@@ -350,6 +359,8 @@ void Writer::namespaces(const Node &node) {
 }
 
 void Writer::closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine) {
+    if (m_observer)
+        m_observer->elementEnds();
     if (m_out.size() == contentStart) {
         m_out.back() = '/';
         m_out += '>';
@@ -365,6 +376,12 @@ void Writer::closeTag(const Node &node, std::size_t contentStart, bool onItsOwnL
 void Writer::line(std::string_view xml) {
     m_out += '\n';
     m_out.append(2 * m_level, ' ');
+    piece(xml);
+}
+
+void Writer::piece(std::string_view xml) {
+    if (m_observer)
+        m_observer->keptPiece(xml, m_out.size());
     m_out += xml;
 }
 
@@ -407,8 +424,8 @@ FieldPath Writer::pathOf(const Node &node) const {
 
 } // namespace
 
-WrittenManifest writeManifest(const PackageData &package) {
-    return Writer().package(package);
+WrittenManifest writeManifest(const PackageData &package, WriteObserver *observer) {
+    return Writer(observer).package(package);
 }
 
 WrittenManifest writeElement(const BehaviorData &behavior) {

@@ -30,6 +30,7 @@ struct UnknownNode {
     std::string parent;      ///< the name of the known element around it
     FieldPath parentPath;    ///< the field of that element
     SourcePosition position; ///< of the element, or of the tag with the attribute
+    int index = 0;           ///< among those of its list with the same name and parent
 };
 
 /// Reads manifests and reports the exact position of an error and, if asked, of each field.

@@ -350,13 +350,9 @@ MakeFixes fixesOfRule(RuleId rule) {
         return fixTopicFile;
     case RuleId::SupportedLanguageMissing:
         return fixMissingSupport;
-    case RuleId::RobotRequirementsMissing:
-    case RuleId::BrioRequirementMissing:
-    case RuleId::ScriptMalformed:
-    case RuleId::IconInvalid:
+    default:
         return nullptr; // only the author knows
     }
-    return nullptr;
 }
 
 } // namespace

@@ -1,0 +1,365 @@
+#include <tano/kept_content.h>
+
+#include "field_positions.h"
+#include "manifest_writer.h"
+#include "xml_reading.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace Tano {
+namespace {
+
+constexpr std::string_view commentStart = "<!--";
+constexpr std::string_view commentEnd = "-->";
+
+// Knows the path of the innermost element that is being written.
+class PathObserver : public WriteObserver {
+public:
+    void elementStarts(Element element, const std::string &key, int index,
+                       std::size_t /*offset*/) override {
+        const int sameKey = isEntry(element) ? m_entries[{element, key}]++ : index;
+        m_open.push_back({element, key, sameKey});
+    }
+    void elementEnds() override { m_open.pop_back(); }
+
+protected:
+    // How many elements are open.
+    std::size_t depth() const { return m_open.size(); }
+    Element element() const { return m_open.back().element; }
+
+    FieldPath path() const {
+        FieldPath path;
+        std::string_view language; // of the block of texts around the element
+        for (const Open &open : m_open) {
+            if (open.element != Element::Package)
+                appendField(path, open.element, open.key, open.index, language);
+            language = isTextsBlock(open.element) ? open.key : std::string_view();
+        }
+        return path;
+    }
+
+private:
+    struct Open {
+        Element element;
+        std::string_view key;
+        int index; // among the siblings with the same key
+    };
+    std::vector<Open> m_open;
+    std::map<std::pair<Element, std::string>, int> m_entries;
+};
+
+class CommentFinder : public PathObserver {
+public:
+    struct Found {
+        KeptComment comment;
+        std::size_t offset;
+        std::size_t size;
+        std::size_t depth; // of the open elements around it
+    };
+
+    void elementStarts(Element element, const std::string &key, int index,
+                       std::size_t offset) override {
+        PathObserver::elementStarts(element, key, index, offset);
+        if (!isTextsBlock(element))
+            placeBeforePath(0);
+    }
+    // Comments before a block without a text precede the field after the block.
+    void elementEnds() override {
+        placeBeforePath(isTextsBlock(element()) ? depth() : 0);
+        PathObserver::elementEnds();
+    }
+    void keptPiece(std::string_view xml, std::size_t offset) override {
+        if (xml.substr(0, commentStart.size()) != commentStart)
+            return;
+        const std::size_t textSize = xml.size() - commentStart.size() - commentEnd.size();
+        const std::string_view text = xml.substr(commentStart.size(), textSize);
+        m_unplaced.push_back(m_found.size());
+        m_found.push_back({{std::string(text), path(), {}, 0}, offset, xml.size(), depth()});
+    }
+
+    std::vector<Found> take() {
+        std::map<std::tuple<std::string_view, FieldPath, FieldPath>, int> counts;
+        for (auto &[comment, offset, size, depth] : m_found)
+            comment.index = counts[{comment.text, comment.parent, comment.before}]++;
+        return std::move(m_found);
+    }
+
+private:
+    // Of the comments that wait for the next field, those at least as deep.
+    void placeBeforePath(std::size_t fromDepth) {
+        if (m_unplaced.empty())
+            return;
+        const FieldPath next = path();
+        while (!m_unplaced.empty() && m_found[m_unplaced.back()].depth >= fromDepth) {
+            m_found[m_unplaced.back()].comment.before = next;
+            m_unplaced.pop_back();
+        }
+    }
+
+    std::vector<Found> m_found;
+    std::vector<std::size_t> m_unplaced; // the shallowest first
+};
+
+// Whether the start tag of an element puts it into a namespace. The default namespace around a kept
+// element is none; otherwise the element around it would be kept, too.
+bool isInNamespace(std::string_view element) {
+    using Tag = std::pair<ExpatHandle, bool>;
+    Tag tag(ExpatHandle(XML_ParserCreate("UTF-8"), &XML_ParserFree), false);
+    XML_SetUserData(tag.first.get(), &tag);
+    XML_SetStartElementHandler(
+        tag.first.get(), [](void *data, const XML_Char * /*name*/, const XML_Char **attributes) {
+            auto &[parser, isForeign] = *static_cast<Tag *>(data);
+            for (; *attributes; attributes += 2)
+                isForeign = isForeign || (std::string_view(attributes[0]) == "xmlns" &&
+                                          !std::string_view(attributes[1]).empty());
+            XML_StopParser(parser.get(), XML_FALSE);
+        });
+    XML_Parse(tag.first.get(), element.data(), int(element.size()), XML_TRUE);
+    return tag.second;
+}
+
+class NodeFinder : public PathObserver {
+public:
+    // The names of a node: of an attribute, or in the start tag and end tag of an element.
+    using Offsets = std::vector<std::size_t>;
+
+    void keptAttributes(std::string_view attributes, std::size_t offset) override {
+        for (std::size_t name = 1; name < attributes.size();) { // each is written ` a="b"`
+            const std::size_t nameEnd = attributes.find('=', name);
+            add(UnknownNode::Kind::Attribute, attributes.substr(name, nameEnd - name),
+                {offset + name});
+            name = attributes.find('"', nameEnd + 2) + 2;
+        }
+    }
+    void keptPiece(std::string_view xml, std::size_t offset) override {
+        if (xml[1] == '!' || xml[1] == '?' || isInNamespace(xml))
+            return;
+        Offsets names{offset + 1};
+        const bool hasEndTag = xml[xml.size() - 2] != '/';
+        if (hasEndTag)
+            names.push_back(offset + xml.rfind("</") + 2);
+        add(UnknownNode::Kind::Element, xml.substr(1, xml.find_first_of(" \t\n/>") - 1),
+            std::move(names));
+    }
+
+    // In the same order.
+    std::vector<UnknownNode> takeNodes() {
+        countEqual(m_nodes);
+        return std::move(m_nodes);
+    }
+    const std::vector<Offsets> &offsets() const { return m_offsets; }
+
+private:
+    void add(UnknownNode::Kind kind, std::string_view name, Offsets offsets) {
+        if (name == "xmlns" || name.find(':') != std::string_view::npos)
+            return;
+        m_nodes.push_back(
+            {kind, std::string(name), std::string(ruleOf(element()).name), path(), {}, 0});
+        m_offsets.push_back(std::move(offsets));
+    }
+
+    std::vector<UnknownNode> m_nodes;
+    std::vector<Offsets> m_offsets;
+};
+
+// Whether a path is the same as another one, or below it: `a[0]` and `a[0].b` are below `a`.
+bool isWithin(const FieldPath &path, const FieldPath &outer) {
+    const auto &steps = path.steps();
+    const auto &outerSteps = outer.steps();
+    if (outerSteps.empty())
+        return true;
+    const std::size_t last = outerSteps.size() - 1;
+    if (steps.size() <= last ||
+        !std::equal(steps.begin(), steps.begin() + int(last), outerSteps.begin()))
+        return false;
+    const auto &selectors = steps[last].selectors;
+    const auto &outerSelectors = outerSteps[last].selectors;
+    return steps[last].field == outerSteps[last].field &&
+           selectors.size() >= outerSelectors.size() &&
+           std::equal(outerSelectors.begin(), outerSelectors.end(), selectors.begin());
+}
+
+class ElementFinder : public PathObserver {
+public:
+    void elementStarts(Element element, const std::string &key, int index,
+                       std::size_t offset) override {
+        PathObserver::elementStarts(element, key, index, offset);
+        if (!isTextsBlock(element))
+            m_offsets.emplace(path(), offset);
+    }
+
+    // The element of a field, or the one that withComment() uses for it.
+    std::size_t offsetOf(FieldPath path) const {
+        for (;; path = path.parent()) {
+            const auto first = m_offsets.lower_bound(path);
+            std::size_t offset = std::string::npos;
+            for (auto it = first; it != m_offsets.end() && isWithin(it->first, path); ++it)
+                offset = std::min(offset, it->second);
+            if (offset != std::string::npos || path.isEmpty())
+                return offset;
+        }
+    }
+
+private:
+    std::map<FieldPath, std::size_t> m_offsets;
+};
+
+WrittenManifest write(const PackageInfo &package, WriteObserver &observer) {
+    return writeManifest(RecordAccess::data(package), &observer);
+}
+
+std::optional<PackageInfo> read(const std::string &manifest) {
+    PackageInfo package;
+    if (!ManifestReader().readContent(manifest, package))
+        return {};
+    return package;
+}
+
+// With what XML does not allow in a comment taken apart.
+std::string commentOf(const std::string &text) {
+    std::string xml(commentStart);
+    const std::size_t start = xml.size();
+    for (const char c : text) {
+        if (c == '-' && xml.size() > start && xml.back() == '-')
+            xml += ' ';
+        xml += c;
+    }
+    if (xml.size() > start && xml.back() == '-')
+        xml += ' ';
+    return xml += commentEnd;
+}
+
+// The child of an element, or of a block of texts in it, that a step of a path names.
+Element elementOfField(Element parent, std::string_view field) {
+    for (const Element child : ruleOf(parent).children) {
+        if (ruleOf(child).field == field)
+            return child;
+        const Element text = isTextsBlock(child) ? elementOfField(child, field) : Element::None;
+        if (text != Element::None)
+            return text;
+    }
+    return Element::None;
+}
+
+// The element around a node.
+Element parentOf(const UnknownNode &node) {
+    Element parent = Element::Package;
+    for (const FieldPath::Step &step : node.parentPath.steps()) {
+        parent = elementOfField(parent, step.field);
+        if (parent == Element::None)
+            return parent;
+    }
+    if (ruleOf(parent).name == node.parent)
+        return parent;
+    for (const Element child : ruleOf(parent).children) {
+        if (isTextsBlock(child) && ruleOf(child).name == node.parent)
+            return child;
+    }
+    return Element::None;
+}
+
+bool isSame(const KeptComment &a, const KeptComment &b) {
+    return a.index == b.index && a.text == b.text && a.parent == b.parent && a.before == b.before;
+}
+
+bool isSame(const UnknownNode &a, const UnknownNode &b) {
+    return a.index == b.index && a.kind == b.kind && a.name == b.name && a.parent == b.parent &&
+           a.parentPath == b.parentPath;
+}
+
+} // namespace
+
+std::vector<KeptComment> comments(const PackageInfo &package) {
+    CommentFinder finder;
+    write(package, finder);
+    std::vector<KeptComment> comments;
+    for (CommentFinder::Found &found : finder.take())
+        comments.push_back(std::move(found.comment));
+    return comments;
+}
+
+PackageInfo withoutComment(const PackageInfo &package, const KeptComment &comment) {
+    CommentFinder finder;
+    std::string manifest = write(package, finder).text;
+    const auto all = finder.take();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const auto &candidate) {
+        return isSame(candidate.comment, comment);
+    });
+    if (manifest.empty() || found == all.end())
+        return package;
+    return read(manifest.erase(found->offset, found->size)).value_or(package);
+}
+
+PackageInfo withComment(const PackageInfo &package, const FieldPath &before,
+                        const std::string &text) {
+    return withComments(package, {{text, {}, before, 0}});
+}
+
+PackageInfo withComments(const PackageInfo &package, const std::vector<KeptComment> &added) {
+    ElementFinder finder;
+    const std::string manifest = write(package, finder).text;
+    if (manifest.empty())
+        return package;
+    std::vector<std::pair<std::size_t, std::string>> places;
+    places.reserve(added.size());
+    for (const KeptComment &comment : added)
+        places.emplace_back(finder.offsetOf(comment.before), commentOf(comment.text));
+    std::stable_sort(places.begin(), places.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+
+    std::string changed;
+    std::size_t done = 0;
+    for (const auto &[offset, comment] : places) {
+        changed.append(manifest, done, offset - done);
+        changed += comment;
+        done = offset;
+    }
+    changed.append(manifest, done, std::string::npos);
+    return read(changed).value_or(package);
+}
+
+std::vector<UnknownNode> unknownNodes(const PackageInfo &package) {
+    NodeFinder finder;
+    write(package, finder);
+    return finder.takeNodes();
+}
+
+std::vector<std::string> knownNames(const UnknownNode &node) {
+    const Element parent = parentOf(node);
+    std::vector<std::string> names;
+    if (parent == Element::None)
+        return names;
+    if (node.kind == UnknownNode::Kind::Attribute) {
+        for (const AttributeRule &attribute : ruleOf(parent).attributes)
+            names.emplace_back(attribute.name);
+    } else {
+        for (const Element child : ruleOf(parent).children)
+            names.emplace_back(ruleOf(child).name);
+    }
+    return names;
+}
+
+std::optional<PackageInfo> withRenamedNode(const PackageInfo &package, const UnknownNode &node,
+                                           const std::string &name) {
+    const auto known = knownNames(node);
+    if (std::find(known.begin(), known.end(), name) == known.end())
+        return {};
+    NodeFinder finder;
+    std::string manifest = write(package, finder).text;
+    const auto nodes = finder.takeNodes();
+    const auto found = std::find_if(nodes.begin(), nodes.end(),
+                                    [&](const auto &candidate) { return isSame(candidate, node); });
+    if (manifest.empty() || found == nodes.end())
+        return {};
+    auto offsets = finder.offsets()[std::size_t(found - nodes.begin())];
+    for (auto offset = offsets.rbegin(); offset != offsets.rend(); ++offset)
+        manifest.replace(*offset, node.name.size(), name);
+    return read(manifest);
+}
+
+} // namespace Tano
