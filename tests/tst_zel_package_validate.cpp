@@ -45,6 +45,24 @@ QStringList valuesIn(const QJsonValue &list, const char *key) {
     return values;
 }
 
+// The lines with the replacements of a fix, which ascend.
+QByteArray withReplacements(QByteArrayList lines, const QJsonValue &fix) {
+    const QJsonArray replacements =
+        at(fix, QStringLiteral("artifactChanges.0.replacements")).toArray();
+    for (int i = int(replacements.size()) - 1; i >= 0; --i) {
+        const QJsonValue region = at(replacements.at(i), QStringLiteral("deletedRegion"));
+        const int start = at(region, QStringLiteral("startLine")).toInt() - 1;
+        const int end = at(region, QStringLiteral("endLine")).toInt() - 1;
+        QByteArrayList inserted = at(replacements.at(i), QStringLiteral("insertedContent.text"))
+                                      .toString()
+                                      .toUtf8()
+                                      .split('\n');
+        inserted.removeLast();
+        lines = lines.mid(0, start) + inserted + lines.mid(end);
+    }
+    return lines.join('\n');
+}
+
 } // namespace
 
 class TestZelPackageValidate : public QObject {
@@ -130,6 +148,35 @@ private Q_SLOTS:
                                                    "artifactLocation.uri"))
                                 .toString();
         QTEST(uri, "uri");
+    }
+
+    // Each fix gives a manifest in the canonical form without the finding.
+    void sarifFixes() {
+        write(path("f.xml"),
+              contentOf(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/faulty/manifest.xml")));
+        const QByteArrayList lines = contentOf(path("f.xml")).split('\n');
+        const auto results = [&] {
+            const Outcome sarif = run(QStringLiteral("validate f.xml --format sarif").split(u' '));
+            return at(jsonOf(sarif), QStringLiteral("runs.0.results")).toArray();
+        };
+        const QString fingerprint = QStringLiteral("partialFingerprints.ruleAndField/v1");
+        const QJsonValue json =
+            jsonOf(run(QStringLiteral("validate f.xml --format json").split(u' ')));
+        const QJsonArray found = results();
+        for (int i = 0; i < found.size(); ++i) {
+            const QJsonValue result = found.at(i);
+            const auto fixes = at(result, QStringLiteral("fixes")).toArray();
+            QCOMPARE(fixes.size(),
+                     at(json, QStringLiteral("findings.%1.fixes").arg(i)).toArray().size());
+            for (const auto &fix : fixes) {
+                write(path("f.xml"), withReplacements(lines, fix));
+                const Outcome format = run(QStringLiteral("format --check f.xml").split(u' '));
+                QCOMPARE(format.status, 0);
+                const auto left = results();
+                for (const auto &other : left)
+                    QVERIFY(at(other, fingerprint) != at(result, fingerprint));
+            }
+        }
     }
 
     // Of 102 x 101 findings of one rule, 10,000 are listed in every format.

@@ -30,8 +30,6 @@ bool matchesPath(const QString &pattern, const QString &path) {
             return false;
         }
     }
-    while (next < wanted.size() && wanted.at(next) == QLatin1String("**"))
-        ++next;
     return next == wanted.size();
 }
 

@@ -1,6 +1,7 @@
 #include "validation.h"
 
 #include "console/text_diff.h"
+#include "ignore_comments.h"
 #include "manifest/manifest_source.h"
 #include "manifest_fixes.h"
 #include "report_rules.h"
@@ -41,13 +42,7 @@ struct Validation::Target {
     QString folder;
     RuleSettings settings;
 
-    IssueOptions optionsFor(const Tano::PackageInfo &record) const {
-        IssueOptions options{folder, &record};
-        options.filterFor = [this](const Zel::PackageInfoModel &) {
-            return [this](const Issue &issue) { return !settings.isOff(issue.id); };
-        };
-        return options;
-    }
+    bool mayIgnore; // it may have comments that turn off rules
 };
 
 Validation::Validation(const ValidateRequest &request, FindingsWriter &writer, Console &messages,
@@ -86,7 +81,8 @@ void Validation::reportTrouble(const QString &file, const QString &trouble,
 
 Validation::Target Validation::targetOf(const QString &file) {
     const bool isNamed = !isStandardStream(file) || !m_request.stdinName.isEmpty();
-    Target target{file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}};
+    Target target{
+        file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}, false};
     if (isNamed)
         target.folder = QFileInfo(target.name).path();
     const Configuration &configuration =
@@ -100,7 +96,7 @@ Validation::Target Validation::targetOf(const QString &file) {
 
 void Validation::check(const QString &file) {
     ++m_report.files;
-    const Target target = targetOf(file);
+    Target target = targetOf(file);
     QString trouble;
     auto content = readContent(file, trouble);
     if (!content) {
@@ -108,13 +104,13 @@ void Validation::check(const QString &file) {
         reportTrouble(target.name, trouble);
         return;
     }
+    target.mayIgnore = IgnoreComments::mayBeIn(*content);
     if (m_request.fixes)
         fix(target, *content);
     CheckedManifest manifest{target.name, target.folder};
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     if (parse(*content, reader, manifest)) {
         collect(target, reader, manifest);
-        addUnusedEntries(target, reader, manifest);
     }
     write(target, manifest);
 }
@@ -124,15 +120,22 @@ void Validation::fix(const Target &target, std::string &content) {
     Tano::PackageInfo record;
     if (!reader.readContent(content, record))
         return;
-    const FixedManifest fixed = fixedManifest(record, *m_request.fixes, target.optionsFor(record));
+    IssueOptions options{target.folder, &record};
+    options.filterFor = [&target](const Zel::PackageInfoModel &package) {
+        const auto ignored = std::make_shared<IgnoreComments>(
+            target.mayIgnore ? IgnoreComments(package.packageInfo()) : IgnoreComments());
+        return [&target, ignored](const Issue &issue) {
+            return !target.settings.isOff(issue.id) && !ignored->ignores(issue.id, issue.path);
+        };
+    };
+    const FixedManifest fixed = fixedManifest(record, *m_request.fixes, options);
     if (!fixed.error.isEmpty())
         reportTrouble(target.name, fixed.error);
     const bool isChanged = !fixed.content.empty() && fixed.content != content;
-    if (isChanged && m_request.showsDiff)
-        m_output.print(unifiedDiff(target.name, content, fixed.content, m_output));
-    else if (isChanged && !isStandardStream(target.file))
-        save(target, content, fixed.record);
-    if (isChanged) {
+    if (isChanged && (m_request.showsDiff || isStandardStream(target.file) ||
+                      save(target, content, fixed.record))) {
+        if (m_request.showsDiff)
+            m_output.print(unifiedDiff(target.name, content, fixed.content, m_output));
         ++m_report.fixed;
         content = fixed.content;
     }
@@ -140,10 +143,12 @@ void Validation::fix(const Target &target, std::string &content) {
         m_output.printBytes(content);
 }
 
-void Validation::save(const Target &target, const std::string &content,
+bool Validation::save(const Target &target, const std::string &content,
                       const Tano::PackageInfo &fixed) {
-    if (!saveIfUnchanged(target.file, {{}, content}, fixed))
-        reportTrouble(target.name, QString::fromStdString(fixed.errorString()));
+    if (saveIfUnchanged(target.file, {{}, content}, fixed))
+        return true;
+    reportTrouble(target.name, QString::fromStdString(fixed.errorString()));
+    return false;
 }
 
 // Frees the content as soon as nobody needs it.
@@ -167,6 +172,11 @@ bool Validation::parse(std::string &content, Tano::ManifestReader &reader,
 
 void Validation::collect(const Target &target, const Tano::ManifestReader &reader,
                          CheckedManifest &manifest) {
+    const auto add = [&](ManifestFinding finding) {
+        finding.severity = target.settings.severityOf(finding.ruleId, finding.severity);
+        finding.position = reader.position(Zel::toUtf8(finding.field));
+        manifest.findings.push_back(std::move(finding));
+    };
     QHash<QString, int> counts;
     bool isTruncated = false;
     const auto visit = [&](const Issue &issue) {
@@ -175,30 +185,43 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             return IssueVisit::SkipRule;
         }
         if (!m_baseline || !m_baseline->take(target.name, issue.id, issue.path))
-            manifest.findings.push_back({reader.position(Zel::toUtf8(issue.path)), issue.id,
-                                         target.settings.severityOf(issue.id, issue.severity),
-                                         issue.path, issue.plainText(), issue.fixes});
+            add({{}, issue.id, issue.severity, issue.path, issue.plainText(), issue.fixes});
         return IssueVisit::Continue;
     };
-    IssueOptions options = target.optionsFor(manifest.record);
+    IgnoreComments ignored = target.mayIgnore ? IgnoreComments(manifest.record) : IgnoreComments();
+    IssueOptions options{target.folder, &manifest.record};
     options.withFixes = m_writer.needsFixes();
+    options.filterFor = [&](const Zel::PackageInfoModel &) {
+        return [&](const Issue &issue) {
+            return !target.settings.isOff(issue.id) && !ignored.ignores(issue.id, issue.path);
+        };
+    };
     const Zel::PackageInfoModel package(manifest.record);
     Zel::PackageModel::visitIssues(&package, visit, options);
-    if (isTruncated)
+    if (isTruncated) {
         reportTruncated(target.name);
+        return;
+    }
+    auto unused = ignored.findings();
+    const auto left = unusedEntries(target.name);
+    unused.insert(unused.end(), left.begin(), left.end());
+    for (const ManifestFinding &finding : unused) {
+        if (!target.settings.isOff(finding.ruleId))
+            add(finding);
+    }
 }
 
-void Validation::addUnusedEntries(const Target &target, const Tano::ManifestReader &reader,
-                                  CheckedManifest &manifest) const {
-    if (!m_baseline || target.settings.isOff(baselineUnusedRuleId))
-        return;
-    for (const Baseline::Entry &entry : m_baseline->left(target.name)) {
-        if (!target.settings.isOff(entry.rule))
-            manifest.findings.push_back(
-                {reader.position(Zel::toUtf8(entry.field)), baselineUnusedRuleId,
-                 target.settings.severityOf(baselineUnusedRuleId, Severity::Note), entry.field,
-                 messageOf(baselineUnusedRuleId).arg(entry.rule)});
-    }
+std::vector<ManifestFinding> Validation::unusedEntries(const QString &file) const {
+    std::vector<ManifestFinding> findings;
+    if (!m_baseline)
+        return findings;
+    for (const Baseline::Entry &entry : m_baseline->left(file))
+        findings.push_back({{},
+                            baselineUnusedRuleId,
+                            Severity::Note,
+                            entry.field,
+                            messageOf(baselineUnusedRuleId).arg(entry.rule)});
+    return findings;
 }
 
 void Validation::write(const Target &target, CheckedManifest &manifest) {

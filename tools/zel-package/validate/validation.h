@@ -35,12 +35,11 @@ private:
 
     Target targetOf(const QString &file);
     void fix(const Target &target, std::string &content);
-    void save(const Target &target, const std::string &content, const Tano::PackageInfo &fixed);
+    bool save(const Target &target, const std::string &content, const Tano::PackageInfo &fixed);
     bool parse(std::string &content, Tano::ManifestReader &reader, CheckedManifest &manifest);
     void collect(const Target &target, const Tano::ManifestReader &reader,
                  CheckedManifest &manifest);
-    void addUnusedEntries(const Target &target, const Tano::ManifestReader &reader,
-                          CheckedManifest &manifest) const;
+    std::vector<ManifestFinding> unusedEntries(const QString &file) const;
     void write(const Target &target, CheckedManifest &manifest);
     void count(const ManifestFinding &finding, const RuleSettings &settings);
     void reportTruncated(const QString &file);
