@@ -12,6 +12,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
+#include <malloc.h>
 #include <optional>
 #include <unistd.h>
 
@@ -61,6 +62,8 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
+    // Freed blocks are joined at once, which halves the time to free a large package.
+    mallopt(M_MXFAST, 0);
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
     // A closed pipe shall be a failed write.
     std::signal(SIGPIPE, SIG_IGN);

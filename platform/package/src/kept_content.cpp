@@ -2,6 +2,7 @@
 
 #include "field_positions.h"
 #include "manifest_writer.h"
+#include "record_data.h"
 #include "xml_reading.h"
 
 #include <algorithm>
@@ -272,6 +273,21 @@ bool isSame(const UnknownNode &a, const UnknownNode &b) {
            a.parentPath == b.parentPath;
 }
 
+bool mentions(const ExtrasPointer &extras, const std::string &part) {
+    if (!extras)
+        return false;
+    const auto isComment = [&](std::string_view piece) {
+        return piece.substr(0, commentStart.size()) == commentStart &&
+               piece.find(part) != std::string_view::npos;
+    };
+    bool isFound = false;
+    for (const Extras::Kept &kept : extras->kept)
+        forEachPiece(kept.xml, [&](std::string_view piece) { isFound |= isComment(piece); });
+    return isFound ||
+           std::any_of(extras->children.begin(), extras->children.end(),
+                       [&](const Extras::Child &child) { return mentions(child.extras, part); });
+}
+
 } // namespace
 
 std::vector<KeptComment> comments(const PackageInfo &package) {
@@ -281,6 +297,16 @@ std::vector<KeptComment> comments(const PackageInfo &package) {
     for (CommentFinder::Found &found : finder.take())
         comments.push_back(std::move(found.comment));
     return comments;
+}
+
+bool hasComment(const PackageInfo &package, const std::string &part) {
+    const PackageData &data = RecordAccess::data(package);
+    const auto isIn = [&](const auto &record) {
+        return mentions(RecordAccess::data(record).extras, part);
+    };
+    return mentions(data.extras, part) ||
+           std::any_of(data.behaviors.begin(), data.behaviors.end(), isIn) ||
+           std::any_of(data.dialogs.begin(), data.dialogs.end(), isIn);
 }
 
 PackageInfo withoutComment(const PackageInfo &package, const KeptComment &comment) {

@@ -47,6 +47,20 @@ bool isStandardStream(const QString &file) {
     return file == QLatin1String("-");
 }
 
+bool readPackage(const QString &file, Tano::ManifestReader &reader, Tano::PackageInfo &package,
+                 QString &trouble) {
+    QFile input;
+    if (const std::string reason = openSource(input, file); !reason.empty()) {
+        trouble = QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
+                      .arg(QString::fromStdString(reason));
+        return false;
+    }
+    const bool isRead = reader.readFile(input, package);
+    if (!isRead && reader.errorPosition().line == 0)
+        trouble = QString::fromStdString(reader.errorMessage());
+    return isRead;
+}
+
 std::optional<std::string> readContent(const QString &file, QString &trouble) {
     QFile input;
     if (const std::string reason = openSource(input, file); !reason.empty()) {

@@ -75,11 +75,9 @@ bool beginsBlock(const Tano::PackageInfo &record, const FieldPath &path) {
 
 } // namespace
 
-bool IgnoreComments::mayBeIn(const std::string &content) {
-    return content.find("zel-package:") != std::string::npos;
-}
-
 IgnoreComments::IgnoreComments(const Tano::PackageInfo &record) {
+    if (!Tano::hasComment(record, "zel-package:"))
+        return;
     for (const Tano::KeptComment &comment : Tano::comments(record)) {
         const QStringList rules = rulesIn(comment);
         if (rules.isEmpty())

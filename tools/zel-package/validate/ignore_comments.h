@@ -24,10 +24,6 @@ namespace ZelPackage {
 /// around it. Since a block of texts is no field, one before its first text applies to the block.
 class IgnoreComments {
 public:
-    /// Whether a manifest may have such comments; cheap.
-    static bool mayBeIn(const std::string &content);
-
-    IgnoreComments() = default;
     explicit IgnoreComments(const Tano::PackageInfo &record);
 
     /// Whether a comment turns off the rule for the field, which counts as a use of it.

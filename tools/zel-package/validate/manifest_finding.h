@@ -23,8 +23,7 @@ struct ManifestFinding {
 
 /// A manifest and its findings.
 struct CheckedManifest {
-    QString file;        ///< as it was given; the name of one from standard input
-    QString folder = {}; ///< in which its files are looked for; empty for none
+    QString file; ///< as it was given; the name of one from standard input
     Tano::PackageInfo record = {};
     std::string content = {};                   ///< the bytes, if the writer needs them
     std::vector<ManifestFinding> findings = {}; ///< by line and column

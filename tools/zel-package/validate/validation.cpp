@@ -41,8 +41,6 @@ struct Validation::Target {
     QString name; // as it is reported
     QString folder;
     RuleSettings settings;
-
-    bool mayIgnore; // it may have comments that turn off rules
 };
 
 Validation::Validation(const ValidateRequest &request, FindingsWriter &writer, Console &messages,
@@ -81,8 +79,7 @@ void Validation::reportTrouble(const QString &file, const QString &trouble,
 
 Validation::Target Validation::targetOf(const QString &file) {
     const bool isNamed = !isStandardStream(file) || !m_request.stdinName.isEmpty();
-    Target target{
-        file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}, false};
+    Target target{file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}};
     if (isNamed)
         target.folder = QFileInfo(target.name).path();
     const Configuration &configuration =
@@ -96,23 +93,43 @@ Validation::Target Validation::targetOf(const QString &file) {
 
 void Validation::check(const QString &file) {
     ++m_report.files;
-    Target target = targetOf(file);
+    const Target target = targetOf(file);
+    CheckedManifest manifest{target.name};
+    Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     QString trouble;
-    auto content = readContent(file, trouble);
-    if (!content) {
+    if (read(target, reader, manifest, trouble)) {
+        collect(target, reader, manifest);
+    } else if (trouble.isEmpty()) {
+        ++m_report.malformed;
+        m_hasTrouble = true;
+        manifest.findings.push_back({reader.errorPosition(),
+                                     malformedRuleId,
+                                     Severity::Error,
+                                     {},
+                                     QString::fromStdString(reader.errorMessage())});
+    } else {
         ++m_report.unreadable;
         reportTrouble(target.name, trouble);
         return;
     }
-    target.mayIgnore = IgnoreComments::mayBeIn(*content);
+    write(target, manifest);
+}
+
+// The bytes of a manifest take as much memory as all the rest, so they are read and kept only where
+// they are needed.
+bool Validation::read(const Target &target, Tano::ManifestReader &reader, CheckedManifest &manifest,
+                      QString &trouble) {
+    if (!m_request.fixes && m_writer.neededContent() == 0)
+        return readPackage(target.file, reader, manifest.record, trouble);
+    auto content = readContent(target.file, trouble);
+    if (!content)
+        return false;
     if (m_request.fixes)
         fix(target, *content);
-    CheckedManifest manifest{target.name, target.folder};
-    Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
-    if (parse(*content, reader, manifest)) {
-        collect(target, reader, manifest);
-    }
-    write(target, manifest);
+    const bool isRead = reader.readContent(*content, manifest.record);
+    if (content->size() <= m_writer.neededContent())
+        manifest.content = std::move(*content);
+    return isRead;
 }
 
 void Validation::fix(const Target &target, std::string &content) {
@@ -122,8 +139,7 @@ void Validation::fix(const Target &target, std::string &content) {
         return;
     IssueOptions options{target.folder, &record};
     options.filterFor = [&target](const Zel::PackageInfoModel &package) {
-        const auto ignored = std::make_shared<IgnoreComments>(
-            target.mayIgnore ? IgnoreComments(package.packageInfo()) : IgnoreComments());
+        const auto ignored = std::make_shared<IgnoreComments>(package.packageInfo());
         return [&target, ignored](const Issue &issue) {
             return !target.settings.isOff(issue.id) && !ignored->ignores(issue.id, issue.path);
         };
@@ -151,25 +167,6 @@ bool Validation::save(const Target &target, const std::string &content,
     return false;
 }
 
-// Frees the content as soon as nobody needs it.
-bool Validation::parse(std::string &content, Tano::ManifestReader &reader,
-                       CheckedManifest &manifest) {
-    const bool isRead = reader.readContent(content, manifest.record);
-    if (content.size() <= m_writer.neededContent())
-        manifest.content = std::move(content);
-    content = {};
-    if (isRead)
-        return true;
-    ++m_report.malformed;
-    m_hasTrouble = true;
-    manifest.findings.push_back({reader.errorPosition(),
-                                 malformedRuleId,
-                                 Severity::Error,
-                                 {},
-                                 QString::fromStdString(reader.errorMessage())});
-    return false;
-}
-
 void Validation::collect(const Target &target, const Tano::ManifestReader &reader,
                          CheckedManifest &manifest) {
     const auto add = [&](ManifestFinding finding) {
@@ -188,7 +185,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             add({{}, issue.id, issue.severity, issue.path, issue.plainText(), issue.fixes});
         return IssueVisit::Continue;
     };
-    IgnoreComments ignored = target.mayIgnore ? IgnoreComments(manifest.record) : IgnoreComments();
+    IgnoreComments ignored(manifest.record);
     IssueOptions options{target.folder, &manifest.record};
     options.withFixes = m_writer.needsFixes();
     options.filterFor = [&](const Zel::PackageInfoModel &) {
@@ -196,8 +193,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             return !target.settings.isOff(issue.id) && !ignored.ignores(issue.id, issue.path);
         };
     };
-    const Zel::PackageInfoModel package(manifest.record);
-    Zel::PackageModel::visitIssues(&package, visit, options);
+    Zel::PackageModel::visitIssues(manifest.record, visit, options);
     if (isTruncated) {
         reportTruncated(target.name);
         return;

@@ -36,7 +36,8 @@ private:
     Target targetOf(const QString &file);
     void fix(const Target &target, std::string &content);
     bool save(const Target &target, const std::string &content, const Tano::PackageInfo &fixed);
-    bool parse(std::string &content, Tano::ManifestReader &reader, CheckedManifest &manifest);
+    bool read(const Target &target, Tano::ManifestReader &reader, CheckedManifest &manifest,
+              QString &trouble);
     void collect(const Target &target, const Tano::ManifestReader &reader,
                  CheckedManifest &manifest);
     std::vector<ManifestFinding> unusedEntries(const QString &file) const;

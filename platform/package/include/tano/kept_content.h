@@ -22,8 +22,9 @@
 // }
 // ```
 //
-// Each function takes time proportional to the size of the manifest. Those that return a package
-// return what its changed manifest reads as, and never change the package that they are given.
+// Except for hasComment(), each function takes time proportional to the size of the manifest. Those
+// that return a package return what its changed manifest reads as, and never change the package
+// that they are given.
 
 namespace Tano {
 
@@ -44,6 +45,10 @@ struct KeptComment {
 
 /// The comments of a package in the order of writing.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptComment> comments(const PackageInfo &package);
+
+/// Whether any comment contains a text. Takes no time to speak of.
+[[nodiscard]] TANO_PACKAGE_EXPORT bool hasComment(const PackageInfo &package,
+                                                  const std::string &part);
 
 /// The package without that comment; the same package if it has no such comment, or cannot be
 /// saved.

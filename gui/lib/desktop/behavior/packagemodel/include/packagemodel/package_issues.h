@@ -98,6 +98,12 @@ PACKAGEMODEL_EXPORT void visitIssues(const PackageInfoModel *package,
                                      const std::function<IssueVisit(const Issue &issue)> &visit,
                                      const IssueOptions &options = {});
 
+/// The same for a record, behavior by behavior: in another order and, without fixes, with little
+/// memory besides the record's. A filter then gets a package without behaviors.
+PACKAGEMODEL_EXPORT void visitIssues(const Tano::PackageInfo &record,
+                                     const std::function<IssueVisit(const Issue &issue)> &visit,
+                                     const IssueOptions &options = {});
+
 /// Which fixes fixIssues() makes.
 enum class FixChoice { Safe, All };
 

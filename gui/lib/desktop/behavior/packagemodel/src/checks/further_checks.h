@@ -1,6 +1,7 @@
 #pragma once
 
 #include "package_checks.h"
+#include "script_checks.h"
 
 #include <packagemodel/package_issues.h>
 
@@ -22,13 +23,19 @@ struct CheckedPackage {
 
     const PackageInfoModel &package;
     const IssueOptions &options;
-    std::vector<BehaviorPlace> behaviors;
     QSet<QString> languages; // the codes of those that the package lists
+    BehaviorScripts scripts;
 };
 
-/// The checks beyond those of the messages, in the order of their rules; each appends what it
-/// finds.
-using FurtherCheck = void (*)(const CheckedPackage &checked, Findings &findings);
+/// A check beyond those of the messages: of the package without its behaviors, and of one behavior,
+/// which need not be in the package. Each appends what it finds; a null one finds nothing.
+struct FurtherCheck {
+    void (*ofPackage)(const CheckedPackage &checked, Findings &findings);
+    void (*ofBehavior)(const CheckedPackage &checked, const BehaviorPlace &place,
+                       Findings &findings);
+};
+
+/// In the order of their rules.
 const std::vector<FurtherCheck> &furtherChecks();
 
 } // namespace Zel::PackageModel

@@ -5,8 +5,12 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <QHash>
+
 #include <algorithm>
 #include <set>
+#include <string_view>
+#include <unordered_map>
 
 namespace Zel::PackageModel {
 namespace {
@@ -42,6 +46,13 @@ public:
         return true;
     }
 
+    bool visitTriggerSentences(const BehaviorPlace &place) {
+        Findings found;
+        if (!skips(RuleId::TriggerSentencesMissing))
+            checkTriggerSentences(m_package, *place.behavior, place.occurrence, found);
+        return visit(found);
+    }
+
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
@@ -63,6 +74,14 @@ private:
     std::set<RuleId> m_skipped;
 };
 
+std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behaviors) {
+    std::vector<BehaviorPlace> places;
+    QHash<QString, int> counts;
+    for (const BehaviorInfoModel *behavior : behaviors)
+        places.push_back({behavior, counts[behavior->path()]++});
+    return places;
+}
+
 // By ascending path; behaviors with the same path keep their order.
 std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behaviors) {
     std::vector<std::pair<QString, BehaviorPlace>> byPath;
@@ -74,6 +93,14 @@ std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behavior
     std::transform(byPath.begin(), byPath.end(), behaviors.begin(),
                    [](const auto &entry) { return entry.second; });
     return behaviors;
+}
+
+bool visitApplicationChecks(const PackageInfoModel &package, FindingVisit &findings) {
+    return std::all_of(applicationChecks.begin(), applicationChecks.end(), [&](Check check) {
+        Findings found;
+        check(package, found);
+        return findings.visit(found);
+    });
 }
 
 } // namespace
@@ -96,28 +123,61 @@ void visitIssues(const PackageInfoModel *package,
     if (!package)
         return;
     FindingVisit findings(*package, visit, options);
-    const auto visitResult = [&](auto &&check) {
-        Findings found;
-        check(found);
-        return findings.visit(found);
-    };
-    for (const Check check : applicationChecks) {
-        if (!visitResult([&](Findings &found) { check(*package, found); }))
-            return;
-    }
+    if (!visitApplicationChecks(*package, findings))
+        return;
     const CheckedPackage checked(*package, options);
-    for (const auto &[behavior, occurrence] : inOrderOfMessages(checked.behaviors)) {
+    const std::vector<BehaviorPlace> places = placesOf(package->behaviors());
+    for (const BehaviorPlace &place : inOrderOfMessages(places)) {
         if (findings.skips(RuleId::TriggerSentencesMissing))
             break;
-        if (!visitResult([&, behavior = behavior, occurrence = occurrence](Findings &found) {
-                checkTriggerSentences(*package, *behavior, occurrence, found);
-            }))
+        if (!findings.visitTriggerSentences(place))
             return;
     }
-    for (const FurtherCheck check : furtherChecks()) {
-        if (!visitResult([&](Findings &found) { check(checked, found); }))
+    for (const FurtherCheck &check : furtherChecks()) {
+        Findings found;
+        if (check.ofPackage)
+            check.ofPackage(checked, found);
+        for (const BehaviorPlace &place : check.ofBehavior ? places : std::vector<BehaviorPlace>())
+            check.ofBehavior(checked, place, found);
+        if (!findings.visit(found))
             return;
     }
+}
+
+// One behavior at a time has a model.
+void visitIssues(const Tano::PackageInfo &record,
+                 const std::function<IssueVisit(const Issue &issue)> &visit,
+                 const IssueOptions &options) {
+    if (options.withFixes) {
+        const PackageInfoModel package(record);
+        visitIssues(&package, visit, options);
+        return;
+    }
+    Tano::PackageInfo withoutBehaviors = record;
+    withoutBehaviors.clearBehaviors();
+    const PackageInfoModel package(withoutBehaviors);
+    FindingVisit findings(package, visit, options);
+    if (!visitApplicationChecks(package, findings))
+        return;
+    const CheckedPackage checked(package, options);
+    Findings found;
+    for (const FurtherCheck &check : furtherChecks()) {
+        if (check.ofPackage)
+            check.ofPackage(checked, found);
+    }
+    std::unordered_map<std::string_view, int> counts;
+    for (const Tano::BehaviorInfo &behavior : record.behaviors()) {
+        const BehaviorInfoModel model(behavior, nullptr);
+        const BehaviorPlace place{&model, counts[behavior.path()]++};
+        for (const FurtherCheck &check : furtherChecks()) {
+            if (check.ofBehavior)
+                check.ofBehavior(checked, place, found);
+        }
+        if (!findings.visit(found) || !findings.visitTriggerSentences(place))
+            return;
+        found.clear();
+    }
+    static_cast<void>(findings.visit(found));
 }
 
 } // namespace Zel::PackageModel
