@@ -1,13 +1,15 @@
 """Usage: json_schema_test.py SCHEMA_DIR SCHEMA FILE...
+       json_schema_test.py SCHEMA_DIR SCHEMA --output-of PROGRAM ARGUMENT...
 
-Checks a schema with an independent validator: each JSON file has to be valid, and stop being so
-when any of its values becomes a number that no form has, or any object without free keys gets
-another member.
+Checks a schema with an independent validator: each JSON file, or the output of a program, has to be
+valid, and stop being so when any of its values becomes a number that no form has, or the document
+gets another member.
 """
 
 import copy
 import json
 import pathlib
+import subprocess
 import sys
 
 import jsonschema
@@ -37,6 +39,14 @@ def mutants(document):
     yield {**document, "unheard-of": ""}, ["unheard-of"]
 
 
+def documents(files):
+    """Pairs of a name and its JSON document."""
+    if files[0] != "--output-of":
+        return [(file, pathlib.Path(file).read_text()) for file in files]
+    output = subprocess.run(files[1:], stdout=subprocess.PIPE, encoding="utf-8", check=False)
+    return [(" ".join(files[2:]), output.stdout)]
+
+
 def main(folder, name, *files):
     schemas = [json.loads(path.read_text()) for path in pathlib.Path(folder).glob("*.schema.json")]
     store = {schema["$id"]: schema for schema in schemas}
@@ -47,8 +57,11 @@ def main(folder, name, *files):
     validator = validator_class(schema, resolver=resolver)
 
     faults = refused = 0
-    for file in files:
-        document = json.loads(pathlib.Path(file).read_text())
+    for file, text in documents(files):
+        document = json.loads(text)
+        if next(iter(document)) != "format":
+            faults += 1
+            print(f"{file}: does not begin with its format")
         for error in validator.iter_errors(document):
             faults += 1
             print(f"{file}: {error.json_path}: {error.message}")

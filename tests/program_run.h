@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <array>
+#include <filesystem>
 #include <pty.h>
 #include <unistd.h>
 
@@ -74,7 +75,9 @@ inline Outcome runShell(const QString &line, const QString &directory) {
 
 /// Empties the directory but for copies of the manifests for the program.
 inline void resetFiles(const QString &directory) {
-    if (!QDir(directory).removeRecursively() || !QDir().mkpath(directory))
+    std::error_code error;
+    std::filesystem::remove_all(directory.toStdString(), error); // Qt leaves names not in UTF-8
+    if (error || !QDir().mkpath(directory))
         qFatal("cannot empty %s", qPrintable(directory));
     const auto files = QDir(testData("zel-package/files")).entryInfoList(QDir::Files);
     for (const QFileInfo &file : files)

@@ -133,10 +133,10 @@ private Q_SLOTS:
         };
         const std::string deep = repeated("<a>", 1000000);
         row("a million elements deep", inPackage(deep),
-            "Line 2, column 230: More than 64 elements stand within each other.");
+            "Line 2, column 230: More than 64 elements are nested.");
         row("the deepest allowed", inPackage(repeated("<a>", 63) + repeated("</a>", 63)), "");
         row("one deeper", inPackage(repeated("<a>", 64) + repeated("</a>", 64)),
-            "Line 2, column 230: More than 64 elements stand within each other.");
+            "Line 2, column 230: More than 64 elements are nested.");
         std::string attributes;
         for (int i = 0; i < 100000; ++i)
             attributes += " a" + std::to_string(i) + "=\"\"";

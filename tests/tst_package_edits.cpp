@@ -123,6 +123,10 @@ public:
         Edit edit{Edit::Action(below(4)), all.at(below(int(all.size()))).path};
         for (int dropped = below(3); dropped > 0; --dropped)
             edit.path = edit.path.parent();
+        if (!m_first)
+            m_first = package.packageInfo();
+        if (below(50) == 0)
+            return {Edit::Action::Set, {}, *m_first};
         edit.index = below(5);
         edit.value = someValue(package, all);
         return edit;
@@ -155,6 +159,7 @@ private:
     }
 
     std::mt19937 m_random;
+    std::optional<Tano::PackageInfo> m_first;
 };
 
 } // namespace
@@ -319,6 +324,8 @@ void TestPackageEdits::inversesRestoreEverything() {
 void TestPackageEdits::differences() {
     QFETCH(unsigned, seed);
     RandomEdits random(seed);
+    // Differences give a repeated permission once.
+    QCOMPARE(error({Edit::Action::Remove, path("behaviors[greet][1].permissions[0]")}), QString());
     PackageInfoModel target;
     QVERIFY(target.loadFromManifestContent(bytes()));
     for (int round = 0; round < 6; ++round) {

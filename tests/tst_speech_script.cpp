@@ -42,7 +42,7 @@ private Q_SLOTS:
             QCOMPARE(Tano::PackageHelper::getHumanReadableText(text), text);
         QCOMPARE(converted("<p>\xFF</p>"),
                  QStringLiteral("error: Line 1, column 4: The bytes here are not valid UTF-8, or "
-                                "stand for a character that XML does not allow."));
+                                "encode a character that XML does not allow."));
     }
 
     void documented_data() {
@@ -80,11 +80,11 @@ private Q_SLOTS:
         const std::string mebibyte(std::size_t(1) << 20, 'x');
         row("64 within each other", repeated("<s>", 64) + "a", repeated("</s>", 64), "a");
         row("65 within each other", repeated("<s>", 65) + "a", repeated("</s>", 65),
-            "error: Line 1, column 193: More than 64 elements stand within each other.");
+            "error: Line 1, column 193: More than 64 elements are nested.");
         row("a million within each other", repeated("<s>", 1000000), repeated("</s>", 1000000),
-            "error: Line 1, column 193: More than 64 elements stand within each other.");
+            "error: Line 1, column 193: More than 64 elements are nested.");
         row("a million, never closed", repeated("<item>", 1000000), "",
-            "error: Line 1, column 385: More than 64 elements stand within each other.");
+            "error: Line 1, column 385: More than 64 elements are nested.");
         row("64 attributes", "<w" + attributes + ">", "a</w>", "a");
         row("65 attributes", "<w" + attributes + " b=''>", "a</w>",
             "error: Line 1, column 1: The element <w> has more than 64 attributes.");

@@ -552,10 +552,6 @@
         <translation>Il s&apos;écrit &apos;%1%2&apos;.</translation>
     </message>
     <message>
-        <source>The path is empty.</source>
-        <translation>Le chemin est vide.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is neither true nor false.</source>
         <translation>&apos;%1&apos; n&apos;est ni true ni false.</translation>
     </message>
@@ -914,6 +910,46 @@
     <message>
         <source>%1 for “%2”</source>
         <translation>%1 pour «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Correct the names of elements and attributes</source>
+        <translation>Corriger les noms d&apos;éléments et d&apos;attributs</translation>
+    </message>
+    <message>
+        <source>Keep the present values and remove the comments</source>
+        <translation>Garder les valeurs présentes et supprimer les commentaires</translation>
+    </message>
+    <message>
+        <source>Unknown element &lt;%1&gt;%2</source>
+        <translation>Élément inconnu &lt;%1&gt;%2</translation>
+    </message>
+    <message>
+        <source>The format has no such element here. It is kept, and otherwise ignored.</source>
+        <translation>Le format n&apos;a pas un tel élément ici. Il est gardé, et sinon ignoré.</translation>
+    </message>
+    <message>
+        <source>Correct the name. Additions of other tools belong in a namespace of their own.</source>
+        <translation>Corrigez le nom. Les ajouts d&apos;autres outils ont leur place dans leur propre espace de noms.</translation>
+    </message>
+    <message>
+        <source>Unknown attribute &apos;%1&apos; of &lt;%3&gt;%2</source>
+        <translation>Attribut inconnu &apos;%1&apos; de &lt;%3&gt;%2</translation>
+    </message>
+    <message>
+        <source>The format has no such attribute here. It is kept, and otherwise ignored.</source>
+        <translation>Le format n&apos;a pas un tel attribut ici. Il est gardé, et sinon ignoré.</translation>
+    </message>
+    <message>
+        <source>Unresolved merge conflict.</source>
+        <translation>Conflit de fusion non résolu.</translation>
+    </message>
+    <message>
+        <source>Both sides of a merge changed the field. The manifest has one of the values, and a comment before it has both.</source>
+        <translation>Les deux côtés d&apos;une fusion ont changé le champ. Le manifeste a l&apos;une des valeurs, et un commentaire devant elle a les deux.</translation>
+    </message>
+    <message>
+        <source>Choose a value, then remove the comment.</source>
+        <translation>Choisissez une valeur, puis supprimez le commentaire.</translation>
     </message>
 </context>
 <context>

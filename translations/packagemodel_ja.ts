@@ -552,10 +552,6 @@
         <translation>&apos;%1%2&apos; と書きます。</translation>
     </message>
     <message>
-        <source>The path is empty.</source>
-        <translation>パスが空です。</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is neither true nor false.</source>
         <translation>&apos;%1&apos; は true でも false でもありません。</translation>
     </message>
@@ -914,6 +910,46 @@
     <message>
         <source>%1 for “%2”</source>
         <translation>%1 (目的: %2)</translation>
+    </message>
+    <message>
+        <source>Correct the names of elements and attributes</source>
+        <translation>要素と属性の名前を直す</translation>
+    </message>
+    <message>
+        <source>Keep the present values and remove the comments</source>
+        <translation>現在の値を残してコメントを削除</translation>
+    </message>
+    <message>
+        <source>Unknown element &lt;%1&gt;%2</source>
+        <translation>不明な要素 &lt;%1&gt;%2</translation>
+    </message>
+    <message>
+        <source>The format has no such element here. It is kept, and otherwise ignored.</source>
+        <translation>この場所にそのような要素は形式にありません。残されますが、無視されます。</translation>
+    </message>
+    <message>
+        <source>Correct the name. Additions of other tools belong in a namespace of their own.</source>
+        <translation>名前を直してください。ほかのツールの追加物は、それ専用の名前空間に置きます。</translation>
+    </message>
+    <message>
+        <source>Unknown attribute &apos;%1&apos; of &lt;%3&gt;%2</source>
+        <translation>&lt;%3&gt; の不明な属性 &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>The format has no such attribute here. It is kept, and otherwise ignored.</source>
+        <translation>この場所にそのような属性は形式にありません。残されますが、無視されます。</translation>
+    </message>
+    <message>
+        <source>Unresolved merge conflict.</source>
+        <translation>マージの競合が解決されていません。</translation>
+    </message>
+    <message>
+        <source>Both sides of a merge changed the field. The manifest has one of the values, and a comment before it has both.</source>
+        <translation>マージの両側がこのフィールドを変更しました。マニフェストには一方の値があり、その前のコメントに両方があります。</translation>
+    </message>
+    <message>
+        <source>Choose a value, then remove the comment.</source>
+        <translation>値を選び、コメントを削除してください。</translation>
     </message>
 </context>
 <context>

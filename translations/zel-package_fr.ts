@@ -2,6 +2,312 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Il manque une valeur après &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Tano</name>
+    <message>
+        <source>There is not enough memory for the manifest.</source>
+        <translation>La mémoire ne suffit pas pour le manifeste.</translation>
+    </message>
+    <message>
+        <source>The text is UTF-16; a manifest is UTF-8.</source>
+        <translation>Le texte est en UTF-16 ; un manifeste est en UTF-8.</translation>
+    </message>
+    <message>
+        <source>XML version &quot;%1&quot; is not supported; a manifest is XML 1.0.</source>
+        <translation>La version «&#xa0;%1&#xa0;» de XML n&apos;est pas prise en charge ; un manifeste est en XML 1.0.</translation>
+    </message>
+    <message>
+        <source>The encoding &quot;%1&quot; is not supported; a manifest is UTF-8.</source>
+        <translation>L&apos;encodage «&#xa0;%1&#xa0;» n&apos;est pas pris en charge ; un manifeste est en UTF-8.</translation>
+    </message>
+    <message>
+        <source>A document type declaration is not allowed.</source>
+        <translation>Une déclaration de type de document n&apos;est pas permise.</translation>
+    </message>
+    <message>
+        <source>An &quot;&amp;&quot; begins a reference here; the character itself is written &amp;amp;.</source>
+        <translation>Un «&#xa0;&amp;&#xa0;» commence ici une référence ; le caractère lui-même s&apos;écrit &amp;amp;.</translation>
+    </message>
+    <message>
+        <source>A NUL byte is not allowed.</source>
+        <translation>Un octet NUL n&apos;est pas permis.</translation>
+    </message>
+    <message>
+        <source>The bytes here are not valid UTF-8, or encode a character that XML does not allow.</source>
+        <translation>Ces octets ne sont pas de l&apos;UTF-8 valide, ou codent un caractère que XML n&apos;autorise pas.</translation>
+    </message>
+    <message>
+        <source>A &quot;&lt;&quot; begins a tag here; the character itself is written &amp;lt;.</source>
+        <translation>Un «&#xa0;&lt;&#xa0;» commence ici une balise ; le caractère lui-même s&apos;écrit &amp;lt;.</translation>
+    </message>
+    <message>
+        <source>The text is not well-formed XML.</source>
+        <translation>Le texte n&apos;est pas du XML bien formé.</translation>
+    </message>
+    <message>
+        <source>The text is not well-formed XML: %1.</source>
+        <translation>Le texte n&apos;est pas du XML bien formé : %1.</translation>
+    </message>
+    <message>
+        <source>A control character is not allowed.</source>
+        <translation>Un caractère de contrôle n&apos;est pas permis.</translation>
+    </message>
+    <message>
+        <source>The character &quot;%1&quot; is not allowed here.</source>
+        <translation>Le caractère «&#xa0;%1&#xa0;» n&apos;est pas permis ici.</translation>
+    </message>
+    <message>
+        <source>The manifest ends in the middle of a tag or character.</source>
+        <translation>Le manifeste s&apos;arrête au milieu d&apos;une balise ou d&apos;un caractère.</translation>
+    </message>
+    <message>
+        <source>The manifest ends in the middle of a CDATA section.</source>
+        <translation>Le manifeste s&apos;arrête au milieu d&apos;une section CDATA.</translation>
+    </message>
+    <message>
+        <source>The script ends in the middle of a tag or character.</source>
+        <translation>Le script s&apos;arrête au milieu d&apos;une balise ou d&apos;un caractère.</translation>
+    </message>
+    <message>
+        <source>The script ends in the middle of a CDATA section.</source>
+        <translation>Le script s&apos;arrête au milieu d&apos;une section CDATA.</translation>
+    </message>
+    <message>
+        <source>The end tag does not belong to the element that is open.</source>
+        <translation>La balise de fin ne correspond pas à l&apos;élément ouvert.</translation>
+    </message>
+    <message>
+        <source>An attribute occurs twice on one element.</source>
+        <translation>Un attribut figure deux fois sur un même élément.</translation>
+    </message>
+    <message>
+        <source>The entity is not defined; only &amp;amp;, &amp;lt;, &amp;gt;, &amp;quot; and &amp;apos; are.</source>
+        <translation>L&apos;entité n&apos;est pas définie ; seules &amp;amp;, &amp;lt;, &amp;gt;, &amp;quot; et &amp;apos; le sont.</translation>
+    </message>
+    <message>
+        <source>The text is not XML: it does not begin with a tag.</source>
+        <translation>Le texte n&apos;est pas du XML : il ne commence pas par une balise.</translation>
+    </message>
+    <message>
+        <source>The reference is to a character that XML does not allow.</source>
+        <translation>La référence désigne un caractère que XML n&apos;autorise pas.</translation>
+    </message>
+    <message>
+        <source>There is content after the end of the root element.</source>
+        <translation>Il y a du contenu après la fin de l&apos;élément racine.</translation>
+    </message>
+    <message>
+        <source>The XML declaration is not at the very beginning.</source>
+        <translation>La déclaration XML n&apos;est pas au tout début.</translation>
+    </message>
+    <message>
+        <source>The name of a processing instruction, &quot;%1&quot;, cannot contain a colon.</source>
+        <translation>Le nom d&apos;une instruction de traitement, «&#xa0;%1&#xa0;», ne peut pas contenir de deux-points.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is not a prefix and a name with a colon between them.</source>
+        <translation>Le nom «&#xa0;%1&#xa0;» n&apos;est pas formé d&apos;un préfixe et d&apos;un nom séparés par un deux-points.</translation>
+    </message>
+    <message>
+        <source>The prefix &quot;%1&quot; is declared without a namespace.</source>
+        <translation>Le préfixe «&#xa0;%1&#xa0;» est déclaré sans espace de noms.</translation>
+    </message>
+    <message>
+        <source>The prefix &quot;%1&quot; is not declared.</source>
+        <translation>Le préfixe «&#xa0;%1&#xa0;» n&apos;est pas déclaré.</translation>
+    </message>
+    <message>
+        <source>The declaration &quot;%1&quot; is of a reserved prefix or namespace.</source>
+        <translation>La déclaration «&#xa0;%1&#xa0;» concerne un préfixe ou un espace de noms réservé.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; occurs twice in the same namespace.</source>
+        <translation>L&apos;attribut «&#xa0;%1&#xa0;» figure deux fois dans le même espace de noms.</translation>
+    </message>
+    <message>
+        <source>The root element is &lt;%1&gt; instead of &lt;package&gt;.</source>
+        <translation>L&apos;élément racine est &lt;%1&gt; au lieu de &lt;package&gt;.</translation>
+    </message>
+    <message>
+        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest is in none.</source>
+        <translation>L&apos;élément racine &lt;package&gt; est dans l&apos;espace de noms «&#xa0;%1&#xa0;» ; un manifeste n&apos;en a pas.</translation>
+    </message>
+    <message>
+        <source>Text is not allowed in &lt;%1&gt;.</source>
+        <translation>Du texte n&apos;est pas permis dans &lt;%1&gt;.</translation>
+    </message>
+    <message>
+        <source>The element %1 occurs twice in %2.</source>
+        <translation>L&apos;élément %1 figure deux fois dans %2.</translation>
+    </message>
+    <message>
+        <source>The manifest is empty.</source>
+        <translation>Le manifeste est vide.</translation>
+    </message>
+    <message>
+        <source>The manifest ends before its root element.</source>
+        <translation>Le manifeste s&apos;arrête avant son élément racine.</translation>
+    </message>
+    <message>
+        <source>The manifest ends while %1 is open.</source>
+        <translation>Le manifeste s&apos;arrête alors que %1 est ouvert.</translation>
+    </message>
+    <message>
+        <source>The format &quot;%1&quot; is newer than the one that this version reads, &quot;%2&quot;.</source>
+        <translation>Le format «&#xa0;%1&#xa0;» est plus récent que celui que lit cette version, «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The format &quot;%1&quot; is unknown; this version reads &quot;%2&quot;.</source>
+        <translation>Le format «&#xa0;%1&#xa0;» est inconnu ; cette version lit «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; lacks the attribute &quot;%2&quot;.</source>
+        <translation>Il manque à l&apos;élément &lt;%1&gt; l&apos;attribut «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of &lt;%2&gt; is longer than 4 KiB.</source>
+        <translation>L&apos;attribut «&#xa0;%1&#xa0;» de &lt;%2&gt; dépasse 4 Kio.</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of &lt;%2&gt; is &quot;%3&quot; instead of &quot;true&quot; or &quot;false&quot;.</source>
+        <translation>L&apos;attribut «&#xa0;%1&#xa0;» de &lt;%2&gt; vaut «&#xa0;%3&#xa0;» au lieu de «&#xa0;true&#xa0;» ou «&#xa0;false&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A tag, comment or processing instruction is longer than 1 MiB.</source>
+        <translation>Une balise, un commentaire ou une instruction de traitement dépasse 1 Mio.</translation>
+    </message>
+    <message>
+        <source>More than %1 elements are nested.</source>
+        <translation>Plus de %1 éléments sont imbriqués.</translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; has more than %2 attributes.</source>
+        <translation>L&apos;élément &lt;%1&gt; a plus de %2 attributs.</translation>
+    </message>
+    <message>
+        <source>The field %1 holds the control character %2, which XML cannot hold.</source>
+        <translation>Le champ %1 contient le caractère de contrôle %2, que XML ne peut pas contenir.</translation>
+    </message>
+    <message>
+        <source>The package holds the control character %1, which XML cannot hold.</source>
+        <translation>Le paquet contient le caractère de contrôle %1, que XML ne peut pas contenir.</translation>
+    </message>
+    <message>
+        <source>The field %1 holds the byte %2, which starts no character that XML can hold.</source>
+        <translation>Le champ %1 contient l&apos;octet %2, qui ne commence aucun caractère que XML peut contenir.</translation>
+    </message>
+    <message>
+        <source>The package holds the byte %1, which starts no character that XML can hold.</source>
+        <translation>Le paquet contient l&apos;octet %1, qui ne commence aucun caractère que XML peut contenir.</translation>
+    </message>
+    <message>
+        <source>The field %1 cannot be saved: its key is longer than 4 KiB.</source>
+        <translation>Le champ %1 ne peut pas être enregistré : sa clé dépasse 4 Kio.</translation>
+    </message>
+    <message>
+        <source>The field %1 is too long to be saved: a tag holds at most 1 MiB.</source>
+        <translation>Le champ %1 est trop long pour être enregistré : une balise contient au plus 1 Mio.</translation>
+    </message>
+    <message>
+        <source>The package is too long to be saved: a tag holds at most 1 MiB.</source>
+        <translation>Le paquet est trop long pour être enregistré : une balise contient au plus 1 Mio.</translation>
+    </message>
+    <message>
+        <source>A &quot;.&quot; or &quot;[&quot; is missing after the selector.</source>
+        <translation>Il manque un «&#xa0;.&#xa0;» ou un «&#xa0;[&#xa0;» après le sélecteur.</translation>
+    </message>
+    <message>
+        <source>The name of a field is missing.</source>
+        <translation>Il manque le nom d&apos;un champ.</translation>
+    </message>
+    <message>
+        <source>The name of a field cannot contain &quot;]&quot; or &quot;\&quot;.</source>
+        <translation>Le nom d&apos;un champ ne peut contenir ni «&#xa0;]&#xa0;» ni «&#xa0;\&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A &quot;\&quot; must precede &quot;]&quot;, &quot;\&quot; or &quot;+&quot;.</source>
+        <translation>Un «&#xa0;\&#xa0;» doit précéder «&#xa0;]&#xa0;», «&#xa0;\&#xa0;» ou «&#xa0;+&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The &quot;]&quot; of this selector is missing.</source>
+        <translation>Il manque le «&#xa0;]&#xa0;» de ce sélecteur.</translation>
+    </message>
+    <message>
+        <source>The end tag has no start tag.</source>
+        <translation>La balise de fin n&apos;a pas de balise de début.</translation>
+    </message>
+    <message>
+        <source>The element &lt;speak&gt; is within another element; it can only be the root.</source>
+        <translation>L&apos;élément &lt;speak&gt; est dans un autre élément ; il ne peut être que la racine.</translation>
+    </message>
+    <message>
+        <source>The repeat &quot;%1&quot; is malformed; it is a number, or a range such as 0-1 or 1-.</source>
+        <translation>La répétition «&#xa0;%1&#xa0;» est mal formée ; c&apos;est un nombre, ou un intervalle tel que 0-1 ou 1-.</translation>
+    </message>
+    <message>
+        <source>There is text beside the alternatives of &lt;one-of&gt;; each of them is an &lt;item&gt;.</source>
+        <translation>Il y a du texte à côté des choix de &lt;one-of&gt; ; chacun d&apos;eux est un &lt;item&gt;.</translation>
+    </message>
+    <message>
+        <source>The script ends while %1 is open.</source>
+        <translation>Le script s&apos;arrête alors que %1 est ouvert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be saved: %2. The old content of &quot;%3&quot; is lost: %4.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être enregistré : %2. L&apos;ancien contenu de «&#xa0;%3&#xa0;» est perdu : %4.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be saved: %2.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être enregistré : %2.</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>c&apos;est un lien symbolique</translation>
+    </message>
+    <message>
+        <source>it is a link to a file that is not there</source>
+        <translation>c&apos;est un lien vers un fichier qui n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>un autre programme l&apos;a verrouillé</translation>
+    </message>
+    <message>
+        <source>another program has changed it since it was read</source>
+        <translation>un autre programme l&apos;a modifié depuis sa lecture</translation>
+    </message>
+    <message>
+        <source>another program has replaced it</source>
+        <translation>un autre programme l&apos;a remplacé</translation>
+    </message>
+    <message>
+        <source>%1, and its old content is lost; the new one is in &quot;%2&quot;</source>
+        <translation>%1, et son ancien contenu est perdu ; le nouveau est dans «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>it is a device</source>
+        <translation>c&apos;est un périphérique</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>il dépasse %1</translation>
+    </message>
+</context>
+<context>
     <name>zel-package</name>
     <message>
         <source>Standard output cannot be written: %1.</source>
@@ -72,18 +378,6 @@
         <translation>message</translation>
     </message>
     <message>
-        <source>Explain what &apos;validate&apos; finds</source>
-        <translation>Expliquer ce que trouve &apos;validate&apos;</translation>
-    </message>
-    <message>
-        <source>[ID]</source>
-        <translation>[ID]</translation>
-    </message>
-    <message>
-        <source>Tells what the rule ID of &apos;validate&apos; is for and how to mend what it finds; without an ID, lists all rules.</source>
-        <translation>Dit à quoi sert la règle ID de &apos;validate&apos; et comment corriger ce qu&apos;elle trouve ; sans ID, énumère toutes les règles.</translation>
-    </message>
-    <message>
         <source>Standard input.</source>
         <translation>Entrée standard.</translation>
     </message>
@@ -103,22 +397,6 @@
     <message>
         <source>Rewrite manifests in the canonical form</source>
         <translation>Réécrire des manifestes sous forme canonique</translation>
-    </message>
-    <message>
-        <source>FILE... [--check]</source>
-        <translation>FICHIER... [--check]</translation>
-    </message>
-    <message>
-        <source>Rewrites each FILE in the canonical form, with nothing lost: comments, and elements and attributes that are not known, stay. A file that is in that form already is left alone. &apos;-&apos; takes standard input and writes to standard output.</source>
-        <translation>Réécrit chaque FICHIER sous forme canonique sans rien perdre : les commentaires, et les éléments et attributs inconnus, restent. Un fichier qui a déjà cette forme n&apos;est pas touché. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
-    </message>
-    <message>
-        <source>The language &apos;%1&apos; is not a known one.</source>
-        <translation>La langue &apos;%1&apos; n&apos;est pas connue.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a language code; &apos;zel-package languages&apos; lists those that are known.</source>
-        <translation>&apos;%1&apos; n&apos;est pas un code de langue ; &apos;zel-package languages&apos; énumère ceux qui sont connus.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a language code; did you mean %2?</source>
@@ -141,18 +419,6 @@
         <translation>Énumérer les langues connues</translation>
     </message>
     <message>
-        <source>Lists the languages that are known: the code that manifests use, the name, the code of the speech engine where it has a voice, and the name in the language itself. A manifest may use others too.</source>
-        <translation>Énumère les langues connues : le code qu&apos;utilisent les manifestes, le nom, le code du moteur vocal s&apos;il a une voix, et le nom dans la langue elle-même. Un manifeste peut en utiliser d&apos;autres.</translation>
-    </message>
-    <message>
-        <source>The file cannot be opened: %1.</source>
-        <translation>Le fichier ne peut pas être ouvert : %1.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>Le fichier ne peut pas être lu : %1.</translation>
-    </message>
-    <message>
         <source>The package&apos;s identifier: at most 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, not digits alone.</source>
         <translation>L&apos;identifiant du paquet : 50 caractères au plus parmi a-z, 0-9, &apos;_&apos; et &apos;-&apos;, pas seulement des chiffres.</translation>
     </message>
@@ -165,36 +431,8 @@
         <translation>Une langue dans laquelle le paquet fonctionne, par exemple fr_FR ; peut être donnée plusieurs fois. %1 si aucune n&apos;est donnée.</translation>
     </message>
     <message>
-        <source>The file cannot be made: %1.</source>
-        <translation>Le fichier ne peut pas être créé : %1.</translation>
-    </message>
-    <message>
-        <source>The file cannot be written: %1.</source>
-        <translation>Le fichier ne peut pas être écrit : %1.</translation>
-    </message>
-    <message>
-        <source>%1 &apos;zel-package explain uid-invalid&apos; says what a UID is.</source>
-        <translation>%1 &apos;zel-package explain uid-invalid&apos; dit ce qu&apos;est un UID.</translation>
-    </message>
-    <message>
-        <source>A manifest of version %1; what it still needs: %2.</source>
-        <translation>Un manifeste de version %1 ; ce qu&apos;il lui manque encore : %2.</translation>
-    </message>
-    <message>
-        <source>A package needs a --uid.</source>
-        <translation>Un paquet a besoin d&apos;un --uid.</translation>
-    </message>
-    <message>
-        <source>Make a new manifest</source>
-        <translation>Créer un nouveau manifeste</translation>
-    </message>
-    <message>
         <source>FILE --uid UID [--name TEXT] [--language CODE]...</source>
         <translation>FICHIER --uid UID [--name TEXTE] [--language CODE]...</translation>
-    </message>
-    <message>
-        <source>Makes FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
-        <translation>Crée FICHIER, le manifeste d&apos;un nouveau paquet de version 1.0.0. Un fichier existant n&apos;est jamais écrasé. &apos;-&apos; écrit sur la sortie standard.</translation>
     </message>
     <message>
         <source>Usage: %1</source>
@@ -203,10 +441,6 @@
     <message>
         <source>Commands</source>
         <translation>Commandes</translation>
-    </message>
-    <message>
-        <source>Show this help; after a command, that command&apos;s.</source>
-        <translation>Montrer cette aide ; après une commande, celle de cette commande.</translation>
     </message>
     <message>
         <source>Show the version of the program.</source>
@@ -229,24 +463,12 @@
         <translation> ; &apos;%1 --help&apos; énumère les options.</translation>
     </message>
     <message>
-        <source>An argument is missing: %1</source>
-        <translation>Il manque un argument : %1</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is one argument too many: %2</source>
-        <translation>&apos;%1&apos; est un argument de trop : %2</translation>
-    </message>
-    <message>
         <source>There is no command &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de commande &apos;%1&apos;%2</translation>
     </message>
     <message>
         <source>; &apos;zel-package --help&apos; lists the commands.</source>
         <translation> ; &apos;zel-package --help&apos; énumère les commandes.</translation>
-    </message>
-    <message>
-        <source>A command is missing; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>Il manque une commande ; &apos;zel-package --help&apos; énumère les commandes.</translation>
     </message>
     <message>
         <source>The manifest is malformed.</source>
@@ -293,16 +515,8 @@
         <translation>--format json montre toutes les langues et n&apos;accepte pas --language.</translation>
     </message>
     <message>
-        <source>Show what a manifest says</source>
-        <translation>Montrer ce que dit un manifeste</translation>
-    </message>
-    <message>
         <source>FILE [--language CODE] [--format text|json]</source>
         <translation>FICHIER [--language CODE] [--format text|json]</translation>
-    </message>
-    <message>
-        <source>Shows all that the manifest in FILE says, and how far it is translated. A missing text is replaced as an application does it: by the one in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
-        <translation>Montre tout ce que dit le manifeste de FICHIER, et où en est sa traduction. Un texte manquant est remplacé comme le fait une application : par celui de la langue par défaut puis, pour un nom, par l&apos;uid ou le chemin. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
         <source>missing in %1</source>
@@ -387,10 +601,6 @@
     <message>
         <source>%1 if</source>
         <translation>%1 si</translation>
-    </message>
-    <message>
-        <source>users may ask for it</source>
-        <translation>l&apos;utilisateur peut le demander</translation>
     </message>
     <message>
         <source>this is the path</source>
@@ -497,18 +707,6 @@
         <translation>Affiche ce qui ne va pas dans chaque manifeste, sous la forme FICHIER:LIGNE: error: texte (champ) [id] ; la ligne est celle du champ ou, s&apos;il manque, de ce qui devrait le contenir. &apos;zel-package explain ID&apos; en dit plus. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>It cannot be empty.</source>
-        <translation>Cela ne peut pas être vide.</translation>
-    </message>
-    <message>
-        <source>A package has a version.</source>
-        <translation>Un paquet a une version.</translation>
-    </message>
-    <message>
-        <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
-        <translation>Crée, montre, vérifie, modifie et réécrit les manifestes de paquets d&apos;applications pour robots.</translation>
-    </message>
-    <message>
         <source>Write nothing; print what would change, as a unified diff.</source>
         <translation>Ne rien écrire ; afficher ce qui changerait, sous forme de diff unifié.</translation>
     </message>
@@ -521,26 +719,6 @@
         <translation>Écrire dans ce fichier ; sur la sortie standard s&apos;il n&apos;est pas donné, ou pour &apos;-&apos;.</translation>
     </message>
     <message>
-        <source>%1 stays as it is: %2</source>
-        <translation>%1 reste tel quel : %2</translation>
-    </message>
-    <message>
-        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
-        <translation>Ceci a déjà été publié ; les scripts gardés à côté de ses textes sont supprimés.</translation>
-    </message>
-    <message>
-        <source>Make the manifest of a package that is to be published</source>
-        <translation>Créer le manifeste d&apos;un paquet à publier</translation>
-    </message>
-    <message>
-        <source>FILE [-o OUT]</source>
-        <translation>FICHIER [-o SORTIE]</translation>
-    </message>
-    <message>
-        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
-        <translation>Écrit le manifeste de FICHIER tel qu&apos;il est publié : sans les textes dans les langues que le paquet n&apos;offre plus, et avec du texte simple à la place des scripts de parole, qui sont gardés dans une variante à usage privé de leur langue. Un texte qui est un script mal formé reste tel quel, et est signalé. &apos;-&apos; lit l&apos;entrée standard.</translation>
-    </message>
-    <message>
         <source>robot</source>
         <translation>robot</translation>
     </message>
@@ -551,10 +729,6 @@
     <message>
         <source>List the known robots</source>
         <translation>Énumérer les robots connus</translation>
-    </message>
-    <message>
-        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
-        <translation>Énumère les robots qu&apos;un paquet peut exiger, familles et modèles, et pour chacun le modèle d&apos;une exigence ; il est vide pour tout robot. Un manifeste peut en exiger d&apos;autres.</translation>
     </message>
     <message>
         <source>Scripts in</source>
@@ -581,14 +755,6 @@
         <translation>&apos;@INDEX&apos; avec une valeur ajoute une entrée, donc suit la clé [+].</translation>
     </message>
     <message>
-        <source>The FILE to edit is missing.</source>
-        <translation>Le FILE à modifier manque.</translation>
-    </message>
-    <message>
-        <source>&apos;-&apos; can be given once only.</source>
-        <translation>&apos;-&apos; ne peut être donné qu&apos;une fois.</translation>
-    </message>
-    <message>
         <source>Also removes %1.</source>
         <translation>Supprime aussi %1.</translation>
     </message>
@@ -599,14 +765,6 @@
     <message>
         <source>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</source>
         <translation>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</translation>
-    </message>
-    <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so that a command can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
-        <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. Une VALUE vide efface un texte et supprime une entrée ou un élément : behaviors[greet]=. La clé [+] en ajoute à une liste : supportedLanguages[+]=fr_FR, behaviors[+].path=greet ; &apos;@INDEX&apos; l&apos;ajoute à un index, à partir de 0 : supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; déplace une entrée : behaviors[greet]@0. Ajouter ce qui existe et supprimer ce qui n&apos;existe pas ne change rien, si bien qu&apos;une commande peut être répétée. Tous les champs de tous les fichiers sont modifiés ou, si l&apos;un d&apos;eux est faux, aucun. Les fichiers sont réécrits sous la forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard ; un fichier dont le nom contient &apos;=&apos; est donné avec son dossier, comme ./a=b.xml.</translation>
-    </message>
-    <message>
-        <source>There is none.</source>
-        <translation>Il n&apos;y en a pas.</translation>
     </message>
     <message>
         <source>Print fields of a manifest</source>
@@ -621,8 +779,165 @@
         <translation>Affiche les valeurs de champs, nommés comme dans &apos;show --format json&apos; : author, names[fr_FR], behaviors[greet].tags[en_US][0]. Pour une liste ou une entrée, comme names ou behaviors[greet], affiche FIELD=VALUE pour chacun de ses champs. Le code de sortie est 1 si le paquet n&apos;a pas cette entrée. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>First make the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
-        <translation>Faire d&apos;abord les modifications de ce fichier JSON, décrit par schema/edits.schema.json ; &apos;-&apos; est l&apos;entrée standard.</translation>
+        <source>The language &apos;%1&apos; is unknown, but its code is accepted.</source>
+        <translation>La langue &apos;%1&apos; est inconnue, mais son code est accepté.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a language code; &apos;zel-package languages&apos; lists the known codes.</source>
+        <translation>&apos;%1&apos; n&apos;est pas un code de langue ; &apos;zel-package languages&apos; affiche les codes connus.</translation>
+    </message>
+    <message>
+        <source>The argument &apos;%1&apos; is not valid UTF-8.</source>
+        <translation>L&apos;argument &apos;%1&apos; n&apos;est pas de l&apos;UTF-8 valide.</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason as a sentence of its own.</extracomment>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>[--format text|json]</source>
+        <translation>[--format text|json]</translation>
+    </message>
+    <message>
+        <source>Lists the known languages: the code in manifests, the name, the code of the speech engine if it has a voice, and the name in the language itself. Manifests may use other languages too.</source>
+        <translation>Affiche les langues connues : le code dans les manifestes, le nom, le code du moteur vocal s&apos;il a une voix, et le nom dans la langue elle-même. Les manifestes peuvent utiliser d&apos;autres langues.</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, with the model that a robot requirement names; it is empty for any robot. Manifests may require other robots too.</source>
+        <translation>Affiche les robots qu&apos;un paquet peut exiger, familles et modèles, avec le modèle que nomme une exigence de robot ; il est vide pour n&apos;importe quel robot. Les manifestes peuvent exiger d&apos;autres robots.</translation>
+    </message>
+    <message>
+        <source>--format json needs --check.</source>
+        <translation>--format json exige --check.</translation>
+    </message>
+    <message>
+        <source>FILE... [--check [--format text|json]]</source>
+        <translation>FICHIER... [--check [--format text|json]]</translation>
+    </message>
+    <message>
+        <source>Rewrites each FILE in the canonical form, and preserves comments, unknown elements and unknown attributes. A file already in that form is left unchanged. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <translation>Réécrit chaque FICHIER dans la forme canonique et conserve les commentaires, les éléments inconnus et les attributs inconnus. Un fichier déjà dans cette forme n&apos;est pas modifié. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid UID; &apos;zel-package explain uid-invalid&apos; describes one.</source>
+        <translation>&apos;%1&apos; n&apos;est pas un UID valide ; &apos;zel-package explain uid-invalid&apos; en décrit la forme.</translation>
+    </message>
+    <message>
+        <source>Created %1, version %2. Still needed: %3.</source>
+        <translation>%1 créé, version %2. Il manque encore : %3.</translation>
+    </message>
+    <message>
+        <source>Missing option --uid UID.</source>
+        <translation>Il manque l&apos;option --uid UID.</translation>
+    </message>
+    <message>
+        <source>Create a manifest</source>
+        <translation>Créer un manifeste</translation>
+    </message>
+    <message>
+        <source>Creates FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
+        <translation>Crée FICHIER, le manifeste d&apos;un nouveau paquet en version 1.0.0. Un fichier existant n&apos;est jamais écrasé. &apos;-&apos; écrit sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>%1: Malformed speech script (line %2, column %3): %4</source>
+        <translation>%1 : script de parole mal formé (ligne %2, colonne %3) : %4</translation>
+    </message>
+    <message>
+        <source>The output cannot be the manifest itself.</source>
+        <translation>La sortie ne peut pas être le manifeste lui-même.</translation>
+    </message>
+    <message>
+        <source>--format json prints to standard output and needs an --output.</source>
+        <translation>--format json écrit sur la sortie standard et exige --output.</translation>
+    </message>
+    <message>
+        <source>This manifest has been published before; the scripts beside its texts are dropped.</source>
+        <translation>Ce manifeste a déjà été publié ; les scripts conservés à côté de ses textes sont supprimés.</translation>
+    </message>
+    <message>
+        <source>Write a manifest for publication</source>
+        <translation>Écrire un manifeste pour la publication</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT] [--format text|json]</source>
+        <translation>FICHIER [-o SORTIE] [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE for publication: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
+        <translation>Écrit le manifeste de FICHIER pour la publication : sans les textes dans des langues que le paquet ne propose plus, et avec du texte simple à la place des scripts de parole, conservés dans une variante à usage privé de leur langue. Si un texte est un script mal formé, le signale et n&apos;écrit rien. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Creates, shows, checks, edits and rewrites the manifests of robot application packages.</source>
+        <translation>Crée, affiche, vérifie, modifie et réécrit les manifestes de paquets d&apos;applications pour robots.</translation>
+    </message>
+    <message>
+        <source>Show this help; after a command, its help.</source>
+        <translation>Afficher cette aide ; après une commande, l&apos;aide de celle-ci.</translation>
+    </message>
+    <message>
+        <source>Missing argument %1; usage: %2</source>
+        <translation>Il manque l&apos;argument %1 ; utilisation : %2</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>Argument inattendu &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Missing command; &apos;zel-package --help&apos; lists the commands.</source>
+        <translation>Il manque une commande ; &apos;zel-package --help&apos; affiche les commandes.</translation>
+    </message>
+    <message>
+        <source>The value cannot be empty.</source>
+        <translation>La valeur ne peut pas être vide.</translation>
+    </message>
+    <message>
+        <source>It needs a language, as in %1[en_US].</source>
+        <translation>Il faut une langue, comme dans %1[en_US].</translation>
+    </message>
+    <message>
+        <source>First apply the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <translation>Appliquer d&apos;abord les modifications de ce fichier JSON, que décrit schema/edits.schema.json ; &apos;-&apos; est l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Missing argument FILE.</source>
+        <translation>Il manque l&apos;argument FICHIER.</translation>
+    </message>
+    <message>
+        <source>&apos;-&apos; can be given only once.</source>
+        <translation>&apos;-&apos; ne peut être donné qu&apos;une fois.</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so that commands can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. Une VALUE vide efface un texte et supprime une entrée ou un élément : behaviors[greet]=. La clé [+] en ajoute à une liste : supportedLanguages[+]=fr_FR, behaviors[+].path=greet ; &apos;@INDEX&apos; l&apos;ajoute à un index, à partir de 0 : supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; déplace une entrée : behaviors[greet]@0. Ajouter une entrée présente ou supprimer une entrée absente ne change rien, si bien que les commandes peuvent être répétées. Tous les champs de tous les fichiers sont modifiés ou, si l&apos;un d&apos;eux est faux, aucun. Les fichiers sont réécrits sous la forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard ; un fichier dont le nom contient &apos;=&apos; est donné avec son dossier, comme ./a=b.xml.</translation>
+    </message>
+    <message>
+        <source>The package has no such entry.</source>
+        <translation>Le paquet n&apos;a pas cette entrée.</translation>
+    </message>
+    <message>
+        <source>Show a manifest</source>
+        <translation>Afficher un manifeste</translation>
+    </message>
+    <message>
+        <source>Shows every field of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
+        <translation>Affiche tous les champs du manifeste dans FICHIER et l&apos;avancement de sa traduction. Un texte manquant est remplacé comme dans une application : par le texte dans la langue par défaut, puis, pour un nom, par l&apos;uid ou le chemin. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>users may request it</source>
+        <translation>les utilisateurs peuvent le demander</translation>
+    </message>
+    <message>
+        <source>Explain the rules of &apos;validate&apos;</source>
+        <translation>Expliquer les règles de &apos;validate&apos;</translation>
+    </message>
+    <message>
+        <source>[ID] [--format text|json]</source>
+        <translation>[ID] [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
+        <translation>Explique à quoi sert la règle ID de &apos;validate&apos; et comment corriger ce qu&apos;elle signale ; sans ID, affiche toutes les règles.</translation>
     </message>
     <message>
         <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
@@ -639,6 +954,10 @@
     <message>
         <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
         <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
+    </message>
+    <message>
+        <source>The version of a package has three fields, so it becomes %1.</source>
+        <translation>La version d&apos;un paquet a trois nombres, elle devient donc %1.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,312 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; の後に余分な値があります。</translation>
+    </message>
+</context>
+<context>
+    <name>Tano</name>
+    <message>
+        <source>There is not enough memory for the manifest.</source>
+        <translation>マニフェストを読み込むためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>The text is UTF-16; a manifest is UTF-8.</source>
+        <translation>テキストは UTF-16 です。マニフェストは UTF-8 です。</translation>
+    </message>
+    <message>
+        <source>XML version &quot;%1&quot; is not supported; a manifest is XML 1.0.</source>
+        <translation>XML のバージョン「%1」には対応していません。マニフェストは XML 1.0 です。</translation>
+    </message>
+    <message>
+        <source>The encoding &quot;%1&quot; is not supported; a manifest is UTF-8.</source>
+        <translation>文字コード「%1」には対応していません。マニフェストは UTF-8 です。</translation>
+    </message>
+    <message>
+        <source>A document type declaration is not allowed.</source>
+        <translation>文書型宣言は使えません。</translation>
+    </message>
+    <message>
+        <source>An &quot;&amp;&quot; begins a reference here; the character itself is written &amp;amp;.</source>
+        <translation>ここでは「&amp;」が参照の始まりになります。文字そのものは &amp;amp; と書きます。</translation>
+    </message>
+    <message>
+        <source>A NUL byte is not allowed.</source>
+        <translation>NUL バイトは使えません。</translation>
+    </message>
+    <message>
+        <source>The bytes here are not valid UTF-8, or encode a character that XML does not allow.</source>
+        <translation>ここのバイト列は正しい UTF-8 ではないか、XML で使えない文字を表しています。</translation>
+    </message>
+    <message>
+        <source>A &quot;&lt;&quot; begins a tag here; the character itself is written &amp;lt;.</source>
+        <translation>ここでは「&lt;」がタグの始まりになります。文字そのものは &amp;lt; と書きます。</translation>
+    </message>
+    <message>
+        <source>The text is not well-formed XML.</source>
+        <translation>テキストは整形式の XML ではありません。</translation>
+    </message>
+    <message>
+        <source>The text is not well-formed XML: %1.</source>
+        <translation>テキストは整形式の XML ではありません: %1。</translation>
+    </message>
+    <message>
+        <source>A control character is not allowed.</source>
+        <translation>制御文字は使えません。</translation>
+    </message>
+    <message>
+        <source>The character &quot;%1&quot; is not allowed here.</source>
+        <translation>ここでは文字「%1」を使えません。</translation>
+    </message>
+    <message>
+        <source>The manifest ends in the middle of a tag or character.</source>
+        <translation>マニフェストがタグまたは文字の途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>The manifest ends in the middle of a CDATA section.</source>
+        <translation>マニフェストが CDATA セクションの途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>The script ends in the middle of a tag or character.</source>
+        <translation>スクリプトがタグまたは文字の途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>The script ends in the middle of a CDATA section.</source>
+        <translation>スクリプトが CDATA セクションの途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>The end tag does not belong to the element that is open.</source>
+        <translation>終了タグが開いている要素と一致しません。</translation>
+    </message>
+    <message>
+        <source>An attribute occurs twice on one element.</source>
+        <translation>1 つの要素に同じ属性が 2 回あります。</translation>
+    </message>
+    <message>
+        <source>The entity is not defined; only &amp;amp;, &amp;lt;, &amp;gt;, &amp;quot; and &amp;apos; are.</source>
+        <translation>この実体は定義されていません。使えるのは &amp;amp;、&amp;lt;、&amp;gt;、&amp;quot;、&amp;apos; だけです。</translation>
+    </message>
+    <message>
+        <source>The text is not XML: it does not begin with a tag.</source>
+        <translation>テキストは XML ではありません。タグで始まっていません。</translation>
+    </message>
+    <message>
+        <source>The reference is to a character that XML does not allow.</source>
+        <translation>参照先の文字は XML では使えません。</translation>
+    </message>
+    <message>
+        <source>There is content after the end of the root element.</source>
+        <translation>ルート要素の終わりの後に内容があります。</translation>
+    </message>
+    <message>
+        <source>The XML declaration is not at the very beginning.</source>
+        <translation>XML 宣言が先頭にありません。</translation>
+    </message>
+    <message>
+        <source>The name of a processing instruction, &quot;%1&quot;, cannot contain a colon.</source>
+        <translation>処理命令の名前「%1」にコロンは使えません。</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is not a prefix and a name with a colon between them.</source>
+        <translation>名前「%1」は、コロンで区切った接頭辞と名前の形になっていません。</translation>
+    </message>
+    <message>
+        <source>The prefix &quot;%1&quot; is declared without a namespace.</source>
+        <translation>接頭辞「%1」が名前空間なしで宣言されています。</translation>
+    </message>
+    <message>
+        <source>The prefix &quot;%1&quot; is not declared.</source>
+        <translation>接頭辞「%1」が宣言されていません。</translation>
+    </message>
+    <message>
+        <source>The declaration &quot;%1&quot; is of a reserved prefix or namespace.</source>
+        <translation>宣言「%1」は予約された接頭辞または名前空間のものです。</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; occurs twice in the same namespace.</source>
+        <translation>属性「%1」が同じ名前空間に 2 回あります。</translation>
+    </message>
+    <message>
+        <source>The root element is &lt;%1&gt; instead of &lt;package&gt;.</source>
+        <translation>ルート要素が &lt;package&gt; ではなく &lt;%1&gt; です。</translation>
+    </message>
+    <message>
+        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest is in none.</source>
+        <translation>ルート要素 &lt;package&gt; が名前空間「%1」にあります。マニフェストは名前空間に属しません。</translation>
+    </message>
+    <message>
+        <source>Text is not allowed in &lt;%1&gt;.</source>
+        <translation>&lt;%1&gt; の中にテキストは書けません。</translation>
+    </message>
+    <message>
+        <source>The element %1 occurs twice in %2.</source>
+        <translation>要素 %1 が %2 の中に 2 回あります。</translation>
+    </message>
+    <message>
+        <source>The manifest is empty.</source>
+        <translation>マニフェストが空です。</translation>
+    </message>
+    <message>
+        <source>The manifest ends before its root element.</source>
+        <translation>マニフェストがルート要素の前で終わっています。</translation>
+    </message>
+    <message>
+        <source>The manifest ends while %1 is open.</source>
+        <translation>%1 が開いたままマニフェストが終わっています。</translation>
+    </message>
+    <message>
+        <source>The format &quot;%1&quot; is newer than the one that this version reads, &quot;%2&quot;.</source>
+        <translation>形式「%1」は、このバージョンが読める形式「%2」より新しいものです。</translation>
+    </message>
+    <message>
+        <source>The format &quot;%1&quot; is unknown; this version reads &quot;%2&quot;.</source>
+        <translation>形式「%1」は不明です。このバージョンが読めるのは「%2」です。</translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; lacks the attribute &quot;%2&quot;.</source>
+        <translation>要素 &lt;%1&gt; に属性「%2」がありません。</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of &lt;%2&gt; is longer than 4 KiB.</source>
+        <translation>&lt;%2&gt; の属性「%1」が 4 KiB を超えています。</translation>
+    </message>
+    <message>
+        <source>The attribute &quot;%1&quot; of &lt;%2&gt; is &quot;%3&quot; instead of &quot;true&quot; or &quot;false&quot;.</source>
+        <translation>&lt;%2&gt; の属性「%1」が「true」でも「false」でもなく「%3」です。</translation>
+    </message>
+    <message>
+        <source>A tag, comment or processing instruction is longer than 1 MiB.</source>
+        <translation>タグ、コメント、または処理命令が 1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>More than %1 elements are nested.</source>
+        <translation>要素の入れ子が %1 段を超えています。</translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; has more than %2 attributes.</source>
+        <translation>要素 &lt;%1&gt; の属性が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>The field %1 holds the control character %2, which XML cannot hold.</source>
+        <translation>フィールド %1 に、XML に書けない制御文字 %2 が含まれています。</translation>
+    </message>
+    <message>
+        <source>The package holds the control character %1, which XML cannot hold.</source>
+        <translation>パッケージに、XML に書けない制御文字 %1 が含まれています。</translation>
+    </message>
+    <message>
+        <source>The field %1 holds the byte %2, which starts no character that XML can hold.</source>
+        <translation>フィールド %1 に、XML に書ける文字の始まりではないバイト %2 が含まれています。</translation>
+    </message>
+    <message>
+        <source>The package holds the byte %1, which starts no character that XML can hold.</source>
+        <translation>パッケージに、XML に書ける文字の始まりではないバイト %1 が含まれています。</translation>
+    </message>
+    <message>
+        <source>The field %1 cannot be saved: its key is longer than 4 KiB.</source>
+        <translation>フィールド %1 を保存できません。キーが 4 KiB を超えています。</translation>
+    </message>
+    <message>
+        <source>The field %1 is too long to be saved: a tag holds at most 1 MiB.</source>
+        <translation>フィールド %1 は長すぎて保存できません。タグは 1 MiB までです。</translation>
+    </message>
+    <message>
+        <source>The package is too long to be saved: a tag holds at most 1 MiB.</source>
+        <translation>パッケージは長すぎて保存できません。タグは 1 MiB までです。</translation>
+    </message>
+    <message>
+        <source>A &quot;.&quot; or &quot;[&quot; is missing after the selector.</source>
+        <translation>セレクターの後に「.」または「[」がありません。</translation>
+    </message>
+    <message>
+        <source>The name of a field is missing.</source>
+        <translation>フィールド名がありません。</translation>
+    </message>
+    <message>
+        <source>The name of a field cannot contain &quot;]&quot; or &quot;\&quot;.</source>
+        <translation>フィールド名に「]」や「\」は使えません。</translation>
+    </message>
+    <message>
+        <source>A &quot;\&quot; must precede &quot;]&quot;, &quot;\&quot; or &quot;+&quot;.</source>
+        <translation>「\」の後には「]」「\」「+」のいずれかが必要です。</translation>
+    </message>
+    <message>
+        <source>The &quot;]&quot; of this selector is missing.</source>
+        <translation>このセレクターの「]」がありません。</translation>
+    </message>
+    <message>
+        <source>The end tag has no start tag.</source>
+        <translation>終了タグに対応する開始タグがありません。</translation>
+    </message>
+    <message>
+        <source>The element &lt;speak&gt; is within another element; it can only be the root.</source>
+        <translation>要素 &lt;speak&gt; が別の要素の中にあります。ルートにしか使えません。</translation>
+    </message>
+    <message>
+        <source>The repeat &quot;%1&quot; is malformed; it is a number, or a range such as 0-1 or 1-.</source>
+        <translation>繰り返し「%1」の形式が正しくありません。数、または 0-1 や 1- のような範囲です。</translation>
+    </message>
+    <message>
+        <source>There is text beside the alternatives of &lt;one-of&gt;; each of them is an &lt;item&gt;.</source>
+        <translation>&lt;one-of&gt; の選択肢の外にテキストがあります。選択肢はそれぞれ &lt;item&gt; です。</translation>
+    </message>
+    <message>
+        <source>The script ends while %1 is open.</source>
+        <translation>%1 が開いたままスクリプトが終わっています。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be saved: %2. The old content of &quot;%3&quot; is lost: %4.</source>
+        <translation>ファイル「%1」を保存できません: %2。「%3」の元の内容は失われました: %4。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be saved: %2.</source>
+        <translation>ファイル「%1」を保存できません: %2。</translation>
+    </message>
+    <message>
+        <source>it is a symbolic link</source>
+        <translation>シンボリックリンクです</translation>
+    </message>
+    <message>
+        <source>it is a link to a file that is not there</source>
+        <translation>リンク先のファイルがありません</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>別のプログラムがロックしています</translation>
+    </message>
+    <message>
+        <source>another program has changed it since it was read</source>
+        <translation>読み込んだ後に別のプログラムが変更しました</translation>
+    </message>
+    <message>
+        <source>another program has replaced it</source>
+        <translation>別のプログラムが置き換えました</translation>
+    </message>
+    <message>
+        <source>%1, and its old content is lost; the new one is in &quot;%2&quot;</source>
+        <translation>%1。元の内容は失われました。新しい内容は「%2」にあります</translation>
+    </message>
+    <message>
+        <source>it is a device</source>
+        <translation>デバイスです</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>%1 を超えています</translation>
+    </message>
+</context>
+<context>
     <name>zel-package</name>
     <message>
         <source>Standard output cannot be written: %1.</source>
@@ -72,18 +378,6 @@
         <translation>メッセージ</translation>
     </message>
     <message>
-        <source>Explain what &apos;validate&apos; finds</source>
-        <translation>&apos;validate&apos; の指摘を説明する</translation>
-    </message>
-    <message>
-        <source>[ID]</source>
-        <translation>[ID]</translation>
-    </message>
-    <message>
-        <source>Tells what the rule ID of &apos;validate&apos; is for and how to mend what it finds; without an ID, lists all rules.</source>
-        <translation>&apos;validate&apos; の規則 ID の目的と、指摘された点の直し方を示します。ID がない場合は、すべての規則を一覧にします。</translation>
-    </message>
-    <message>
         <source>Standard input.</source>
         <translation>標準入力。</translation>
     </message>
@@ -103,22 +397,6 @@
     <message>
         <source>Rewrite manifests in the canonical form</source>
         <translation>マニフェストを正規形に書き直す</translation>
-    </message>
-    <message>
-        <source>FILE... [--check]</source>
-        <translation>ファイル... [--check]</translation>
-    </message>
-    <message>
-        <source>Rewrites each FILE in the canonical form, with nothing lost: comments, and elements and attributes that are not known, stay. A file that is in that form already is left alone. &apos;-&apos; takes standard input and writes to standard output.</source>
-        <translation>各ファイルを正規形に書き直します。コメントや未知の要素と属性を含め、何も失われません。すでに正規形のファイルには触れません。&apos;-&apos; は標準入力を読み、標準出力に書き込みます。</translation>
-    </message>
-    <message>
-        <source>The language &apos;%1&apos; is not a known one.</source>
-        <translation>言語 &apos;%1&apos; は既知の言語ではありません。</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a language code; &apos;zel-package languages&apos; lists those that are known.</source>
-        <translation>&apos;%1&apos; は言語コードではありません。既知のコードは &apos;zel-package languages&apos; で一覧できます。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a language code; did you mean %2?</source>
@@ -141,18 +419,6 @@
         <translation>既知の言語を一覧にする</translation>
     </message>
     <message>
-        <source>Lists the languages that are known: the code that manifests use, the name, the code of the speech engine where it has a voice, and the name in the language itself. A manifest may use others too.</source>
-        <translation>既知の言語を一覧にします。マニフェストで使うコード、名前、音声がある場合は音声エンジンのコード、その言語での名前を示します。マニフェストではこれ以外の言語も使えます。</translation>
-    </message>
-    <message>
-        <source>The file cannot be opened: %1.</source>
-        <translation>ファイルを開けません: %1</translation>
-    </message>
-    <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>ファイルを読み込めません: %1</translation>
-    </message>
-    <message>
         <source>The package&apos;s identifier: at most 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, not digits alone.</source>
         <translation>パッケージの識別子。a-z、0-9、&apos;_&apos;、&apos;-&apos; からなる 50 文字以内で、数字だけのものは使えません。</translation>
     </message>
@@ -165,36 +431,8 @@
         <translation>パッケージが対応する言語。例: fr_FR。複数回指定できます。指定がない場合は %1。</translation>
     </message>
     <message>
-        <source>The file cannot be made: %1.</source>
-        <translation>ファイルを作成できません: %1</translation>
-    </message>
-    <message>
-        <source>The file cannot be written: %1.</source>
-        <translation>ファイルに書き込めません: %1</translation>
-    </message>
-    <message>
-        <source>%1 &apos;zel-package explain uid-invalid&apos; says what a UID is.</source>
-        <translation>%1 UID については &apos;zel-package explain uid-invalid&apos; を参照してください。</translation>
-    </message>
-    <message>
-        <source>A manifest of version %1; what it still needs: %2.</source>
-        <translation>バージョン %1 のマニフェスト。まだ必要なもの: %2</translation>
-    </message>
-    <message>
-        <source>A package needs a --uid.</source>
-        <translation>パッケージには --uid が必要です。</translation>
-    </message>
-    <message>
-        <source>Make a new manifest</source>
-        <translation>新しいマニフェストを作成する</translation>
-    </message>
-    <message>
         <source>FILE --uid UID [--name TEXT] [--language CODE]...</source>
         <translation>ファイル --uid UID [--name テキスト] [--language コード]...</translation>
-    </message>
-    <message>
-        <source>Makes FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
-        <translation>バージョン 1.0.0 の新しいパッケージのマニフェストをファイルに作成します。既存のファイルを上書きすることはありません。&apos;-&apos; は標準出力に書き込みます。</translation>
     </message>
     <message>
         <source>Usage: %1</source>
@@ -203,10 +441,6 @@
     <message>
         <source>Commands</source>
         <translation>コマンド</translation>
-    </message>
-    <message>
-        <source>Show this help; after a command, that command&apos;s.</source>
-        <translation>このヘルプを表示する。コマンドの後では、そのコマンドのヘルプを表示する。</translation>
     </message>
     <message>
         <source>Show the version of the program.</source>
@@ -229,24 +463,12 @@
         <translation>。オプションの一覧は &apos;%1 --help&apos; で表示できます。</translation>
     </message>
     <message>
-        <source>An argument is missing: %1</source>
-        <translation>引数が足りません: %1</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is one argument too many: %2</source>
-        <translation>引数 &apos;%1&apos; は余分です: %2</translation>
-    </message>
-    <message>
         <source>There is no command &apos;%1&apos;%2</source>
         <translation>コマンド &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
         <source>; &apos;zel-package --help&apos; lists the commands.</source>
         <translation>。コマンドの一覧は &apos;zel-package --help&apos; で表示できます。</translation>
-    </message>
-    <message>
-        <source>A command is missing; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>コマンドがありません。コマンドの一覧は &apos;zel-package --help&apos; で表示できます。</translation>
     </message>
     <message>
         <source>The manifest is malformed.</source>
@@ -293,16 +515,8 @@
         <translation>--format json はすべての言語を表示するため、--language は指定できません。</translation>
     </message>
     <message>
-        <source>Show what a manifest says</source>
-        <translation>マニフェストの内容を表示する</translation>
-    </message>
-    <message>
         <source>FILE [--language CODE] [--format text|json]</source>
         <translation>ファイル [--language コード] [--format text|json]</translation>
-    </message>
-    <message>
-        <source>Shows all that the manifest in FILE says, and how far it is translated. A missing text is replaced as an application does it: by the one in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
-        <translation>ファイルのマニフェストの内容すべてと、翻訳の進み具合を表示します。欠けているテキストは、アプリケーションと同じように、既定の言語のもの、名前の場合はさらに uid またはパスで補われます。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
         <source>missing in %1</source>
@@ -387,10 +601,6 @@
     <message>
         <source>%1 if</source>
         <translation>%1 の条件</translation>
-    </message>
-    <message>
-        <source>users may ask for it</source>
-        <translation>ユーザーが呼び出せます</translation>
     </message>
     <message>
         <source>this is the path</source>
@@ -497,18 +707,6 @@
         <translation>各マニフェストの問題を「ファイル:行: error: テキスト (フィールド) [id]」の形で表示します。行は、そのフィールドの行、欠けている場合はそれを含むはずの要素の行です。詳しくは &apos;zel-package explain ID&apos; を参照してください。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
-        <source>It cannot be empty.</source>
-        <translation>空にはできません。</translation>
-    </message>
-    <message>
-        <source>A package has a version.</source>
-        <translation>パッケージにはバージョンが必要です。</translation>
-    </message>
-    <message>
-        <source>Makes, shows, checks, edits and rewrites the manifests of robot application packages.</source>
-        <translation>ロボットアプリケーションパッケージのマニフェストを作成、表示、検査、編集、書き直しします。</translation>
-    </message>
-    <message>
         <source>Write nothing; print what would change, as a unified diff.</source>
         <translation>何も書き込まず、変更点を unified diff 形式で表示する。</translation>
     </message>
@@ -521,26 +719,6 @@
         <translation>このファイルに書き込む。指定がないか &apos;-&apos; の場合は標準出力。</translation>
     </message>
     <message>
-        <source>%1 stays as it is: %2</source>
-        <translation>%1 はそのままです: %2</translation>
-    </message>
-    <message>
-        <source>This has been published before; the scripts that it keeps beside its texts are dropped.</source>
-        <translation>すでに公開済みです。テキストと並べて保存されていたスクリプトは破棄されます。</translation>
-    </message>
-    <message>
-        <source>Make the manifest of a package that is to be published</source>
-        <translation>公開するパッケージのマニフェストを作る</translation>
-    </message>
-    <message>
-        <source>FILE [-o OUT]</source>
-        <translation>ファイル [-o 出力先]</translation>
-    </message>
-    <message>
-        <source>Writes the manifest in FILE as it is published: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. A text that is a malformed script stays as it is, and is told of. &apos;-&apos; reads standard input.</source>
-        <translation>ファイルのマニフェストを公開用の形で書き出します。パッケージが提供しなくなった言語のテキストを除き、発話スクリプトをプレーンテキストに置き換えます。スクリプトは、その言語の私用の変種に残されます。形式の正しくないスクリプトであるテキストはそのまま残り、通知されます。&apos;-&apos; は標準入力を読みます。</translation>
-    </message>
-    <message>
         <source>robot</source>
         <translation>ロボット</translation>
     </message>
@@ -551,10 +729,6 @@
     <message>
         <source>List the known robots</source>
         <translation>既知のロボットを一覧にする</translation>
-    </message>
-    <message>
-        <source>Lists the robots that a package may require, families and models, and what the model of a robot requirement is for each; it is empty for any robot. A manifest may require others too.</source>
-        <translation>パッケージが要件にできるロボットをファミリーとモデルで一覧にし、それぞれについてロボット要件のモデルの値を示します。すべてのロボットの場合は空です。マニフェストではこれ以外のロボットも要件にできます。</translation>
     </message>
     <message>
         <source>Scripts in</source>
@@ -581,14 +755,6 @@
         <translation>値のある &apos;@INDEX&apos; は項目を追加するので、キー [+] の後に書きます。</translation>
     </message>
     <message>
-        <source>The FILE to edit is missing.</source>
-        <translation>編集する FILE がありません。</translation>
-    </message>
-    <message>
-        <source>&apos;-&apos; can be given once only.</source>
-        <translation>&apos;-&apos; は一度しか指定できません。</translation>
-    </message>
-    <message>
         <source>Also removes %1.</source>
         <translation>%1 も削除します。</translation>
     </message>
@@ -599,14 +765,6 @@
     <message>
         <source>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</source>
         <translation>FILE... FIELD=VALUE... [--edits FILE] [--dry-run]</translation>
-    </message>
-    <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so that a command can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
-        <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。空の VALUE はテキストを消し、項目を削除します: behaviors[greet]=。キー [+] はリストに追加します: supportedLanguages[+]=fr_FR、behaviors[+].path=greet。&apos;@INDEX&apos; は 0 から数えた位置に追加します: supportedLanguages[+]@0=fr_FR。&apos;ENTRY@INDEX&apos; は項目を移動します: behaviors[greet]@0。あるものの追加とないものの削除は何も変えないので、コマンドは繰り返せます。すべてのファイルのすべてのフィールドを設定し、一つでも誤りがあれば何も設定しません。ファイルは正準形に書き直され、何も失われません。&apos;-&apos; は標準入力を読み、標準出力に書きます。名前に &apos;=&apos; を含むファイルは ./a=b.xml のようにフォルダーと共に指定します。</translation>
-    </message>
-    <message>
-        <source>There is none.</source>
-        <translation>ありません。</translation>
     </message>
     <message>
         <source>Print fields of a manifest</source>
@@ -621,8 +779,165 @@
         <translation>&apos;show --format json&apos; と同じ名前のフィールドの値を表示します: author、names[fr_FR]、behaviors[greet].tags[en_US][0]。names や behaviors[greet] のようなリストや項目では、その各フィールドを FIELD=VALUE と表示します。パッケージにその項目がなければ終了コードは 1 です。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
-        <source>First make the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
-        <translation>最初にこの JSON ファイルの編集を行います。形式は schema/edits.schema.json にあります。&apos;-&apos; は標準入力です。</translation>
+        <source>The language &apos;%1&apos; is unknown, but its code is accepted.</source>
+        <translation>言語 &apos;%1&apos; は不明ですが、コードは受け付けました。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a language code; &apos;zel-package languages&apos; lists the known codes.</source>
+        <translation>&apos;%1&apos; は言語コードではありません。既知のコードは &apos;zel-package languages&apos; で確認できます。</translation>
+    </message>
+    <message>
+        <source>The argument &apos;%1&apos; is not valid UTF-8.</source>
+        <translation>引数 &apos;%1&apos; は正しい UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason as a sentence of its own.</extracomment>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>[--format text|json]</source>
+        <translation>[--format text|json]</translation>
+    </message>
+    <message>
+        <source>Lists the known languages: the code in manifests, the name, the code of the speech engine if it has a voice, and the name in the language itself. Manifests may use other languages too.</source>
+        <translation>既知の言語を一覧表示します。マニフェストでのコード、名前、音声があれば音声エンジンのコード、その言語での名前です。マニフェストではほかの言語も使えます。</translation>
+    </message>
+    <message>
+        <source>Lists the robots that a package may require, families and models, with the model that a robot requirement names; it is empty for any robot. Manifests may require other robots too.</source>
+        <translation>パッケージが必要とできるロボットのシリーズと機種を、ロボット要件に書くモデルとともに一覧表示します。どのロボットでもよい場合、モデルは空です。マニフェストではほかのロボットも指定できます。</translation>
+    </message>
+    <message>
+        <source>--format json needs --check.</source>
+        <translation>--format json には --check が必要です。</translation>
+    </message>
+    <message>
+        <source>FILE... [--check [--format text|json]]</source>
+        <translation>FILE... [--check [--format text|json]]</translation>
+    </message>
+    <message>
+        <source>Rewrites each FILE in the canonical form, and preserves comments, unknown elements and unknown attributes. A file already in that form is left unchanged. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <translation>各 FILE を正準形に書き直します。コメント、未知の要素、未知の属性は保たれます。すでに正準形のファイルは変更しません。&apos;-&apos; は標準入力から読み、標準出力に書きます。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a valid UID; &apos;zel-package explain uid-invalid&apos; describes one.</source>
+        <translation>&apos;%1&apos; は正しい UID ではありません。形式は &apos;zel-package explain uid-invalid&apos; で確認できます。</translation>
+    </message>
+    <message>
+        <source>Created %1, version %2. Still needed: %3.</source>
+        <translation>%1 を作成しました。バージョン %2 です。まだ必要なもの: %3。</translation>
+    </message>
+    <message>
+        <source>Missing option --uid UID.</source>
+        <translation>オプション --uid UID がありません。</translation>
+    </message>
+    <message>
+        <source>Create a manifest</source>
+        <translation>マニフェストを作成する</translation>
+    </message>
+    <message>
+        <source>Creates FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
+        <translation>バージョン 1.0.0 の新しいパッケージのマニフェスト FILE を作成します。既存のファイルは上書きしません。&apos;-&apos; は標準出力に書きます。</translation>
+    </message>
+    <message>
+        <source>%1: Malformed speech script (line %2, column %3): %4</source>
+        <translation>%1: 発話スクリプトの形式が正しくありません (%2 行 %3 桁): %4</translation>
+    </message>
+    <message>
+        <source>The output cannot be the manifest itself.</source>
+        <translation>マニフェスト自身を出力先にはできません。</translation>
+    </message>
+    <message>
+        <source>--format json prints to standard output and needs an --output.</source>
+        <translation>--format json は標準出力に書くため、--output が必要です。</translation>
+    </message>
+    <message>
+        <source>This manifest has been published before; the scripts beside its texts are dropped.</source>
+        <translation>このマニフェストはすでに公開用です。テキストに添えられたスクリプトは取り除かれます。</translation>
+    </message>
+    <message>
+        <source>Write a manifest for publication</source>
+        <translation>公開用のマニフェストを書き出す</translation>
+    </message>
+    <message>
+        <source>FILE [-o OUT] [--format text|json]</source>
+        <translation>FILE [-o OUT] [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Writes the manifest in FILE for publication: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
+        <translation>FILE のマニフェストを公開用に書き出します。パッケージが提供しなくなった言語のテキストは除き、発話スクリプトはプレーンテキストに置き換えて、元のスクリプトはその言語の私用の変種に残します。形式の正しくないスクリプトがあれば、それを報告して何も書きません。&apos;-&apos; は標準入力から読みます。</translation>
+    </message>
+    <message>
+        <source>Creates, shows, checks, edits and rewrites the manifests of robot application packages.</source>
+        <translation>ロボットアプリケーションパッケージのマニフェストを作成、表示、検査、編集、書き直します。</translation>
+    </message>
+    <message>
+        <source>Show this help; after a command, its help.</source>
+        <translation>このヘルプを表示します。コマンドの後では、そのコマンドのヘルプです。</translation>
+    </message>
+    <message>
+        <source>Missing argument %1; usage: %2</source>
+        <translation>引数 %1 がありません。使い方: %2</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>余分な引数 &apos;%1&apos; があります。</translation>
+    </message>
+    <message>
+        <source>Missing command; &apos;zel-package --help&apos; lists the commands.</source>
+        <translation>コマンドがありません。&apos;zel-package --help&apos; でコマンドを確認できます。</translation>
+    </message>
+    <message>
+        <source>The value cannot be empty.</source>
+        <translation>値を空にはできません。</translation>
+    </message>
+    <message>
+        <source>It needs a language, as in %1[en_US].</source>
+        <translation>%1[en_US] のように言語が必要です。</translation>
+    </message>
+    <message>
+        <source>First apply the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <translation>まずこの JSON ファイルの編集を適用します。形式は schema/edits.schema.json にあります。&apos;-&apos; は標準入力です。</translation>
+    </message>
+    <message>
+        <source>Missing argument FILE.</source>
+        <translation>引数 FILE がありません。</translation>
+    </message>
+    <message>
+        <source>&apos;-&apos; can be given only once.</source>
+        <translation>&apos;-&apos; は 1 回だけ指定できます。</translation>
+    </message>
+    <message>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so that commands can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。空の VALUE はテキストを消し、項目を削除します: behaviors[greet]=。キー [+] はリストに追加します: supportedLanguages[+]=fr_FR、behaviors[+].path=greet。&apos;@INDEX&apos; は 0 から数えた位置に追加します: supportedLanguages[+]@0=fr_FR。&apos;ENTRY@INDEX&apos; は項目を移動します: behaviors[greet]@0。すでにある項目の追加とない項目の削除は何も変えないので、コマンドは繰り返せます。すべてのファイルのすべてのフィールドを設定し、一つでも誤りがあれば何も設定しません。ファイルは正準形に書き直され、何も失われません。&apos;-&apos; は標準入力を読み、標準出力に書きます。名前に &apos;=&apos; を含むファイルは ./a=b.xml のようにフォルダーと共に指定します。</translation>
+    </message>
+    <message>
+        <source>The package has no such entry.</source>
+        <translation>パッケージにその項目はありません。</translation>
+    </message>
+    <message>
+        <source>Show a manifest</source>
+        <translation>マニフェストを表示する</translation>
+    </message>
+    <message>
+        <source>Shows every field of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
+        <translation>FILE のマニフェストのすべてのフィールドと、翻訳の進み具合を表示します。ないテキストは、アプリケーションと同じく既定の言語のテキストで、名前の場合はさらに uid またはパスで補います。&apos;-&apos; は標準入力から読みます。</translation>
+    </message>
+    <message>
+        <source>users may request it</source>
+        <translation>ユーザーが要求できる</translation>
+    </message>
+    <message>
+        <source>Explain the rules of &apos;validate&apos;</source>
+        <translation>&apos;validate&apos; の規則を説明する</translation>
+    </message>
+    <message>
+        <source>[ID] [--format text|json]</source>
+        <translation>[ID] [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
+        <translation>&apos;validate&apos; の規則 ID の目的と、指摘された点の直し方を説明します。ID がなければ、すべての規則を一覧表示します。</translation>
     </message>
     <message>
         <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
@@ -639,6 +954,10 @@
     <message>
         <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
         <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
+    </message>
+    <message>
+        <source>The version of a package has three fields, so it becomes %1.</source>
+        <translation>パッケージのバージョンは三つの数字なので、%1 になります。</translation>
     </message>
 </context>
 </TS>

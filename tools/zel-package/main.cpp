@@ -1,3 +1,4 @@
+#include "arguments/native_text.h"
 #include "console/text_layout.h"
 #include "program_command.h"
 
@@ -65,8 +66,13 @@ int main(int argc, char **argv) {
     // Freed blocks are joined at once, which halves the time to free a large package.
     mallopt(M_MXFAST, 0);
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
-    // A closed pipe shall be a failed write.
-    std::signal(SIGPIPE, SIG_IGN);
+    // Whoever reads the output may close it. The parent may have had this signal ignored.
+    std::signal(SIGPIPE, SIG_DFL);
+
+    // Qt would replace what is not UTF-8.
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += ZelPackage::nativeText(argv[i]);
 
     auto locale = std::make_optional<Utf8Locale>();
     const QCoreApplication application(argc, argv);
@@ -79,7 +85,6 @@ int main(int argc, char **argv) {
         Zel::installTranslation(QLatin1String(catalogue), QLocale(language));
 
     ZelPackage::Console console;
-    const ZelPackage::ExitStatus status =
-        ZelPackage::runProgram(QCoreApplication::arguments().mid(1), console);
+    const ZelPackage::ExitStatus status = ZelPackage::runProgram(arguments, console);
     return console.finish() ? status : ZelPackage::Failure;
 }

@@ -1,17 +1,18 @@
+#include "arguments/option_check.h"
 #include "arguments/suggestion.h"
+#include "arguments/word_check.h"
+#include "completions/completion.h"
 #include "console/labeled_list.h"
 #include "console/text_layout.h"
 #include "program_command.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
 
 namespace ZelPackage {
 namespace {
-
-const std::array commands{&newCommand,       &showCommand,  &getCommand,     &validateCommand,
-                          &formatCommand,    &setCommand,   &publishCommand, &explainCommand,
-                          &languagesCommand, &robotsCommand};
 
 const QLatin1String programName("zel-package");
 
@@ -27,6 +28,23 @@ QString titled(const QString &title, const LabeledList &fields, const Console &c
     return console.styled(title, Style::Heading) % u'\n' % fields.toText(console, 2);
 }
 
+// "Usage: ...", broken between arguments.
+QString usageLines(const QString &usage, const Console &console) {
+    static const QRegularExpression gap(QStringLiteral(R"( (?![^\[]*\]))"));
+    QStringList lines{QCoreApplication::translate("zel-package", "Usage: %1").arg(QString())};
+    const QString margin(4, u' ');
+    const auto words = usage.split(gap);
+    for (const QString &word : words) {
+        const bool isSpaced = lines.constLast().endsWith(u' ');
+        const QString line = lines.constLast() % QString(isSpaced ? 0 : 1, u' ') % word;
+        if (displayWidth(line) <= console.width())
+            lines.last() = line;
+        else
+            lines += margin % word;
+    }
+    return lines.join(u'\n') % QStringLiteral("\n\n");
+}
+
 QString usageOf(const ProgramCommand &command) {
     const QString usage = programName % u' ' % QLatin1String(command.name);
     return *command.usage ? usage % u' ' % translated(command.usage) : usage;
@@ -34,20 +52,19 @@ QString usageOf(const ProgramCommand &command) {
 
 void printHelp(Console &console) {
     LabeledList list;
-    for (const ProgramCommand *command : commands)
+    for (const ProgramCommand *command : programCommands())
         list.add(QLatin1String(command->name), translated(command->summary));
     console.print(
-        QCoreApplication::translate("zel-package", "Usage: %1")
-            .arg(QStringLiteral("zel-package COMMAND [ARGUMENT...]\n\n")) %
+        usageLines(QStringLiteral("zel-package COMMAND [ARGUMENT...]"), console) %
         paragraph(QCoreApplication::translate("zel-package",
-                                              "Makes, shows, checks, edits and rewrites the "
+                                              "Creates, shows, checks, edits and rewrites the "
                                               "manifests of robot application packages."),
                   console) %
         titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
     LabeledList options;
-    options.add(QStringLiteral("-h, --help"),
-                QCoreApplication::translate("zel-package",
-                                            "Show this help; after a command, that command's."));
+    options.add(
+        QStringLiteral("-h, --help"),
+        QCoreApplication::translate("zel-package", "Show this help; after a command, its help."));
     options.add(QStringLiteral("--version"),
                 QCoreApplication::translate("zel-package", "Show the version of the program."));
     console.print(titled(QCoreApplication::translate("zel-package", "Options"), options, console));
@@ -63,8 +80,8 @@ QString labelOf(const QCommandLineOption &option) {
 }
 
 void printHelp(const ProgramCommand &command, Console &console) {
-    console.print(QCoreApplication::translate("zel-package", "Usage: %1").arg(usageOf(command)) %
-                  QStringLiteral("\n\n") % paragraph(translated(command.description), console));
+    console.print(usageLines(usageOf(command), console) %
+                  paragraph(translated(command.description), console));
     LabeledList list;
     const auto options = command.options();
     for (const QCommandLineOption &option : options)
@@ -74,82 +91,124 @@ void printHelp(const ProgramCommand &command, Console &console) {
     console.print(titled(QCoreApplication::translate("zel-package", "Options"), list, console));
 }
 
-QStringList dashed(const QStringList &names) {
-    QStringList result;
-    for (const QString &name : names)
-        result += QStringLiteral("--") % name;
-    return result;
-}
-
-void tellUnknownOption(const QString &option, const QStringList &known, const QString &helpOf,
-                       Console &console) {
+void reportUnknownOption(const QString &option, const QList<QCommandLineOption> &options,
+                         const QString &helpOf, Console &console) {
+    QStringList known;
+    for (const QCommandLineOption &each : options)
+        known += QStringLiteral("--") % each.names().constLast();
+    const bool isShortened = !option.startsWith(QLatin1String("--")) && option.size() > 2;
     console.tell(QCoreApplication::translate("zel-package", "There is no option '%1'%2")
-                     .arg(option, suggestion(option, known,
+                     .arg(option, suggestion(isShortened ? u'-' % option : option, known,
                                              QCoreApplication::translate(
                                                  "zel-package", "; '%1 --help' lists the options.")
                                                  .arg(helpOf))));
 }
 
-// Tells what is wrong with the arguments of a command, if anything is.
-bool checkArguments(const ProgramCommand &command, const QStringList &knownOptions,
-                    const QCommandLineParser &parser, bool isParsed, Console &console) {
-    const QStringList unknown = parser.unknownOptionNames();
-    if (!unknown.isEmpty()) {
-        const QString &name = unknown.constFirst();
-        tellUnknownOption((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) % name,
-                          dashed(knownOptions), programName % u' ' % QLatin1String(command.name),
-                          console);
+// Parses arguments into options and others; `program` is named in messages.
+bool parse(const QStringList &arguments, const QList<QCommandLineOption> &options,
+           const QString &program, QCommandLineParser &parser, Console &console) {
+    parser.addOptions(options);
+    if (const auto unknown = unknownOption(arguments, options)) {
+        reportUnknownOption(*unknown, options, program, console);
         return false;
     }
-    if (!isParsed) {
+    const bool isParsed = parser.parse(QStringList{program} + arguments);
+    if (!isParsed)
         console.tell(parser.errorText());
-        return false;
-    }
-    const QStringList arguments = parser.positionalArguments();
+    return isParsed;
+}
+
+// Those of QCommandLineParser::errorText() that can occur.
+[[maybe_unused]] constexpr std::array parserSentences{
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'.")};
+
+bool checkCount(const QStringList &arguments, const ProgramCommand &command, Console &console) {
     if (arguments.size() < command.minArguments) {
-        console.tell(QCoreApplication::translate("zel-package", "An argument is missing: %1")
-                         .arg(usageOf(command)));
+        const QString usage = translated(command.usage);
+        console.tell(
+            QCoreApplication::translate("zel-package", "Missing argument %1; usage: %2")
+                .arg(usage.section(u' ', int(arguments.size()), int(arguments.size())).remove(u'.'),
+                     usageOf(command)));
         return false;
     }
     if (arguments.size() > command.maxArguments) {
-        console.tell(QCoreApplication::translate("zel-package", "'%1' is one argument too many: %2")
-                         .arg(arguments.at(command.maxArguments), usageOf(command)));
+        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                         .arg(arguments.at(command.maxArguments)));
         return false;
     }
     return true;
 }
 
+QCommandLineOption helpOption() {
+    return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+}
+
+bool namesFile(const QCommandLineOption &option) {
+    return option.valueName() == QLatin1String("FILE") ||
+           option.valueName() == QLatin1String("OUT");
+}
+
+// All but the names of files has to be text.
+bool checkTexts(const ProgramCommand &command, const QList<QCommandLineOption> &options,
+                const QCommandLineParser &parser, Console &console) {
+    QStringList texts = parser.positionalArguments().mid(command.fileArguments);
+    for (const QCommandLineOption &option : options) {
+        if (!namesFile(option))
+            texts += parser.values(option);
+    }
+    return std::all_of(texts.begin(), texts.end(),
+                       [&](const QString &text) { return checkText(text, console); });
+}
+
 ExitStatus runCommand(const ProgramCommand &command, const QStringList &arguments,
                       Console &console) {
     QCommandLineParser parser;
-    const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-    QList<QCommandLineOption> options = command.options();
-    options += help;
-    parser.addOptions(options);
-    QStringList names;
-    for (const QCommandLineOption &option : std::as_const(options))
-        names += option.names().constLast();
-
-    const bool isParsed = parser.parse(QStringList{programName} + arguments);
+    const QCommandLineOption help = helpOption();
+    const QString program = programName % u' ' % QLatin1String(command.name);
+    const QList<QCommandLineOption> options = command.options();
+    if (!parse(arguments, options + QList{help}, program, parser, console))
+        return Failure;
     if (parser.isSet(help)) {
         printHelp(command, console);
         return Fine;
     }
-    return checkArguments(command, names, parser, isParsed, console) ? command.run(parser, console)
-                                                                     : Failure;
+    const bool isFine = checkCount(parser.positionalArguments(), command, console) &&
+                        checkTexts(command, options, parser, console);
+    return isFine ? command.run(parser, console) : Failure;
+}
+
+// Runs the program with an option in place of a command.
+ExitStatus runOption(const QStringList &arguments, Console &console) {
+    QCommandLineParser parser;
+    const QCommandLineOption help = helpOption();
+    const QCommandLineOption version(QStringLiteral("version"));
+    if (!parse(arguments, {help, version}, programName, parser, console))
+        return Failure;
+    const QStringList others = parser.positionalArguments();
+    if (!others.isEmpty()) {
+        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                         .arg(others.constFirst()));
+        return Failure;
+    }
+    if (parser.isSet(help))
+        printHelp(console);
+    else
+        console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
+    return Fine;
 }
 
 const ProgramCommand *commandNamed(const QString &name) {
-    const auto it =
-        std::find_if(commands.begin(), commands.end(), [&](const ProgramCommand *command) {
-            return name == QLatin1String(command->name);
-        });
-    return it == commands.end() ? nullptr : *it;
+    for (const ProgramCommand *command : programCommands()) {
+        if (name == QLatin1String(command->name))
+            return command;
+    }
+    return nullptr;
 }
 
-void tellUnknownCommand(const QString &name, Console &console) {
+void reportUnknownCommand(const QString &name, Console &console) {
     QStringList names;
-    for (const ProgramCommand *command : commands)
+    for (const ProgramCommand *command : programCommands())
         names += QLatin1String(command->name);
     console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
                      .arg(name, suggestion(name, names,
@@ -160,28 +219,29 @@ void tellUnknownCommand(const QString &name, Console &console) {
 
 } // namespace
 
+QVector<const ProgramCommand *> programCommands() {
+    return {&newCommand, &showCommand,    &getCommand,     &validateCommand,  &formatCommand,
+            &setCommand, &publishCommand, &explainCommand, &languagesCommand, &robotsCommand};
+}
+
 ExitStatus runProgram(const QStringList &arguments, Console &console) {
     if (arguments.isEmpty()) {
         console.tell(QCoreApplication::translate(
-            "zel-package", "A command is missing; 'zel-package --help' lists the commands."));
+            "zel-package", "Missing command; 'zel-package --help' lists the commands."));
         return Failure;
     }
     const QString &first = arguments.constFirst();
-    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
-        printHelp(console);
-        return Fine;
-    }
-    if (first == QLatin1String("--version")) {
-        console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
+    if (first == QLatin1String("--complete")) { // for the scripts in completions/
+        const QStringList words = completions(arguments.mid(1));
+        for (const QString &word : words)
+            console.print(word % u'\n');
         return Fine;
     }
     if (const ProgramCommand *command = commandNamed(first))
         return runCommand(*command, arguments.mid(1), console);
     if (first.startsWith(u'-'))
-        tellUnknownOption(first, {QStringLiteral("--help"), QStringLiteral("--version")},
-                          programName, console);
-    else
-        tellUnknownCommand(first, console);
+        return runOption(arguments, console);
+    reportUnknownCommand(first, console);
     return Failure;
 }
 

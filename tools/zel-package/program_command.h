@@ -22,6 +22,8 @@ struct ProgramCommand {
     QList<QCommandLineOption> (*options)();
     /// `arguments` has its options and the right number of arguments.
     ExitStatus (*run)(const QCommandLineParser &arguments, Console &console);
+    /// How many of the first arguments are names of files, which may have any bytes.
+    int fileArguments = anyNumber;
 };
 
 extern const ProgramCommand explainCommand;
@@ -34,6 +36,9 @@ extern const ProgramCommand robotsCommand;
 extern const ProgramCommand setCommand;
 extern const ProgramCommand showCommand;
 extern const ProgramCommand validateCommand;
+
+/// All commands, in the order of the help.
+QVector<const ProgramCommand *> programCommands();
 
 /// Runs the program: general options, or a command with its arguments.
 [[nodiscard]] ExitStatus runProgram(const QStringList &arguments, Console &console);

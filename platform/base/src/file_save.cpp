@@ -2,9 +2,8 @@
 
 #include "file_attributes.h"
 #include "file_lock.h"
+#include "file_name.h"
 #include "file_writing.h"
-
-#include <QFile>
 
 #include <cerrno>
 #include <cstdlib>
@@ -36,7 +35,7 @@ std::string FileSave::prepare() {
 }
 
 std::string FileSave::resolve() {
-    m_target = QFile::encodeName(QString::fromStdString(m_file.path)).toStdString();
+    m_target = nativeName(m_file.path);
     struct stat status = {};
     if (::lstat(m_target.c_str(), &status) != 0 || !S_ISLNK(status.st_mode))
         return {};

@@ -1,16 +1,18 @@
 #include <tano/save_file.h>
 
+#include "file_descriptor.h"
+#include "file_name.h"
 #include "file_save.h"
 #include "file_writing.h"
 
 #include <QCryptographicHash>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <memory>
+#include <sys/stat.h>
 
 namespace Tano {
 namespace {
@@ -76,11 +78,14 @@ FileFingerprint FileFingerprint::ofContent(const std::string &content) {
 }
 
 FileFingerprint FileFingerprint::ofFile(const std::string &path) {
-    QFile file(QString::fromStdString(path));
-    if (!QFileInfo(file).isFile()) // opening a pipe would wait
+    const std::string name = nativeName(path);
+    struct stat status = {};
+    if (::stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) // a pipe would block open()
         return {};
+    const FileDescriptor opened(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
+    QFile file;
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+    if (!opened || !file.open(opened.number(), QIODevice::ReadOnly) || !hash.addData(&file))
         return {};
     return {file.pos(), hash.result().toStdString()};
 }

@@ -2,7 +2,6 @@
 
 #include "field_positions.h"
 #include "manifest_writer.h"
-#include "record_data.h"
 #include "xml_reading.h"
 
 #include <algorithm>
@@ -273,24 +272,48 @@ bool isSame(const UnknownNode &a, const UnknownNode &b) {
            a.parentPath == b.parentPath;
 }
 
-bool mentions(const ExtrasPointer &extras, const std::string &part) {
+// Whether content that begins with `start` is kept anywhere in an element: without any, the
+// manifest need not be written to look for it.
+template<typename IsLooked>
+bool keeps(const ExtrasPointer &extras, IsLooked isLooked) {
     if (!extras)
         return false;
-    const auto isComment = [&](std::string_view piece) {
-        return piece.substr(0, commentStart.size()) == commentStart &&
-               piece.find(part) != std::string_view::npos;
+    if (!extras->attributes.empty() && isLooked("<a"))
+        return true;
+    for (const Extras::Kept &kept : extras->kept) {
+        bool isKept = false;
+        forEachPiece(kept.xml, [&](std::string_view piece) { isKept = isKept || isLooked(piece); });
+        if (isKept)
+            return true;
+    }
+    return std::any_of(extras->children.begin(), extras->children.end(),
+                       [&](const auto &child) { return keeps(child.extras, isLooked); });
+}
+
+template<typename IsLooked>
+bool keeps(const PackageInfo &package, IsLooked isLooked) {
+    const auto anyOf = [&](const auto &records) {
+        return std::any_of(records.begin(), records.end(), [&](const auto &record) {
+            return keeps(RecordAccess::data(record).extras, isLooked);
+        });
     };
-    bool isFound = false;
-    for (const Extras::Kept &kept : extras->kept)
-        forEachPiece(kept.xml, [&](std::string_view piece) { isFound |= isComment(piece); });
-    return isFound ||
-           std::any_of(extras->children.begin(), extras->children.end(),
-                       [&](const Extras::Child &child) { return mentions(child.extras, part); });
+    return keeps(RecordAccess::data(package).extras, isLooked) || anyOf(package.behaviors()) ||
+           anyOf(package.dialogs());
+}
+
+bool isComment(std::string_view piece) {
+    return piece.substr(0, 4) == "<!--";
+}
+
+bool isElement(std::string_view piece) {
+    return piece.size() > 1 && piece[0] == '<' && piece[1] != '!' && piece[1] != '?';
 }
 
 } // namespace
 
 std::vector<KeptComment> comments(const PackageInfo &package) {
+    if (!keeps(package, isComment))
+        return {};
     CommentFinder finder;
     write(package, finder);
     std::vector<KeptComment> comments;
@@ -299,26 +322,24 @@ std::vector<KeptComment> comments(const PackageInfo &package) {
     return comments;
 }
 
-bool hasComment(const PackageInfo &package, const std::string &part) {
-    const PackageData &data = RecordAccess::data(package);
-    const auto isIn = [&](const auto &record) {
-        return mentions(RecordAccess::data(record).extras, part);
-    };
-    return mentions(data.extras, part) ||
-           std::any_of(data.behaviors.begin(), data.behaviors.end(), isIn) ||
-           std::any_of(data.dialogs.begin(), data.dialogs.end(), isIn);
+PackageInfo withoutComment(const PackageInfo &package, const KeptComment &comment) {
+    return withoutComments(package, {comment});
 }
 
-PackageInfo withoutComment(const PackageInfo &package, const KeptComment &comment) {
+PackageInfo withoutComments(const PackageInfo &package, const std::vector<KeptComment> &removed) {
     CommentFinder finder;
     std::string manifest = write(package, finder).text;
-    const auto all = finder.take();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const auto &candidate) {
-        return isSame(candidate.comment, comment);
-    });
-    if (manifest.empty() || found == all.end())
-        return package;
-    return read(manifest.erase(found->offset, found->size)).value_or(package);
+    auto all = finder.take();
+    bool isChanged = false;
+    for (auto found = all.rbegin(); found != all.rend() && !manifest.empty(); ++found) {
+        const bool isRemoved = std::any_of(removed.begin(), removed.end(), [&](const auto &each) {
+            return isSame(found->comment, each);
+        });
+        if (isRemoved)
+            manifest.erase(found->offset, found->size);
+        isChanged = isChanged || isRemoved;
+    }
+    return isChanged ? read(manifest).value_or(package) : package;
 }
 
 PackageInfo withComment(const PackageInfo &package, const FieldPath &before,
@@ -349,7 +370,15 @@ PackageInfo withComments(const PackageInfo &package, const std::vector<KeptComme
     return read(changed).value_or(package);
 }
 
+bool hasComment(const PackageInfo &package, const std::string &part) {
+    return keeps(package, [&](std::string_view piece) {
+        return isComment(piece) && piece.find(part) != std::string_view::npos;
+    });
+}
+
 std::vector<UnknownNode> unknownNodes(const PackageInfo &package) {
+    if (!keeps(package, isElement))
+        return {};
     NodeFinder finder;
     write(package, finder);
     return finder.takeNodes();
@@ -372,19 +401,35 @@ std::vector<std::string> knownNames(const UnknownNode &node) {
 
 std::optional<PackageInfo> withRenamedNode(const PackageInfo &package, const UnknownNode &node,
                                            const std::string &name) {
-    const auto known = knownNames(node);
-    if (std::find(known.begin(), known.end(), name) == known.end())
-        return {};
+    return withRenamedNodes(package, {{node, name}});
+}
+
+std::optional<PackageInfo>
+withRenamedNodes(const PackageInfo &package,
+                 const std::vector<std::pair<UnknownNode, std::string>> &renamed) {
     NodeFinder finder;
     std::string manifest = write(package, finder).text;
     const auto nodes = finder.takeNodes();
-    const auto found = std::find_if(nodes.begin(), nodes.end(),
-                                    [&](const auto &candidate) { return isSame(candidate, node); });
-    if (manifest.empty() || found == nodes.end())
-        return {};
-    auto offsets = finder.offsets()[std::size_t(found - nodes.begin())];
-    for (auto offset = offsets.rbegin(); offset != offsets.rend(); ++offset)
-        manifest.replace(*offset, node.name.size(), name);
+    struct Replacement {
+        std::size_t offset;
+        std::size_t size;
+        const std::string *name;
+    };
+    std::vector<Replacement> replacements;
+    for (const auto &[node, name] : renamed) {
+        const auto known = knownNames(node);
+        const auto found =
+            std::find_if(nodes.begin(), nodes.end(),
+                         [&node = node](const auto &candidate) { return isSame(candidate, node); });
+        if (std::find(known.begin(), known.end(), name) == known.end() || found == nodes.end())
+            return {};
+        for (const std::size_t offset : finder.offsets()[std::size_t(found - nodes.begin())])
+            replacements.push_back({offset, node.name.size(), &name});
+    }
+    std::sort(replacements.begin(), replacements.end(),
+              [](const auto &a, const auto &b) { return a.offset > b.offset; });
+    for (const auto &[offset, size, name] : replacements)
+        manifest.replace(offset, size, *name);
     return read(manifest);
 }
 

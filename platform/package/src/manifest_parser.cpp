@@ -355,7 +355,7 @@ bool ManifestParser::checkOccurrence(Frame &parent, const Frame &child) {
         isNew = parent.keys.add(child.element, child.key);
     }
     if (!isNew)
-        fail("The element " + describe(child) + " stands twice in " + describe(parent) + '.');
+        fail("The element " + describe(child) + " occurs twice in " + describe(parent) + '.');
     return isNew;
 }
 

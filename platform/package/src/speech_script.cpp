@@ -205,7 +205,7 @@ void SpeechScriptReader::start(std::string_view name, const XML_Char **attribute
         !sentence.empty())
         return fail(std::move(sentence));
     if (name == "speak" && !m_open.empty())
-        return fail("The element <speak> stands within another element; it can only be the root.");
+        return fail("The element <speak> is within another element; it can only be the root.");
 
     const ScriptElement &element = elementNamed(name);
     const bool isAmidSilence = isSilentHere(name);
@@ -254,7 +254,7 @@ void SpeechScriptReader::text(std::string_view text) {
     const Frame &frame = m_open.back();
     if (frame.element->gives == Gives::FirstAlternative) {
         if (!isWhiteSpace(text))
-            fail("Text stands beside the alternatives of <one-of>; each of them is an <item>.");
+            fail("There is text beside the alternatives of <one-of>; each of them is an <item>.");
     } else if (!frame.isSilent && !frame.isSettled) {
         m_text.append(text);
     }

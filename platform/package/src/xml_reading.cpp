@@ -22,7 +22,7 @@ std::string describeBadByte(XML_Parser parser) {
     if (byte == 0)
         return "A NUL byte is not allowed.";
     if (byte >= 0x80)
-        return "The bytes here are not valid UTF-8, or stand for a character that XML does not "
+        return "The bytes here are not valid UTF-8, or encode a character that XML does not "
                "allow.";
     const char previous = hasByte && offset > 0 ? context[offset - 1] : '\0';
     if (previous == '&')
@@ -51,7 +51,7 @@ std::string exceededBound(XML_Parser parser, std::string_view element, int depth
         return tagTooLong;
     if (depth > ManifestReader::maxDepth)
         return "More than " + std::to_string(ManifestReader::maxDepth) +
-               " elements stand within each other.";
+               " elements are nested.";
     if (XML_GetSpecifiedAttributeCount(parser) / 2 > ManifestReader::maxAttributes)
         return "The element " + tagged(element) + " has more than " +
                std::to_string(ManifestReader::maxAttributes) + " attributes.";
@@ -72,7 +72,7 @@ std::string describeXmlError(XML_Parser parser, std::string_view noun) {
     case XML_ERROR_TAG_MISMATCH:
         return "The end tag does not belong to the element that is open.";
     case XML_ERROR_DUPLICATE_ATTRIBUTE:
-        return "An attribute stands twice on one element.";
+        return "An attribute occurs twice on one element.";
     case XML_ERROR_UNDEFINED_ENTITY:
         return "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are.";
     case XML_ERROR_SYNTAX:
@@ -80,9 +80,9 @@ std::string describeXmlError(XML_Parser parser, std::string_view noun) {
     case XML_ERROR_BAD_CHAR_REF:
         return "The reference is to a character that XML does not allow.";
     case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
-        return "Something stands after the end of the root element.";
+        return "There is content after the end of the root element.";
     case XML_ERROR_MISPLACED_XML_PI:
-        return "The XML declaration does not stand at the very beginning.";
+        return "The XML declaration is not at the very beginning.";
     case XML_ERROR_INVALID_TOKEN:
         return describeBadByte(parser);
     default:

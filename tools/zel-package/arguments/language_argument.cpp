@@ -45,16 +45,16 @@ std::optional<Zel::RobotLanguage> languageArgument(const QString &code, QString 
     if (!known.isoCode().isEmpty())
         return known;
     if (looksLikeCode(code)) {
-        message =
-            QCoreApplication::translate("zel-package", "The language '%1' is not a known one.")
-                .arg(code);
+        message = QCoreApplication::translate(
+                      "zel-package", "The language '%1' is unknown, but its code is accepted.")
+                      .arg(code);
         return Zel::RobotLanguage(Zel::ISOCode(code), Zel::NuanceCode());
     }
     const QStringList near = nearCodes(code);
     message = near.isEmpty()
                   ? QCoreApplication::translate("zel-package",
                                                 "'%1' is not a language code; 'zel-package "
-                                                "languages' lists those that are known.")
+                                                "languages' lists the known codes.")
                         .arg(code)
                   : QCoreApplication::translate("zel-package",
                                                 "'%1' is not a language code; did you mean %2?")

@@ -1,6 +1,9 @@
 #include "word_check.h"
 
+#include "native_text.h"
 #include "suggestion.h"
+
+#include <QCoreApplication>
 
 namespace ZelPackage {
 
@@ -9,6 +12,14 @@ bool checkWord(const QString &word, const QStringList &known, const QString &ref
     if (known.contains(word))
         return true;
     console.tell(refusal.arg(word, suggestion(word, known, hint)));
+    return false;
+}
+
+bool checkText(const QString &argument, Console &console) {
+    if (!hasForeignBytes(argument))
+        return true;
+    console.tell(QCoreApplication::translate("zel-package", "The argument '%1' is not valid UTF-8.")
+                     .arg(argument));
     return false;
 }
 

@@ -12,4 +12,7 @@ namespace ZelPackage {
 [[nodiscard]] bool checkWord(const QString &word, const QStringList &known, const QString &refusal,
                              const QString &hint, Console &console);
 
+/// Whether an argument is text, that is, valid UTF-8. Reports one that is not.
+[[nodiscard]] bool checkText(const QString &argument, Console &console);
+
 } // namespace ZelPackage

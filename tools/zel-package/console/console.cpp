@@ -1,11 +1,13 @@
 #include "console.h"
 
+#include "arguments/native_text.h"
 #include "text_layout.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -15,10 +17,15 @@ namespace {
 constexpr int defaultWidth = 80;
 constexpr int smallestWidth = 40;
 
-int terminalWidth(int stream) {
+// 0 for an unknown one.
+int outputWidth(int stream) {
+    bool isNumber = false;
+    const int columns = qEnvironmentVariableIntValue("COLUMNS", &isNumber);
+    if (isNumber && columns > 0)
+        return std::max(smallestWidth, columns);
     winsize size{};
     if (!isatty(stream) || ioctl(stream, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
-        return defaultWidth;
+        return 0;
     return std::max(smallestWidth, int(size.ws_col));
 }
 
@@ -48,7 +55,7 @@ const char *sequenceOf(Style style) {
 } // namespace
 
 Console::Console(int results)
-    : m_width(terminalWidth(results))
+    : m_width(outputWidth(results))
     , m_isTerminal(isatty(results))
     , m_isColored(isCapableTerminal(results) && qEnvironmentVariableIsEmpty("NO_COLOR"))
     , m_canShowProgress(isCapableTerminal(STDERR_FILENO)) {
@@ -64,7 +71,7 @@ void Console::setColor(Color color) {
 }
 
 void Console::print(const QString &text) {
-    write(text.toStdString());
+    write(nativeBytes(text));
 }
 
 void Console::printBytes(const std::string &bytes) {
@@ -135,6 +142,14 @@ bool Console::finish() {
     tell(QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
              .arg(m_writeError));
     return false;
+}
+
+int Console::width() const {
+    return m_width > 0 ? m_width : defaultWidth;
+}
+
+int Console::tableWidth() const {
+    return m_width > 0 ? m_width : std::numeric_limits<int>::max();
 }
 
 QString Console::styled(const QString &text, Style style) const {

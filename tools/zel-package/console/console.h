@@ -30,7 +30,8 @@ public:
     /// Whether results go to a terminal.
     bool isTerminal() const { return m_isTerminal; }
 
-    /// Writes to standard output. A failure shows in finish().
+    /// Writes to standard output, the bytes of nativeText() as they were. A failure shows in
+    /// finish().
     void print(const QString &text);
     /// Writes content in UTF-8; on a terminal it is printable, apart from tabs and line feeds.
     void printBytes(const std::string &bytes);
@@ -54,8 +55,12 @@ public:
     /// was printed has been written.
     [[nodiscard]] bool finish();
 
-    /// The columns of the terminal on standard output; 80 when it is none.
-    int width() const { return m_width; }
+    /// The columns of standard output, at least 40: those of the variable COLUMNS or else of the
+    /// terminal; 80 where there is neither.
+    int width() const;
+    /// The same for tables, which other programs read line by line: unlimited where there is
+    /// neither.
+    int tableWidth() const;
 
     /// The text as it looks in a style; itself where standard output is no terminal, and
     /// where the environment sets NO_COLOR (no-color.org).
@@ -69,7 +74,7 @@ private:
     QFile m_output;
     QFile m_messages;
     QString m_writeError;
-    int m_width;
+    int m_width; // 0 for an unknown one
     bool m_isTerminal;
     bool m_isColored;
     bool m_canShowProgress;

@@ -3,6 +3,8 @@
 #include "console.h"
 #include "json_text.h"
 
+#include <QLatin1String>
+
 namespace ZelPackage {
 
 /// Writes a list of JSON objects, each at once and on a line of its own.
@@ -20,6 +22,23 @@ public:
 private:
     Console &m_console;
     bool m_isEmpty = true;
+};
+
+/// Writes a form that is one list: {"format": 1, "NAME": [...]}.
+class JsonListForm {
+public:
+    JsonListForm(QLatin1String name, Console &console)
+        : m_console(console)
+        , m_list(console) {
+        console.print(QStringLiteral("{\"format\": 1,\n\"%1\": [").arg(name));
+    }
+
+    void add(const QJsonObject &object) { m_list.add(object); }
+    void finish() { m_console.print(QStringLiteral("]}\n")); }
+
+private:
+    Console &m_console;
+    JsonList m_list;
 };
 
 } // namespace ZelPackage

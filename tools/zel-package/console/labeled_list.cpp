@@ -9,7 +9,7 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int widestLabelColumn = 24;
-constexpr int narrowestTextColumn = 20;
+constexpr int narrowestTextColumn = 16;
 
 } // namespace
 
@@ -48,6 +48,7 @@ QStringList LabeledList::linesOf(const Field &field, int width, const Console &c
 }
 
 QString LabeledList::toText(const Console &console, int indent, int labelWidth) const {
+    labelWidth = std::min(labelWidth, console.width() - narrowestTextColumn - indent - gap);
     const int textColumn = indent + labelWidth + gap;
     const int textWidth = std::max(narrowestTextColumn, console.width() - textColumn);
 

@@ -1,5 +1,7 @@
 #include "text_layout.h"
 
+#include "arguments/native_text.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -73,6 +75,13 @@ private:
     int m_lineWidth = 0;
 };
 
+// QString::fromUcs4() would leave out a byte order mark.
+QString characterOf(uint code) {
+    if (!QChar::requiresSurrogates(code))
+        return QChar(ushort(code));
+    return QString(QChar(QChar::highSurrogate(code))) % QChar(QChar::lowSurrogate(code));
+}
+
 } // namespace
 
 bool isUnprintable(uint code) {
@@ -101,10 +110,9 @@ QString printableExcept(const QString &kept, const QString &text) {
         return text;
     QString result;
     uint base = 0;
-    const auto codes = text.toUcs4();
+    const auto codes = withVisibleBytes(text).toUcs4();
     for (const uint code : codes) {
-        const auto wide = char32_t(code);
-        const QString character = QString::fromUcs4(&wide, 1);
+        const QString character = characterOf(code);
         if (shapes(code, base)) {
             result += character;
             continue;

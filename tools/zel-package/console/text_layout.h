@@ -11,7 +11,8 @@ namespace ZelPackage {
 bool isUnprintable(uint code);
 
 /// The text with each character that isUnprintable() replaced as in "<U+202E>", apart from joiners
-/// and variation selectors where emoji and scripts need them.
+/// and variation selectors where emoji and scripts need them, and each byte that is not UTF-8 as in
+/// "<FF>".
 QString printable(const QString &text);
 /// The same, apart from the characters in `kept` as well.
 QString printableExcept(const QString &kept, const QString &text);

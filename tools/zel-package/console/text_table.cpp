@@ -1,5 +1,6 @@
 #include "text_table.h"
 
+#include "labeled_list.h"
 #include "text_layout.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@ namespace ZelPackage {
 namespace {
 
 constexpr int gap = 2;
+constexpr int narrowestText = 20;
 
 int spacesBefore(TextTable::Align align, int spaces) {
     switch (align) {
@@ -59,6 +61,29 @@ QString TextTable::groupLine() const {
 }
 
 QString TextTable::toText(const Console &console, int indent) const {
+    const int missing = indent + width() - console.tableWidth();
+    const int lastWidth = m_widths.back() - std::max(missing, 0);
+    return missing <= 0 || lastWidth >= narrowestText ? toLines(console, indent, lastWidth)
+                                                      : toRecords(console, indent);
+}
+
+QString TextTable::toRecords(const Console &console, int indent) const {
+    QString text;
+    for (const Row &row : m_rows) {
+        LabeledList cells;
+        for (std::size_t i = 1; i < row.size(); ++i) {
+            const Column &column = m_columns[i];
+            cells.addFilled(column.group.isEmpty() ? column.title
+                                                   : column.group % u' ' % column.title,
+                            row[i].text);
+        }
+        text +=
+            QString(indent, u' ') % row.front().text % u'\n' % cells.toText(console, indent + 2);
+    }
+    return text;
+}
+
+QString TextTable::toLines(const Console &console, int indent, int lastWidth) const {
     QString text;
     const QString margin(indent, u' ');
     const auto addLine = [&](const Row &row) {
@@ -79,8 +104,20 @@ QString TextTable::toText(const Console &console, int indent) const {
     for (const Column &column : m_columns)
         titles.push_back({column.title, Style::Faint});
     addLine(titles);
-    for (const Row &row : m_rows)
-        addLine(row);
+    for (const Row &row : m_rows) {
+        const bool isFull = row.size() == m_columns.size();
+        if (!isFull || lastWidth == m_widths.back()) {
+            addLine(row);
+            continue;
+        }
+        Row line = row;
+        const auto parts = wrapped(row.back().text, lastWidth);
+        for (const QString &part : parts) {
+            line.back().text = part;
+            addLine(line);
+            std::fill(line.begin(), line.end() - 1, Cell{});
+        }
+    }
     return text;
 }
 

@@ -33,11 +33,15 @@ public:
 
     /// How many columns of the terminal the table takes.
     int width() const;
-    /// The lines of the table, each after `indent` spaces and with a line feed.
+    /// The lines of the table, each after `indent` spaces and with a line feed. Where the output is
+    /// too narrow, the last column is wrapped or, where that is not enough, each row becomes a list
+    /// of its titled cells.
     QString toText(const Console &console, int indent) const;
 
 private:
     QString groupLine() const;
+    QString toLines(const Console &console, int indent, int lastWidth) const;
+    QString toRecords(const Console &console, int indent) const;
 
     std::vector<Column> m_columns;
     std::vector<int> m_widths;

@@ -1,5 +1,8 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "console/json_list.h"
+#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
 
@@ -9,22 +12,41 @@ namespace ZelPackage {
 namespace {
 
 QList<QCommandLineOption> options() {
-    return {};
+    return {formatOption()};
 }
 
-ExitStatus run(const QCommandLineParser &, Console &console) {
-    // The native names stand last, where writing from right to left moves no other column.
+void printJson(Console &console) {
+    JsonListForm form(QLatin1String("languages"), console);
+    for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
+        form.add({{QStringLiteral("code"), language.isoCode()},
+                  {QStringLiteral("name"), nameOf(language)},
+                  {QStringLiteral("englishName"), language.englishName()},
+                  {QStringLiteral("nativeName"), language.nativeName()},
+                  {QStringLiteral("speech"), language.nuanceCode()}});
+    }
+    form.finish();
+}
+
+void printTable(Console &console) {
+    // The native names come last, where writing from right to left moves no other column.
     TextTable table({{QCoreApplication::translate("zel-package", "code")},
                      {QCoreApplication::translate("zel-package", "name")},
                      {QCoreApplication::translate("zel-package", "speech")},
                      {QCoreApplication::translate("zel-package", "native name")}});
     for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
         table.addRow({{language.isoCode()},
-                      {language.uiName()},
+                      {nameOf(language)},
                       {language.nuanceCode()},
                       {language.nativeName()}});
     }
     console.print(table.toText(console, 0));
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const auto format = formatOf(arguments, console);
+    if (!format)
+        return Failure;
+    format == OutputFormat::Json ? printJson(console) : printTable(console);
     return Fine;
 }
 
@@ -33,11 +55,11 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
 const ProgramCommand languagesCommand{
     "languages",
     QT_TRANSLATE_NOOP("zel-package", "List the known languages"),
-    "",
+    QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the languages that are known: the code that manifests use, the name, "
-                      "the code of the speech engine where it has a voice, and the name in the "
-                      "language itself. A manifest may use others too."),
+                      "Lists the known languages: the code in manifests, the name, the code of the "
+                      "speech engine if it has a voice, and the name in the language itself. "
+                      "Manifests may use other languages too."),
     0,
     0,
     options,

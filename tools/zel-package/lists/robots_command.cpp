@@ -1,5 +1,7 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "console/json_list.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
 
@@ -9,16 +11,31 @@ namespace ZelPackage {
 namespace {
 
 QList<QCommandLineOption> options() {
-    return {};
+    return {formatOption()};
 }
 
-ExitStatus run(const QCommandLineParser &, Console &console) {
+void printJson(Console &console) {
+    JsonListForm form(QLatin1String("robots"), console);
+    const auto &robots = Zel::RobotRequirement::prettyRobotNames();
+    for (auto robot = robots.begin(); robot != robots.end(); ++robot)
+        form.add({{QStringLiteral("name"), robot.value()}, {QStringLiteral("model"), robot.key()}});
+    form.finish();
+}
+
+void printTable(Console &console) {
     TextTable table({{QCoreApplication::translate("zel-package", "robot")},
                      {QCoreApplication::translate("zel-package", "model")}});
     const auto &robots = Zel::RobotRequirement::prettyRobotNames();
     for (auto robot = robots.begin(); robot != robots.end(); ++robot)
         table.addRow({{printable(robot.value())}, {printable(robot.key())}});
     console.print(table.toText(console, 0));
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const auto format = formatOf(arguments, console);
+    if (!format)
+        return Failure;
+    format == OutputFormat::Json ? printJson(console) : printTable(console);
     return Fine;
 }
 
@@ -27,11 +44,11 @@ ExitStatus run(const QCommandLineParser &, Console &console) {
 const ProgramCommand robotsCommand{
     "robots",
     QT_TRANSLATE_NOOP("zel-package", "List the known robots"),
-    "",
+    QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the robots that a package may require, families and models, and what "
-                      "the model of a robot requirement is for each; it is empty for any robot. A "
-                      "manifest may require others too."),
+                      "Lists the robots that a package may require, families and models, with the "
+                      "model that a robot requirement names; it is empty for any robot. Manifests "
+                      "may require other robots too."),
     0,
     0,
     options,

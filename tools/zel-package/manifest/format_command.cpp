@@ -1,55 +1,116 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "arguments/native_text.h"
+#include "console/json_list.h"
+#include "console/library_text.h"
 #include "manifest_source.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ZelPackage {
 namespace {
 
+const QLatin1String checkOption("check");
+
 QList<QCommandLineOption> options() {
-    return {{QStringLiteral("check"),
+    return {{checkOption,
              QCoreApplication::translate("zel-package",
                                          "Write no manifest; print the names of the files that are "
-                                         "not in the canonical form.")}};
+                                         "not in the canonical form.")},
+            formatOption()};
 }
 
-ExitStatus tellFailure(const QString &file, const Manifest &manifest, Console &console) {
-    console.tell(file, QString::fromStdString(manifest.package.errorString()));
-    return Failure;
+// The state of a file before or after formatting.
+struct Formatted {
+    enum State { Canonical, Different, Malformed, Unreadable };
+    State state = Canonical;
+    ManifestTrouble trouble = {}; // of the last two
+};
+
+constexpr std::array stateWords{"canonical", "different", "malformed", "unreadable"};
+
+ExitStatus statusOf(const Formatted &formatted) {
+    constexpr std::array statuses{Fine, Findings, Failure, Failure};
+    return statuses[formatted.state];
 }
 
-ExitStatus check(const QString &file, const Manifest &manifest, Console &console) {
+Formatted failed(const Manifest &manifest) {
+    return {Formatted::Unreadable, {{}, translatedSentence(manifest.package.errorString())}};
+}
+
+Formatted check(const Manifest &manifest) {
     const std::string canonical = manifest.package.saveToManifestContent();
     if (canonical.empty())
-        return tellFailure(file, manifest, console);
-    if (manifest.content == canonical)
-        return Fine;
-    console.print(console.shown(file) % u'\n');
-    return Findings;
+        return failed(manifest);
+    return {manifest.content == canonical ? Formatted::Canonical : Formatted::Different};
 }
 
-ExitStatus rewrite(const QString &file, const Manifest &manifest, Console &console) {
+Formatted rewrite(const QString &file, const Manifest &manifest, Console &console) {
     const std::string canonical = manifest.package.saveToManifestContent();
     if (canonical.empty())
-        return tellFailure(file, manifest, console);
+        return failed(manifest);
     if (isStandardStream(file)) {
         console.printBytes(canonical);
-        return Fine;
+    } else if (manifest.content != canonical &&
+               !saveIfUnchanged(file, manifest, manifest.package)) {
+        console.tell(translatedSentence(manifest.package.errorString()));
+        return {Formatted::Unreadable};
     }
-    if (manifest.content == canonical || saveIfUnchanged(file, manifest, manifest.package))
-        return Fine;
-    return tellFailure(file, manifest, console);
+    return {};
+}
+
+Formatted format(const QString &file, bool isCheck, Console &console) {
+    ManifestTrouble trouble;
+    const auto manifest = readManifest(file, trouble);
+    if (manifest)
+        return isCheck ? check(*manifest) : rewrite(file, *manifest, console);
+    return {trouble.position.line == 0 ? Formatted::Unreadable : Formatted::Malformed, trouble};
+}
+
+QJsonObject toJson(const QString &file, const Formatted &formatted) {
+    QJsonObject object{{QStringLiteral("file"), withVisibleBytes(file)},
+                       {QStringLiteral("state"), QLatin1String(stateWords[formatted.state])}};
+    if (!formatted.trouble.text.isEmpty())
+        object[QStringLiteral("text")] = formatted.trouble.text;
+    if (formatted.state == Formatted::Malformed) {
+        object[QStringLiteral("line")] = qint64(formatted.trouble.position.line);
+        object[QStringLiteral("column")] = qint64(formatted.trouble.position.column);
+    }
+    return object;
+}
+
+ExitStatus formatAll(const QStringList &files, bool isCheck, JsonListForm *form, Console &console) {
+    ExitStatus status = Fine;
+    for (const QString &file : files) {
+        const Formatted formatted = format(file, isCheck, console);
+        status = std::max(status, statusOf(formatted));
+        if (form)
+            form->add(toJson(file, formatted));
+        else if (formatted.state == Formatted::Different)
+            console.print(console.shown(file) % u'\n');
+        if (!formatted.trouble.text.isEmpty())
+            console.tell(file, formatted.trouble.position, formatted.trouble.text);
+    }
+    return status;
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
-    const auto handle = arguments.isSet(QStringLiteral("check")) ? check : rewrite;
-    ExitStatus status = Fine;
-    const auto files = arguments.positionalArguments();
-    for (const QString &file : files) {
-        const auto manifest = readManifest(file, console);
-        status = std::max(status, manifest ? handle(file, *manifest, console) : Failure);
+    const bool isCheck = arguments.isSet(checkOption);
+    const auto outputFormat = formatOf(arguments, console);
+    if (!outputFormat)
+        return Failure;
+    const QStringList files = arguments.positionalArguments();
+    if (outputFormat == OutputFormat::Text)
+        return formatAll(files, isCheck, nullptr, console);
+    if (!isCheck) {
+        console.tell(QCoreApplication::translate("zel-package", "--format json needs --check."));
+        return Failure;
     }
+    JsonListForm form(QLatin1String("files"), console);
+    const ExitStatus status = formatAll(files, isCheck, &form, console);
+    form.finish();
     return status;
 }
 
@@ -58,11 +119,11 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 const ProgramCommand formatCommand{
     "format",
     QT_TRANSLATE_NOOP("zel-package", "Rewrite manifests in the canonical form"),
-    QT_TRANSLATE_NOOP("zel-package", "FILE... [--check]"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE... [--check [--format text|json]]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Rewrites each FILE in the canonical form, with nothing lost: comments, and "
-                      "elements and attributes that are not known, stay. A file that is in that "
-                      "form already is left alone. '-' takes standard input and writes to standard "
+                      "Rewrites each FILE in the canonical form, and preserves comments, unknown "
+                      "elements and unknown attributes. A file already in that form is left "
+                      "unchanged. '-' takes standard input and writes to standard "
                       "output."),
     1,
     ProgramCommand::anyNumber,

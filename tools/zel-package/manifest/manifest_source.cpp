@@ -1,12 +1,17 @@
 #include "manifest_source.h"
 
+#include "arguments/native_text.h"
+#include "console/library_text.h"
+
 #include <tano/input_file.h>
 #include <tano/manifest_reader.h>
 #include <tano/save_file.h>
 
-#include <QCoreApplication>
 #include <QFile>
 
+#include <cerrno>
+#include <fcntl.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace ZelPackage {
@@ -16,12 +21,15 @@ constexpr std::size_t pieceSize = std::size_t(64) << 10;
 
 // Returns why that failed.
 std::string openSource(QFile &input, const QString &file) {
-    if (!isStandardStream(file)) {
-        input.setFileName(file);
-        return Tano::openInput(input);
-    }
-    const bool isOpen = input.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered);
-    return isOpen ? std::string() : input.errorString().toStdString();
+    const auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (isStandardStream(file))
+        return input.open(STDIN_FILENO, mode) ? std::string() : input.errorString().toStdString();
+    const int opened = ::open(nativeBytes(file).c_str(), O_RDONLY | O_CLOEXEC);
+    if (opened < 0)
+        return std::generic_category().message(errno);
+    return input.open(opened, mode, QFileDevice::AutoCloseHandle)
+               ? std::string()
+               : input.errorString().toStdString();
 }
 
 // Nothing where reading failed.
@@ -51,51 +59,53 @@ bool readPackage(const QString &file, Tano::ManifestReader &reader, Tano::Packag
                  QString &trouble) {
     QFile input;
     if (const std::string reason = openSource(input, file); !reason.empty()) {
-        trouble = QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
-                      .arg(QString::fromStdString(reason));
+        trouble = reasonSentence(reason);
         return false;
     }
     const bool isRead = reader.readFile(input, package);
     if (!isRead && reader.errorPosition().line == 0)
-        trouble = QString::fromStdString(reader.errorMessage());
+        trouble = translatedSentence(reader.errorMessage());
     return isRead;
 }
 
 std::optional<std::string> readContent(const QString &file, QString &trouble) {
     QFile input;
     if (const std::string reason = openSource(input, file); !reason.empty()) {
-        trouble = QCoreApplication::translate("zel-package", "The file cannot be opened: %1.")
-                      .arg(QString::fromStdString(reason));
+        trouble = reasonSentence(reason);
         return {};
     }
     Tano::InputFile source(input, Tano::ManifestReader::maxFileSize);
     auto content = readAll(source);
     if (!content)
-        trouble = QCoreApplication::translate("zel-package", "The file cannot be read: %1.")
-                      .arg(QString::fromStdString(source.error()));
+        trouble = reasonSentence(source.error());
     return content;
 }
 
-std::optional<Manifest> readManifest(const QString &file, Console &console) {
-    QString trouble;
-    auto content = readContent(file, trouble);
-    if (!content) {
-        console.tell(file, trouble);
+std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble) {
+    auto content = readContent(file, trouble.text);
+    if (!content)
         return {};
-    }
     Manifest manifest;
     manifest.content = std::move(*content);
 
     Tano::ManifestReader reader;
     if (!reader.readContent(manifest.content, manifest.package)) {
-        console.tell(file, reader.errorPosition(), QString::fromStdString(reader.errorMessage()));
+        trouble = {reader.errorPosition(), translatedSentence(reader.errorMessage())};
         return {};
     }
     return manifest;
 }
 
+std::optional<Manifest> readManifest(const QString &file, Console &console) {
+    ManifestTrouble trouble;
+    auto manifest = readManifest(file, trouble);
+    if (!manifest)
+        console.tell(file, trouble.position, trouble.text);
+    return manifest;
+}
+
 bool saveIfUnchanged(const QString &file, const Manifest &read, const Tano::PackageInfo &package) {
-    return package.saveToManifestFile(file.toStdString(),
+    return package.saveToManifestFile(nativeBytes(file),
                                       Tano::FileFingerprint::ofContent(read.content));
 }
 

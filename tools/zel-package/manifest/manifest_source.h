@@ -29,7 +29,16 @@ struct Manifest {
 /// The bytes of `file`, "-" for standard input; where they cannot be read, `trouble` says why.
 [[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &trouble);
 
-/// Reads the manifest in `file`, "-" for standard input; where that fails, tells why and where.
+/// Why a manifest could not be read.
+struct ManifestTrouble {
+    Tano::SourcePosition position; ///< in a malformed manifest; line 0 for an unreadable file
+    QString text;
+};
+
+/// Reads the manifest in `file`, "-" for standard input.
+[[nodiscard]] std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble);
+
+/// The same; a failure is reported.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);
 
 /// Saves a package to the file that a manifest was read from, unless another program has changed it

@@ -1,12 +1,12 @@
 #include "program_command.h"
 
 #include "arguments/language_argument.h"
+#include "console/library_text.h"
 #include "manifest_source.h"
+#include "output_file.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
-
-#include <QFile>
 
 namespace ZelPackage {
 namespace {
@@ -49,33 +49,20 @@ std::optional<Zel::RobotLanguages> languagesOf(const QStringList &codes, Console
     return languages;
 }
 
-// Only a file that is not there yet is written: one that another program makes meanwhile is safe.
-bool writeNewFile(const QString &path, const QByteArray &content, Console &console) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        console.tell(path,
-                     QCoreApplication::translate("zel-package", "The file cannot be made: %1.")
-                         .arg(file.errorString()));
-        return false;
-    }
-    if (file.write(content) == content.size() && file.flush())
-        return true;
-    console.tell(path, QCoreApplication::translate("zel-package", "The file cannot be written: %1.")
-                           .arg(file.errorString()));
-    file.remove();
-    return false;
-}
-
 bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Console &console) {
     const QByteArray content = package.saveToManifestContent();
     if (content.isEmpty()) {
-        console.tell(file, QString::fromStdString(package.packageInfo().errorString()));
+        console.tell(file, translatedSentence(package.packageInfo().errorString()));
         return false;
     }
-    if (!isStandardStream(file))
-        return writeNewFile(file, content, console);
-    console.printBytes(content.toStdString());
-    return true;
+    if (isStandardStream(file)) {
+        console.printBytes(content.toStdString());
+        return true;
+    }
+    const QString trouble = createFile(file, content.toStdString());
+    if (!trouble.isEmpty())
+        console.tell(file, trouble);
+    return trouble.isEmpty();
 }
 
 bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
@@ -83,28 +70,31 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     if (Zel::PackageModel::validatePackageUID(&package, errors))
         return true;
     console.tell(QCoreApplication::translate(
-                     "zel-package", "%1 'zel-package explain uid-invalid' says what a UID is.")
-                     .arg(errors.constFirst()));
+                     "zel-package",
+                     "'%1' is not a valid UID; 'zel-package explain uid-invalid' describes one.")
+                     .arg(package.uid()));
     return false;
 }
 
-// Standard error, so that the manifest on standard output stays one.
-void tellWhatIsLeft(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
+// To standard error, since the manifest may go to standard output.
+void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
     QStringList fields;
     const auto issues = Zel::PackageModel::issues(&package);
-    for (const Zel::PackageModel::Issue &issue : issues)
-        fields += issue.path;
-    console.tell(file, QCoreApplication::translate(
-                           "zel-package", "A manifest of version %1; what it still needs: %2.")
-                           .arg(Zel::SoftwareVersionUtils::toString(package.version()),
-                                fields.join(QStringLiteral(", "))));
+    for (const Zel::PackageModel::Issue &issue : issues) {
+        if (issue.id.contains(QLatin1String("-missing")))
+            fields += issue.path;
+    }
+    console.tell(
+        QCoreApplication::translate("zel-package", "Created %1, version %2. Still needed: %3.")
+            .arg(file, Zel::SoftwareVersionUtils::toString(package.version()),
+                 fields.join(QStringLiteral(", "))));
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
     const QString uid = arguments.value(uidOption);
     if (uid.isEmpty()) {
-        console.tell(QCoreApplication::translate("zel-package", "A package needs a --uid."));
+        console.tell(QCoreApplication::translate("zel-package", "Missing option --uid UID."));
         return Failure;
     }
     const auto languages = languagesOf(arguments.values(languageOption), console);
@@ -121,7 +111,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     package.setName(arguments.value(nameOption), languages->front());
     if (!writeManifest(file, package, console))
         return Failure;
-    tellWhatIsLeft(package, file, console);
+    reportCreated(package, file, console);
     return Fine;
 }
 
@@ -129,15 +119,16 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand newCommand{
     "new",
-    QT_TRANSLATE_NOOP("zel-package", "Make a new manifest"),
+    QT_TRANSLATE_NOOP("zel-package", "Create a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE --uid UID [--name TEXT] [--language CODE]..."),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Makes FILE, the manifest of a new package of version 1.0.0. A file that "
+                      "Creates FILE, the manifest of a new package of version 1.0.0. A file that "
                       "exists is never overwritten. '-' writes to standard output."),
     1,
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

@@ -1,11 +1,18 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "arguments/native_text.h"
+#include "console/json_list.h"
+#include "console/library_text.h"
 #include "manifest_source.h"
+#include "output_file.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_scripts.h>
 
-#include <QLoggingCategory>
+#include <tano/save_file.h>
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -20,24 +27,34 @@ QList<QCommandLineOption> options() {
                                          "Write to this file; to standard output when none is "
                                          "given, or '-'."),
              QStringLiteral("OUT"),
-             QStringLiteral("-")}};
+             QStringLiteral("-")},
+            formatOption()};
 }
 
-bool writeManifest(const QString &output, const QString &file, const Tano::PackageInfo &package,
+bool writeContent(const std::string &content, const QString &output, Console &console) {
+    if (isStandardOutput(output)) {
+        console.printBytes(content);
+        return true;
+    }
+    if (isSpecialFile(output)) {
+        const QString trouble = writeToSpecialFile(output, content);
+        if (!trouble.isEmpty())
+            console.tell(output, trouble);
+        return trouble.isEmpty();
+    }
+    const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
+    if (!result)
+        console.tell(translatedSentence(result.error));
+    return bool(result);
+}
+
+bool writeManifest(const Tano::PackageInfo &package, const QString &file, const QString &output,
                    Console &console) {
-    if (!isStandardStream(output)) {
-        if (package.saveToManifestFile(output.toStdString()))
-            return true;
-        console.tell(output, QString::fromStdString(package.errorString()));
-        return false;
-    }
     const std::string content = package.saveToManifestContent();
-    if (content.empty()) {
-        console.tell(file, QString::fromStdString(package.errorString()));
-        return false;
-    }
-    console.printBytes(content);
-    return true;
+    if (!content.empty())
+        return writeContent(content, output, console);
+    console.tell(file, translatedSentence(package.errorString()));
+    return false;
 }
 
 bool holdsScriptVariants(const Tano::PackageInfo &package) {
@@ -47,60 +64,139 @@ bool holdsScriptVariants(const Tano::PackageInfo &package) {
     });
 }
 
-// To standard error, since the manifest goes to standard output.
-void tellErrors(const QVector<Zel::PackageModel::ScriptError> &errors, const QString &file,
-                const std::string &content, Console &console) {
+// A text that is a malformed speech script.
+struct MalformedScript {
+    QString field;
+    Tano::SourcePosition position; // of the field in the manifest
+    Tano::SourcePosition positionInScript;
+    QString text;
+};
+
+MalformedScript malformedScript(const Zel::PackageModel::ScriptError &error,
+                                const Tano::ManifestReader &reader) {
+    static const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("Line (\\d+), column (\\d+): (.*)")),
+        QRegularExpression::DotMatchesEverythingOption);
+    const auto match = form.match(error.text);
+    return {error.path,
+            reader.position(Zel::toUtf8(error.path)),
+            {match.captured(1).toULongLong(), match.captured(2).toULongLong()},
+            translatedSentence(Zel::toUtf8(match.captured(3)))};
+}
+
+void report(const QString &file, const MalformedScript &script, Console &console) {
+    console.tell(file, script.position,
+                 QCoreApplication::translate("zel-package",
+                                             "%1: Malformed speech script (line %2, column %3): %4")
+                     .arg(script.field)
+                     .arg(script.positionInScript.line)
+                     .arg(script.positionInScript.column)
+                     .arg(script.text));
+}
+
+QJsonObject toJson(const QString &file, const MalformedScript &script) {
+    return {{QStringLiteral("file"), withVisibleBytes(file)},
+            {QStringLiteral("line"), qint64(script.position.line)},
+            {QStringLiteral("column"), qint64(script.position.column)},
+            {QStringLiteral("field"), script.field},
+            {QStringLiteral("scriptLine"), qint64(script.positionInScript.line)},
+            {QStringLiteral("scriptColumn"), qint64(script.positionInScript.column)},
+            {QStringLiteral("text"), script.text}};
+}
+
+// The texts of which no plain text can be made.
+std::vector<MalformedScript> malformedScripts(const Zel::PackageInfoModel &package,
+                                              const std::string &content) {
+    std::vector<MalformedScript> scripts;
+    const auto errors = Zel::PackageModel::scriptErrors(&package);
     if (errors.isEmpty())
-        return;
+        return scripts;
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
-    Tano::PackageInfo package;
-    static_cast<void>(reader.readContent(content, package)); // it has been read before
-    for (const Zel::PackageModel::ScriptError &error : errors) {
-        console.tell(file, reader.position(error.path.toStdString()),
-                     QCoreApplication::translate("zel-package", "%1 stays as it is: %2")
-                         .arg(error.path, error.text));
+    Tano::PackageInfo record;
+    static_cast<void>(reader.readContent(content, record)); // it has been read before
+    for (const Zel::PackageModel::ScriptError &error : errors)
+        scripts.push_back(malformedScript(error, reader));
+    return scripts;
+}
+
+void report(const QString &file, const std::vector<MalformedScript> &scripts, OutputFormat format,
+            Console &console) {
+    if (format == OutputFormat::Text) {
+        for (const MalformedScript &script : scripts)
+            report(file, script, console);
+        return;
     }
+    JsonListForm form(QLatin1String("malformedScripts"), console);
+    for (const MalformedScript &script : scripts)
+        form.add(toJson(file, script));
+    form.finish();
+}
+
+bool checkOutput(const QString &file, const QString &output, OutputFormat format,
+                 Console &console) {
+    if (isSameFile(file, output)) {
+        console.tell(output, QCoreApplication::translate(
+                                 "zel-package", "The output cannot be the manifest itself."));
+        return false;
+    }
+    if (format == OutputFormat::Json && isStandardOutput(output)) {
+        console.tell(QCoreApplication::translate(
+            "zel-package", "--format json prints to standard output and needs an --output."));
+        return false;
+    }
+    return true;
+}
+
+ExitStatus publish(const QString &file, const Manifest &manifest, const QString &output,
+                   OutputFormat format, Console &console) {
+    Zel::PackageInfoModel package(manifest.package);
+    package.trimExtraInfo();
+    const auto malformed = malformedScripts(package, manifest.content);
+    if (!malformed.empty()) {
+        report(file, malformed, format, console);
+        return Findings;
+    }
+    if (holdsScriptVariants(manifest.package))
+        console.tell(file, QCoreApplication::translate(
+                               "zel-package", "This manifest has been published before; the "
+                                              "scripts beside its texts are dropped."));
+    package.genPlainTextFromScript();
+    package.syncRecord();
+    if (!writeManifest(package.packageInfo(), file, output, console))
+        return Failure;
+    if (format == OutputFormat::Json)
+        report(file, malformed, format, console);
+    return Fine;
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
+    const QString output = arguments.value(outputOption);
+    const auto format = formatOf(arguments, console);
+    if (!format || !checkOutput(file, output, *format, console))
+        return Failure;
     const auto manifest = readManifest(file, console);
-    if (!manifest)
-        return Failure;
-    if (holdsScriptVariants(manifest->package))
-        console.tell(file, QCoreApplication::translate(
-                               "zel-package", "This has been published before; the scripts that "
-                                              "it keeps beside its texts are dropped."));
-    // What the library would log is told here, with its place in the file.
-    QLoggingCategory::setFilterRules(QStringLiteral("PackageModel.Package.critical=false"));
-
-    Zel::PackageInfoModel package(manifest->package);
-    package.trimExtraInfo();
-    const auto errors = Zel::PackageModel::scriptErrors(&package);
-    package.genPlainTextFromScript();
-    package.syncRecord();
-    if (!writeManifest(arguments.value(outputOption), file, package.packageInfo(), console))
-        return Failure;
-    tellErrors(errors, file, manifest->content, console);
-    return errors.isEmpty() ? Fine : Findings;
+    return manifest ? publish(file, *manifest, output, *format, console) : Failure;
 }
 
 } // namespace
 
 const ProgramCommand publishCommand{
     "publish",
-    QT_TRANSLATE_NOOP("zel-package", "Make the manifest of a package that is to be published"),
-    QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Writes the manifest in FILE as it is published: without texts in languages "
-                      "that the package no longer offers, and with plain text in place of speech "
-                      "scripts, which are kept in a private-use variant of their language. A text "
-                      "that is a malformed script stays as it is, and is told of. '-' reads "
-                      "standard input."),
+    QT_TRANSLATE_NOOP("zel-package", "Write a manifest for publication"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT] [--format text|json]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Writes the manifest in FILE for publication: without texts in languages "
+        "that the package no longer offers, and with plain text in place of speech "
+        "scripts, which are kept in a private-use variant of their language. If a text "
+        "is a malformed script, reports it and writes nothing. '-' reads standard "
+        "input."),
     1,
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

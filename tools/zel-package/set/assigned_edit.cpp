@@ -40,6 +40,16 @@ std::optional<Addition> additionOf(const FieldPath &path) {
     return {};
 }
 
+// The version of a package has three fields.
+QString remarkOnVersion(Zel::SoftwareVersion version) {
+    if (version.fieldsCount() <= 3)
+        return {};
+    version.setFieldsCount(3);
+    return text(QT_TRANSLATE_NOOP("zel-package",
+                                  "The version of a package has three fields, so it becomes %1."))
+        .arg(Zel::SoftwareVersionUtils::toString(version));
+}
+
 class Resolver {
 public:
     Resolver(const Assignment &assignment, const Zel::PackageInfoModel &package)
@@ -76,7 +86,7 @@ bool Resolver::checkLanguage(const FieldForm &form, bool isAddition, QString &me
 AssignedEdit Resolver::add(const Addition &addition, const FieldForm &form) const {
     const QString value = m_assignment.value.value_or(QString());
     if (value.isEmpty())
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "The value cannot be empty."))};
     AssignedEdit result;
     std::optional<FieldValue> entry =
         Zel::PackageModel::parsedValue(form.kind, value, &result.error);
@@ -109,10 +119,9 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
     const QString value = m_assignment.value.value_or(QString());
     if (value.isEmpty() && !m_assignment.path.steps().back().selectors.empty())
         return remove();
-    if (value.isEmpty() && form.isKey)
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "It cannot be empty."))};
-    if (value.isEmpty() && m_assignment.path == FieldPath().field("version"))
-        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "A package has a version."))};
+    const bool isPackageVersion = m_assignment.path == FieldPath().field("version");
+    if (value.isEmpty() && (form.isKey || isPackageVersion))
+        return {{}, text(QT_TRANSLATE_NOOP("zel-package", "The value cannot be empty."))};
     AssignedEdit result;
     if (form.kind > FieldKind::Version)
         result.error =
@@ -123,12 +132,18 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
                 .arg(m_assignment.field);
     else if (const auto parsed = Zel::PackageModel::parsedValue(form.kind, value, &result.error))
         result.edit = Edit{Edit::Action::Set, m_assignment.path, parsed};
+    if (result.edit && isPackageVersion)
+        result.remark = remarkOnVersion(std::get<Zel::SoftwareVersion>(*result.edit->value));
     return result;
 }
 
 AssignedEdit Resolver::resolve() {
     QString error;
     const auto form = Zel::PackageModel::formOf(m_assignment.path, &error);
+    if (!form && Zel::PackageModel::formOf(FieldPath(m_assignment.path).key("en_US")))
+        return {{},
+                text(QT_TRANSLATE_NOOP("zel-package", "It needs a language, as in %1[en_US]."))
+                    .arg(m_assignment.field)};
     if (!form)
         return {{}, error};
     const auto addition = additionOf(m_assignment.path);

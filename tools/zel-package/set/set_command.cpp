@@ -1,8 +1,12 @@
 #include "program_command.h"
 
+#include "arguments/native_text.h"
+#include "arguments/word_check.h"
 #include "assigned_edit.h"
+#include "console/library_text.h"
 #include "console/text_diff.h"
 #include "manifest/manifest_source.h"
+#include "patch_names.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_issues.h>
@@ -32,7 +36,7 @@ QList<QCommandLineOption> options() {
                                          "diff.")},
             {editsOption,
              QCoreApplication::translate("zel-package",
-                                         "First make the edits in this JSON file, which "
+                                         "First apply the edits in this JSON file, which "
                                          "schema/edits.schema.json describes; '-' is standard "
                                          "input."),
              QStringLiteral("FILE")}};
@@ -50,6 +54,8 @@ bool readArguments(const QStringList &arguments, Request &request, Console &cons
     bool isFine = true;
     for (const QString &argument : arguments) {
         const bool isFile = request.assignments.empty() && isFine && !looksLikeAssignment(argument);
+        if (!isFile && !checkText(argument, console))
+            return false;
         if (isFile) {
             request.files += argument;
             continue;
@@ -85,14 +91,14 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
         std::count_if(request.files.begin(), request.files.end(), isStandardStream);
     QString trouble;
     if (request.files.isEmpty())
-        trouble = QCoreApplication::translate("zel-package", "The FILE to edit is missing.");
+        trouble = QCoreApplication::translate("zel-package", "Missing argument FILE.");
     else if (request.assignments.empty() && !hasEdits)
         trouble =
             QCoreApplication::translate("zel-package", "'%1' is not of the form FIELD=VALUE, as in "
                                                        "author=Ines or names[en_US]=Tea.")
                 .arg(request.files.constLast());
     else if (streams > 1)
-        trouble = QCoreApplication::translate("zel-package", "'-' can be given once only.");
+        trouble = QCoreApplication::translate("zel-package", "'-' can be given only once.");
     if (!trouble.isEmpty())
         console.tell(trouble);
     return trouble.isEmpty();
@@ -195,7 +201,9 @@ void FileEdit::reportNewFindings() {
     const auto known = findingsOn(Zel::PackageInfoModel(m_written));
     for (const Finding &finding : found) {
         if (!known.contains(finding))
-            m_console.tell(m_file, finding.first % QStringLiteral(": ") % finding.second);
+            m_console.tell(m_file, finding.first.isEmpty()
+                                       ? finding.second
+                                       : finding.first % QStringLiteral(": ") % finding.second);
     }
 }
 
@@ -208,7 +216,7 @@ std::optional<std::string> editedContent(const QString &file, const Manifest &ma
     const Tano::PackageInfo record = edit.record();
     std::string content = record.saveToManifestContent();
     if (content.empty()) {
-        console.tell(file, QString::fromStdString(record.errorString()));
+        console.tell(file, translatedSentence(record.errorString()));
         return {};
     }
     edit.reportNewFindings();
@@ -220,7 +228,9 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
     QString printed;
     std::string streamed;
     bool isFine = true;
-    for (const QString &file : request.files) {
+    const QStringList names = isDryRun ? patchNames(request.files) : request.files;
+    for (int i = 0; i < request.files.size(); ++i) {
+        const QString &file = request.files.at(i);
         const auto manifest = readManifest(file, console);
         const auto content =
             manifest ? editedContent(file, *manifest, request, console) : std::nullopt;
@@ -228,17 +238,17 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
         if (!content)
             continue;
         if (isDryRun)
-            printed += unifiedDiff(file, manifest->content, *content, console);
+            printed += unifiedDiff(names.at(i), manifest->content, *content, console);
         else if (isStandardStream(file))
             streamed = *content;
         else if (manifest->content != *content)
-            saved.push_back({file.toStdString(), *content,
-                             Tano::FileFingerprint::ofContent(manifest->content)});
+            saved.push_back(
+                {nativeBytes(file), *content, Tano::FileFingerprint::ofContent(manifest->content)});
     }
     if (!isFine)
         return Failure;
     if (const Tano::SaveResult result = Tano::saveFiles(saved); !result) {
-        console.tell(QString::fromStdString(result.error));
+        console.tell(translatedSentence(result.error));
         return Failure;
     }
     console.print(printed);
@@ -270,8 +280,8 @@ const ProgramCommand setCommand{
         "VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds "
         "one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds it at "
         "an index, from 0 on: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
-        "behaviors[greet]@0. Adding what is there and removing what is not changes nothing, so "
-        "that a command can be repeated. Either all fields of all files are set or, where one is "
+        "behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so "
+        "that commands can be repeated. Either all fields of all files are set or, where one is "
         "wrong, none. Files are rewritten in the canonical form with nothing lost. '-' takes "
         "standard input and writes to standard output; a file whose name has a '=' is given with "
         "its folder, as in ./a=b.xml."),

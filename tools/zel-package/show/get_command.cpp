@@ -1,5 +1,6 @@
 #include "program_command.h"
 
+#include "console/library_text.h"
 #include "manifest/manifest_source.h"
 
 #include <packagemodel/package_fields.h>
@@ -43,7 +44,7 @@ ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
                const QVector<Field> &fields, const QString &file, Console &console) {
     FieldPath::Error error;
     const auto path = FieldPath::parse(Zel::toUtf8(argument), &error);
-    QString reason = QString::fromStdString(error.message);
+    QString reason = translatedSentence(error.message);
     if (path && !path->isEmpty()) {
         const QString lines = linesOf(*path, fields);
         console.print(lines);
@@ -57,7 +58,8 @@ ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
             return Fine;
         if (form) {
             console.tell(file, argument % QStringLiteral(": ") %
-                                   QCoreApplication::translate("zel-package", "There is none."));
+                                   QCoreApplication::translate("zel-package",
+                                                               "The package has no such entry."));
             return Findings;
         }
     }
@@ -95,6 +97,7 @@ const ProgramCommand getCommand{
     ProgramCommand::anyNumber,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

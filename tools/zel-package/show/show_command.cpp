@@ -1,7 +1,7 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
 #include "arguments/language_argument.h"
-#include "arguments/word_check.h"
 #include "console/json_text.h"
 #include "manifest/manifest_source.h"
 #include "show_text.h"
@@ -13,9 +13,6 @@ namespace ZelPackage {
 namespace {
 
 const QLatin1String languageOption("language");
-const QLatin1String formatOption("format");
-const QLatin1String textFormat("text");
-const QLatin1String jsonFormat("json");
 
 QList<QCommandLineOption> options() {
     return {{languageOption,
@@ -23,29 +20,18 @@ QList<QCommandLineOption> options() {
                                          "Show every text in this language; '!' marks those that "
                                          "are missing."),
              QStringLiteral("CODE")},
-            {formatOption,
-             QCoreApplication::translate("zel-package", "The form of the output: text or json."),
-             QStringLiteral("FORMAT"), textFormat}};
-}
-
-bool checkOptions(const QCommandLineParser &arguments, Console &console) {
-    const QString format = arguments.value(formatOption);
-    if (!checkWord(format, {textFormat, jsonFormat},
-                   QCoreApplication::translate("zel-package", "There is no format '%1'%2"),
-                   QCoreApplication::translate("zel-package", "; it is either text or json."),
-                   console))
-        return false;
-    if (format == jsonFormat && arguments.isSet(languageOption)) {
-        console.tell(QCoreApplication::translate(
-            "zel-package", "--format json shows all languages and takes no --language."));
-        return false;
-    }
-    return true;
+            formatOption()};
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
-    if (!checkOptions(arguments, console))
+    const auto format = formatOf(arguments, console);
+    if (!format)
         return Failure;
+    if (format == OutputFormat::Json && arguments.isSet(languageOption)) {
+        console.tell(QCoreApplication::translate(
+            "zel-package", "--format json shows all languages and takes no --language."));
+        return Failure;
+    }
     const auto manifest = readManifest(arguments.positionalArguments().constFirst(), console);
     if (!manifest)
         return Failure;
@@ -58,7 +44,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
         if (!language)
             return Failure;
     }
-    if (arguments.value(formatOption) == jsonFormat)
+    if (format == OutputFormat::Json)
         Zel::PackageModel::writeJson(
             &package, [&](const QByteArray &json) { console.print(printableJson(json)); });
     else
@@ -70,17 +56,19 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand showCommand{
     "show",
-    QT_TRANSLATE_NOOP("zel-package", "Show what a manifest says"),
+    QT_TRANSLATE_NOOP("zel-package", "Show a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [--language CODE] [--format text|json]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Shows all that the manifest in FILE says, and how far it is translated. A "
-                      "missing text is replaced as an application does it: by the one in the "
-                      "default language, then, for a name, by the uid or the path. '-' reads "
-                      "standard input."),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Shows every field of the manifest in FILE, and how much of it is translated. "
+        "A missing text is replaced as in an application: by the text in the "
+        "default language, then, for a name, by the uid or the path. '-' reads "
+        "standard input."),
     1,
     1,
     options,
     run,
+    1,
 };
 
 } // namespace ZelPackage

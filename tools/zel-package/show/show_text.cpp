@@ -1,6 +1,7 @@
 #include "show_text.h"
 
 #include "console/labeled_list.h"
+#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "coverage_table.h"
 #include "shown_text.h"
@@ -227,7 +228,7 @@ QString kindOf(const Zel::BehaviorInfoModel &behavior) {
     if (!behavior.nature().isEmpty())
         parts += behavior.nature();
     if (behavior.isUserRequestable())
-        parts += QCoreApplication::translate("zel-package", "users may ask for it");
+        parts += QCoreApplication::translate("zel-package", "users may request it");
     return parts.join(QStringLiteral(", "));
 }
 
@@ -263,7 +264,7 @@ QString behaviorsSection(const Zel::PackageInfoModel &package, const RobotLangua
     for (const Zel::BehaviorInfoModel *behavior : behaviors)
         entries.push_back(behaviorEntry(*behavior, language, isSpokenIn(language, package)));
     return entriesSection(
-        QCoreApplication::translate("zel-package", "Behaviors in %1").arg(language.uiName()),
+        QCoreApplication::translate("zel-package", "Behaviors in %1").arg(nameOf(language)),
         entries, console);
 }
 
@@ -320,7 +321,7 @@ QString textOf(const Zel::PackageInfoModel &package, const std::optional<RobotLa
         language ? *language : usualLanguageOf(Zel::PackageModel::languages(&package));
     const QString title = printable(shownName(package, shown).text);
     const QString textsTitle =
-        language ? QCoreApplication::translate("zel-package", "Texts in %1").arg(language->uiName())
+        language ? QCoreApplication::translate("zel-package", "Texts in %1").arg(nameOf(*language))
                  : QCoreApplication::translate("zel-package", "Texts");
     const QString texts =
         language ? textsIn(*language, package, console) : textsInAll(package, console);

@@ -1,6 +1,8 @@
 #include "baseline.h"
 
+#include "arguments/native_text.h"
 #include "console/json_text.h"
+#include "console/library_text.h"
 #include "file_place.h"
 #include "manifest/manifest_source.h"
 
@@ -94,7 +96,7 @@ QString Baseline::write() const {
                          QJsonDocument::Compact);
     }
     json += QStringLiteral("]}\n");
-    return QString::fromStdString(Tano::saveFile({m_file.toStdString(), json.toStdString()}).error);
+    return translatedSentence(Tano::saveFile({nativeBytes(m_file), json.toStdString()}).error);
 }
 
 void Baseline::add(const QString &manifest, const QString &rule, const QString &field) {

@@ -1,5 +1,6 @@
 #include "configuration.h"
 
+#include "arguments/native_text.h"
 #include "arguments/suggestion.h"
 #include "file_place.h"
 #include "manifest/manifest_source.h"
@@ -9,6 +10,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #define TOML_EXCEPTIONS 0
 #include <toml++/toml.h>
@@ -218,7 +223,8 @@ Configurations::Pointer Configurations::find(const QString &folder) {
     const QString parent = QFileInfo(folder).path();
     bool isFine = true;
     Pointer found;
-    if (QFileInfo::exists(file))
+    std::error_code ignored;
+    if (std::filesystem::exists(nativeBytes(file), ignored))
         found = read(pathBelowHere(file), isFine);
     else if (parent != folder)
         found = find(parent);

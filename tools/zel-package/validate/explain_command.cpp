@@ -1,5 +1,7 @@
 #include "program_command.h"
 
+#include "arguments/format_option.h"
+#include "console/json_list.h"
 #include "console/text_table.h"
 #include "report_rules.h"
 
@@ -9,7 +11,7 @@ namespace {
 using Zel::PackageModel::Rule;
 
 QList<QCommandLineOption> options() {
-    return {};
+    return {formatOption()};
 }
 
 QString tableOf(const QVector<Rule> &rules, const Console &console) {
@@ -21,11 +23,27 @@ QString tableOf(const QVector<Rule> &rules, const Console &console) {
     return table.toText(console, 0);
 }
 
+void printJson(const QVector<Rule> &rules, Console &console) {
+    JsonListForm form(QLatin1String("rules"), console);
+    for (const Rule &rule : rules) {
+        form.add({{QStringLiteral("id"), rule.id},
+                  {QStringLiteral("severity"), wordOf(rule.severity)},
+                  {QStringLiteral("message"), messageForm(rule)},
+                  {QStringLiteral("explanation"), rule.explanation},
+                  {QStringLiteral("remedy"), rule.remedy}});
+    }
+    form.finish();
+}
+
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const auto format = formatOf(arguments, console);
+    if (!format)
+        return Failure;
+    const bool isJson = format == OutputFormat::Json;
     const QVector<Rule> rules = reportRules();
     const QStringList ids = arguments.positionalArguments();
     if (ids.isEmpty()) {
-        console.print(tableOf(rules, console));
+        isJson ? printJson(rules, console) : console.print(tableOf(rules, console));
         return Fine;
     }
     const QStringList known = idsOf(rules);
@@ -34,7 +52,8 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
         console.tell(unknownRule(ids.constFirst(), known));
         return Failure;
     }
-    console.print(explanationOf(rules.at(index), console));
+    isJson ? printJson({rules.at(index)}, console)
+           : console.print(explanationOf(rules.at(index), console));
     return Fine;
 }
 
@@ -42,11 +61,11 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand explainCommand{
     "explain",
-    QT_TRANSLATE_NOOP("zel-package", "Explain what 'validate' finds"),
-    QT_TRANSLATE_NOOP("zel-package", "[ID]"),
+    QT_TRANSLATE_NOOP("zel-package", "Explain the rules of 'validate'"),
+    QT_TRANSLATE_NOOP("zel-package", "[ID] [--format text|json]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Tells what the rule ID of 'validate' is for and how to mend what it finds; "
-                      "without an ID, lists all rules."),
+                      "Explains what the rule ID of 'validate' is for and how to correct its "
+                      "findings; without an ID, lists all rules."),
     0,
     1,
     options,

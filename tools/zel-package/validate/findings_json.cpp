@@ -1,5 +1,6 @@
 #include "findings_writer.h"
 
+#include "arguments/native_text.h"
 #include "console/json_list.h"
 #include "report_rules.h"
 
@@ -41,7 +42,7 @@ public:
 
     void write(const CheckedManifest &manifest) override {
         for (const ManifestFinding &finding : manifest.findings) {
-            m_findings.add({{QStringLiteral("file"), manifest.file},
+            m_findings.add({{QStringLiteral("file"), withVisibleBytes(manifest.file)},
                             {QStringLiteral("line"), qint64(finding.position.line)},
                             {QStringLiteral("column"), qint64(finding.position.column)},
                             {QStringLiteral("id"), finding.ruleId},
@@ -53,8 +54,8 @@ public:
     }
 
     void writeTrouble(const QString &file, const QString &trouble) override {
-        m_unreadable +=
-            QJsonObject{{QStringLiteral("file"), file}, {QStringLiteral("text"), trouble}};
+        m_unreadable += QJsonObject{{QStringLiteral("file"), withVisibleBytes(file)},
+                                    {QStringLiteral("text"), trouble}};
     }
 
     void finish(const Report &report) override {

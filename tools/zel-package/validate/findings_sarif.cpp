@@ -1,5 +1,6 @@
 #include "findings_writer.h"
 
+#include "arguments/native_text.h"
 #include "console/json_list.h"
 #include "file_place.h"
 #include "fix_changes.h"
@@ -9,7 +10,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
-#include <QUrl>
 
 namespace ZelPackage {
 namespace {
@@ -31,7 +31,7 @@ QJsonObject messageObject(const QString &text) {
 constexpr QLatin1String baseId("%SRCROOT%");
 
 QString encoded(const QString &path) {
-    return QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
+    return QString::fromLatin1(QByteArray::fromStdString(nativeBytes(path)).toPercentEncoding("/"));
 }
 
 QString fileUri(const QString &path) {

@@ -1,5 +1,7 @@
 #include "manifest_fixes.h"
 
+#include "console/library_text.h"
+
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/record_editor.h>
 
@@ -18,7 +20,7 @@ FixedManifest fixedManifest(const Tano::PackageInfo &record, Zel::PackageModel::
         return {{}, {}, applied.error};
     const Tano::PackageInfo fixed = editor.record();
     const std::string content = fixed.saveToManifestContent();
-    return {content, fixed, QString::fromStdString(fixed.errorString())};
+    return {content, fixed, translatedSentence(fixed.errorString())};
 }
 
 } // namespace ZelPackage

@@ -1,29 +1,36 @@
 #include "manifest_folders.h"
 
+#include "arguments/native_text.h"
+#include "console/library_text.h"
+
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
 
 namespace ZelPackage {
 namespace {
 
+namespace fs = std::filesystem;
+
 using Report = std::function<void(const QString &folder, const QString &trouble)>;
 
-void collect(const QString &folder, const Report &report, QStringList &files) {
-    const QDir here(folder);
-    if (!here.isReadable()) {
-        report(folder, QCoreApplication::translate("zel-package", "The folder cannot be read."));
-        return;
+QString textOf(const fs::path &path) {
+    return nativeText(QByteArray::fromStdString(path.lexically_normal().string()));
+}
+
+void collect(const fs::path &folder, const Report &report, QStringList &files) {
+    std::error_code error;
+    for (auto entry = fs::directory_iterator(folder, error);
+         !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code ignored; // of an entry that is gone meanwhile
+        if (fs::is_directory(entry->symlink_status(ignored)))
+            collect(entry->path(), report, files);
+        else if (entry->path().filename() == "manifest.xml" && !entry->is_directory(ignored))
+            files += textOf(entry->path());
     }
-    const auto entries =
-        here.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QFileInfo &entry : entries) {
-        const QString path = QDir::cleanPath(entry.filePath());
-        if (entry.isDir() && !entry.isSymLink())
-            collect(path, report, files);
-        else if (!entry.isDir() && entry.fileName() == QLatin1String("manifest.xml"))
-            files += path;
-    }
+    if (error)
+        report(textOf(folder), reasonSentence(error.message()));
 }
 
 } // namespace
@@ -31,14 +38,15 @@ void collect(const QString &folder, const Report &report, QStringList &files) {
 QStringList manifestsOf(const QStringList &arguments, const Report &report) {
     QStringList all;
     for (const QString &argument : arguments) {
-        if (!QFileInfo(argument).isDir()) {
+        std::error_code ignored; // of a file that is not there
+        if (!fs::is_directory(nativeBytes(argument), ignored)) {
             all += argument;
             continue;
         }
         QStringList files;
         bool isFine = true;
         collect(
-            argument,
+            nativeBytes(argument),
             [&](const QString &folder, const QString &trouble) {
                 isFine = false;
                 report(folder, trouble);

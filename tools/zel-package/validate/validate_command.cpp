@@ -1,6 +1,7 @@
 #include "program_command.h"
 
 #include "manifest_folders.h"
+#include "set/patch_names.h"
 #include "validation.h"
 
 #include <algorithm>
@@ -8,7 +9,8 @@
 namespace ZelPackage {
 namespace {
 
-void checkAll(const QStringList &files, Validation &validation, Console &console) {
+void checkAll(const QStringList &files, bool showsDiff, Validation &validation, Console &console) {
+    const QStringList names = showsDiff ? patchNames(files) : files;
     constexpr int fewFiles = 100; // which take no time to speak of
     const int step = std::max(1, int(files.size()) / 100);
     for (int i = 0; i < files.size(); ++i) {
@@ -16,7 +18,7 @@ void checkAll(const QStringList &files, Validation &validation, Console &console
             console.showProgress(QCoreApplication::translate("zel-package", "Checked %1 of %2")
                                      .arg(i)
                                      .arg(files.size()));
-        validation.check(files.at(i));
+        validation.check(files.at(i), names.at(i));
     }
     console.showProgress({});
 }
@@ -53,7 +55,7 @@ ExitStatus validate(const ValidateRequest &request, Console &results, Console &o
         manifestsOf(request.arguments, [&](const QString &folder, const QString &trouble) {
             validation.reportTrouble(folder, trouble);
         });
-    checkAll(files, validation, results);
+    checkAll(files, request.showsDiff, validation, results);
     const Report report = validation.finish();
     writer->finish(report);
     const QString summary = summaryOf(report, request.showsDiff);

@@ -1,5 +1,6 @@
 #include "validation.h"
 
+#include "console/library_text.h"
 #include "console/text_diff.h"
 #include "ignore_comments.h"
 #include "manifest/manifest_source.h"
@@ -39,6 +40,7 @@ void sortByPlace(std::vector<ManifestFinding> &findings) {
 struct Validation::Target {
     QString file; // as it is opened
     QString name; // as it is reported
+    QString patchName;
     QString folder;
     RuleSettings settings;
 };
@@ -79,7 +81,7 @@ void Validation::reportTrouble(const QString &file, const QString &trouble,
 
 Validation::Target Validation::targetOf(const QString &file) {
     const bool isNamed = !isStandardStream(file) || !m_request.stdinName.isEmpty();
-    Target target{file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}};
+    Target target{file, isStandardStream(file) && isNamed ? m_request.stdinName : file, {}, {}, {}};
     if (isNamed)
         target.folder = QFileInfo(target.name).path();
     const Configuration &configuration =
@@ -91,9 +93,10 @@ Validation::Target Validation::targetOf(const QString &file) {
     return target;
 }
 
-void Validation::check(const QString &file) {
+void Validation::check(const QString &file, const QString &patchName) {
     ++m_report.files;
-    const Target target = targetOf(file);
+    Target target = targetOf(file);
+    target.patchName = patchName;
     CheckedManifest manifest{target.name};
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     QString trouble;
@@ -106,7 +109,7 @@ void Validation::check(const QString &file) {
                                      malformedRuleId,
                                      Severity::Error,
                                      {},
-                                     QString::fromStdString(reader.errorMessage())});
+                                     translatedSentence(reader.errorMessage())});
     } else {
         ++m_report.unreadable;
         reportTrouble(target.name, trouble);
@@ -151,7 +154,7 @@ void Validation::fix(const Target &target, std::string &content) {
     if (isChanged && (m_request.showsDiff || isStandardStream(target.file) ||
                       save(target, content, fixed.record))) {
         if (m_request.showsDiff)
-            m_output.print(unifiedDiff(target.name, content, fixed.content, m_output));
+            m_output.print(unifiedDiff(target.patchName, content, fixed.content, m_output));
         ++m_report.fixed;
         content = fixed.content;
     }
@@ -163,7 +166,7 @@ bool Validation::save(const Target &target, const std::string &content,
                       const Tano::PackageInfo &fixed) {
     if (saveIfUnchanged(target.file, {{}, content}, fixed))
         return true;
-    reportTrouble(target.name, QString::fromStdString(fixed.errorString()));
+    reportTrouble(target.name, translatedSentence(fixed.errorString()));
     return false;
 }
 

@@ -22,7 +22,8 @@ public:
     /// been reported.
     [[nodiscard]] bool prepare();
 
-    void check(const QString &file);
+    /// `patchName` is the name of the file in differences; see patchNames().
+    void check(const QString &file, const QString &patchName);
     /// A file or folder that could not be worked on.
     void reportTrouble(const QString &file, const QString &trouble,
                        Tano::SourcePosition position = {});

@@ -20,7 +20,7 @@ struct TANO_BASE_EXPORT FileFingerprint {
     std::string digest;     // SHA-256, 32 bytes
 
     static FileFingerprint ofContent(const std::string &content);
-    /// Reads the file at `path`, in UTF-8; a file that cannot be read counts as none.
+    /// Reads the file at `path`, as in FileToSave; a file that cannot be read counts as none.
     static FileFingerprint ofFile(const std::string &path);
 
     friend bool operator==(const FileFingerprint &a, const FileFingerprint &b) {
@@ -33,7 +33,9 @@ struct TANO_BASE_EXPORT FileFingerprint {
 struct FileToSave {
     enum class Links { Follow, Refuse };
 
-    std::string path; ///< In UTF-8.
+    /// In UTF-8. Bytes that are not UTF-8 name the file that has exactly this name, since file
+    /// systems take any bytes.
+    std::string path;
     /// The new content; without one, the file is removed if it exists.
     std::optional<std::string> bytes = {};
     /// If given, the file is saved only while it has this content.

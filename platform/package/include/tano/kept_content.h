@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // What a manifest holds beyond the fields of its records: comments, and elements and attributes
@@ -22,9 +23,8 @@
 // }
 // ```
 //
-// Except for hasComment(), each function takes time proportional to the size of the manifest. Those
-// that return a package return what its changed manifest reads as, and never change the package
-// that they are given.
+// Each function takes time proportional to the size of the manifest. Those that return a package
+// return what its changed manifest reads as, and never change the package that they are given.
 
 namespace Tano {
 
@@ -46,7 +46,7 @@ struct KeptComment {
 /// The comments of a package in the order of writing.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptComment> comments(const PackageInfo &package);
 
-/// Whether any comment contains a text. Takes no time to speak of.
+/// Whether any comment has such a part; quicker than comments().
 [[nodiscard]] TANO_PACKAGE_EXPORT bool hasComment(const PackageInfo &package,
                                                   const std::string &part);
 
@@ -54,6 +54,10 @@ struct KeptComment {
 /// saved.
 [[nodiscard]] TANO_PACKAGE_EXPORT PackageInfo withoutComment(const PackageInfo &package,
                                                              const KeptComment &comment);
+
+/// The same for several comments at once; those that the package does not have are left out.
+[[nodiscard]] TANO_PACKAGE_EXPORT PackageInfo
+withoutComments(const PackageInfo &package, const std::vector<KeptComment> &removed);
 
 /// The package with a comment directly before the element of a field.
 ///
@@ -90,5 +94,9 @@ struct KeptComment {
 /// valid manifest, for example because the field is there already.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::optional<PackageInfo>
 withRenamedNode(const PackageInfo &package, const UnknownNode &node, const std::string &name);
+/// The same for several nodes at once; all or none.
+[[nodiscard]] TANO_PACKAGE_EXPORT std::optional<PackageInfo>
+withRenamedNodes(const PackageInfo &package,
+                 const std::vector<std::pair<UnknownNode, std::string>> &renamed);
 
 } // namespace Tano

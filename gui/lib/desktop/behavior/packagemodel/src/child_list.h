@@ -172,7 +172,7 @@ private:
     bool m_leaving = false;
 };
 
-/// Lets the lists reach into the child models.
+/// Lets the lists reach into the models.
 class ChildAccess {
 public:
     template<typename Child>

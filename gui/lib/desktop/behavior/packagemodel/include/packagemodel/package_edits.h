@@ -13,7 +13,9 @@ namespace Zel::PackageModel {
 /// | Remove | an entry, or a field that may be absent | | |
 /// | Move | an entry | | its new index |
 ///
-/// An index is clamped to the list by Insert. A language is inserted as its code.
+/// Setting the empty path replaces the whole package: what differs is edited through the slots, and
+/// comments and unknown content follow. An index is clamped to the list by Insert. A language is
+/// inserted as its code.
 struct Edit {
     enum class Action { Set, Insert, Remove, Move };
 

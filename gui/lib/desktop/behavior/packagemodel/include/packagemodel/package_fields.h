@@ -6,6 +6,7 @@
 #include <tano/behavior_info.h>
 #include <tano/dialog_info.h>
 #include <tano/field_path.h>
+#include <tano/package_info.h>
 #include <tano/package_service.h>
 
 #include <QString>
@@ -23,8 +24,9 @@ class PackageInfoModel;
 namespace PackageModel {
 
 /// The value of a field, or a whole entry of a list.
-using FieldValue = std::variant<QString, bool, SoftwareVersion, RobotRequirement, BrioRequirement,
-                                Tano::BehaviorInfo, Tano::DialogInfo, Tano::PackageService>;
+using FieldValue =
+    std::variant<QString, bool, SoftwareVersion, RobotRequirement, BrioRequirement,
+                 Tano::BehaviorInfo, Tano::DialogInfo, Tano::PackageService, Tano::PackageInfo>;
 
 /// The kinds of values, in the order of FieldValue: those of one field, then entries of lists.
 enum class FieldKind {
@@ -35,7 +37,8 @@ enum class FieldKind {
     BrioRequirement,
     Behavior,
     Dialog,
-    Service
+    Service,
+    Package ///< all of it, which the empty path leads to
 };
 
 /// One field of a package.

@@ -314,6 +314,7 @@ public Q_SLOTS:
     bool removeDescription(const RobotLanguage &language);
 
 private:
+    friend class ChildAccess;
     void assign(const PackageInfoModel &other, const WholeChange &change);
     bool load(const std::function<bool(Tano::PackageInfo &)> &read,
               const std::function<void()> &readIcon);

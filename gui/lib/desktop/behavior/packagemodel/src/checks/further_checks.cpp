@@ -306,15 +306,56 @@ void checkSupport(const CheckedPackage &checked, Findings &findings) {
             {RuleId::SupportedLanguageMissing, fieldNamed("supportedLanguages"), {}, {}});
 }
 
+void checkUnknownNodes(const CheckedPackage &checked, Findings &findings) {
+    for (const Tano::UnknownNode &node : checked.unknownNodes) {
+        const QString name = fromUtf8(node.name);
+        QStringList arguments{name, nearest(name, namesBeside(node))};
+        const bool isElement = node.kind == Tano::UnknownNode::Kind::Element;
+        if (!isElement)
+            arguments += fromUtf8(node.parent);
+        findings.push_back({isElement ? RuleId::ElementUnknown : RuleId::AttributeUnknown,
+                            node.parentPath,
+                            arguments,
+                            {}});
+    }
+}
+
+void checkConflicts(const CheckedPackage &checked, Findings &findings) {
+    for (const Tano::KeptComment &comment : conflicts(checked.record))
+        findings.push_back({RuleId::MergeConflict, comment.before, {}, {}});
+}
+
 } // namespace
+
+QStringList namesBeside(const Tano::UnknownNode &node) {
+    QStringList names;
+    for (const std::string &name : Tano::knownNames(node))
+        names += fromUtf8(name);
+    return names;
+}
+
+std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record) {
+    if (!Tano::hasComment(record, conflictMark))
+        return {};
+    std::vector<Tano::KeptComment> all = Tano::comments(record);
+    const auto isOther = [](const Tano::KeptComment &comment) {
+        return fromUtf8(comment.text).trimmed().indexOf(QLatin1String(conflictMark)) != 0;
+    };
+    all.erase(std::remove_if(all.begin(), all.end(), isOther), all.end());
+    return all;
+}
 
 FieldPath BehaviorPlace::path() const {
     return fieldNamed("behaviors").entry(toUtf8(behavior->path()), occurrence);
 }
 
-CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith)
+CheckedPackage::CheckedPackage(const PackageInfoModel &checked,
+                               const Tano::PackageInfo &checkedRecord,
+                               const IssueOptions &checkedWith)
     : package(checked)
+    , record(checkedRecord)
     , options(checkedWith)
+    , unknownNodes(Tano::unknownNodes(checkedRecord))
     , scripts(checked) {
     for (const RobotLanguages &list :
          {checked.supportedLanguages(), checked.descriptionLanguages()}) {
@@ -324,12 +365,21 @@ CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptio
 }
 
 const std::vector<FurtherCheck> &furtherChecks() {
-    static const std::vector<FurtherCheck> checks{
-        {checkOwnScripts, checkScripts}, {nullptr, checkPath},       {checkKeys, nullptr},
-        {nullptr, checkPermissions},     {nullptr, checkNature},     {checkLanguageCodes, nullptr},
-        {checkRobots, nullptr},          {checkVersions, nullptr},   {checkDate, nullptr},
-        {checkOwnTexts, checkTexts},     {checkTopicFiles, nullptr}, {checkIcon, nullptr},
-        {checkSupport, nullptr}};
+    static const std::vector<FurtherCheck> checks{{checkOwnScripts, checkScripts},
+                                                  {nullptr, checkPath},
+                                                  {checkKeys, nullptr},
+                                                  {nullptr, checkPermissions},
+                                                  {nullptr, checkNature},
+                                                  {checkLanguageCodes, nullptr},
+                                                  {checkRobots, nullptr},
+                                                  {checkVersions, nullptr},
+                                                  {checkDate, nullptr},
+                                                  {checkOwnTexts, checkTexts},
+                                                  {checkTopicFiles, nullptr},
+                                                  {checkIcon, nullptr},
+                                                  {checkSupport, nullptr},
+                                                  {checkUnknownNodes, nullptr},
+                                                  {checkConflicts, nullptr}};
     return checks;
 }
 

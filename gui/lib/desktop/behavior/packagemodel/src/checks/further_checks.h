@@ -5,6 +5,8 @@
 
 #include <packagemodel/package_issues.h>
 
+#include <tano/kept_content.h>
+
 #include <QSet>
 
 namespace Zel::PackageModel {
@@ -19,13 +21,24 @@ struct BehaviorPlace {
 
 /// What the further checks look at.
 struct CheckedPackage {
-    CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith);
+    CheckedPackage(const PackageInfoModel &checked, const Tano::PackageInfo &checkedRecord,
+                   const IssueOptions &checkedWith);
 
-    const PackageInfoModel &package;
+    const PackageInfoModel &package; // possibly without the behaviors of the record
+    const Tano::PackageInfo &record;
     const IssueOptions &options;
     QSet<QString> languages; // the codes of those that the package lists
+    std::vector<Tano::UnknownNode> unknownNodes;
     BehaviorScripts scripts;
 };
+
+/// The names that the format knows where an unknown node is.
+QStringList namesBeside(const Tano::UnknownNode &node);
+
+/// The beginning of a comment that holds both sides of a merge.
+constexpr const char *conflictMark = "zel-package: conflict";
+/// Such comments.
+std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record);
 
 /// A check beyond those of the messages: of the package without its behaviors, and of one behavior,
 /// which need not be in the package. Each appends what it finds; a null one finds nothing.

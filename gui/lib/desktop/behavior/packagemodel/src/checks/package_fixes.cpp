@@ -1,5 +1,7 @@
 #include "package_fixes.h"
 
+#include "further_checks.h"
+
 #include <packagemodel/near_words.h>
 #include <packagemodel/package_info_model.h>
 
@@ -357,9 +359,63 @@ MakeFixes fixesOfRule(RuleId rule) {
 
 } // namespace
 
-QVector<Fix> fixesOf(const Finding &finding, const PackageInfoModel &package) {
+namespace {
+
+using Renamed = std::vector<std::pair<Tano::UnknownNode, std::string>>;
+
+// All at once or, if that gives no valid manifest, those of a few that do.
+std::optional<Tano::PackageInfo> withAsManyRenamed(const Tano::PackageInfo &record,
+                                                   const Renamed &renamed) {
+    constexpr std::size_t few = 20;
+    auto corrected = Tano::withRenamedNodes(record, renamed);
+    Renamed accepted;
+    for (std::size_t i = 0; !corrected && i < std::min(renamed.size(), few); ++i) {
+        accepted.push_back(renamed[i]);
+        if (!Tano::withRenamedNodes(record, accepted))
+            accepted.pop_back();
+    }
+    return corrected || accepted.empty() ? corrected : Tano::withRenamedNodes(record, accepted);
+}
+
+} // namespace
+
+QVector<Fix> FixMaker::fixesOf(const Finding &finding) {
+    if (finding.rule == RuleId::ElementUnknown || finding.rule == RuleId::AttributeUnknown)
+        return finding.arguments.value(1).size() > 1 ? renames() : QVector<Fix>();
+    if (finding.rule == RuleId::MergeConflict)
+        return resolutions();
     const MakeFixes make = fixesOfRule(finding.rule);
-    return make ? make(finding, package) : QVector<Fix>();
+    return make ? make(finding, m_package) : QVector<Fix>();
+}
+
+const QVector<Fix> &FixMaker::renames() {
+    if (m_renames)
+        return *m_renames;
+    m_renames.emplace();
+    const auto record = std::get<Tano::PackageInfo>(*value(&m_package, {}));
+    Renamed renamed;
+    for (const Tano::UnknownNode &node : Tano::unknownNodes(record)) {
+        const QString near = nearestWord(fromUtf8(node.name), namesBeside(node));
+        if (!near.isEmpty())
+            renamed.emplace_back(node, toUtf8(near));
+    }
+    if (const auto corrected = withAsManyRenamed(record, renamed))
+        m_renames->append({text(QT_TRANSLATE_NOOP("Zel::PackageModel",
+                                                  "Correct the names of elements and attributes")),
+                           true,
+                           {setting({}, *corrected)}});
+    return *m_renames;
+}
+
+const QVector<Fix> &FixMaker::resolutions() {
+    if (m_resolutions)
+        return *m_resolutions;
+    const auto record = std::get<Tano::PackageInfo>(*value(&m_package, {}));
+    m_resolutions = {{text(QT_TRANSLATE_NOOP("Zel::PackageModel",
+                                             "Keep the present values and remove the comments")),
+                      false,
+                      {setting({}, Tano::withoutComments(record, conflicts(record)))}}};
+    return *m_resolutions;
 }
 
 namespace {
@@ -376,10 +432,14 @@ const Fix *chosenFix(const Issue &issue, FixChoice choice) {
 Edits fixRule(PackageInfoModel *package, FixChoice choice, const QVector<Issue> &found,
               const QString &id) {
     Edits made;
+    Edits last; // several issues may share a fix
     for (auto issue = found.rbegin(); issue != found.rend(); ++issue) {
         const Fix *fix = issue->id == id ? chosenFix(*issue, choice) : nullptr;
-        if (fix && apply(package, fix->edits).error.isEmpty())
-            made += fix->edits;
+        if (!fix || fix->edits.constData() == std::as_const(last).constData())
+            continue;
+        last = fix->edits;
+        if (apply(package, last).error.isEmpty())
+            made += last;
     }
     return made;
 }
@@ -399,7 +459,12 @@ Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions 
     Edits made;
     bool isDone = false;
     for (int round = 0; round < mostRounds && !isDone; ++round) {
-        const QVector<Issue> found = issues(package, options);
+        QVector<Issue> found = issues(package, options);
+        // Content of misspelled elements counts from here on.
+        std::stable_partition(found.begin(), found.end(), [](const Issue &issue) {
+            return issue.id == QLatin1String(ruleRow(RuleId::ElementUnknown).id) ||
+                   issue.id == QLatin1String(ruleRow(RuleId::AttributeUnknown).id);
+        });
         QSet<QString> tried;
         isDone = true;
         for (auto issue = found.begin(); issue != found.end() && isDone; ++issue) {

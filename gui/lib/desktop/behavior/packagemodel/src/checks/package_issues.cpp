@@ -22,6 +22,7 @@ public:
                  const std::function<IssueVisit(const Issue &issue)> &visit,
                  const IssueOptions &options)
         : m_package(package)
+        , m_fixes(package)
         , m_visit(visit)
         , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
         , m_withFixes(options.withFixes) {}
@@ -36,7 +37,7 @@ public:
                 continue;
             issue.text = message(finding, {finding.language});
             if (m_withFixes)
-                issue.fixes = fixesOf(finding, m_package);
+                issue.fixes = m_fixes.fixesOf(finding);
             const IssueVisit next = m_visit(issue);
             if (next == IssueVisit::Stop)
                 return false;
@@ -68,6 +69,7 @@ private:
     }
 
     const PackageInfoModel &m_package;
+    FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
     IssueFilter m_filter;
     bool m_withFixes;
@@ -125,7 +127,7 @@ void visitIssues(const PackageInfoModel *package,
     FindingVisit findings(*package, visit, options);
     if (!visitApplicationChecks(*package, findings))
         return;
-    const CheckedPackage checked(*package, options);
+    const CheckedPackage checked(*package, package->packageInfo(), options);
     const std::vector<BehaviorPlace> places = placesOf(package->behaviors());
     for (const BehaviorPlace &place : inOrderOfMessages(places)) {
         if (findings.skips(RuleId::TriggerSentencesMissing))
@@ -159,7 +161,7 @@ void visitIssues(const Tano::PackageInfo &record,
     FindingVisit findings(package, visit, options);
     if (!visitApplicationChecks(package, findings))
         return;
-    const CheckedPackage checked(package, options);
+    const CheckedPackage checked(package, record, options);
     Findings found;
     for (const FurtherCheck &check : furtherChecks()) {
         if (check.ofPackage)

@@ -129,10 +129,22 @@ const std::array table{
      QT_TRANSLATE_NOOP("Zel::PackageModel", "No supported language is defined."),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "A package is offered to the users of the languages that it supports, so that this one is offered to none."),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "Add the languages that the package speaks.")},
+    RuleRow{"element-unknown", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Unknown element <%1>%2"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The format has no such element here. It is kept, and otherwise ignored."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the name. Additions of other tools belong in a namespace of their own.")},
+    RuleRow{"attribute-unknown", Severity::Warning,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Unknown attribute '%1' of <%3>%2"),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The format has no such attribute here. It is kept, and otherwise ignored."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the name. Additions of other tools belong in a namespace of their own.")},
+    RuleRow{"merge-conflict", Severity::Error,
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Unresolved merge conflict."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Both sides of a merge changed the field. The manifest has one of the values, and a comment before it has both."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "Choose a value, then remove the comment.")},
 };
 // clang-format on
 
-static_assert(table.size() == std::size_t(RuleId::SupportedLanguageMissing) + 1);
+static_assert(table.size() == std::size_t(RuleId::MergeConflict) + 1);
 
 } // namespace
 

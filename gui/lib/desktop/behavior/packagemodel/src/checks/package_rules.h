@@ -34,6 +34,9 @@ enum class RuleId {
     TopicFileMissing,
     IconInvalid,
     SupportedLanguageMissing,
+    ElementUnknown,
+    AttributeUnknown,
+    MergeConflict,
 };
 
 /// Whether a rule is one of those that messages and live flags are made from.

@@ -45,7 +45,7 @@ public:
     }
 
     std::optional<FieldValue> read(const QJsonObject &object, QString &error);
-    std::optional<FieldValue> readManifest(const QString &manifest, QString &error);
+    std::optional<FieldValue> readManifest(const QJsonValue &manifest, QString &error);
 
 private:
     PackageInfoModel m_package;
@@ -112,14 +112,20 @@ std::optional<FieldValue> EntryPackage::read(const QJsonObject &object, QString 
     return error.isEmpty() ? entry() : std::nullopt;
 }
 
-std::optional<FieldValue> EntryPackage::readManifest(const QString &manifest, QString &error) {
+std::optional<Tano::PackageInfo> packageOf(const QJsonValue &manifest, QString &error) {
     Tano::PackageInfo record;
     Tano::ManifestReader reader;
-    if (!reader.readContent(toUtf8(manifest), record)) {
-        error = fromUtf8(reader.errorMessage());
+    if (reader.readContent(toUtf8(manifest.toString()), record))
+        return record;
+    error = fromUtf8(reader.errorMessage());
+    return {};
+}
+
+std::optional<FieldValue> EntryPackage::readManifest(const QJsonValue &manifest, QString &error) {
+    const auto record = packageOf(manifest, error);
+    if (!record)
         return {};
-    }
-    m_package = PackageInfoModel(record);
+    m_package = PackageInfoModel(*record);
     const auto read = entry();
     if (!read)
         error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel",
@@ -129,17 +135,18 @@ std::optional<FieldValue> EntryPackage::readManifest(const QString &manifest, QS
 }
 
 bool isEntry(FieldKind kind) {
-    return kind >= FieldKind::RobotRequirement;
+    return kind >= FieldKind::RobotRequirement && kind != FieldKind::Package;
 }
 
 std::optional<FieldValue> readValue(FieldKind kind, const QJsonValue &json, QString &error) {
-    if (isEntry(kind) && json.isObject()) {
-        const QJsonObject object = json.toObject();
-        const QJsonValue manifest = object.value(manifestMember);
-        return manifest.isString() && object.size() == 1
-                   ? EntryPackage(kind).readManifest(manifest.toString(), error)
-                   : EntryPackage(kind).read(object, error);
-    }
+    const QJsonObject object = json.toObject();
+    const QJsonValue manifest = object.value(manifestMember);
+    const bool isManifest = manifest.isString() && object.size() == 1;
+    if (kind == FieldKind::Package && isManifest)
+        return packageOf(manifest, error);
+    if (isEntry(kind) && json.isObject())
+        return isManifest ? EntryPackage(kind).readManifest(manifest, error)
+                          : EntryPackage(kind).read(object, error);
     if (kind == FieldKind::Flag && json.isBool())
         return json.toBool();
     if (json.isString() && (kind == FieldKind::Text || kind == FieldKind::Version))
@@ -154,6 +161,8 @@ QJsonValue toJson(const FieldValue &value) {
     const auto kind = static_cast<FieldKind>(value.index());
     if (const auto *flag = std::get_if<bool>(&value))
         return *flag;
+    if (const auto *record = std::get_if<Tano::PackageInfo>(&value))
+        return QJsonObject{{manifestMember, fromUtf8(record->saveToManifestContent())}};
     if (!isEntry(kind))
         return printed(value);
     EntryPackage package(kind);

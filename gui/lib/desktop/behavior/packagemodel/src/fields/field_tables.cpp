@@ -51,11 +51,10 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(std::size_t(index)).isoCode(); }
-    /// A code is no number, so a language may also be selected by its index.
+    /// By code, or else by index.
     int find(const Selectors &selectors) const override {
-        const int index = indexIn(selectors, size());
-        return index < 0 && selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text))
-                                                  : index;
+        const int index = selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
+        return index < 0 ? indexIn(selectors, size()) : index;
     }
     std::optional<QStringList> keys() const override {
         QStringList codes;
@@ -265,9 +264,10 @@ Edits LanguageItems::lostWith(int index) const {
         FieldPath path;
         path.field("dialogs").entry(toUtf8(dialog->topicName()), counts[dialog->topicName()]++);
         path.field("topics").key(toUtf8(language.isoCode()));
-        const QString topic = dialog->topic(language);
-        if (!topic.isEmpty())
-            edits.append({Edit::Action::Set, path, FieldValue(topic)});
+        for (const auto &[topic, each] : dialog->topics()) {
+            if (each == language)
+                edits.append({Edit::Action::Set, path, FieldValue(topic)});
+        }
     }
     return edits + gainedWith(at(index)); // a language that comes back is described
 }

@@ -3,6 +3,7 @@
 #include "field_tables.h"
 
 #include <algorithm>
+#include <set>
 
 namespace Zel::PackageModel {
 namespace {
@@ -142,23 +143,61 @@ Edits move(const Edit &edit, const FieldTarget &target) {
     return {{Edit::Action::Move, itemPath(target, edit.index), {}, target.item}};
 }
 
-Applied applyOne(PackageInfoModel &package, const Edit &edit) {
-    const FieldTarget target = targetOf(package, edit.path);
-    if (const QString reason = refusalOf(package, edit, target); !reason.isEmpty())
-        return refused(edit, reason);
+Edits change(const Edit &edit, const FieldTarget &target) {
     switch (edit.action) {
     case Edit::Action::Set:
-        return {target.cell ? setCell(edit, *target.cell) : setItem(edit, target), {}};
+        return target.cell ? setCell(edit, *target.cell) : setItem(edit, target);
     case Edit::Action::Insert:
-        return {insert(edit, target), {}};
+        return insert(edit, target);
     case Edit::Action::Remove:
-        return {remove(edit, target), {}};
+        return remove(edit, target);
     case Edit::Action::Move:
-        return {move(edit, target), {}};
+        return move(edit, target);
     }
     return {};
 }
 
+template<typename Records, typename FromRecord, typename ToRecord>
+bool areNormal(const Records &records, FromRecord fromRecord, ToRecord toRecord) {
+    return std::all_of(records.begin(), records.end(),
+                       [&](const auto &record) { return toRecord(fromRecord(record)) == record; });
+}
+
+// Whether the slots can restore what an edit changes. Versions of requirements are normalized by
+// the first edit of their list, and a permission that a manifest repeats is removed as a whole.
+bool isReversible(const PackageInfoModel &package, const FieldPath &path) {
+    if (path.isEmpty())
+        return true;
+    const std::string &first = path.steps().front().field;
+    const Tano::PackageInfo &record = package.packageInfo();
+    if (first == "robotRequirements")
+        return areNormal(record.robotRequirements(), fromTanoRobotRequirement,
+                         toTanoRobotRequirement);
+    if (first == "brioRequirements")
+        return areNormal(record.brioRequirements(), fromTanoBrioRequirement, toTanoBrioRequirement);
+    if (path.steps().back().field != "permissions")
+        return true;
+    FieldPath entryPath = path;
+    while (entryPath.steps().size() > 1)
+        entryPath = entryPath.parent();
+    const auto entry = value(&package, entryPath);
+    const auto *behavior = entry ? std::get_if<Tano::BehaviorInfo>(&*entry) : nullptr;
+    const auto permissions = behavior ? behavior->permissions() : std::vector<std::string>();
+    return std::set(permissions.begin(), permissions.end()).size() == permissions.size();
+}
+
+Applied applyOne(PackageInfoModel &package, const Edit &edit) {
+    const FieldTarget target = targetOf(package, edit.path);
+    if (const QString reason = refusalOf(package, edit, target); !reason.isEmpty())
+        return refused(edit, reason);
+    if (!isReversible(package, edit.path)) {
+        package.syncRecord();
+        const Tano::PackageInfo before = package.packageInfo();
+        change(edit, target);
+        return {{{Edit::Action::Set, {}, before}}, {}};
+    }
+    return {change(edit, target), {}};
+}
 QString noPackage() {
     return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
 }

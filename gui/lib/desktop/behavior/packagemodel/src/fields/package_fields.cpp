@@ -1,6 +1,7 @@
 #include <packagemodel/package_fields.h>
 
 #include "field_tables.h"
+#include "package_replacement.h"
 
 namespace Zel::PackageModel {
 namespace {
@@ -13,7 +14,14 @@ PackageInfoModel &unconst(const PackageInfoModel &package) {
 } // namespace
 
 FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path) {
-    return path.isEmpty() ? FieldTarget() : followIn(packageFields(), package, {path, 0});
+    if (!path.isEmpty())
+        return followIn(packageFields(), package, {path, 0});
+    package.syncRecord(); // insertions into the lists of a behavior wait for it
+    const auto set = [living = QPointer<PackageInfoModel>(&package)](const FieldValue &value) {
+        if (living)
+            replacePackage(*living, std::get<Tano::PackageInfo>(value));
+    };
+    return {FieldCell{FieldKind::Package, FieldValue(package.packageInfo()), set, {}}};
 }
 
 Tano::FieldPath itemPath(const FieldTarget &list, int index) {
@@ -63,7 +71,7 @@ std::optional<FieldForm> formOf(const Tano::FieldPath &path, QString *error) {
     QString reason;
     std::optional<FieldForm> form;
     if (path.isEmpty())
-        reason = QCoreApplication::translate("Zel::PackageModel", "The path is empty.");
+        form = FieldForm{FieldKind::Package, false, {}, {}, false};
     else
         form = formIn(packageFields(), {path, 0}, reason);
     if (error)
