@@ -955,5 +955,9 @@
         <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
         <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
+    <message>
+        <source>The version of a package has three fields, so it becomes %1.</source>
+        <translation>La version d&apos;un paquet a trois nombres, elle devient donc %1.</translation>
+    </message>
 </context>
 </TS>

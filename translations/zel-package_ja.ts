@@ -955,5 +955,9 @@
         <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
         <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
     </message>
+    <message>
+        <source>The version of a package has three fields, so it becomes %1.</source>
+        <translation>パッケージのバージョンは三つの数字なので、%1 になります。</translation>
+    </message>
 </context>
 </TS>
