@@ -213,6 +213,13 @@ private Q_SLOTS:
             attributes += QStringLiteral(" a%1=''").arg(i);
         QCOMPARE(parseXliff(inBody(text("<group") + attributes + text("/>"))).error,
                  text("The element <group> has more than 64 attributes."));
+        const QString filler = QString(1 << 16, u'x');
+        const QString tag = text("<note a='>%1'/>").arg(filler);
+        const ParsedXliff parsed = parseXliff(inBody(u'\n' + tag));
+        QCOMPARE(parsed.error, text("A tag is longer than 64 KiB."));
+        QCOMPARE(QPair(parsed.line, parsed.column), QPair(qint64(2), qint64(1)));
+        for (const char *other : {"<note>%1</note>", "<!--%1>-->", "<note><![CDATA[%1]]></note>"})
+            QCOMPARE(parseXliff(inBody(text(other).arg(filler))).error, QString());
     }
 
     // What tools add is passed over; the text within inline elements counts.
@@ -242,8 +249,8 @@ private Q_SLOTS:
         for (int i = 0; i < 3000; ++i) {
             QByteArray garbled = xliff;
             for (int change = random.bounded(1, 4); change > 0; --change)
-                garbled.replace(random.bounded(garbled.size()), random.bounded(3),
-                                xliff.mid(random.bounded(xliff.size()), random.bounded(40)));
+                garbled.replace(random.bounded(int(garbled.size())), random.bounded(3),
+                                xliff.mid(random.bounded(int(xliff.size())), random.bounded(40)));
             const ParsedXliff parsed = parseXliff(garbled);
             QCOMPARE(parsed.units.isEmpty(), !parsed.error.isEmpty());
             RecordEditor editor(m_record);

@@ -78,8 +78,8 @@ struct ParsedXliff {
 /// The texts within inline elements count, their tags do not; an empty placeholder has to have an
 /// `equiv-text`. Alternatives, headers, the units of PO headers and elements in other namespaces
 /// are passed over. Refused are malformed XML, document types, elements that XLIFF does not have in
-/// that place, units without a path of a text, and files beyond 256 MiB, 64 levels, or 64
-/// attributes on an element.
+/// that place, units without a path of a text, and files beyond 256 MiB, 64 levels, 64 KiB of
+/// a tag, or 64 attributes on an element.
 PACKAGEMODEL_EXPORT ParsedXliff parseXliff(const QByteArray &xliff);
 
 /// What became of a unit.

@@ -13,6 +13,7 @@ namespace Zel::PackageModel {
 namespace {
 
 constexpr int maxSize = 256 << 20;
+constexpr int maxTag = 64 << 10; // QXmlStreamReader compares each attribute with all others
 constexpr int maxDepth = 64;
 constexpr int maxAttributes = 64;
 
@@ -34,6 +35,33 @@ bool contains(const Range &names, const QStringView &name) {
 
 QString sentence(const char *source) {
     return inWords(source);
+}
+
+// The length of a tag that begins at `start`; `end` is where the next one does at the earliest.
+int tagLength(const QByteArray &xliff, int start, int end) {
+    char quote = '\0';
+    int at = start + 1;
+    for (; at < end && (quote != '\0' || xliff.at(at) != '>'); ++at) {
+        const char c = xliff.at(at);
+        if (c == quote)
+            quote = '\0';
+        else if (quote == '\0' && (c == '"' || c == '\''))
+            quote = c;
+    }
+    return at - start;
+}
+
+// Where a tag begins that is too long; -1 for none.
+int tooLongTag(const QByteArray &xliff) {
+    for (int start = int(xliff.indexOf('<')); start >= 0;) {
+        const int next = int(xliff.indexOf('<', start + 1));
+        const int end = next < 0 ? int(xliff.size()) : next;
+        const bool isTag = start + 1 < end && xliff.at(start + 1) != '!';
+        if (isTag && end - start > maxTag && tagLength(xliff, start, end) > maxTag)
+            return start;
+        start = next;
+    }
+    return -1;
 }
 
 class XliffParser {
@@ -297,6 +325,13 @@ ParsedXliff parseXliff(const QByteArray &xliff) {
         return {
             {},
             sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The file is larger than 256 MiB."))};
+    if (const int start = tooLongTag(xliff); start >= 0) {
+        const QByteArray before = xliff.left(start);
+        return {{},
+                sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "A tag is longer than 64 KiB.")),
+                before.count('\n') + 1,
+                start - before.lastIndexOf('\n')};
+    }
     return XliffParser(xliff).parse();
 }
 
