@@ -220,8 +220,9 @@ void reportUnknownCommand(const QString &name, Console &console) {
 } // namespace
 
 QVector<const ProgramCommand *> programCommands() {
-    return {&newCommand, &showCommand,    &getCommand,     &validateCommand,  &formatCommand,
-            &setCommand, &publishCommand, &explainCommand, &languagesCommand, &robotsCommand};
+    return {&newCommand,     &showCommand,    &getCommand,       &validateCommand,
+            &formatCommand,  &setCommand,     &diffCommand,      &mergeCommand,
+            &publishCommand, &explainCommand, &languagesCommand, &robotsCommand};
 }
 
 ExitStatus runProgram(const QStringList &arguments, Console &console) {

@@ -5,6 +5,8 @@
 #include "console/text_layout.h"
 #include "manifest_source.h"
 
+#include <tano/save_file.h>
+
 #include <QFile>
 
 #include <cerrno>
@@ -84,6 +86,23 @@ QString writeToSpecialFile(const QString &file, const std::string &content) {
         return writeAll(opened, content);
     const QString text = printableExcept(QStringLiteral("\t\n"), QString::fromStdString(content));
     return writeAll(opened, text.toStdString());
+}
+
+bool writeContent(const std::string &content, const QString &output, Console &console) {
+    if (isStandardOutput(output)) {
+        console.printBytes(content);
+        return true;
+    }
+    if (isSpecialFile(output)) {
+        const QString trouble = writeToSpecialFile(output, content);
+        if (!trouble.isEmpty())
+            console.tell(output, trouble);
+        return trouble.isEmpty();
+    }
+    const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
+    if (!result)
+        console.tell(translatedSentence(result.error));
+    return bool(result);
 }
 
 } // namespace ZelPackage

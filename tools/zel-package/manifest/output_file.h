@@ -1,5 +1,7 @@
 #pragma once
 
+#include "console/console.h"
+
 #include <QString>
 
 #include <string>
@@ -22,5 +24,10 @@ bool isSpecialFile(const QString &output);
 
 /// Writes content to a special file. Returns why that failed, as a sentence.
 [[nodiscard]] QString writeToSpecialFile(const QString &file, const std::string &content);
+
+/// Writes content to an output of any kind, "-" for standard output. Returns false once it has
+/// reported why that failed.
+[[nodiscard]] bool writeContent(const std::string &content, const QString &output,
+                                Console &console);
 
 } // namespace ZelPackage

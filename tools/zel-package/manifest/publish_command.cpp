@@ -10,8 +10,6 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_scripts.h>
 
-#include <tano/save_file.h>
-
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -29,23 +27,6 @@ QList<QCommandLineOption> options() {
              QStringLiteral("OUT"),
              QStringLiteral("-")},
             formatOption()};
-}
-
-bool writeContent(const std::string &content, const QString &output, Console &console) {
-    if (isStandardOutput(output)) {
-        console.printBytes(content);
-        return true;
-    }
-    if (isSpecialFile(output)) {
-        const QString trouble = writeToSpecialFile(output, content);
-        if (!trouble.isEmpty())
-            console.tell(output, trouble);
-        return trouble.isEmpty();
-    }
-    const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
-    if (!result)
-        console.tell(translatedSentence(result.error));
-    return bool(result);
 }
 
 bool writeManifest(const Tano::PackageInfo &package, const QString &file, const QString &output,

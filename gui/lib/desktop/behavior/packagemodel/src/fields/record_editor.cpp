@@ -47,6 +47,8 @@ PackageModel::Applied RecordEditor::apply(const PackageModel::Edits &edits) {
         m_data->editsVersion = m_data->editsVersion || step.field == "version";
         if (step.field != "descriptionLanguages")
             continue;
+        if (edit.action == PackageModel::Edit::Action::Move)
+            m_data->isCompleted = false; // the order of all is asked for
         if (!step.selectors.empty())
             m_data->editedLanguages.insert(step.selectors.front().text);
         else if (const auto *code = edit.value ? std::get_if<QString>(&*edit.value) : nullptr)
