@@ -34,8 +34,9 @@ private:
     Sides<QJsonValue> valuesOf(const MergedItem &item) const;
 
     void notePlaces(const QStringList &keys);
-    void mergeEntry(const MergedItem &item, const FieldPath &path);
+    void mergeEntry(const MergedItem &item, int index, const FieldPath &path);
     void mergeKey(const MergedItem &item, const FieldPath &path);
+    bool canAdopt(const MergedItem &item) const;
     void mergeContent(const MergedItem &item, const FieldPath &path);
     void reportRemoved();
     void reportEqualKeys(const QStringList &keys);
@@ -112,7 +113,7 @@ void EntryMerge::run() {
         return m_records.theirs.at(m_items[std::size_t(index)].theirs);
     };
     const auto mergeOne = [&](int, int index, const FieldPath &path, Edits &) {
-        mergeEntry(m_items[std::size_t(index)], path);
+        mergeEntry(m_items[std::size_t(index)], index, path);
     };
     appendEdits({m_path, matchOfOurs(m_items, int(m_records.ours.size())), m_entries.ours.keys,
                  keys, newRecord, mergeOne, m_row.keyName()},
@@ -122,7 +123,7 @@ void EntryMerge::run() {
 }
 
 // Merges an entry that ours has.
-void EntryMerge::mergeEntry(const MergedItem &item, const FieldPath &path) {
+void EntryMerge::mergeEntry(const MergedItem &item, int index, const FieldPath &path) {
     const bool isOld = item.isIn(&MergedItem::base);
     if (!item.isIn(&MergedItem::theirs)) {
         if (isOld)
@@ -133,7 +134,10 @@ void EntryMerge::mergeEntry(const MergedItem &item, const FieldPath &path) {
     if (theirs == m_records.ours.at(item.ours) || (isOld && theirs == m_records.base.at(item.base)))
         return;
     mergeKey(item, path);
-    mergeContent(item, path);
+    if (canAdopt(item))
+        m_merge.adopted.push_back({index, theirs});
+    else
+        mergeContent(item, path);
 }
 
 void EntryMerge::mergeKey(const MergedItem &item, const FieldPath &path) {
@@ -143,16 +147,16 @@ void EntryMerge::mergeKey(const MergedItem &item, const FieldPath &path) {
                             {baseKey(item), oursKey(item), theirs});
 }
 
+// Whether ours has left an entry unchanged.
+bool EntryMerge::canAdopt(const MergedItem &item) const {
+    return item.isIn(&MergedItem::base) &&
+           m_records.ours.at(item.ours) == m_records.base.at(item.base) &&
+           mergedKey(item) == theirsKey(item);
+}
+
 void EntryMerge::mergeContent(const MergedItem &item, const FieldPath &path) {
-    const bool isOld = item.isIn(&MergedItem::base);
-    if (isOld && m_records.ours.at(item.ours) == m_records.base.at(item.base) &&
-        mergedKey(item) == theirsKey(item)) {
-        // Comments and unknown content come along.
-        m_merge.edits.append({Edit::Action::Set, path, m_records.theirs.at(item.theirs)});
-        return;
-    }
     Sides<QJsonValue> values = valuesOf(item);
-    if (!isOld)
+    if (!item.isIn(&MergedItem::base))
         values.base = toJson(m_row.emptyEntry(oursKey(item)));
     mergeFields(mapped(values,
                        [this](const QJsonValue &value) {

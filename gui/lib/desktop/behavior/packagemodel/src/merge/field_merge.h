@@ -9,13 +9,22 @@
 #include <QJsonValue>
 
 #include <map>
+#include <vector>
 
 namespace Zel::PackageModel {
 
 /// What a merge makes of the fields that it has compared.
 struct FieldMerge {
+    /// An entry of the merged package that is that of theirs, comments and unknown content
+    /// included.
+    struct Adopted {
+        int index; ///< in the merged list
+        FieldValue record;
+    };
+
     Edits edits; ///< of ours
     QVector<MergeConflict> conflicts;
+    std::vector<Adopted> adopted = {}; ///< to be put in place when the edits are done
     /// The items of theirs that have another place, by their paths in a merged parent.
     std::map<Tano::FieldPath, Tano::FieldPath> places = {};
 

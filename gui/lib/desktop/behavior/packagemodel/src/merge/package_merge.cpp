@@ -56,6 +56,15 @@ void mergeLanguages(const Sides<PackageInfo> &records, PackageInfo &merged) {
     }
 }
 
+void adopt(const FieldMerge::Adopted &adopted, PackageInfo &record) {
+    if (const auto *behavior = std::get_if<Tano::BehaviorInfo>(&adopted.record))
+        record.replaceBehavior(adopted.index, *behavior);
+    else if (const auto *dialog = std::get_if<Tano::DialogInfo>(&adopted.record))
+        record.replaceDialog(adopted.index, *dialog);
+    else if (const auto *service = std::get_if<Tano::PackageService>(&adopted.record))
+        record.replaceService(adopted.index, *service);
+}
+
 // Merges all fields but the lists of languages.
 FieldMerge mergePackages(const Sides<PackageInfoModel *> &packages) {
     FieldMerge merge;
@@ -88,6 +97,8 @@ Merged merge(const PackageInfo &base, const PackageInfo &ours, const PackageInfo
     if (!applied.error.isEmpty())
         return {ours, {}, applied.error};
     PackageInfo merged = editor.record();
+    for (const FieldMerge::Adopted &each : merge.adopted)
+        adopt(each, merged);
     const Sides<PackageInfo> records{base, ours, theirs};
     mergeLanguages(records, merged);
     mergeKeptContent(records, merge, merged);
