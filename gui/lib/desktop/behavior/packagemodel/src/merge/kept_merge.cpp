@@ -114,7 +114,7 @@ void reportUnknownNodes(const Sides<PackageInfo> &records, const PackageInfo &me
 
 // A text in quotation marks, at most so long that a comment can hold two.
 std::string quoted(const QString &text) {
-    constexpr int mostCharacters = 50'000;
+    constexpr int mostCharacters = 50000;
     if (text.isNull())
         return "none";
     const QString shown =
