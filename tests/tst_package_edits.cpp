@@ -1,4 +1,6 @@
+#include "edit_script.h"
 #include "golden.h"
+#include "random_edits.h"
 #include "text.h"
 
 #include <packagemodel/package_difference.h>
@@ -10,28 +12,12 @@
 #include <QTest>
 #include <QUndoStack>
 
-#include <random>
-
 using namespace Zel;
 using namespace Zel::PackageModel;
+using namespace EditScript;
 using Tano::FieldPath;
 
 namespace {
-
-FieldPath path(const char *printedPath) {
-    const auto parsed = FieldPath::parse(printedPath);
-    if (!parsed)
-        qFatal("not a path: %s", printedPath);
-    return *parsed;
-}
-
-QByteArray listing(const PackageInfoModel &package) {
-    QString lines;
-    for (const Field &field : fields(&package))
-        lines += fromUtf8(field.path.toString()) % u'=' % printed(field.value) % text("  # ") %
-                 field.label % text(": ") % label(field.path) % u'\n';
-    return lines.toUtf8();
-}
 
 // What differs between the caches of a package and those of a new one with the same record.
 QByteArray cacheDifference(const PackageInfoModel &package) {
@@ -50,117 +36,6 @@ QByteArray cacheDifference(const PackageInfoModel &package) {
                                 .arg(language.isoCode(), language.uiName()));
     return differing.join(u'\n').toUtf8();
 }
-
-// The fields of a package in the order that a difference keeps: texts by their language's code.
-QList<QByteArray> orderedListing(const PackageInfoModel &package) {
-    QList<QByteArray> lines = listing(package).split('\n');
-    std::sort(lines.begin(), lines.end());
-    return listing(PackageInfoModel(package.packageInfo())).split('\n') + lines;
-}
-
-// Edits as lines: the action, the path, the index where it has one, the value or a behavior's path.
-const QStringList &actions() {
-    static const QStringList names{text("set"), text("insert"), text("remove"), text("move")};
-    return names;
-}
-
-bool hasIndex(const Edit &edit) {
-    return edit.action == Edit::Action::Insert || edit.action == Edit::Action::Move;
-}
-
-QString script(const Edits &edits) {
-    QString lines;
-    for (const Edit &edit : edits) {
-        lines += actions().at(int(edit.action)) % u' ' % fromUtf8(edit.path.toString());
-        if (hasIndex(edit))
-            lines += u' ' % QString::number(edit.index);
-        const FieldValue value = edit.value.value_or(QString());
-        if (const auto *behavior = std::get_if<Tano::BehaviorInfo>(&value))
-            lines += u' ' % fromUtf8(behavior->path());
-        else if (edit.value)
-            lines += u' ' % printed(value);
-        lines += u'\n';
-    }
-    return lines;
-}
-
-Edit editOf(const QString &line) {
-    QStringList words = line.split(u' ');
-    const auto action = Edit::Action(actions().indexOf(words.takeFirst()));
-    Edit edit{action, path(words.takeFirst().toUtf8().constData())};
-    if (hasIndex(edit))
-        edit.index = words.takeFirst().toInt();
-    const QString value = words.join(u' ');
-    Tano::BehaviorInfo behavior;
-    behavior.setPath(toUtf8(value));
-    const std::string &field = edit.path.steps().back().field;
-    if (edit.path == path("behaviors"))
-        edit.value = behavior;
-    else if (field == "version" || field == "maxBodyVersion")
-        edit.value = SoftwareVersionUtils::fromString(value);
-    else
-        edit.value = value;
-    return edit;
-}
-
-Edits editsOf(const QString &lines) {
-    Edits edits;
-    for (const QString &line : lines.split(u'\n')) {
-        if (!line.isEmpty())
-            edits.append(editOf(line));
-    }
-    return edits;
-}
-
-// Random edits of a package: of its fields, and of lists found by dropping selectors.
-class RandomEdits {
-public:
-    explicit RandomEdits(unsigned seed)
-        : m_random(seed) {}
-
-    Edit next(const PackageInfoModel &package) {
-        const QVector<Field> all = fields(&package);
-        Edit edit{Edit::Action(below(4)), all.at(below(int(all.size()))).path};
-        for (int dropped = below(3); dropped > 0; --dropped)
-            edit.path = edit.path.parent();
-        if (!m_first)
-            m_first = package.packageInfo();
-        if (below(50) == 0)
-            return {Edit::Action::Set, {}, *m_first};
-        edit.index = below(5);
-        edit.value = someValue(package, all);
-        return edit;
-    }
-
-private:
-    int below(int bound) { return int(m_random() % unsigned(bound)); }
-
-    std::optional<FieldValue> someValue(const PackageInfoModel &package,
-                                        const QVector<Field> &all) {
-        static const QStringList texts{text("x"),     text("y"),     text("greet"),
-                                       text("de_DE"), text("<&]]>"), text("\xC3\xA9"),
-                                       QString(),     text("a\x01")};
-        switch (below(8)) {
-        case 0:
-            return below(2) == 0;
-        case 1:
-            return SoftwareVersionUtils::fromString(text("4.5.6"));
-        case 2:
-            return package.robotRequirement(0);
-        case 3:
-            return package.brioRequirement(0);
-        case 4: {
-            const auto &any = all.at(below(int(all.size()))).path;
-            return value(&package, any.parent().isEmpty() ? any : any.parent());
-        }
-        default:
-            return texts.at(below(int(texts.size())));
-        }
-    }
-
-    std::mt19937 m_random;
-    std::optional<Tano::PackageInfo> m_first;
-};
 
 } // namespace
 

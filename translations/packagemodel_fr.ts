@@ -1035,6 +1035,10 @@
         <source>This is a speech script: keep the markup in angle brackets, and translate the text around it.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A tag is longer than 64 KiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

@@ -1143,5 +1143,73 @@
         <source>Known findings: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1&#xa0;: ajout</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1&#xa0;: suppression</translation>
+    </message>
+    <message>
+        <source>%1 renamed to “%2”</source>
+        <translation>%1&#xa0;: nouveau nom «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 changed from %2 to %3</source>
+        <translation>%1&#xa0;: %2 devient %3</translation>
+    </message>
+    <message>
+        <source>%1 moved to place %2</source>
+        <translation>%1&#xa0;: déplacement à la place %2</translation>
+    </message>
+    <message>
+        <source>Only comments, unknown content or the notation of values differ.</source>
+        <translation>Seuls des commentaires, du contenu inconnu ou la notation de valeurs diffèrent.</translation>
+    </message>
+    <message>
+        <source>Compare two manifests by field</source>
+        <translation>Comparer deux manifestes champ par champ</translation>
+    </message>
+    <message>
+        <source>A B [--format text|json]</source>
+        <translation>A B [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Prints the changes that lead from the manifest in A to that in B, a line for each. With --format json, prints them as edits, which &apos;set A --edits&apos; applies. The exit status is 0 for equal manifests, 1 for different ones and 2 for an error. &apos;-&apos; for one of them reads standard input.</source>
+        <translation>Affiche les modifications qui mènent du manifeste A au manifeste B, une par ligne. Avec --format json, les affiche comme des éditions que &apos;set A --edits&apos; applique. Le code de sortie est 0 pour des manifestes égaux, 1 pour des manifestes différents et 2 pour une erreur. &apos;-&apos; pour l&apos;un d&apos;eux lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Write to this file rather than OURS; &apos;-&apos; is standard output.</source>
+        <translation>Écrire dans ce fichier plutôt que dans OURS ; &apos;-&apos; est la sortie standard.</translation>
+    </message>
+    <message>
+        <source>It has conflict markers of git; resolve these conflicts first.</source>
+        <translation>Il contient des marques de conflit de git ; résolvez d&apos;abord ces conflits.</translation>
+    </message>
+    <message>
+        <source>Removed by ours, %1 in theirs.</source>
+        <translation>Supprimé dans OURS, %1 dans THEIRS.</translation>
+    </message>
+    <message>
+        <source>%1 in ours, removed by theirs.</source>
+        <translation>%1 dans OURS, supprimé dans THEIRS.</translation>
+    </message>
+    <message>
+        <source>%1 in ours, %2 in theirs.</source>
+        <translation>%1 dans OURS, %2 dans THEIRS.</translation>
+    </message>
+    <message>
+        <source>Merge the changes of two manifests by field</source>
+        <translation>Fusionner les modifications de deux manifestes champ par champ</translation>
+    </message>
+    <message>
+        <source>BASE OURS THEIRS [-o OUT]</source>
+        <translation>BASE OURS THEIRS [-o OUT]</translation>
+    </message>
+    <message>
+        <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
+        <translation>Fusionne dans OURS, champ par champ, les modifications qui mènent de BASE à THEIRS. Quand les deux côtés ont changé un champ différemment, OURS reste, et un commentaire devant le champ contient les deux valeurs ; &apos;validate&apos; le signale jusqu&apos;à sa suppression. Le code de sortie est 0 après une fusion sans conflit, 1 après une fusion avec conflits, et 2 pour une erreur, qui laisse OURS inchangé. Un fichier vide est un manifeste sans aucun champ. &apos;-&apos; pour l&apos;un des fichiers lit l&apos;entrée standard.</translation>
+    </message>
 </context>
 </TS>

@@ -1143,5 +1143,73 @@
         <source>Known findings: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1を追加</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1を削除</translation>
+    </message>
+    <message>
+        <source>%1 renamed to “%2”</source>
+        <translation>%1の名前を「%2」に変更</translation>
+    </message>
+    <message>
+        <source>%1 changed from %2 to %3</source>
+        <translation>%1を%2から%3に変更</translation>
+    </message>
+    <message>
+        <source>%1 moved to place %2</source>
+        <translation>%1を%2番目に移動</translation>
+    </message>
+    <message>
+        <source>Only comments, unknown content or the notation of values differ.</source>
+        <translation>コメント、未知の内容、または値の表記だけが異なります。</translation>
+    </message>
+    <message>
+        <source>Compare two manifests by field</source>
+        <translation>二つのマニフェストをフィールドごとに比べる</translation>
+    </message>
+    <message>
+        <source>A B [--format text|json]</source>
+        <translation>A B [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Prints the changes that lead from the manifest in A to that in B, a line for each. With --format json, prints them as edits, which &apos;set A --edits&apos; applies. The exit status is 0 for equal manifests, 1 for different ones and 2 for an error. &apos;-&apos; for one of them reads standard input.</source>
+        <translation>A のマニフェストを B のものにする変更を 1 行に一つずつ表示します。--format json では、&apos;set A --edits&apos; が適用する編集として表示します。終了ステータスは、等しければ 0、異なれば 1、エラーなら 2 です。一方に &apos;-&apos; を指定すると標準入力から読みます。</translation>
+    </message>
+    <message>
+        <source>Write to this file rather than OURS; &apos;-&apos; is standard output.</source>
+        <translation>OURS ではなくこのファイルに書く。&apos;-&apos; は標準出力。</translation>
+    </message>
+    <message>
+        <source>It has conflict markers of git; resolve these conflicts first.</source>
+        <translation>git の競合マーカーがあります。先にその競合を解決してください。</translation>
+    </message>
+    <message>
+        <source>Removed by ours, %1 in theirs.</source>
+        <translation>OURS では削除、THEIRS では%1。</translation>
+    </message>
+    <message>
+        <source>%1 in ours, removed by theirs.</source>
+        <translation>OURS では%1、THEIRS では削除。</translation>
+    </message>
+    <message>
+        <source>%1 in ours, %2 in theirs.</source>
+        <translation>OURS では%1、THEIRS では%2。</translation>
+    </message>
+    <message>
+        <source>Merge the changes of two manifests by field</source>
+        <translation>二つのマニフェストの変更をフィールドごとにマージする</translation>
+    </message>
+    <message>
+        <source>BASE OURS THEIRS [-o OUT]</source>
+        <translation>BASE OURS THEIRS [-o OUT]</translation>
+    </message>
+    <message>
+        <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
+        <translation>BASE から THEIRS への変更を、フィールドごとに OURS にマージします。両側が同じフィールドを異なる値に変更した場合は OURS を残し、フィールドの前のコメントに両方の値を書きます。&apos;validate&apos; はそのコメントが削除されるまで報告します。終了ステータスは、競合なしでマージすれば 0、競合があれば 1、エラーなら 2 で、エラーの場合 OURS は変わりません。空のファイルはフィールドのないマニフェストです。いずれかに &apos;-&apos; を指定すると標準入力から読みます。</translation>
+    </message>
 </context>
 </TS>

@@ -248,10 +248,10 @@ ExitStatus runGroup(const CommandGroup &group, const QStringList &arguments, Con
 } // namespace
 
 QVector<const ProgramCommand *> programCommands() {
-    return {&newCommand,         &showCommand,        &getCommand,     &validateCommand,
-            &formatCommand,      &setCommand,         &publishCommand, &textsExportCommand,
-            &textsImportCommand, &textsStatusCommand, &explainCommand, &languagesCommand,
-            &robotsCommand};
+    return {&newCommand,     &showCommand,        &getCommand,         &validateCommand,
+            &formatCommand,  &setCommand,         &diffCommand,        &mergeCommand,
+            &publishCommand, &textsExportCommand, &textsImportCommand, &textsStatusCommand,
+            &explainCommand, &languagesCommand,   &robotsCommand};
 }
 
 const ProgramCommand *commandNamed(const QString &name) {

@@ -27,10 +27,12 @@ struct ProgramCommand {
     int fileArguments = anyNumber;
 };
 
+extern const ProgramCommand diffCommand;
 extern const ProgramCommand explainCommand;
 extern const ProgramCommand formatCommand;
 extern const ProgramCommand getCommand;
 extern const ProgramCommand languagesCommand;
+extern const ProgramCommand mergeCommand;
 extern const ProgramCommand newCommand;
 extern const ProgramCommand publishCommand;
 extern const ProgramCommand robotsCommand;

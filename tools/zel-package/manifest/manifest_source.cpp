@@ -81,12 +81,9 @@ std::optional<std::string> readContent(const QString &file, QString &trouble) {
     return content;
 }
 
-std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble) {
-    auto content = readContent(file, trouble.text);
-    if (!content)
-        return {};
+std::optional<Manifest> manifestOf(std::string content, ManifestTrouble &trouble) {
     Manifest manifest;
-    manifest.content = std::move(*content);
+    manifest.content = std::move(content);
 
     Tano::ManifestReader reader;
     if (!reader.readContent(manifest.content, manifest.package)) {
@@ -94,6 +91,11 @@ std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &troub
         return {};
     }
     return manifest;
+}
+
+std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble) {
+    auto content = readContent(file, trouble.text);
+    return content ? manifestOf(std::move(*content), trouble) : std::nullopt;
 }
 
 std::optional<Manifest> readManifest(const QString &file, Console &console) {

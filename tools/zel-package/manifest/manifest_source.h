@@ -35,6 +35,9 @@ struct ManifestTrouble {
     QString text;
 };
 
+/// The manifest that content is; nothing for any other.
+[[nodiscard]] std::optional<Manifest> manifestOf(std::string content, ManifestTrouble &trouble);
+
 /// Reads the manifest in `file`, "-" for standard input.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble);
 

@@ -311,12 +311,21 @@ public:
     }
     const char *keyName() const override { return m_kind.table().front()->name(); }
     FieldValue emptyEntry(const QString &key) const override { return m_kind.empty(toUtf8(key)); }
+    std::optional<EntrySummaries> summaries(PackageInfoModel &package) const override {
+        const EntryList<Child> list(package, m_kind);
+        const auto fields = [this, children = list.all()](int index) {
+            QJsonObject entry = objectOf(m_kind.table(), *children.at(index));
+            entry.remove(QLatin1String(keyName()));
+            return entry;
+        };
+        return EntrySummaries{*list.keys(), fields};
+    }
     void compare(PackageInfoModel &from, PackageInfoModel &to, const FieldPath &base,
                  Edits &edits) const override {
         const auto before = (from.*m_kind.all)();
         const auto after = (to.*m_kind.all)();
-        const EntrySummaries oldEntries = summariesOf(from);
-        const EntrySummaries newEntries = summariesOf(to);
+        const EntrySummaries oldEntries = *summaries(from);
+        const EntrySummaries newEntries = *summaries(to);
         const auto newRecord = [&](int index) { return m_kind.record(*after.at(index)); };
         const auto compareFields = [&](int oldIndex, int newIndex, const FieldPath &item,
                                        Edits &all) {
@@ -334,18 +343,6 @@ protected:
     }
 
 private:
-    EntrySummaries summariesOf(PackageInfoModel &package) const {
-        EntrySummaries entries;
-        const EntryList<Child> list(package, m_kind);
-        entries.keys = *list.keys();
-        entries.content = [this, children = list.all()](int index) {
-            QJsonObject entry = objectOf(m_kind.table(), *children.at(index));
-            entry.remove(QLatin1String(keyName()));
-            return contentOf(entry);
-        };
-        return entries;
-    }
-
     const EntryKind<Child> &m_kind;
 };
 

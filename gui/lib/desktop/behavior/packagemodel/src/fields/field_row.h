@@ -129,6 +129,8 @@ public:
     /// The field that names such an entry in its list, null if it has an index instead.
     virtual const char *keyName() const { return nullptr; }
     virtual FieldValue emptyEntry(const QString &key) const { return key; }
+    /// Of a list whose entries have keys: the entries of an owner, while it lives unchanged.
+    virtual std::optional<EntrySummaries> summaries(Owner &) const { return {}; }
     /// Appends the edits that turn the field of `from` into that of `to`; `base` is the path of the
     /// owner when they are applied.
     virtual void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const = 0;

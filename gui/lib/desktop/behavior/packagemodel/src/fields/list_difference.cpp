@@ -191,7 +191,7 @@ SequenceMatch matchEntries(const EntrySummaries &oldEntries, const EntrySummarie
             const QString &key = entries.keys.at(i);
             QString text = QString::number(key.size()) % u':' % key;
             if (ambiguous.contains(key))
-                text += entries.content(i);
+                text += contentOf(entries.fields(i));
             return text;
         });
     };
@@ -201,12 +201,13 @@ SequenceMatch matchEntries(const EntrySummaries &oldEntries, const EntrySummarie
     // No content is empty, so that the entries without one are left out.
     QSet<QString> taken(oldEntries.keys.begin(), oldEntries.keys.end());
     const auto renamable = textsOf(oldEntries, [&](int i) {
-        return match.newIndex(i) == SequenceMatch::none ? oldEntries.content(i) : QString();
+        return match.newIndex(i) == SequenceMatch::none ? contentOf(oldEntries.fields(i))
+                                                        : QString();
     });
     const auto fitting = textsOf(newEntries, [&](int i) {
         const int before = int(taken.size());
         taken.insert(newEntries.keys.at(i));
-        return taken.size() != before ? newEntries.content(i) : QString();
+        return taken.size() != before ? contentOf(newEntries.fields(i)) : QString();
     });
     match.pairEqual(renamable, fitting);
     return match;

@@ -46,7 +46,7 @@ QString contentOf(const QJsonObject &item);
 /// The entries of a kind, as far as their matching needs them.
 struct EntrySummaries {
     QStringList keys;
-    std::function<QString(int index)> content; ///< apart from the key
+    std::function<QJsonObject(int index)> fields; ///< apart from the key
 };
 
 /// Pairs entries with the same key; where several have it, first those with the same content. Then

@@ -37,6 +37,8 @@ struct RecordEditor::Data {
         editsVersion = editsVersion || step.field == "version";
         if (step.field != "descriptionLanguages")
             return;
+        if (edit.action == PackageModel::Edit::Action::Move)
+            isCompleted = false; // the order of all is asked for
         if (!step.selectors.empty())
             editedLanguages.insert(step.selectors.front().text);
         else if (const auto *code = edit.value ? std::get_if<QString>(&*edit.value) : nullptr)

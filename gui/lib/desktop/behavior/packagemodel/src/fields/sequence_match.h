@@ -20,6 +20,8 @@ public:
     int newIndex(int oldIndex) const { return m_newIndexes[std::size_t(oldIndex)]; }
     int oldIndex(int newIndex) const { return m_oldIndexes[std::size_t(newIndex)]; }
 
+    /// Pairs two items, which are free.
+    void pair(int oldIndex, int newIndex);
     /// Pairs free items with equal texts: first from both ends on, then in order.
     void pairEqual(const QStringList &oldTexts, const QStringList &newTexts);
     /// Pairs free items whose predecessors are a pair, or which both come first.
@@ -27,7 +29,6 @@ public:
 
 private:
     bool isFree(int oldIndex, int newIndex) const;
-    void pair(int oldIndex, int newIndex);
 
     std::vector<int> m_newIndexes; // by old index
     std::vector<int> m_oldIndexes; // by new index

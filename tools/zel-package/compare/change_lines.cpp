@@ -1,0 +1,103 @@
+#include "change_lines.h"
+
+#include "console/text_layout.h"
+#include "excerpt.h"
+
+#include <packagemodel/package_json.h>
+#include <packagemodel/text_conversion.h>
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace ZelPackage {
+namespace {
+
+using Tano::FieldPath;
+using namespace Zel::PackageModel;
+
+QString withValue(const QString &line, const QString &value) {
+    return value.isEmpty() ? line : line % QStringLiteral(": ") % value;
+}
+
+// The fields of a requirement; nothing for a larger entry.
+QString fieldsOf(const FieldValue &entry) {
+    const bool isRequirement = std::holds_alternative<Zel::RobotRequirement>(entry) ||
+                               std::holds_alternative<Zel::BrioRequirement>(entry);
+    QStringList fields;
+    if (isRequirement) {
+        const QJsonObject object = toJson(entry).toObject();
+        for (auto field = object.begin(); field != object.end(); ++field) {
+            if (!field->toString().isEmpty())
+                fields += printable(field.key() % u' ' % field->toString());
+        }
+    }
+    return fields.join(QStringLiteral(", "));
+}
+
+// What was added or removed, beyond the label of its path.
+QString shownValue(const FieldPath &path, const FieldValue &value) {
+    const auto *text = std::get_if<QString>(&value);
+    if (!text)
+        return fieldsOf(value);
+    const auto &selectors = path.steps().back().selectors;
+    const bool isNamed = !selectors.empty() && Zel::fromUtf8(selectors.back().text) == *text;
+    return isNamed ? QString() : excerpt(*text);
+}
+
+QString lineOf(const char *form, const FieldPath &path) {
+    return QCoreApplication::translate("zel-package", form).arg(printable(label(path)));
+}
+
+QString addition(const FieldPath &path, const FieldValue &value) {
+    return withValue(lineOf(QT_TRANSLATE_NOOP("zel-package", "%1 added"), path),
+                     shownValue(path, value));
+}
+
+QString removal(const FieldPath &path, const FieldValue &value) {
+    return withValue(lineOf(QT_TRANSLATE_NOOP("zel-package", "%1 removed"), path),
+                     shownValue(path, value));
+}
+
+QString setting(const Edit &edit, const std::optional<FieldValue> &old) {
+    const QString before = old ? printed(*old) : QString();
+    const QString after = printed(*edit.value);
+    const auto form = formOf(edit.path);
+    if (form && form->isKey)
+        return QCoreApplication::translate("zel-package", "%1 renamed to “%2”")
+            .arg(printable(label(edit.path.parent())), printable(after));
+    if (before.isEmpty())
+        return addition(edit.path, after);
+    if (after.isEmpty())
+        return removal(edit.path, before);
+    const Excerpts shown = excerpts(before, after);
+    return QCoreApplication::translate("zel-package", "%1 changed from %2 to %3")
+        .arg(printable(label(edit.path)), shown.before, shown.after);
+}
+
+// The line of an edit, which is applied.
+QString changeLine(Zel::PackageInfoModel *package, const Edit &edit) {
+    const auto old = value(package, edit.path);
+    apply(package, edit);
+    switch (edit.action) {
+    case Edit::Action::Set:
+        return setting(edit, old);
+    case Edit::Action::Insert:
+        return addition(itemPath(package, edit.path, edit.index), *edit.value);
+    case Edit::Action::Remove:
+        return removal(edit.path, *old);
+    case Edit::Action::Move:
+        return QCoreApplication::translate("zel-package", "%1 moved to place %2")
+            .arg(printable(label(edit.path)), QString::number(edit.index + 1));
+    }
+    return {};
+}
+
+} // namespace
+
+void visitChanges(Zel::PackageInfoModel *package, const Edits &edits,
+                  const std::function<void(const QString &)> &visit) {
+    for (const Edit &edit : edits)
+        visit(changeLine(package, edit));
+}
+
+} // namespace ZelPackage

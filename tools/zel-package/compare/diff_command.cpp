@@ -1,0 +1,85 @@
+#include "program_command.h"
+
+#include "arguments/format_option.h"
+#include "change_lines.h"
+#include "console/json_list.h"
+#include "manifest/manifest_source.h"
+
+#include <packagemodel/package_difference.h>
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_json.h>
+
+#include <QJsonArray>
+
+namespace ZelPackage {
+namespace {
+
+QList<QCommandLineOption> options() {
+    return {formatOption()};
+}
+
+void printText(const Tano::PackageInfo &from, const Zel::PackageModel::Edits &edits,
+               Console &console) {
+    if (edits.isEmpty())
+        console.print(
+            QCoreApplication::translate(
+                "zel-package", "Only comments, unknown content or the notation of values differ.") %
+            u'\n');
+    Zel::PackageInfoModel package(from);
+    visitChanges(&package, edits, [&](const QString &line) { console.print(line % u'\n'); });
+}
+
+void printJson(const Zel::PackageModel::Edits &edits, Console &console) {
+    JsonListForm form(QLatin1String("edits"), console);
+    const auto document = QJsonDocument::fromJson(Zel::PackageModel::toJson(edits));
+    for (const auto &edit : document.object().value(QLatin1String("edits")).toArray())
+        form.add(edit.toObject());
+    form.finish();
+}
+
+ExitStatus compare(const Tano::PackageInfo &from, const Tano::PackageInfo &to, OutputFormat format,
+                   Console &console) {
+    const Zel::PackageInfoModel before(from);
+    const Zel::PackageInfoModel after(to);
+    const auto edits = Zel::PackageModel::edits(&before, &after);
+    const bool isSame = from == to;
+    if (format == OutputFormat::Json)
+        printJson(edits, console);
+    else if (!isSame)
+        printText(from, edits, console);
+    return isSame ? Fine : Findings;
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const auto format = formatOf(arguments, console);
+    const QStringList files = arguments.positionalArguments();
+    if (!format)
+        return Failure;
+    if (isStandardStream(files.at(0)) && isStandardStream(files.at(1))) {
+        console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+        return Failure;
+    }
+    const auto from = readManifest(files.at(0), console);
+    const auto to = readManifest(files.at(1), console);
+    return from && to ? compare(from->package, to->package, *format, console) : Failure;
+}
+
+} // namespace
+
+const ProgramCommand diffCommand{
+    "diff",
+    QT_TRANSLATE_NOOP("zel-package", "Compare two manifests by field"),
+    QT_TRANSLATE_NOOP("zel-package", "A B [--format text|json]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Prints the changes that lead from the manifest in A to that in B, a line for each. With "
+        "--format json, prints them as edits, which 'set A --edits' applies. The exit status is 0 "
+        "for equal manifests, 1 for different ones and 2 for an error. '-' for one of them reads "
+        "standard input."),
+    2,
+    2,
+    options,
+    run,
+};
+
+} // namespace ZelPackage

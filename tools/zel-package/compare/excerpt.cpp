@@ -1,0 +1,45 @@
+#include "excerpt.h"
+
+#include "console/text_layout.h"
+
+#include <QStringBuilder>
+
+#include <algorithm>
+
+namespace ZelPackage {
+namespace {
+
+constexpr int longestExcerpt = 60;
+constexpr int shownBefore = 20; // of what two texts have in common
+
+// The nearest boundary between characters, from an index backwards.
+int boundaryAt(const QString &text, int index) {
+    const bool isWithin = index > 0 && index < text.size() && text.at(index).isLowSurrogate();
+    return isWithin ? index - 1 : index;
+}
+
+QString excerptFrom(const QString &text, int wanted) {
+    const int start = boundaryAt(text, wanted);
+    const int end = boundaryAt(text, std::min(int(text.size()), start + longestExcerpt));
+    const QString ellipsis = QStringLiteral("…");
+    return u'"' % (start > 0 ? ellipsis : QString()) % printable(text.mid(start, end - start)) %
+           (end < text.size() ? ellipsis : QString()) % u'"';
+}
+
+} // namespace
+
+QString excerpt(const QString &text) {
+    return excerptFrom(text, 0);
+}
+
+Excerpts excerpts(const QString &before, const QString &after) {
+    const int shorter = int(std::min(before.size(), after.size()));
+    int common = 0;
+    while (common < shorter && before.at(common) == after.at(common))
+        ++common;
+    const bool isInView = common + shownBefore < longestExcerpt;
+    const int start = isInView ? 0 : common - shownBefore;
+    return {excerptFrom(before, start), excerptFrom(after, start)};
+}
+
+} // namespace ZelPackage

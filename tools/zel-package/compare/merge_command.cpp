@@ -1,0 +1,140 @@
+#include "program_command.h"
+
+#include "arguments/native_text.h"
+#include "console/library_text.h"
+#include "excerpt.h"
+#include "manifest/manifest_source.h"
+#include "manifest/output_file.h"
+
+#include <packagemodel/package_merge.h>
+#include <packagemodel/text_conversion.h>
+
+#include <tano/save_file.h>
+
+#include <algorithm>
+
+namespace ZelPackage {
+namespace {
+
+using Zel::PackageModel::MergeConflict;
+
+QList<QCommandLineOption> options() {
+    return {{{QStringLiteral("o"), outputOptionName},
+             QCoreApplication::translate(
+                 "zel-package", "Write to this file rather than OURS; '-' is standard output."),
+             QStringLiteral("OUT")}};
+}
+
+bool hasLineWith(const std::string &content, const std::string &start) {
+    return content.compare(0, start.size(), start) == 0 ||
+           content.find('\n' + start) != std::string::npos;
+}
+
+// A failed merge of git leaves such lines in a file.
+bool hasConflictMarkers(const std::string &content) {
+    return hasLineWith(content, "<<<<<<< ") && hasLineWith(content, ">>>>>>> ");
+}
+
+// A side of the merge. An empty file is a package without anything: git passes one as the base of
+// files that both branches have added.
+std::optional<Manifest> readSide(const QString &file, Console &console) {
+    ManifestTrouble trouble;
+    const auto content = readContent(file, trouble.text);
+    if (content && content->empty())
+        return Manifest();
+    if (content && hasConflictMarkers(*content))
+        trouble.text = QCoreApplication::translate(
+            "zel-package", "It has conflict markers of git; resolve these conflicts first.");
+    if (content && trouble.text.isEmpty()) {
+        if (auto manifest = manifestOf(*content, trouble))
+            return manifest;
+    }
+    console.tell(file, trouble.position, trouble.text);
+    return {};
+}
+
+QString inWords(const MergeConflict &conflict) {
+    if (conflict.ours.isNull())
+        return QCoreApplication::translate("zel-package", "Removed by ours, %1 in theirs.")
+            .arg(excerpt(conflict.theirs));
+    if (conflict.theirs.isNull())
+        return QCoreApplication::translate("zel-package", "%1 in ours, removed by theirs.")
+            .arg(excerpt(conflict.ours));
+    const Excerpts shown = excerpts(conflict.ours, conflict.theirs);
+    return QCoreApplication::translate("zel-package", "%1 in ours, %2 in theirs.")
+        .arg(shown.before, shown.after);
+}
+
+void report(const QString &file, const QVector<MergeConflict> &conflicts, Console &console) {
+    for (const MergeConflict &conflict : conflicts)
+        console.tell(file, Zel::fromUtf8(conflict.path.toString()) % QStringLiteral(": ") %
+                               inWords(conflict));
+}
+
+// Writes the result to OURS unless another program has changed it since.
+bool saveOurs(const QString &file, const Manifest &ours, const std::string &content,
+              Console &console) {
+    if (content == ours.content)
+        return true;
+    const Tano::SaveResult result = Tano::saveFile(
+        {nativeBytes(file), content, Tano::FileFingerprint::ofContent(ours.content)});
+    if (!result)
+        console.tell(translatedSentence(result.error));
+    return bool(result);
+}
+
+ExitStatus merge(const QStringList &files, const QString &output, Console &console) {
+    const auto base = readSide(files.at(0), console);
+    const auto ours = readSide(files.at(1), console);
+    const auto theirs = readSide(files.at(2), console);
+    if (!base || !ours || !theirs)
+        return Failure;
+    const auto merged = Zel::PackageModel::merge(base->package, ours->package, theirs->package);
+    const std::string content = merged.record.saveToManifestContent();
+    if (!merged.error.isEmpty() || content.empty()) {
+        console.tell(files.at(1), merged.error.isEmpty()
+                                      ? translatedSentence(merged.record.errorString())
+                                      : merged.error);
+        return Failure;
+    }
+    const bool isSaved = output == files.at(1) && !isStandardStream(output)
+                             ? saveOurs(output, *ours, content, console)
+                             : writeOutput(output, content, console);
+    if (!isSaved)
+        return Failure;
+    report(files.at(1), merged.conflicts, console);
+    return merged.conflicts.isEmpty() ? Fine : Findings;
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    const QStringList files = arguments.positionalArguments();
+    if (std::count_if(files.begin(), files.end(), isStandardStream) > 1) {
+        console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+        return Failure;
+    }
+    const QString output =
+        arguments.isSet(outputOptionName) ? arguments.value(outputOptionName) : files.at(1);
+    return merge(files, output, console);
+}
+
+} // namespace
+
+const ProgramCommand mergeCommand{
+    "merge",
+    QT_TRANSLATE_NOOP("zel-package", "Merge the changes of two manifests by field"),
+    QT_TRANSLATE_NOOP("zel-package", "BASE OURS THEIRS [-o OUT]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both "
+        "sides changed a field differently, OURS stays, and a comment before the field holds both "
+        "values; 'validate' reports it until it is removed. The exit status is 0 after a merge "
+        "without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS "
+        "unchanged. An empty file is a manifest without any field. '-' for one of the files reads "
+        "standard input."),
+    3,
+    3,
+    options,
+    run,
+};
+
+} // namespace ZelPackage
