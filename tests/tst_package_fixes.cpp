@@ -39,6 +39,33 @@ private Q_SLOTS:
             QTest::newRow(name) << samples.filePath(text(name) % text("/manifest.xml"));
     }
 
+    // A record has the same issues as its model, behavior by behavior.
+    void records_data() { manifests_data(); }
+
+    void records() {
+        QFETCH(QString, file);
+        Tano::PackageInfo record;
+        QFile manifest(file);
+        QVERIFY(record.loadFromManifestFile(manifest));
+        const PackageInfoModel package(record);
+        IssueOptions options{QFileInfo(file).path(), &record};
+        options.withFixes = false;
+        const auto lines = [](const QVector<Issue> &issues) {
+            QByteArrayList lines = listing(issues).split('\n');
+            std::sort(lines.begin(), lines.end());
+            return lines.join('\n');
+        };
+        QVector<Issue> found;
+        visitIssues(
+            record,
+            [&](const Issue &issue) {
+                found.append(issue);
+                return IssueVisit::Continue;
+            },
+            options);
+        QCOMPARE(lines(found), lines(issues(&package, options)));
+    }
+
     // What is found, how it can be fixed, and the manifest after the safe fixes and after all.
     void manifests() {
         QFETCH(QString, file);

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
+#include <malloc.h>
 #include <optional>
 #include <unistd.h>
 
@@ -62,6 +63,8 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
+    // Freed blocks are joined at once, which halves the time to free a large package.
+    mallopt(M_MXFAST, 0);
     const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
     // Whoever reads the output may close it. The parent may have had this signal ignored.
     std::signal(SIGPIPE, SIG_DFL);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <numeric>
 #include <optional>
 #include <tuple>
 
@@ -70,31 +69,48 @@ void FieldPositions::addUnknown(NodeId parent, UnknownNode::Kind kind, const std
 void FieldPositions::buildIndex() const {
     if (m_index.size() == m_nodes.size())
         return;
+    std::vector<NodeId> ends(m_nodes.size() + 1, 1);
+    for (auto node = m_nodes.begin() + 1; node != m_nodes.end(); ++node)
+        ++ends[node->parent + 1];
+    for (std::size_t i = 1; i < ends.size(); ++i)
+        ends[i] += ends[i - 1] - 1;
     m_index.resize(m_nodes.size());
-    std::iota(m_index.begin(), m_index.end(), NodeId(0));
-    std::sort(m_index.begin() + 1, m_index.end(), [this](NodeId a, NodeId b) {
+    NodeId id = 1;
+    for (auto node = m_nodes.begin() + 1; node != m_nodes.end(); ++node)
+        m_index[ends[node->parent]++] = id++;
+    m_ends = std::move(ends);
+    m_isSorted.assign(m_nodes.size(), false);
+}
+
+FieldPositions::Children FieldPositions::children(NodeId parent) const {
+    const Children children{m_index.begin() + (parent == 0 ? 1 : m_ends[parent - 1]),
+                            m_index.begin() + m_ends[parent]};
+    if (m_isSorted[parent])
+        return children;
+    std::sort(children.first, children.second, [this](NodeId a, NodeId b) {
         const Node &x = m_nodes[a];
         const Node &y = m_nodes[b];
-        if (x.parent != y.parent || x.element != y.element)
-            return std::tie(x.parent, x.element) < std::tie(y.parent, y.element);
+        if (x.element != y.element)
+            return x.element < y.element;
         const int order = keyOf(x).compare(keyOf(y));
         return order != 0 ? order < 0 : a < b;
     });
+    m_isSorted[parent] = true;
+    return children;
 }
 
 FieldPositions::Siblings FieldPositions::siblings(NodeId parent, Element element,
                                                   std::string_view key) const {
-    const auto wanted = std::make_tuple(parent, element, key);
+    const auto [begin, end] = children(parent);
+    const auto wanted = std::make_tuple(element, key);
     const auto groupOf = [this](NodeId id) {
         const Node &node = m_nodes[id];
-        return std::make_tuple(node.parent, node.element, keyOf(node));
+        return std::make_tuple(node.element, keyOf(node));
     };
-    const auto first =
-        std::lower_bound(m_index.begin() + 1, m_index.end(), wanted,
-                         [&](NodeId id, const auto &group) { return groupOf(id) < group; });
-    const auto last =
-        std::upper_bound(first, m_index.end(), wanted,
-                         [&](const auto &group, NodeId id) { return group < groupOf(id); });
+    const auto first = std::lower_bound(
+        begin, end, wanted, [&](NodeId id, const auto &group) { return groupOf(id) < group; });
+    const auto last = std::upper_bound(
+        first, end, wanted, [&](const auto &group, NodeId id) { return group < groupOf(id); });
     return {m_index.data() + (first - m_index.begin()), int(last - first)};
 }
 

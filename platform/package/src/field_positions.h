@@ -8,6 +8,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Tano {
@@ -18,7 +19,7 @@ void countEqual(std::vector<UnknownNode> &nodes);
 /// The positions of a manifest's elements and of its unknown elements and attributes.
 ///
 /// Reading appends one small node per element; the index that paths are looked up in is built when
-/// the first position is asked for.
+/// the first position is asked for, and the children of an element are sorted when one of them is.
 class FieldPositions {
 public:
     using NodeId = std::uint32_t;
@@ -67,7 +68,10 @@ private:
     };
 
     std::string_view keyOf(const Node &node) const { return m_texts.at(node.key, node.keySize); }
+    using Children = std::pair<std::vector<NodeId>::iterator, std::vector<NodeId>::iterator>;
+
     void buildIndex() const;
+    Children children(NodeId parent) const;
     Siblings siblings(NodeId parent, Element element, std::string_view key) const;
     NodeId child(NodeId parent, const FieldPath::Step &step) const;
     NodeId block(NodeId parent, const FieldPath::Step &step) const;
@@ -79,7 +83,10 @@ private:
     std::deque<Node> m_nodes;
     std::deque<Unknown> m_unknown;
     TextPieces m_texts;
-    mutable std::vector<NodeId> m_index; // ordered by parent, kind and key
+    // Made when the first position is asked for.
+    mutable std::vector<NodeId> m_index;  // ordered by parent
+    mutable std::vector<NodeId> m_ends;   // in the index, of the children of each node
+    mutable std::vector<bool> m_isSorted; // whether the children of a node are, by kind and key
 };
 
 } // namespace Tano

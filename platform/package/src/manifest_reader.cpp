@@ -14,6 +14,9 @@ namespace Tano {
 namespace {
 
 constexpr std::size_t streamPiece = std::size_t(64) << 10;
+// Programs that keep positions keep the record and have more to do, so that memory counts for more
+// than the last sixth of the time.
+constexpr std::size_t savingPiece = std::size_t(1) << 20;
 constexpr std::size_t smallPiece = std::size_t(8) << 10;
 
 // Where the bytes of a manifest come from. read() gives what is there, fewer bytes than wanted at
@@ -108,7 +111,7 @@ struct ManifestReader::State {
         const bool keepPositions = positions == Positions::Keep;
         const bool isLong = !source.isSequential() && source.left() > qint64(hopelessLag);
         auto parser = std::make_unique<ManifestParser>(keepPositions);
-        failure = feedAll(*parser, source, ManifestParser::maxPiece);
+        failure = feedAll(*parser, source, keepPositions ? savingPiece : ManifestParser::maxPiece);
         // In small pieces, a tag without end is refused for that, not for what stands in it later.
         if (!failure.message.empty() && isLong && source.rewind()) {
             parser = std::make_unique<ManifestParser>(keepPositions);

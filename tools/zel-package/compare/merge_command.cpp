@@ -18,10 +18,8 @@ namespace {
 
 using Zel::PackageModel::MergeConflict;
 
-const QLatin1String outputOption("output");
-
 QList<QCommandLineOption> options() {
-    return {{{QStringLiteral("o"), outputOption},
+    return {{{QStringLiteral("o"), outputOptionName},
              QCoreApplication::translate(
                  "zel-package", "Write to this file rather than OURS; '-' is standard output."),
              QStringLiteral("OUT")}};
@@ -101,7 +99,7 @@ ExitStatus merge(const QStringList &files, const QString &output, Console &conso
     }
     const bool isSaved = output == files.at(1) && !isStandardStream(output)
                              ? saveOurs(output, *ours, content, console)
-                             : writeContent(content, output, console);
+                             : writeOutput(output, content, console);
     if (!isSaved)
         return Failure;
     report(files.at(1), merged.conflicts, console);
@@ -115,7 +113,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
         return Failure;
     }
     const QString output =
-        arguments.isSet(outputOption) ? arguments.value(outputOption) : files.at(1);
+        arguments.isSet(outputOptionName) ? arguments.value(outputOptionName) : files.at(1);
     return merge(files, output, console);
 }
 

@@ -18,19 +18,19 @@ constexpr int defaultWidth = 80;
 constexpr int smallestWidth = 40;
 
 // 0 for an unknown one.
-int outputWidth() {
+int outputWidth(int stream) {
     bool isNumber = false;
     const int columns = qEnvironmentVariableIntValue("COLUMNS", &isNumber);
     if (isNumber && columns > 0)
         return std::max(smallestWidth, columns);
     winsize size{};
-    if (!isatty(STDOUT_FILENO) || ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+    if (!isatty(stream) || ioctl(stream, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
         return 0;
     return std::max(smallestWidth, int(size.ws_col));
 }
 
 // Whether it knows more than to write one character after another.
-bool isTerminal(int stream) {
+bool isCapableTerminal(int stream) {
     return isatty(stream) && qgetenv("TERM") != "dumb";
 }
 
@@ -54,15 +54,20 @@ const char *sequenceOf(Style style) {
 
 } // namespace
 
-Console::Console()
-    : m_width(outputWidth())
-    , m_isTerminal(isatty(STDOUT_FILENO))
-    , m_isColored(isTerminal(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR"))
-    , m_canShowProgress(isTerminal(STDERR_FILENO)) {
-    if (!m_output.open(STDOUT_FILENO, QIODevice::WriteOnly))
+Console::Console(int results)
+    : m_width(outputWidth(results))
+    , m_isTerminal(isatty(results))
+    , m_isColored(isCapableTerminal(results) && qEnvironmentVariableIsEmpty("NO_COLOR"))
+    , m_canShowProgress(isCapableTerminal(STDERR_FILENO)) {
+    if (!m_output.open(results, QIODevice::WriteOnly))
         m_writeError = m_output.errorString();
     // Where standard error cannot be opened there is nowhere left to say so.
     static_cast<void>(m_messages.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
+}
+
+void Console::setColor(Color color) {
+    if (color != Color::Auto)
+        m_isColored = color == Color::Always;
 }
 
 void Console::print(const QString &text) {

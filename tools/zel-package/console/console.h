@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <string>
+#include <unistd.h>
 
 namespace ZelPackage {
 
@@ -19,7 +20,15 @@ enum class Style { Plain, Heading, Faint, Good, Caution, Bad };
 /// troubles. Both are written in UTF-8, whatever the locale.
 class Console {
 public:
-    Console();
+    enum class Color { Auto, Always, Never };
+
+    /// With STDERR_FILENO, results go to standard error too.
+    explicit Console(int results = STDOUT_FILENO);
+
+    /// Whether styled() has an effect; by default, as the terminal and the environment have it.
+    void setColor(Color color);
+    /// Whether results go to a terminal.
+    bool isTerminal() const { return m_isTerminal; }
 
     /// Writes to standard output, the bytes of nativeText() as they were. A failure shows in
     /// finish().

@@ -238,4 +238,23 @@ QString unifiedDiff(const QString &name, const std::string &before, const std::s
     return text;
 }
 
+std::vector<LineChange> lineChanges(const std::string &before, const std::string &after) {
+    const Script script = editScript(linesOf(before), linesOf(after));
+    std::vector<LineChange> changes;
+    int line = 1;
+    bool continues = false;
+    for (const ScriptLine &step : script) {
+        if (isChange(step) && !continues)
+            changes.push_back({line, 0, {}});
+        continues = isChange(step);
+        if (step.change == Change::Addition)
+            changes.back().lines += step.text;
+        else
+            ++line;
+        if (step.change == Change::Deletion)
+            ++changes.back().count;
+    }
+    return changes;
+}
+
 } // namespace ZelPackage

@@ -55,6 +55,19 @@ bool isStandardStream(const QString &file) {
     return file == QLatin1String("-");
 }
 
+bool readPackage(const QString &file, Tano::ManifestReader &reader, Tano::PackageInfo &package,
+                 QString &trouble) {
+    QFile input;
+    if (const std::string reason = openSource(input, file); !reason.empty()) {
+        trouble = reasonSentence(reason);
+        return false;
+    }
+    const bool isRead = reader.readFile(input, package);
+    if (!isRead && reader.errorPosition().line == 0)
+        trouble = translatedSentence(reader.errorMessage());
+    return isRead;
+}
+
 std::optional<std::string> readContent(const QString &file, QString &trouble) {
     QFile input;
     if (const std::string reason = openSource(input, file); !reason.empty()) {

@@ -14,6 +14,12 @@ namespace ZelPackage {
 /// Whether an argument means standard input or output rather than a file: "-".
 bool isStandardStream(const QString &file);
 
+/// Reads the manifest in `file`, "-" for standard input, without its bytes. Returns false if it is
+/// malformed, which `reader` describes, or if the file cannot be read: then `trouble` is the
+/// reason.
+[[nodiscard]] bool readPackage(const QString &file, Tano::ManifestReader &reader,
+                               Tano::PackageInfo &package, QString &trouble);
+
 /// A manifest as it was read, and its bytes.
 struct Manifest {
     Tano::PackageInfo package;

@@ -7,6 +7,7 @@
 
 #include <tano/save_file.h>
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -88,7 +89,24 @@ QString writeToSpecialFile(const QString &file, const std::string &content) {
     return writeAll(opened, text.toStdString());
 }
 
-bool writeContent(const std::string &content, const QString &output, Console &console) {
+QCommandLineOption outputOption() {
+    return {{QStringLiteral("o"), outputOptionName},
+            QCoreApplication::translate("zel-package",
+                                        "Write to this file; to standard output when none is "
+                                        "given, or '-'."),
+            QStringLiteral("OUT"),
+            QStringLiteral("-")};
+}
+
+bool checkIsOther(const QString &file, const QString &output, Console &console) {
+    if (!isSameFile(file, output))
+        return true;
+    console.tell(output, QCoreApplication::translate("zel-package",
+                                                     "The output cannot be the manifest itself."));
+    return false;
+}
+
+bool writeOutput(const QString &output, const std::string &content, Console &console) {
     if (isStandardOutput(output)) {
         console.printBytes(content);
         return true;

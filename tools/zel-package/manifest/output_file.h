@@ -2,11 +2,23 @@
 
 #include "console/console.h"
 
+#include <QCommandLineOption>
 #include <QString>
 
 #include <string>
 
 namespace ZelPackage {
+
+inline const QLatin1String outputOptionName("output");
+
+/// The option -o, --output of commands that write a file.
+QCommandLineOption outputOption();
+
+/// Whether an output is another file than an input; reports one that is the same.
+[[nodiscard]] bool checkIsOther(const QString &file, const QString &output, Console &console);
+
+/// Writes content to an output, "-" for standard output. Reports a failure and returns false.
+[[nodiscard]] bool writeOutput(const QString &output, const std::string &content, Console &console);
 
 /// Whether an input and an output, "-" for the standard streams, are one regular file, also through
 /// links.
@@ -24,10 +36,5 @@ bool isSpecialFile(const QString &output);
 
 /// Writes content to a special file. Returns why that failed, as a sentence.
 [[nodiscard]] QString writeToSpecialFile(const QString &file, const std::string &content);
-
-/// Writes content to an output of any kind, "-" for standard output. Returns false once it has
-/// reported why that failed.
-[[nodiscard]] bool writeContent(const std::string &content, const QString &output,
-                                Console &console);
 
 } // namespace ZelPackage

@@ -17,23 +17,15 @@
 namespace ZelPackage {
 namespace {
 
-const QLatin1String outputOption("output");
-
 QList<QCommandLineOption> options() {
-    return {{{QStringLiteral("o"), outputOption},
-             QCoreApplication::translate("zel-package",
-                                         "Write to this file; to standard output when none is "
-                                         "given, or '-'."),
-             QStringLiteral("OUT"),
-             QStringLiteral("-")},
-            formatOption()};
+    return {outputOption(), formatOption()};
 }
 
 bool writeManifest(const Tano::PackageInfo &package, const QString &file, const QString &output,
                    Console &console) {
     const std::string content = package.saveToManifestContent();
     if (!content.empty())
-        return writeContent(content, output, console);
+        return writeOutput(output, content, console);
     console.tell(file, translatedSentence(package.errorString()));
     return false;
 }
@@ -115,11 +107,8 @@ void report(const QString &file, const std::vector<MalformedScript> &scripts, Ou
 
 bool checkOutput(const QString &file, const QString &output, OutputFormat format,
                  Console &console) {
-    if (isSameFile(file, output)) {
-        console.tell(output, QCoreApplication::translate(
-                                 "zel-package", "The output cannot be the manifest itself."));
+    if (!checkIsOther(file, output, console))
         return false;
-    }
     if (format == OutputFormat::Json && isStandardOutput(output)) {
         console.tell(QCoreApplication::translate(
             "zel-package", "--format json prints to standard output and needs an --output."));
@@ -152,7 +141,7 @@ ExitStatus publish(const QString &file, const Manifest &manifest, const QString 
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
-    const QString output = arguments.value(outputOption);
+    const QString output = arguments.value(outputOptionName);
     const auto format = formatOf(arguments, console);
     if (!format || !checkOutput(file, output, *format, console))
         return Failure;

@@ -40,6 +40,16 @@ std::optional<Addition> additionOf(const FieldPath &path) {
     return {};
 }
 
+// The version of a package has three fields.
+QString remarkOnVersion(Zel::SoftwareVersion version) {
+    if (version.fieldsCount() <= 3)
+        return {};
+    version.setFieldsCount(3);
+    return text(QT_TRANSLATE_NOOP("zel-package",
+                                  "The version of a package has three fields, so it becomes %1."))
+        .arg(Zel::SoftwareVersionUtils::toString(version));
+}
+
 class Resolver {
 public:
     Resolver(const Assignment &assignment, const Zel::PackageInfoModel &package)
@@ -109,7 +119,8 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
     const QString value = m_assignment.value.value_or(QString());
     if (value.isEmpty() && !m_assignment.path.steps().back().selectors.empty())
         return remove();
-    if (value.isEmpty() && (form.isKey || m_assignment.path == FieldPath().field("version")))
+    const bool isPackageVersion = m_assignment.path == FieldPath().field("version");
+    if (value.isEmpty() && (form.isKey || isPackageVersion))
         return {{}, text(QT_TRANSLATE_NOOP("zel-package", "The value cannot be empty."))};
     AssignedEdit result;
     if (form.kind > FieldKind::Version)
@@ -121,6 +132,8 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
                 .arg(m_assignment.field);
     else if (const auto parsed = Zel::PackageModel::parsedValue(form.kind, value, &result.error))
         result.edit = Edit{Edit::Action::Set, m_assignment.path, parsed};
+    if (result.edit && isPackageVersion)
+        result.remark = remarkOnVersion(std::get<Zel::SoftwareVersion>(*result.edit->value));
     return result;
 }
 

@@ -201,7 +201,9 @@ void FileEdit::reportNewFindings() {
     const auto known = findingsOn(Zel::PackageInfoModel(m_written));
     for (const Finding &finding : found) {
         if (!known.contains(finding))
-            m_console.tell(m_file, finding.first % QStringLiteral(": ") % finding.second);
+            m_console.tell(m_file, finding.first.isEmpty()
+                                       ? finding.second
+                                       : finding.first % QStringLiteral(": ") % finding.second);
     }
 }
 

@@ -4,36 +4,59 @@
 #include "console/json_list.h"
 #include "report_rules.h"
 
+#include <packagemodel/package_json.h>
+
+#include <QJsonArray>
+
 namespace ZelPackage {
 namespace {
 
-// {"findings": [...], "unreadable": [...], "rules": [...], "summary": {...}}, the rules only where
-// they are to be explained.
+using Zel::PackageModel::Fix;
+
+QJsonArray jsonOf(const QVector<Fix> &fixes) {
+    QJsonArray list;
+    for (const Fix &fix : fixes) {
+        const QJsonObject edits =
+            QJsonDocument::fromJson(Zel::PackageModel::toJson(fix.edits)).object();
+        list += QJsonObject{{QStringLiteral("title"), fix.title},
+                            {QStringLiteral("safe"), fix.isSafe},
+                            {QStringLiteral("edits"), edits[QStringLiteral("edits")]}};
+    }
+    return list;
+}
+
+// {"format": 1, "findings": [...], "unreadable": [...], "rules": [...], "summary": {...}}, the
+// rules only where they are to be explained; schema/validation.schema.json.
 class JsonWriter : public FindingsWriter {
 public:
     explicit JsonWriter(Console &console)
         : m_console(console)
         , m_findings(console) {}
 
-    void begin() override { m_console.print(QStringLiteral("{\"findings\": [")); }
+    bool needsFixes() const override { return true; }
 
-    void write(const ManifestFinding &finding) override {
-        m_findings.add({{QStringLiteral("file"), withVisibleBytes(finding.file)},
-                        {QStringLiteral("line"), qint64(finding.position.line)},
-                        {QStringLiteral("column"), qint64(finding.position.column)},
-                        {QStringLiteral("id"), finding.ruleId},
-                        {QStringLiteral("severity"), wordOf(finding.severity)},
-                        {QStringLiteral("field"), finding.field},
-                        {QStringLiteral("text"), finding.text}});
+    void begin() override {
+        m_console.print(
+            QStringLiteral("{\"format\": %1,\n\"findings\": [").arg(Zel::PackageModel::jsonFormat));
     }
 
-    void writeUnreadable(const QString &file, const QString &trouble) override {
+    void write(const CheckedManifest &manifest) override {
+        for (const ManifestFinding &finding : manifest.findings) {
+            m_findings.add({{QStringLiteral("file"), withVisibleBytes(manifest.file)},
+                            {QStringLiteral("line"), qint64(finding.position.line)},
+                            {QStringLiteral("column"), qint64(finding.position.column)},
+                            {QStringLiteral("id"), finding.ruleId},
+                            {QStringLiteral("severity"), wordOf(finding.severity)},
+                            {QStringLiteral("field"), finding.field},
+                            {QStringLiteral("text"), finding.text},
+                            {QStringLiteral("fixes"), jsonOf(finding.fixes)}});
+        }
+    }
+
+    void writeTrouble(const QString &file, const QString &trouble) override {
         m_unreadable += QJsonObject{{QStringLiteral("file"), withVisibleBytes(file)},
                                     {QStringLiteral("text"), trouble}};
     }
-
-    // The summary counts them.
-    void writeTruncated(const QString &, const QString &) override {}
 
     void finish(const Report &report) override {
         m_console.print(QStringLiteral("],\n\"unreadable\": ["));
@@ -45,9 +68,11 @@ public:
         const QJsonObject summary{{QStringLiteral("files"), report.files},
                                   {QStringLiteral("errors"), report.errors},
                                   {QStringLiteral("warnings"), report.warnings},
+                                  {QStringLiteral("notes"), report.notes},
                                   {QStringLiteral("malformed"), report.malformed},
                                   {QStringLiteral("unreadable"), report.unreadable},
-                                  {QStringLiteral("truncated"), report.truncated}};
+                                  {QStringLiteral("truncated"), report.truncated},
+                                  {QStringLiteral("fixed"), report.fixed}};
         m_console.print(QStringLiteral("],\n\"summary\": ") %
                         jsonText(summary, QJsonDocument::Compact) % QStringLiteral("}\n"));
     }

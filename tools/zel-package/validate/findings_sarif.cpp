@@ -2,6 +2,8 @@
 
 #include "arguments/native_text.h"
 #include "console/json_list.h"
+#include "file_place.h"
+#include "fix_changes.h"
 #include "manifest/manifest_source.h"
 #include "report_rules.h"
 
@@ -12,6 +14,7 @@
 namespace ZelPackage {
 namespace {
 
+using Zel::PackageModel::Fix;
 using Zel::PackageModel::Rule;
 
 QJsonObject textObject(const QString &text) {
@@ -24,21 +27,24 @@ QJsonObject messageObject(const QString &text) {
         QString(text).replace(u'{', QStringLiteral("{{")).replace(u'}', QStringLiteral("}}")));
 }
 
-// Relative to the working directory where the file is below it; otherwise absolute. RFC 3986.
-QString uriOf(const QString &file) {
-    const QString path = QDir::cleanPath(file);
-    const auto encoded = [](const QString &text) {
-        return QString::fromLatin1(
-            QByteArray::fromStdString(nativeBytes(text)).toPercentEncoding("/"));
-    };
-    if (QDir::isRelativePath(path) && path != QLatin1String("..") &&
-        !path.startsWith(QLatin1String("../")))
-        return encoded(path);
-    return QStringLiteral("file://") % encoded(QDir::cleanPath(QDir::current().filePath(path)));
+// RFC 3986; relative to the base below if the file is below the working directory.
+constexpr QLatin1String baseId("%SRCROOT%");
+
+QString encoded(const QString &path) {
+    return QString::fromLatin1(QByteArray::fromStdString(nativeBytes(path)).toPercentEncoding("/"));
+}
+
+QString fileUri(const QString &path) {
+    return QStringLiteral("file://") % encoded(path);
 }
 
 QJsonObject artifactLocation(const QString &file) {
-    QJsonObject location{{QStringLiteral("uri"), uriOf(file)}};
+    const QString path = pathBelowHere(file);
+    QJsonObject location;
+    if (isBelow(path))
+        location = {{QStringLiteral("uri"), encoded(path)}, {QStringLiteral("uriBaseId"), baseId}};
+    else
+        location = {{QStringLiteral("uri"), fileUri(path)}};
     if (isStandardStream(file))
         location[QStringLiteral("description")] =
             textObject(QCoreApplication::translate("zel-package", "Standard input."));
@@ -49,7 +55,7 @@ QJsonObject ruleObject(const Rule &rule) {
     return {{QStringLiteral("id"), rule.id},
             {QStringLiteral("shortDescription"), messageObject(messageForm(rule))},
             {QStringLiteral("fullDescription"), messageObject(rule.explanation)},
-            {QStringLiteral("help"), messageObject(rule.remedy)},
+            {QStringLiteral("help"), textObject(rule.remedy)},
             {QStringLiteral("defaultConfiguration"),
              QJsonObject{{QStringLiteral("level"), wordOf(rule.severity)}}}};
 }
@@ -63,24 +69,45 @@ QJsonObject toolObject(const QVector<Rule> &rules) {
         {QStringLiteral("name"), QStringLiteral("zel-package")},
         {QStringLiteral("version"), version},
         {QStringLiteral("semanticVersion"), version},
+        {QStringLiteral("informationUri"),
+         QStringLiteral("https://packagemodel.example/docs/validation")},
         //: The language of this translation, as RFC 5646 writes it.
         {QStringLiteral("language"), QCoreApplication::translate("zel-package", "en-US")},
         {QStringLiteral("rules"), ruleObjects}};
     return {{QStringLiteral("driver"), driver}};
 }
 
-QJsonObject locationObject(const ManifestFinding &finding) {
+QJsonObject locationObject(const QString &file, const ManifestFinding &finding) {
     const QJsonObject region{{QStringLiteral("startLine"), qint64(finding.position.line)},
                              {QStringLiteral("startColumn"), qint64(finding.position.column)}};
-    QJsonObject location{
-        {QStringLiteral("physicalLocation"),
-         QJsonObject{{QStringLiteral("artifactLocation"), artifactLocation(finding.file)},
-                     {QStringLiteral("region"), region}}}};
+    QJsonObject location{{QStringLiteral("physicalLocation"),
+                          QJsonObject{{QStringLiteral("artifactLocation"), artifactLocation(file)},
+                                      {QStringLiteral("region"), region}}}};
     if (!finding.field.isEmpty())
         location[QStringLiteral("logicalLocations")] =
             QJsonArray{QJsonObject{{QStringLiteral("fullyQualifiedName"), finding.field},
                                    {QStringLiteral("kind"), QStringLiteral("member")}}};
     return location;
+}
+
+// Whole lines are replaced, up to the start of the line behind them.
+QJsonObject replacementObject(const LineChange &change) {
+    const QJsonObject region{{QStringLiteral("startLine"), change.firstLine},
+                             {QStringLiteral("startColumn"), 1},
+                             {QStringLiteral("endLine"), change.firstLine + change.count},
+                             {QStringLiteral("endColumn"), 1}};
+    return {{QStringLiteral("deletedRegion"), region},
+            {QStringLiteral("insertedContent"), textObject(QString::fromStdString(change.lines))}};
+}
+
+QJsonObject fixObject(const Fix &fix, const QString &file, const std::vector<LineChange> &changes) {
+    QJsonArray replacements;
+    for (const LineChange &change : changes)
+        replacements += replacementObject(change);
+    const QJsonObject change{{QStringLiteral("artifactLocation"), artifactLocation(file)},
+                             {QStringLiteral("replacements"), replacements}};
+    return {{QStringLiteral("description"), textObject(fix.title)},
+            {QStringLiteral("artifactChanges"), QJsonArray{change}}};
 }
 
 class SarifWriter : public FindingsWriter {
@@ -91,33 +118,33 @@ public:
         , m_ruleIds(idsOf(m_rules))
         , m_results(console) {}
 
-    // The members of an object may stand in any order; the results stand before what is known only
-    // after them.
+    bool needsFixes() const override { return true; }
+    std::size_t neededContent() const override { return FixChanges::longestManifest; }
+
+    // The members of an object may have any order; the results precede what is known only after
+    // them.
     void begin() override {
+        const QString root = QDir::currentPath();
+        const QJsonObject base{
+            {QStringLiteral("uri"), root.endsWith(u'/') ? fileUri(root) : fileUri(root % u'/')}};
         m_console.print(
             QStringLiteral("{\"$schema\": "
                            "\"https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/"
                            "sarif-schema-2.1.0.json\",\n\"version\": \"2.1.0\",\n"
                            "\"runs\": [{\"tool\": ") %
             jsonText(toolObject(m_rules), QJsonDocument::Compact) %
+            QStringLiteral(",\n\"originalUriBaseIds\": ") %
+            jsonText({{baseId, base}}, QJsonDocument::Compact) %
             QStringLiteral(",\n\"columnKind\": \"unicodeCodePoints\",\n\"results\": ["));
     }
 
-    void write(const ManifestFinding &finding) override {
-        QJsonObject result{{QStringLiteral("ruleId"), finding.ruleId},
-                           {QStringLiteral("ruleIndex"), int(m_ruleIds.indexOf(finding.ruleId))},
-                           {QStringLiteral("level"), wordOf(finding.severity)},
-                           {QStringLiteral("message"), messageObject(finding.text)},
-                           {QStringLiteral("locations"), QJsonArray{locationObject(finding)}}};
-        // The same finding, wherever its line moves to.
-        if (!finding.field.isEmpty())
-            result[QStringLiteral("partialFingerprints")] =
-                QJsonObject{{QStringLiteral("ruleAndField/v1"),
-                             QString(finding.ruleId % u':' % finding.field)}};
-        m_results.add(result);
+    void write(const CheckedManifest &manifest) override {
+        FixChanges changes(manifest);
+        for (const ManifestFinding &finding : manifest.findings)
+            m_results.add(resultObject(manifest.file, finding, changes));
     }
 
-    void writeUnreadable(const QString &file, const QString &trouble) override {
+    void writeTrouble(const QString &file, const QString &trouble) override {
         notify(QStringLiteral("error"), file, trouble);
     }
 
@@ -136,6 +163,29 @@ public:
     }
 
 private:
+    QJsonObject resultObject(const QString &file, const ManifestFinding &finding,
+                             FixChanges &changes) const {
+        QJsonObject result{
+            {QStringLiteral("ruleId"), finding.ruleId},
+            {QStringLiteral("ruleIndex"), int(m_ruleIds.indexOf(finding.ruleId))},
+            {QStringLiteral("level"), wordOf(finding.severity)},
+            {QStringLiteral("message"), messageObject(finding.text)},
+            {QStringLiteral("locations"), QJsonArray{locationObject(file, finding)}}};
+        // The same finding, wherever its line moves to.
+        if (!finding.field.isEmpty())
+            result[QStringLiteral("partialFingerprints")] =
+                QJsonObject{{QStringLiteral("ruleAndField/v1"),
+                             QString(finding.ruleId % u':' % finding.field)}};
+        QJsonArray fixes;
+        for (const Fix &fix : finding.fixes) {
+            if (const auto made = changes.of(fix); !made.empty())
+                fixes += fixObject(fix, file, made);
+        }
+        if (!fixes.isEmpty())
+            result[QStringLiteral("fixes")] = fixes;
+        return result;
+    }
+
     void notify(const QString &level, const QString &file, const QString &text) {
         const QJsonObject location{
             {QStringLiteral("physicalLocation"),

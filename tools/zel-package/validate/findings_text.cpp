@@ -2,40 +2,52 @@
 
 #include "console/text_layout.h"
 #include "report_rules.h"
+#include "source_excerpt.h"
 
-#include <QCoreApplication>
+#include <limits>
 
 namespace ZelPackage {
 namespace {
 
 using Zel::PackageModel::Severity;
 
-// FILE:LINE: error: text (field) [id]
+Style styleOf(Severity severity) {
+    switch (severity) {
+    case Severity::Error:
+        return Style::Bad;
+    case Severity::Warning:
+        return Style::Caution;
+    case Severity::Note:
+        break;
+    }
+    return Style::Heading;
+}
+
+// FILE:LINE:COLUMN: error: text [id]
 class TextWriter : public FindingsWriter {
 public:
     explicit TextWriter(Console &console)
         : m_console(console) {}
 
-    void begin() override {}
-
-    void write(const ManifestFinding &finding) override {
-        const bool isError = finding.severity == Severity::Error;
-        const QString place = finding.ruleId == malformedRuleId
-                                  ? QCoreApplication::translate("zel-package", "column %1")
-                                        .arg(finding.position.column)
-                                  : finding.field;
-        m_console.print(
-            printable(finding.file) % u':' % QString::number(finding.position.line) %
-            QStringLiteral(": ") %
-            m_console.styled(wordOf(finding.severity), isError ? Style::Bad : Style::Caution) %
-            QStringLiteral(": ") % printable(finding.text) % QStringLiteral(" (") %
-            printable(place) % QStringLiteral(") ") %
-            m_console.styled(u'[' % finding.ruleId % u']', Style::Faint) % u'\n');
+    // For the excerpts.
+    std::size_t neededContent() const override {
+        return m_console.isTerminal() ? std::numeric_limits<std::size_t>::max() : 0;
     }
 
-    // Standard error says so, in every format.
-    void writeUnreadable(const QString &, const QString &) override {}
-    void writeTruncated(const QString &, const QString &) override {}
+    void write(const CheckedManifest &manifest) override {
+        SourceExcerpt source(manifest.content);
+        for (const ManifestFinding &finding : manifest.findings) {
+            const Style style = styleOf(finding.severity);
+            m_console.print(printable(manifest.file) % u':' %
+                            QString::number(finding.position.line) % u':' %
+                            QString::number(finding.position.column) % QStringLiteral(": ") %
+                            m_console.styled(wordOf(finding.severity), style) %
+                            QStringLiteral(": ") % printable(finding.text) % QStringLiteral(" ") %
+                            m_console.styled(u'[' % finding.ruleId % u']', Style::Faint) % u'\n');
+            if (!manifest.content.empty())
+                m_console.print(source.at(finding.position, style, m_console));
+        }
+    }
 
     void finish(const Report &report) override {
         for (const auto &rule : report.explained)

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 namespace ZelPackage {
 
@@ -28,21 +29,59 @@ QString indented(const QString &text, const Console &console) {
 } // namespace
 
 const QLatin1String malformedRuleId("manifest-malformed");
+const QLatin1String baselineUnusedRuleId("baseline-unused");
+const QLatin1String ignoreUnusedRuleId("ignore-unused");
+const QLatin1String ignoreUnknownRuleId("ignore-unknown");
+
+namespace {
+
+struct OwnRule {
+    QLatin1String id;
+    Severity severity;
+    const char *message;
+    const char *explanation;
+    const char *remedy;
+};
+
+// clang-format off
+const std::array ownRules{
+    OwnRule{baselineUnusedRuleId, Severity::Note,
+     QT_TRANSLATE_NOOP("zel-package", "The baseline lists '%1' here, which is not found any more."),
+     QT_TRANSLATE_NOOP("zel-package", "A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back."),
+     QT_TRANSLATE_NOOP("zel-package", "Write the baseline again with --write-baseline.")},
+    OwnRule{ignoreUnusedRuleId, Severity::Note,
+     QT_TRANSLATE_NOOP("zel-package", "The comment ignores '%1', which is not found here."),
+     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' applies to the element that follows it. Where its rules find nothing, it would hide findings that come later."),
+     QT_TRANSLATE_NOOP("zel-package", "Remove the rule from the comment, or the comment.")},
+    OwnRule{ignoreUnknownRuleId, Severity::Warning,
+     QT_TRANSLATE_NOOP("zel-package", "There is no rule '%1'%2"),
+     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' names a rule that does not exist, so that it has no effect."),
+     QT_TRANSLATE_NOOP("zel-package", "Write the id of a rule; 'zel-package explain' lists them.")},
+    OwnRule{malformedRuleId, Severity::Error,
+     QT_TRANSLATE_NOOP("zel-package", "The manifest is malformed."),
+     QT_TRANSLATE_NOOP("zel-package", "The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2."),
+     QT_TRANSLATE_NOOP("zel-package", "Correct the file at the line and column that are given, then check it again.")},
+};
+// clang-format on
+
+QString translated(const char *text) {
+    return QCoreApplication::translate("zel-package", text);
+}
+
+} // namespace
 
 QVector<Rule> reportRules() {
     QVector<Rule> rules = Zel::PackageModel::rules();
-    rules.append(
-        {malformedRuleId, Severity::Error,
-         QCoreApplication::translate("zel-package", "The manifest is malformed."),
-         QCoreApplication::translate(
-             "zel-package",
-             "The file is no well-formed XML in UTF-8, or it holds what a manifest cannot hold at "
-             "that place. Nothing else in it is checked. Whatever is ignored, the exit status is "
-             "2."),
-         QCoreApplication::translate("zel-package",
-                                     "Mend the file at the line and column that are given, then "
-                                     "check it again.")});
+    for (const OwnRule &rule : ownRules)
+        rules.append({rule.id, rule.severity, translated(rule.message),
+                      translated(rule.explanation), translated(rule.remedy)});
     return rules;
+}
+
+QStringList changeableRuleIds() {
+    QStringList ids = idsOf(reportRules());
+    ids.removeAll(malformedRuleId);
+    return ids;
 }
 
 QStringList idsOf(const QVector<Rule> &rules) {
@@ -64,6 +103,26 @@ QLatin1String wordOf(Severity severity) {
     return QLatin1String("error");
 }
 
+QStringList severityWords() {
+    return {wordOf(Severity::Error), wordOf(Severity::Warning), wordOf(Severity::Note)};
+}
+
+std::optional<Severity> severityOf(const QString &word) {
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+        if (word == wordOf(severity))
+            return severity;
+    }
+    return {};
+}
+
+QString messageOf(QLatin1String ownRule) {
+    for (const OwnRule &rule : ownRules) {
+        if (rule.id == ownRule)
+            return translated(rule.message);
+    }
+    return {};
+}
+
 QString messageForm(const Rule &rule) {
     static const QRegularExpression placeholder(QStringLiteral("%[0-9]"));
     return QString(rule.message)
@@ -78,15 +137,14 @@ QString explanationOf(const Rule &rule, const Console &console) {
            u'\n' % indented(rule.remedy, console);
 }
 
-void tellUnknownRule(const QString &id, const QStringList &known, Console &console) {
+QString unknownRule(const QString &id, const QStringList &known) {
     const QStringList near = Zel::nearWords(id, known);
     const QString hint =
         near.isEmpty()
             ? QCoreApplication::translate("zel-package", "; 'zel-package explain' lists the rules.")
             : QCoreApplication::translate("zel-package", "; did you mean '%1'?")
                   .arg(near.join(QStringLiteral("', '")));
-    console.tell(
-        QCoreApplication::translate("zel-package", "There is no rule '%1'%2").arg(id, hint));
+    return QCoreApplication::translate("zel-package", "There is no rule '%1'%2").arg(id, hint);
 }
 
 } // namespace ZelPackage

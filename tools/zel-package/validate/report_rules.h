@@ -8,26 +8,41 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 namespace ZelPackage {
 
-/// The rule of manifests that cannot be read as such, the only one that is the program's own.
-extern const QLatin1String malformedRuleId;
+// The rules that are the program's own.
 
-/// All rules that findings are reported under: the model's and, last, the program's own.
+extern const QLatin1String malformedRuleId; ///< of manifests that cannot be read as such
+extern const QLatin1String baselineUnusedRuleId;
+extern const QLatin1String ignoreUnusedRuleId;
+extern const QLatin1String ignoreUnknownRuleId;
+
+/// All rules that findings are reported under: the model's and, behind them, the program's own.
 QVector<Zel::PackageModel::Rule> reportRules();
 
 QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
 
-/// "error" or "warning", in every language.
+/// The ids of the rules that can be ignored and given another severity.
+QStringList changeableRuleIds();
+
+/// "error", "warning" or "note", in every language.
 QLatin1String wordOf(Zel::PackageModel::Severity severity);
+QStringList severityWords();
+/// The severity of a word; nothing for another word.
+std::optional<Zel::PackageModel::Severity> severityOf(const QString &word);
+
+/// The message of one of the program's own rules, its placeholders not yet filled.
+QString messageOf(QLatin1String ownRule);
 
 /// The rule's message as plain text, "…" where it names something.
 QString messageForm(const Zel::PackageModel::Rule &rule);
 
-/// What there is to know about a rule, in lines of the width of the terminal.
+/// The message, explanation and remedy of a rule, in lines of the width of the terminal.
 QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
 
-/// Tells that there is no such rule, and which it may be.
-void tellUnknownRule(const QString &id, const QStringList &known, Console &console);
+/// The sentence that there is no such rule, with the nearest ones.
+QString unknownRule(const QString &id, const QStringList &known);
 
 } // namespace ZelPackage

@@ -1,19 +1,17 @@
 #include <packagemodel/package_info_model.h>
 
+#include "checks/script_checks.h"
 #include "copies.h"
 #include "log_category.h"
 #include "package_info_data.h"
-
-#include <packagemodel/package_scripts.h>
+#include "plain_text.h"
 
 #include <tano/field_path.h>
 #include <tano/log.h>
-#include <tano/package_helper.h>
 
 #include <QHash>
 
 #include <array>
-#include <exception>
 #include <optional>
 #include <set>
 
@@ -132,20 +130,6 @@ RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
             NativeName(lang.nativeName()),
             NuanceCode(lang.nuanceCode()),
             lang.version()};
-}
-
-// The plain text of a script, or why there is none.
-struct PlainText {
-    QString text;
-    QString error;
-};
-
-PlainText plainTextOf(const QString &script) {
-    try {
-        return {fromUtf8(Tano::PackageHelper::getHumanReadableText(toUtf8(script))), {}};
-    } catch (const std::exception &exception) {
-        return {{}, QString::fromUtf8(exception.what())};
-    }
 }
 
 // Keeps the script in the variant of its language, then puts its plain text in its place.
@@ -272,25 +256,50 @@ void PackageInfoModel::genPlainTextFromScript() {
     }
 }
 
-QVector<PackageModel::ScriptError> PackageModel::scriptErrors(const PackageInfoModel *package) {
+namespace PackageModel {
+
+struct BehaviorScripts::Order {
+    LanguageOrder languages;
+};
+
+BehaviorScripts::BehaviorScripts(const PackageInfoModel &package)
+    : m_order(std::make_unique<Order>(Order{LanguageOrder(package.supportedLanguages())})) {
+}
+
+BehaviorScripts::~BehaviorScripts() = default;
+
+QVector<ScriptError> BehaviorScripts::errorsIn(const BehaviorInfoModel &behavior,
+                                               const FieldPath &path) const {
     ScriptErrors errors;
-    if (!package)
-        return {};
-    errors.checkTexts(*package, {});
-    const LanguageOrder order(package->supportedLanguages());
-    QHash<QString, int> occurrences;
-    const auto behaviors = package->behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors) {
-        const FieldPath parent =
-            FieldPath()
-                .field("behaviors")
-                .entry(toUtf8(behavior->path()), occurrences[behavior->path()]++);
-        errors.checkTexts(*behavior, parent);
-        SpokenLanguages languages(order);
-        while (const RobotLanguage *language = languages.next(behavior))
-            errors.checkLists(*behavior, parent, *language);
-    }
+    errors.checkTexts(behavior, path);
+    SpokenLanguages languages(m_order->languages);
+    while (const RobotLanguage *language = languages.next(&behavior))
+        errors.checkLists(behavior, path, *language);
     return errors.all();
 }
 
+QVector<ScriptError> ownScriptErrors(const PackageInfoModel &package) {
+    ScriptErrors errors;
+    errors.checkTexts(package, {});
+    return errors.all();
+}
+
+QVector<ScriptError> scriptErrors(const PackageInfoModel *package) {
+    if (!package)
+        return {};
+    QVector<ScriptError> errors = ownScriptErrors(*package);
+    const BehaviorScripts scripts(*package);
+    QHash<QString, int> occurrences;
+    const auto behaviors = package->behaviors();
+    for (const BehaviorInfoModel *behavior : behaviors) {
+        const FieldPath path =
+            FieldPath()
+                .field("behaviors")
+                .entry(toUtf8(behavior->path()), occurrences[behavior->path()]++);
+        errors += scripts.errorsIn(*behavior, path);
+    }
+    return errors;
+}
+
+} // namespace PackageModel
 } // namespace Zel

@@ -56,6 +56,9 @@ struct Issue {
     PACKAGEMODEL_EXPORT QString richText() const;
 };
 
+/// Whether an issue, which has neither text nor fixes yet, is wanted.
+using IssueFilter = std::function<bool(const Issue &issue)>;
+
 /// What issues() need beyond the package.
 struct IssueOptions {
     /// The folder of the manifest, in which topic files and the icon are looked for; empty to leave
@@ -64,6 +67,11 @@ struct IssueOptions {
     /// The record as it was read, if a version that the model has normalized is to be judged as
     /// written.
     const Tano::PackageInfo *written = nullptr;
+    /// Returns the filter for the issues of a package; null to have all of them. fixIssues() calls
+    /// it again after each change of the package, since paths with indexes change too.
+    std::function<IssueFilter(const PackageInfoModel &package)> filterFor = {};
+    /// Whether issues have their fixes, which take longer to make than the rest.
+    bool withFixes = true;
 };
 
 /// All that is wrong with a package, each with the path of its field. First come the findings of
@@ -87,6 +95,12 @@ enum class IssueVisit {
 /// Calls `visit` for each of issues(), in the same order, without collecting them: a package can
 /// have as many as behaviors times languages. `visit` must not change the package.
 PACKAGEMODEL_EXPORT void visitIssues(const PackageInfoModel *package,
+                                     const std::function<IssueVisit(const Issue &issue)> &visit,
+                                     const IssueOptions &options = {});
+
+/// The same for a record, behavior by behavior: in another order and, without fixes, with little
+/// memory besides the record's. A filter then gets a package without behaviors.
+PACKAGEMODEL_EXPORT void visitIssues(const Tano::PackageInfo &record,
                                      const std::function<IssueVisit(const Issue &issue)> &visit,
                                      const IssueOptions &options = {});
 

@@ -34,11 +34,11 @@ QString nearest(const QString &word, const QStringList &known) {
                : QCoreApplication::translate("Zel::PackageModel", "; did you mean '%1'?").arg(near);
 }
 
-void checkScripts(const CheckedPackage &checked, Findings &findings) {
+void addScriptErrors(const QVector<ScriptError> &errors, Findings &findings) {
     static const QRegularExpression form(
         QRegularExpression::anchoredPattern(QStringLiteral("Line ([0-9]+), column ([0-9]+): (.*)")),
         QRegularExpression::DotMatchesEverythingOption);
-    for (const ScriptError &error : scriptErrors(&checked.package)) {
+    for (const ScriptError &error : errors) {
         const auto match = form.match(error.text);
         findings.push_back({RuleId::ScriptMalformed,
                             *FieldPath::parse(toUtf8(error.path)),
@@ -47,82 +47,77 @@ void checkScripts(const CheckedPackage &checked, Findings &findings) {
     }
 }
 
+void checkOwnScripts(const CheckedPackage &checked, Findings &findings) {
+    addScriptErrors(ownScriptErrors(checked.package), findings);
+}
+
+void checkScripts(const CheckedPackage &checked, const BehaviorPlace &place, Findings &findings) {
+    addScriptErrors(checked.scripts.errorsIn(*place.behavior, place.path()), findings);
+}
+
+QString labelOf(const FieldPath &path) {
+    const auto form = formOf(path);
+    return form ? form->label : QString();
+}
+
 // Entries are found by their keys, so each has one, and no other has the same.
-class KeyCheck {
-public:
-    KeyCheck(const char *list, const char *keyField, RuleId duplicate, Findings &findings)
-        : m_list(list)
-        , m_keyField(keyField)
-        , m_duplicate(duplicate)
-        , m_findings(findings) {}
+void checkKey(const QString &key, int occurrence, const FieldPath &path, RuleId duplicate,
+              Findings &findings) {
+    if (key.isEmpty())
+        findings.push_back({RuleId::KeyEmpty, path, {labelOf(path)}, {}});
+    else if (occurrence > 0)
+        findings.push_back({duplicate, path, {key}, {}});
+}
 
-    void add(const QString &key) {
-        const FieldPath path =
-            fieldNamed(m_list).entry(toUtf8(key), m_counts[key]).field(m_keyField);
-        if (key.isEmpty())
-            m_findings.push_back({RuleId::KeyEmpty, path, {labelOf(path)}, {}});
-        else if (m_counts[key] > 0)
-            m_findings.push_back({m_duplicate, path, {key}, {}});
-        ++m_counts[key];
-    }
-
-    static QString labelOf(const FieldPath &path) {
-        const auto form = formOf(path);
-        return form ? form->label : QString();
-    }
-
-private:
-    const char *m_list;
-    const char *m_keyField;
-    RuleId m_duplicate;
-    Findings &m_findings;
-    QHash<QString, int> m_counts;
-};
+void checkPath(const CheckedPackage &, const BehaviorPlace &place, Findings &findings) {
+    const QString path = place.behavior->path();
+    if (path.isEmpty() || place.occurrence > 0)
+        checkKey(path, place.occurrence, place.path().field("path"), RuleId::BehaviorPathDuplicate,
+                 findings);
+}
 
 void checkKeys(const CheckedPackage &checked, Findings &findings) {
-    KeyCheck paths("behaviors", "path", RuleId::BehaviorPathDuplicate, findings);
-    for (const BehaviorPlace &place : checked.behaviors)
-        paths.add(place.behavior->path());
-    KeyCheck topics("dialogs", "topicName", RuleId::TopicNameDuplicate, findings);
-    for (const DialogInfoModel *dialog : checked.package.dialogs())
-        topics.add(dialog->topicName());
-    KeyCheck names("services", "name", RuleId::ServiceNameDuplicate, findings);
-    QHash<QString, int> counts;
+    QHash<QString, int> topics;
+    for (const DialogInfoModel *dialog : checked.package.dialogs()) {
+        const QString topic = dialog->topicName();
+        const int occurrence = topics[topic]++;
+        checkKey(topic, occurrence,
+                 fieldNamed("dialogs").entry(toUtf8(topic), occurrence).field("topicName"),
+                 RuleId::TopicNameDuplicate, findings);
+    }
+    QHash<QString, int> names;
     for (const ServiceInfoModel *service : checked.package.services()) {
-        names.add(service->name());
-        const FieldPath property = fieldNamed("services")
-                                       .entry(toUtf8(service->name()), counts[service->name()]++)
-                                       .field("properties")
-                                       .key({});
+        const QString name = service->name();
+        const int occurrence = names[name]++;
+        const FieldPath entry = fieldNamed("services").entry(toUtf8(name), occurrence);
+        checkKey(name, occurrence, FieldPath(entry).field("name"), RuleId::ServiceNameDuplicate,
+                 findings);
         if (service->properties().contains(QString()))
-            findings.push_back({RuleId::KeyEmpty, property, {KeyCheck::labelOf(property)}, {}});
+            checkKey({}, 0, FieldPath(entry).field("properties").key({}), RuleId::KeyEmpty,
+                     findings);
     }
 }
 
-void checkPermissions(const CheckedPackage &checked, Findings &findings) {
-    for (const BehaviorPlace &place : checked.behaviors) {
-        const QStringList permissions = place.behavior->permissionList();
-        for (int i = 0; i < permissions.size(); ++i) {
-            const auto path = [&] { return place.path().field("permissions").index(i); };
-            if (permissions.at(i).isEmpty())
-                findings.push_back({RuleId::KeyEmpty, path(), {KeyCheck::labelOf(path())}, {}});
-            else if (permissions.indexOf(permissions.at(i)) < i)
-                findings.push_back({RuleId::PermissionDuplicate, path(), {permissions.at(i)}, {}});
-        }
+void checkPermissions(const CheckedPackage &, const BehaviorPlace &place, Findings &findings) {
+    const QStringList permissions = place.behavior->permissionList();
+    for (int i = 0; i < permissions.size(); ++i) {
+        const QString &permission = permissions.at(i);
+        const bool isRepeated = permissions.indexOf(permission) < i;
+        if (permission.isEmpty() || isRepeated)
+            checkKey(permission, isRepeated, place.path().field("permissions").index(i),
+                     RuleId::PermissionDuplicate, findings);
     }
 }
 
-void checkNatures(const CheckedPackage &checked, Findings &findings) {
-    const QStringList known{BehaviorInfoModel::natureInteractive(),
-                            BehaviorInfoModel::natureSolitary()};
-    for (const BehaviorPlace &place : checked.behaviors) {
-        const QString nature = place.behavior->nature();
-        if (!nature.isEmpty() && !known.contains(nature))
-            findings.push_back({RuleId::NatureUnknown,
-                                place.path().field("nature"),
-                                {nature, nearest(nature, known)},
-                                {}});
-    }
+void checkNature(const CheckedPackage &, const BehaviorPlace &place, Findings &findings) {
+    static const QStringList known{BehaviorInfoModel::natureInteractive(),
+                                   BehaviorInfoModel::natureSolitary()};
+    const QString nature = place.behavior->nature();
+    if (!nature.isEmpty() && !known.contains(nature))
+        findings.push_back({RuleId::NatureUnknown,
+                            place.path().field("nature"),
+                            {nature, nearest(nature, known)},
+                            {}});
 }
 
 void checkLanguageCodes(const CheckedPackage &checked, Findings &findings) {
@@ -255,21 +250,22 @@ private:
     Findings &m_findings;
 };
 
-void checkTexts(const CheckedPackage &checked, Findings &findings) {
-    TextCheck own(
+void checkOwnTexts(const CheckedPackage &checked, Findings &findings) {
+    TextCheck texts(
         checked, [] { return FieldPath(); }, findings);
-    own.add("names", checked.package.names());
-    own.add("descriptions", checked.package.descriptions());
-    for (const BehaviorPlace &place : checked.behaviors) {
-        const BehaviorInfoModel &behavior = *place.behavior;
-        TextCheck texts(
-            checked, [&] { return place.path(); }, findings);
-        texts.add("names", behavior.names());
-        texts.add("descriptions", behavior.descriptions());
-        texts.add("tags", behavior.languagesToTags());
-        texts.add("triggerSentences", behavior.languagesToTriggerSentences());
-        texts.add("loadingResponses", behavior.languagesToLoadingResponses());
-    }
+    texts.add("names", checked.package.names());
+    texts.add("descriptions", checked.package.descriptions());
+}
+
+void checkTexts(const CheckedPackage &checked, const BehaviorPlace &place, Findings &findings) {
+    const BehaviorInfoModel &behavior = *place.behavior;
+    TextCheck texts(
+        checked, [&] { return place.path(); }, findings);
+    texts.add("names", behavior.names());
+    texts.add("descriptions", behavior.descriptions());
+    texts.add("tags", behavior.languagesToTags());
+    texts.add("triggerSentences", behavior.languagesToTriggerSentences());
+    texts.add("loadingResponses", behavior.languagesToLoadingResponses());
 }
 
 void checkTopicFiles(const CheckedPackage &checked, Findings &findings) {
@@ -325,7 +321,7 @@ void checkUnknownNodes(const CheckedPackage &checked, Findings &findings) {
 }
 
 void checkConflicts(const CheckedPackage &checked, Findings &findings) {
-    for (const Tano::KeptComment &comment : conflicts(checked.package.packageInfo()))
+    for (const Tano::KeptComment &comment : conflicts(checked.record))
         findings.push_back({RuleId::MergeConflict, comment.before, {}, {}});
 }
 
@@ -353,13 +349,14 @@ FieldPath BehaviorPlace::path() const {
     return fieldNamed("behaviors").entry(toUtf8(behavior->path()), occurrence);
 }
 
-CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith)
+CheckedPackage::CheckedPackage(const PackageInfoModel &checked,
+                               const Tano::PackageInfo &checkedRecord,
+                               const IssueOptions &checkedWith)
     : package(checked)
+    , record(checkedRecord)
     , options(checkedWith)
-    , unknownNodes(Tano::unknownNodes(checked.packageInfo())) {
-    QHash<QString, int> counts;
-    for (const BehaviorInfoModel *behavior : checked.behaviors())
-        behaviors.push_back({behavior, counts[behavior->path()]++});
+    , unknownNodes(Tano::unknownNodes(checkedRecord))
+    , scripts(checked) {
     for (const RobotLanguages &list :
          {checked.supportedLanguages(), checked.descriptionLanguages()}) {
         for (const RobotLanguage &language : list)
@@ -368,10 +365,21 @@ CheckedPackage::CheckedPackage(const PackageInfoModel &checked, const IssueOptio
 }
 
 const std::vector<FurtherCheck> &furtherChecks() {
-    static const std::vector<FurtherCheck> checks{
-        checkScripts, checkKeys,     checkPermissions,  checkNatures,  checkLanguageCodes,
-        checkRobots,  checkVersions, checkDate,         checkTexts,    checkTopicFiles,
-        checkIcon,    checkSupport,  checkUnknownNodes, checkConflicts};
+    static const std::vector<FurtherCheck> checks{{checkOwnScripts, checkScripts},
+                                                  {nullptr, checkPath},
+                                                  {checkKeys, nullptr},
+                                                  {nullptr, checkPermissions},
+                                                  {nullptr, checkNature},
+                                                  {checkLanguageCodes, nullptr},
+                                                  {checkRobots, nullptr},
+                                                  {checkVersions, nullptr},
+                                                  {checkDate, nullptr},
+                                                  {checkOwnTexts, checkTexts},
+                                                  {checkTopicFiles, nullptr},
+                                                  {checkIcon, nullptr},
+                                                  {checkSupport, nullptr},
+                                                  {checkUnknownNodes, nullptr},
+                                                  {checkConflicts, nullptr}};
     return checks;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "package_checks.h"
+#include "script_checks.h"
 
 #include <packagemodel/package_issues.h>
 
@@ -20,13 +21,15 @@ struct BehaviorPlace {
 
 /// What the further checks look at.
 struct CheckedPackage {
-    CheckedPackage(const PackageInfoModel &checked, const IssueOptions &checkedWith);
+    CheckedPackage(const PackageInfoModel &checked, const Tano::PackageInfo &checkedRecord,
+                   const IssueOptions &checkedWith);
 
-    const PackageInfoModel &package;
+    const PackageInfoModel &package; // possibly without the behaviors of the record
+    const Tano::PackageInfo &record;
     const IssueOptions &options;
-    std::vector<BehaviorPlace> behaviors;
     QSet<QString> languages; // the codes of those that the package lists
     std::vector<Tano::UnknownNode> unknownNodes;
+    BehaviorScripts scripts;
 };
 
 /// The names that the format knows where an unknown node is.
@@ -37,9 +40,15 @@ constexpr const char *conflictMark = "zel-package: conflict";
 /// Such comments.
 std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record);
 
-/// The checks beyond those of the messages, in the order of their rules; each appends what it
-/// finds.
-using FurtherCheck = void (*)(const CheckedPackage &checked, Findings &findings);
+/// A check beyond those of the messages: of the package without its behaviors, and of one behavior,
+/// which need not be in the package. Each appends what it finds; a null one finds nothing.
+struct FurtherCheck {
+    void (*ofPackage)(const CheckedPackage &checked, Findings &findings);
+    void (*ofBehavior)(const CheckedPackage &checked, const BehaviorPlace &place,
+                       Findings &findings);
+};
+
+/// In the order of their rules.
 const std::vector<FurtherCheck> &furtherChecks();
 
 } // namespace Zel::PackageModel

@@ -444,11 +444,18 @@ Edits fixRule(PackageInfoModel *package, FixChoice choice, const QVector<Issue> 
     return made;
 }
 
+bool setsVersion(const Edits &edits) {
+    return std::any_of(edits.begin(), edits.end(),
+                       [](const Edit &edit) { return edit.path == fieldNamed("version"); });
+}
+
 } // namespace
 
 // A fix of one rule can settle what another has found, so each round makes those of one rule.
-Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions &options) {
+Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions &givenOptions) {
     constexpr int mostRounds = 1000;
+    IssueOptions options = givenOptions;
+    options.withFixes = true;
     Edits made;
     bool isDone = false;
     for (int round = 0; round < mostRounds && !isDone; ++round) {
@@ -467,6 +474,9 @@ Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions 
             const Edits edits = fixRule(package, choice, found, issue->id);
             isDone = edits.isEmpty();
             made += edits;
+            // From here on, the version is the one in the package.
+            if (setsVersion(edits))
+                options.written = nullptr;
         }
     }
     return made;

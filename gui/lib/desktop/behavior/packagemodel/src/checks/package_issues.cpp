@@ -5,8 +5,12 @@
 
 #include <packagemodel/package_info_model.h>
 
+#include <QHash>
+
 #include <algorithm>
 #include <set>
+#include <string_view>
+#include <unordered_map>
 
 namespace Zel::PackageModel {
 namespace {
@@ -15,16 +19,26 @@ namespace {
 class FindingVisit {
 public:
     FindingVisit(const PackageInfoModel &package,
-                 const std::function<IssueVisit(const Issue &issue)> &visit)
-        : m_fixes(package)
-        , m_visit(visit) {}
+                 const std::function<IssueVisit(const Issue &issue)> &visit,
+                 const IssueOptions &options)
+        : m_package(package)
+        , m_fixes(package)
+        , m_visit(visit)
+        , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
+        , m_withFixes(options.withFixes) {}
 
     // Returns false when the visitor stops.
     bool visit(const Findings &findings) {
         for (const Finding &finding : findings) {
             if (skips(finding.rule) || !isNamed(finding))
                 continue;
-            const IssueVisit next = m_visit(issueOf(finding));
+            Issue issue = bareIssueOf(finding);
+            if (m_filter && !m_filter(issue))
+                continue;
+            issue.text = message(finding, {finding.language});
+            if (m_withFixes)
+                issue.fixes = m_fixes.fixesOf(finding);
+            const IssueVisit next = m_visit(issue);
             if (next == IssueVisit::Stop)
                 return false;
             if (next == IssueVisit::SkipRule)
@@ -33,13 +47,19 @@ public:
         return true;
     }
 
+    bool visitTriggerSentences(const BehaviorPlace &place) {
+        Findings found;
+        if (!skips(RuleId::TriggerSentencesMissing))
+            checkTriggerSentences(m_package, *place.behavior, place.occurrence, found);
+        return visit(found);
+    }
+
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
-    Issue issueOf(const Finding &finding) {
+    static Issue bareIssueOf(const Finding &finding) {
         const RuleRow &row = ruleRow(finding.rule);
-        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()),
-                message(finding, {finding.language}), m_fixes.fixesOf(finding)};
+        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()), {}};
     }
 
     // A message without a language would say nothing.
@@ -48,10 +68,21 @@ private:
                !finding.language.uiName().isEmpty();
     }
 
+    const PackageInfoModel &m_package;
     FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
+    IssueFilter m_filter;
+    bool m_withFixes;
     std::set<RuleId> m_skipped;
 };
+
+std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behaviors) {
+    std::vector<BehaviorPlace> places;
+    QHash<QString, int> counts;
+    for (const BehaviorInfoModel *behavior : behaviors)
+        places.push_back({behavior, counts[behavior->path()]++});
+    return places;
+}
 
 // By ascending path; behaviors with the same path keep their order.
 std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behaviors) {
@@ -64,6 +95,14 @@ std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behavior
     std::transform(byPath.begin(), byPath.end(), behaviors.begin(),
                    [](const auto &entry) { return entry.second; });
     return behaviors;
+}
+
+bool visitApplicationChecks(const PackageInfoModel &package, FindingVisit &findings) {
+    return std::all_of(applicationChecks.begin(), applicationChecks.end(), [&](Check check) {
+        Findings found;
+        check(package, found);
+        return findings.visit(found);
+    });
 }
 
 } // namespace
@@ -85,29 +124,62 @@ void visitIssues(const PackageInfoModel *package,
                  const IssueOptions &options) {
     if (!package)
         return;
-    FindingVisit findings(*package, visit);
-    const auto visitResult = [&](auto &&check) {
-        Findings found;
-        check(found);
-        return findings.visit(found);
-    };
-    for (const Check check : applicationChecks) {
-        if (!visitResult([&](Findings &found) { check(*package, found); }))
-            return;
-    }
-    const CheckedPackage checked(*package, options);
-    for (const auto &[behavior, occurrence] : inOrderOfMessages(checked.behaviors)) {
+    FindingVisit findings(*package, visit, options);
+    if (!visitApplicationChecks(*package, findings))
+        return;
+    const CheckedPackage checked(*package, package->packageInfo(), options);
+    const std::vector<BehaviorPlace> places = placesOf(package->behaviors());
+    for (const BehaviorPlace &place : inOrderOfMessages(places)) {
         if (findings.skips(RuleId::TriggerSentencesMissing))
             break;
-        if (!visitResult([&, behavior = behavior, occurrence = occurrence](Findings &found) {
-                checkTriggerSentences(*package, *behavior, occurrence, found);
-            }))
+        if (!findings.visitTriggerSentences(place))
             return;
     }
-    for (const FurtherCheck check : furtherChecks()) {
-        if (!visitResult([&](Findings &found) { check(checked, found); }))
+    for (const FurtherCheck &check : furtherChecks()) {
+        Findings found;
+        if (check.ofPackage)
+            check.ofPackage(checked, found);
+        for (const BehaviorPlace &place : check.ofBehavior ? places : std::vector<BehaviorPlace>())
+            check.ofBehavior(checked, place, found);
+        if (!findings.visit(found))
             return;
     }
+}
+
+// One behavior at a time has a model.
+void visitIssues(const Tano::PackageInfo &record,
+                 const std::function<IssueVisit(const Issue &issue)> &visit,
+                 const IssueOptions &options) {
+    if (options.withFixes) {
+        const PackageInfoModel package(record);
+        visitIssues(&package, visit, options);
+        return;
+    }
+    Tano::PackageInfo withoutBehaviors = record;
+    withoutBehaviors.clearBehaviors();
+    const PackageInfoModel package(withoutBehaviors);
+    FindingVisit findings(package, visit, options);
+    if (!visitApplicationChecks(package, findings))
+        return;
+    const CheckedPackage checked(package, record, options);
+    Findings found;
+    for (const FurtherCheck &check : furtherChecks()) {
+        if (check.ofPackage)
+            check.ofPackage(checked, found);
+    }
+    std::unordered_map<std::string_view, int> counts;
+    for (const Tano::BehaviorInfo &behavior : record.behaviors()) {
+        const BehaviorInfoModel model(behavior, nullptr);
+        const BehaviorPlace place{&model, counts[behavior.path()]++};
+        for (const FurtherCheck &check : furtherChecks()) {
+            if (check.ofBehavior)
+                check.ofBehavior(checked, place, found);
+        }
+        if (!findings.visit(found) || !findings.visitTriggerSentences(place))
+            return;
+        found.clear();
+    }
+    static_cast<void>(findings.visit(found));
 }
 
 } // namespace Zel::PackageModel

@@ -21,6 +21,30 @@ struct RecordEditor::Data {
         , isCompleted(package.packageInfo().descriptionLanguages() !=
                       record.descriptionLanguages()) {}
 
+    // Notes what an edit asks for. A whole package asks for what it has more than before.
+    void note(const PackageModel::Edit &edit, const Tano::PackageInfo &before) {
+        const auto *whole = edit.value ? std::get_if<Tano::PackageInfo>(&*edit.value) : nullptr;
+        if (whole) {
+            editsVersion = editsVersion || whole->version() != before.version();
+            for (const std::string &code : whole->descriptionLanguages()) {
+                if (!contains(before.descriptionLanguages(), code))
+                    editedLanguages.insert(code);
+            }
+        }
+        if (edit.path.isEmpty())
+            return;
+        const auto &step = edit.path.steps().front();
+        editsVersion = editsVersion || step.field == "version";
+        if (step.field != "descriptionLanguages")
+            return;
+        if (edit.action == PackageModel::Edit::Action::Move)
+            isCompleted = false; // the order of all is asked for
+        if (!step.selectors.empty())
+            editedLanguages.insert(step.selectors.front().text);
+        else if (const auto *code = edit.value ? std::get_if<QString>(&*edit.value) : nullptr)
+            editedLanguages.insert(toUtf8(*code));
+    }
+
     Tano::PackageInfo written;
     PackageInfoModel package;
     bool isCompleted; // the model has added description languages
@@ -39,21 +63,12 @@ PackageInfoModel *RecordEditor::package() const {
 }
 
 PackageModel::Applied RecordEditor::apply(const PackageModel::Edits &edits) {
+    const Tano::PackageInfo before = m_data->package.packageInfo();
     PackageModel::Applied applied = PackageModel::apply(&m_data->package, edits);
     if (!applied.error.isEmpty())
         return applied;
-    for (const PackageModel::Edit &edit : edits) {
-        const auto &step = edit.path.steps().front();
-        m_data->editsVersion = m_data->editsVersion || step.field == "version";
-        if (step.field != "descriptionLanguages")
-            continue;
-        if (edit.action == PackageModel::Edit::Action::Move)
-            m_data->isCompleted = false; // the order of all is asked for
-        if (!step.selectors.empty())
-            m_data->editedLanguages.insert(step.selectors.front().text);
-        else if (const auto *code = edit.value ? std::get_if<QString>(&*edit.value) : nullptr)
-            m_data->editedLanguages.insert(toUtf8(*code));
-    }
+    for (const PackageModel::Edit &edit : edits)
+        m_data->note(edit, before);
     return applied;
 }
 

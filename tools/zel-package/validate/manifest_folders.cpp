@@ -1,0 +1,64 @@
+#include "manifest_folders.h"
+
+#include "arguments/native_text.h"
+#include "console/library_text.h"
+
+#include <QCoreApplication>
+
+#include <filesystem>
+#include <system_error>
+
+namespace ZelPackage {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Report = std::function<void(const QString &folder, const QString &trouble)>;
+
+QString textOf(const fs::path &path) {
+    return nativeText(QByteArray::fromStdString(path.lexically_normal().string()));
+}
+
+void collect(const fs::path &folder, const Report &report, QStringList &files) {
+    std::error_code error;
+    for (auto entry = fs::directory_iterator(folder, error);
+         !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code ignored; // of an entry that is gone meanwhile
+        if (fs::is_directory(entry->symlink_status(ignored)))
+            collect(entry->path(), report, files);
+        else if (entry->path().filename() == "manifest.xml" && !entry->is_directory(ignored))
+            files += textOf(entry->path());
+    }
+    if (error)
+        report(textOf(folder), reasonSentence(error.message()));
+}
+
+} // namespace
+
+QStringList manifestsOf(const QStringList &arguments, const Report &report) {
+    QStringList all;
+    for (const QString &argument : arguments) {
+        std::error_code ignored; // of a file that is not there
+        if (!fs::is_directory(nativeBytes(argument), ignored)) {
+            all += argument;
+            continue;
+        }
+        QStringList files;
+        bool isFine = true;
+        collect(
+            nativeBytes(argument),
+            [&](const QString &folder, const QString &trouble) {
+                isFine = false;
+                report(folder, trouble);
+            },
+            files);
+        files.sort();
+        if (files.isEmpty() && isFine)
+            report(argument, QCoreApplication::translate(
+                                 "zel-package", "There is no manifest.xml in the folder."));
+        all += files;
+    }
+    return all;
+}
+
+} // namespace ZelPackage
