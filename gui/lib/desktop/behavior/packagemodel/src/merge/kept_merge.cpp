@@ -7,6 +7,7 @@
 #include <tano/kept_content.h>
 
 #include <algorithm>
+#include <map>
 
 namespace Zel::PackageModel {
 namespace {

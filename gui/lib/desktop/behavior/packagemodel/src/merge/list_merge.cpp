@@ -4,6 +4,8 @@
 
 #include <QHash>
 
+#include <utility>
+
 namespace Zel::PackageModel {
 namespace {
 

@@ -2,6 +2,8 @@
 
 #include "../fields/sequence_match.h"
 
+#include <QStringList>
+
 #include <functional>
 #include <vector>
 

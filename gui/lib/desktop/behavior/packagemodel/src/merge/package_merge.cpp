@@ -6,6 +6,8 @@
 
 #include <packagemodel/record_editor.h>
 
+#include <algorithm>
+
 namespace Zel::PackageModel {
 namespace {
 
