@@ -387,10 +387,6 @@
         <translation>fr</translation>
     </message>
     <message>
-        <source>column %1</source>
-        <translation>colonne %1</translation>
-    </message>
-    <message>
         <source>Write no manifest; print the names of the files that are not in the canonical form.</source>
         <translation>N&apos;écrire aucun manifeste ; afficher les noms des fichiers qui n&apos;ont pas la forme canonique.</translation>
     </message>
@@ -473,14 +469,6 @@
     <message>
         <source>The manifest is malformed.</source>
         <translation>Le manifeste est mal formé.</translation>
-    </message>
-    <message>
-        <source>The file is no well-formed XML in UTF-8, or it holds what a manifest cannot hold at that place. Nothing else in it is checked. Whatever is ignored, the exit status is 2.</source>
-        <translation>Le fichier n&apos;est pas du XML bien formé en UTF-8, ou contient ce qu&apos;un manifeste ne peut contenir à cet endroit. Rien d&apos;autre n&apos;y est vérifié. Quoi qu&apos;on ignore, le code de sortie est 2.</translation>
-    </message>
-    <message>
-        <source>Mend the file at the line and column that are given, then check it again.</source>
-        <translation>Corrigez le fichier à la ligne et à la colonne indiquées, puis vérifiez-le de nouveau.</translation>
     </message>
     <message>
         <source>; &apos;zel-package explain&apos; lists the rules.</source>
@@ -659,26 +647,6 @@
         <translation>%1 ; %2</translation>
     </message>
     <message>
-        <source>The form of the output: text, json or sarif.</source>
-        <translation>La forme de la sortie : text, json ou sarif.</translation>
-    </message>
-    <message>
-        <source>Leave out what these rules find; IDs are joined by commas, and the option may be given several times.</source>
-        <translation>Laisser de côté ce que trouvent ces règles ; les ID sont séparés par des virgules, et l&apos;option peut être donnée plusieurs fois.</translation>
-    </message>
-    <message>
-        <source>Explain, at the end, each rule that found something.</source>
-        <translation>Expliquer, à la fin, chaque règle qui a trouvé quelque chose.</translation>
-    </message>
-    <message>
-        <source>There is no severity &apos;%1&apos;%2</source>
-        <translation>Il n&apos;y a pas de gravité &apos;%1&apos;%2</translation>
-    </message>
-    <message>
-        <source>; it is text, json or sarif.</source>
-        <translation> ; c&apos;est text, json ou sarif.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; cannot be ignored.</source>
         <translation>&apos;%1&apos; ne peut pas être ignoré.</translation>
     </message>
@@ -697,14 +665,6 @@
     <message>
         <source>, unreadable: %1</source>
         <translation>, illisibles : %1</translation>
-    </message>
-    <message>
-        <source>Tell what is wrong with manifests</source>
-        <translation>Dire ce qui ne va pas dans des manifestes</translation>
-    </message>
-    <message>
-        <source>Prints what is wrong with each manifest, as FILE:LINE: error: text (field) [id]; the line is that of the field or, where it is missing, of what should hold it. &apos;zel-package explain ID&apos; tells more. &apos;-&apos; reads standard input.</source>
-        <translation>Affiche ce qui ne va pas dans chaque manifeste, sous la forme FICHIER:LIGNE: error: texte (champ) [id] ; la ligne est celle du champ ou, s&apos;il manque, de ce qui devrait le contenir. &apos;zel-package explain ID&apos; en dit plus. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
         <source>Write nothing; print what would change, as a unified diff.</source>
@@ -940,24 +900,180 @@
         <translation>Explique à quoi sert la règle ID de &apos;validate&apos; et comment corriger ce qu&apos;elle signale ; sans ID, affiche toutes les règles.</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error, warning or note; error when none is given.</source>
-        <translation>La gravité minimale qui donne le code de sortie 1 : error, warning ou note ; error par défaut.</translation>
-    </message>
-    <message>
-        <source>; it is error, warning or note.</source>
-        <translation> ; c&apos;est error, warning ou note.</translation>
-    </message>
-    <message>
         <source>, notes: %1</source>
         <translation>, remarques : %1</translation>
     </message>
     <message>
-        <source>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</source>
-        <translation>FILE... [--format text|json|sarif] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--explain]</translation>
-    </message>
-    <message>
         <source>The version of a package has three fields, so it becomes %1.</source>
         <translation>La version d&apos;un paquet a trois nombres, elle devient donc %1.</translation>
+    </message>
+    <message>
+        <source>The baseline is not valid JSON: %1.</source>
+        <translation>La référence n&apos;est pas du JSON valide : %1.</translation>
+    </message>
+    <message>
+        <source>The file is not a baseline of format 1, which --write-baseline writes.</source>
+        <translation>Le fichier n&apos;est pas une référence au format 1, telle que --write-baseline l&apos;écrit.</translation>
+    </message>
+    <message>
+        <source>There is no setting &apos;%1&apos;%2</source>
+        <translation>Il n&apos;y a pas de réglage &apos;%1&apos;%2</translation>
+    </message>
+    <message>
+        <source>; it is one of %1.</source>
+        <translation> ; c&apos;est l&apos;un de %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has to be a list of tables, [[%1]].</source>
+        <translation>&apos;%1&apos; doit être une liste de tables, [[%1]].</translation>
+    </message>
+    <message>
+        <source>The override has no &apos;path&apos;.</source>
+        <translation>L&apos;exception n&apos;a pas de &apos;path&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has to be a table.</source>
+        <translation>&apos;%1&apos; doit être une table.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be &quot;%2&quot;%3</source>
+        <translation>&apos;%1&apos; ne peut pas être &quot;%2&quot;%3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has to be a text in quotes.</source>
+        <translation>&apos;%1&apos; doit être un texte entre guillemets.</translation>
+    </message>
+    <message>
+        <source>The configuration is not valid TOML: %1.</source>
+        <translation>La configuration n&apos;est pas du TOML valide : %1.</translation>
+    </message>
+    <message>
+        <source>There is no manifest.xml in the folder.</source>
+        <translation>Il n&apos;y a pas de manifest.xml dans le dossier.</translation>
+    </message>
+    <message>
+        <source>The baseline lists &apos;%1&apos; here, which is not found any more.</source>
+        <translation>La référence mentionne ici &apos;%1&apos;, qui n&apos;est plus constaté.</translation>
+    </message>
+    <message>
+        <source>A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back.</source>
+        <translation>Une référence énumère les constats connus, qui ne sont pas signalés. Une entrée dont le constat a disparu cacherait ce constat s&apos;il revenait.</translation>
+    </message>
+    <message>
+        <source>Write the baseline again with --write-baseline.</source>
+        <translation>Réécrivez la référence avec --write-baseline.</translation>
+    </message>
+    <message>
+        <source>The comment ignores &apos;%1&apos;, which is not found here.</source>
+        <translation>Le commentaire ignore &apos;%1&apos;, qui n&apos;est pas constaté ici.</translation>
+    </message>
+    <message>
+        <source>A comment &apos;zel-package: ignore&apos; applies to the element that follows it. Where its rules find nothing, it would hide findings that come later.</source>
+        <translation>Un commentaire &apos;zel-package: ignore&apos; porte sur l&apos;élément qui le suit. Si ses règles n&apos;y constatent rien, il cacherait des constats ultérieurs.</translation>
+    </message>
+    <message>
+        <source>Remove the rule from the comment, or the comment.</source>
+        <translation>Retirez la règle du commentaire, ou le commentaire.</translation>
+    </message>
+    <message>
+        <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so that it has no effect.</source>
+        <translation>Un commentaire &apos;zel-package: ignore&apos; nomme une règle qui n&apos;existe pas et reste donc sans effet.</translation>
+    </message>
+    <message>
+        <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
+        <translation>Écrivez l&apos;identifiant d&apos;une règle ; &apos;zel-package explain&apos; les affiche.</translation>
+    </message>
+    <message>
+        <source>Correct the file at the line and column that are given, then check it again.</source>
+        <translation>Corrigez le fichier à la ligne et à la colonne indiquées, puis vérifiez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>, to be fixed: %1</source>
+        <translation>, à corriger : %1</translation>
+    </message>
+    <message>
+        <source>, fixed: %1</source>
+        <translation>, corrigés : %1</translation>
+    </message>
+    <message>
+        <source>Check manifests, and fix them</source>
+        <translation>Vérifier des manifestes et les corriger</translation>
+    </message>
+    <message>
+        <source>FILE|FOLDER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FILE] [--baseline FILE] [--write-baseline FILE] [--stdin-name NAME] [--quiet] [--color auto|always|never] [--explain]</source>
+        <translation>FICHIER|DOSSIER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FICHIER] [--baseline FICHIER] [--write-baseline FICHIER] [--stdin-name NOM] [--quiet] [--color auto|always|never] [--explain]</translation>
+    </message>
+    <message>
+        <source>Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field has the place of the element that should hold it. A FOLDER means every manifest.xml in it and below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
+        <translation>Affiche les constats de chaque manifeste par ligne, sous la forme FICHIER:LIGNE:COLONNE: error: texte [id] ; un champ absent a la place de l&apos;élément qui devrait le contenir. Un DOSSIER désigne chaque manifest.xml qu&apos;il contient, sous-dossiers compris. &apos;zel-package explain ID&apos; explique une règle. &apos;-&apos; lit l&apos;entrée standard ; avec --fix, le manifeste va sur la sortie standard et les constats sur la sortie d&apos;erreur.</translation>
+    </message>
+    <message>
+        <source>&apos;--%1&apos; cannot be &apos;%2&apos;%3</source>
+        <translation>&apos;--%1&apos; ne peut pas être &apos;%2&apos;%3</translation>
+    </message>
+    <message>
+        <source>The form of the output: text (the default), json, sarif or github.</source>
+        <translation>La forme de la sortie : text (par défaut), json, sarif ou github.</translation>
+    </message>
+    <message>
+        <source>The least severity that makes the exit status 1: error (the default), warning or note.</source>
+        <translation>La plus faible gravité qui donne le code de retour 1 : error (par défaut), warning ou note.</translation>
+    </message>
+    <message>
+        <source>Leave out the findings of these rules; IDs are joined by commas, and the option may be given several times.</source>
+        <translation>Omettre les constats de ces règles ; les ID sont séparés par des virgules, et l&apos;option peut être donnée plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>Make the safe fixes, and report the findings that remain.</source>
+        <translation>Faire les corrections sûres et signaler les constats restants.</translation>
+    </message>
+    <message>
+        <source>Also make the fixes that may change the meaning.</source>
+        <translation>Faire aussi les corrections qui peuvent changer le sens.</translation>
+    </message>
+    <message>
+        <source>Write nothing; print the fixes as a unified diff.</source>
+        <translation>Ne rien écrire ; afficher les corrections sous forme de diff unifié.</translation>
+    </message>
+    <message>
+        <source>Use this configuration instead of the nearest .zel-package.toml.</source>
+        <translation>Utiliser cette configuration au lieu du .zel-package.toml le plus proche.</translation>
+    </message>
+    <message>
+        <source>Leave out the findings that this file lists.</source>
+        <translation>Omettre les constats que ce fichier énumère.</translation>
+    </message>
+    <message>
+        <source>Write the findings to this file instead.</source>
+        <translation>Écrire plutôt les constats dans ce fichier.</translation>
+    </message>
+    <message>
+        <source>The name of the manifest from standard input.</source>
+        <translation>Le nom du manifeste lu sur l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Print only findings that make the exit status 1, and no summary.</source>
+        <translation>N&apos;afficher que les constats qui donnent le code de retour 1, et aucun résumé.</translation>
+    </message>
+    <message>
+        <source>Whether to use color: auto (the default, on a terminal), always or never.</source>
+        <translation>Utiliser la couleur : auto (par défaut, dans un terminal), always ou never.</translation>
+    </message>
+    <message>
+        <source>Explain, at the end, each rule with findings.</source>
+        <translation>Expliquer, à la fin, chaque règle qui a des constats.</translation>
+    </message>
+    <message>
+        <source>&apos;--%1&apos; needs &apos;-&apos;, standard input, as a FILE.</source>
+        <translation>&apos;--%1&apos; exige &apos;-&apos;, l&apos;entrée standard, comme FICHIER.</translation>
+    </message>
+    <message>
+        <source>Known findings: %1</source>
+        <translation>Constats connus : %1</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <translation>Le fichier n&apos;est pas du XML bien formé en UTF-8, ou a un contenu qu&apos;un manifeste ne peut pas avoir à cet endroit. Rien d&apos;autre n&apos;y est vérifié, et le code de retour est 2.</translation>
     </message>
 </context>
 </TS>
