@@ -49,6 +49,9 @@ for shell in bash zsh fish; do
         continue
     fi
     expect $shell 'set show' 'zel-package s'
+    expect $shell '--help export import status' 'zel-package texts '
+    expect $shell '--dry-run --force --help' 'zel-package texts import set.xml --'
+    expect $shell 'en_GB en_US' 'zel-package texts export --source en_'
     expect $shell 'en_GB en_US' 'zel-package new --language en_'
     expect $shell 'json text' 'zel-package languages --format '
     expect $shell 'uid-invalid,name-missing uid-invalid,name-missing-default' \

@@ -9,6 +9,7 @@
 #include <packagemodel/behavior_commands.h>
 
 #include <QAbstractItemModelTester>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QTest>
@@ -139,6 +140,20 @@ class TestEditorModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // A view without a current row asks for one.
+    void invalidIndexes() {
+        Document document;
+        QVERIFY(document.open(sample("ten-languages")));
+        AllModels models(document);
+        for (QAbstractItemModel *model : models.all()) {
+            for (int role = 0; role <= Qt::UserRole + 2; ++role)
+                QVERIFY(!model->data({}, role).isValid());
+            QVERIFY(!model->setData({}, QStringLiteral("x")));
+            const std::unique_ptr<QMimeData> data(model->mimeData({QModelIndex()}));
+        }
+        QVERIFY(!document.isModified());
+    }
+
     void edit_data() {
         QTest::addColumn<MakeEdit>("make");
         using D = Document;

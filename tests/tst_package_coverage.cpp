@@ -42,6 +42,12 @@ private Q_SLOTS:
             QCOMPARE(printed(coverage(&package, each.language)), printed(each));
         }
         lines += printed(coverage(&package, language("ja_JP")));
+        for (const BehaviorCoverage &each : behaviorCoverages(&package)) {
+            lines += QString::fromStdString(each.path.toString()) + u':';
+            for (const Count &count : each.counts)
+                lines += QStringLiteral(" %1/%2").arg(count.present).arg(count.expected);
+            lines += u'\n';
+        }
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/coverage/package.txt"), lines.toUtf8());
     }
 
@@ -55,6 +61,7 @@ private Q_SLOTS:
 
     void noPackage() {
         QVERIFY(languages(nullptr).empty() && coverages(nullptr).empty());
+        QVERIFY(behaviorCoverages(nullptr).empty());
         QCOMPARE(coverage(nullptr, language("en_US")).total().expected, 0);
     }
 };

@@ -195,7 +195,7 @@ QStringList documentedNames(const QString &document, const QString &element) {
     static const QRegularExpression name(QStringLiteral("`([^`]+)`"));
     static const QStringList values{QStringLiteral("1"), QStringLiteral("true"),
                                     QStringLiteral("false")};
-    const int start = document.indexOf(QStringLiteral("\n### `%1`").arg(element));
+    const auto start = document.indexOf(QStringLiteral("\n### `%1`").arg(element));
     QStringList names;
     for (const QString &line : document.mid(start + 1).split(QLatin1Char('\n')).mid(1)) {
         if (line.startsWith(QLatin1Char('#')))

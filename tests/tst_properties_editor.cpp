@@ -140,6 +140,32 @@ private Q_SLOTS:
         QCOMPARE(validate.exitCode(), 0);
     }
 
+    void fixesProblems() {
+        QVERIFY(m_window->openFile(copyOf("faulty")));
+        const int found = problemCount();
+        press(Qt::Key_F8);
+        QCOMPARE(problems()->currentIndex().row(), 0);
+        const auto buttons = problems()->parentWidget()->findChildren<QPushButton *>();
+        QCOMPARE(buttons.first()->text(), QStringLiteral("Change it to 'night-watch'"));
+        QTest::mouseClick(buttons.first(), Qt::LeftButton);
+        QCOMPARE(field("&UID:")->text(), QStringLiteral("night-watch"));
+        QVERIFY(problemCount() < found);
+        stack()->undo();
+        QCOMPARE(problemCount(), found);
+
+        const auto actions = m_window->findChildren<QAction *>();
+        const auto fixAll = std::find_if(actions.begin(), actions.end(), [](const QAction *each) {
+            return each->text() == QStringLiteral("&Fix All Safe Problems");
+        });
+        (*fixAll)->trigger();
+        QVERIFY(problemCount() < found);
+        QCOMPARE(stack()->count(), 1);
+        (*fixAll)->trigger(); // nothing is left
+        QCOMPARE(stack()->count(), 1);
+        stack()->undo();
+        QCOMPARE(problemCount(), found);
+    }
+
     void typingIsOneStepUntilTheFocusLeaves() {
         QVERIFY(m_window->openFile(copyOf("small")));
         QLineEdit *author = field("&Author:");

@@ -66,6 +66,26 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(path, transcript);
     }
 
+    // The commands in docs/translating.md print what it says, one after the other.
+    void documentedTranslation() {
+        const QByteArray manual = contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/translating.md"));
+        QVERIFY(QFile::copy(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/small/manifest.xml"),
+                            m_dir.filePath(QStringLiteral("manifest.xml"))));
+        const QRegularExpression block(QStringLiteral("```console\n(.*?)```"),
+                                       QRegularExpression::DotMatchesEverythingOption);
+        QString expected;
+        QByteArray actual;
+        for (auto blocks = block.globalMatch(QString::fromUtf8(manual)); blocks.hasNext();)
+            expected += blocks.next().captured(1);
+        const QStringList lines = expected.split(u'\n');
+        for (const QString &line : lines) {
+            if (line.startsWith(QLatin1String("$ ")))
+                actual += line.toUtf8() + '\n' + printed(runShell(line.mid(2), m_dir.path()));
+        }
+        QVERIFY(!actual.isEmpty());
+        QCOMPARE(QString::fromUtf8(actual), expected);
+    }
+
     // The manual page and the completion know what the help offers.
     void helpIsComplete() {
         const QByteArray manual =
@@ -86,15 +106,18 @@ private Q_SLOTS:
                          word.constData());
             }
         };
-        const QByteArray commands = completion({QString()});
-        check(run({QStringLiteral("--help")}).out, commands);
-        for (const QByteArray &command : commands.trimmed().split('\n')) {
-            if (command.startsWith('-'))
-                continue;
-            const QString name = QString::fromUtf8(command);
-            const QByteArray page = run({name, QStringLiteral("-h")}).out;
-            QVERIFY(page.startsWith("Usage: zel-package " + command));
-            check(page, completion({name, QStringLiteral("--")}));
+        QList<QStringList> left{QStringList()};
+        while (!left.isEmpty()) {
+            const QStringList names = left.takeFirst();
+            const QByteArray page = run(names + QStringList{QStringLiteral("-h")}).out;
+            QVERIFY(page.startsWith("Usage: zel-package " + names.join(u' ').toUtf8()));
+            const QByteArray words = completion(names + QStringList{QString()});
+            const bool isGroup = words.contains("--help\n");
+            check(page, isGroup ? words : completion(names + QStringList{QStringLiteral("--")}));
+            for (const QByteArray &word : words.trimmed().split('\n')) {
+                if (isGroup && !word.startsWith('-'))
+                    left.append(names + QStringList{QString::fromUtf8(word)});
+            }
         }
     }
 

@@ -951,6 +951,90 @@
         <source>Choose a value, then remove the comment.</source>
         <translation>値を選び、コメントを削除してください。</translation>
     </message>
+    <message>
+        <source>A later unit has another text for this field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The package no longer has this behavior.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The source text has changed since the export.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An item before this one has no text yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Malformed speech script: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than %1 elements are nested.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; has more than %2 attributes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A document type declaration is not allowed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text is not allowed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The element &lt;%1&gt; is not allowed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The root element is &lt;%1&gt; instead of &lt;xliff&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is XLIFF &quot;%1&quot; in the namespace &quot;%2&quot; rather than XLIFF 1.2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The element &lt;file&gt; lacks the attribute &quot;source-language&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has no element &lt;source&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The entity &quot;%1&quot; is not declared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The placeholder &lt;%1&gt; lacks the attribute &quot;equiv-text&quot;, without which its text is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; has no path of a text in a package.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is larger than 256 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language is the source language too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The source language has no such text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a speech script: keep the markup in angle brackets, and translate the text around it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

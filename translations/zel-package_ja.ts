@@ -463,10 +463,6 @@
         <translation>コマンド &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>。コマンドの一覧は &apos;zel-package --help&apos; で表示できます。</translation>
-    </message>
-    <message>
         <source>The manifest is malformed.</source>
         <translation>マニフェストの形式が正しくありません。</translation>
     </message>
@@ -844,10 +840,6 @@
         <translation>余分な引数 &apos;%1&apos; があります。</translation>
     </message>
     <message>
-        <source>Missing command; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>コマンドがありません。&apos;zel-package --help&apos; でコマンドを確認できます。</translation>
-    </message>
-    <message>
         <source>The value cannot be empty.</source>
         <translation>値を空にはできません。</translation>
     </message>
@@ -906,6 +898,82 @@
     <message>
         <source>The version of a package has three fields, so it becomes %1.</source>
         <translation>パッケージのバージョンは三つの数字なので、%1 になります。</translation>
+    </message>
+    <message>
+        <source>Exchanges the texts of packages with translators.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; &apos;%1 --help&apos; lists the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing command; &apos;%1 --help&apos; lists the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language to translate into.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write only the texts that are not translated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing option --language CODE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write texts for translators</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILE --language CODE [--source CODE] [--missing] [-o OUT]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import also where the source text has changed since the export.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts: %1 imported, %2 unchanged, %3 untranslated, %4 skipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take texts from translators</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILE XLIFF... [--dry-run] [--force]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>behavior</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show how far packages are translated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The baseline is not valid JSON: %1.</source>
@@ -982,6 +1050,10 @@
     <message>
         <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
         <translation>規則の ID を書いてください。&apos;zel-package explain&apos; で一覧できます。</translation>
+    </message>
+    <message>
+        <source>The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Correct the file at the line and column that are given, then check it again.</source>
@@ -1070,10 +1142,6 @@
     <message>
         <source>Known findings: %1</source>
         <translation>既知の検出結果: %1</translation>
-    </message>
-    <message>
-        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
-        <translation>ファイルが UTF-8 の整形式 XML でないか、マニフェストがその場所に持てない内容を含んでいます。それ以外は検査されず、終了ステータスは 2 です。</translation>
     </message>
 </context>
 </TS>

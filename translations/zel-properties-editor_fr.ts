@@ -577,6 +577,22 @@ Version %1</translation>
         <source>Edit</source>
         <translation>Modification</translation>
     </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Problèmes</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problème &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problème &amp;précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Fix All Safe Problems</source>
+        <translation>&amp;Corriger tout ce qui est sûr</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -606,6 +622,25 @@ Version %1</translation>
     <message>
         <source>Field</source>
         <translation>Champ</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemsPanel</name>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Fix all safe problems</source>
+        <translation>Corriger tout ce qui est sûr</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Show the field</source>
+        <translation>&amp;Montrer le champ</translation>
     </message>
 </context>
 <context>

@@ -577,6 +577,22 @@ Version %1</source>
         <source>Edit</source>
         <translation>編集</translation>
     </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>問題(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>次の問題(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>前の問題(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Fix All Safe Problems</source>
+        <translation>安全な修正をすべて行う(&amp;F)</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -606,6 +622,25 @@ Version %1</source>
     <message>
         <source>Field</source>
         <translation>項目</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemsPanel</name>
+    <message>
+        <source>Problems</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Fix all safe problems</source>
+        <translation>安全な修正をすべて行う</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Show the field</source>
+        <translation>フィールドを表示(&amp;S)</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,7 @@ int DialogsModel::columnCount(const QModelIndex &parent) const {
 
 QVariant DialogsModel::data(const QModelIndex &index, int role) const {
     const DialogInfoModel *dialog = package()->dialogs().value(index.row());
-    if (!checkIndex(index) || !dialog || role != Qt::DisplayRole)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog || role != Qt::DisplayRole)
         return {};
     return dialog->topicName();
 }
@@ -58,7 +58,8 @@ int TopicsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant TopicsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index) || !dialog() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() ||
+        (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return index.column() == 0 ? languageInUse(key(index)).uiName()
                                : fieldText(package(), field(index));
@@ -71,7 +72,8 @@ FieldPath TopicsModel::field(const QModelIndex &index) const {
 }
 
 bool TopicsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index) || !dialog() || role != Qt::EditRole || index.column() != 1)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() || role != Qt::EditRole ||
+        index.column() != 1)
         return false;
     document().pushTyped([package = package(), row = m_dialogRow,
                           language = languageInUse(key(index)),
@@ -135,7 +137,7 @@ FieldPath ServicesModel::field(const QModelIndex &index) const {
 
 QVariant ServicesModel::data(const QModelIndex &index, int role) const {
     const Zel::ServiceInfoModel *service = package()->services().value(index.row());
-    if (!checkIndex(index) || !service)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service)
         return {};
     if (index.column() == AutoRun) {
         if (role != Qt::CheckStateRole)
@@ -149,7 +151,7 @@ QVariant ServicesModel::data(const QModelIndex &index, int role) const {
 
 bool ServicesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     const Zel::ServiceInfoModel *service = package()->services().value(index.row());
-    if (!checkIndex(index) || !service)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service)
         return false;
     if (role == Qt::CheckStateRole && index.column() == AutoRun) {
         document().edit({{Edit::Action::Set, field(index), !service->isAutoRun()}},

@@ -82,7 +82,7 @@ QVariant LanguagesModel::display(const QModelIndex &index) const {
 }
 
 QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     switch (role) {
     case Qt::DisplayRole:
@@ -108,7 +108,7 @@ QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
 }
 
 bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return false;
     const auto column = Column(index.column());
     if (role == Qt::CheckStateRole && (column == Supported || column == Described)) {

@@ -8,6 +8,7 @@
 #include "message_bar.h"
 #include "plain_text.h"
 #include "problems_model.h"
+#include "problems_panel.h"
 #include "requirements_page.h"
 #include "services_page.h"
 #include "texts_page.h"
@@ -134,26 +135,11 @@ void MainWindow::addPages() {
 }
 
 void MainWindow::addProblemsDock() {
-    m_problemsView = new QTreeView(this);
-    m_problemsView->setModel(m_problems);
-    m_problemsView->setRootIsDecorated(false);
-    m_problemsView->setUniformRowHeights(true);
-    m_problemsView->setAlternatingRowColors(true);
-    m_problemsView->setAllColumnsShowFocus(true);
-    m_problemsView->setAccessibleName(tr("Problems"));
-    m_problemsView->header()->setStretchLastSection(true);
-    m_problemsView->header()->resizeSection(ProblemsModel::Severity, 100);
-    m_problemsView->header()->resizeSection(ProblemsModel::Text, 400);
-    // Activation is a double click or Return, or a single click where the platform has it so.
-    const auto show = [this](const QModelIndex &index) {
-        showField(index.data(ProblemsModel::PathRole).toString());
-    };
-    connect(m_problemsView, &QTreeView::activated, this, show);
-    connect(m_problemsView, &QTreeView::doubleClicked, this, show);
-
+    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
+    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
     auto *dock = new QDockWidget(tr("Problems"), this);
     dock->setObjectName(QStringLiteral("problems"));
-    dock->setWidget(m_problemsView);
+    dock->setWidget(m_problemsPanel);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
 }
 
@@ -185,6 +171,13 @@ void MainWindow::addMenus() {
     }
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     edit->addActions({undo, redo});
+
+    QMenu *problems = menuBar()->addMenu(tr("&Problems"));
+    problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext, Qt::Key_F8);
+    problems->addAction(tr("&Previous Problem"), m_problemsPanel, &ProblemsPanel::showPrevious,
+                        Qt::SHIFT | Qt::Key_F8);
+    problems->addSeparator();
+    problems->addAction(tr("&Fix All Safe Problems"), m_problemsPanel, &ProblemsPanel::fixAllSafe);
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     for (int i = 0; i < m_pages.size(); ++i) {
@@ -224,7 +217,7 @@ void MainWindow::addStatus() {
         auto *dock = findChild<QDockWidget *>(QStringLiteral("problems"));
         dock->show();
         dock->raise();
-        m_problemsView->setFocus();
+        m_problemsPanel->view()->setFocus();
     });
     statusBar()->addPermanentWidget(m_problemCount);
     connect(&m_document, &Document::edited, this, &MainWindow::refreshStatus);

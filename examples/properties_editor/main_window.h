@@ -16,6 +16,7 @@ class FileActions;
 class MessageBar;
 class Page;
 class ProblemsModel;
+class ProblemsPanel;
 class TextField;
 
 /// The window of the editor.
@@ -62,7 +63,7 @@ private:
     QStackedWidget *m_stack;
     QVector<Page *> m_pages;
     ProblemsModel *m_problems;
-    QTreeView *m_problemsView = nullptr;
+    ProblemsPanel *m_problemsPanel = nullptr;
     QToolButton *m_problemCount = nullptr;
 };
 

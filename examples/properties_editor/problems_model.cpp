@@ -28,7 +28,8 @@ int ProblemsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index) || index.row() >= document().issues().size())
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        index.row() >= document().issues().size())
         return {};
     const Issue &issue = document().issues().at(index.row());
     switch (role) {

@@ -57,7 +57,7 @@ FieldPath RequirementsModel::field(const QModelIndex &index) const {
 }
 
 QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     if (role != Qt::EditRole && role != Qt::DisplayRole)
         return markData(Mark::ofIssue(document().issueAt(field(index))), role);
@@ -66,7 +66,7 @@ QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
 }
 
 bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (role != Qt::EditRole || !checkIndex(index))
+    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
         return false;
     const auto edit = setText(field(index), value.toString());
     const QString commandText =

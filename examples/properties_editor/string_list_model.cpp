@@ -22,13 +22,14 @@ int StringListModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant StringListModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index) || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return items().value(index.row());
 }
 
 bool StringListModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index) || role != Qt::EditRole || !m_source.set)
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::EditRole || !m_source.set)
         return false;
     document().pushTyped([set = m_source.set, row = index.row(), text = value.toString()](
                              bool isFinal) { return set(row, text, isFinal); });

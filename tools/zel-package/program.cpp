@@ -50,23 +50,40 @@ QString usageOf(const ProgramCommand &command) {
     return *command.usage ? usage % u' ' % translated(command.usage) : usage;
 }
 
-void printHelp(Console &console) {
+// Commands whose names begin with the same word, or all of them.
+struct CommandGroup {
+    const char *name;
+    const char *description;
+
+    QString start() const { return *name ? QLatin1String(name) % u' ' : QString(); }
+    QString program() const { return QString(programName % u' ' % QLatin1String(name)).trimmed(); }
+};
+
+constexpr std::array groups{
+    CommandGroup{"", QT_TRANSLATE_NOOP("zel-package",
+                                       "Creates, shows, checks, edits and rewrites the manifests "
+                                       "of robot application packages.")},
+    CommandGroup{"texts", QT_TRANSLATE_NOOP("zel-package",
+                                            "Exchanges the texts of packages with translators.")}};
+
+void printHelp(const CommandGroup &group, Console &console) {
     LabeledList list;
-    for (const ProgramCommand *command : programCommands())
-        list.add(QLatin1String(command->name), translated(command->summary));
-    console.print(
-        usageLines(QStringLiteral("zel-package COMMAND [ARGUMENT...]"), console) %
-        paragraph(QCoreApplication::translate("zel-package",
-                                              "Creates, shows, checks, edits and rewrites the "
-                                              "manifests of robot application packages."),
-                  console) %
-        titled(QCoreApplication::translate("zel-package", "Commands"), list, console) % u'\n');
+    for (const ProgramCommand *command : programCommands()) {
+        const QString name = QLatin1String(command->name);
+        if (name.startsWith(group.start()))
+            list.add(name.mid(group.start().size()), translated(command->summary));
+    }
+    console.print(usageLines(group.program() % QStringLiteral(" COMMAND [ARGUMENT...]"), console) %
+                  paragraph(translated(group.description), console) %
+                  titled(QCoreApplication::translate("zel-package", "Commands"), list, console) %
+                  u'\n');
     LabeledList options;
     options.add(
         QStringLiteral("-h, --help"),
         QCoreApplication::translate("zel-package", "Show this help; after a command, its help."));
-    options.add(QStringLiteral("--version"),
-                QCoreApplication::translate("zel-package", "Show the version of the program."));
+    if (!*group.name)
+        options.add(QStringLiteral("--version"),
+                    QCoreApplication::translate("zel-package", "Show the version of the program."));
     console.print(titled(QCoreApplication::translate("zel-package", "Options"), options, console));
 }
 
@@ -179,11 +196,12 @@ ExitStatus runCommand(const ProgramCommand &command, const QStringList &argument
 }
 
 // Runs the program with an option in place of a command.
-ExitStatus runOption(const QStringList &arguments, Console &console) {
+ExitStatus runOption(const CommandGroup &group, const QStringList &arguments, Console &console) {
     QCommandLineParser parser;
     const QCommandLineOption help = helpOption();
     const QCommandLineOption version(QStringLiteral("version"));
-    if (!parse(arguments, {help, version}, programName, parser, console))
+    const auto options = *group.name ? QList{help} : QList{help, version};
+    if (!parse(arguments, options, group.program(), parser, console))
         return Failure;
     const QStringList others = parser.positionalArguments();
     if (!others.isEmpty()) {
@@ -192,10 +210,48 @@ ExitStatus runOption(const QStringList &arguments, Console &console) {
         return Failure;
     }
     if (parser.isSet(help))
-        printHelp(console);
+        printHelp(group, console);
     else
         console.print(programName % u' ' % QCoreApplication::applicationVersion() % u'\n');
     return Fine;
+}
+
+void reportUnknownCommand(const CommandGroup &group, const QString &name, Console &console) {
+    const QString hint =
+        QCoreApplication::translate("zel-package", "; '%1 --help' lists the commands.")
+            .arg(group.program());
+    console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
+                     .arg(group.start() % name,
+                          suggestion(name, commandWords(QLatin1String(group.name)), hint)));
+}
+
+ExitStatus runGroup(const CommandGroup &group, const QStringList &arguments, Console &console) {
+    if (arguments.isEmpty()) {
+        console.tell(QCoreApplication::translate("zel-package",
+                                                 "Missing command; '%1 --help' lists the commands.")
+                         .arg(group.program()));
+        return Failure;
+    }
+    const QString &first = arguments.constFirst();
+    if (const ProgramCommand *command = commandNamed(group.start() % first))
+        return runCommand(*command, arguments.mid(1), console);
+    for (const CommandGroup &inner : groups) {
+        if (!*group.name && !first.isEmpty() && first == QLatin1String(inner.name))
+            return runGroup(inner, arguments.mid(1), console);
+    }
+    if (first.startsWith(u'-'))
+        return runOption(group, arguments, console);
+    reportUnknownCommand(group, first, console);
+    return Failure;
+}
+
+} // namespace
+
+QVector<const ProgramCommand *> programCommands() {
+    return {&newCommand,         &showCommand,        &getCommand,     &validateCommand,
+            &formatCommand,      &setCommand,         &publishCommand, &textsExportCommand,
+            &textsImportCommand, &textsStatusCommand, &explainCommand, &languagesCommand,
+            &robotsCommand};
 }
 
 const ProgramCommand *commandNamed(const QString &name) {
@@ -206,43 +262,26 @@ const ProgramCommand *commandNamed(const QString &name) {
     return nullptr;
 }
 
-void reportUnknownCommand(const QString &name, Console &console) {
-    QStringList names;
-    for (const ProgramCommand *command : programCommands())
-        names += QLatin1String(command->name);
-    console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
-                     .arg(name, suggestion(name, names,
-                                           QCoreApplication::translate(
-                                               "zel-package",
-                                               "; 'zel-package --help' lists the commands."))));
-}
-
-} // namespace
-
-QVector<const ProgramCommand *> programCommands() {
-    return {&newCommand, &showCommand,    &getCommand,     &validateCommand,  &formatCommand,
-            &setCommand, &publishCommand, &explainCommand, &languagesCommand, &robotsCommand};
+QStringList commandWords(const QString &group) {
+    const QString start = group.isEmpty() ? QString() : QString(group % u' ');
+    QStringList words;
+    for (const ProgramCommand *command : programCommands()) {
+        const QString name = QLatin1String(command->name);
+        if (name.startsWith(start))
+            words += name.mid(start.size()).section(u' ', 0, 0);
+    }
+    words.removeDuplicates();
+    return words;
 }
 
 ExitStatus runProgram(const QStringList &arguments, Console &console) {
-    if (arguments.isEmpty()) {
-        console.tell(QCoreApplication::translate(
-            "zel-package", "Missing command; 'zel-package --help' lists the commands."));
-        return Failure;
-    }
-    const QString &first = arguments.constFirst();
-    if (first == QLatin1String("--complete")) { // for the scripts in completions/
-        const QStringList words = completions(arguments.mid(1));
+    if (!arguments.isEmpty() && arguments.constFirst() == QLatin1String("--complete")) {
+        const QStringList words = completions(arguments.mid(1)); // for the scripts in completions/
         for (const QString &word : words)
             console.print(word % u'\n');
         return Fine;
     }
-    if (const ProgramCommand *command = commandNamed(first))
-        return runCommand(*command, arguments.mid(1), console);
-    if (first.startsWith(u'-'))
-        return runOption(arguments, console);
-    reportUnknownCommand(first, console);
-    return Failure;
+    return runGroup(groups.front(), arguments, console);
 }
 
 } // namespace ZelPackage

@@ -9,7 +9,8 @@
 
 namespace ZelPackage {
 
-/// One command of the program. The texts are translated in the context "zel-package".
+/// One command of the program. The name of a command in a group has two words: "texts export". The
+/// texts are translated in the context "zel-package".
 struct ProgramCommand {
     static constexpr int anyNumber = 1'000'000;
 
@@ -35,10 +36,20 @@ extern const ProgramCommand publishCommand;
 extern const ProgramCommand robotsCommand;
 extern const ProgramCommand setCommand;
 extern const ProgramCommand showCommand;
+extern const ProgramCommand textsExportCommand;
+extern const ProgramCommand textsImportCommand;
+extern const ProgramCommand textsStatusCommand;
 extern const ProgramCommand validateCommand;
 
 /// All commands, in the order of the help.
 QVector<const ProgramCommand *> programCommands();
+
+/// The command with a name; null for none.
+const ProgramCommand *commandNamed(const QString &name);
+
+/// The words that a name continues with after a group: "export" after "texts". Without a group, the
+/// first words of all names.
+QStringList commandWords(const QString &group = {});
 
 /// Runs the program: general options, or a command with its arguments.
 [[nodiscard]] ExitStatus runProgram(const QStringList &arguments, Console &console);

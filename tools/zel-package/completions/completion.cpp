@@ -107,16 +107,18 @@ QStringList candidates(const ProgramCommand &command, const QStringList &before,
 
 QStringList completions(const QStringList &words) {
     const QString typed = words.isEmpty() ? QString() : words.constLast();
+    const QStringList before = words.mid(0, words.size() - 1);
     QStringList result;
-    if (words.size() < 2) {
-        for (const ProgramCommand *command : programCommands())
-            result += QLatin1String(command->name);
-        result += {helpOption, QStringLiteral("--version")};
-    } else {
-        for (const ProgramCommand *command : programCommands()) {
-            if (words.constFirst() == QLatin1String(command->name))
-                result = candidates(*command, words.mid(1, words.size() - 2), typed);
-        }
+    if (before.isEmpty()) {
+        result = commandWords() + QStringList{helpOption, QStringLiteral("--version")};
+    } else if (const auto *command = commandNamed(before.constFirst())) {
+        result = candidates(*command, before.mid(1), typed);
+    } else if (before.size() == 1) {
+        result = commandWords(before.constFirst());
+        if (!result.isEmpty())
+            result += helpOption;
+    } else if (const auto *inner = commandNamed(before.at(0) % u' ' % before.at(1))) {
+        result = candidates(*inner, before.mid(2), typed);
     }
     const auto isOther = [&](const QString &word) { return !word.startsWith(typed); };
     result.erase(std::remove_if(result.begin(), result.end(), isOther), result.end());

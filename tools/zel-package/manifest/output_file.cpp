@@ -5,6 +5,9 @@
 #include "console/text_layout.h"
 #include "manifest_source.h"
 
+#include <tano/save_file.h>
+
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -84,6 +87,40 @@ QString writeToSpecialFile(const QString &file, const std::string &content) {
         return writeAll(opened, content);
     const QString text = printableExcept(QStringLiteral("\t\n"), QString::fromStdString(content));
     return writeAll(opened, text.toStdString());
+}
+
+QCommandLineOption outputOption() {
+    return {{QStringLiteral("o"), outputOptionName},
+            QCoreApplication::translate("zel-package",
+                                        "Write to this file; to standard output when none is "
+                                        "given, or '-'."),
+            QStringLiteral("OUT"),
+            QStringLiteral("-")};
+}
+
+bool checkIsOther(const QString &file, const QString &output, Console &console) {
+    if (!isSameFile(file, output))
+        return true;
+    console.tell(output, QCoreApplication::translate("zel-package",
+                                                     "The output cannot be the manifest itself."));
+    return false;
+}
+
+bool writeOutput(const QString &output, const std::string &content, Console &console) {
+    if (isStandardOutput(output)) {
+        console.printBytes(content);
+        return true;
+    }
+    if (isSpecialFile(output)) {
+        const QString trouble = writeToSpecialFile(output, content);
+        if (!trouble.isEmpty())
+            console.tell(output, trouble);
+        return trouble.isEmpty();
+    }
+    const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
+    if (!result)
+        console.tell(translatedSentence(result.error));
+    return bool(result);
 }
 
 } // namespace ZelPackage

@@ -1,10 +1,24 @@
 #pragma once
 
+#include "console/console.h"
+
+#include <QCommandLineOption>
 #include <QString>
 
 #include <string>
 
 namespace ZelPackage {
+
+inline const QLatin1String outputOptionName("output");
+
+/// The option -o, --output of commands that write a file.
+QCommandLineOption outputOption();
+
+/// Whether an output is another file than an input; reports one that is the same.
+[[nodiscard]] bool checkIsOther(const QString &file, const QString &output, Console &console);
+
+/// Writes content to an output, "-" for standard output. Reports a failure and returns false.
+[[nodiscard]] bool writeOutput(const QString &output, const std::string &content, Console &console);
 
 /// Whether an input and an output, "-" for the standard streams, are one regular file, also through
 /// links.

@@ -10,8 +10,6 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_scripts.h>
 
-#include <tano/save_file.h>
-
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,40 +17,15 @@
 namespace ZelPackage {
 namespace {
 
-const QLatin1String outputOption("output");
-
 QList<QCommandLineOption> options() {
-    return {{{QStringLiteral("o"), outputOption},
-             QCoreApplication::translate("zel-package",
-                                         "Write to this file; to standard output when none is "
-                                         "given, or '-'."),
-             QStringLiteral("OUT"),
-             QStringLiteral("-")},
-            formatOption()};
-}
-
-bool writeContent(const std::string &content, const QString &output, Console &console) {
-    if (isStandardOutput(output)) {
-        console.printBytes(content);
-        return true;
-    }
-    if (isSpecialFile(output)) {
-        const QString trouble = writeToSpecialFile(output, content);
-        if (!trouble.isEmpty())
-            console.tell(output, trouble);
-        return trouble.isEmpty();
-    }
-    const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
-    if (!result)
-        console.tell(translatedSentence(result.error));
-    return bool(result);
+    return {outputOption(), formatOption()};
 }
 
 bool writeManifest(const Tano::PackageInfo &package, const QString &file, const QString &output,
                    Console &console) {
     const std::string content = package.saveToManifestContent();
     if (!content.empty())
-        return writeContent(content, output, console);
+        return writeOutput(output, content, console);
     console.tell(file, translatedSentence(package.errorString()));
     return false;
 }
@@ -134,11 +107,8 @@ void report(const QString &file, const std::vector<MalformedScript> &scripts, Ou
 
 bool checkOutput(const QString &file, const QString &output, OutputFormat format,
                  Console &console) {
-    if (isSameFile(file, output)) {
-        console.tell(output, QCoreApplication::translate(
-                                 "zel-package", "The output cannot be the manifest itself."));
+    if (!checkIsOther(file, output, console))
         return false;
-    }
     if (format == OutputFormat::Json && isStandardOutput(output)) {
         console.tell(QCoreApplication::translate(
             "zel-package", "--format json prints to standard output and needs an --output."));
@@ -171,7 +141,7 @@ ExitStatus publish(const QString &file, const Manifest &manifest, const QString 
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
-    const QString output = arguments.value(outputOption);
+    const QString output = arguments.value(outputOptionName);
     const auto format = formatOf(arguments, console);
     if (!format || !checkOutput(file, output, *format, console))
         return Failure;

@@ -24,19 +24,11 @@ Cell markOf(bool isPresent) {
                      : Cell{QStringLiteral("✗"), Style::Caution};
 }
 
-// A dash where there is nothing to translate.
-Cell cellOf(Count count) {
-    if (count.expected == 0)
-        return {QStringLiteral("–"), Style::Faint};
-    return {QString::number(count.present) % u'/' % QString::number(count.expected),
-            count.present == count.expected ? Style::Plain : Style::Caution};
-}
-
 // The texts of a language that does not need them count only where there are some.
 Cell cellOf(Count count, bool isExpected) {
     if (isExpected)
-        return cellOf(count);
-    return count.present == 0 ? Cell{} : Cell{cellOf(count).text, Style::Faint};
+        return countCell(count);
+    return count.present == 0 ? Cell{} : Cell{countCell(count).text, Style::Faint};
 }
 
 // The part of a column that the bar ends in is drawn in eighths.
@@ -121,6 +113,13 @@ QString noteOn(const QString &sign, const QString &note, const Console &console,
 }
 
 } // namespace
+
+TextTable::Cell countCell(Count count) {
+    if (count.expected == 0)
+        return {QStringLiteral("–"), Style::Faint};
+    return {QString::number(count.present) % u'/' % QString::number(count.expected),
+            count.present == count.expected ? Style::Plain : Style::Caution};
+}
 
 QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Console &console,
                       int indent) {

@@ -4,15 +4,14 @@
 #include "copies.h"
 #include "log_category.h"
 #include "package_info_data.h"
+#include "plain_text.h"
 
 #include <tano/field_path.h>
 #include <tano/log.h>
-#include <tano/package_helper.h>
 
 #include <QHash>
 
 #include <array>
-#include <exception>
 #include <optional>
 #include <set>
 
@@ -131,20 +130,6 @@ RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
             NativeName(lang.nativeName()),
             NuanceCode(lang.nuanceCode()),
             lang.version()};
-}
-
-// The plain text of a script, or why there is none.
-struct PlainText {
-    QString text;
-    QString error;
-};
-
-PlainText plainTextOf(const QString &script) {
-    try {
-        return {fromUtf8(Tano::PackageHelper::getHumanReadableText(toUtf8(script))), {}};
-    } catch (const std::exception &exception) {
-        return {{}, QString::fromUtf8(exception.what())};
-    }
 }
 
 // Keeps the script in the variant of its language, then puts its plain text in its place.

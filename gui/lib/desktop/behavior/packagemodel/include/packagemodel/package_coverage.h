@@ -2,6 +2,7 @@
 
 #include <packagemodel/packagemodel_export.h>
 
+#include <tano/field_path.h>
 #include <zel/robot_language.h>
 
 #include <vector>
@@ -84,6 +85,16 @@ PACKAGEMODEL_EXPORT LanguageCoverage coverage(const PackageInfoModel *package,
 ///     out << each.language.uiName() << ": " << each.percent() << " %\n";
 /// ```
 PACKAGEMODEL_EXPORT std::vector<LanguageCoverage> coverages(const PackageInfoModel *package);
+
+/// The coverage of one behavior.
+struct BehaviorCoverage {
+    Tano::FieldPath path;
+    std::vector<Count> counts; ///< what it needs in each of languages(), in their order
+};
+
+/// The coverage of each behavior, in the order of the package.
+PACKAGEMODEL_EXPORT std::vector<BehaviorCoverage>
+behaviorCoverages(const PackageInfoModel *package);
 
 } // namespace PackageModel
 } // namespace Zel

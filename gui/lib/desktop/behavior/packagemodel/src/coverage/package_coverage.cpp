@@ -1,5 +1,7 @@
 #include <packagemodel/package_coverage.h>
 
+#include "../behavior_paths.h"
+
 #include <packagemodel/package_info_model.h>
 
 #include <zel/language.h>
@@ -78,40 +80,49 @@ private:
     LanguageCoverage m_expected;
 };
 
+void addBehavior(Tally &tally, const BehaviorInfoModel &behavior) {
+    tally.add(&LanguageCoverage::names, behavior.names());
+    tally.addIfUsed(&LanguageCoverage::descriptions, behavior.descriptions());
+    tally.addIfUsed(&LanguageCoverage::tags, behavior.languagesToTags());
+    tally.addIfUsed(&LanguageCoverage::triggerSentences, behavior.languagesToTriggerSentences());
+    tally.addIfUsed(&LanguageCoverage::loadingResponses, behavior.languagesToLoadingResponses());
+}
+
 std::vector<LanguageCoverage> coveragesIn(const PackageInfoModel &package,
                                           const RobotLanguages &languages) {
     Tally tally(package, languages);
     const auto behaviors = package.behaviors();
-    for (const BehaviorInfoModel *behavior : behaviors) {
-        tally.add(&LanguageCoverage::names, behavior->names());
-        tally.addIfUsed(&LanguageCoverage::descriptions, behavior->descriptions());
-        tally.addIfUsed(&LanguageCoverage::tags, behavior->languagesToTags());
-        tally.addIfUsed(&LanguageCoverage::triggerSentences,
-                        behavior->languagesToTriggerSentences());
-        tally.addIfUsed(&LanguageCoverage::loadingResponses,
-                        behavior->languagesToLoadingResponses());
-    }
+    for (const BehaviorInfoModel *behavior : behaviors)
+        addBehavior(tally, *behavior);
     const auto dialogs = package.dialogs();
     for (const DialogInfoModel *dialog : dialogs)
         tally.addIfUsed(&LanguageCoverage::topics, dialog->topics());
     return tally.rows();
 }
 
+// What the behaviors and dialogs need.
+Count entriesTotal(const LanguageCoverage &coverage) {
+    Count sum;
+    if (!coverage.isSupported && !coverage.isDescribed)
+        return sum;
+    sum.add(coverage.names);
+    sum.add(coverage.descriptions);
+    if (coverage.isSupported) {
+        sum.add(coverage.tags);
+        sum.add(coverage.triggerSentences);
+        sum.add(coverage.loadingResponses);
+        sum.add(coverage.topics);
+    }
+    return sum;
+}
+
 } // namespace
 
 Count LanguageCoverage::total() const {
-    Count sum;
-    if (!isSupported && !isDescribed)
-        return sum;
-    sum.add(hasName);
-    sum.add(hasDescription);
-    sum.add(names);
-    sum.add(descriptions);
-    if (isSupported) {
-        sum.add(tags);
-        sum.add(triggerSentences);
-        sum.add(loadingResponses);
-        sum.add(topics);
+    Count sum = entriesTotal(*this);
+    if (isSupported || isDescribed) {
+        sum.add(hasName);
+        sum.add(hasDescription);
     }
     return sum;
 }
@@ -150,6 +161,22 @@ LanguageCoverage coverage(const PackageInfoModel *package, const RobotLanguage &
 
 std::vector<LanguageCoverage> coverages(const PackageInfoModel *package) {
     return package ? coveragesIn(*package, languages(package)) : std::vector<LanguageCoverage>();
+}
+
+std::vector<BehaviorCoverage> behaviorCoverages(const PackageInfoModel *package) {
+    std::vector<BehaviorCoverage> all;
+    const RobotLanguages columns = languages(package);
+    const auto append = [&](const Tano::FieldPath &path, const BehaviorInfoModel &behavior) {
+        Tally tally(*package, columns);
+        addBehavior(tally, behavior);
+        BehaviorCoverage coverage{path, {}};
+        for (const LanguageCoverage &each : tally.rows())
+            coverage.counts.push_back(entriesTotal(each));
+        all.push_back(coverage);
+    };
+    if (package)
+        visitBehaviors(*package, append);
+    return all;
 }
 
 } // namespace Zel::PackageModel

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 namespace Zel::PackageModel {
@@ -37,6 +38,23 @@ QString inWords(const char *source) {
 
 QString misfit() {
     return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+}
+
+QString refusalOfText(const QString &text) {
+    if (!text.isValidUtf16())
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel",
+                                         "The text holds half of a surrogate pair, which a "
+                                         "manifest cannot hold."));
+    const auto isControl = [](QChar c) {
+        return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c == QChar(0xFFFE) ||
+               c == QChar(0xFFFF);
+    };
+    const auto found = std::find_if(text.begin(), text.end(), isControl);
+    if (found == text.end())
+        return {};
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The text holds the character U+%1, "
+                                                          "which a manifest cannot hold."))
+        .arg(QString::number(found->unicode(), 16).toUpper().rightJustified(4, u'0'));
 }
 
 QString entryName(const Selectors &selectors) {

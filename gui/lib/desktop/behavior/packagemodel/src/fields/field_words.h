@@ -22,6 +22,8 @@ using OfOwner = std::function<QString(const QString &label)>;
 QString inWords(const char *source);
 /// For a value that is not of the field's kind.
 QString misfit();
+/// Why a manifest cannot hold a text; empty if it can.
+QString refusalOfText(const QString &text);
 
 /// The name of an entry by its selectors: "greet", or "greet (2)" for the second one with that key.
 QString entryName(const Selectors &selectors);

@@ -14,24 +14,6 @@ Applied refused(const Edit &edit, const QString &reason) {
                 .arg(fromUtf8(edit.path.toString()), reason)};
 }
 
-// Why a manifest cannot hold a text; empty if it can.
-QString refusalOfText(const QString &text) {
-    if (!text.isValidUtf16())
-        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                         "The text holds half of a surrogate pair, which a "
-                                         "manifest cannot hold."));
-    const auto isControl = [](QChar c) {
-        return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c == QChar(0xFFFE) ||
-               c == QChar(0xFFFF);
-    };
-    const auto found = std::find_if(text.begin(), text.end(), isControl);
-    if (found == text.end())
-        return {};
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The text holds the character U+%1, "
-                                                          "which a manifest cannot hold."))
-        .arg(QString::number(found->unicode(), 16).toUpper().rightJustified(4, u'0'));
-}
-
 QString refusalOfValue(const FieldValue &value) {
     const auto *text = std::get_if<QString>(&value);
     return text ? refusalOfText(*text) : QString();

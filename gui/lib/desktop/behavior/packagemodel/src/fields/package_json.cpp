@@ -8,7 +8,8 @@ namespace Zel::PackageModel {
 namespace {
 
 QByteArray indented(QByteArray json, int depth) {
-    return json.trimmed().replace("\n", QByteArray("\n") + QByteArray(4 * depth, ' '));
+    const QByteArray lineBreak = '\n' + QByteArray(4 * depth, ' ');
+    return json.trimmed().replace("\n", lineBreak);
 }
 
 // A value is written as the only item of an array, as JSON documents are arrays or objects.

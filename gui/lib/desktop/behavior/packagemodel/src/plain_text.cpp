@@ -1,0 +1,19 @@
+#include "plain_text.h"
+
+#include <packagemodel/text_conversion.h>
+
+#include <tano/package_helper.h>
+
+#include <exception>
+
+namespace Zel {
+
+PlainText plainTextOf(const QString &script) {
+    try {
+        return {fromUtf8(Tano::PackageHelper::getHumanReadableText(toUtf8(script))), {}};
+    } catch (const std::exception &exception) {
+        return {{}, QString::fromUtf8(exception.what())};
+    }
+}
+
+} // namespace Zel

@@ -1,0 +1,171 @@
+#include "program_command.h"
+
+#include "arguments/native_text.h"
+#include "console/library_text.h"
+#include "console/text_diff.h"
+#include "manifest/manifest_source.h"
+#include "set/patch_names.h"
+
+#include <packagemodel/record_editor.h>
+#include <packagemodel/text_conversion.h>
+#include <packagemodel/text_exchange.h>
+
+#include <tano/save_file.h>
+
+#include <algorithm>
+
+namespace ZelPackage {
+namespace {
+
+using Zel::PackageModel::TextImport;
+using Zel::PackageModel::TextOutcome;
+using Zel::PackageModel::TextUnit;
+
+const QLatin1String dryRunOption("dry-run");
+const QLatin1String forceOption("force");
+
+QList<QCommandLineOption> options() {
+    return {{dryRunOption, QCoreApplication::translate(
+                               "zel-package", "Write nothing; print what would change, as a "
+                                              "unified diff.")},
+            {forceOption, QCoreApplication::translate(
+                              "zel-package", "Import also where the source text has changed since "
+                                             "the export.")}};
+}
+
+// The units of all files, in their order.
+struct Units {
+    QVector<TextUnit> units;
+    QStringList files; // of each unit
+};
+
+bool readUnits(const QString &file, Units &all, Console &console) {
+    QString trouble;
+    const auto content = readContent(file, trouble);
+    if (!content) {
+        console.tell(file, trouble);
+        return false;
+    }
+    const auto parsed = Zel::PackageModel::parseXliff(QByteArray::fromStdString(*content));
+    if (!parsed.error.isEmpty()) {
+        console.tell(file, {std::size_t(parsed.line), std::size_t(parsed.column)}, parsed.error);
+        return false;
+    }
+    all.units += parsed.units;
+    while (all.files.size() < all.units.size())
+        all.files += file;
+    return true;
+}
+
+bool checkStreams(const QStringList &files, Console &console) {
+    if (std::count_if(files.begin(), files.end(), isStandardStream) <= 1)
+        return true;
+    console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+    return false;
+}
+
+int countOf(const TextImport &import, TextOutcome outcome) {
+    return int(std::count_if(import.units.begin(), import.units.end(),
+                             [&](const auto &unit) { return unit.outcome == outcome; }));
+}
+
+// Returns whether every text could be imported.
+bool report(const QString &manifest, const TextImport &import, const Units &given,
+            Console &console) {
+    bool isFine = true;
+    for (int i = 0; i < import.units.size(); ++i) {
+        const QString &reason = import.units.at(i).reason;
+        if (reason.isEmpty())
+            continue;
+        isFine = false;
+        const TextUnit &unit = given.units.at(i);
+        console.tell(given.files.at(i), {std::size_t(unit.line), std::size_t(unit.column)},
+                     Zel::fromUtf8(unit.path.toString()) % QStringLiteral(": ") % reason);
+    }
+    const int imported = import.error.isEmpty() ? countOf(import, TextOutcome::Imported) : 0;
+    console.tell(manifest, QCoreApplication::translate(
+                               "zel-package", "Texts: %1 imported, %2 unchanged, %3 untranslated, "
+                                              "%4 skipped.")
+                               .arg(imported)
+                               .arg(countOf(import, TextOutcome::Unchanged))
+                               .arg(countOf(import, TextOutcome::Untranslated))
+                               .arg(import.units.size() - countOf(import, TextOutcome::Unchanged) -
+                                    countOf(import, TextOutcome::Untranslated) - imported));
+    return isFine;
+}
+
+bool save(const QString &file, const Manifest &manifest, const std::string &content,
+          Console &console) {
+    if (isStandardStream(file)) {
+        console.printBytes(content);
+        return true;
+    }
+    if (content == manifest.content)
+        return true;
+    const Tano::SaveResult result = Tano::saveFile(
+        {nativeBytes(file), content, Tano::FileFingerprint::ofContent(manifest.content)});
+    if (!result)
+        console.tell(translatedSentence(result.error));
+    return bool(result);
+}
+
+ExitStatus importUnits(const QString &file, const Manifest &manifest, const Units &given,
+                       const QCommandLineParser &arguments, Console &console) {
+    Zel::RecordEditor editor(manifest.package);
+    const TextImport import =
+        importTexts(editor, given.units, {arguments.isSet(forceOption), false});
+    const ExitStatus status = report(file, import, given, console) ? Fine : Findings;
+    if (!import.error.isEmpty()) {
+        if (status == Fine)
+            console.tell(file, import.error);
+        return Findings;
+    }
+    const Tano::PackageInfo record = editor.record();
+    const std::string content =
+        import.edits.isEmpty() ? manifest.content : record.saveToManifestContent();
+    if (content.empty()) {
+        console.tell(file, translatedSentence(record.errorString()));
+        return Failure;
+    }
+    if (arguments.isSet(dryRunOption)) {
+        console.print(
+            unifiedDiff(patchNames({file}).constFirst(), manifest.content, content, console));
+        return status;
+    }
+    return save(file, manifest, content, console) ? status : Failure;
+}
+
+ExitStatus run(const QCommandLineParser &arguments, Console &console) {
+    QStringList files = arguments.positionalArguments();
+    if (!checkStreams(files, console))
+        return Failure;
+    const QString file = files.takeFirst();
+    const auto manifest = readManifest(file, console);
+    bool isFine = manifest.has_value();
+    Units given;
+    for (const QString &xliff : files)
+        isFine = readUnits(xliff, given, console) && isFine;
+    return isFine ? importUnits(file, *manifest, given, arguments, console) : Failure;
+}
+
+} // namespace
+
+const ProgramCommand textsImportCommand{
+    "texts import",
+    QT_TRANSLATE_NOOP("zel-package", "Take texts from translators"),
+    QT_TRANSLATE_NOOP("zel-package", "FILE XLIFF... [--dry-run] [--force]"),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Puts the translations in XLIFF files, which 'texts export' has written, into the "
+        "manifest in FILE. Lists grow to the translator's length, and a new language becomes a "
+        "description language. Texts whose behavior is gone or whose source has changed are "
+        "reported and skipped. If a text is a malformed speech script, nothing is imported. The "
+        "exit status is 1 if a text is skipped. '-' takes standard input; as FILE, it writes to "
+        "standard output."),
+    2,
+    ProgramCommand::anyNumber,
+    options,
+    run,
+};
+
+} // namespace ZelPackage
