@@ -977,79 +977,79 @@
     </message>
     <message>
         <source>The baseline is not valid JSON: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La référence n&apos;est pas du JSON valide : %1.</translation>
     </message>
     <message>
         <source>The file is not a baseline of format 1, which --write-baseline writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n&apos;est pas une référence au format 1, telle que --write-baseline l&apos;écrit.</translation>
     </message>
     <message>
         <source>There is no setting &apos;%1&apos;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de réglage &apos;%1&apos;%2</translation>
     </message>
     <message>
         <source>; it is one of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation> ; c&apos;est l&apos;un de %1.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a list of tables, [[%1]].</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; doit être une liste de tables, [[%1]].</translation>
     </message>
     <message>
         <source>The override has no &apos;path&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;exception n&apos;a pas de &apos;path&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; doit être une table.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be &quot;%2&quot;%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ne peut pas être &quot;%2&quot;%3</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a text in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; doit être un texte entre guillemets.</translation>
     </message>
     <message>
         <source>The configuration is not valid TOML: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuration n&apos;est pas du TOML valide : %1.</translation>
     </message>
     <message>
         <source>There is no manifest.xml in the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de manifest.xml dans le dossier.</translation>
     </message>
     <message>
         <source>The baseline lists &apos;%1&apos; here, which is not found any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La référence mentionne ici &apos;%1&apos;, qui n&apos;est plus constaté.</translation>
     </message>
     <message>
         <source>A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une référence énumère les constats connus, qui ne sont pas signalés. Une entrée dont le constat a disparu cacherait ce constat s&apos;il revenait.</translation>
     </message>
     <message>
         <source>Write the baseline again with --write-baseline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réécrivez la référence avec --write-baseline.</translation>
     </message>
     <message>
         <source>The comment ignores &apos;%1&apos;, which is not found here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le commentaire ignore &apos;%1&apos;, qui n&apos;est pas constaté ici.</translation>
     </message>
     <message>
         <source>A comment &apos;zel-package: ignore&apos; applies to the element that follows it. Where its rules find nothing, it would hide findings that come later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un commentaire &apos;zel-package: ignore&apos; porte sur l&apos;élément qui le suit. Si ses règles n&apos;y constatent rien, il cacherait des constats ultérieurs.</translation>
     </message>
     <message>
         <source>Remove the rule from the comment, or the comment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirez la règle du commentaire, ou le commentaire.</translation>
     </message>
     <message>
         <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so that it has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un commentaire &apos;zel-package: ignore&apos; nomme une règle qui n&apos;existe pas et reste donc sans effet.</translation>
     </message>
     <message>
         <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrivez l&apos;identifiant d&apos;une règle ; &apos;zel-package explain&apos; les affiche.</translation>
     </message>
     <message>
         <source>The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
@@ -1057,91 +1057,91 @@
     </message>
     <message>
         <source>Correct the file at the line and column that are given, then check it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigez le fichier à la ligne et à la colonne indiquées, puis vérifiez-le de nouveau.</translation>
     </message>
     <message>
         <source>, to be fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, à corriger : %1</translation>
     </message>
     <message>
         <source>, fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, corrigés : %1</translation>
     </message>
     <message>
         <source>Check manifests, and fix them</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier des manifestes et les corriger</translation>
     </message>
     <message>
         <source>FILE|FOLDER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FILE] [--baseline FILE] [--write-baseline FILE] [--stdin-name NAME] [--quiet] [--color auto|always|never] [--explain]</source>
-        <translation type="unfinished"></translation>
+        <translation>FICHIER|DOSSIER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FICHIER] [--baseline FICHIER] [--write-baseline FICHIER] [--stdin-name NOM] [--quiet] [--color auto|always|never] [--explain]</translation>
     </message>
     <message>
         <source>Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field has the place of the element that should hold it. A FOLDER means every manifest.xml in it and below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les constats de chaque manifeste par ligne, sous la forme FICHIER:LIGNE:COLONNE: error: texte [id] ; un champ absent a la place de l&apos;élément qui devrait le contenir. Un DOSSIER désigne chaque manifest.xml qu&apos;il contient, sous-dossiers compris. &apos;zel-package explain ID&apos; explique une règle. &apos;-&apos; lit l&apos;entrée standard ; avec --fix, le manifeste va sur la sortie standard et les constats sur la sortie d&apos;erreur.</translation>
     </message>
     <message>
         <source>&apos;--%1&apos; cannot be &apos;%2&apos;%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;--%1&apos; ne peut pas être &apos;%2&apos;%3</translation>
     </message>
     <message>
         <source>The form of the output: text (the default), json, sarif or github.</source>
-        <translation type="unfinished"></translation>
+        <translation>La forme de la sortie : text (par défaut), json, sarif ou github.</translation>
     </message>
     <message>
         <source>The least severity that makes the exit status 1: error (the default), warning or note.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus faible gravité qui donne le code de retour 1 : error (par défaut), warning ou note.</translation>
     </message>
     <message>
         <source>Leave out the findings of these rules; IDs are joined by commas, and the option may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omettre les constats de ces règles ; les ID sont séparés par des virgules, et l&apos;option peut être donnée plusieurs fois.</translation>
     </message>
     <message>
         <source>Make the safe fixes, and report the findings that remain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire les corrections sûres et signaler les constats restants.</translation>
     </message>
     <message>
         <source>Also make the fixes that may change the meaning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire aussi les corrections qui peuvent changer le sens.</translation>
     </message>
     <message>
         <source>Write nothing; print the fixes as a unified diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien écrire ; afficher les corrections sous forme de diff unifié.</translation>
     </message>
     <message>
         <source>Use this configuration instead of the nearest .zel-package.toml.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser cette configuration au lieu du .zel-package.toml le plus proche.</translation>
     </message>
     <message>
         <source>Leave out the findings that this file lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omettre les constats que ce fichier énumère.</translation>
     </message>
     <message>
         <source>Write the findings to this file instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire plutôt les constats dans ce fichier.</translation>
     </message>
     <message>
         <source>The name of the manifest from standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du manifeste lu sur l&apos;entrée standard.</translation>
     </message>
     <message>
         <source>Print only findings that make the exit status 1, and no summary.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;afficher que les constats qui donnent le code de retour 1, et aucun résumé.</translation>
     </message>
     <message>
         <source>Whether to use color: auto (the default, on a terminal), always or never.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la couleur : auto (par défaut, dans un terminal), always ou never.</translation>
     </message>
     <message>
         <source>Explain, at the end, each rule with findings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliquer, à la fin, chaque règle qui a des constats.</translation>
     </message>
     <message>
         <source>&apos;--%1&apos; needs &apos;-&apos;, standard input, as a FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;--%1&apos; exige &apos;-&apos;, l&apos;entrée standard, comme FICHIER.</translation>
     </message>
     <message>
         <source>Known findings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Constats connus : %1</translation>
     </message>
     <message>
         <source>%1 added</source>

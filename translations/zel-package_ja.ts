@@ -977,79 +977,79 @@
     </message>
     <message>
         <source>The baseline is not valid JSON: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>基準ファイルは有効な JSON ではありません: %1。</translation>
     </message>
     <message>
         <source>The file is not a baseline of format 1, which --write-baseline writes.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルは、--write-baseline が書き出す形式 1 の基準ファイルではありません。</translation>
     </message>
     <message>
         <source>There is no setting &apos;%1&apos;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>設定 &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
         <source>; it is one of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>。次のいずれかです: %1。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a list of tables, [[%1]].</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; はテーブルのリスト [[%1]] でなければなりません。</translation>
     </message>
     <message>
         <source>The override has no &apos;path&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>この override には &apos;path&apos; がありません。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; はテーブルでなければなりません。</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be &quot;%2&quot;%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; を &quot;%2&quot; にすることはできません%3</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has to be a text in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; は引用符で囲んだ文字列でなければなりません。</translation>
     </message>
     <message>
         <source>The configuration is not valid TOML: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイルは有効な TOML ではありません: %1。</translation>
     </message>
     <message>
         <source>There is no manifest.xml in the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォルダーに manifest.xml はありません。</translation>
     </message>
     <message>
         <source>The baseline lists &apos;%1&apos; here, which is not found any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>基準ファイルはここに &apos;%1&apos; を挙げていますが、もう検出されません。</translation>
     </message>
     <message>
         <source>A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back.</source>
-        <translation type="unfinished"></translation>
+        <translation>基準ファイルは既知の検出結果を挙げ、それらは報告されません。検出結果がなくなった項目は、同じ問題が再び現れたときにそれを隠してしまいます。</translation>
     </message>
     <message>
         <source>Write the baseline again with --write-baseline.</source>
-        <translation type="unfinished"></translation>
+        <translation>--write-baseline で基準ファイルを書き直してください。</translation>
     </message>
     <message>
         <source>The comment ignores &apos;%1&apos;, which is not found here.</source>
-        <translation type="unfinished"></translation>
+        <translation>コメントは &apos;%1&apos; を無視しますが、ここでは検出されません。</translation>
     </message>
     <message>
         <source>A comment &apos;zel-package: ignore&apos; applies to the element that follows it. Where its rules find nothing, it would hide findings that come later.</source>
-        <translation type="unfinished"></translation>
+        <translation>コメント &apos;zel-package: ignore&apos; は、それに続く要素に適用されます。その規則が何も検出しない場合、後で生じる問題を隠してしまいます。</translation>
     </message>
     <message>
         <source>Remove the rule from the comment, or the comment.</source>
-        <translation type="unfinished"></translation>
+        <translation>コメントからその規則を取り除くか、コメントを削除してください。</translation>
     </message>
     <message>
         <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so that it has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>コメント &apos;zel-package: ignore&apos; が存在しない規則を挙げているため、効果がありません。</translation>
     </message>
     <message>
         <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>規則の ID を書いてください。&apos;zel-package explain&apos; で一覧できます。</translation>
     </message>
     <message>
         <source>The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
@@ -1057,91 +1057,91 @@
     </message>
     <message>
         <source>Correct the file at the line and column that are given, then check it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>示された行と列でファイルを修正し、もう一度検査してください。</translation>
     </message>
     <message>
         <source>, to be fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>、修正予定: %1</translation>
     </message>
     <message>
         <source>, fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>、修正済み: %1</translation>
     </message>
     <message>
         <source>Check manifests, and fix them</source>
-        <translation type="unfinished"></translation>
+        <translation>マニフェストを検査し、修正する</translation>
     </message>
     <message>
         <source>FILE|FOLDER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FILE] [--baseline FILE] [--write-baseline FILE] [--stdin-name NAME] [--quiet] [--color auto|always|never] [--explain]</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE|FOLDER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FILE] [--baseline FILE] [--write-baseline FILE] [--stdin-name NAME] [--quiet] [--color auto|always|never] [--explain]</translation>
     </message>
     <message>
         <source>Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field has the place of the element that should hold it. A FOLDER means every manifest.xml in it and below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>各マニフェストの検出結果を行順に FILE:LINE:COLUMN: error: 本文 [id] の形で表示します。欠けているフィールドの位置は、それを含むべき要素の位置です。FOLDER は、その中とその下にあるすべての manifest.xml を意味します。&apos;zel-package explain ID&apos; が規則を説明します。&apos;-&apos; は標準入力を読み、--fix を付けるとマニフェストは標準出力へ、検出結果は標準エラーへ出力されます。</translation>
     </message>
     <message>
         <source>&apos;--%1&apos; cannot be &apos;%2&apos;%3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;--%1&apos; を &apos;%2&apos; にすることはできません%3</translation>
     </message>
     <message>
         <source>The form of the output: text (the default), json, sarif or github.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力の形式: text (既定)、json、sarif または github。</translation>
     </message>
     <message>
         <source>The least severity that makes the exit status 1: error (the default), warning or note.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了ステータスを 1 にする最低の重大度: error (既定)、warning または note。</translation>
     </message>
     <message>
         <source>Leave out the findings of these rules; IDs are joined by commas, and the option may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの規則の検出結果を省きます。ID はコンマで区切り、このオプションは複数回指定できます。</translation>
     </message>
     <message>
         <source>Make the safe fixes, and report the findings that remain.</source>
-        <translation type="unfinished"></translation>
+        <translation>安全な修正を行い、残った検出結果を報告します。</translation>
     </message>
     <message>
         <source>Also make the fixes that may change the meaning.</source>
-        <translation type="unfinished"></translation>
+        <translation>意味を変えうる修正も行います。</translation>
     </message>
     <message>
         <source>Write nothing; print the fixes as a unified diff.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も書き込まず、修正を unified diff として表示します。</translation>
     </message>
     <message>
         <source>Use this configuration instead of the nearest .zel-package.toml.</source>
-        <translation type="unfinished"></translation>
+        <translation>最も近い .zel-package.toml の代わりに、この設定ファイルを使います。</translation>
     </message>
     <message>
         <source>Leave out the findings that this file lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルが挙げる検出結果を省きます。</translation>
     </message>
     <message>
         <source>Write the findings to this file instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>検出結果を報告せず、このファイルに書き出します。</translation>
     </message>
     <message>
         <source>The name of the manifest from standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力から読むマニフェストの名前。</translation>
     </message>
     <message>
         <source>Print only findings that make the exit status 1, and no summary.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了ステータスを 1 にする検出結果だけを表示し、要約は表示しません。</translation>
     </message>
     <message>
         <source>Whether to use color: auto (the default, on a terminal), always or never.</source>
-        <translation type="unfinished"></translation>
+        <translation>色を使うかどうか: auto (既定、端末で)、always または never。</translation>
     </message>
     <message>
         <source>Explain, at the end, each rule with findings.</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に、検出結果のある各規則を説明します。</translation>
     </message>
     <message>
         <source>&apos;--%1&apos; needs &apos;-&apos;, standard input, as a FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;--%1&apos; には、FILE として標準入力の &apos;-&apos; が必要です。</translation>
     </message>
     <message>
         <source>Known findings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>既知の検出結果: %1</translation>
     </message>
     <message>
         <source>%1 added</source>

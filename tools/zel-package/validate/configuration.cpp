@@ -114,11 +114,14 @@ private:
         RuleSeverities severities;
         for (const auto &[ruleKey, severity] : *table) {
             const QString rule = textOf(ruleKey.str());
-            if (m_rules.contains(rule))
-                severities[rule] =
-                    severityIn(rule, severity, severityWords() << QStringLiteral("off"));
-            else
+            const std::size_t errors = m_errors.size();
+            if (!m_rules.contains(rule)) {
                 add(ruleKey.source(), unknownRule(rule, m_rules));
+                continue;
+            }
+            const auto given = severityIn(rule, severity, severityWords() << QStringLiteral("off"));
+            if (m_errors.size() == errors)
+                severities[rule] = given;
         }
         return severities;
     }

@@ -20,7 +20,7 @@ FixedManifest fixedManifest(const Tano::PackageInfo &record, Zel::PackageModel::
         return {{}, {}, applied.error};
     const Tano::PackageInfo fixed = editor.record();
     const std::string content = fixed.saveToManifestContent();
-    return {content, fixed, translatedSentence(fixed.errorString())};
+    return {content, fixed, content.empty() ? translatedSentence(fixed.errorString()) : QString()};
 }
 
 } // namespace ZelPackage

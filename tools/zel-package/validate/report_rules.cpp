@@ -59,7 +59,7 @@ const std::array ownRules{
      QT_TRANSLATE_NOOP("zel-package", "Write the id of a rule; 'zel-package explain' lists them.")},
     OwnRule{malformedRuleId, Severity::Error,
      QT_TRANSLATE_NOOP("zel-package", "The manifest is malformed."),
-     QT_TRANSLATE_NOOP("zel-package", "The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2."),
+     QT_TRANSLATE_NOOP("zel-package", "The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2."),
      QT_TRANSLATE_NOOP("zel-package", "Correct the file at the line and column that are given, then check it again.")},
 };
 // clang-format on
