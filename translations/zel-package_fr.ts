@@ -467,10 +467,6 @@
         <translation>Il n&apos;y a pas de commande &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation> ; &apos;zel-package --help&apos; énumère les commandes.</translation>
-    </message>
-    <message>
         <source>The manifest is malformed.</source>
         <translation>Le manifeste est mal formé.</translation>
     </message>
@@ -884,10 +880,6 @@
         <translation>Argument inattendu &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>Missing command; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>Il manque une commande ; &apos;zel-package --help&apos; affiche les commandes.</translation>
-    </message>
-    <message>
         <source>The value cannot be empty.</source>
         <translation>La valeur ne peut pas être vide.</translation>
     </message>
@@ -958,6 +950,82 @@
     <message>
         <source>The version of a package has three fields, so it becomes %1.</source>
         <translation>La version d&apos;un paquet a trois nombres, elle devient donc %1.</translation>
+    </message>
+    <message>
+        <source>Exchanges the texts of packages with translators.</source>
+        <translation>Échange les textes des paquets avec les traducteurs.</translation>
+    </message>
+    <message>
+        <source>; &apos;%1 --help&apos; lists the commands.</source>
+        <translation> ; &apos;%1 --help&apos; énumère les commandes.</translation>
+    </message>
+    <message>
+        <source>Missing command; &apos;%1 --help&apos; lists the commands.</source>
+        <translation>Il manque une commande ; &apos;%1 --help&apos; affiche les commandes.</translation>
+    </message>
+    <message>
+        <source>The language to translate into.</source>
+        <translation>La langue vers laquelle traduire.</translation>
+    </message>
+    <message>
+        <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
+        <translation>La langue à partir de laquelle traduire ; par défaut %1 ou, si le paquet ne fonctionne pas dans cette langue, sa première langue.</translation>
+    </message>
+    <message>
+        <source>Write only the texts that are not translated.</source>
+        <translation>N&apos;écrire que les textes qui ne sont pas traduits.</translation>
+    </message>
+    <message>
+        <source>Missing option --language CODE.</source>
+        <translation>Il manque l&apos;option --language CODE.</translation>
+    </message>
+    <message>
+        <source>Write texts for translators</source>
+        <translation>Écrire des textes pour les traducteurs</translation>
+    </message>
+    <message>
+        <source>FILE --language CODE [--source CODE] [--missing] [-o OUT]</source>
+        <translation>FICHIER --language CODE [--source CODE] [--missing] [-o SORTIE]</translation>
+    </message>
+    <message>
+        <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
+        <translation>Écrit les textes d&apos;un manifeste en XLIFF 1.2, que lisent les outils de traduction : noms, descriptions, étiquettes, phrases de déclenchement et réponses de chargement. &apos;texts import&apos; les relit. &apos;-&apos; lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>Import also where the source text has changed since the export.</source>
+        <translation>Importer aussi là où le texte source a changé depuis l&apos;exportation.</translation>
+    </message>
+    <message>
+        <source>Texts: %1 imported, %2 unchanged, %3 untranslated, %4 skipped.</source>
+        <translation>Textes : importés %1, inchangés %2, non traduits %3, ignorés %4.</translation>
+    </message>
+    <message>
+        <source>Take texts from translators</source>
+        <translation>Reprendre les textes des traducteurs</translation>
+    </message>
+    <message>
+        <source>FILE XLIFF... [--dry-run] [--force]</source>
+        <translation>FICHIER XLIFF... [--dry-run] [--force]</translation>
+    </message>
+    <message>
+        <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
+        <translation>Met dans le manifeste FICHIER les traductions des fichiers XLIFF que &apos;texts export&apos; a écrits. Les listes s&apos;allongent selon le traducteur, et une nouvelle langue devient une langue de description. Les textes dont le comportement a disparu ou dont la source a changé sont signalés et ignorés. Si un texte est un script vocal mal formé, rien n&apos;est importé. Le code de sortie est 1 si un texte est ignoré. &apos;-&apos; lit l&apos;entrée standard ; comme FICHIER, il écrit sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>behavior</source>
+        <translation>comportement</translation>
+    </message>
+    <message>
+        <source>Show how far packages are translated</source>
+        <translation>Montrer l&apos;avancement de la traduction</translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json]</source>
+        <translation>FICHIER... [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
+        <translation>Compte, par langue et par comportement, les textes traduits parmi ceux qui sont nécessaires. Une liste compte une fois. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
 </context>
 </TS>

@@ -467,10 +467,6 @@
         <translation>コマンド &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>。コマンドの一覧は &apos;zel-package --help&apos; で表示できます。</translation>
-    </message>
-    <message>
         <source>The manifest is malformed.</source>
         <translation>マニフェストの形式が正しくありません。</translation>
     </message>
@@ -884,10 +880,6 @@
         <translation>余分な引数 &apos;%1&apos; があります。</translation>
     </message>
     <message>
-        <source>Missing command; &apos;zel-package --help&apos; lists the commands.</source>
-        <translation>コマンドがありません。&apos;zel-package --help&apos; でコマンドを確認できます。</translation>
-    </message>
-    <message>
         <source>The value cannot be empty.</source>
         <translation>値を空にはできません。</translation>
     </message>
@@ -958,6 +950,82 @@
     <message>
         <source>The version of a package has three fields, so it becomes %1.</source>
         <translation>パッケージのバージョンは三つの数字なので、%1 になります。</translation>
+    </message>
+    <message>
+        <source>Exchanges the texts of packages with translators.</source>
+        <translation>パッケージのテキストを翻訳者とやり取りします。</translation>
+    </message>
+    <message>
+        <source>; &apos;%1 --help&apos; lists the commands.</source>
+        <translation>。コマンドの一覧は &apos;%1 --help&apos; で表示できます。</translation>
+    </message>
+    <message>
+        <source>Missing command; &apos;%1 --help&apos; lists the commands.</source>
+        <translation>コマンドがありません。&apos;%1 --help&apos; でコマンドを確認できます。</translation>
+    </message>
+    <message>
+        <source>The language to translate into.</source>
+        <translation>翻訳先の言語。</translation>
+    </message>
+    <message>
+        <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
+        <translation>翻訳元の言語。省略すると %1、パッケージがその言語で動作しなければ最初の言語。</translation>
+    </message>
+    <message>
+        <source>Write only the texts that are not translated.</source>
+        <translation>翻訳されていないテキストだけを書き出します。</translation>
+    </message>
+    <message>
+        <source>Missing option --language CODE.</source>
+        <translation>オプション --language CODE がありません。</translation>
+    </message>
+    <message>
+        <source>Write texts for translators</source>
+        <translation>翻訳者のためにテキストを書き出す</translation>
+    </message>
+    <message>
+        <source>FILE --language CODE [--source CODE] [--missing] [-o OUT]</source>
+        <translation>FILE --language CODE [--source CODE] [--missing] [-o OUT]</translation>
+    </message>
+    <message>
+        <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
+        <translation>マニフェストのテキスト(名前、説明、タグ、トリガー文、読み込み中の応答)を、翻訳ツールが読める XLIFF 1.2 として書き出します。&apos;texts import&apos; で読み戻します。&apos;-&apos; は標準入力を読みます。</translation>
+    </message>
+    <message>
+        <source>Import also where the source text has changed since the export.</source>
+        <translation>書き出しのあとで原文が変わったテキストも取り込みます。</translation>
+    </message>
+    <message>
+        <source>Texts: %1 imported, %2 unchanged, %3 untranslated, %4 skipped.</source>
+        <translation>テキスト: 取り込み %1、変更なし %2、未翻訳 %3、スキップ %4。</translation>
+    </message>
+    <message>
+        <source>Take texts from translators</source>
+        <translation>翻訳者からのテキストを取り込む</translation>
+    </message>
+    <message>
+        <source>FILE XLIFF... [--dry-run] [--force]</source>
+        <translation>FILE XLIFF... [--dry-run] [--force]</translation>
+    </message>
+    <message>
+        <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
+        <translation>&apos;texts export&apos; が書き出した XLIFF ファイルの翻訳を、FILE のマニフェストに取り込みます。リストは翻訳者の長さまで伸び、新しい言語は説明の言語になります。ビヘイビアがなくなったテキストと原文が変わったテキストは、報告してスキップします。テキストが正しくない音声スクリプトであれば、何も取り込みません。スキップしたテキストがあると終了ステータスは 1 です。&apos;-&apos; は標準入力を読みます。FILE であれば標準出力に書きます。</translation>
+    </message>
+    <message>
+        <source>behavior</source>
+        <translation>ビヘイビア</translation>
+    </message>
+    <message>
+        <source>Show how far packages are translated</source>
+        <translation>翻訳の進み具合を表示する</translation>
+    </message>
+    <message>
+        <source>FILE... [--format text|json]</source>
+        <translation>FILE... [--format text|json]</translation>
+    </message>
+    <message>
+        <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
+        <translation>必要なテキストのうち翻訳されたものを、言語別とビヘイビア別に数えます。リストは 1 つと数えます。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
 </context>
 </TS>
