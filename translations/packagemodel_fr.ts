@@ -953,91 +953,91 @@
     </message>
     <message>
         <source>A later unit has another text for this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une unité ultérieure a un autre texte pour ce champ.</translation>
     </message>
     <message>
         <source>The package no longer has this behavior.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le paquet n&apos;a plus ce comportement.</translation>
     </message>
     <message>
         <source>The source text has changed since the export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte source a changé depuis l&apos;exportation.</translation>
     </message>
     <message>
         <source>An item before this one has no text yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un élément qui précède celui-ci n&apos;a pas encore de texte.</translation>
     </message>
     <message>
         <source>Malformed speech script: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Script vocal mal formé : %1</translation>
     </message>
     <message>
         <source>More than %1 elements are nested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus de %1 éléments sont imbriqués.</translation>
     </message>
     <message>
         <source>The element &lt;%1&gt; has more than %2 attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;élément &lt;%1&gt; a plus de %2 attributs.</translation>
     </message>
     <message>
         <source>A document type declaration is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une déclaration de type de document n&apos;est pas admise.</translation>
     </message>
     <message>
         <source>Text is not allowed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du texte n&apos;est pas admis ici.</translation>
     </message>
     <message>
         <source>The element &lt;%1&gt; is not allowed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;élément &lt;%1&gt; n&apos;est pas admis ici.</translation>
     </message>
     <message>
         <source>The root element is &lt;%1&gt; instead of &lt;xliff&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;élément racine est &lt;%1&gt; au lieu de &lt;xliff&gt;.</translation>
     </message>
     <message>
         <source>This is XLIFF &quot;%1&quot; in the namespace &quot;%2&quot; rather than XLIFF 1.2.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est du XLIFF &quot;%1&quot; dans l&apos;espace de noms &quot;%2&quot; au lieu de XLIFF 1.2.</translation>
     </message>
     <message>
         <source>The element &lt;file&gt; lacks the attribute &quot;source-language&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque à l&apos;élément &lt;file&gt; l&apos;attribut &quot;source-language&quot;.</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; has no element &lt;source&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité &quot;%1&quot; n&apos;a pas d&apos;élément &lt;source&gt;.</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is not declared.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;entité &quot;%1&quot; n&apos;est pas déclarée.</translation>
     </message>
     <message>
         <source>The placeholder &lt;%1&gt; lacks the attribute &quot;equiv-text&quot;, without which its text is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque à l&apos;élément &lt;%1&gt; l&apos;attribut &quot;equiv-text&quot;, sans lequel son texte est inconnu.</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; has no path of a text in a package.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;unité &quot;%1&quot; n&apos;a pas de chemin d&apos;un texte de paquet.</translation>
     </message>
     <message>
         <source>The file is larger than 256 MiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier dépasse 256 Mio.</translation>
     </message>
     <message>
         <source>The language is the source language too.</source>
-        <translation type="unfinished"></translation>
+        <translation>La langue est aussi la langue source.</translation>
     </message>
     <message>
         <source>The source language has no such text.</source>
-        <translation type="unfinished"></translation>
+        <translation>La langue source n&apos;a pas ce texte.</translation>
     </message>
     <message>
         <source>This is a speech script: keep the markup in angle brackets, and translate the text around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est un script vocal : conservez le balisage entre chevrons et traduisez le texte autour.</translation>
     </message>
     <message>
         <source>A tag is longer than 64 KiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une balise dépasse 64 Kio.</translation>
     </message>
 </context>
 <context>

@@ -953,91 +953,91 @@
     </message>
     <message>
         <source>A later unit has another text for this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>後の単位に、このフィールドの別のテキストがあります。</translation>
     </message>
     <message>
         <source>The package no longer has this behavior.</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージにこのビヘイビアはもうありません。</translation>
     </message>
     <message>
         <source>The source text has changed since the export.</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出しのあとで原文が変わりました。</translation>
     </message>
     <message>
         <source>An item before this one has no text yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>これより前の項目にまだテキストがありません。</translation>
     </message>
     <message>
         <source>Malformed speech script: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>音声スクリプトの形式が正しくありません: %1</translation>
     </message>
     <message>
         <source>More than %1 elements are nested.</source>
-        <translation type="unfinished"></translation>
+        <translation>要素の入れ子が %1 段を超えています。</translation>
     </message>
     <message>
         <source>The element &lt;%1&gt; has more than %2 attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>要素 &lt;%1&gt; の属性が %2 個を超えています。</translation>
     </message>
     <message>
         <source>A document type declaration is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書型宣言は使えません。</translation>
     </message>
     <message>
         <source>Text is not allowed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここにテキストは置けません。</translation>
     </message>
     <message>
         <source>The element &lt;%1&gt; is not allowed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>要素 &lt;%1&gt; はここに置けません。</translation>
     </message>
     <message>
         <source>The root element is &lt;%1&gt; instead of &lt;xliff&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>ルート要素が &lt;xliff&gt; ではなく &lt;%1&gt; です。</translation>
     </message>
     <message>
         <source>This is XLIFF &quot;%1&quot; in the namespace &quot;%2&quot; rather than XLIFF 1.2.</source>
-        <translation type="unfinished"></translation>
+        <translation>XLIFF 1.2 ではなく、名前空間 &quot;%2&quot; の XLIFF &quot;%1&quot; です。</translation>
     </message>
     <message>
         <source>The element &lt;file&gt; lacks the attribute &quot;source-language&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>要素 &lt;file&gt; に属性 &quot;source-language&quot; がありません。</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; has no element &lt;source&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>単位 &quot;%1&quot; に要素 &lt;source&gt; がありません。</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is not declared.</source>
-        <translation type="unfinished"></translation>
+        <translation>実体 &quot;%1&quot; は宣言されていません。</translation>
     </message>
     <message>
         <source>The placeholder &lt;%1&gt; lacks the attribute &quot;equiv-text&quot;, without which its text is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>プレースホルダー &lt;%1&gt; に属性 &quot;equiv-text&quot; がなく、そのテキストが分かりません。</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; has no path of a text in a package.</source>
-        <translation type="unfinished"></translation>
+        <translation>単位 &quot;%1&quot; に、パッケージのテキストへのパスがありません。</translation>
     </message>
     <message>
         <source>The file is larger than 256 MiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが 256 MiB を超えています。</translation>
     </message>
     <message>
         <source>The language is the source language too.</source>
-        <translation type="unfinished"></translation>
+        <translation>言語が原文の言語と同じです。</translation>
     </message>
     <message>
         <source>The source language has no such text.</source>
-        <translation type="unfinished"></translation>
+        <translation>原文の言語にこのテキストはありません。</translation>
     </message>
     <message>
         <source>This is a speech script: keep the markup in angle brackets, and translate the text around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>これは音声スクリプトです。山括弧の中のマークアップはそのままにし、周りのテキストを訳してください。</translation>
     </message>
     <message>
         <source>A tag is longer than 64 KiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>タグが 64 KiB を超えています。</translation>
     </message>
 </context>
 <context>

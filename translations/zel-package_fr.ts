@@ -901,79 +901,79 @@
     </message>
     <message>
         <source>Exchanges the texts of packages with translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échange les textes des paquets avec les traducteurs.</translation>
     </message>
     <message>
         <source>; &apos;%1 --help&apos; lists the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation> ; &apos;%1 --help&apos; énumère les commandes.</translation>
     </message>
     <message>
         <source>Missing command; &apos;%1 --help&apos; lists the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque une commande ; &apos;%1 --help&apos; affiche les commandes.</translation>
     </message>
     <message>
         <source>The language to translate into.</source>
-        <translation type="unfinished"></translation>
+        <translation>La langue vers laquelle traduire.</translation>
     </message>
     <message>
         <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
-        <translation type="unfinished"></translation>
+        <translation>La langue à partir de laquelle traduire ; par défaut %1 ou, si le paquet ne fonctionne pas dans cette langue, sa première langue.</translation>
     </message>
     <message>
         <source>Write only the texts that are not translated.</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;écrire que les textes qui ne sont pas traduits.</translation>
     </message>
     <message>
         <source>Missing option --language CODE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque l&apos;option --language CODE.</translation>
     </message>
     <message>
         <source>Write texts for translators</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire des textes pour les traducteurs</translation>
     </message>
     <message>
         <source>FILE --language CODE [--source CODE] [--missing] [-o OUT]</source>
-        <translation type="unfinished"></translation>
+        <translation>FICHIER --language CODE [--source CODE] [--missing] [-o SORTIE]</translation>
     </message>
     <message>
         <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit les textes d&apos;un manifeste en XLIFF 1.2, que lisent les outils de traduction : noms, descriptions, étiquettes, phrases de déclenchement et réponses de chargement. &apos;texts import&apos; les relit. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
         <source>Import also where the source text has changed since the export.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer aussi là où le texte source a changé depuis l&apos;exportation.</translation>
     </message>
     <message>
         <source>Texts: %1 imported, %2 unchanged, %3 untranslated, %4 skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Textes : importés %1, inchangés %2, non traduits %3, ignorés %4.</translation>
     </message>
     <message>
         <source>Take texts from translators</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre les textes des traducteurs</translation>
     </message>
     <message>
         <source>FILE XLIFF... [--dry-run] [--force]</source>
-        <translation type="unfinished"></translation>
+        <translation>FICHIER XLIFF... [--dry-run] [--force]</translation>
     </message>
     <message>
         <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Met dans le manifeste FICHIER les traductions des fichiers XLIFF que &apos;texts export&apos; a écrits. Les listes s&apos;allongent selon le traducteur, et une nouvelle langue devient une langue de description. Les textes dont le comportement a disparu ou dont la source a changé sont signalés et ignorés. Si un texte est un script vocal mal formé, rien n&apos;est importé. Le code de sortie est 1 si un texte est ignoré. &apos;-&apos; lit l&apos;entrée standard ; comme FICHIER, il écrit sur la sortie standard.</translation>
     </message>
     <message>
         <source>behavior</source>
-        <translation type="unfinished"></translation>
+        <translation>comportement</translation>
     </message>
     <message>
         <source>Show how far packages are translated</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer l&apos;avancement de la traduction</translation>
     </message>
     <message>
         <source>FILE... [--format text|json]</source>
-        <translation type="unfinished"></translation>
+        <translation>FICHIER... [--format text|json]</translation>
     </message>
     <message>
         <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte, par langue et par comportement, les textes traduits parmi ceux qui sont nécessaires. Une liste compte une fois. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
         <source>The baseline is not valid JSON: %1.</source>
@@ -1050,10 +1050,6 @@
     <message>
         <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
         <translation>Écrivez l&apos;identifiant d&apos;une règle ; &apos;zel-package explain&apos; les affiche.</translation>
-    </message>
-    <message>
-        <source>The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Correct the file at the line and column that are given, then check it again.</source>
@@ -1210,6 +1206,10 @@
     <message>
         <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
         <translation>Fusionne dans OURS, champ par champ, les modifications qui mènent de BASE à THEIRS. Quand les deux côtés ont changé un champ différemment, OURS reste, et un commentaire devant le champ contient les deux valeurs ; &apos;validate&apos; le signale jusqu&apos;à sa suppression. Le code de sortie est 0 après une fusion sans conflit, 1 après une fusion avec conflits, et 2 pour une erreur, qui laisse OURS inchangé. Un fichier vide est un manifeste sans aucun champ. &apos;-&apos; pour l&apos;un des fichiers lit l&apos;entrée standard.</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <translation>Le fichier n&apos;est pas du XML bien formé en UTF-8, ou a un contenu qu&apos;un manifeste ne peut pas avoir à cet endroit. Rien d&apos;autre n&apos;y est vérifié, et le code de sortie est 2.</translation>
     </message>
 </context>
 </TS>

@@ -901,79 +901,79 @@
     </message>
     <message>
         <source>Exchanges the texts of packages with translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージのテキストを翻訳者とやり取りします。</translation>
     </message>
     <message>
         <source>; &apos;%1 --help&apos; lists the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>。コマンドの一覧は &apos;%1 --help&apos; で表示できます。</translation>
     </message>
     <message>
         <source>Missing command; &apos;%1 --help&apos; lists the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドがありません。&apos;%1 --help&apos; でコマンドを確認できます。</translation>
     </message>
     <message>
         <source>The language to translate into.</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳先の言語。</translation>
     </message>
     <message>
         <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳元の言語。省略すると %1、パッケージがその言語で動作しなければ最初の言語。</translation>
     </message>
     <message>
         <source>Write only the texts that are not translated.</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳されていないテキストだけを書き出します。</translation>
     </message>
     <message>
         <source>Missing option --language CODE.</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション --language CODE がありません。</translation>
     </message>
     <message>
         <source>Write texts for translators</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳者のためにテキストを書き出す</translation>
     </message>
     <message>
         <source>FILE --language CODE [--source CODE] [--missing] [-o OUT]</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE --language CODE [--source CODE] [--missing] [-o OUT]</translation>
     </message>
     <message>
         <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>マニフェストのテキスト(名前、説明、タグ、トリガー文、読み込み中の応答)を、翻訳ツールが読める XLIFF 1.2 として書き出します。&apos;texts import&apos; で読み戻します。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
         <source>Import also where the source text has changed since the export.</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出しのあとで原文が変わったテキストも取り込みます。</translation>
     </message>
     <message>
         <source>Texts: %1 imported, %2 unchanged, %3 untranslated, %4 skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト: 取り込み %1、変更なし %2、未翻訳 %3、スキップ %4。</translation>
     </message>
     <message>
         <source>Take texts from translators</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳者からのテキストを取り込む</translation>
     </message>
     <message>
         <source>FILE XLIFF... [--dry-run] [--force]</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE XLIFF... [--dry-run] [--force]</translation>
     </message>
     <message>
         <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;texts export&apos; が書き出した XLIFF ファイルの翻訳を、FILE のマニフェストに取り込みます。リストは翻訳者の長さまで伸び、新しい言語は説明の言語になります。ビヘイビアがなくなったテキストと原文が変わったテキストは、報告してスキップします。テキストが正しくない音声スクリプトであれば、何も取り込みません。スキップしたテキストがあると終了ステータスは 1 です。&apos;-&apos; は標準入力を読みます。FILE であれば標準出力に書きます。</translation>
     </message>
     <message>
         <source>behavior</source>
-        <translation type="unfinished"></translation>
+        <translation>ビヘイビア</translation>
     </message>
     <message>
         <source>Show how far packages are translated</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳の進み具合を表示する</translation>
     </message>
     <message>
         <source>FILE... [--format text|json]</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE... [--format text|json]</translation>
     </message>
     <message>
         <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>必要なテキストのうち翻訳されたものを、言語別とビヘイビア別に数えます。リストは 1 つと数えます。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
         <source>The baseline is not valid JSON: %1.</source>
@@ -1050,10 +1050,6 @@
     <message>
         <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
         <translation>規則の ID を書いてください。&apos;zel-package explain&apos; で一覧できます。</translation>
-    </message>
-    <message>
-        <source>The file is no well-formed XML in UTF-8, or it has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Correct the file at the line and column that are given, then check it again.</source>
@@ -1210,6 +1206,10 @@
     <message>
         <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
         <translation>BASE から THEIRS への変更を、フィールドごとに OURS にマージします。両側が同じフィールドを異なる値に変更した場合は OURS を残し、フィールドの前のコメントに両方の値を書きます。&apos;validate&apos; はそのコメントが削除されるまで報告します。終了ステータスは、競合なしでマージすれば 0、競合があれば 1、エラーなら 2 で、エラーの場合 OURS は変わりません。空のファイルはフィールドのないマニフェストです。いずれかに &apos;-&apos; を指定すると標準入力から読みます。</translation>
+    </message>
+    <message>
+        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <translation>ファイルが整形式の UTF-8 の XML でないか、その場所に置けない内容があります。ほかは検査されず、終了コードは 2 です。</translation>
     </message>
 </context>
 </TS>
