@@ -13,6 +13,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <map>
+#include <tuple>
 
 namespace ZelPackage {
 namespace {
@@ -170,14 +172,46 @@ bool Validation::save(const Target &target, const std::string &content,
     return false;
 }
 
+namespace {
+
+// The places of unknown elements and attributes.
+class NodePositions {
+public:
+    explicit NodePositions(const Tano::ManifestReader &reader)
+        : m_reader(reader) {}
+
+    Tano::SourcePosition of(const Tano::UnknownNode &node) {
+        if (m_positions.empty()) {
+            for (const Tano::UnknownNode &known : m_reader.unknownNodes())
+                m_positions.emplace(keyOf(known), known.position);
+        }
+        return m_positions[keyOf(node)];
+    }
+
+private:
+    using Key = std::tuple<Tano::FieldPath, std::string, std::string, bool, int>;
+
+    static Key keyOf(const Tano::UnknownNode &node) {
+        return {node.parentPath, node.parent, node.name,
+                node.kind == Tano::UnknownNode::Kind::Element, node.index};
+    }
+
+    const Tano::ManifestReader &m_reader;
+    std::map<Key, Tano::SourcePosition> m_positions;
+};
+
+} // namespace
+
 void Validation::collect(const Target &target, const Tano::ManifestReader &reader,
                          CheckedManifest &manifest) {
     const auto add = [&](ManifestFinding finding) {
         finding.severity = target.settings.severityOf(finding.ruleId, finding.severity);
-        finding.position = reader.position(Zel::toUtf8(finding.field));
+        if (finding.position.line == 0)
+            finding.position = reader.position(Zel::toUtf8(finding.field));
         manifest.findings.push_back(std::move(finding));
     };
     QHash<QString, int> counts;
+    NodePositions nodes(reader);
     bool isTruncated = false;
     const auto visit = [&](const Issue &issue) {
         if (++counts[issue.id] > mostFindings) {
@@ -185,7 +219,8 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             return IssueVisit::SkipRule;
         }
         if (!m_baseline || !m_baseline->take(target.name, issue.id, issue.path))
-            add({{}, issue.id, issue.severity, issue.path, issue.plainText(), issue.fixes});
+            add({issue.node ? nodes.of(*issue.node) : Tano::SourcePosition(), issue.id,
+                 issue.severity, issue.path, issue.plainText(), issue.fixes});
         return IssueVisit::Continue;
     };
     IgnoreComments ignored(manifest.record);

@@ -2,6 +2,7 @@
 
 #include <packagemodel/package_edits.h>
 
+#include <tano/manifest_reader.h>
 #include <tano/package_info.h>
 
 #include <QString>
@@ -49,6 +50,8 @@ struct Issue {
     /// package are not escaped. Show plainText() or richText() instead.
     QString text;
     QVector<Fix> fixes = {}; ///< the most likely first
+    /// Of an unknown element or attribute, which one of those in the field at `path`.
+    std::optional<Tano::UnknownNode> node = {};
 
     /// The text without markup, for a terminal, a report or a plain label.
     PACKAGEMODEL_EXPORT QString plainText() const;

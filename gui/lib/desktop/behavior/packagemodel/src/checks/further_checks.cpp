@@ -316,7 +316,8 @@ void checkUnknownNodes(const CheckedPackage &checked, Findings &findings) {
         findings.push_back({isElement ? RuleId::ElementUnknown : RuleId::AttributeUnknown,
                             node.parentPath,
                             arguments,
-                            {}});
+                            {},
+                            node});
     }
 }
 

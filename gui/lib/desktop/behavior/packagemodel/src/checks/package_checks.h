@@ -3,6 +3,7 @@
 #include "package_rules.h"
 
 #include <tano/field_path.h>
+#include <tano/manifest_reader.h>
 #include <zel/robot_language.h>
 
 #include <QString>
@@ -25,6 +26,7 @@ struct Finding {
     Tano::FieldPath field; // for a rule about languages, the one with an entry per language
     QStringList arguments; // of the message, except for the language
     RobotLanguage language;
+    std::optional<Tano::UnknownNode> node = {};
 };
 using Findings = std::vector<Finding>;
 

@@ -36,6 +36,7 @@ public:
             if (m_filter && !m_filter(issue))
                 continue;
             issue.text = message(finding, {finding.language});
+            issue.node = finding.node;
             if (m_withFixes)
                 issue.fixes = m_fixes.fixesOf(finding);
             const IssueVisit next = m_visit(issue);
