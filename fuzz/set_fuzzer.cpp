@@ -1,5 +1,5 @@
-// Lines FIELD=VALUE, as "zel-package set" takes them, or edits as JSON: the result is consistent, and
-// survives being saved; the edits survive being written as JSON, and their inverses restore the
+// Lines FIELD=VALUE, as "zel-package set" takes them, or edits as JSON: the result is consistent,
+// and survives being saved; the edits survive being written as JSON, and their inverses restore the
 // package.
 
 #include "observer_world.h"

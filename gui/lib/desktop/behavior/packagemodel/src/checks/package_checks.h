@@ -42,7 +42,7 @@ using Check = void (*)(const PackageInfoModel &package, Findings &findings);
 constexpr std::array<Check, 5> applicationChecks{
     checkUid, checkRobotRequirements, checkBrioRequirements, checkNames, checkDescriptions};
 
-/// `occurrence` tells behaviors with the same path apart.
+/// `occurrence` is the number of the behavior among those with the same path.
 void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoModel &behavior,
                            int occurrence, Findings &findings);
 
