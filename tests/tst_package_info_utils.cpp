@@ -34,8 +34,8 @@ QStringList findings(const PackageInfoModel &package) {
     QStringList lines;
     const auto issues = PackageModel::issues(&package);
     for (const auto &issue : issues) {
-        const QString severity = text(std::array{"note ", "warning ", "error "}.at(
-            std::size_t(issue.severity)));
+        const QString severity =
+            text(std::array{"note ", "warning ", "error "}.at(std::size_t(issue.severity)));
         lines.append(severity % issue.path % text(" [") % issue.id % u']');
     }
     return lines;

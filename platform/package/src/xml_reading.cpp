@@ -50,8 +50,7 @@ std::string exceededBound(XML_Parser parser, std::string_view element, int depth
     if (std::size_t(XML_GetCurrentByteCount(parser)) > ManifestReader::maxTagLength)
         return tagTooLong;
     if (depth > ManifestReader::maxDepth)
-        return "More than " + std::to_string(ManifestReader::maxDepth) +
-               " elements are nested.";
+        return "More than " + std::to_string(ManifestReader::maxDepth) + " elements are nested.";
     if (XML_GetSpecifiedAttributeCount(parser) / 2 > ManifestReader::maxAttributes)
         return "The element " + tagged(element) + " has more than " +
                std::to_string(ManifestReader::maxAttributes) + " attributes.";
