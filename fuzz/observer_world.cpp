@@ -260,7 +260,7 @@ void World::use(const QMetaMethod &signal, void **arguments) {
 const void *World::heard(const QByteArray &type) const {
     if (m_depth == 0)
         return nullptr;
-    const int index = m_heard.signal.parameterTypes().indexOf(type);
+    const auto index = m_heard.signal.parameterTypes().indexOf(type);
     return index < 0 ? nullptr : m_heard.arguments[index + 1];
 }
 

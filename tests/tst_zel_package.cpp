@@ -102,7 +102,7 @@ private Q_SLOTS:
             QVERIFY(entries.hasNext());
             while (entries.hasNext()) {
                 const QByteArray word = entries.next().captured(1).toUtf8();
-                QVERIFY2(manual.contains(word) && candidates.contains(word + '\n'),
+                QVERIFY2(manual.contains(word) && candidates.contains(QByteArray(word + '\n')),
                          word.constData());
             }
         };
@@ -110,7 +110,7 @@ private Q_SLOTS:
         while (!left.isEmpty()) {
             const QStringList names = left.takeFirst();
             const QByteArray page = run(names + QStringList{QStringLiteral("-h")}).out;
-            QVERIFY(page.startsWith("Usage: zel-package " + names.join(u' ').toUtf8()));
+            QVERIFY(page.startsWith(QByteArray("Usage: zel-package " + names.join(u' ').toUtf8())));
             const QByteArray words = completion(names + QStringList{QString()});
             const bool isGroup = words.contains("--help\n");
             check(page, isGroup ? words : completion(names + QStringList{QStringLiteral("--")}));
