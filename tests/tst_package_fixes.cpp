@@ -29,6 +29,21 @@ class TestPackageFixes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void examples() {
+        for (const Rule &rule : rules()) {
+            const bool isRoot = rule.example.startsWith(text("<package"));
+            const QString root = text(R"(<package format="1" uid="u" version="1">)");
+            PackageInfoModel package;
+            QVERIFY(package.loadFromManifestContent(
+                ((isRoot ? QString() : root) + rule.example + text("</package>")).toUtf8()));
+            const auto found = issues(&package, {text("/nowhere")});
+            const bool isFound = std::any_of(found.begin(), found.end(), [&](const Issue &issue) {
+                return issue.id == rule.id;
+            });
+            QVERIFY2(isFound != rule.example.isEmpty(), qPrintable(rule.id));
+        }
+    }
+
     void manifests_data() {
         QTest::addColumn<QString>("file");
         const QDir own(text(ZEL_TEST_DATA "/fixes"));

@@ -1211,5 +1211,9 @@
         <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
         <translation>Le fichier n&apos;est pas du XML bien formé en UTF-8, ou a un contenu qu&apos;un manifeste ne peut pas avoir à cet endroit. Rien d&apos;autre n&apos;y est vérifié, et le code de sortie est 2.</translation>
     </message>
+    <message>
+        <source>  For example:</source>
+        <translation>  Par exemple :</translation>
+    </message>
 </context>
 </TS>

@@ -1211,5 +1211,9 @@
         <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
         <translation>ファイルが整形式の UTF-8 の XML でないか、その場所に置けない内容があります。ほかは検査されず、終了コードは 2 です。</translation>
     </message>
+    <message>
+        <source>  For example:</source>
+        <translation>  例:</translation>
+    </message>
 </context>
 </TS>

@@ -130,11 +130,20 @@ QString messageForm(const Rule &rule) {
         .replace(placeholder, QStringLiteral("…"));
 }
 
+QString exampleOf(const Rule &rule) {
+    if (rule.example.isEmpty())
+        return {};
+    QString lines = u'\n' % QCoreApplication::translate("zel-package", "  For example:") % u'\n';
+    for (const QString &line : rule.example.split(u'\n'))
+        lines += QStringLiteral("    ") % line % u'\n';
+    return lines;
+}
+
 QString explanationOf(const Rule &rule, const Console &console) {
     return console.styled(rule.id, Style::Heading) % u' ' %
            console.styled(u'(' % wordOf(rule.severity) % u')', Style::Faint) % u'\n' %
            indented(messageForm(rule), console) % u'\n' % indented(rule.explanation, console) %
-           u'\n' % indented(rule.remedy, console);
+           u'\n' % indented(rule.remedy, console) % exampleOf(rule);
 }
 
 QString unknownRule(const QString &id, const QStringList &known) {

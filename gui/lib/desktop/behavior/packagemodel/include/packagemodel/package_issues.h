@@ -22,11 +22,12 @@ enum class Severity { Note, Warning, Error };
 
 /// One thing that can be wrong, in the language of the application.
 struct Rule {
-    QString id;          ///< stable, for filters and reports; never translated
-    Severity severity;   ///< of what it finds
-    QString message;     ///< with its placeholders; rich text, so that "<" is "&lt;"
-    QString explanation; ///< a paragraph of plain text
-    QString remedy;      ///< how to correct it, in plain text
+    QString id;           ///< stable, for filters and reports; never translated
+    Severity severity;    ///< of what it finds
+    QString message;      ///< with its placeholders; rich text, so that "<" is "&lt;"
+    QString explanation;  ///< a paragraph of plain text
+    QString remedy;       ///< how to correct it, in plain text
+    QString example = {}; ///< a part of a manifest that it finds fault with; empty for none
 };
 
 /// All rules, in the order in which they are checked.

@@ -51,6 +51,7 @@ struct RuleRow {
     const char *message; // translated in the context "QObject" if hasMessage()
     const char *explanation;
     const char *remedy;
+    const char *example; // part of a manifest; null for none
 };
 
 const RuleRow &ruleRow(RuleId rule);
