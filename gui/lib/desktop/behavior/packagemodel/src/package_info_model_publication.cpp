@@ -187,7 +187,9 @@ public:
         for (const ScriptText<Model> &kind : scriptTexts<Model>) {
             for (const auto &[text, language] : (model.*kind.texts)()) {
                 if (!isXScrpolLanguage(language))
-                    check(text, [&] { return pathOf(parent, kind.field, language); });
+                    check(text, [&, &language = language] {
+                        return pathOf(parent, kind.field, language);
+                    });
             }
         }
     }
