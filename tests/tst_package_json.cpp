@@ -45,6 +45,8 @@ private Q_SLOTS:
             }
         }
         QVERIFY(edits.size() > 100);
+        edits.append({Edit::Action::Set, *Tano::FieldPath::parse("author"),
+                      QChar(QChar::ByteOrderMark) + text("x")});
         const ParsedEdits parsed = editsFromJson(toJson(edits));
         QCOMPARE(parsed.error, QString());
         QVERIFY(parsed.edits == edits);

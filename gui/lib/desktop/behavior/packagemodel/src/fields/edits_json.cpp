@@ -156,7 +156,10 @@ QByteArray toJson(const Edits &edits) {
     QJsonArray array;
     for (const Edit &edit : edits)
         array.append(toObject(edit));
-    return QJsonDocument({{formatMember, jsonFormat}, {editsMember, array}}).toJson();
+    // Readers take a U+FEFF at the beginning of a text for a byte order mark.
+    return QJsonDocument({{formatMember, jsonFormat}, {editsMember, array}})
+        .toJson()
+        .replace("\xEF\xBB\xBF", "\\ufeff");
 }
 
 ParsedEdits editsFromJson(const QByteArray &json) {
