@@ -106,7 +106,7 @@ private Q_SLOTS:
     }
 
     // The whole way: every problem mended from the dock, undone, done again, saved and validated.
-    void mendEverything() {
+    void correctEverything() {
         const QString fileName = copyOf(ZEL_TEST_DATA "/editor/faulty");
         QVERIFY(m_window->openFile(fileName));
         const QByteArray before = contentOf(fileName);
@@ -116,7 +116,7 @@ private Q_SLOTS:
             const QString path =
                 problems()->model()->index(0, 0).data(ProblemsModel::PathRole).toString();
             doubleClickProblem(0);
-            mend(*Tano::FieldPath::parse(Zel::toUtf8(path)));
+            correct(*Tano::FieldPath::parse(Zel::toUtf8(path)));
             QVERIFY2(problemCount() < left, qPrintable(path));
         }
         const int steps = stack()->count();
@@ -829,7 +829,7 @@ private:
     }
 
     // Mends the field that has the focus.
-    void mend(const Tano::FieldPath &path) {
+    void correct(const Tano::FieldPath &path) {
         const QString field = fieldName(path, 1);
         if (field == QLatin1String("model")) {
             press(Qt::Key_F2);

@@ -284,7 +284,7 @@
         <translation>La version maximale de Brio est inférieure à la version minimale : aucun robot ne peut satisfaire l&apos;exigence.</translation>
     </message>
     <message>
-        <source>The package supports the default language and has no name in it. That name also stands in for those that are missing in other languages; without it, users see the UID.</source>
+        <source>The package supports the default language and has no name in it. That name also replaces those that are missing in other languages; without it, users see the UID.</source>
         <translation>Le paquet prend en charge la langue par défaut et n&apos;y a pas de nom. Ce nom remplace aussi ceux qui manquent dans d&apos;autres langues ; sans lui, l&apos;utilisateur voit l&apos;UID.</translation>
     </message>
     <message>

@@ -284,7 +284,7 @@
         <translation>Brio の最大バージョンが最小バージョンより小さいため、どのロボットも要件を満たせません。</translation>
     </message>
     <message>
-        <source>The package supports the default language and has no name in it. That name also stands in for those that are missing in other languages; without it, users see the UID.</source>
+        <source>The package supports the default language and has no name in it. That name also replaces those that are missing in other languages; without it, users see the UID.</source>
         <translation>パッケージは既定の言語に対応していますが、その言語の名前がありません。この名前は、他の言語で欠けている名前の代わりにもなります。ない場合、ユーザーには UID が表示されます。</translation>
     </message>
     <message>

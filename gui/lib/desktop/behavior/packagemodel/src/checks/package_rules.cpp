@@ -59,7 +59,7 @@ const std::array table{
      "<brioRequirement minVersion=\"2.5\" maxVersion=\"2.4\"/>"},
     RuleRow{"name-missing-default", Severity::Warning,
      QT_TRANSLATE_NOOP("QObject", "Application name is not defined for: %1"),
-     QT_TRANSLATE_NOOP("Zel::PackageModel", "The package supports the default language and has no name in it. That name also stands in for those that are missing in other languages; without it, users see the UID."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "The package supports the default language and has no name in it. That name also replaces those that are missing in other languages; without it, users see the UID."),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "Write a name in the default language."),
      "<supportedLanguage code=\"en_US\"/>"},
     RuleRow{"name-missing", Severity::Warning,
