@@ -1,10 +1,10 @@
-#include "behaviors_model.h"
-#include "entry_models.h"
-#include "field_edits.h"
-#include "languages_model.h"
-#include "problems_model.h"
-#include "requirements_model.h"
-#include "string_list_model.h"
+#include "document/field_edits.h"
+#include "models/behaviors_model.h"
+#include "models/entry_models.h"
+#include "models/languages_model.h"
+#include "models/problems_model.h"
+#include "models/requirements_model.h"
+#include "models/string_list_model.h"
 
 #include <packagemodel/behavior_commands.h>
 

@@ -1,9 +1,9 @@
-#include "field_edits.h"
-#include "icon_button.h"
-#include "main_window.h"
-#include "message_bar.h"
-#include "problems_model.h"
-#include "roomy_style.h"
+#include "document/field_edits.h"
+#include "models/problems_model.h"
+#include "widgets/icon_button.h"
+#include "widgets/message_bar.h"
+#include "widgets/roomy_style.h"
+#include "window/main_window.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "main_window.h"
-#include "roomy_style.h"
+#include "widgets/roomy_style.h"
+#include "window/main_window.h"
 
 #include <packagemodel/translation.h>
 

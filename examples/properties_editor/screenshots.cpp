@@ -1,8 +1,8 @@
 // Draws the pictures of docs/images/ without a display, in the language of the locale:
 // editor_screenshots DIRECTORY SAMPLES.
 
-#include "main_window.h"
-#include "roomy_style.h"
+#include "widgets/roomy_style.h"
+#include "window/main_window.h"
 
 #include <packagemodel/translation.h>
 

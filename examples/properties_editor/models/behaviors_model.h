@@ -1,0 +1,42 @@
+#pragma once
+
+#include "document/document.h"
+
+#include <QAbstractTableModel>
+#include <QVector>
+
+namespace Editor {
+
+/// The behaviors of the package, by path and name, made for very many: it follows the package's
+/// notifications, and each touches the row that it concerns.
+class BehaviorsModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Path, Name };
+
+    explicit BehaviorsModel(Document &document, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+    /// Null for a row outside the list.
+    Zel::BehaviorInfoModel *behavior(int row) const;
+    int rowOf(const Zel::BehaviorInfoModel *behavior) const;
+
+private:
+    void reset();
+    void add(Zel::BehaviorInfoModel *behavior);
+    void remove(Zel::BehaviorInfoModel *behavior);
+    void move(Zel::BehaviorInfoModel *behavior, int from, int to);
+    void watch(Zel::BehaviorInfoModel *behavior);
+    void announce(const Zel::BehaviorInfoModel *behavior);
+
+    Document &m_document;
+    QVector<Zel::BehaviorInfoModel *> m_behaviors;
+};
+
+} // namespace Editor

@@ -1,0 +1,174 @@
+#include "languages_model.h"
+
+#include "document/field_edits.h"
+#include "widgets/marks.h"
+#include "widgets/plain_text.h"
+
+#include <packagemodel/set_string.h>
+
+#include <QLocale>
+
+namespace Editor {
+namespace {
+
+using Tano::FieldPath;
+using Zel::PackageLocalizedStringCommand;
+using Zel::RobotLanguage;
+using Zel::Language::languageInUse;
+using Zel::PackageModel::Edit;
+using Zel::PackageModel::LanguageCoverage;
+
+// The list that a check box puts a language in.
+FieldPath listOf(LanguagesModel::Column column) {
+    return FieldPath().field(column == LanguagesModel::Supported ? "supportedLanguages"
+                                                                 : "descriptionLanguages");
+}
+
+} // namespace
+
+LanguagesModel::LanguagesModel(Document &document, QObject *parent)
+    : TableModel(document, parent) {
+    start();
+}
+
+QString LanguagesModel::summary() const {
+    const auto &supported = package()->supportedLanguages();
+    int names = 0;
+    int descriptions = 0;
+    for (const RobotLanguage &language : supported) {
+        names += int(package()->hasNameFor(language));
+        descriptions += int(package()->hasDescriptionFor(language));
+    }
+    return tr("Supported languages: %1. With a name: %2. With a description: %3.")
+        .arg(supported.size())
+        .arg(names)
+        .arg(descriptions);
+}
+
+QStringList LanguagesModel::currentKeys() const {
+    QStringList keys;
+    for (const RobotLanguage &language : document().languages())
+        keys.append(language.isoCode());
+    return keys;
+}
+
+QStringList LanguagesModel::titles() const {
+    return {tr("Language"), tr("Supported"),   tr("Described"),
+            tr("Name"),     tr("Description"), tr("Coverage")};
+}
+
+int LanguagesModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : 6;
+}
+
+FieldPath LanguagesModel::field(const QModelIndex &index) const {
+    if (index.column() != Name && index.column() != Description)
+        return {};
+    return FieldPath()
+        .field(index.column() == Name ? "names" : "descriptions")
+        .key(Zel::toUtf8(key(index)));
+}
+
+QVariant LanguagesModel::display(const QModelIndex &index) const {
+    if (index.column() == Language)
+        return languageInUse(key(index)).uiName();
+    if (index.column() != Coverage)
+        return fieldText(package(), field(index));
+    const auto total = document().coverage(key(index)).total();
+    return total.expected == 0
+               ? QString()
+               : tr("%1 of %2")
+                     .arg(QLocale().toString(total.present), QLocale().toString(total.expected));
+}
+
+QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return display(index);
+    case Qt::CheckStateRole:
+        if (index.column() != Supported && index.column() != Described)
+            return {};
+        return isIn(Column(index.column()), key(index)) ? Qt::Checked : Qt::Unchecked;
+    case CodeRole:
+        return key(index);
+    case PercentRole: {
+        const LanguageCoverage coverage = document().coverage(key(index));
+        return coverage.total().expected == 0 ? QVariant() : coverage.percent();
+    }
+    default:
+        break;
+    }
+    const QVariant mark = markData(Mark::ofIssue(document().issueAt(field(index))), role);
+    if (!mark.isValid() && role == Qt::ToolTipRole)
+        return toolTipOf(index.column() == Language ? key(index) : display(index).toString());
+    return mark;
+}
+
+bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return false;
+    const auto column = Column(index.column());
+    if (role == Qt::CheckStateRole && (column == Supported || column == Described)) {
+        switchIn(column, key(index));
+        return true;
+    }
+    if (role != Qt::EditRole || (column != Name && column != Description))
+        return false;
+    const auto what = column == Name ? PackageLocalizedStringCommand::Name
+                                     : PackageLocalizedStringCommand::Description;
+    document().pushTyped([what, language = languageInUse(key(index)), package = package(),
+                          text = value.toString()](bool isFinal) {
+        return new PackageLocalizedStringCommand(package, text, what, language, isFinal);
+    });
+    return true;
+}
+
+bool LanguagesModel::isIn(Column column, const QString &code) const {
+    const RobotLanguage language = languageInUse(code);
+    return column == Supported ? package()->hasLanguageSupport(language)
+                               : package()->hasLanguageDescription(language);
+}
+
+void LanguagesModel::switchIn(Column column, const QString &code) {
+    const FieldPath list = listOf(column);
+    if (isIn(column, code)) {
+        document().edit({{Edit::Action::Remove, FieldPath(list).key(Zel::toUtf8(code))}},
+                        column == Supported ? tr("Remove language %1").arg(code)
+                                            : tr("Remove description language %1").arg(code));
+        return;
+    }
+    document().edit({appended(list, code)}, column == Supported
+                                                ? tr("Add language %1").arg(code)
+                                                : tr("Add description language %1").arg(code));
+}
+
+void LanguagesModel::add(const QString &code) {
+    document().edit({appended(listOf(Supported), code)}, tr("Add language %1").arg(code));
+}
+
+void LanguagesModel::remove(const QString &code) {
+    Zel::PackageModel::Edits edits;
+    for (const Column column : {Supported, Described}) {
+        if (isIn(column, code))
+            edits.append({Edit::Action::Remove, listOf(column).key(Zel::toUtf8(code))});
+    }
+    document().edit(edits, tr("Remove language %1").arg(code));
+}
+
+Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {
+    switch (index.column()) {
+    case Supported:
+    case Described:
+        return Qt::ItemIsUserCheckable;
+    case Name:
+    case Description:
+        return Qt::ItemIsEditable;
+    default:
+        return Qt::NoItemFlags;
+    }
+}
+
+} // namespace Editor

@@ -1,0 +1,67 @@
+#include "problems_model.h"
+
+#include "widgets/marks.h"
+#include "widgets/plain_text.h"
+
+#include <QStringBuilder>
+
+namespace Editor {
+
+using Zel::PackageModel::Issue;
+
+namespace {
+
+QString fieldLabel(const QString &printedPath) {
+    const auto path = Tano::FieldPath::parse(Zel::toUtf8(printedPath));
+    return path ? Zel::PackageModel::label(*path) : printedPath;
+}
+
+} // namespace
+
+ProblemsModel::ProblemsModel(Document &document, QObject *parent)
+    : TableModel(document, parent) {
+    start();
+}
+
+int ProblemsModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : 3;
+}
+
+QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        index.row() >= document().issues().size())
+        return {};
+    const Issue &issue = document().issues().at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        switch (index.column()) {
+        case Severity:
+            return severityName(issue.severity);
+        case Text:
+            return Mark::ofIssue(issue)->text;
+        default:
+            return fieldLabel(issue.path);
+        }
+    case Qt::DecorationRole:
+        return index.column() == Severity ? severityIcon(issue.severity) : QVariant();
+    case Qt::ToolTipRole:
+        return toolTipOf(issue.plainText());
+    case PathRole:
+        return issue.path;
+    default:
+        return {};
+    }
+}
+
+QStringList ProblemsModel::currentKeys() const {
+    QStringList keys;
+    for (const Issue &issue : document().issues())
+        keys.append(issue.id % u' ' % issue.path);
+    return keys;
+}
+
+QStringList ProblemsModel::titles() const {
+    return {tr("Severity"), tr("Problem"), tr("Field")};
+}
+
+} // namespace Editor

@@ -1,0 +1,140 @@
+#include "behaviors_page.h"
+
+#include "behavior_details.h"
+#include "document/field_edits.h"
+#include "models/behaviors_model.h"
+#include "models/entry_models.h"
+#include "widgets/marks.h"
+#include "widgets/typing_delegate.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QSplitter>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::BehaviorInfoModel;
+
+BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Behaviors"),
+           platformIcon(QStringLiteral("system-run"), QStyle::SP_MediaPlay), parent)
+    , m_model(new BehaviorsModel(document, this))
+    , m_filtered(new QSortFilterProxyModel(this))
+    , m_filter(new QLineEdit(this))
+    , m_view(new QTreeView(this))
+    , m_details(new BehaviorDetails(document, this)) {
+    m_filtered->setSourceModel(m_model);
+    m_filtered->setFilterKeyColumn(-1);
+    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filter->setPlaceholderText(tr("Find a behavior"));
+    m_filter->setAccessibleName(tr("Find a behavior"));
+    m_filter->setClearButtonEnabled(true);
+    connect(m_filter, &QLineEdit::textChanged, m_filtered,
+            &QSortFilterProxyModel::setFilterFixedString);
+
+    m_view->setModel(m_filtered);
+    setUpTable(m_view, document, tr("Behaviors"));
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true); // or every row would be measured
+    m_view->header()->setMinimumSectionSize(40);
+    m_view->header()->setSectionResizeMode(BehaviorsModel::Name, QHeaderView::Stretch);
+    m_view->header()->resizeSection(BehaviorsModel::Path, 125);
+
+    auto *add = newListButton(tr("&Add"), true, this);
+    m_remove = newListButton(tr("&Remove"), false, this);
+    connect(add, &QPushButton::clicked, this, &BehaviorsPage::add);
+    connect(m_remove, &QPushButton::clicked, this, &BehaviorsPage::remove);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(m_remove);
+    buttons->addStretch();
+
+    auto *list = new QWidget(this);
+    auto *listLayout = new QVBoxLayout(list);
+    listLayout->setContentsMargins(0, 0, 0, 0);
+    listLayout->addWidget(m_filter);
+    listLayout->addWidget(m_view);
+    listLayout->addLayout(buttons);
+
+    auto *splitter = new QSplitter(this);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(list);
+    splitter->addWidget(m_details);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({255, 625});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(splitter);
+
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &BehaviorsPage::showCurrent);
+    connect(m_filtered, &QAbstractItemModel::modelReset, this, &BehaviorsPage::selectFirst);
+    connect(&document, &Document::edited, this, [this] {
+        if (!m_view->currentIndex().isValid())
+            selectFirst();
+    });
+    selectFirst();
+}
+
+int BehaviorsPage::currentRow() const {
+    return m_filtered->mapToSource(m_view->currentIndex()).row();
+}
+
+void BehaviorsPage::showCurrent() {
+    BehaviorInfoModel *behavior = m_model->behavior(currentRow());
+    m_remove->setEnabled(behavior != nullptr);
+    m_details->setBehavior(behavior);
+}
+
+void BehaviorsPage::selectFirst() {
+    m_view->setCurrentIndex(m_filtered->index(0, 0));
+    showCurrent();
+}
+
+void BehaviorsPage::select(const BehaviorInfoModel *behavior) {
+    const QModelIndex source = m_model->index(m_model->rowOf(behavior), BehaviorsModel::Path);
+    if (!m_filtered->mapFromSource(source).isValid())
+        m_filter->clear();
+    const QModelIndex index = m_filtered->mapFromSource(source);
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+}
+
+void BehaviorsPage::add() {
+    const QString path = freeName(QStringLiteral("new-behavior"), [this](const QString &name) {
+        return package()->behavior(name);
+    });
+    Tano::BehaviorInfo behavior;
+    behavior.setPath(Zel::toUtf8(path));
+    document().edit({appended(FieldPath().field("behaviors"), behavior)},
+                    tr("Add behavior %1").arg(path));
+    select(package()->behavior(path));
+}
+
+void BehaviorsPage::remove() {
+    if (const BehaviorInfoModel *behavior = m_model->behavior(currentRow()))
+        document().edit({removed(package(), FieldPath().field("behaviors"), currentRow())},
+                        tr("Remove behavior %1").arg(behavior->path()));
+}
+
+bool BehaviorsPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("behaviors"))
+        return false;
+    if (const BehaviorInfoModel *behavior = package()->behavior(fieldKey(path))) {
+        select(behavior);
+        m_details->showSentences(fieldKey(path, 1));
+    }
+    return true;
+}
+
+void BehaviorsPage::takePending() {
+    m_details->takePending();
+}
+
+} // namespace Editor

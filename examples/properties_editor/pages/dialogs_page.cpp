@@ -1,0 +1,151 @@
+#include "dialogs_page.h"
+
+#include "document/field_edits.h"
+#include "models/entry_models.h"
+#include "widgets/marks.h"
+#include "widgets/typing_delegate.h"
+
+#include <packagemodel/dialog_commands.h>
+
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QListView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::DialogInfoModel;
+
+DialogsPage::DialogsPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Dialogs"),
+           platformIcon(QStringLiteral("dialog-messages"), QStyle::SP_MessageBoxInformation),
+           parent)
+    , m_dialogs(new DialogsModel(document, this))
+    , m_topics(new TopicsModel(document, this))
+    , m_list(new QListView(this))
+    , m_table(new QTableView(this)) {
+    auto *splitter = new QSplitter(this);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(newList());
+    splitter->addWidget(newDetails());
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({230, 650});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(splitter);
+
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &DialogsPage::showCurrent);
+    connect(m_dialogs, &QAbstractItemModel::modelReset, this, &DialogsPage::showCurrent);
+    connect(&document, &Document::edited, this, &DialogsPage::refresh);
+    showCurrent();
+}
+
+QWidget *DialogsPage::newList() {
+    m_list->setModel(m_dialogs);
+    setUpTable(m_list, document(), tr("Dialogs"));
+    auto *add = newListButton(tr("&Add"), true, this);
+    m_remove = newListButton(tr("&Remove"), false, this);
+    connect(add, &QPushButton::clicked, this, &DialogsPage::add);
+    connect(m_remove, &QPushButton::clicked, this, [this] {
+        if (current())
+            document().edit(
+                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())},
+                tr("Remove dialog %1").arg(current()->topicName()));
+    });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(m_remove);
+    buttons->addStretch();
+    auto *part = new QWidget(this);
+    auto *layout = new QVBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_list);
+    layout->addLayout(buttons);
+    return part;
+}
+
+QWidget *DialogsPage::newDetails() {
+    m_details = new QWidget(this);
+    auto *form = new QFormLayout;
+    m_name = addTextRow(form, tr("&Topic:"), document(),
+                        {[this] { return field("topicName"); },
+                         [this](const QString &text, bool isFinal) {
+                             return new Zel::DialogInfoModelNameCommand(
+                                 package(), current()->topicName(), text, isFinal);
+                         },
+                         tr("A dialog needs a topic name.")});
+    m_typeVersion = addTextRow(form, tr("Type &version:"), document(),
+                               {[this] { return field("typeVersion"); },
+                                [this](const QString &text, bool isFinal) {
+                                    return new Zel::DialogInfoModelTypeVersionCommand(
+                                        package(), current()->topicName(), text, isFinal);
+                                }});
+
+    m_table->setModel(m_topics);
+    setUpTable(m_table, document(), tr("Topic files"));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    m_removeTopic = newListButton(tr("Remove &File"), false, this);
+    connect(m_removeTopic, &QPushButton::clicked, this,
+            [this] { m_topics->removeTopic(m_table->currentIndex().row()); });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_removeTopic);
+    buttons->addStretch();
+
+    auto *layout = new QVBoxLayout(m_details);
+    layout->setContentsMargins(12, 0, 0, 0);
+    layout->addLayout(form);
+    layout->addSpacing(4);
+    layout->addWidget(newHeading(tr("Topic files"), m_details));
+    layout->addWidget(m_table);
+    layout->addLayout(buttons);
+    return m_details;
+}
+
+DialogInfoModel *DialogsPage::current() const {
+    return package()->dialogs().value(m_list->currentIndex().row());
+}
+
+FieldPath DialogsPage::field(const char *name) const {
+    const FieldPath entry = Zel::PackageModel::itemPath(package(), FieldPath().field("dialogs"),
+                                                        m_list->currentIndex().row());
+    return entry.isEmpty() ? entry : FieldPath(entry).field(name);
+}
+
+void DialogsPage::showCurrent() {
+    if (!m_list->currentIndex().isValid() && m_dialogs->rowCount() > 0)
+        m_list->setCurrentIndex(m_dialogs->index(0, 0));
+    document().closeRun();
+    m_topics->setDialog(m_list->currentIndex().row());
+    m_name->reload();
+    m_typeVersion->reload();
+    refresh();
+}
+
+void DialogsPage::refresh() {
+    m_details->setEnabled(current() != nullptr);
+    m_remove->setEnabled(current() != nullptr);
+}
+
+void DialogsPage::add() {
+    const QString name = freeName(QStringLiteral("new-topic"), [this](const QString &taken) {
+        return package()->dialog(taken);
+    });
+    Tano::DialogInfo dialog;
+    dialog.setTopicName(Zel::toUtf8(name));
+    document().edit({appended(FieldPath().field("dialogs"), dialog)},
+                    tr("Add dialog %1").arg(name));
+    m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
+}
+
+bool DialogsPage::showField(const FieldPath &) {
+    return false; // nothing is checked in dialogs
+}
+
+} // namespace Editor

@@ -1,0 +1,90 @@
+#include "requirements_page.h"
+
+#include "document/field_edits.h"
+#include "widgets/marks.h"
+#include "widgets/typing_delegate.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Requirements"),
+           platformIcon(QStringLiteral("preferences-devices-cpu"), QStyle::SP_ComputerIcon),
+           parent) {
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    m_robot = addPart(layout, RequirementsModel::Kind::Robot,
+                      {tr("Robots"),
+                       tr("The package is offered to robots that meet one of these. An empty "
+                          "version is a bound that is not set."),
+                       tr("Add &Robot"), tr("Re&move Robot")});
+    layout->addSpacing(12);
+    m_brio = addPart(layout, RequirementsModel::Kind::Brio,
+                     {tr("Brio middleware"),
+                      tr("The versions that the package was tried on; the lowest is needed."),
+                      tr("Add &Brio Version"), tr("Remo&ve Brio Version")});
+    layout->setStretchFactor(m_robot.table, 3);
+    layout->setStretchFactor(m_brio.table, 2);
+}
+
+RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, RequirementsModel::Kind kind,
+                                                 const Texts &texts) {
+    auto *model = new RequirementsModel(document(), kind, this);
+    auto *table = new QTableView(this);
+    table->setModel(model);
+    setUpTable(table, document(), texts.heading);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);
+
+    auto *hint = new QLabel(texts.hint, this);
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    auto *mark = new MarkLabel(
+        document(), [model] { return model->list(); }, this);
+
+    auto *add = newListButton(texts.addition, true, this);
+    connect(add, &QPushButton::clicked, model, [model, table] {
+        model->add();
+        const QModelIndex cell = model->index(model->rowCount() - 1, 0);
+        table->setFocus();
+        table->setCurrentIndex(cell);
+    });
+    auto *remove = newListButton(texts.removal, false, this);
+    connect(remove, &QPushButton::clicked, model,
+            [model, table] { model->remove(table->currentIndex().row()); });
+    const auto refresh = [remove, table] { remove->setEnabled(table->currentIndex().isValid()); };
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
+    connect(&document(), &Document::edited, remove, refresh);
+    refresh();
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    buttons->addStretch();
+    layout->addWidget(newHeading(texts.heading, this));
+    layout->addWidget(hint);
+    layout->addWidget(mark);
+    layout->addWidget(table);
+    layout->addLayout(buttons);
+    return {model, table};
+}
+
+bool RequirementsPage::showField(const Tano::FieldPath &path) {
+    for (const Part &part : {m_robot, m_brio}) {
+        if (fieldName(path) != fieldName(part.model->list()))
+            continue;
+        part.table->setFocus(Qt::OtherFocusReason);
+        part.table->setCurrentIndex(
+            part.model->index(fieldKey(path).toInt(), part.model->columnOf(fieldName(path, 1))));
+        return true;
+    }
+    return false;
+}
+
+} // namespace Editor

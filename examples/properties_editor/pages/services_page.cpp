@@ -1,0 +1,70 @@
+#include "services_page.h"
+
+#include "document/field_edits.h"
+#include "models/entry_models.h"
+#include "widgets/marks.h"
+#include "widgets/typing_delegate.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+using Tano::FieldPath;
+
+ServicesPage::ServicesPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Services"),
+           platformIcon(QStringLiteral("services"), QStyle::SP_DriveNetIcon), parent)
+    , m_model(new ServicesModel(document, this))
+    , m_table(new QTableView(this)) {
+    m_table->setModel(m_model);
+    setUpTable(m_table, document, tr("Services"));
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setSectionResizeMode(ServicesModel::Name, QHeaderView::Interactive);
+    header->resizeSection(ServicesModel::Name, 200);
+    header->setSectionResizeMode(ServicesModel::ExecStart, QHeaderView::Stretch);
+    header->setSectionResizeMode(ServicesModel::AutoRun, QHeaderView::ResizeToContents);
+
+    auto *add = newListButton(tr("&Add"), true, this);
+    auto *remove = newListButton(tr("&Remove"), false, this);
+    connect(add, &QPushButton::clicked, this, &ServicesPage::add);
+    connect(remove, &QPushButton::clicked, this, [this] {
+        const int row = m_table->currentIndex().row();
+        if (const Zel::ServiceInfoModel *service = package()->services().value(row))
+            this->document().edit({removed(package(), FieldPath().field("services"), row)},
+                                  tr("Remove service %1").arg(service->name()));
+    });
+    const auto refresh = [this, remove] { remove->setEnabled(m_table->currentIndex().isValid()); };
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
+    connect(&document, &Document::edited, remove, refresh);
+    refresh();
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    buttons->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(m_table);
+    layout->addLayout(buttons);
+}
+
+void ServicesPage::add() {
+    const QString name = freeName(QStringLiteral("new-service"), [this](const QString &taken) {
+        return package()->service(taken);
+    });
+    Tano::PackageService service;
+    service.name = Zel::toUtf8(name);
+    document().edit({appended(FieldPath().field("services"), service)},
+                    tr("Add service %1").arg(name));
+    m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
+}
+
+bool ServicesPage::showField(const FieldPath &) {
+    return false; // nothing is checked in services
+}
+
+} // namespace Editor

@@ -1,0 +1,177 @@
+#include "texts_page.h"
+
+#include "document/field_edits.h"
+#include "models/languages_model.h"
+#include "widgets/coverage_delegate.h"
+#include "widgets/marks.h"
+#include "widgets/typing_delegate.h"
+
+#include <packagemodel/set_string.h>
+
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::PackageLocalizedStringCommand;
+using Zel::RobotLanguage;
+
+TextsPage::TextsPage(Document &document, QWidget *parent)
+    : Page(document, tr("&Languages"),
+           platformIcon(QStringLiteral("set-language"), QStyle::SP_FileDialogListView), parent)
+    , m_model(new LanguagesModel(document, this))
+    , m_table(new QTableView(this))
+    , m_summary(new QLabel(this))
+    , m_languageMenu(new QMenu(this))
+    , m_details(new QWidget(this))
+    , m_detailsTitle(new QLabel(m_details)) {
+    for (QLabel *label : {m_summary, m_detailsTitle})
+        label->setTextFormat(Qt::PlainText);
+    m_table->setModel(m_model);
+    setUpTable(m_table, document, tr("Languages and texts"));
+    m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(LanguagesModel::Name, QHeaderView::Interactive);
+    header->resizeSection(LanguagesModel::Name, 150);
+    header->setSectionResizeMode(LanguagesModel::Description, QHeaderView::Stretch);
+    header->setSectionResizeMode(LanguagesModel::Coverage, QHeaderView::Interactive);
+    header->resizeSection(LanguagesModel::Coverage, 110);
+
+    auto *add = newListButton(tr("&Add Language"), true, this);
+    add->setMenu(m_languageMenu);
+    connect(m_languageMenu, &QMenu::aboutToShow, this, &TextsPage::fillLanguageMenu);
+    m_remove = newListButton(tr("&Remove Language"), false, this);
+    connect(m_remove, &QPushButton::clicked, this,
+            [this] { m_model->remove(current().isoCode()); });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(m_remove);
+    buttons->addStretch();
+    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_summary->setForegroundRole(QPalette::PlaceholderText);
+
+    auto *tablePart = new QWidget(this);
+    auto *tableLayout = new QVBoxLayout(tablePart);
+    tableLayout->setContentsMargins(0, 0, 0, 0);
+    tableLayout->addWidget(m_summary);
+    tableLayout->addWidget(m_table);
+    tableLayout->addLayout(buttons);
+
+    auto *form = new QFormLayout(m_details);
+    form->setContentsMargins(0, 8, 0, 0);
+    QFont bold = m_detailsTitle->font();
+    bold.setBold(true);
+    m_detailsTitle->setFont(bold);
+    form->addRow(m_detailsTitle);
+    const auto binding = [this](PackageLocalizedStringCommand::WhatString what,
+                                const char *field) -> TextBinding {
+        return {[this, field] {
+                    return FieldPath().field(field).key(Zel::toUtf8(current().isoCode()));
+                },
+                [this, what](const QString &text, bool isFinal) {
+                    return new PackageLocalizedStringCommand(package(), text, what, current(),
+                                                             isFinal);
+                }};
+    };
+    m_name = addTextRow(form, tr("&Name:"), document,
+                        binding(PackageLocalizedStringCommand::Name, "names"));
+    auto *description = new QPlainTextEdit(m_details);
+    description->setMinimumHeight(description->fontMetrics().lineSpacing() * 3 + 14);
+    form->addRow(tr("D&escription:"), description);
+    m_description = new TextField(
+        description, document, binding(PackageLocalizedStringCommand::Description, "descriptions"));
+
+    auto *splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(tablePart);
+    splitter->addWidget(m_details);
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({340, 150});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 16);
+    layout->addWidget(splitter);
+
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TextsPage::showCurrent);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &TextsPage::showCurrent);
+    connect(&document, &Document::edited, this, &TextsPage::refresh);
+    showCurrent();
+    refresh();
+}
+
+RobotLanguage TextsPage::current() const {
+    return Zel::Language::languageInUse(
+        m_table->currentIndex().data(LanguagesModel::CodeRole).toString());
+}
+
+void TextsPage::showCurrent() {
+    if (!m_table->currentIndex().isValid() && m_model->rowCount() > 0)
+        m_table->setCurrentIndex(m_model->index(0, LanguagesModel::Name));
+    document().closeRun();
+    m_name->reload();
+    m_description->reload();
+    refresh();
+}
+
+void TextsPage::refresh() {
+    const RobotLanguage language = current();
+    const bool isShown = !language.isoCode().isEmpty();
+    m_details->setEnabled(isShown);
+    m_detailsTitle->setText(isShown ? language.uiName() : tr("No language is selected."));
+    m_remove->setEnabled(isShown && (package()->hasLanguageSupport(language) ||
+                                     package()->hasLanguageDescription(language)));
+    m_summary->setText(m_model->summary());
+}
+
+void TextsPage::fillLanguageMenu() {
+    m_languageMenu->clear();
+    for (const RobotLanguage &language : Zel::Language::knownLanguages()) {
+        if (package()->hasLanguageSupport(language))
+            continue;
+        const QString code = language.isoCode();
+        m_languageMenu->addAction(language.uiName(), this, [this, code] { addLanguage(code); });
+    }
+    m_languageMenu->addSeparator();
+    m_languageMenu->addAction(tr("Other Language…"), this, &TextsPage::addOtherLanguage);
+}
+
+void TextsPage::addOtherLanguage() {
+    const QString code = QInputDialog::getText(this, tr("Add Language"),
+                                               tr("Code of the language, such as en or pt_BR:"))
+                             .trimmed();
+    static const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9]+([_-][A-Za-z0-9]+)*")));
+    if (form.match(code).hasMatch())
+        addLanguage(code);
+}
+
+void TextsPage::addLanguage(const QString &code) {
+    m_model->add(code);
+    m_table->setCurrentIndex(
+        m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
+}
+
+bool TextsPage::showField(const FieldPath &path) {
+    const bool isName = fieldName(path) == QLatin1String("names");
+    if (!isName && fieldName(path) != QLatin1String("descriptions"))
+        return false;
+    const int row = int(m_model->keys().indexOf(fieldKey(path)));
+    m_table->setCurrentIndex(
+        m_model->index(row, isName ? LanguagesModel::Name : LanguagesModel::Description));
+    (isName ? m_name : m_description)->widget()->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+} // namespace Editor

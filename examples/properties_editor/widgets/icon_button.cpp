@@ -1,0 +1,95 @@
+#include "icon_button.h"
+
+#include "document/document.h"
+#include "plain_text.h"
+
+#include <packagemodel/set_command.h>
+
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QMenu>
+#include <QMimeData>
+
+namespace Editor {
+namespace {
+
+// The file of a drag that holds a picture; empty when there is none.
+QString pictureOf(const QMimeData *data) {
+    const auto urls = data->urls();
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile() && !QImageReader::imageFormat(url.toLocalFile()).isEmpty())
+            return url.toLocalFile();
+    }
+    return {};
+}
+
+} // namespace
+
+IconButton::IconButton(Document &document, QWidget *parent)
+    : QToolButton(parent)
+    , m_document(document) {
+    setIconSize(QSize(96, 96));
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Icon"));
+    setToolTip(tr("Click to choose an icon, or drop a picture here."));
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto *removal = new QAction(tr("Use the Default Icon"), this);
+    connect(removal, &QAction::triggered, this, [this] { setIconOf(QPixmap()); });
+    addAction(removal);
+    connect(this, &QToolButton::clicked, this, &IconButton::choose);
+    connect(&document, &Document::edited, this, &IconButton::refresh);
+    refresh();
+}
+
+void IconButton::refresh() {
+    const QIcon icon = m_document.package()->icon();
+    setIcon(icon.isNull() ? Zel::PackageInfoModel::defaultIcon() : icon);
+}
+
+void IconButton::choose() {
+    const QString directory = QFileInfo(m_document.fileName()).absolutePath();
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Choose an Icon"), directory,
+                                                          tr("Pictures (*.png *.jpg *.bmp *.svg)"));
+    if (!fileName.isEmpty())
+        setIconFromFile(fileName);
+}
+
+void IconButton::setIconFromFile(const QString &fileName) {
+    QImageReader reader(fileName);
+    reader.setAutoTransform(true);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        PlainMessageBox(QMessageBox::Warning, tr("Choose an Icon"),
+                        tr("The picture %1 cannot be read: %2").arg(fileName, reader.errorString()),
+                        QMessageBox::Ok, this)
+            .exec();
+        return;
+    }
+    setIconOf(QPixmap::fromImage(image));
+}
+
+void IconButton::setIconOf(const QPixmap &pixmap) {
+    const QIcon icon = pixmap.isNull() ? QIcon() : QIcon(pixmap);
+    if (icon.isNull() && m_document.package()->icon().isNull())
+        return;
+    m_document.push(new Zel::PackageGenericValueCommand<QIcon>(m_document.package(), icon));
+}
+
+void IconButton::dragEnterEvent(QDragEnterEvent *event) {
+    if (event->mimeData()->hasImage() || !pictureOf(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void IconButton::dropEvent(QDropEvent *event) {
+    const QString fileName = pictureOf(event->mimeData());
+    if (!fileName.isEmpty())
+        setIconFromFile(fileName);
+    else
+        setIconOf(QPixmap::fromImage(qvariant_cast<QImage>(event->mimeData()->imageData())));
+    event->acceptProposedAction();
+}
+
+} // namespace Editor

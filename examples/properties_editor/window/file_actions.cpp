@@ -1,0 +1,282 @@
+#include "file_actions.h"
+
+#include "main_window.h"
+#include "widgets/marks.h"
+#include "widgets/message_bar.h"
+#include "widgets/plain_text.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSettings>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <array>
+
+// A static library's resources wait for this, which has to stand outside of any namespace.
+static void initTemplates() {
+    Q_INIT_RESOURCE(templates);
+}
+
+namespace Editor {
+namespace {
+
+constexpr int maximumRecent = 8;
+const QString recentKey = QStringLiteral("recentFiles");
+
+struct Template {
+    const char *resource;
+    const char *name;
+};
+
+constexpr std::array templates{
+    Template{":/templates/empty.xml", QT_TRANSLATE_NOOP("Editor::FileActions", "Empty Package")},
+    Template{":/templates/behavior.xml",
+             QT_TRANSLATE_NOOP("Editor::FileActions", "Behavior Started by a Sentence")},
+    Template{":/templates/service.xml",
+             QT_TRANSLATE_NOOP("Editor::FileActions", "Service in the Background")},
+};
+
+QAction *newAction(QObject *parent, const QString &text, const char *icon,
+                   QStyle::StandardPixmap fallback, const QKeySequence &shortcut) {
+    auto *action = new QAction(platformIcon(QLatin1String(icon), fallback), text, parent);
+    action->setShortcut(shortcut);
+    return action;
+}
+
+} // namespace
+
+FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
+    : QObject(&window)
+    , m_window(window)
+    , m_document(window.document())
+    , m_messageBar(messageBar)
+    , m_templates(new QMenu(tr("&New"), &window))
+    , m_recent(new QMenu(tr("Open &Recent"), &window))
+    , m_open(newAction(this, tr("&Open…"), "document-open", QStyle::SP_DialogOpenButton,
+                       QKeySequence::Open))
+    , m_save(newAction(this, tr("&Save"), "document-save", QStyle::SP_DialogSaveButton,
+                       QKeySequence::Save))
+    , m_saveAs(newAction(this, tr("Save &As…"), "document-save-as", QStyle::SP_DialogSaveButton,
+                         QKeySequence(QStringLiteral("Ctrl+Shift+S"))))
+    , m_publish(newAction(this, tr("&Publish…"), "document-export", QStyle::SP_ArrowUp,
+                          QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_reload(newAction(this, tr("Re&load"), "view-refresh", QStyle::SP_BrowserReload,
+                         QKeySequence::Refresh))
+    , m_quit(newAction(this, tr("&Quit"), "application-exit", QStyle::SP_DialogCloseButton,
+                       QKeySequence::Quit)) {
+    initTemplates();
+    m_templates->setIcon(platformIcon(QStringLiteral("document-new"), QStyle::SP_FileIcon));
+    for (const Template &entry : templates) {
+        const QString resource = QLatin1String(entry.resource);
+        QAction *action =
+            m_templates->addAction(tr(entry.name), this, [this, resource] { newFrom(resource); });
+        if (m_templates->actions().size() == 1)
+            action->setShortcut(QKeySequence::New);
+    }
+    m_recent->setIcon(platformIcon(QStringLiteral("document-open-recent"), QStyle::SP_FileIcon));
+    connect(m_recent, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
+    connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);
+    connect(m_save, &QAction::triggered, this, &FileActions::save);
+    connect(m_saveAs, &QAction::triggered, this, &FileActions::saveAs);
+    connect(m_publish, &QAction::triggered, this, &FileActions::publish);
+    connect(m_reload, &QAction::triggered, this, &FileActions::reload);
+    connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
+
+    connect(&m_document, &Document::fileNameChanged, this, [this] {
+        m_reload->setEnabled(!m_document.fileName().isEmpty());
+        m_messageBar.hide();
+    });
+    m_reload->setEnabled(false);
+    connect(&m_document, &Document::fileDiffers, this, &FileActions::tellDiskState);
+    connect(&m_messageBar, &MessageBar::accepted, this, [this] {
+        if (m_document.checkDisk() == Document::DiskState::Vanished)
+            save();
+        else
+            reload();
+    });
+}
+
+void FileActions::fillMenu(QMenu *menu) {
+    menu->addMenu(m_templates);
+    menu->addAction(m_open);
+    menu->addMenu(m_recent);
+    menu->addSeparator();
+    menu->addActions({m_save, m_saveAs, m_publish});
+    menu->addSeparator();
+    menu->addAction(m_reload);
+    menu->addSeparator();
+    menu->addAction(m_quit);
+}
+
+void FileActions::fillToolBar(QToolBar *toolBar) {
+    auto *button = new QToolButton(toolBar);
+    button->setMenu(m_templates);
+    button->setIcon(m_templates->icon());
+    button->setToolTip(tr("New package from a template"));
+    button->setAccessibleName(button->toolTip());
+    button->setPopupMode(QToolButton::InstantPopup);
+    toolBar->addWidget(button);
+    toolBar->addActions({m_open, m_save});
+}
+
+QString FileActions::directory() const {
+    return m_document.fileName().isEmpty() ? QString()
+                                           : QFileInfo(m_document.fileName()).absolutePath();
+}
+
+bool FileActions::settle() {
+    if (!m_window.takeEdits())
+        return false;
+    if (!m_document.isModified())
+        return true;
+    QMessageBox box(QMessageBox::Question, tr("Unsaved Changes"),
+                    tr("The package has changes that are not saved."),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setInformativeText(tr("They are lost unless you save them."));
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return save();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void FileActions::tellFailure(const QString &title, const QString &fileName) {
+    PlainMessageBox box(QMessageBox::Critical, title, m_document.errorString(), QMessageBox::Ok,
+                        &m_window);
+    box.setInformativeText(QDir::toNativeSeparators(fileName));
+    box.exec();
+}
+
+bool FileActions::open(const QString &fileName) {
+    if (!settle())
+        return false;
+    if (!m_document.open(fileName)) {
+        tellFailure(tr("Open"), fileName);
+        return false;
+    }
+    rememberRecent(m_document.fileName());
+    return true;
+}
+
+void FileActions::chooseAndOpen() {
+    const QString fileName = QFileDialog::getOpenFileName(
+        &m_window, tr("Open a Manifest"), directory(), tr("Manifests (*.xml);;All files (*)"));
+    if (!fileName.isEmpty())
+        open(fileName);
+}
+
+void FileActions::newFrom(const QString &resource) {
+    QFile file(resource);
+    if (!settle() || !file.open(QIODevice::ReadOnly))
+        return;
+    if (!m_document.openTemplate(file.readAll()))
+        tellFailure(tr("New"), resource);
+}
+
+bool FileActions::save() {
+    return m_document.fileName().isEmpty()
+               ? saveAs()
+               : m_window.takeEdits() && mayOverwrite() && saveTo(m_document.fileName());
+}
+
+bool FileActions::saveAs() {
+    if (!m_window.takeEdits())
+        return false;
+    const QString proposal =
+        m_document.fileName().isEmpty() ? QStringLiteral("manifest.xml") : m_document.fileName();
+    const QString fileName = QFileDialog::getSaveFileName(
+        &m_window, tr("Save the Manifest"), proposal, tr("Manifests (*.xml);;All files (*)"));
+    return !fileName.isEmpty() && saveTo(fileName);
+}
+
+bool FileActions::mayOverwrite() {
+    if (m_document.checkDisk() != Document::DiskState::Changed)
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Save"),
+                    tr("Another program has changed the file since it was opened."),
+                    QMessageBox::Save | QMessageBox::Cancel, &m_window);
+    box.setInformativeText(tr("Saving replaces what the other program has written."));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
+}
+
+bool FileActions::saveTo(const QString &fileName) {
+    if (!m_document.save(fileName)) {
+        tellFailure(tr("Save"), fileName);
+        return false;
+    }
+    rememberRecent(m_document.fileName());
+    return true;
+}
+
+void FileActions::publish() {
+    if (!m_window.takeEdits())
+        return;
+    const QString fileName = QFileDialog::getSaveFileName(
+        &m_window, tr("Publish the Manifest"), directory() + QLatin1String("/published.xml"),
+        tr("Manifests (*.xml);;All files (*)"));
+    if (!fileName.isEmpty() && !m_document.publish(fileName))
+        tellFailure(tr("Publish"), fileName);
+}
+
+void FileActions::reload() {
+    if (m_document.isModified()) {
+        QMessageBox box(QMessageBox::Question, tr("Reload"),
+                        tr("The package has changes that are not saved."),
+                        QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+        box.setInformativeText(tr("Reloading loses them."));
+        box.setDefaultButton(QMessageBox::Cancel);
+        if (box.exec() != QMessageBox::Discard)
+            return;
+    }
+    if (!m_document.open(m_document.fileName()))
+        tellFailure(tr("Reload"), m_document.fileName());
+}
+
+void FileActions::tellDiskState(Document::DiskState state) {
+    switch (state) {
+    case Document::DiskState::Same:
+        m_messageBar.hide();
+        break;
+    case Document::DiskState::Changed:
+        m_messageBar.tell(tr("Another program has changed the file."), tr("Reload"),
+                          tr("Keep What Is Here"));
+        break;
+    case Document::DiskState::Vanished:
+        m_messageBar.tell(tr("The file is not there any more."), tr("Save It Again"),
+                          tr("Dismiss"));
+        break;
+    }
+}
+
+void FileActions::fillRecentMenu() {
+    m_recent->clear();
+    const QStringList files = QSettings().value(recentKey).toStringList();
+    for (const QString &file : files) {
+        QString shown = file;
+        m_recent->addAction(shown.replace(u'&', QLatin1String("&&")), this,
+                            [this, file] { open(file); });
+    }
+    if (files.isEmpty())
+        m_recent->addAction(tr("No files yet"))->setEnabled(false);
+}
+
+void FileActions::rememberRecent(const QString &fileName) {
+    QSettings settings;
+    QStringList files = settings.value(recentKey).toStringList();
+    files.removeAll(fileName);
+    files.prepend(fileName);
+    settings.setValue(recentKey, QStringList(files.mid(0, maximumRecent)));
+}
+
+} // namespace Editor

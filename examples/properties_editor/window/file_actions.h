@@ -1,0 +1,58 @@
+#pragma once
+
+#include "document/document.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QToolBar;
+
+namespace Editor {
+
+class MainWindow;
+class MessageBar;
+
+/// Opening, saving and publishing, with all that has to be asked and told.
+class FileActions : public QObject {
+    Q_OBJECT
+
+public:
+    FileActions(MainWindow &window, MessageBar &messageBar);
+
+    void fillMenu(QMenu *menu);
+    void fillToolBar(QToolBar *toolBar);
+
+    /// Asks about unsaved changes; returns whether the package may be left.
+    bool settle();
+    bool open(const QString &fileName);
+    bool save();
+    bool saveAs();
+
+private:
+    void chooseAndOpen();
+    void newFrom(const QString &resource);
+    void publish();
+    void reload();
+    void tellDiskState(Document::DiskState state);
+    bool saveTo(const QString &fileName);
+    bool mayOverwrite();
+    void tellFailure(const QString &title, const QString &fileName);
+    void fillRecentMenu();
+    void rememberRecent(const QString &fileName);
+    QString directory() const;
+
+    MainWindow &m_window;
+    Document &m_document;
+    MessageBar &m_messageBar;
+    QMenu *m_templates;
+    QMenu *m_recent;
+    QAction *m_open;
+    QAction *m_save;
+    QAction *m_saveAs;
+    QAction *m_publish;
+    QAction *m_reload;
+    QAction *m_quit;
+};
+
+} // namespace Editor

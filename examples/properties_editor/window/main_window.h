@@ -1,0 +1,70 @@
+#pragma once
+
+#include "document/document.h"
+
+#include <QMainWindow>
+#include <QVector>
+
+class QListWidget;
+class QStackedWidget;
+class QToolButton;
+class QTreeView;
+
+namespace Editor {
+
+class FileActions;
+class MessageBar;
+class Page;
+class ProblemsModel;
+class ProblemsPanel;
+class TextField;
+
+/// The window of the editor.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    Document &document() { return m_document; }
+
+    /// Opens a manifest, once unsaved changes are settled; says so when it cannot be read.
+    bool openFile(const QString &fileName);
+    /// Shows the field with a path as issues have it, and gives it the focus.
+    void showField(const QString &path);
+    void showPage(int index);
+
+    /// Takes into the package what is being typed anywhere. Where a text cannot be taken, asks;
+    /// returns false when the user would rather mend it.
+    bool takeEdits();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void addPages();
+    void addMenus();
+    void addProblemsDock();
+    void addHistoryDock();
+    void addStatus();
+    void refreshTitle();
+    void refreshStatus();
+    QWidget *openCellEditor() const;
+    bool askAboutRefusal(const QString &refusal, QWidget *field);
+
+    Document m_document;
+    FileActions *m_files;
+    MessageBar *m_messageBar;
+    QListWidget *m_navigation;
+    QStackedWidget *m_stack;
+    QVector<Page *> m_pages;
+    ProblemsModel *m_problems;
+    ProblemsPanel *m_problemsPanel = nullptr;
+    QToolButton *m_problemCount = nullptr;
+};
+
+} // namespace Editor
