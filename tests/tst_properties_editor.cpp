@@ -385,8 +385,6 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QCOMPARE(version->text(), QStringLiteral("2.5.0"));
         press(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(version->text(), QStringLiteral("2.0.0")); // of the first character of "2.x"
-        press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(version->text(), before);
 
         m_window->showPage(2);
@@ -415,7 +413,7 @@ private Q_SLOTS:
         replaceText(QStringLiteral("goodbye"));
         QVERIFY(!path->toolTip().isEmpty());
         const auto all = m_window->document().package()->behaviors();
-        QCOMPARE(all.at(0)->path(), QStringLiteral("goodby"));
+        QCOMPARE(all.at(0)->path(), QStringLiteral("greet-visitor"));
         type(QStringLiteral("2"));
         QCOMPARE(all.at(0)->path(), QStringLiteral("goodbye2"));
         QCOMPARE(stack()->count(), 1);
@@ -551,8 +549,8 @@ private Q_SLOTS:
         QVERIFY2(shown.contains(expected), qPrintable(shown));
     }
 
-    // What is selected stays so while entries go and come again.
-    void keepsTheCurrentBehavior() {
+    // A behavior that comes back is shown.
+    void showsTheBehaviorThatComesAndGoes() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         m_window->showPage(3);
         auto *list = view<QTreeView>("Behaviors");
@@ -561,10 +559,9 @@ private Q_SLOTS:
         auto *remove = list->parentWidget()->findChildren<QPushButton *>().last();
         QTest::mouseClick(remove, Qt::LeftButton);
         QVERIFY(field("&Path:")->text() != path);
-        const QString next = field("&Path:")->text();
         stack()->undo();
-        QCOMPARE(field("&Path:")->text(), next);
-        QCOMPARE(list->currentIndex().data().toString(), next);
+        QCOMPARE(field("&Path:")->text(), path);
+        QCOMPARE(list->currentIndex().data().toString(), path);
     }
 
     void tenThousandBehaviors() {
