@@ -686,6 +686,68 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>Modifications récupérées</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>un paquet jamais enregistré</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… et %1 autres</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>Les modifications non enregistrées ne sont pas conservées : %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>Une autre fenêtre (processus %1 sur %2) a ouvert ce fichier. Celle qui enregistre en dernier peut écraser les modifications de l’autre.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>L’éditeur s’est arrêté avant l’enregistrement des modifications du %1.</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>Le fichier a changé depuis. Les modifications s’appliquent au fichier tel qu’il est maintenant.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>Les modifications ne peuvent pas s’appliquer au fichier tel qu’il est maintenant. Elles sont conservées.</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>Modifications : %1, dans %2</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>

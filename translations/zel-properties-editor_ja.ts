@@ -686,6 +686,68 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>復元した編集</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>まだ保存されていないパッケージ</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… ほか%1件</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>保存していない編集を保管できません: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>別のウィンドウ（%2 のプロセス %1）がこのファイルを開いています。後から保存した方が、他方の編集を上書きすることがあります。</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>%1 の編集を保存する前にエディターが終了しました。</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>その後ファイルが変更されています。編集は現在のファイルに適用されます。</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>復元する</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>現在のファイルには編集を適用できません。編集は保管されています。</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>編集: %1件（%2）</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
