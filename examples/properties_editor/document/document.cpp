@@ -2,6 +2,8 @@
 
 #include "field_edits.h"
 
+#include <tano/kept_content.h>
+
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
@@ -34,6 +36,19 @@ QPixmap largest(const QIcon &icon) {
     if (!available.isEmpty())
         size = available.last();
     return icon.pixmap(size);
+}
+
+// Whether a load of the manifest that a package has written gives the same package for edits: it
+// places comments and unknown content by what is around them, and describes the package in every
+// supported language.
+bool loadsAsItIs(const PackageInfoModel &package, const std::string &manifest) {
+    const auto has = [&](const char *part) { return manifest.find(part, 1) != std::string::npos; };
+    const auto &supported = package.supportedLanguages();
+    return !has("<!--") && !has("<?") && !has("xmlns") &&
+           Tano::unknownNodes(package.packageInfo()).empty() &&
+           std::all_of(supported.begin(), supported.end(), [&](const auto &language) {
+               return package.hasLanguageDescription(language);
+           });
 }
 
 } // namespace
@@ -91,6 +106,7 @@ bool Document::save(const QString &fileName) {
     if (path == m_fileName)
         manifest.expected = m_seenOnDisk;
     const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
+    const bool isReplayable = m_undoStack.index() == 0 || loadsAsItIs(*m_package, *manifest.bytes);
     std::vector<Tano::FileToSave> files{std::move(manifest)};
     if (!addIcon(fileName, files))
         return false;
@@ -99,6 +115,7 @@ bool Document::save(const QString &fileName) {
         return false;
     }
     m_fileName = path;
+    m_isReplayable = isReplayable;
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(written);
     m_undoStack.setClean();
@@ -180,6 +197,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_undoStack.clear(); // its views and actions follow at once
     m_isReplacing = false;
     m_stackIndex = 0;
+    m_isReplayable = true;
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;

@@ -80,7 +80,7 @@ public:
     void setTypingPause(std::chrono::milliseconds pause) { m_pause.setInterval(pause); }
 
     /// The edits that lead from the package as it was opened or last saved to the present one; the
-    /// whole package if the undo stack cannot lead back there. The icon is not among them.
+    /// whole package if edits cannot lead there exactly. The icon is not among them.
     Zel::PackageModel::Edits pendingEdits() const;
 
     // What is wrong, as it is right now.
@@ -126,6 +126,7 @@ private:
     Tano::FieldPath m_run; // the field that is being typed in; empty while no run is open
     QTimer m_pause;
     int m_stackIndex = 0;
+    bool m_isReplayable = true; // whether a load of the saved file takes the edits that follow
     bool m_isPushing = false;
     bool m_isReplacing = false;
 
