@@ -26,7 +26,7 @@ QString notForThis() {
 QString setRefusal(const Edit &edit, const FieldTarget &target) {
     if (!edit.value || (!target.cell && target.item < 0))
         return notForThis();
-    if (const QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
+    if (QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
         return reason;
     if (!target.cell)
         return target.list->refusal(*edit.value, target.item);
