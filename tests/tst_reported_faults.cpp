@@ -162,6 +162,10 @@ constexpr Exception exceptions[]{
          return valid.contains(mutant.canonicalPath) &&
                 unordered(treeOf(mutant.path)) == unordered(treeOf(mutant.canonicalPath));
      }},
+    {"The name of a namespace is any text for the reader, and a URI for xmllint.",
+     [](const Mutant &mutant, const QSet<QString> &) {
+         return mutant.fault.contains(QRegularExpression(text(" xmlns:?[a-z]* changed to  ")));
+     }},
 };
 
 QByteArray contentOf(const QString &path) {
@@ -260,11 +264,14 @@ private:
         const QSet<QString> valid = acceptedBySchema(dir);
         QStringList unnoticed;
         for (const Mutant &mutant : suspects) {
-            const bool isException =
-                std::any_of(std::begin(exceptions), std::end(exceptions),
-                            [&](const Exception &each) { return each.applies(mutant, valid); });
-            if (!isException)
-                unnoticed += mutant.fault % u'\n' % QString::fromUtf8(contentOf(mutant.path));
+            const auto *exception =
+                std::find_if(std::begin(exceptions), std::end(exceptions),
+                             [&](const Exception &each) { return each.applies(mutant, valid); });
+            if (exception == std::end(exceptions))
+                unnoticed +=
+                    mutant.fault % u'\n' % QString::fromUtf8(contentOf(mutant.path)).left(500);
+            else
+                qInfo("%s: %s", qPrintable(mutant.fault), exception->reason);
         }
         QVERIFY2(unnoticed.isEmpty(), qPrintable(unnoticed.join(u'\n')));
     }
