@@ -206,6 +206,7 @@ Applied apply(PackageInfoModel *package, const Edits &edits) {
         inverses.push_back(applied.inverse);
     }
     Edits inverse;
+    inverse.reserve(edits.size());
     for (auto last = inverses.rbegin(); last != inverses.rend(); ++last)
         inverse += *last;
     if (!error.isEmpty()) {
