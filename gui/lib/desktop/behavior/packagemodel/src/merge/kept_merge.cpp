@@ -8,12 +8,14 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 
 namespace Zel::PackageModel {
 namespace {
 
 using Tano::FieldPath;
 using Tano::KeptComment;
+using Tano::KeptNode;
 using Tano::PackageInfo;
 using Tano::UnknownNode;
 
@@ -86,31 +88,96 @@ void mergeComments(const Sides<PackageInfo> &records, const FieldMerge &merge,
         merged = Tano::withComments(merged, added);
 }
 
-bool isAmong(const std::vector<UnknownNode> &nodes, const UnknownNode &node) {
-    return std::any_of(nodes.begin(), nodes.end(), [&](const UnknownNode &each) {
-        return each.kind == node.kind && each.name == node.name && each.parent == node.parent &&
-               each.parentPath == node.parentPath && each.index == node.index;
-    });
+// The elements or attributes of one name in one element: what an author means by a node.
+using NodeGroup = std::tuple<FieldPath, std::string, std::string, UnknownNode::Kind, std::string>;
+using NodesByGroup = std::map<NodeGroup, std::vector<KeptNode>>;
+
+NodesByGroup groupsOf(const std::vector<KeptNode> &nodes) {
+    NodesByGroup groups;
+    for (const KeptNode &node : nodes)
+        groups[{node.parentPath, node.parent, node.language, node.kind, node.name}].push_back(node);
+    return groups;
 }
 
-void reportUnknownNodes(const Sides<PackageInfo> &records, const PackageInfo &merged,
-                        FieldMerge &merge) {
-    const auto added = Tano::unknownNodes(records.theirs);
-    if (added.empty())
-        return;
-    const auto known = Tano::unknownNodes(records.base);
-    const auto present = Tano::unknownNodes(merged);
-    for (UnknownNode node : added) {
-        if (isAmong(known, node))
-            continue;
-        node.parentPath = merge.placeOf(node.parentPath);
-        const bool isElement = node.kind == UnknownNode::Kind::Element;
-        if (!isAmong(present, node))
-            merge.addConflict(node.parentPath,
-                              {QJsonValue::Undefined, QJsonValue::Undefined,
-                               isElement ? QString(u'<' + fromUtf8(node.name) + u'>')
-                                         : QString(fromUtf8(node.name) + u'=')});
+// The nodes of a list that another one lacks, by their XML.
+std::vector<KeptNode> without(std::vector<KeptNode> nodes, const std::vector<KeptNode> &others) {
+    for (const KeptNode &other : others) {
+        const auto same = std::find_if(nodes.begin(), nodes.end(),
+                                       [&](const KeptNode &each) { return each.xml == other.xml; });
+        if (same != nodes.end())
+            nodes.erase(same);
     }
+    return nodes;
+}
+
+void addNodeConflict(const KeptNode &theirs, const QJsonValue &ours, FieldMerge &merge) {
+    merge.addConflict(theirs.parentPath,
+                      {QJsonValue::Undefined, ours, fromUtf8(theirs.xml).trimmed()});
+}
+
+// What theirs changed in the unknown elements and attributes of a group. What it only removed
+// stays, since its whole parent may be gone.
+class NodeMerge {
+public:
+    NodeMerge(const PackageInfo &base, const PackageInfo &merged, FieldMerge &merge)
+        : m_base(groupsOf(Tano::keptNodes(base)))
+        , m_merged(groupsOf(Tano::keptNodes(merged)))
+        , m_merge(merge) {}
+
+    void add(const NodeGroup &group, const std::vector<KeptNode> &theirs) {
+        const auto &base = m_base[group];
+        NodeGroup place = group;
+        auto &path = std::get<FieldPath>(place);
+        path = m_merge.placeOf(path);
+        const auto &present = m_merged[place];
+        auto gone = without(base, theirs);
+        for (KeptNode node : without(without(theirs, base), without(present, base))) {
+            node.parentPath = path;
+            const bool replaces = !gone.empty();
+            const auto old = std::find_if(present.begin(), present.end(), [&](const auto &each) {
+                return replaces && each.xml == gone.back().xml;
+            });
+            const bool isOnlyOne = node.kind == UnknownNode::Kind::Attribute;
+            if (replaces ? old == present.end() : isOnlyOne && !present.empty()) {
+                addNodeConflict(node,
+                                present.empty() ? QJsonValue(QJsonValue::Undefined)
+                                                : fromUtf8(present.back().xml).trimmed(),
+                                m_merge);
+                continue;
+            }
+            if (replaces) {
+                m_removed.push_back(*old);
+                gone.pop_back();
+            }
+            m_added.push_back(node);
+        }
+    }
+
+    void finish(PackageInfo &merged) {
+        if (m_added.empty())
+            return;
+        const auto changed = Tano::withKeptNodes(merged, m_removed, m_added);
+        merged = changed.package;
+        for (const KeptNode &node : changed.left)
+            addNodeConflict(node, QJsonValue::Undefined, m_merge);
+    }
+
+private:
+    NodesByGroup m_base;
+    NodesByGroup m_merged;
+    FieldMerge &m_merge;
+    std::vector<KeptNode> m_removed;
+    std::vector<KeptNode> m_added;
+};
+
+void mergeNodes(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInfo &merged) {
+    const auto theirs = groupsOf(Tano::keptNodes(records.theirs));
+    if (theirs.empty())
+        return;
+    NodeMerge nodes(records.base, merged, merge);
+    for (const auto &[group, ofGroup] : theirs)
+        nodes.add(group, ofGroup);
+    nodes.finish(merged);
 }
 
 // A text in quotation marks, at most so long that a comment can hold two.
@@ -127,7 +194,7 @@ std::string quoted(const QString &text) {
 
 void mergeKeptContent(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInfo &merged) {
     mergeComments(records, merge, merged);
-    reportUnknownNodes(records, merged, merge);
+    mergeNodes(records, merge, merged);
 }
 
 PackageInfo withConflictComments(const PackageInfo &record,
