@@ -32,7 +32,6 @@ public:
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Tano::FieldPath field(const QModelIndex &index) const override;
     /// Removes the topic file of a row.
     void removeTopic(int row);
@@ -60,6 +59,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Tano::FieldPath field(const QModelIndex &index) const override;
+    /// The column of the field of a service with that name in paths; the first one for others.
+    Column columnOf(const QString &field) const;
 
 protected:
     QStringList currentKeys() const override;

@@ -5,8 +5,6 @@
 #include "widgets/marks.h"
 #include "widgets/typing_delegate.h"
 
-#include <packagemodel/dialog_commands.h>
-
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QListView>
@@ -54,8 +52,7 @@ QWidget *DialogsPage::newList() {
     connect(m_remove, &QPushButton::clicked, this, [this] {
         if (current())
             document().edit(
-                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())},
-                tr("Remove dialog %1").arg(current()->topicName()));
+                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())});
     });
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
@@ -72,19 +69,11 @@ QWidget *DialogsPage::newList() {
 QWidget *DialogsPage::newDetails() {
     m_details = new QWidget(this);
     auto *form = new QFormLayout;
-    m_name = addTextRow(form, tr("&Topic:"), document(),
-                        {[this] { return field("topicName"); },
-                         [this](const QString &text, bool isFinal) {
-                             return new Zel::DialogInfoModelNameCommand(
-                                 package(), current()->topicName(), text, isFinal);
-                         },
-                         tr("A dialog needs a topic name.")});
+    m_name = addTextRow(
+        form, tr("&Topic:"), document(),
+        {[this] { return field("topicName"); }, refuseEmpty(tr("A dialog needs a topic name."))});
     m_typeVersion = addTextRow(form, tr("Type &version:"), document(),
-                               {[this] { return field("typeVersion"); },
-                                [this](const QString &text, bool isFinal) {
-                                    return new Zel::DialogInfoModelTypeVersionCommand(
-                                        package(), current()->topicName(), text, isFinal);
-                                }});
+                               {[this] { return field("typeVersion"); }});
 
     m_table->setModel(m_topics);
     setUpTable(m_table, document(), tr("Topic files"));
@@ -121,7 +110,6 @@ FieldPath DialogsPage::field(const char *name) const {
 void DialogsPage::showCurrent() {
     if (!m_list->currentIndex().isValid() && m_dialogs->rowCount() > 0)
         m_list->setCurrentIndex(m_dialogs->index(0, 0));
-    document().closeRun();
     m_topics->setDialog(m_list->currentIndex().row());
     m_name->reload();
     m_typeVersion->reload();
@@ -139,13 +127,24 @@ void DialogsPage::add() {
     });
     Tano::DialogInfo dialog;
     dialog.setTopicName(Zel::toUtf8(name));
-    document().edit({appended(FieldPath().field("dialogs"), dialog)},
-                    tr("Add dialog %1").arg(name));
+    document().edit({appended(FieldPath().field("dialogs"), dialog)});
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
 }
 
-bool DialogsPage::showField(const FieldPath &) {
-    return false; // nothing is checked in dialogs
+bool DialogsPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("dialogs"))
+        return false;
+    const int row = entryIndex(package()->dialogs(), &DialogInfoModel::topicName, path);
+    if (row >= 0)
+        m_list->setCurrentIndex(m_dialogs->index(row, 0));
+    if (fieldName(path, 1) == QLatin1String("topics")) {
+        m_table->setFocus(Qt::OtherFocusReason);
+        m_table->setCurrentIndex(
+            m_topics->index(int(m_topics->keys().indexOf(fieldKey(path, 1))), 1));
+    } else if (!focusTextField(path)) {
+        m_list->setFocus(Qt::OtherFocusReason);
+    }
+    return true;
 }
 
 } // namespace Editor

@@ -230,6 +230,8 @@ void FileActions::publish() {
 }
 
 void FileActions::reload() {
+    if (!m_window.takeEdits())
+        return;
     if (m_document.isModified()) {
         QMessageBox box(QMessageBox::Question, tr("Reload"),
                         tr("The package has changes that are not saved."),

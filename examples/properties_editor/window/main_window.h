@@ -3,6 +3,7 @@
 #include "document/document.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QVector>
 
 class QListWidget;
@@ -17,7 +18,7 @@ class MessageBar;
 class Page;
 class ProblemsModel;
 class ProblemsPanel;
-class TextField;
+class TypedText;
 
 /// The window of the editor.
 class MainWindow : public QMainWindow {
@@ -35,8 +36,8 @@ public:
     void showField(const QString &path);
     void showPage(int index);
 
-    /// Takes into the package what is being typed anywhere. Where a text cannot be taken, asks;
-    /// returns false when the user would rather mend it.
+    /// Takes into the package what is being typed anywhere. Asks where a text is refused; returns
+    /// false if the user prefers to fix it.
     bool takeEdits();
 
 protected:
@@ -53,8 +54,9 @@ private:
     void addStatus();
     void refreshTitle();
     void refreshStatus();
-    QWidget *openCellEditor() const;
-    bool askAboutRefusal(const QString &refusal, QWidget *field);
+    bool askAboutRefusal(const QPointer<TypedText> &text);
+    void reveal(QWidget *field);
+    void showChange(const QString &path);
 
     Document m_document;
     FileActions *m_files;
