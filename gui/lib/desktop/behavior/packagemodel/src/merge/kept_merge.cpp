@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 #include <tuple>
 
 namespace Zel::PackageModel {
@@ -110,9 +111,17 @@ std::vector<KeptNode> without(std::vector<KeptNode> nodes, const std::vector<Kep
     return nodes;
 }
 
-void addNodeConflict(const KeptNode &theirs, const QJsonValue &ours, FieldMerge &merge) {
-    merge.addConflict(theirs.parentPath,
-                      {QJsonValue::Undefined, ours, fromUtf8(theirs.xml).trimmed()});
+constexpr std::string_view declarationStart = "xmlns:";
+
+// Whether a node is an attribute that declares a prefix.
+bool isDeclaration(const KeptNode &node) {
+    return node.name.compare(0, declarationStart.size(), declarationStart) == 0;
+}
+
+// Whether a node may use a prefix, judged by its text.
+bool mayUse(const KeptNode &node, const std::string &prefix) {
+    return node.xml.find('<' + prefix + ':') != std::string::npos ||
+           node.xml.find(' ' + prefix + ':') != std::string::npos;
 }
 
 // What theirs changed in the unknown elements and attributes of a group. What it only removed
@@ -133,23 +142,8 @@ public:
         auto gone = without(base, theirs);
         for (KeptNode node : without(without(theirs, base), without(present, base))) {
             node.parentPath = path;
-            const bool replaces = !gone.empty();
-            const auto old = std::find_if(present.begin(), present.end(), [&](const auto &each) {
-                return replaces && each.xml == gone.back().xml;
-            });
-            const bool isOnlyOne = node.kind == UnknownNode::Kind::Attribute;
-            if (replaces ? old == present.end() : isOnlyOne && !present.empty()) {
-                addNodeConflict(node,
-                                present.empty() ? QJsonValue(QJsonValue::Undefined)
-                                                : fromUtf8(present.back().xml).trimmed(),
-                                m_merge);
-                continue;
-            }
-            if (replaces) {
-                m_removed.push_back(*old);
-                gone.pop_back();
-            }
-            m_added.push_back(node);
+            if (!addNode(node, present, gone))
+                addConflict(node, present);
         }
     }
 
@@ -159,13 +153,47 @@ public:
         const auto changed = Tano::withKeptNodes(merged, m_removed, m_added);
         merged = changed.package;
         for (const KeptNode &node : changed.left)
-            addNodeConflict(node, QJsonValue::Undefined, m_merge);
+            addConflict(node, {});
     }
 
 private:
+    // A new node takes the place of one that theirs has no more. Returns false if ours has changed
+    // that one, or has another attribute of the name.
+    bool addNode(const KeptNode &node, const std::vector<KeptNode> &present,
+                 std::vector<KeptNode> &gone) {
+        const bool usesOtherNamespace =
+            std::any_of(m_otherPrefixes.begin(), m_otherPrefixes.end(),
+                        [&](const std::string &prefix) { return mayUse(node, prefix); });
+        if (usesOtherNamespace)
+            return false;
+        if (!gone.empty()) {
+            const auto old = std::find_if(present.begin(), present.end(), [&](const auto &each) {
+                return each.xml == gone.back().xml;
+            });
+            if (old == present.end())
+                return false;
+            m_removed.push_back(*old);
+            gone.pop_back();
+        } else if (node.kind == UnknownNode::Kind::Attribute && !present.empty()) {
+            return false;
+        }
+        m_added.push_back(node);
+        return true;
+    }
+
+    void addConflict(const KeptNode &node, const std::vector<KeptNode> &present) {
+        const auto shown = [](const KeptNode &each) { return fromUtf8(each.xml).trimmed(); };
+        const QJsonValue ours =
+            present.empty() ? QJsonValue(QJsonValue::Undefined) : shown(present.back());
+        m_merge.addConflict(node.parentPath, {QJsonValue::Undefined, ours, shown(node)});
+        if (isDeclaration(node))
+            m_otherPrefixes.push_back(node.name.substr(declarationStart.size()));
+    }
+
     NodesByGroup m_base;
     NodesByGroup m_merged;
     FieldMerge &m_merge;
+    std::vector<std::string> m_otherPrefixes; // that theirs declares for another namespace
     std::vector<KeptNode> m_removed;
     std::vector<KeptNode> m_added;
 };
@@ -175,8 +203,12 @@ void mergeNodes(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInf
     if (theirs.empty())
         return;
     NodeMerge nodes(records.base, merged, merge);
-    for (const auto &[group, ofGroup] : theirs)
-        nodes.add(group, ofGroup);
+    for (const bool areDeclarations : {true, false}) {
+        for (const auto &[group, ofGroup] : theirs) {
+            if (isDeclaration(ofGroup.front()) == areDeclarations)
+                nodes.add(group, ofGroup);
+        }
+    }
     nodes.finish(merged);
 }
 
