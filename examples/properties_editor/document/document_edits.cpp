@@ -117,7 +117,9 @@ FieldPath Document::changedField(int indexBefore) const {
 
 Edits Document::pendingEdits() const {
     const int clean = m_undoStack.cleanIndex();
-    if (clean < 0) {
+    if (!isModified())
+        return {};
+    if (clean < 0 || !m_isReplayable) {
         m_package->syncRecord();
         return {{Edit::Action::Set, {}, m_package->packageInfo()}};
     }
