@@ -112,7 +112,7 @@ FieldPath Document::changedField(int indexBefore) const {
         return {};
     // What leads away from the present state has the paths of the present state.
     const Edits &edits = isUndo ? command->edits() : command->inverse();
-    return edits.isEmpty() ? FieldPath() : edits.front().path;
+    return edits.isEmpty() ? FieldPath() : edits.back().path;
 }
 
 Edits Document::pendingEdits() const {
