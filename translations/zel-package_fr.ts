@@ -1140,26 +1140,6 @@
         <translation>Constats connus : %1</translation>
     </message>
     <message>
-        <source>%1 added</source>
-        <translation>%1&#xa0;: ajout</translation>
-    </message>
-    <message>
-        <source>%1 removed</source>
-        <translation>%1&#xa0;: suppression</translation>
-    </message>
-    <message>
-        <source>%1 renamed to “%2”</source>
-        <translation>%1&#xa0;: nouveau nom «&#xa0;%2&#xa0;»</translation>
-    </message>
-    <message>
-        <source>%1 changed from %2 to %3</source>
-        <translation>%1&#xa0;: %2 devient %3</translation>
-    </message>
-    <message>
-        <source>%1 moved to place %2</source>
-        <translation>%1&#xa0;: déplacement à la place %2</translation>
-    </message>
-    <message>
         <source>Only comments, unknown content or the notation of values differ.</source>
         <translation>Seuls des commentaires, du contenu inconnu ou la notation de valeurs diffèrent.</translation>
     </message>

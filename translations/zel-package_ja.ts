@@ -1140,26 +1140,6 @@
         <translation>既知の検出結果: %1</translation>
     </message>
     <message>
-        <source>%1 added</source>
-        <translation>%1を追加</translation>
-    </message>
-    <message>
-        <source>%1 removed</source>
-        <translation>%1を削除</translation>
-    </message>
-    <message>
-        <source>%1 renamed to “%2”</source>
-        <translation>%1の名前を「%2」に変更</translation>
-    </message>
-    <message>
-        <source>%1 changed from %2 to %3</source>
-        <translation>%1を%2から%3に変更</translation>
-    </message>
-    <message>
-        <source>%1 moved to place %2</source>
-        <translation>%1を%2番目に移動</translation>
-    </message>
-    <message>
         <source>Only comments, unknown content or the notation of values differ.</source>
         <translation>コメント、未知の内容、または値の表記だけが異なります。</translation>
     </message>

@@ -129,14 +129,6 @@
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
     </message>
-    <message>
-        <source>Add behavior %1</source>
-        <translation>Ajouter le comportement %1</translation>
-    </message>
-    <message>
-        <source>Remove behavior %1</source>
-        <translation>Retirer le comportement %1</translation>
-    </message>
 </context>
 <context>
     <name>Editor::DialogsModel</name>
@@ -182,14 +174,6 @@
     <message>
         <source>Remove &amp;File</source>
         <translation>Retirer le &amp;fichier</translation>
-    </message>
-    <message>
-        <source>Remove dialog %1</source>
-        <translation>Retirer le dialogue %1</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>Ajouter le dialogue %1</translation>
     </message>
 </context>
 <context>
@@ -335,6 +319,69 @@
     </message>
 </context>
 <context>
+    <name>Editor::FindPanel</name>
+    <message>
+        <source>Match case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Mots entiers</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Expression régulière</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Tout remplacer</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texte à rechercher</translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation>Remplacer par</translation>
+    </message>
+    <message>
+        <source>In the replacement, \1 is the first captured text.</source>
+        <translation>Dans le remplacement, \1 est le premier texte capturé.</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>Occurrences</translation>
+    </message>
+    <message>
+        <source>Searching: %1 so far</source>
+        <translation>Recherche en cours : %1</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Introuvable.</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>Occurrences : %1</translation>
+    </message>
+    <message>
+        <source>Replaced: %1.</source>
+        <translation>Remplacés : %1.</translation>
+    </message>
+    <message>
+        <source>Replaced: %1, not possible: %2.</source>
+        <translation>Remplacés : %1, impossibles : %2.</translation>
+    </message>
+    <message>
+        <source>Replace “%1” by “%2”</source>
+        <translation>Remplacer « %1 » par « %2 »</translation>
+    </message>
+</context>
+<context>
     <name>Editor::IconButton</name>
     <message>
         <source>Icon</source>
@@ -423,10 +470,6 @@
         <source>%1:</source>
         <translation>%1 :</translation>
     </message>
-    <message>
-        <source>Set %1</source>
-        <translation>Modifier : %1</translation>
-    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>
@@ -465,18 +508,6 @@
     <message>
         <source>Remove language %1</source>
         <translation>Retirer la langue %1</translation>
-    </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>Retirer la langue de description %1</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>Ajouter la langue %1</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>Ajouter la langue de description %1</translation>
     </message>
 </context>
 <context>
@@ -570,10 +601,6 @@ Version %1</translation>
         <translation>Continuer sans</translation>
     </message>
     <message>
-        <source>Mend It</source>
-        <translation>Corriger</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>Modification</translation>
     </message>
@@ -593,6 +620,10 @@ Version %1</translation>
         <source>&amp;Fix All Safe Problems</source>
         <translation>&amp;Corriger tout ce qui est sûr</translation>
     </message>
+    <message>
+        <source>Fix</source>
+        <translation>Corriger</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -607,6 +638,17 @@ Version %1</translation>
     <message>
         <source>Note</source>
         <translation>Remarque</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MatchesModel</name>
+    <message>
+        <source>Field</source>
+        <translation>Champ</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
     </message>
 </context>
 <context>
@@ -644,6 +686,68 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>Modifications récupérées</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>un paquet jamais enregistré</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… et %1 autres</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>Les modifications non enregistrées ne sont pas conservées : %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>Une autre fenêtre (processus %1 sur %2) a ouvert ce fichier. Celle qui enregistre en dernier peut écraser les modifications de l’autre.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>L’éditeur s’est arrêté avant l’enregistrement des modifications du %1.</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>Le fichier a changé depuis. Les modifications s’appliquent au fichier tel qu’il est maintenant.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>Les modifications ne peuvent pas s’appliquer au fichier tel qu’il est maintenant. Elles sont conservées.</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>Modifications : %1, dans %2</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -672,30 +776,6 @@ Version %1</translation>
     <message>
         <source>Highest body</source>
         <translation>Corps, maximum</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>Modifier l&apos;exigence sur le robot %1</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Modifier l&apos;exigence Brio %1</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>Ajouter une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Ajouter une exigence Brio</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>Retirer une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Retirer une exigence Brio</translation>
     </message>
 </context>
 <context>
@@ -751,18 +831,6 @@ Version %1</translation>
         <source>Starts with the robot</source>
         <translation>Démarre avec le robot</translation>
     </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>Changer le démarrage du service %1</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>Renommer le service %1</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>Modifier la commande du service %1</translation>
-    </message>
 </context>
 <context>
     <name>Editor::ServicesPage</name>
@@ -781,14 +849,6 @@ Version %1</translation>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
-    </message>
-    <message>
-        <source>Remove service %1</source>
-        <translation>Retirer le service %1</translation>
-    </message>
-    <message>
-        <source>Add service %1</source>
-        <translation>Ajouter le service %1</translation>
     </message>
 </context>
 <context>

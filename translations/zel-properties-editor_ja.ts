@@ -129,14 +129,6 @@
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
     </message>
-    <message>
-        <source>Add behavior %1</source>
-        <translation>ビヘイビア %1 を追加</translation>
-    </message>
-    <message>
-        <source>Remove behavior %1</source>
-        <translation>ビヘイビア %1 を削除</translation>
-    </message>
 </context>
 <context>
     <name>Editor::DialogsModel</name>
@@ -182,14 +174,6 @@
     <message>
         <source>Remove &amp;File</source>
         <translation>ファイルを削除(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Remove dialog %1</source>
-        <translation>ダイアログ %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>ダイアログ %1 を追加</translation>
     </message>
 </context>
 <context>
@@ -335,6 +319,69 @@
     </message>
 </context>
 <context>
+    <name>Editor::FindPanel</name>
+    <message>
+        <source>Match case</source>
+        <translation>大文字と小文字を区別</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>単語全体</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>正規表現</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>すべて置換</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>検索する文字列</translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation>置換後の文字列</translation>
+    </message>
+    <message>
+        <source>In the replacement, \1 is the first captured text.</source>
+        <translation>置換後の文字列では、\1 が最初にキャプチャした文字列です。</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>一致箇所</translation>
+    </message>
+    <message>
+        <source>Searching: %1 so far</source>
+        <translation>検索中: %1件</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>見つかりません。</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>一致: %1件</translation>
+    </message>
+    <message>
+        <source>Replaced: %1.</source>
+        <translation>置換: %1件。</translation>
+    </message>
+    <message>
+        <source>Replaced: %1, not possible: %2.</source>
+        <translation>置換: %1件、置換できないもの: %2件。</translation>
+    </message>
+    <message>
+        <source>Replace “%1” by “%2”</source>
+        <translation>「%1」を「%2」に置換</translation>
+    </message>
+</context>
+<context>
     <name>Editor::IconButton</name>
     <message>
         <source>Icon</source>
@@ -423,10 +470,6 @@
         <source>%1:</source>
         <translation>%1:</translation>
     </message>
-    <message>
-        <source>Set %1</source>
-        <translation>%1 を設定</translation>
-    </message>
 </context>
 <context>
     <name>Editor::LanguagesModel</name>
@@ -465,18 +508,6 @@
     <message>
         <source>Remove language %1</source>
         <translation>言語 %1 を削除</translation>
-    </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>説明の言語 %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>言語 %1 を追加</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>説明の言語 %1 を追加</translation>
     </message>
 </context>
 <context>
@@ -570,10 +601,6 @@ Version %1</source>
         <translation>このまま続ける</translation>
     </message>
     <message>
-        <source>Mend It</source>
-        <translation>修正する</translation>
-    </message>
-    <message>
         <source>Edit</source>
         <translation>編集</translation>
     </message>
@@ -593,6 +620,10 @@ Version %1</source>
         <source>&amp;Fix All Safe Problems</source>
         <translation>安全な修正をすべて行う(&amp;F)</translation>
     </message>
+    <message>
+        <source>Fix</source>
+        <translation>修正</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -607,6 +638,17 @@ Version %1</source>
     <message>
         <source>Note</source>
         <translation>注記</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MatchesModel</name>
+    <message>
+        <source>Field</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
     </message>
 </context>
 <context>
@@ -644,6 +686,68 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>復元した編集</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>まだ保存されていないパッケージ</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… ほか%1件</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>保存していない編集を保管できません: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>別のウィンドウ（%2 のプロセス %1）がこのファイルを開いています。後から保存した方が、他方の編集を上書きすることがあります。</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>%1 の編集を保存する前にエディターが終了しました。</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>その後ファイルが変更されています。編集は現在のファイルに適用されます。</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>復元する</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>現在のファイルには編集を適用できません。編集は保管されています。</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>編集: %1件（%2）</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -672,30 +776,6 @@ Version %1</source>
     <message>
         <source>Highest body</source>
         <translation>ボディの最大</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>ロボット要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Brio の要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>ロボット要件を追加</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Brio の要件を追加</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>ロボット要件を削除</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Brio の要件を削除</translation>
     </message>
 </context>
 <context>
@@ -751,18 +831,6 @@ Version %1</source>
         <source>Starts with the robot</source>
         <translation>ロボットと同時に起動</translation>
     </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>サービス %1 の自動起動を切り替え</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>サービス %1 の名前を変更</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>サービス %1 のコマンドを変更</translation>
-    </message>
 </context>
 <context>
     <name>Editor::ServicesPage</name>
@@ -781,14 +849,6 @@ Version %1</source>
     <message>
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Remove service %1</source>
-        <translation>サービス %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add service %1</source>
-        <translation>サービス %1 を追加</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,8 @@
 
 #include "field_edits.h"
 
+#include <packagemodel/edit_session.h>
+
 #include <tano/kept_content.h>
 
 #include <QBuffer>
@@ -62,6 +64,7 @@ Document::Document(QObject *parent)
     connect(&m_pause, &QTimer::timeout, this, &Document::closeRun);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Document::checkDisk);
     watchPackage();
+    m_template = QByteArray::fromStdString(m_package->packageInfo().saveToManifestContent());
     refreshIssues();
 }
 
@@ -88,8 +91,14 @@ bool Document::openTemplate(const QByteArray &manifest) {
         m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
         return false;
     }
+    m_template = manifest;
     replacePackage(std::move(package), QString(), {});
     return true;
+}
+
+QByteArray Document::digest() const {
+    return m_fileName.isEmpty() ? Zel::PackageModel::manifestDigest(m_template)
+                                : QByteArray::fromStdString(m_onDisk.digest).toHex();
 }
 
 bool Document::save(const QString &fileName) {

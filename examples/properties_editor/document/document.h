@@ -55,6 +55,10 @@ public:
     /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
     bool publish(const QString &fileName);
     const QString &fileName() const { return m_fileName; }
+    /// The manifest that a package without a file was started from.
+    const QByteArray &templateManifest() const { return m_template; }
+    /// The digest of the manifest that was last read or written, see UnsavedEdits.
+    QByteArray digest() const;
     const QString &errorString() const { return m_errorString; }
 
     /// Compares the file with what was last read or written. Once for every difference, sends
@@ -139,6 +143,7 @@ private:
     mutable std::optional<std::vector<Zel::PackageModel::LanguageCoverage>> m_coverages;
 
     QString m_fileName;
+    QByteArray m_template;
     QString m_errorString;
     QFileSystemWatcher m_watcher;
     Tano::FileFingerprint m_onDisk; // when last read or written

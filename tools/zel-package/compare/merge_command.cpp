@@ -2,10 +2,10 @@
 
 #include "arguments/native_text.h"
 #include "console/library_text.h"
-#include "excerpt.h"
 #include "manifest/manifest_source.h"
 #include "manifest/output_file.h"
 
+#include <packagemodel/change_words.h>
 #include <packagemodel/package_merge.h>
 #include <packagemodel/text_conversion.h>
 
@@ -56,11 +56,11 @@ std::optional<Manifest> readSide(const QString &file, Console &console) {
 QString inWords(const MergeConflict &conflict) {
     if (conflict.ours.isNull())
         return QCoreApplication::translate("zel-package", "Removed by ours, %1 in theirs.")
-            .arg(excerpt(conflict.theirs));
+            .arg(Zel::PackageModel::excerpt(conflict.theirs));
     if (conflict.theirs.isNull())
         return QCoreApplication::translate("zel-package", "%1 in ours, removed by theirs.")
-            .arg(excerpt(conflict.ours));
-    const Excerpts shown = excerpts(conflict.ours, conflict.theirs);
+            .arg(Zel::PackageModel::excerpt(conflict.ours));
+    const auto shown = Zel::PackageModel::excerpts(conflict.ours, conflict.theirs);
     return QCoreApplication::translate("zel-package", "%1 in ours, %2 in theirs.")
         .arg(shown.before, shown.after);
 }
