@@ -110,9 +110,12 @@ FieldPath Document::changedField(int indexBefore) const {
     const PackageEditCommand *command = commandAt(isUndo ? m_stackIndex : m_stackIndex - 1);
     if (!command)
         return {};
-    // What leads away from the present state has the paths of the present state.
+    // What leads away from the present state has the paths of the present state. Edits that follow
+    // from another one, such as that of a language, are not at this end.
     const Edits &edits = isUndo ? command->edits() : command->inverse();
-    return edits.isEmpty() ? FieldPath() : edits.front().path;
+    if (edits.isEmpty())
+        return {};
+    return isUndo ? edits.back().path : edits.front().path;
 }
 
 Edits Document::pendingEdits() const {
