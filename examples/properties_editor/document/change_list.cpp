@@ -8,15 +8,24 @@ namespace Editor {
 
 using Zel::PackageInfoModel;
 
+ChangeList changesBetween(const PackageInfoModel &from, const PackageInfoModel &to) {
+    ChangeList changes;
+    const auto edits = Zel::PackageModel::edits(&from, &to);
+    for (const auto &edit : edits)
+        changes.paths.append(edit.path);
+    PackageInfoModel scratch(from);
+    Zel::PackageModel::visitChanges(
+        &scratch, edits, [&](const QString &line) { changes.lines.append(line.simplified()); });
+    return changes;
+}
+
 ChangeList changesOf(const PackageInfoModel *package, const Zel::PackageModel::Edits &edits) {
-    PackageInfoModel before(*package);
     PackageInfoModel after(*package);
     const auto applied = Zel::PackageModel::apply(&after, edits);
-    ChangeList changes{{}, applied.error};
-    if (changes.error.isEmpty())
-        Zel::PackageModel::visitChanges(
-            &before, Zel::PackageModel::edits(package, &after),
-            [&](const QString &line) { changes.lines.append(line.simplified()); });
+    ChangeList changes;
+    if (applied.error.isEmpty())
+        changes = changesBetween(*package, after);
+    changes.error = applied.error;
     return changes;
 }
 

@@ -40,9 +40,9 @@ QPixmap largest(const QIcon &icon) {
     return icon.pixmap(size);
 }
 
-// Whether a load of the manifest that a package has written gives the same package for edits: it
-// places comments and unknown content by what is around them, and describes the package in every
-// supported language.
+// Whether a load of the manifest that a package has written gives the same package for edits:
+// it places comments and unknown content by what is around them, and describes the package in
+// every supported language.
 bool loadsAsItIs(const PackageInfoModel &package, const std::string &manifest) {
     const auto has = [&](const char *part) { return manifest.find(part, 1) != std::string::npos; };
     const auto &supported = package.supportedLanguages();
@@ -125,6 +125,7 @@ bool Document::save(const QString &fileName) {
     }
     m_fileName = path;
     m_isReplayable = isReplayable;
+    m_saved = m_package->packageInfo();
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(written);
     m_undoStack.setClean();
@@ -156,15 +157,49 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
 
 bool Document::publish(const QString &fileName) {
     closeRun();
-    m_package->syncRecord();
-    PackageInfoModel published(*m_package);
-    published.trimExtraInfo();
-    published.genPlainTextFromScript();
-    published.syncRecord();
-    if (published.saveToManifestFile(fileName))
+    const auto copy = published();
+    if (copy->saveToManifestFile(fileName))
         return true;
-    m_errorString = Zel::fromUtf8(published.packageInfo().errorString());
+    m_errorString = Zel::fromUtf8(copy->packageInfo().errorString());
     return false;
+}
+
+std::unique_ptr<PackageInfoModel> Document::published() const {
+    m_package->syncRecord();
+    auto copy = std::make_unique<PackageInfoModel>(*m_package);
+    copy->trimExtraInfo();
+    copy->genPlainTextFromScript();
+    copy->syncRecord();
+    return copy;
+}
+
+std::unique_ptr<PackageInfoModel> Document::readAgain() {
+    auto package = std::make_unique<PackageInfoModel>();
+    if (package->loadFromManifestFile(m_fileName))
+        return package;
+    m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
+    return nullptr;
+}
+
+std::optional<QVector<Zel::PackageModel::MergeConflict>> Document::mergeWithFile() {
+    using Zel::PackageModel::Edit;
+    const auto content = Tano::FileFingerprint::ofFile(Zel::toUtf8(m_fileName));
+    const auto theirs = readAgain();
+    if (!theirs)
+        return {};
+    closeRun();
+    m_package->syncRecord();
+    const auto merged =
+        Zel::PackageModel::merge(m_saved, m_package->packageInfo(), theirs->packageInfo());
+    if (!merged.error.isEmpty()) {
+        m_errorString = merged.error;
+        return {};
+    }
+    m_saved = theirs->packageInfo();
+    rememberDisk(content);
+    m_undoStack.resetClean(); // no step leads to what the file has
+    edit({{Edit::Action::Set, {}, merged.record}}, tr("Merge with the file"));
+    return merged.conflicts;
 }
 
 Document::DiskState Document::checkDisk() {
@@ -210,6 +245,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
+    m_saved = m_package->packageInfo();
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(content);
     watchPackage();

@@ -4,6 +4,7 @@
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_issues.h>
+#include <packagemodel/package_merge.h>
 
 #include <tano/save_file.h>
 
@@ -55,11 +56,22 @@ public:
     /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
     bool publish(const QString &fileName);
     const QString &fileName() const { return m_fileName; }
+    /// The package as it was opened or last saved.
+    const Tano::PackageInfo &saved() const { return m_saved; }
     /// The manifest that a package without a file was started from.
     const QByteArray &templateManifest() const { return m_template; }
     /// The digest of the manifest that was last read or written, see UnsavedEdits.
     QByteArray digest() const;
     const QString &errorString() const { return m_errorString; }
+
+    /// The package as publish() writes it.
+    std::unique_ptr<Zel::PackageInfoModel> published() const;
+    /// Reads the package that the file has now, which another program may have changed.
+    std::unique_ptr<Zel::PackageInfoModel> readAgain();
+    /// Merges what another program has written into the file with the edits since it was last read
+    /// or saved, as an undo step. Returns the conflicts, which the issues hold too; nothing if the
+    /// file cannot be merged.
+    std::optional<QVector<Zel::PackageModel::MergeConflict>> mergeWithFile();
 
     /// Compares the file with what was last read or written. Once for every difference, sends
     /// fileDiffers().
@@ -143,6 +155,7 @@ private:
     mutable std::optional<std::vector<Zel::PackageModel::LanguageCoverage>> m_coverages;
 
     QString m_fileName;
+    Tano::PackageInfo m_saved;
     QByteArray m_template;
     QString m_errorString;
     QFileSystemWatcher m_watcher;
