@@ -1039,6 +1039,11 @@
         <source>A tag is longer than 64 KiB.</source>
         <translation>タグが 64 KiB を超えています。</translation>
     </message>
+    <message>
+        <source>en-US</source>
+        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
+        <translation>ja</translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>
