@@ -2,7 +2,6 @@
 #include "models/problems_model.h"
 #include "widgets/icon_button.h"
 #include "widgets/message_bar.h"
-#include "widgets/roomy_style.h"
 #include "window/main_window.h"
 
 #include <QAccessible>
@@ -689,12 +688,6 @@ private Q_SLOTS:
                 QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
                          area->widget()->metaObject()->className());
         }
-    }
-
-    void hintsAreVisible() {
-        QPalette palette;
-        RoomyStyle().polish(palette);
-        QCOMPARE(palette.brush(QPalette::PlaceholderText).style(), Qt::SolidPattern);
     }
 
     // Whoever uses the keyboard or a screen reader finds every field named.

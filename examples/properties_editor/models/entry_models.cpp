@@ -3,6 +3,7 @@
 #include "document/field_edits.h"
 
 #include <packagemodel/dialog_commands.h>
+#include <packagemodel/language_name.h>
 #include <packagemodel/package_edit_command.h>
 
 #include <array>
@@ -61,7 +62,7 @@ QVariant TopicsModel::data(const QModelIndex &index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() ||
         (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
-    return index.column() == 0 ? languageInUse(key(index)).uiName()
+    return index.column() == 0 ? Zel::PackageModel::languageName(languageInUse(key(index)))
                                : fieldText(package(), field(index));
 }
 

@@ -4,6 +4,7 @@
 #include "widgets/marks.h"
 #include "widgets/plain_text.h"
 
+#include <packagemodel/language_name.h>
 #include <packagemodel/set_string.h>
 
 #include <QLocale>
@@ -71,7 +72,7 @@ FieldPath LanguagesModel::field(const QModelIndex &index) const {
 
 QVariant LanguagesModel::display(const QModelIndex &index) const {
     if (index.column() == Language)
-        return languageInUse(key(index)).uiName();
+        return Zel::PackageModel::languageName(languageInUse(key(index)));
     if (index.column() != Coverage)
         return fieldText(package(), field(index));
     const auto total = document().coverage(key(index)).total();

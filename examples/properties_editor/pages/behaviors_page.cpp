@@ -4,7 +4,7 @@
 #include "document/field_edits.h"
 #include "models/behaviors_model.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHBoxLayout>
@@ -22,8 +22,7 @@ using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 
 BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Behaviors"),
-           platformIcon(QStringLiteral("system-run"), QStyle::SP_MediaPlay), parent)
+    : Page(document, tr("&Behaviors"), iconOf(Symbol::Behaviors), parent)
     , m_model(new BehaviorsModel(document, this))
     , m_filtered(new QSortFilterProxyModel(this))
     , m_filter(new QLineEdit(this))

@@ -2,7 +2,7 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
 #include <packagemodel/dialog_commands.h>
@@ -21,9 +21,7 @@ using Tano::FieldPath;
 using Zel::DialogInfoModel;
 
 DialogsPage::DialogsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Dialogs"),
-           platformIcon(QStringLiteral("dialog-messages"), QStyle::SP_MessageBoxInformation),
-           parent)
+    : Page(document, tr("&Dialogs"), iconOf(Symbol::Dialogs), parent)
     , m_dialogs(new DialogsModel(document, this))
     , m_topics(new TopicsModel(document, this))
     , m_list(new QListView(this))

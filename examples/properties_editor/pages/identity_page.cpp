@@ -1,15 +1,15 @@
 #include "identity_page.h"
 
 #include "document/field_edits.h"
+#include "widgets/hint_label.h"
 #include "widgets/icon_button.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 
 #include <packagemodel/package_edit_command.h>
 #include <packagemodel/set_string.h>
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace Editor {
@@ -18,8 +18,7 @@ using Tano::FieldPath;
 using Zel::PackageStringCommand;
 
 IdentityPage::IdentityPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Identity"),
-           platformIcon(QStringLiteral("user-identity"), QStyle::SP_FileIcon), parent) {
+    : Page(document, tr("&Identity"), iconOf(Symbol::Identity), parent) {
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(12);
     form->setVerticalSpacing(8);
@@ -49,9 +48,8 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     addOthers(form);
 
     auto *icon = new IconButton(document, this);
-    auto *hint = new QLabel(tr("Click, or drop a picture."), this);
+    auto *hint = new HintLabel(tr("Click, or drop a picture."), this);
     hint->setAlignment(Qt::AlignHCenter);
-    hint->setForegroundRole(QPalette::PlaceholderText);
     auto *iconLayout = new QVBoxLayout;
     iconLayout->setSpacing(8);
     iconLayout->addWidget(newHeading(tr("Icon"), this), 0, Qt::AlignHCenter);

@@ -1,5 +1,7 @@
 #include "page.h"
 
+#include "widgets/icons.h"
+
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -24,10 +26,7 @@ TextField *addTextRow(QFormLayout *form, const QString &label, Document &documen
 }
 
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent) {
-    // The styles have no icons for these.
-    const QIcon icon =
-        QIcon::fromTheme(isAddition ? QStringLiteral("list-add") : QStringLiteral("list-remove"));
-    auto *button = new QPushButton(icon, text, parent);
+    auto *button = new QPushButton(iconOf(isAddition ? Symbol::Add : Symbol::Remove), text, parent);
     button->setAutoDefault(false);
     return button;
 }

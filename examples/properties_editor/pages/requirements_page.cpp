@@ -1,11 +1,12 @@
 #include "requirements_page.h"
 
 #include "document/field_edits.h"
+#include "widgets/hint_label.h"
+#include "widgets/icons.h"
 #include "widgets/marks.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -13,9 +14,7 @@
 namespace Editor {
 
 RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Requirements"),
-           platformIcon(QStringLiteral("preferences-devices-cpu"), QStyle::SP_ComputerIcon),
-           parent) {
+    : Page(document, tr("&Requirements"), iconOf(Symbol::Requirements), parent) {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     m_robot = addPart(layout, RequirementsModel::Kind::Robot,
@@ -42,9 +41,8 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);
 
-    auto *hint = new QLabel(texts.hint, this);
+    auto *hint = new HintLabel(texts.hint, this);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    hint->setForegroundRole(QPalette::PlaceholderText);
     auto *mark = new MarkLabel(
         document(), [model] { return model->list(); }, this);
 

@@ -2,7 +2,7 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
@@ -15,8 +15,7 @@ namespace Editor {
 using Tano::FieldPath;
 
 ServicesPage::ServicesPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Services"),
-           platformIcon(QStringLiteral("services"), QStyle::SP_DriveNetIcon), parent)
+    : Page(document, tr("&Services"), iconOf(Symbol::Services), parent)
     , m_model(new ServicesModel(document, this))
     , m_table(new QTableView(this)) {
     m_table->setModel(m_model);

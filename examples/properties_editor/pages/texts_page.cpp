@@ -3,9 +3,11 @@
 #include "document/field_edits.h"
 #include "models/languages_model.h"
 #include "widgets/coverage_delegate.h"
-#include "widgets/marks.h"
+#include "widgets/hint_label.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
+#include <packagemodel/language_name.h>
 #include <packagemodel/set_string.h>
 
 #include <QFormLayout>
@@ -26,16 +28,14 @@ using Zel::PackageLocalizedStringCommand;
 using Zel::RobotLanguage;
 
 TextsPage::TextsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Languages"),
-           platformIcon(QStringLiteral("set-language"), QStyle::SP_FileDialogListView), parent)
+    : Page(document, tr("&Languages"), iconOf(Symbol::Languages), parent)
     , m_model(new LanguagesModel(document, this))
     , m_table(new QTableView(this))
-    , m_summary(new QLabel(this))
+    , m_summary(new HintLabel({}, this))
     , m_languageMenu(new QMenu(this))
     , m_details(new QWidget(this))
     , m_detailsTitle(new QLabel(m_details)) {
-    for (QLabel *label : {m_summary, m_detailsTitle})
-        label->setTextFormat(Qt::PlainText);
+    m_detailsTitle->setTextFormat(Qt::PlainText);
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Languages and texts"));
     m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));
@@ -60,7 +60,6 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     buttons->addWidget(m_remove);
     buttons->addStretch();
     m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_summary->setForegroundRole(QPalette::PlaceholderText);
 
     auto *tablePart = new QWidget(this);
     auto *tableLayout = new QVBoxLayout(tablePart);
@@ -129,7 +128,8 @@ void TextsPage::refresh() {
     const RobotLanguage language = current();
     const bool isShown = !language.isoCode().isEmpty();
     m_details->setEnabled(isShown);
-    m_detailsTitle->setText(isShown ? language.uiName() : tr("No language is selected."));
+    m_detailsTitle->setText(isShown ? Zel::PackageModel::languageName(language)
+                                    : tr("No language is selected."));
     m_remove->setEnabled(isShown && (package()->hasLanguageSupport(language) ||
                                      package()->hasLanguageDescription(language)));
     m_summary->setText(m_model->summary());

@@ -1,7 +1,7 @@
 #include "file_actions.h"
 
 #include "main_window.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
 
@@ -42,9 +42,9 @@ constexpr std::array templates{
              QT_TRANSLATE_NOOP("Editor::FileActions", "Service in the Background")},
 };
 
-QAction *newAction(QObject *parent, const QString &text, const char *icon,
-                   QStyle::StandardPixmap fallback, const QKeySequence &shortcut) {
-    auto *action = new QAction(platformIcon(QLatin1String(icon), fallback), text, parent);
+QAction *newAction(QObject *parent, const QString &text, Symbol symbol,
+                   const QKeySequence &shortcut) {
+    auto *action = new QAction(iconOf(symbol), text, parent);
     action->setShortcut(shortcut);
     return action;
 }
@@ -58,20 +58,16 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
     , m_messageBar(messageBar)
     , m_templates(new QMenu(tr("&New"), &window))
     , m_recent(new QMenu(tr("Open &Recent"), &window))
-    , m_open(newAction(this, tr("&Open…"), "document-open", QStyle::SP_DialogOpenButton,
-                       QKeySequence::Open))
-    , m_save(newAction(this, tr("&Save"), "document-save", QStyle::SP_DialogSaveButton,
-                       QKeySequence::Save))
-    , m_saveAs(newAction(this, tr("Save &As…"), "document-save-as", QStyle::SP_DialogSaveButton,
+    , m_open(newAction(this, tr("&Open…"), Symbol::Open, QKeySequence::Open))
+    , m_save(newAction(this, tr("&Save"), Symbol::Save, QKeySequence::Save))
+    , m_saveAs(newAction(this, tr("Save &As…"), Symbol::SaveAs,
                          QKeySequence(QStringLiteral("Ctrl+Shift+S"))))
-    , m_publish(newAction(this, tr("&Publish…"), "document-export", QStyle::SP_ArrowUp,
-                          QKeySequence(QStringLiteral("Ctrl+E"))))
-    , m_reload(newAction(this, tr("Re&load"), "view-refresh", QStyle::SP_BrowserReload,
-                         QKeySequence::Refresh))
-    , m_quit(newAction(this, tr("&Quit"), "application-exit", QStyle::SP_DialogCloseButton,
-                       QKeySequence::Quit)) {
+    , m_publish(
+          newAction(this, tr("&Publish…"), Symbol::Publish, QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_reload(newAction(this, tr("Re&load"), Symbol::Reload, QKeySequence::Refresh))
+    , m_quit(newAction(this, tr("&Quit"), Symbol::Quit, QKeySequence::Quit)) {
     initTemplates();
-    m_templates->setIcon(platformIcon(QStringLiteral("document-new"), QStyle::SP_FileIcon));
+    m_templates->setIcon(iconOf(Symbol::New));
     for (const Template &entry : templates) {
         const QString resource = QLatin1String(entry.resource);
         QAction *action =
@@ -79,7 +75,7 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
         if (m_templates->actions().size() == 1)
             action->setShortcut(QKeySequence::New);
     }
-    m_recent->setIcon(platformIcon(QStringLiteral("document-open-recent"), QStyle::SP_FileIcon));
+    m_recent->setIcon(iconOf(Symbol::Recent));
     connect(m_recent, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
     connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);
     connect(m_save, &QAction::triggered, this, &FileActions::save);

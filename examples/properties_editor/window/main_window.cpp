@@ -1,5 +1,6 @@
 #include "main_window.h"
 
+#include "color_scheme.h"
 #include "file_actions.h"
 #include "models/problems_model.h"
 #include "pages/behaviors_page.h"
@@ -9,6 +10,7 @@
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
 #include "problems_panel.h"
+#include "widgets/icons.h"
 #include "widgets/marks.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
@@ -25,7 +27,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -41,16 +42,6 @@
 
 namespace Editor {
 namespace {
-
-// Icons of one size, so that the texts beside them stand in one line.
-QIcon squareIcon(const QIcon &icon, int extent, qreal ratio) {
-    QPixmap square(QSize(extent, extent) * ratio);
-    square.setDevicePixelRatio(ratio);
-    square.fill(Qt::transparent);
-    QPainter painter(&square);
-    icon.paint(&painter, 0, 0, extent, extent);
-    return square;
-}
 
 QString localFile(const QMimeData *data) {
     const auto urls = data->urls();
@@ -110,8 +101,7 @@ void MainWindow::addPages() {
         QString title = page->title();
         title.remove(
             QRegularExpression(QStringLiteral("\\(&.\\)|&"))); // "言語(&L)" or "&Languages"
-        auto *item = new QListWidgetItem(squareIcon(page->icon(), iconExtent, devicePixelRatioF()),
-                                         title, m_navigation);
+        auto *item = new QListWidgetItem(page->icon(), title, m_navigation);
         item->setSizeHint(QSize(fontMetrics().horizontalAdvance(title) + 2 * iconExtent + 16,
                                 std::max(iconExtent, fontMetrics().height()) + 14));
     }
@@ -159,10 +149,10 @@ void MainWindow::addMenus() {
     QUndoStack *stack = m_document.undoStack();
     QAction *undo = stack->createUndoAction(this, tr("&Undo"));
     undo->setShortcuts(QKeySequence::Undo);
-    undo->setIcon(platformIcon(QStringLiteral("edit-undo"), QStyle::SP_ArrowBack));
+    undo->setIcon(iconOf(Symbol::Undo));
     QAction *redo = stack->createRedoAction(this, tr("&Redo"));
     redo->setShortcuts(QKeySequence::Redo);
-    redo->setIcon(platformIcon(QStringLiteral("edit-redo"), QStyle::SP_ArrowForward));
+    redo->setIcon(iconOf(Symbol::Redo));
     for (QAction *action : {undo, redo}) {
         // Its own tool tip is the text of the command, in which a value may look like markup.
         const auto update = [action] { action->setToolTip(toolTipOf(action->iconText())); };
@@ -189,16 +179,21 @@ void MainWindow::addMenus() {
     const auto docks = findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks)
         view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    QAction *dark = view->addAction(tr("Dark &Colors"));
+    dark->setCheckable(true);
+    dark->setChecked(chosenColorScheme() == ColorScheme::Dark);
+    connect(dark, &QAction::triggered, this, [](bool isDark) {
+        chooseColorScheme(isDark ? ColorScheme::Dark : ColorScheme::Platform);
+    });
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(platformIcon(QStringLiteral("help-about"), QStyle::SP_MessageBoxInformation),
-                    tr("&About"), this, [this] {
-                        QMessageBox::about(
-                            this, tr("About"),
-                            tr("The properties editor shows and edits the manifest of an "
-                               "application package for a robot.\n\nVersion %1")
-                                .arg(QApplication::applicationVersion()));
-                    });
+    help->addAction(iconOf(Symbol::Note), tr("&About"), this, [this] {
+        QMessageBox::about(this, tr("About"),
+                           tr("The properties editor shows and edits the manifest of an "
+                              "application package for a robot.\n\nVersion %1")
+                               .arg(QApplication::applicationVersion()));
+    });
 
     QToolBar *toolBar = addToolBar(tr("Tools"));
     toolBar->setObjectName(QStringLiteral("tools"));
@@ -243,8 +238,7 @@ void MainWindow::refreshStatus() {
         ++(issue.severity == Severity::Error ? errors : warnings);
     if (errors + warnings == 0) {
         m_problemCount->setText(tr("No problems"));
-        m_problemCount->setIcon(
-            platformIcon(QStringLiteral("dialog-ok-apply"), QStyle::SP_DialogApplyButton));
+        m_problemCount->setIcon(iconOf(Symbol::Check));
         return;
     }
     m_problemCount->setText(tr("Errors: %1, warnings: %2").arg(errors).arg(warnings));
