@@ -449,7 +449,7 @@ private Q_SLOTS:
         replaceText(QStringLiteral("good"));
         QVERIFY(uid->toolTip().isEmpty());
 
-        QLineEdit *version = field("&Version:");
+        QLineEdit *version = field("Ve&rsion:");
         const QString before = version->text();
         version->setFocus();
         replaceText(QStringLiteral("2.x"));
@@ -489,7 +489,7 @@ private Q_SLOTS:
     void refusesAPathThatIsTaken() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         m_window->showPage(3);
-        QLineEdit *path = field("&Path:");
+        QLineEdit *path = field("Pa&th:");
         path->setFocus();
         replaceText(QStringLiteral("goodbye"));
         QVERIFY(!path->toolTip().isEmpty());
@@ -576,7 +576,7 @@ private Q_SLOTS:
         press(Qt::Key_F2);
         replaceText(QStringLiteral("talk.top"));
         press(Qt::Key_Return);
-        QTest::mouseClick(button("Remove &File"), Qt::LeftButton);
+        QTest::mouseClick(button("Remove Fi&le"), Qt::LeftButton);
         QVERIFY(!manifest().contains("talk.top"));
 
         m_window->showPage(5);
@@ -636,13 +636,13 @@ private Q_SLOTS:
         m_window->showPage(3);
         auto *list = view<QTreeView>("Behaviors");
         list->setCurrentIndex(list->model()->index(2, 0));
-        const QString path = field("&Path:")->text();
+        const QString path = field("Pa&th:")->text();
         auto *remove = list->parentWidget()->findChildren<QPushButton *>().last();
         QTest::mouseClick(remove, Qt::LeftButton);
-        QVERIFY(field("&Path:")->text() != path);
-        const QString next = field("&Path:")->text();
+        QVERIFY(field("Pa&th:")->text() != path);
+        const QString next = field("Pa&th:")->text();
         stack()->undo();
-        QCOMPARE(field("&Path:")->text(), next);
+        QCOMPARE(field("Pa&th:")->text(), next);
         QCOMPARE(list->currentIndex().data().toString(), next);
     }
 
@@ -664,13 +664,13 @@ private Q_SLOTS:
         QCOMPARE(list->model()->rowCount(), 10000);
         list->setFocus();
         press(Qt::Key_End);
-        QCOMPARE(field("&Path:")->text(), QStringLiteral("behavior-9999"));
+        QCOMPARE(field("Pa&th:")->text(), QStringLiteral("behavior-9999"));
         line("Find a behavior")->setFocus();
         type(QStringLiteral("r-777"));
         QCOMPARE(list->model()->rowCount(), 11);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(list->model()->index(1, 0)).center());
-        QCOMPARE(field("&Path:")->text(), QStringLiteral("behavior-7770"));
+        QCOMPARE(field("Pa&th:")->text(), QStringLiteral("behavior-7770"));
     }
 
     void fitsSmallAndMirroredWindows() {

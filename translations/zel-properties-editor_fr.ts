@@ -4,14 +4,6 @@
 <context>
     <name>Editor::BehaviorDetails</name>
     <message>
-        <source>A &amp;user may ask for it</source>
-        <translation>L&apos;&amp;utilisateur peut le demander</translation>
-    </message>
-    <message>
-        <source>&amp;Path:</source>
-        <translation>&amp;Chemin&#xa0;:</translation>
-    </message>
-    <message>
         <source>A behavior needs a path.</source>
         <translation>Il faut un chemin à un comportement.</translation>
     </message>
@@ -28,16 +20,12 @@
         <translation>Solitaire&#xa0;: le robot le lance de lui-même</translation>
     </message>
     <message>
-        <source>Na&amp;ture:</source>
-        <translation>Na&amp;ture&#xa0;:</translation>
-    </message>
-    <message>
         <source>Language of the texts</source>
         <translation>Langue des textes</translation>
     </message>
     <message>
         <source>Texts &amp;in:</source>
-        <translation>Textes &amp;en&#xa0;:</translation>
+        <translation>Te&amp;xtes en&#xa0;:</translation>
     </message>
     <message>
         <source>Texts</source>
@@ -84,16 +72,28 @@
         <translation>Une nouvelle permission</translation>
     </message>
     <message>
-        <source>P&amp;urpose:</source>
-        <translation>&amp;Usage&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>D&amp;escription&#xa0;:</translation>
+        <source>A user may as&amp;k for it</source>
+        <translation>L&apos;utilisateur peut le de&amp;mander</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>&amp;Chemin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>Na&amp;ture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>&amp;Usage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -172,16 +172,8 @@
         <translation>Il faut un nom de sujet à un dialogue.</translation>
     </message>
     <message>
-        <source>Type &amp;version:</source>
-        <translation>&amp;Version de type&#xa0;:</translation>
-    </message>
-    <message>
         <source>Topic files</source>
         <translation>Fichiers du sujet</translation>
-    </message>
-    <message>
-        <source>Remove &amp;File</source>
-        <translation>Retirer le &amp;fichier</translation>
     </message>
     <message>
         <source>Remove dialog %1</source>
@@ -190,6 +182,14 @@
     <message>
         <source>Add dialog %1</source>
         <translation>Ajouter le dialogue %1</translation>
+    </message>
+    <message>
+        <source>Type vers&amp;ion:</source>
+        <translation>&amp;Version de type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Remove Fi&amp;le</source>
+        <translation>Retirer &amp;le fichier</translation>
     </message>
 </context>
 <context>
@@ -376,16 +376,8 @@
         <translation>&amp;UID&#xa0;:</translation>
     </message>
     <message>
-        <source>&amp;Version:</source>
-        <translation>&amp;Version&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Type version:</source>
         <translation>Version de &amp;type&#xa0;:</translation>
-    </message>
-    <message>
-        <source>&amp;Path on the robot:</source>
-        <translation>&amp;Chemin sur le robot&#xa0;:</translation>
     </message>
     <message>
         <source>I&amp;nstaller:</source>
@@ -426,6 +418,14 @@
     <message>
         <source>Set %1</source>
         <translation>Modifier : %1</translation>
+    </message>
+    <message>
+        <source>Ve&amp;rsion:</source>
+        <translation>Ve&amp;rsion&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Path on the ro&amp;bot:</source>
+        <translation>&amp;Chemin sur le robot&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -592,6 +592,10 @@ Version %1</translation>
     <message>
         <source>&amp;Fix All Safe Problems</source>
         <translation>&amp;Corriger tout ce qui est sûr</translation>
+    </message>
+    <message>
+        <source>Dark &amp;Colors</source>
+        <translation>&amp;Couleurs sombres</translation>
     </message>
 </context>
 <context>
@@ -697,6 +701,10 @@ Version %1</translation>
         <source>Remove Brio requirement</source>
         <translation>Retirer une exigence Brio</translation>
     </message>
+    <message>
+        <source>Choose a robot</source>
+        <translation>Choisissez un robot</translation>
+    </message>
 </context>
 <context>
     <name>Editor::RequirementsPage</name>
@@ -733,7 +741,7 @@ Version %1</translation>
         <translation>Ajouter une version de &amp;Brio</translation>
     </message>
     <message>
-        <source>Remo&amp;ve Brio Version</source>
+        <source>Rem&amp;ove Brio Version</source>
         <translation>Re&amp;tirer la version de Brio</translation>
     </message>
 </context>
@@ -832,10 +840,6 @@ Version %1</translation>
         <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>D&amp;escription&#xa0;:</translation>
-    </message>
-    <message>
         <source>No language is selected.</source>
         <translation>Aucune langue n&apos;est sélectionnée.</translation>
     </message>
@@ -850,6 +854,10 @@ Version %1</translation>
     <message>
         <source>Code of the language, such as en or pt_BR:</source>
         <translation>Code de la langue, comme en ou pt_BR&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
     </message>
 </context>
 <context>

@@ -4,14 +4,6 @@
 <context>
     <name>Editor::BehaviorDetails</name>
     <message>
-        <source>A &amp;user may ask for it</source>
-        <translation>ユーザーが呼び出せる(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Path:</source>
-        <translation>パス(&amp;P):</translation>
-    </message>
-    <message>
         <source>A behavior needs a path.</source>
         <translation>ビヘイビアにはパスが必要です。</translation>
     </message>
@@ -26,10 +18,6 @@
     <message>
         <source>Solitary: the robot runs it on its own</source>
         <translation>ソリタリー: ロボットが自ら実行する</translation>
-    </message>
-    <message>
-        <source>Na&amp;ture:</source>
-        <translation>種別(&amp;T):</translation>
     </message>
     <message>
         <source>Language of the texts</source>
@@ -84,16 +72,28 @@
         <translation>新しい権限</translation>
     </message>
     <message>
-        <source>P&amp;urpose:</source>
-        <translation>用途(&amp;U):</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>説明(&amp;E):</translation>
+        <source>A user may as&amp;k for it</source>
+        <translation>ユーザーが呼び出せる(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>パス(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>種別(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>用途(&amp;O):</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
     </message>
 </context>
 <context>
@@ -172,16 +172,8 @@
         <translation>ダイアログにはトピック名が必要です。</translation>
     </message>
     <message>
-        <source>Type &amp;version:</source>
-        <translation>種別バージョン(&amp;V):</translation>
-    </message>
-    <message>
         <source>Topic files</source>
         <translation>トピックファイル</translation>
-    </message>
-    <message>
-        <source>Remove &amp;File</source>
-        <translation>ファイルを削除(&amp;F)</translation>
     </message>
     <message>
         <source>Remove dialog %1</source>
@@ -190,6 +182,14 @@
     <message>
         <source>Add dialog %1</source>
         <translation>ダイアログ %1 を追加</translation>
+    </message>
+    <message>
+        <source>Type vers&amp;ion:</source>
+        <translation>種別バージョン(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Remove Fi&amp;le</source>
+        <translation>ファイルを削除(&amp;L)</translation>
     </message>
 </context>
 <context>
@@ -376,16 +376,8 @@
         <translation>UID(&amp;U):</translation>
     </message>
     <message>
-        <source>&amp;Version:</source>
-        <translation>バージョン(&amp;V):</translation>
-    </message>
-    <message>
         <source>&amp;Type version:</source>
         <translation>種別バージョン(&amp;T):</translation>
-    </message>
-    <message>
-        <source>&amp;Path on the robot:</source>
-        <translation>ロボット上のパス(&amp;P):</translation>
     </message>
     <message>
         <source>I&amp;nstaller:</source>
@@ -426,6 +418,14 @@
     <message>
         <source>Set %1</source>
         <translation>%1 を設定</translation>
+    </message>
+    <message>
+        <source>Ve&amp;rsion:</source>
+        <translation>バージョン(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Path on the ro&amp;bot:</source>
+        <translation>ロボット上のパス(&amp;B):</translation>
     </message>
 </context>
 <context>
@@ -593,6 +593,10 @@ Version %1</source>
         <source>&amp;Fix All Safe Problems</source>
         <translation>安全な修正をすべて行う(&amp;F)</translation>
     </message>
+    <message>
+        <source>Dark &amp;Colors</source>
+        <translation>暗い配色(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -697,6 +701,10 @@ Version %1</source>
         <source>Remove Brio requirement</source>
         <translation>Brio の要件を削除</translation>
     </message>
+    <message>
+        <source>Choose a robot</source>
+        <translation>ロボットを選択</translation>
+    </message>
 </context>
 <context>
     <name>Editor::RequirementsPage</name>
@@ -733,8 +741,8 @@ Version %1</source>
         <translation>Brio のバージョンを追加(&amp;B)</translation>
     </message>
     <message>
-        <source>Remo&amp;ve Brio Version</source>
-        <translation>Brio のバージョンを削除(&amp;V)</translation>
+        <source>Rem&amp;ove Brio Version</source>
+        <translation>Brio のバージョンを削除(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -832,10 +840,6 @@ Version %1</source>
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>説明(&amp;E):</translation>
-    </message>
-    <message>
         <source>No language is selected.</source>
         <translation>言語が選択されていません。</translation>
     </message>
@@ -850,6 +854,10 @@ Version %1</source>
     <message>
         <source>Code of the language, such as en or pt_BR:</source>
         <translation>言語コード (en、pt_BR など):</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
     </message>
 </context>
 <context>

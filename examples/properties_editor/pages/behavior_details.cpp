@@ -65,13 +65,13 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     : QWidget(parent)
     , m_document(document)
     , m_nature(new QComboBox(this))
-    , m_userRequestable(new QCheckBox(tr("A &user may ask for it"), this))
+    , m_userRequestable(new QCheckBox(tr("A user may as&k for it"), this))
     , m_languages(new LanguagesModel(document, this))
     , m_language(new QComboBox(this))
     , m_tabs(new QTabWidget(this))
     , m_purpose(new QComboBox(this)) {
     auto *form = new QFormLayout;
-    m_fields.append(addTextRow(form, tr("&Path:"), document,
+    m_fields.append(addTextRow(form, tr("Pa&th:"), document,
                                {[this] { return field("path"); },
                                 [this](const QString &text, bool isFinal) {
                                     return new Zel::BehaviorPathCommand(package(), path(), text,
@@ -83,7 +83,7 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
                       BehaviorInfoModel::natureInteractive());
     m_nature->addItem(tr("Solitary: the robot runs it on its own"),
                       BehaviorInfoModel::natureSolitary());
-    form->addRow(tr("Na&ture:"), m_nature);
+    form->addRow(tr("Nat&ure:"), m_nature);
     form->addRow(QString(), m_userRequestable);
     connect(m_nature, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString nature = m_nature->itemData(index).toString();
@@ -125,7 +125,7 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     m_purpose->setInsertPolicy(QComboBox::NoInsert);
     m_purpose->addItems({QStringLiteral("launch"), QStringLiteral("suggestion")});
     connect(m_purpose, &QComboBox::currentTextChanged, this, &BehaviorDetails::setLists);
-    auto *purposeLabel = new QLabel(tr("P&urpose:"), this);
+    auto *purposeLabel = new QLabel(tr("Purp&ose:"), this);
     purposeLabel->setBuddy(m_purpose);
     auto *purposeRow = new QHBoxLayout;
     purposeRow->addWidget(purposeLabel);
@@ -153,7 +153,7 @@ QWidget *BehaviorDetails::newTextsTab() {
                                                                         language(), isFinal);
                                 }}));
     auto *description = new QPlainTextEdit(tab);
-    form->addRow(tr("D&escription:"), description);
+    form->addRow(tr("&Description:"), description);
     m_fields.append(new TextField(description, m_document,
                                   {[this] { return textField("descriptions"); },
                                    [this](const QString &text, bool isFinal) {
@@ -259,6 +259,10 @@ void BehaviorDetails::showSentences(const QString &languageCode) {
     m_language->setCurrentIndex(int(m_languages->keys().indexOf(languageCode)));
     m_tabs->setCurrentIndex(1);
     m_sentences->focusAddition();
+}
+
+void BehaviorDetails::startTypingPath() {
+    startTyping(m_fields.first()->widget());
 }
 
 void BehaviorDetails::takePending() {

@@ -24,6 +24,8 @@ public:
     void setBehavior(Zel::BehaviorInfoModel *behavior);
     /// Shows the trigger sentences in a language.
     void showSentences(const QString &languageCode);
+    /// For a new behavior.
+    void startTypingPath();
     void takePending();
 
 private:

@@ -49,6 +49,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     m_remove = newListButton(tr("&Remove"), false, this);
     connect(add, &QPushButton::clicked, this, &BehaviorsPage::add);
     connect(m_remove, &QPushButton::clicked, this, &BehaviorsPage::remove);
+    removeWithDelete(m_view, m_remove);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -114,6 +115,7 @@ void BehaviorsPage::add() {
     document().edit({appended(FieldPath().field("behaviors"), behavior)},
                     tr("Add behavior %1").arg(path));
     select(package()->behavior(path));
+    m_details->startTypingPath();
 }
 
 void BehaviorsPage::remove() {

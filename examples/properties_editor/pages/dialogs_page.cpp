@@ -48,6 +48,7 @@ QWidget *DialogsPage::newList() {
     setUpTable(m_list, document(), tr("Dialogs"));
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
+    removeWithDelete(m_list, m_remove);
     connect(add, &QPushButton::clicked, this, &DialogsPage::add);
     connect(m_remove, &QPushButton::clicked, this, [this] {
         if (current())
@@ -77,7 +78,7 @@ QWidget *DialogsPage::newDetails() {
                                  package(), current()->topicName(), text, isFinal);
                          },
                          tr("A dialog needs a topic name.")});
-    m_typeVersion = addTextRow(form, tr("Type &version:"), document(),
+    m_typeVersion = addTextRow(form, tr("Type vers&ion:"), document(),
                                {[this] { return field("typeVersion"); },
                                 [this](const QString &text, bool isFinal) {
                                     return new Zel::DialogInfoModelTypeVersionCommand(
@@ -89,7 +90,8 @@ QWidget *DialogsPage::newDetails() {
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_removeTopic = newListButton(tr("Remove &File"), false, this);
+    m_removeTopic = newListButton(tr("Remove Fi&le"), false, this);
+    removeWithDelete(m_table, m_removeTopic);
     connect(m_removeTopic, &QPushButton::clicked, this,
             [this] { m_topics->removeTopic(m_table->currentIndex().row()); });
     auto *buttons = new QHBoxLayout;
@@ -140,6 +142,7 @@ void DialogsPage::add() {
     document().edit({appended(FieldPath().field("dialogs"), dialog)},
                     tr("Add dialog %1").arg(name));
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
+    startTyping(m_name->widget());
 }
 
 bool DialogsPage::showField(const FieldPath &) {

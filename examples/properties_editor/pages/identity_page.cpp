@@ -28,7 +28,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     const FieldPath version = FieldPath().field("version");
     m_shown.insert(version);
     addTextRow(
-        form, tr("&Version:"), document,
+        form, tr("Ve&rsion:"), document,
         {[version] { return version; },
          [=](const QString &text, bool isFinal) {
              const QString name =
@@ -37,7 +37,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
          }},
         QStringLiteral("1.0.0"));
     addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion, "typeVersion");
-    addText(form, tr("&Path on the robot:"), {}, PackageStringCommand::Path, "path");
+    addText(form, tr("Path on the ro&bot:"), {}, PackageStringCommand::Path, "path");
     addText(form, tr("I&nstaller:"), {}, PackageStringCommand::Installer, "installer");
     form->addItem(new QSpacerItem(0, 12));
     form->addRow(newHeading(tr("Publisher"), this));

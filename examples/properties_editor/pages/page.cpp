@@ -2,9 +2,11 @@
 
 #include "widgets/icons.h"
 
+#include <QAbstractItemView>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 #include <utility>
 
@@ -29,6 +31,18 @@ QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent
     auto *button = new QPushButton(iconOf(isAddition ? Symbol::Add : Symbol::Remove), text, parent);
     button->setAutoDefault(false);
     return button;
+}
+
+void removeWithDelete(QAbstractItemView *view, QAbstractButton *removal) {
+    auto *shortcut = new QShortcut(Qt::Key_Delete, view);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, removal, &QAbstractButton::click);
+}
+
+void startTyping(QWidget *line) {
+    line->setFocus(Qt::OtherFocusReason);
+    if (auto *edit = qobject_cast<QLineEdit *>(line))
+        edit->selectAll();
 }
 
 QWidget *newHeading(const QString &text, QWidget *parent) {

@@ -26,7 +26,7 @@ RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
     m_brio = addPart(layout, RequirementsModel::Kind::Brio,
                      {tr("Brio middleware"),
                       tr("The versions that the package was tried on; the lowest is needed."),
-                      tr("Add &Brio Version"), tr("Remo&ve Brio Version")});
+                      tr("Add &Brio Version"), tr("Rem&ove Brio Version")});
     layout->setStretchFactor(m_robot.table, 3);
     layout->setStretchFactor(m_brio.table, 2);
 }
@@ -52,10 +52,12 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
         const QModelIndex cell = model->index(model->rowCount() - 1, 0);
         table->setFocus();
         table->setCurrentIndex(cell);
+        table->edit(cell);
     });
     auto *remove = newListButton(texts.removal, false, this);
     connect(remove, &QPushButton::clicked, model,
             [model, table] { model->remove(table->currentIndex().row()); });
+    removeWithDelete(table, remove);
     const auto refresh = [remove, table] { remove->setEnabled(table->currentIndex().isValid()); };
     connect(table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
     connect(&document(), &Document::edited, remove, refresh);

@@ -29,6 +29,7 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
 
     auto *add = newListButton(tr("&Add"), true, this);
     auto *remove = newListButton(tr("&Remove"), false, this);
+    removeWithDelete(m_table, remove);
     connect(add, &QPushButton::clicked, this, &ServicesPage::add);
     connect(remove, &QPushButton::clicked, this, [this] {
         const int row = m_table->currentIndex().row();
@@ -59,7 +60,10 @@ void ServicesPage::add() {
     service.name = Zel::toUtf8(name);
     document().edit({appended(FieldPath().field("services"), service)},
                     tr("Add service %1").arg(name));
-    m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
+    const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
+    m_table->setFocus();
+    m_table->setCurrentIndex(cell);
+    m_table->edit(cell);
 }
 
 bool ServicesPage::showField(const FieldPath &) {

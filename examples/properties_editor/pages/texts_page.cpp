@@ -53,6 +53,7 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     add->setMenu(m_languageMenu);
     connect(m_languageMenu, &QMenu::aboutToShow, this, &TextsPage::fillLanguageMenu);
     m_remove = newListButton(tr("&Remove Language"), false, this);
+    removeWithDelete(m_table, m_remove);
     connect(m_remove, &QPushButton::clicked, this,
             [this] { m_model->remove(current().isoCode()); });
     auto *buttons = new QHBoxLayout;
@@ -88,7 +89,7 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
                         binding(PackageLocalizedStringCommand::Name, "names"));
     auto *description = new QPlainTextEdit(m_details);
     description->setMinimumHeight(description->fontMetrics().lineSpacing() * 3 + 14);
-    form->addRow(tr("D&escription:"), description);
+    form->addRow(tr("&Description:"), description);
     m_description = new TextField(
         description, document, binding(PackageLocalizedStringCommand::Description, "descriptions"));
 

@@ -41,7 +41,11 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
 
     connect(m_line, &QLineEdit::returnPressed, this, &StringListEditor::takePending);
     connect(m_line, &QLineEdit::textChanged, this, &StringListEditor::refresh);
-    connect(m_add, &QPushButton::clicked, this, &StringListEditor::takePending);
+    connect(m_add, &QPushButton::clicked, this, [this] {
+        takePending();
+        focusAddition(); // for the next one
+    });
+    removeWithDelete(m_view, m_remove);
     connect(m_remove, &QPushButton::clicked, this,
             [this] { m_model->remove(m_view->currentIndex().row()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,

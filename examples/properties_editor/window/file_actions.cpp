@@ -116,6 +116,7 @@ void FileActions::fillToolBar(QToolBar *toolBar) {
     button->setIcon(m_templates->icon());
     button->setToolTip(tr("New package from a template"));
     button->setAccessibleName(button->toolTip());
+    button->setFocusPolicy(Qt::NoFocus); // like the other tools
     button->setPopupMode(QToolButton::InstantPopup);
     toolBar->addWidget(button);
     toolBar->addActions({m_open, m_save});

@@ -10,6 +10,7 @@
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
 #include "problems_panel.h"
+#include "tab_order.h"
 #include "widgets/icons.h"
 #include "widgets/marks.h"
 #include "widgets/message_bar.h"
@@ -73,10 +74,15 @@ MainWindow::MainWindow(QWidget *parent)
     connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
     });
+    setTabOrderOf(*this);
     refreshTitle();
 }
 
 MainWindow::~MainWindow() {
+    // An open cell editor would still write through the model of its view.
+    if (QWidget *focus = focusWidget())
+        focus->clearFocus();
+    m_document.closeRun();
     m_document.undoStack()->disconnect(this);
     // They look at the document until they are gone.
     while (auto *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
@@ -96,6 +102,7 @@ void MainWindow::addPages() {
         auto *scroll = new QScrollArea(m_stack);
         scroll->setWidgetResizable(true);
         scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setFocusPolicy(Qt::NoFocus);
         scroll->setWidget(page);
         m_stack->addWidget(scroll);
         QString title = page->title();
