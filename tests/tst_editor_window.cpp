@@ -1,8 +1,10 @@
 #include "golden.h"
+#include "pages/page.h"
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
 #include "window/application_setup.h"
 #include "window/main_window.h"
+#include "window/page_stack.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -15,7 +17,6 @@
 #include <QMetaEnum>
 #include <QPushButton>
 #include <QSettings>
-#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -252,7 +253,10 @@ private:
         return (lightest + 0.05) / (darkest + 0.05);
     }
 
-    QWidget *shownPage() { return m_window->findChild<QStackedWidget *>()->currentWidget(); }
+    QWidget *shownPage() {
+        const auto *stack = m_window->findChild<PageStack *>();
+        return stack->pages().at(stack->current());
+    }
     QByteArray manifest() {
         m_window->document().package()->syncRecord();
         return m_window->document().package()->saveToManifestContent();

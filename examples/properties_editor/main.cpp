@@ -24,9 +24,10 @@ int main(int argc, char **argv) {
     parser.process(application);
 
     Editor::MainWindow window;
+    window.restore();
     window.show();
     const QString fileName = parser.positionalArguments().value(0);
-    if (!fileName.isEmpty())
-        window.openFile(fileName);
+    if (fileName.isEmpty() || !window.openFile(fileName))
+        window.showStartPage();
     return QApplication::exec();
 }

@@ -151,12 +151,9 @@ void LanguagesModel::add(const QString &code) {
 }
 
 void LanguagesModel::remove(const QString &code) {
-    Zel::PackageModel::Edits edits;
-    for (const Column column : {Supported, Described}) {
-        if (isIn(column, code))
-            edits.append({Edit::Action::Remove, listOf(column).key(Zel::toUtf8(code))});
-    }
-    document().edit(edits, tr("Remove language %1").arg(code));
+    const auto edits = Zel::PackageModel::languageRemoval(package(), code);
+    if (!edits.isEmpty())
+        document().edit(edits, tr("Remove language %1").arg(code));
 }
 
 Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {

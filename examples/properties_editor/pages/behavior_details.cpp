@@ -1,6 +1,7 @@
 #include "behavior_details.h"
 
 #include "models/languages_model.h"
+#include "widgets/empty_hint.h"
 #include "widgets/marks.h"
 
 #include <packagemodel/behavior_commands.h>
@@ -9,6 +10,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QListView>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -113,6 +115,15 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     m_tags = addListTab(tr("Tags"), tr("A new tag"));
     m_conditions = addListTab(tr("Conditions"), tr("A new condition for this purpose"));
     m_permissions = addListTab(tr("Permissions"), tr("A new permission"));
+    explainWhenEmpty(m_sentences->view(),
+                     tr("What people say to start the behavior. Type a sentence below."));
+    explainWhenEmpty(m_responses->view(),
+                     tr("What the robot says until the behavior starts. Type a sentence below."));
+    explainWhenEmpty(m_tags->view(), tr("Words that group behaviors. Type a tag below."));
+    explainWhenEmpty(m_conditions->view(),
+                     tr("What has to hold for the behavior to run. Type a condition below."));
+    explainWhenEmpty(m_permissions->view(),
+                     tr("What the behavior uses of the robot. Type a permission below."));
     m_permissions->setSuggestions({QStringLiteral("camera"), QStringLiteral("microphone"),
                                    QStringLiteral("motion"), QStringLiteral("speech")});
 

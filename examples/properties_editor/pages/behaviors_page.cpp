@@ -4,6 +4,7 @@
 #include "document/field_edits.h"
 #include "models/behaviors_model.h"
 #include "models/entry_models.h"
+#include "widgets/empty_hint.h"
 #include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
@@ -39,6 +40,8 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
 
     m_view->setModel(m_filtered);
     setUpTable(m_view, document, tr("Behaviors"));
+    explainWhenEmpty(m_view, tr("A behavior is something that the robot does. “Add” adds one; the "
+                                "search above may hide some."));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true); // or every row would be measured
     m_view->header()->setMinimumSectionSize(40);

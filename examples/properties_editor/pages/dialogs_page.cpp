@@ -2,6 +2,7 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
+#include "widgets/empty_hint.h"
 #include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
@@ -46,6 +47,8 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
 QWidget *DialogsPage::newList() {
     m_list->setModel(m_dialogs);
     setUpTable(m_list, document(), tr("Dialogs"));
+    explainWhenEmpty(m_list, tr("A dialog is a topic that the robot can talk about, with a file "
+                                "for each language. “Add” adds one."));
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
     removeWithDelete(m_list, m_remove);

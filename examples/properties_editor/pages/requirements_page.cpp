@@ -1,6 +1,7 @@
 #include "requirements_page.h"
 
 #include "document/field_edits.h"
+#include "widgets/empty_hint.h"
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
 #include "widgets/marks.h"
@@ -21,11 +22,13 @@ RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
                       {tr("Robots"),
                        tr("The package is offered to robots that meet one of these. An empty "
                           "version is a bound that is not set."),
+                       tr("Without a robot, the package is offered to none. “Add Robot” adds one."),
                        tr("Add &Robot"), tr("Re&move Robot")});
     layout->addSpacing(12);
     m_brio = addPart(layout, RequirementsModel::Kind::Brio,
                      {tr("Brio middleware"),
                       tr("The versions that the package was tried on; the lowest is needed."),
+                      tr("The versions that the package runs on. “Add Brio Version” adds one."),
                       tr("Add &Brio Version"), tr("Rem&ove Brio Version")});
     layout->setStretchFactor(m_robot.table, 3);
     layout->setStretchFactor(m_brio.table, 2);
@@ -37,6 +40,7 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     auto *table = new QTableView(this);
     table->setModel(model);
     setUpTable(table, document(), texts.heading);
+    explainWhenEmpty(table, texts.emptiness);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);

@@ -2,6 +2,7 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
+#include "widgets/empty_hint.h"
 #include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
@@ -20,6 +21,9 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
     , m_table(new QTableView(this)) {
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Services"));
+    explainWhenEmpty(
+        m_table,
+        tr("A service is a program that runs in the background on the robot. “Add” adds one."));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(ServicesModel::Name, QHeaderView::Interactive);

@@ -1,6 +1,7 @@
 #include "texts_page.h"
 
 #include "document/field_edits.h"
+#include "language_chooser.h"
 #include "models/languages_model.h"
 #include "widgets/coverage_delegate.h"
 #include "widgets/hint_label.h"
@@ -12,11 +13,8 @@
 
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -32,7 +30,6 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     , m_model(new LanguagesModel(document, this))
     , m_table(new QTableView(this))
     , m_summary(new HintLabel({}, this))
-    , m_languageMenu(new QMenu(this))
     , m_details(new QWidget(this))
     , m_detailsTitle(new QLabel(m_details)) {
     m_detailsTitle->setTextFormat(Qt::PlainText);
@@ -49,9 +46,8 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     header->setSectionResizeMode(LanguagesModel::Coverage, QHeaderView::Interactive);
     header->resizeSection(LanguagesModel::Coverage, 110);
 
-    auto *add = newListButton(tr("&Add Language"), true, this);
-    add->setMenu(m_languageMenu);
-    connect(m_languageMenu, &QMenu::aboutToShow, this, &TextsPage::fillLanguageMenu);
+    auto *add = newListButton(tr("&Add Language…"), true, this);
+    connect(add, &QPushButton::clicked, this, &TextsPage::chooseLanguage);
     m_remove = newListButton(tr("&Remove Language"), false, this);
     removeWithDelete(m_table, m_remove);
     connect(m_remove, &QPushButton::clicked, this,
@@ -131,37 +127,24 @@ void TextsPage::refresh() {
     m_details->setEnabled(isShown);
     m_detailsTitle->setText(isShown ? Zel::PackageModel::languageName(language)
                                     : tr("No language is selected."));
-    m_remove->setEnabled(isShown && (package()->hasLanguageSupport(language) ||
-                                     package()->hasLanguageDescription(language)));
+    m_remove->setEnabled(isShown);
     m_summary->setText(m_model->summary());
 }
 
-void TextsPage::fillLanguageMenu() {
-    m_languageMenu->clear();
-    for (const RobotLanguage &language : Zel::Language::knownLanguages()) {
-        if (package()->hasLanguageSupport(language))
-            continue;
-        const QString code = language.isoCode();
-        m_languageMenu->addAction(language.uiName(), this, [this, code] { addLanguage(code); });
-    }
-    m_languageMenu->addSeparator();
-    m_languageMenu->addAction(tr("Other Language…"), this, &TextsPage::addOtherLanguage);
-}
-
-void TextsPage::addOtherLanguage() {
-    const QString code = QInputDialog::getText(this, tr("Add Language"),
-                                               tr("Code of the language, such as en or pt_BR:"))
-                             .trimmed();
-    static const QRegularExpression form(
-        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9]+([_-][A-Za-z0-9]+)*")));
-    if (form.match(code).hasMatch())
-        addLanguage(code);
+void TextsPage::chooseLanguage() {
+    QSet<QString> present;
+    for (const RobotLanguage &language : package()->supportedLanguages())
+        present.insert(language.isoCode());
+    LanguageChooser chooser(present, this);
+    if (chooser.exec() == QDialog::Accepted)
+        addLanguage(chooser.code());
 }
 
 void TextsPage::addLanguage(const QString &code) {
     m_model->add(code);
     m_table->setCurrentIndex(
         m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
+    startTyping(m_name->widget());
 }
 
 bool TextsPage::showField(const FieldPath &path) {

@@ -1,6 +1,9 @@
 #include "file_actions.h"
 
 #include "main_window.h"
+#include "publishing.h"
+#include "recent_files.h"
+#include "templates.h"
 #include "widgets/icons.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
@@ -12,35 +15,12 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QSettings>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
-#include <array>
-
-// A static library's resources wait for this, which has to stand outside of any namespace.
-static void initTemplates() {
-    Q_INIT_RESOURCE(templates);
-}
-
 namespace Editor {
 namespace {
-
-constexpr int maximumRecent = 8;
-const QString recentKey = QStringLiteral("recentFiles");
-
-struct Template {
-    const char *resource;
-    const char *name;
-};
-
-constexpr std::array templates{
-    Template{":/templates/empty.xml", QT_TRANSLATE_NOOP("Editor::FileActions", "Empty Package")},
-    Template{":/templates/behavior.xml",
-             QT_TRANSLATE_NOOP("Editor::FileActions", "Behavior Started by a Sentence")},
-    Template{":/templates/service.xml",
-             QT_TRANSLATE_NOOP("Editor::FileActions", "Service in the Background")},
-};
 
 QAction *newAction(QObject *parent, const QString &text, Symbol symbol,
                    const QKeySequence &shortcut) {
@@ -66,12 +46,11 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
           newAction(this, tr("&Publish…"), Symbol::Publish, QKeySequence(QStringLiteral("Ctrl+E"))))
     , m_reload(newAction(this, tr("Re&load"), Symbol::Reload, QKeySequence::Refresh))
     , m_quit(newAction(this, tr("&Quit"), Symbol::Quit, QKeySequence::Quit)) {
-    initTemplates();
     m_templates->setIcon(iconOf(Symbol::New));
-    for (const Template &entry : templates) {
-        const QString resource = QLatin1String(entry.resource);
-        QAction *action =
-            m_templates->addAction(tr(entry.name), this, [this, resource] { newFrom(resource); });
+    const auto entries = templates();
+    for (const Template &entry : entries) {
+        QAction *action = m_templates->addAction(
+            entry.name, this, [this, resource = entry.resource] { newFrom(resource); });
         if (m_templates->actions().size() == 1)
             action->setShortcut(QKeySequence::New);
     }
@@ -80,7 +59,10 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
     connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);
     connect(m_save, &QAction::triggered, this, &FileActions::save);
     connect(m_saveAs, &QAction::triggered, this, &FileActions::saveAs);
-    connect(m_publish, &QAction::triggered, this, &FileActions::publish);
+    connect(m_publish, &QAction::triggered, this, [this] {
+        if (m_window.takeEdits())
+            publish(m_document, &m_window);
+    });
     connect(m_reload, &QAction::triggered, this, &FileActions::reload);
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
 
@@ -161,7 +143,7 @@ bool FileActions::open(const QString &fileName) {
         tellFailure(tr("Open"), fileName);
         return false;
     }
-    rememberRecent(m_document.fileName());
+    rememberFile(m_document.fileName());
     return true;
 }
 
@@ -208,22 +190,19 @@ bool FileActions::mayOverwrite() {
 }
 
 bool FileActions::saveTo(const QString &fileName) {
-    if (!m_document.save(fileName)) {
-        tellFailure(tr("Save"), fileName);
-        return false;
-    }
-    rememberRecent(m_document.fileName());
+    if (!m_document.save(fileName))
+        return saveElsewhere(fileName);
+    rememberFile(m_document.fileName());
     return true;
 }
 
-void FileActions::publish() {
-    if (!m_window.takeEdits())
-        return;
-    const QString fileName = QFileDialog::getSaveFileName(
-        &m_window, tr("Publish the Manifest"), directory() + QLatin1String("/published.xml"),
-        tr("Manifests (*.xml);;All files (*)"));
-    if (!fileName.isEmpty() && !m_document.publish(fileName))
-        tellFailure(tr("Publish"), fileName);
+bool FileActions::saveElsewhere(const QString &fileName) {
+    PlainMessageBox box(QMessageBox::Critical, tr("Save"), m_document.errorString(),
+                        QMessageBox::Cancel, &m_window);
+    box.setInformativeText(QDir::toNativeSeparators(fileName));
+    const QPushButton *elsewhere = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == elsewhere && saveAs();
 }
 
 void FileActions::reload() {
@@ -258,7 +237,7 @@ void FileActions::tellDiskState(Document::DiskState state) {
 
 void FileActions::fillRecentMenu() {
     m_recent->clear();
-    const QStringList files = QSettings().value(recentKey).toStringList();
+    const QStringList files = recentFiles();
     for (const QString &file : files) {
         QString shown = file;
         m_recent->addAction(shown.replace(u'&', QLatin1String("&&")), this,
@@ -266,14 +245,6 @@ void FileActions::fillRecentMenu() {
     }
     if (files.isEmpty())
         m_recent->addAction(tr("No files yet"))->setEnabled(false);
-}
-
-void FileActions::rememberRecent(const QString &fileName) {
-    QSettings settings;
-    QStringList files = settings.value(recentKey).toStringList();
-    files.removeAll(fileName);
-    files.prepend(fileName);
-    settings.setValue(recentKey, QStringList(files.mid(0, maximumRecent)));
 }
 
 } // namespace Editor

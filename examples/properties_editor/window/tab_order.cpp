@@ -22,12 +22,12 @@ public:
         if (!widget)
             return;
         if (auto *tabs = qobject_cast<QTabWidget *>(widget)) {
-            // It would be a stop beside its bar, to which it passes the focus on.
-            tabs->setFocusPolicy(Qt::NoFocus);
-            tabs->tabBar()->setFocusPolicy(Qt::TabFocus);
             const auto arrows = tabs->tabBar()->findChildren<QToolButton *>();
             for (QToolButton *arrow : arrows)
                 arrow->setFocusPolicy(Qt::NoFocus);
+            // It would be a stop beside its bar, to which it passes the focus on.
+            tabs->setFocusProxy(nullptr);
+            tabs->setFocusPolicy(Qt::NoFocus);
             add(tabs->tabBar());
             addAll(*tabs);
         } else if (const auto *splitter = qobject_cast<QSplitter *>(widget)) {
