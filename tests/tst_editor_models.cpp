@@ -5,20 +5,21 @@
 #include "models/problems_model.h"
 #include "models/requirements_model.h"
 #include "models/string_list_model.h"
-
-#include <packagemodel/behavior_commands.h>
+#include "random_edits.h"
 
 #include <QAbstractItemModelTester>
+#include <QFile>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <functional>
+#include <random>
 
 using namespace Editor;
 using Tano::FieldPath;
-using Zel::Language::languageInUse;
 
 namespace {
 
@@ -64,24 +65,17 @@ struct AllModels {
         , dialogs(document)
         , topics(document)
         , services(document)
-        , sentences(document, QStringLiteral("Sentences")) {
+        , sentences(document, QStringLiteral("Sentences"), [&document] {
+            const auto *package = document.package();
+            return Zel::PackageModel::itemPath(package, FieldPath().field("behaviors"), 0)
+                .field("triggerSentences")
+                .key("en_US");
+        }) {
         filtered.setSourceModel(&behaviors);
-        show(document);
+        topics.setDialog(0);
         for (QAbstractItemModel *model : all())
             new QAbstractItemModelTester(
                 model, QAbstractItemModelTester::FailureReportingMode::QtTest, model);
-    }
-    // The entries that those two show.
-    void show(Document &document) {
-        topics.setDialog(0);
-        sentences.setSource({[&document] {
-                                 const auto all = document.package()->behaviors();
-                                 return all.isEmpty() ? QStringList()
-                                                      : all.first()->triggerSentences(
-                                                            languageInUse(QStringLiteral("en_US")));
-                             },
-                             {},
-                             {}});
     }
     std::vector<QAbstractItemModel *> all() {
         return {&problems, &languages, &robots, &brio,     &behaviors,
@@ -110,7 +104,9 @@ using MakeEdit = std::function<void(Document &document, AllModels &models)>;
 
 template<typename Model>
 void check(Model &model, int row, int column) {
-    model.setData(model.index(row, column), Qt::Checked, Qt::CheckStateRole);
+    const QModelIndex cell = model.index(row, column);
+    const bool isChecked = cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    model.setData(cell, isChecked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
 template<typename Model>
@@ -130,6 +126,10 @@ MakeEdit add(const char *list, const Record &record) {
     return [=](Document &document, AllModels &) {
         document.edit({appended(FieldPath().field(list), record)}, QStringLiteral("Add"));
     };
+}
+
+FieldPath behaviorField(const QString &path, const char *name) {
+    return FieldPath().field("behaviors").key(Zel::toUtf8(path)).field(name);
 }
 
 } // namespace
@@ -173,14 +173,14 @@ private Q_SLOTS:
         row("remove the second behavior", remove("behaviors", 1));
         row("remove the last behavior", remove("behaviors", 7));
         row("rename behavior", [](D &d, M &) {
-            d.push(new Zel::BehaviorPathCommand(d.package(), d.package()->behaviors()[0]->path(),
-                                                QStringLiteral("renamed"), true));
+            const QString path = d.package()->behaviors()[0]->path();
+            d.type(behaviorField(path, "path"), QStringLiteral("renamed"));
         });
-        row("remove trigger sentence", [](D &d, M &) {
-            d.push(Zel::BehaviorAddRemoveTriggerSentenceCommand::removeCommand(
-                d.package(), d.package()->behaviors()[0]->path(),
-                languageInUse(QStringLiteral("en_US")), 0));
+        row("trigger sentence", [](D &, M &m) { write(m.sentences, 0, 0, "other"); });
+        row("trigger sentences", [](D &, M &m) {
+            m.sentences.add({QStringLiteral("one"), QStringLiteral("two")});
         });
+        row("remove trigger sentence", [](D &, M &m) { m.sentences.remove(0); });
         row("add dialog", add("dialogs", Tano::DialogInfo()));
         row("remove the first dialog", remove("dialogs", 0));
         row("topic", [](D &, M &m) { write(m.topics, 1, 1, "other.top"); });
@@ -207,7 +207,6 @@ private Q_SLOTS:
         Document document;
         AllModels models(document);
         QVERIFY(document.open(sample("ten-languages")));
-        models.show(document);
         const QByteArray before = manifestOf(document);
         const auto shownBefore = models.state();
 
@@ -248,8 +247,7 @@ private Q_SLOTS:
         QCOMPARE(problems.rowCount(), 2);
         document.undoStack()->undo();
         QCOMPARE(problems.rowCount(), 3);
-        document.push(
-            new Zel::BehaviorPathCommand(document.package(), path, QStringLiteral("other"), true));
+        document.type(behaviorField(path, "path"), QStringLiteral("other"));
         QVERIFY(!document.behaviorSeverity(path));
         QVERIFY(document.behaviorSeverity(QStringLiteral("other")));
     }
@@ -266,7 +264,8 @@ private Q_SLOTS:
         document.closeRun();
         languages.setData(cell, QStringLiteral("Wave"));
         QCOMPARE(document.undoStack()->count(), 2);
-        document.abandonRun();
+        document.abandonRun(languages.field(cell));
+        QCOMPARE(document.undoStack()->count(), 1);
         QCOMPARE(cell.data().toString(), QStringLiteral("Wav"));
         document.undoStack()->undo();
         QCOMPARE(cell.data().toString(), before);
@@ -292,6 +291,43 @@ private Q_SLOTS:
         QCOMPARE(document.undoStack()->count(), 0);
     }
 
+    void pendingEdits_data() {
+        QTest::addColumn<unsigned>("seed");
+        const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
+        for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 12); ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    // The pending edits lead from the saved file to the present package.
+    void pendingEdits() {
+        QFETCH(unsigned, seed);
+        const QTemporaryDir directory;
+        const QString fileName = directory.filePath(QStringLiteral("manifest.xml"));
+        QVERIFY(QFile::copy(QStringLiteral(ZEL_TEST_DATA "/fields/package.xml"), fileName));
+        Document document;
+        QVERIFY(document.open(fileName));
+        RandomEdits edits(seed);
+        std::mt19937 random(seed);
+        for (int step = 0; step < 60; ++step) {
+            const unsigned kind = unsigned(random() % 12);
+            if (kind < 2)
+                document.undoStack()->undo();
+            else if (kind < 4)
+                document.undoStack()->redo();
+            else if (kind == 4)
+                QVERIFY(document.save(fileName));
+            else if (kind < 7)
+                document.type(FieldPath().field("author"), QString::number(random() % 3));
+            else
+                document.edit({edits.next(*document.package())});
+            Zel::PackageInfoModel saved;
+            QVERIFY(saved.loadFromManifestFile(fileName));
+            const auto pending = document.pendingEdits();
+            QCOMPARE(Zel::PackageModel::apply(&saved, pending).error, QString());
+            QCOMPARE(saved.saveToManifestContent().split('\n'), manifestOf(document).split('\n'));
+            QVERIFY(document.isModified() || pending.isEmpty());
+        }
+    }
+
     void coverageFollowsEdits() {
         Document document;
         QVERIFY(document.open(sample("small")));
@@ -300,8 +336,7 @@ private Q_SLOTS:
         const auto percent = [&] { return cell.data(LanguagesModel::PercentRole).toInt(); };
         QCOMPARE(percent(), 100);
         const auto *behavior = document.package()->behaviors().first();
-        document.push(new Zel::BehaviorNameCommand(document.package(), behavior->path(), QString(),
-                                                   Zel::Language::defaultLanguage(), true));
+        document.type(behaviorField(behavior->path(), "names").key("en_US"), QString());
         const auto expected = Zel::PackageModel::coverages(document.package()).front();
         QCOMPARE(percent(), expected.percent());
         QVERIFY(percent() < 100);

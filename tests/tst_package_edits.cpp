@@ -58,6 +58,8 @@ private Q_SLOTS:
     void otherModelsStay();
     void typedRuns();
     void renamedRuns();
+    void runsThatEnd();
+    void textsOfSteps();
     void failedCommands();
 
 private:
@@ -376,6 +378,55 @@ void TestPackageEdits::renamedRuns() {
     QCOMPARE(bytes(), before);
     stack.redo();
     QVERIFY(m_package->behavior(text("abc")));
+}
+
+void TestPackageEdits::runsThatEnd() {
+    QUndoStack stack;
+    const QByteArray before = bytes();
+    const auto top = [&]() -> const PackageEditCommand * {
+        return dynamic_cast<const PackageEditCommand *>(stack.command(stack.index() - 1));
+    };
+    const auto push = [&](const Edits &edits, bool startsRun = false) {
+        auto *command = new PackageEditCommand(m_package.get(), edits, {}, false);
+        if (startsRun)
+            command->startRun();
+        stack.push(command);
+    };
+    // A text that was absent, and an entry that is renamed.
+    for (const char *field : {"names[de_DE]", "behaviors[odd\\]\\\\path].path"}) {
+        push({{Edit::Action::Set, path(field), text("a")}});
+        push({{Edit::Action::Set, top()->inverse().front().path, text("ab")}});
+        QCOMPARE(stack.count(), 1);
+        QCOMPARE(script(top()->edits()), text(field).prepend(text("set ")) + text(" ab\n"));
+        push({{Edit::Action::Set, top()->inverse().front().path, text("abc")}}, true);
+        QCOMPARE(stack.count(), 2);
+        for (int left : {1, 0}) {
+            push(top()->inverse());
+            QCOMPARE(stack.count(), left);
+        }
+        QCOMPARE(bytes(), before);
+    }
+}
+
+void TestPackageEdits::textsOfSteps() {
+    for (const auto &[edit, expected] :
+         {std::pair("set author x", "Set author"),
+          {"set uid x", "Set UID"},
+          {"set behaviors[greet].names[fr_FR] x", "Set name of “greet” in French (France)"},
+          {"set behaviors[greet].path x", "Rename behavior “greet”"},
+          {"insert behaviors 0 a", "Add behavior “a”"},
+          {"insert supportedLanguages 0 de_DE", "Add supported language “German (Germany)”"},
+          {"insert behaviors[greet].tags[en_US] 0 x", "Add to tags of “greet” in English (United "
+                                                      "States)"},
+          {"remove robotRequirements[0]", "Remove robot requirement 1"},
+          {"move dialogs[talk] 1", "Move dialog “talk”"},
+          {"remove names[en_US]\nset uid x\nset author x",
+           "Remove name in English (United States) (and 2 more)"}})
+        QCOMPARE(PackageEditCommand(m_package.get(), editsOf(text(edit))).text(), text(expected));
+    QCOMPARE(label(Edits{{Edit::Action::Set, {}, m_package->packageInfo()}}),
+             text("Replace the package"));
+    QCOMPARE(label(Edits()), QString());
+    QCOMPARE(PackageEditCommand(m_package.get(), {}, text("x")).text(), text("x"));
 }
 
 void TestPackageEdits::failedCommands() {

@@ -1044,6 +1044,38 @@
         <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
         <translation>ja</translation>
     </message>
+    <message>
+        <source>Add %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the package</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (and %2 more)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

@@ -95,6 +95,26 @@
         <source>&amp;Description:</source>
         <translation>&amp;Description&#xa0;:</translation>
     </message>
+    <message>
+        <source>What people say to start the behavior. Type a sentence below.</source>
+        <translation>Ce que l&apos;on dit pour lancer le comportement. Saisissez une phrase ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What the robot says until the behavior starts. Type a sentence below.</source>
+        <translation>Ce que le robot dit jusqu&apos;au début du comportement. Saisissez une phrase ci-dessous.</translation>
+    </message>
+    <message>
+        <source>Words that group behaviors. Type a tag below.</source>
+        <translation>Des mots qui regroupent les comportements. Saisissez une étiquette ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What has to hold for the behavior to run. Type a condition below.</source>
+        <translation>Ce qui doit être vrai pour que le comportement s&apos;exécute. Saisissez une condition ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What the behavior uses of the robot. Type a permission below.</source>
+        <translation>Ce que le comportement utilise du robot. Saisissez une permission ci-dessous.</translation>
+    </message>
 </context>
 <context>
     <name>Editor::BehaviorsModel</name>
@@ -130,12 +150,8 @@
         <translation>&amp;Retirer</translation>
     </message>
     <message>
-        <source>Add behavior %1</source>
-        <translation>Ajouter le comportement %1</translation>
-    </message>
-    <message>
-        <source>Remove behavior %1</source>
-        <translation>Retirer le comportement %1</translation>
+        <source>A behavior is something that the robot does. “Add” adds one; the search above may hide some.</source>
+        <translation>Un comportement est une action du robot. «&#xa0;Ajouter&#xa0;» en ajoute un&#xa0;; la recherche ci-dessus peut en masquer.</translation>
     </message>
 </context>
 <context>
@@ -176,20 +192,28 @@
         <translation>Fichiers du sujet</translation>
     </message>
     <message>
-        <source>Remove dialog %1</source>
-        <translation>Retirer le dialogue %1</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>Ajouter le dialogue %1</translation>
-    </message>
-    <message>
         <source>Type vers&amp;ion:</source>
         <translation>&amp;Version de type&#xa0;:</translation>
     </message>
     <message>
         <source>Remove Fi&amp;le</source>
         <translation>Retirer &amp;le fichier</translation>
+    </message>
+    <message>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>Un dialogue est un sujet dont le robot peut parler, avec un fichier par langue. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation>&amp;Choisir un fichier…</translation>
+    </message>
+    <message>
+        <source>Choose a Topic File</source>
+        <translation>Choisir un fichier de sujet</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -294,14 +318,6 @@
         <translation>L&apos;enregistrement remplacera ce que l&apos;autre programme a écrit.</translation>
     </message>
     <message>
-        <source>Publish the Manifest</source>
-        <translation>Publier le manifeste</translation>
-    </message>
-    <message>
-        <source>Publish</source>
-        <translation>Publier</translation>
-    </message>
-    <message>
         <source>Reload</source>
         <translation>Recharger</translation>
     </message>
@@ -335,6 +351,69 @@
     </message>
 </context>
 <context>
+    <name>Editor::FindPanel</name>
+    <message>
+        <source>Match case</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the replacement, \1 is the first captured text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching: %1 so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaced: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaced: %1, not possible: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace “%1” by “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Editor::IconButton</name>
     <message>
         <source>Icon</source>
@@ -359,6 +438,18 @@
     <message>
         <source>The picture %1 cannot be read: %2</source>
         <translation>L&apos;image %1 ne peut pas être lue&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Robots show the default icon.</source>
+        <translation>Les robots affichent l&apos;icône par défaut.</translation>
+    </message>
+    <message>
+        <source>The file icon.png is beside the manifest.</source>
+        <translation>Le fichier icon.png est à côté du manifeste.</translation>
+    </message>
+    <message>
+        <source>Saving writes the file icon.png beside the manifest.</source>
+        <translation>L&apos;enregistrement écrit le fichier icon.png à côté du manifeste.</translation>
     </message>
 </context>
 <context>
@@ -404,10 +495,6 @@
         <translation>Cana&amp;l&#xa0;:</translation>
     </message>
     <message>
-        <source>Click, or drop a picture.</source>
-        <translation>Cliquez ou déposez une image.</translation>
-    </message>
-    <message>
         <source>Icon</source>
         <translation>Icône</translation>
     </message>
@@ -416,16 +503,59 @@
         <translation>%1 :</translation>
     </message>
     <message>
-        <source>Set %1</source>
-        <translation>Modifier : %1</translation>
-    </message>
-    <message>
         <source>Ve&amp;rsion:</source>
         <translation>Ve&amp;rsion&#xa0;:</translation>
     </message>
     <message>
         <source>Path on the ro&amp;bot:</source>
         <translation>&amp;Chemin sur le robot&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Icon…</source>
+        <translation>Choi&amp;sir l&apos;icône…</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguageChooser</name>
+    <message>
+        <source>Add Language</source>
+        <translation>Ajouter une langue</translation>
+    </message>
+    <message>
+        <source>Find a language, or type a code such as pt_BR</source>
+        <translation>Chercher une langue, ou saisir un code comme pt_BR</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Its own name</source>
+        <translation>Nom dans la langue</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>Another language</source>
+        <translation>Autre langue</translation>
+    </message>
+    <message>
+        <source>No known language matches. “%1” is added as a code.</source>
+        <translation>Aucune langue connue ne correspond. «&#xa0;%1&#xa0;» est ajouté comme code.</translation>
+    </message>
+    <message>
+        <source>The package supports “%1” already.</source>
+        <translation>Le paquet prend déjà en charge «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
+        <translation>Aucune langue connue ne correspond, et «&#xa0;%1&#xa0;» n&apos;est pas un code. Un code commence par des lettres&#xa0;; des lettres et des chiffres suivent un tiret bas, comme dans pt_BR.</translation>
     </message>
 </context>
 <context>
@@ -466,25 +596,9 @@
         <source>Remove language %1</source>
         <translation>Retirer la langue %1</translation>
     </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>Retirer la langue de description %1</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>Ajouter la langue %1</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>Ajouter la langue de description %1</translation>
-    </message>
 </context>
 <context>
     <name>Editor::MainWindow</name>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
     <message>
         <source>Problems</source>
         <translation>Problèmes</translation>
@@ -550,14 +664,6 @@ Version %1</translation>
         <translation>%1[*] – Propriétés du paquet</translation>
     </message>
     <message>
-        <source>No problems</source>
-        <translation>Aucun problème</translation>
-    </message>
-    <message>
-        <source>Errors: %1, warnings: %2</source>
-        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -568,10 +674,6 @@ Version %1</translation>
     <message>
         <source>Go On Without It</source>
         <translation>Continuer sans</translation>
-    </message>
-    <message>
-        <source>Mend It</source>
-        <translation>Corriger</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -597,6 +699,14 @@ Version %1</translation>
         <source>Dark &amp;Colors</source>
         <translation>&amp;Couleurs sombres</translation>
     </message>
+    <message>
+        <source>Package Properties</source>
+        <translation>Propriétés du paquet</translation>
+    </message>
+    <message>
+        <source>Fix</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -611,6 +721,35 @@ Version %1</translation>
     <message>
         <source>Note</source>
         <translation>Remarque</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MatchesModel</name>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished">Champ</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Editor::PageStack</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemCount</name>
+    <message>
+        <source>No problems</source>
+        <translation>Aucun problème</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -648,6 +787,45 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::Publishing</name>
+    <message>
+        <source>… and %1 more</source>
+        <translation>… et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>Publier</translation>
+    </message>
+    <message>
+        <source>A package with malformed speech scripts cannot be published.</source>
+        <translation>Un paquet dont des scripts de parole sont mal formés ne peut pas être publié.</translation>
+    </message>
+    <message>
+        <source>The package still has errors.</source>
+        <translation>Le paquet a encore des erreurs.</translation>
+    </message>
+    <message>
+        <source>Publish Anyway</source>
+        <translation>Publier quand même</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>Publier le manifeste</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>Manifestes (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>This is the manifest that is open.</source>
+        <translation>C&apos;est le manifeste qui est ouvert.</translation>
+    </message>
+    <message>
+        <source>Publishing would replace it by a copy with fewer texts. Choose another file.</source>
+        <translation>La publication le remplacerait par une copie avec moins de textes. Choisissez un autre fichier.</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -676,30 +854,6 @@ Version %1</translation>
     <message>
         <source>Highest body</source>
         <translation>Corps, maximum</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>Modifier l&apos;exigence sur le robot %1</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Modifier l&apos;exigence Brio %1</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>Ajouter une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Ajouter une exigence Brio</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>Retirer une exigence sur le robot</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Retirer une exigence Brio</translation>
     </message>
     <message>
         <source>Choose a robot</source>
@@ -744,6 +898,14 @@ Version %1</translation>
         <source>Rem&amp;ove Brio Version</source>
         <translation>Re&amp;tirer la version de Brio</translation>
     </message>
+    <message>
+        <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
+        <translation>Sans robot, le paquet n&apos;est proposé à aucun. «&#xa0;Ajouter un robot&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
+        <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
+        <translation>Les versions sur lesquelles le paquet fonctionne. «&#xa0;Ajouter une version de Brio&#xa0;» en ajoute une.</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ServicesModel</name>
@@ -758,18 +920,6 @@ Version %1</translation>
     <message>
         <source>Starts with the robot</source>
         <translation>Démarre avec le robot</translation>
-    </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>Changer le démarrage du service %1</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>Renommer le service %1</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>Modifier la commande du service %1</translation>
     </message>
 </context>
 <context>
@@ -791,12 +941,43 @@ Version %1</translation>
         <translation>&amp;Retirer</translation>
     </message>
     <message>
-        <source>Remove service %1</source>
-        <translation>Retirer le service %1</translation>
+        <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
+        <translation>Un service est un programme qui tourne en arrière-plan sur le robot. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StartPage</name>
+    <message>
+        <source>%1 (the file is gone)</source>
+        <translation>%1 (le fichier a disparu)</translation>
     </message>
     <message>
-        <source>Add service %1</source>
-        <translation>Ajouter le service %1</translation>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Recent packages</source>
+        <translation>Paquets récents</translation>
+    </message>
+    <message>
+        <source>The packages that you open appear here.</source>
+        <translation>Les paquets que vous ouvrez apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a Manifest…</source>
+        <translation>Ouvrir un manifeste…</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Nouveau paquet</translation>
     </message>
 </context>
 <context>
@@ -828,10 +1009,6 @@ Version %1</translation>
         <translation>Langues et textes</translation>
     </message>
     <message>
-        <source>&amp;Add Language</source>
-        <translation>&amp;Ajouter une langue</translation>
-    </message>
-    <message>
         <source>&amp;Remove Language</source>
         <translation>&amp;Retirer la langue</translation>
     </message>
@@ -844,20 +1021,12 @@ Version %1</translation>
         <translation>Aucune langue n&apos;est sélectionnée.</translation>
     </message>
     <message>
-        <source>Other Language…</source>
-        <translation>Autre langue…</translation>
-    </message>
-    <message>
-        <source>Add Language</source>
-        <translation>Ajouter une langue</translation>
-    </message>
-    <message>
-        <source>Code of the language, such as en or pt_BR:</source>
-        <translation>Code de la langue, comme en ou pt_BR&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Description:</source>
         <translation>&amp;Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Add Language…</source>
+        <translation>&amp;Ajouter une langue…</translation>
     </message>
 </context>
 <context>
@@ -869,6 +1038,10 @@ Version %1</translation>
     <message>
         <source>Topic file</source>
         <translation>Fichier du sujet</translation>
+    </message>
+    <message>
+        <source>The file is beside the manifest.</source>
+        <translation>Le fichier est à côté du manifeste.</translation>
     </message>
 </context>
 <context>

@@ -95,6 +95,26 @@
         <source>&amp;Description:</source>
         <translation>説明(&amp;D):</translation>
     </message>
+    <message>
+        <source>What people say to start the behavior. Type a sentence below.</source>
+        <translation>ビヘイビアを始めるために人が言う文です。下に文を入力してください。</translation>
+    </message>
+    <message>
+        <source>What the robot says until the behavior starts. Type a sentence below.</source>
+        <translation>ビヘイビアが始まるまでロボットが言う文です。下に文を入力してください。</translation>
+    </message>
+    <message>
+        <source>Words that group behaviors. Type a tag below.</source>
+        <translation>ビヘイビアを分類する言葉です。下にタグを入力してください。</translation>
+    </message>
+    <message>
+        <source>What has to hold for the behavior to run. Type a condition below.</source>
+        <translation>ビヘイビアの実行に必要な条件です。下に条件を入力してください。</translation>
+    </message>
+    <message>
+        <source>What the behavior uses of the robot. Type a permission below.</source>
+        <translation>ビヘイビアが使うロボットの機能です。下に権限を入力してください。</translation>
+    </message>
 </context>
 <context>
     <name>Editor::BehaviorsModel</name>
@@ -130,12 +150,8 @@
         <translation>削除(&amp;R)</translation>
     </message>
     <message>
-        <source>Add behavior %1</source>
-        <translation>ビヘイビア %1 を追加</translation>
-    </message>
-    <message>
-        <source>Remove behavior %1</source>
-        <translation>ビヘイビア %1 を削除</translation>
+        <source>A behavior is something that the robot does. “Add” adds one; the search above may hide some.</source>
+        <translation>ビヘイビアはロボットの動作です。「追加」で追加します。上の検索で隠れている場合もあります。</translation>
     </message>
 </context>
 <context>
@@ -176,20 +192,28 @@
         <translation>トピックファイル</translation>
     </message>
     <message>
-        <source>Remove dialog %1</source>
-        <translation>ダイアログ %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add dialog %1</source>
-        <translation>ダイアログ %1 を追加</translation>
-    </message>
-    <message>
         <source>Type vers&amp;ion:</source>
         <translation>種別バージョン(&amp;I):</translation>
     </message>
     <message>
         <source>Remove Fi&amp;le</source>
         <translation>ファイルを削除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>ダイアログはロボットが話せる話題で、言語ごとにファイルがあります。「追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation>ファイルを選択(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Choose a Topic File</source>
+        <translation>トピックファイルを選択</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -294,14 +318,6 @@
         <translation>保存すると、別のプログラムが書き込んだ内容は置き換えられます。</translation>
     </message>
     <message>
-        <source>Publish the Manifest</source>
-        <translation>マニフェストを公開</translation>
-    </message>
-    <message>
-        <source>Publish</source>
-        <translation>公開</translation>
-    </message>
-    <message>
         <source>Reload</source>
         <translation>再読み込み</translation>
     </message>
@@ -335,6 +351,69 @@
     </message>
 </context>
 <context>
+    <name>Editor::FindPanel</name>
+    <message>
+        <source>Match case</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the replacement, \1 is the first captured text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching: %1 so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaced: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replaced: %1, not possible: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace “%1” by “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Editor::IconButton</name>
     <message>
         <source>Icon</source>
@@ -359,6 +438,18 @@
     <message>
         <source>The picture %1 cannot be read: %2</source>
         <translation>画像 %1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>Robots show the default icon.</source>
+        <translation>ロボットには既定のアイコンが表示されます。</translation>
+    </message>
+    <message>
+        <source>The file icon.png is beside the manifest.</source>
+        <translation>マニフェストと同じ場所に icon.png があります。</translation>
+    </message>
+    <message>
+        <source>Saving writes the file icon.png beside the manifest.</source>
+        <translation>保存すると、マニフェストと同じ場所に icon.png が作成されます。</translation>
     </message>
 </context>
 <context>
@@ -404,10 +495,6 @@
         <translation>チャンネル(&amp;C):</translation>
     </message>
     <message>
-        <source>Click, or drop a picture.</source>
-        <translation>クリックまたは画像をドロップ</translation>
-    </message>
-    <message>
         <source>Icon</source>
         <translation>アイコン</translation>
     </message>
@@ -416,16 +503,59 @@
         <translation>%1:</translation>
     </message>
     <message>
-        <source>Set %1</source>
-        <translation>%1 を設定</translation>
-    </message>
-    <message>
         <source>Ve&amp;rsion:</source>
         <translation>バージョン(&amp;R):</translation>
     </message>
     <message>
         <source>Path on the ro&amp;bot:</source>
         <translation>ロボット上のパス(&amp;B):</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Icon…</source>
+        <translation>アイコンを選択(&amp;I)…</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguageChooser</name>
+    <message>
+        <source>Add Language</source>
+        <translation>言語を追加</translation>
+    </message>
+    <message>
+        <source>Find a language, or type a code such as pt_BR</source>
+        <translation>言語を検索するか、pt_BR のようなコードを入力</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Its own name</source>
+        <translation>その言語での名前</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Another language</source>
+        <translation>その他の言語</translation>
+    </message>
+    <message>
+        <source>No known language matches. “%1” is added as a code.</source>
+        <translation>該当する言語はありません。「%1」をコードとして追加します。</translation>
+    </message>
+    <message>
+        <source>The package supports “%1” already.</source>
+        <translation>パッケージはすでに「%1」に対応しています。</translation>
+    </message>
+    <message>
+        <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
+        <translation>該当する言語はなく、「%1」はコードではありません。コードは文字で始まり、pt_BR のように下線の後に文字や数字が続きます。</translation>
     </message>
 </context>
 <context>
@@ -466,25 +596,9 @@
         <source>Remove language %1</source>
         <translation>言語 %1 を削除</translation>
     </message>
-    <message>
-        <source>Remove description language %1</source>
-        <translation>説明の言語 %1 を削除</translation>
-    </message>
-    <message>
-        <source>Add language %1</source>
-        <translation>言語 %1 を追加</translation>
-    </message>
-    <message>
-        <source>Add description language %1</source>
-        <translation>説明の言語 %1 を追加</translation>
-    </message>
 </context>
 <context>
     <name>Editor::MainWindow</name>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
     <message>
         <source>Problems</source>
         <translation>問題</translation>
@@ -550,14 +664,6 @@ Version %1</source>
         <translation>%1[*] – パッケージのプロパティ</translation>
     </message>
     <message>
-        <source>No problems</source>
-        <translation>問題なし</translation>
-    </message>
-    <message>
-        <source>Errors: %1, warnings: %2</source>
-        <translation>エラー: %1、警告: %2</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -568,10 +674,6 @@ Version %1</source>
     <message>
         <source>Go On Without It</source>
         <translation>このまま続ける</translation>
-    </message>
-    <message>
-        <source>Mend It</source>
-        <translation>修正する</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -597,6 +699,14 @@ Version %1</source>
         <source>Dark &amp;Colors</source>
         <translation>暗い配色(&amp;C)</translation>
     </message>
+    <message>
+        <source>Package Properties</source>
+        <translation>パッケージのプロパティ</translation>
+    </message>
+    <message>
+        <source>Fix</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -611,6 +721,35 @@ Version %1</source>
     <message>
         <source>Note</source>
         <translation>注記</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::MatchesModel</name>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished">項目</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Editor::PageStack</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemCount</name>
+    <message>
+        <source>No problems</source>
+        <translation>問題はありません</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>エラー: %1、警告: %2</translation>
     </message>
 </context>
 <context>
@@ -648,6 +787,45 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::Publishing</name>
+    <message>
+        <source>… and %1 more</source>
+        <translation>…ほか %1 件</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>公開</translation>
+    </message>
+    <message>
+        <source>A package with malformed speech scripts cannot be published.</source>
+        <translation>形式の正しくない音声スクリプトがあるパッケージは公開できません。</translation>
+    </message>
+    <message>
+        <source>The package still has errors.</source>
+        <translation>パッケージにはまだエラーがあります。</translation>
+    </message>
+    <message>
+        <source>Publish Anyway</source>
+        <translation>それでも公開</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>マニフェストを公開</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>マニフェスト (*.xml);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>This is the manifest that is open.</source>
+        <translation>これは開いているマニフェストです。</translation>
+    </message>
+    <message>
+        <source>Publishing would replace it by a copy with fewer texts. Choose another file.</source>
+        <translation>公開すると、テキストの少ないコピーに置き換わります。別のファイルを選択してください。</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -676,30 +854,6 @@ Version %1</source>
     <message>
         <source>Highest body</source>
         <translation>ボディの最大</translation>
-    </message>
-    <message>
-        <source>Edit robot requirement %1</source>
-        <translation>ロボット要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Edit Brio requirement %1</source>
-        <translation>Brio の要件 %1 を編集</translation>
-    </message>
-    <message>
-        <source>Add robot requirement</source>
-        <translation>ロボット要件を追加</translation>
-    </message>
-    <message>
-        <source>Add Brio requirement</source>
-        <translation>Brio の要件を追加</translation>
-    </message>
-    <message>
-        <source>Remove robot requirement</source>
-        <translation>ロボット要件を削除</translation>
-    </message>
-    <message>
-        <source>Remove Brio requirement</source>
-        <translation>Brio の要件を削除</translation>
     </message>
     <message>
         <source>Choose a robot</source>
@@ -744,6 +898,14 @@ Version %1</source>
         <source>Rem&amp;ove Brio Version</source>
         <translation>Brio のバージョンを削除(&amp;O)</translation>
     </message>
+    <message>
+        <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
+        <translation>ロボットがないと、パッケージはどのロボットにも提供されません。「ロボットを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
+        <translation>パッケージが動作するバージョンです。「Brio のバージョンを追加」で追加します。</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ServicesModel</name>
@@ -758,18 +920,6 @@ Version %1</source>
     <message>
         <source>Starts with the robot</source>
         <translation>ロボットと同時に起動</translation>
-    </message>
-    <message>
-        <source>Switch start of service %1</source>
-        <translation>サービス %1 の自動起動を切り替え</translation>
-    </message>
-    <message>
-        <source>Rename service %1</source>
-        <translation>サービス %1 の名前を変更</translation>
-    </message>
-    <message>
-        <source>Set command of service %1</source>
-        <translation>サービス %1 のコマンドを変更</translation>
     </message>
 </context>
 <context>
@@ -791,12 +941,43 @@ Version %1</source>
         <translation>削除(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove service %1</source>
-        <translation>サービス %1 を削除</translation>
+        <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
+        <translation>サービスはロボットのバックグラウンドで動くプログラムです。「追加」で追加します。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StartPage</name>
+    <message>
+        <source>%1 (the file is gone)</source>
+        <translation>%1(ファイルがありません)</translation>
     </message>
     <message>
-        <source>Add service %1</source>
-        <translation>サービス %1 を追加</translation>
+        <source>Package</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Recent packages</source>
+        <translation>最近使ったパッケージ</translation>
+    </message>
+    <message>
+        <source>The packages that you open appear here.</source>
+        <translation>開いたパッケージがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open a Manifest…</source>
+        <translation>マニフェストを開く…</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>新しいパッケージ</translation>
     </message>
 </context>
 <context>
@@ -828,10 +1009,6 @@ Version %1</source>
         <translation>言語とテキスト</translation>
     </message>
     <message>
-        <source>&amp;Add Language</source>
-        <translation>言語を追加(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Remove Language</source>
         <translation>言語を削除(&amp;R)</translation>
     </message>
@@ -844,20 +1021,12 @@ Version %1</source>
         <translation>言語が選択されていません。</translation>
     </message>
     <message>
-        <source>Other Language…</source>
-        <translation>その他の言語…</translation>
-    </message>
-    <message>
-        <source>Add Language</source>
-        <translation>言語を追加</translation>
-    </message>
-    <message>
-        <source>Code of the language, such as en or pt_BR:</source>
-        <translation>言語コード (en、pt_BR など):</translation>
-    </message>
-    <message>
         <source>&amp;Description:</source>
         <translation>説明(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Add Language…</source>
+        <translation>言語を追加(&amp;A)…</translation>
     </message>
 </context>
 <context>
@@ -869,6 +1038,10 @@ Version %1</source>
     <message>
         <source>Topic file</source>
         <translation>トピックファイル</translation>
+    </message>
+    <message>
+        <source>The file is beside the manifest.</source>
+        <translation>ファイルはマニフェストと同じ場所にあります。</translation>
     </message>
 </context>
 <context>

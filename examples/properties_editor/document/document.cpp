@@ -2,8 +2,6 @@
 
 #include "field_edits.h"
 
-#include <packagemodel/package_edit_command.h>
-
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
@@ -14,6 +12,7 @@
 namespace Editor {
 namespace {
 
+using Tano::FieldPath;
 using Zel::PackageInfoModel;
 using Zel::PackageModel::Issue;
 using Zel::PackageModel::LanguageCoverage;
@@ -43,6 +42,9 @@ Document::Document(QObject *parent)
     : QObject(parent)
     , m_package(std::make_unique<PackageInfoModel>()) {
     connect(&m_undoStack, &QUndoStack::indexChanged, this, &Document::finishEdit);
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(std::chrono::seconds(1));
+    connect(&m_pause, &QTimer::timeout, this, &Document::closeRun);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Document::checkDisk);
     watchPackage();
     refreshIssues();
@@ -173,11 +175,11 @@ void Document::rememberDisk(const Tano::FileFingerprint &content) {
 
 void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const QString &fileName,
                               const Tano::FileFingerprint &content) {
-    m_openRun = nullptr;
-    {
-        const QSignalBlocker blocker(m_undoStack);
-        m_undoStack.clear();
-    }
+    closeRun();
+    m_isReplacing = true;
+    m_undoStack.clear(); // its views and actions follow at once
+    m_isReplacing = false;
+    m_stackIndex = 0;
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
@@ -188,7 +190,6 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_coverages.reset();
     refreshIssues();
     Q_EMIT packageReplaced();
-    m_undoStack.clear(); // tells its views and actions
     Q_EMIT fileNameChanged();
     finishEdit();
 }
@@ -217,12 +218,6 @@ LanguageCoverage Document::coverage(const QString &languageCode) const {
     return found == m_coverages->end() ? LanguageCoverage() : *found;
 }
 
-void Document::finishEdit() {
-    m_coverages.reset();
-    refreshIssues();
-    Q_EMIT edited();
-}
-
 void Document::refreshIssues() {
     const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
     const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
@@ -243,7 +238,7 @@ void Document::refreshIssues() {
         const bool isFirst = !m_issueByPath.contains(issue.path);
         keepWorst(m_issueByPath[issue.path], issue,
                   isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
-        const auto path = Tano::FieldPath::parse(Zel::toUtf8(issue.path));
+        const auto path = FieldPath::parse(Zel::toUtf8(issue.path));
         if (path && fieldName(*path) == QLatin1String("behaviors")) {
             const QString key = fieldKey(*path);
             const bool isNew = !m_behaviorSeverity.contains(key);
@@ -253,7 +248,7 @@ void Document::refreshIssues() {
     Q_EMIT issuesChanged();
 }
 
-std::optional<Issue> Document::issueAt(const Tano::FieldPath &path) const {
+std::optional<Issue> Document::issueAt(const FieldPath &path) const {
     const auto found = m_issueByPath.constFind(Zel::fromUtf8(path.toString()));
     return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
 }
@@ -261,42 +256,6 @@ std::optional<Issue> Document::issueAt(const Tano::FieldPath &path) const {
 std::optional<Severity> Document::behaviorSeverity(const QString &behaviorPath) const {
     const auto found = m_behaviorSeverity.constFind(behaviorPath);
     return found == m_behaviorSeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
-}
-
-void Document::edit(const Zel::PackageModel::Edits &edits, const QString &text) {
-    for (const auto &edit : edits) {
-        if (const QString reason = Zel::PackageModel::refusal(m_package.get(), edit);
-            !reason.isEmpty()) {
-            Q_EMIT editRefused(reason);
-            return;
-        }
-    }
-    push(new Zel::PackageEditCommand(m_package.get(), edits, text));
-}
-
-void Document::push(QUndoCommand *command) {
-    closeRun();
-    m_undoStack.push(command);
-}
-
-void Document::pushTyped(const MakeCommand &make) {
-    m_undoStack.push(make(false));
-    m_openRun = make;
-    m_openRunIndex = m_undoStack.index();
-}
-
-void Document::closeRun() {
-    const MakeCommand make = std::exchange(m_openRun, nullptr);
-    const bool isOnTop = m_undoStack.index() == m_openRunIndex && !m_undoStack.canRedo();
-    // A stack does not merge into its clean step, which is closed for that reason.
-    if (make && isOnTop && !m_undoStack.isClean())
-        m_undoStack.push(make(true));
-}
-
-void Document::abandonRun() {
-    if (m_openRun && m_undoStack.index() == m_openRunIndex && !m_undoStack.canRedo())
-        m_undoStack.undo();
-    m_openRun = nullptr;
 }
 
 } // namespace Editor

@@ -10,27 +10,28 @@
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QObject>
-#include <QSet>
+#include <QTimer>
 #include <QUndoStack>
 
-#include <functional>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
+
+namespace Zel {
+class PackageEditCommand;
+}
 
 namespace Editor {
 
 /// The open package: its model, the file it came from, its undo stack, and what is wrong with it.
 ///
-/// Every edit goes through edit(), push() or pushTyped(). When one is done, undone or redone, the
-/// issues are brought up to date first, and edited() is sent last.
+/// Every edit goes through type(), edit() or push(). When one is done, undone or redone, the issues
+/// are brought up to date first, then edited() is sent, and fieldChanged() after undo and redo.
 class Document : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes the command of a typed edit: the one that closes the run when asked for a final one.
-    using MakeCommand = std::function<QUndoCommand *(bool isFinal)>;
-
     enum class DiskState { Same, Changed, Vanished };
 
     /// An empty package without a file.
@@ -62,17 +63,25 @@ public:
 
     // Edits.
 
-    /// Applies edits as an undo step of its own with that text, or changes nothing and sends
-    /// editRefused(). None of the edits may depend on another one.
-    void edit(const Zel::PackageModel::Edits &edits, const QString &text);
-    /// Does an edit that is an undo step of its own.
+    /// Sets a field to a typed text. What is typed in one field is one undo step until the run is
+    /// closed, which a pause does too. Returns why the field cannot take the text; the field then
+    /// has what it had before the run.
+    QString type(const Tano::FieldPath &field, const QString &text);
+    /// Applies edits as an undo step, or changes nothing and sends editRefused(). Without a text,
+    /// the edits in words are the text of the step.
+    void edit(const Zel::PackageModel::Edits &edits, const QString &text = {});
+    /// Pushes a command for what no edit changes: the icon.
     void push(QUndoCommand *command);
-    /// Does an edit that is part of a run of keystrokes.
-    void pushTyped(const MakeCommand &make);
     /// Ends the run, so that what is typed next is another step.
     void closeRun();
-    /// Takes the run back, if one is open.
-    void abandonRun();
+    /// Takes the run back, if one is open in that field.
+    void abandonRun(const Tano::FieldPath &field);
+    /// How long a pause in typing ends the run; a second unless set.
+    void setTypingPause(std::chrono::milliseconds pause) { m_pause.setInterval(pause); }
+
+    /// The edits that lead from the package as it was opened or last saved to the present one; the
+    /// whole package if the undo stack cannot lead back there. The icon is not among them.
+    Zel::PackageModel::Edits pendingEdits() const;
 
     // What is wrong, as it is right now.
 
@@ -92,6 +101,8 @@ public:
 Q_SIGNALS:
     void packageReplaced();
     void edited();
+    /// An undo or redo has changed the field or entry with that path.
+    void fieldChanged(const QString &path);
     void editRefused(const QString &reason);
     void issuesChanged();
     void fileNameChanged();
@@ -101,6 +112,10 @@ private:
     void replacePackage(std::unique_ptr<Zel::PackageInfoModel> package, const QString &fileName,
                         const Tano::FileFingerprint &content);
     void watchPackage();
+    void pushCommand(QUndoCommand *command);
+    const Zel::PackageEditCommand *commandAt(int index) const;
+    Tano::FieldPath changedField(int indexBefore) const;
+    QString refusalOf(const Zel::PackageModel::Edits &edits) const;
     void finishEdit();
     void refreshIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
@@ -108,8 +123,11 @@ private:
 
     std::unique_ptr<Zel::PackageInfoModel> m_package;
     QUndoStack m_undoStack;
-    MakeCommand m_openRun;
-    int m_openRunIndex = 0;
+    Tano::FieldPath m_run; // the field that is being typed in; empty while no run is open
+    QTimer m_pause;
+    int m_stackIndex = 0;
+    bool m_isPushing = false;
+    bool m_isReplacing = false;
 
     QVector<Zel::PackageModel::Issue> m_issues;
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;

@@ -55,4 +55,10 @@ QString fieldKey(const FieldPath &path, std::size_t step) {
     return hasKey ? Zel::fromUtf8(steps[step].selectors.front().text) : QString();
 }
 
+int itemIndex(const FieldPath &path) {
+    if (path.isEmpty() || path.steps().back().selectors.empty())
+        return -1;
+    return path.steps().back().selectors.back().toIndex().value_or(-1);
+}
+
 } // namespace Editor

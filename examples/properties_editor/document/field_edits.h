@@ -2,6 +2,8 @@
 
 #include <packagemodel/package_edits.h>
 
+#include <functional>
+
 namespace Editor {
 
 // The fields of a package as the texts that a form shows and takes, and edits of its lists.
@@ -26,5 +28,20 @@ Zel::PackageModel::Edit removed(const Zel::PackageInfoModel *package, const Tano
 QString fieldName(const Tano::FieldPath &path, std::size_t step = 0);
 /// The first selector of a step.
 QString fieldKey(const Tano::FieldPath &path, std::size_t step = 0);
+/// The last selector of the last step as an index; -1 if it is none.
+int itemIndex(const Tano::FieldPath &path);
+
+/// The index of the entry, such as a behavior, that the first step of a path selects by its key and
+/// by the number among entries with that key; -1 for none.
+template<typename Entries, typename Key>
+int entryIndex(const Entries &entries, Key key, const Tano::FieldPath &path) {
+    const auto &selectors = path.steps().front().selectors;
+    int others = selectors.size() > 1 ? selectors[1].toIndex().value_or(0) : 0;
+    for (int i = 0; !selectors.empty() && i < int(entries.size()); ++i) {
+        if (std::invoke(key, entries.at(i)) == fieldKey(path) && others-- == 0)
+            return i;
+    }
+    return -1;
+}
 
 } // namespace Editor

@@ -1,18 +1,18 @@
 #include "entry_models.h"
 
 #include "document/field_edits.h"
+#include "widgets/icons.h"
+#include "widgets/marks.h"
 
-#include <packagemodel/dialog_commands.h>
 #include <packagemodel/language_name.h>
-#include <packagemodel/package_edit_command.h>
 
+#include <algorithm>
 #include <array>
 
 namespace Editor {
 
 using Tano::FieldPath;
 using Zel::DialogInfoModel;
-using Zel::RobotLanguage;
 using Zel::Language::languageInUse;
 using Zel::PackageModel::Edit;
 
@@ -59,11 +59,25 @@ int TopicsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant TopicsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() ||
-        (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog())
         return {};
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return index.column() == 0 ? QVariant() : fileData(index, role);
     return index.column() == 0 ? Zel::PackageModel::languageName(languageInUse(key(index)))
                                : fieldText(package(), field(index));
+}
+
+// Whether the file exists: one that is missing is an issue.
+QVariant TopicsModel::fileData(const QModelIndex &index, int role) const {
+    if (const auto mark = Mark::ofIssue(document().issueAt(field(index))))
+        return markData(mark, role);
+    const bool exists =
+        !document().fileName().isEmpty() && !fieldText(package(), field(index)).isEmpty();
+    if (exists && role == Qt::DecorationRole)
+        return iconOf(Symbol::Check);
+    if (exists && (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole))
+        return tr("The file is beside the manifest.");
+    return {};
 }
 
 FieldPath TopicsModel::field(const QModelIndex &index) const {
@@ -72,31 +86,14 @@ FieldPath TopicsModel::field(const QModelIndex &index) const {
     return entry.isEmpty() ? entry : FieldPath(entry).field("topics").key(Zel::toUtf8(key(index)));
 }
 
-bool TopicsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() || role != Qt::EditRole ||
-        index.column() != 1)
-        return false;
-    document().pushTyped([package = package(), row = m_dialogRow,
-                          language = languageInUse(key(index)),
-                          text = value.toString()](bool isFinal) {
-        return new Zel::DialogInfoModelTopicCommand(
-            package, package->dialogs().at(row)->topicName(), language, text, isFinal);
-    });
-    return true;
+void TopicsModel::setFile(int row, const QString &file) {
+    document().edit({setText(field(index(row, 1)), file)});
 }
 
 void TopicsModel::removeTopic(int row) {
-    const RobotLanguage language = languageInUse(keys().value(row));
-    if (!dialog())
-        return;
-    const auto &topics = dialog()->topics();
-    for (const auto &[path, topicLanguage] : topics) {
-        if (topicLanguage == language) {
-            document().push(new Zel::DialogInfoModelRemoveTopicCommand(
-                package(), dialog()->topicName(), language));
-            return;
-        }
-    }
+    const FieldPath topic = field(index(row, 1));
+    if (!topic.isEmpty() && Zel::PackageModel::value(package(), topic))
+        document().edit({{Edit::Action::Remove, topic}});
 }
 
 Qt::ItemFlags TopicsModel::extraFlags(const QModelIndex &index) const {
@@ -107,7 +104,7 @@ QStringList TopicsModel::currentKeys() const {
     QStringList keys;
     if (!dialog())
         return keys;
-    for (const RobotLanguage &language : package()->supportedLanguages())
+    for (const Zel::RobotLanguage &language : package()->supportedLanguages())
         keys.append(language.isoCode());
     for (const auto &[path, language] : dialog()->topics()) {
         if (!keys.contains(language.isoCode()))
@@ -120,6 +117,10 @@ QStringList TopicsModel::titles() const {
     return {tr("Language"), tr("Topic file")};
 }
 
+namespace {
+constexpr std::array names{"name", "execStart", "autoRun"}; // in the order of Column
+}
+
 ServicesModel::ServicesModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
     start();
@@ -130,7 +131,6 @@ int ServicesModel::columnCount(const QModelIndex &parent) const {
 }
 
 FieldPath ServicesModel::field(const QModelIndex &index) const {
-    constexpr std::array names{"name", "execStart", "autoRun"}; // in the order of Column
     const FieldPath list = FieldPath().field("services");
     return Zel::PackageModel::itemPath(package(), list, index.row())
         .field(names.at(std::size_t(index.column())));
@@ -150,26 +150,18 @@ QVariant ServicesModel::data(const QModelIndex &index, int role) const {
     return fieldText(package(), field(index));
 }
 
+ServicesModel::Column ServicesModel::columnOf(const QString &field) const {
+    const auto found = std::find_if(names.begin(), names.end(),
+                                    [&](const char *name) { return field == QLatin1String(name); });
+    return found == names.end() ? Name : Column(found - names.begin());
+}
+
 bool ServicesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    const Zel::ServiceInfoModel *service = package()->services().value(index.row());
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service)
-        return false;
-    if (role == Qt::CheckStateRole && index.column() == AutoRun) {
-        document().edit({{Edit::Action::Set, field(index), !service->isAutoRun()}},
-                        tr("Switch start of service %1").arg(service->name()));
-        return true;
-    }
-    if (role != Qt::EditRole || index.column() == AutoRun)
-        return false;
-    const QString commandText =
-        (index.column() == Name ? tr("Rename service %1") : tr("Set command of service %1"))
-            .arg(service->name());
-    // A new name is a new path.
-    document().pushTyped([this, cell = QPersistentModelIndex(index), text = value.toString(),
-                          commandText](bool isFinal) {
-        return new Zel::PackageEditCommand(package(), {setText(field(cell), text)}, commandText,
-                                           isFinal);
-    });
+    if (role != Qt::CheckStateRole || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        index.column() != AutoRun)
+        return TableModel::setData(index, value, role);
+    const bool isAutoRun = value.toInt() == Qt::Checked;
+    document().edit({{Edit::Action::Set, field(index), isAutoRun}});
     return true;
 }
 

@@ -32,8 +32,9 @@ public:
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Tano::FieldPath field(const QModelIndex &index) const override;
+    /// Sets the topic file of a row.
+    void setFile(int row, const QString &file);
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
@@ -44,6 +45,7 @@ protected:
 
 private:
     const Zel::DialogInfoModel *dialog() const;
+    QVariant fileData(const QModelIndex &index, int role) const;
 
     int m_dialogRow = -1;
 };
@@ -60,6 +62,8 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Tano::FieldPath field(const QModelIndex &index) const override;
+    /// The column of the field of a service with that name in paths; the first one for others.
+    Column columnOf(const QString &field) const;
 
 protected:
     QStringList currentKeys() const override;

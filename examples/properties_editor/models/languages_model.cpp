@@ -5,7 +5,6 @@
 #include "widgets/plain_text.h"
 
 #include <packagemodel/language_name.h>
-#include <packagemodel/set_string.h>
 
 #include <QLocale>
 
@@ -13,7 +12,6 @@ namespace Editor {
 namespace {
 
 using Tano::FieldPath;
-using Zel::PackageLocalizedStringCommand;
 using Zel::RobotLanguage;
 using Zel::Language::languageInUse;
 using Zel::PackageModel::Edit;
@@ -112,18 +110,9 @@ bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, in
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return false;
     const auto column = Column(index.column());
-    if (role == Qt::CheckStateRole && (column == Supported || column == Described)) {
-        switchIn(column, key(index));
-        return true;
-    }
-    if (role != Qt::EditRole || (column != Name && column != Description))
-        return false;
-    const auto what = column == Name ? PackageLocalizedStringCommand::Name
-                                     : PackageLocalizedStringCommand::Description;
-    document().pushTyped([what, language = languageInUse(key(index)), package = package(),
-                          text = value.toString()](bool isFinal) {
-        return new PackageLocalizedStringCommand(package, text, what, language, isFinal);
-    });
+    if (role != Qt::CheckStateRole || (column != Supported && column != Described))
+        return TableModel::setData(index, value, role);
+    switchIn(column, key(index));
     return true;
 }
 
@@ -135,19 +124,13 @@ bool LanguagesModel::isIn(Column column, const QString &code) const {
 
 void LanguagesModel::switchIn(Column column, const QString &code) {
     const FieldPath list = listOf(column);
-    if (isIn(column, code)) {
-        document().edit({{Edit::Action::Remove, FieldPath(list).key(Zel::toUtf8(code))}},
-                        column == Supported ? tr("Remove language %1").arg(code)
-                                            : tr("Remove description language %1").arg(code));
-        return;
-    }
-    document().edit({appended(list, code)}, column == Supported
-                                                ? tr("Add language %1").arg(code)
-                                                : tr("Add description language %1").arg(code));
+    document().edit({isIn(column, code)
+                         ? Edit{Edit::Action::Remove, FieldPath(list).key(Zel::toUtf8(code))}
+                         : appended(list, code)});
 }
 
 void LanguagesModel::add(const QString &code) {
-    document().edit({appended(listOf(Supported), code)}, tr("Add language %1").arg(code));
+    document().edit({appended(listOf(Supported), code)});
 }
 
 void LanguagesModel::remove(const QString &code) {

@@ -3,8 +3,6 @@
 #include "document/field_edits.h"
 #include "widgets/marks.h"
 
-#include <packagemodel/package_edit_command.h>
-
 #include <algorithm>
 
 namespace Editor {
@@ -68,18 +66,11 @@ QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
 }
 
 bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
-        return false;
-    const auto edit = setText(field(index), value.toString());
-    const QString commandText =
-        (m_kind == Kind::Robot ? tr("Edit robot requirement %1") : tr("Edit Brio requirement %1"))
-            .arg(index.row() + 1);
-    if (!isModelColumn(index))
-        document().pushTyped([=, package = package()](bool isFinal) {
-            return new Zel::PackageEditCommand(package, {edit}, commandText, isFinal);
-        });
-    else if (value.toString() != fieldText(package(), field(index)))
-        document().edit({edit}, commandText);
+    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        !isModelColumn(index))
+        return TableModel::setData(index, value, role);
+    if (value.toString() != fieldText(package(), field(index)))
+        document().edit({setText(field(index), value.toString())});
     return true;
 }
 
@@ -104,16 +95,14 @@ QVector<QPair<QString, QString>> RequirementsModel::choices(const QModelIndex &i
 
 void RequirementsModel::add() {
     if (m_kind == Kind::Robot)
-        document().edit({appended(list(), Zel::RobotRequirement())}, tr("Add robot requirement"));
+        document().edit({appended(list(), Zel::RobotRequirement())});
     else
-        document().edit({appended(list(), Zel::BrioRequirement())}, tr("Add Brio requirement"));
+        document().edit({appended(list(), Zel::BrioRequirement())});
 }
 
 void RequirementsModel::remove(int row) {
     if (row >= 0 && row < rowCount())
-        document().edit({removed(package(), list(), row)}, m_kind == Kind::Robot
-                                                               ? tr("Remove robot requirement")
-                                                               : tr("Remove Brio requirement"));
+        document().edit({removed(package(), list(), row)});
 }
 
 int RequirementsModel::columnOf(const QString &field) const {

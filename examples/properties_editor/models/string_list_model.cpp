@@ -1,20 +1,26 @@
 #include "string_list_model.h"
 
+#include "document/field_edits.h"
+
+#include <utility>
+
 namespace Editor {
 
-StringListModel::StringListModel(Document &document, const QString &title, QObject *parent)
+using Tano::FieldPath;
+
+StringListModel::StringListModel(Document &document, const QString &title,
+                                 std::function<FieldPath()> list, QObject *parent)
     : TableModel(document, parent)
-    , m_title(title) {
+    , m_title(title)
+    , m_list(std::move(list)) {
     start();
 }
 
-void StringListModel::setSource(const ListSource &source) {
-    m_source = source;
-    sync();
-}
-
 QStringList StringListModel::items() const {
-    return m_source.read ? m_source.read() : QStringList();
+    QStringList items;
+    for (const auto &entry : Zel::PackageModel::entries(package(), list()))
+        items.append(Zel::PackageModel::printed(entry));
+    return items;
 }
 
 int StringListModel::columnCount(const QModelIndex &parent) const {
@@ -28,37 +34,36 @@ QVariant StringListModel::data(const QModelIndex &index, int role) const {
     return items().value(index.row());
 }
 
-bool StringListModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::EditRole || !m_source.set)
-        return false;
-    document().pushTyped([set = m_source.set, row = index.row(), text = value.toString()](
-                             bool isFinal) { return set(row, text, isFinal); });
-    return true;
+FieldPath StringListModel::field(const QModelIndex &index) const {
+    return Zel::PackageModel::itemPath(package(), list(), index.row());
 }
 
 Qt::ItemFlags StringListModel::extraFlags(const QModelIndex &) const {
-    return m_source.set ? Qt::ItemIsEditable : Qt::NoItemFlags;
+    return Qt::ItemIsEditable;
 }
 
 QString StringListModel::refusal(const QModelIndex &index, const QString &text) const {
     const QStringList all = items();
     const auto other = all.indexOf(text);
-    return other < 0 || other == index.row() ? QString()
+    return other < 0 || other == index.row() ? TableModel::refusal(index, text)
                                              : tr("The list has “%1” already.").arg(text);
 }
 
 QString StringListModel::additionRefusal(const QString &text) const {
-    return items().contains(text) ? tr("The list has “%1” already.").arg(text) : QString();
+    return items().contains(text) ? tr("The list has “%1” already.").arg(text)
+                                  : Zel::PackageModel::refusal(package(), appended(list(), text));
 }
 
-void StringListModel::add(const QString &text) {
-    if (m_source.add)
-        document().push(m_source.add(text));
+void StringListModel::add(const QStringList &texts) {
+    Zel::PackageModel::Edits edits;
+    for (const QString &text : texts)
+        edits.append(appended(list(), text));
+    document().edit(edits);
 }
 
 void StringListModel::remove(int row) {
-    if (m_source.remove && row >= 0 && row < rowCount())
-        document().push(m_source.remove(row));
+    if (row >= 0 && row < rowCount())
+        document().edit({removed(package(), list(), row)});
 }
 
 QStringList StringListModel::currentKeys() const {

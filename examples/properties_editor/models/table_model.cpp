@@ -32,6 +32,12 @@ Qt::ItemFlags TableModel::extraFlags(const QModelIndex &) const {
     return Qt::NoItemFlags;
 }
 
+bool TableModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+    return role == Qt::EditRole && checkIndex(index, CheckIndexOption::IndexIsValid) &&
+           flags(index).testFlag(Qt::ItemIsEditable) &&
+           document().type(field(index), value.toString()).isEmpty();
+}
+
 Tano::FieldPath TableModel::field(const QModelIndex &) const {
     return {};
 }

@@ -18,6 +18,8 @@ public:
                         int role = Qt::DisplayRole) const override;
 
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    /// Types a text into the field of an editable cell.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
     /// The field of the package that a cell edits as a text; the empty path for other cells.
     virtual Tano::FieldPath field(const QModelIndex &index) const;

@@ -1,10 +1,9 @@
 #include "behavior_details.h"
 
+#include "document/field_edits.h"
 #include "models/languages_model.h"
 #include "widgets/empty_hint.h"
 #include "widgets/marks.h"
-
-#include <packagemodel/behavior_commands.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,50 +14,51 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace Editor {
 namespace {
 
 using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
-using Zel::PackageInfoModel;
-using Zel::RobotLanguage;
+using Zel::PackageModel::Edit;
 
-// One kind of list of a behavior: what reads it, and the commands that edit it.
-template<typename SetCommand, typename AddRemoveCommand, typename Key>
-ListSource listSource(QStringList (BehaviorInfoModel::*list)(const Key &) const,
-                      PackageInfoModel *package, const QPointer<BehaviorInfoModel> &behavior,
-                      const Key &key) {
-    if (!behavior)
-        return {};
-    return {[=] { return behavior ? (behavior->*list)(key) : QStringList(); },
-            [=](const QString &text) {
-                const int end = int((behavior->*list)(key).size());
-                return AddRemoveCommand::addCommand(package, behavior->path(), text, key, end);
-            },
-            [=](int index) {
-                return AddRemoveCommand::removeCommand(package, behavior->path(), key, index);
-            },
-            [=](int index, const QString &text, bool isFinal) {
-                return new SetCommand(package, behavior->path(), text, key, index, isFinal);
-            }};
-}
+struct ListTab {
+    const char *field;
+    const char *title;
+    const char *placeholder;
+    const char *purpose; // shown while the list is empty
+};
 
-QStringList permissionsOf(const BehaviorInfoModel *behavior) {
-    return behavior ? behavior->permissionList() : QStringList();
-}
+constexpr std::array listTabs{
+    ListTab{"triggerSentences", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Trigger sentences"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A sentence that starts the behavior"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What people say to start the behavior. Type a sentence below.")},
+    ListTab{
+        "loadingResponses", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Responses"),
+        QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "What the robot says while it loads"),
+        QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                          "What the robot says until the behavior starts. Type a sentence below.")},
+    ListTab{"tags", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Tags"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new tag"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "Words that group behaviors. Type a tag below.")},
+    ListTab{"conditions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Conditions"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new condition for this purpose"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What has to hold for the behavior to run. Type a condition below.")},
+    ListTab{"permissions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Permissions"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new permission"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What the behavior uses of the robot. Type a permission below.")},
+};
 
-ListSource permissionSource(PackageInfoModel *package,
-                            const QPointer<BehaviorInfoModel> &behavior) {
-    if (!behavior)
-        return {};
-    const auto switched = [=](const QString &permission, bool isAdd) {
-        return new Zel::BehaviorAddRemovePermissionCommand(package, behavior->path(), permission,
-                                                           isAdd);
-    };
-    return {[=] { return permissionsOf(behavior); },
-            [=](const QString &permission) { return switched(permission, true); },
-            [=](int index) { return switched(permissionsOf(behavior).value(index), false); }};
+enum Tab { Texts, Sentences, Responses, Tags, Conditions, Permissions };
+
+bool isOneOf(const QString &name, std::initializer_list<const char *> names) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const char *each) { return name == QLatin1String(each); });
 }
 
 } // namespace
@@ -73,13 +73,9 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     , m_tabs(new QTabWidget(this))
     , m_purpose(new QComboBox(this)) {
     auto *form = new QFormLayout;
-    m_fields.append(addTextRow(form, tr("Pa&th:"), document,
-                               {[this] { return field("path"); },
-                                [this](const QString &text, bool isFinal) {
-                                    return new Zel::BehaviorPathCommand(package(), path(), text,
-                                                                        isFinal);
-                                },
-                                tr("A behavior needs a path.")}));
+    m_fields.append(addTextRow(
+        form, tr("Pa&th:"), document,
+        {[this] { return field("path"); }, refuseEmpty(tr("A behavior needs a path."))}));
     m_nature->addItem(tr("None"), BehaviorInfoModel::natureNone());
     m_nature->addItem(tr("Interactive: it reacts to people"),
                       BehaviorInfoModel::natureInteractive());
@@ -90,17 +86,17 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     connect(m_nature, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString nature = m_nature->itemData(index).toString();
         if (m_behavior && nature != m_behavior->nature())
-            m_document.push(new Zel::BehaviorNatureCommand(package(), path(), nature, true));
+            m_document.edit({{Edit::Action::Set, field("nature"), nature}});
     });
-    connect(m_userRequestable, &QCheckBox::clicked, this, [this] {
-        m_document.push(new Zel::BehaviorSwitchUserRequestableCommand(package(), path()));
+    connect(m_userRequestable, &QCheckBox::clicked, this, [this](bool isChecked) {
+        m_document.edit({{Edit::Action::Set, field("userRequestable"), isChecked}});
     });
 
     m_language->setModel(m_languages);
     m_language->setAccessibleName(tr("Language of the texts"));
     m_language->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(m_language, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            &BehaviorDetails::reload);
+            &BehaviorDetails::changeLanguage);
     auto *languageLabel = new QLabel(tr("Texts &in:"), this);
     languageLabel->setBuddy(m_language);
     auto *languageRow = new QHBoxLayout;
@@ -110,39 +106,17 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
 
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(newTextsTab(), tr("Texts"));
-    m_sentences = addListTab(tr("Trigger sentences"), tr("A sentence that starts the behavior"));
-    m_responses = addListTab(tr("Responses"), tr("What the robot says while it loads"));
-    m_tags = addListTab(tr("Tags"), tr("A new tag"));
-    m_conditions = addListTab(tr("Conditions"), tr("A new condition for this purpose"));
-    m_permissions = addListTab(tr("Permissions"), tr("A new permission"));
-    explainWhenEmpty(m_sentences->view(),
-                     tr("What people say to start the behavior. Type a sentence below."));
-    explainWhenEmpty(m_responses->view(),
-                     tr("What the robot says until the behavior starts. Type a sentence below."));
-    explainWhenEmpty(m_tags->view(), tr("Words that group behaviors. Type a tag below."));
-    explainWhenEmpty(m_conditions->view(),
-                     tr("What has to hold for the behavior to run. Type a condition below."));
-    explainWhenEmpty(m_permissions->view(),
-                     tr("What the behavior uses of the robot. Type a permission below."));
-    m_permissions->setSuggestions({QStringLiteral("camera"), QStringLiteral("microphone"),
-                                   QStringLiteral("motion"), QStringLiteral("speech")});
-
-    auto *mark = new MarkLabel(
+    for (const ListTab &tab : listTabs) {
+        m_lists.append(addListTab(tab.field, tr(tab.title), tr(tab.placeholder)));
+        explainWhenEmpty(m_lists.last()->view(), tr(tab.purpose));
+    }
+    list(Permissions)
+        ->setSuggestions({QStringLiteral("camera"), QStringLiteral("microphone"),
+                          QStringLiteral("motion"), QStringLiteral("speech")});
+    m_sentencesMark = new MarkLabel(
         document, [this] { return textField("triggerSentences"); }, this);
-    auto *sentencesLayout = qobject_cast<QVBoxLayout *>(m_sentences->parentWidget()->layout());
-    sentencesLayout->insertWidget(0, mark);
-
-    m_purpose->setEditable(true);
-    m_purpose->setInsertPolicy(QComboBox::NoInsert);
-    m_purpose->addItems({QStringLiteral("launch"), QStringLiteral("suggestion")});
-    connect(m_purpose, &QComboBox::currentTextChanged, this, &BehaviorDetails::setLists);
-    auto *purposeLabel = new QLabel(tr("Purp&ose:"), this);
-    purposeLabel->setBuddy(m_purpose);
-    auto *purposeRow = new QHBoxLayout;
-    purposeRow->addWidget(purposeLabel);
-    purposeRow->addWidget(m_purpose, 1);
-    auto *conditionsLayout = qobject_cast<QVBoxLayout *>(m_conditions->parentWidget()->layout());
-    conditionsLayout->insertLayout(0, purposeRow);
+    tabLayout(Sentences)->insertWidget(0, m_sentencesMark);
+    tabLayout(Conditions)->insertLayout(0, newPurposeRow());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 0, 0, 0);
@@ -157,30 +131,43 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
 QWidget *BehaviorDetails::newTextsTab() {
     auto *tab = new QWidget(this);
     auto *form = new QFormLayout(tab);
-    m_fields.append(addTextRow(form, tr("&Name:"), m_document,
-                               {[this] { return textField("names"); },
-                                [this](const QString &text, bool isFinal) {
-                                    return new Zel::BehaviorNameCommand(package(), path(), text,
-                                                                        language(), isFinal);
-                                }}));
-    auto *description = new QPlainTextEdit(tab);
-    form->addRow(tr("&Description:"), description);
-    m_fields.append(new TextField(description, m_document,
-                                  {[this] { return textField("descriptions"); },
-                                   [this](const QString &text, bool isFinal) {
-                                       return new Zel::BehaviorDescriptionCommand(
-                                           package(), path(), text, language(), isFinal);
-                                   }}));
+    m_fields.append(
+        addTextRow(form, tr("&Name:"), m_document, {[this] { return textField("names"); }}));
+    m_fields.append(new TextField(new QPlainTextEdit(tab), m_document,
+                                  {[this] { return textField("descriptions"); }}));
+    addFieldRow(form, tr("&Description:"), m_fields.last());
     return tab;
 }
 
-StringListEditor *BehaviorDetails::addListTab(const QString &title, const QString &placeholder) {
+StringListEditor *BehaviorDetails::addListTab(const char *field, const QString &title,
+                                              const QString &placeholder) {
     auto *tab = new QWidget(this);
     auto *layout = new QVBoxLayout(tab);
-    auto *editor = new StringListEditor(m_document, title, placeholder, tab);
+    auto *editor = new StringListEditor(
+        m_document, title, placeholder, [this, field] { return listField(field); }, tab);
     layout->addWidget(editor);
     m_tabs->addTab(tab, title);
     return editor;
+}
+
+QHBoxLayout *BehaviorDetails::newPurposeRow() {
+    m_purpose->setEditable(true);
+    m_purpose->setInsertPolicy(QComboBox::NoInsert);
+    connect(m_purpose, &QComboBox::currentTextChanged, this, &BehaviorDetails::changePurpose);
+    auto *label = new QLabel(tr("Purp&ose:"), this);
+    label->setBuddy(m_purpose);
+    auto *row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(m_purpose, 1);
+    return row;
+}
+
+QVBoxLayout *BehaviorDetails::tabLayout(int tab) const {
+    return qobject_cast<QVBoxLayout *>(m_tabs->widget(tab)->layout());
+}
+
+StringListEditor *BehaviorDetails::list(int tab) const {
+    return m_lists.at(tab - Sentences);
 }
 
 QString BehaviorDetails::path() const {
@@ -196,57 +183,66 @@ FieldPath BehaviorDetails::field(const char *name) const {
 
 FieldPath BehaviorDetails::textField(const char *name) const {
     const FieldPath texts = field(name);
-    return texts.isEmpty() ? texts : FieldPath(texts).key(Zel::toUtf8(language().isoCode()));
+    return texts.isEmpty() || m_shownLanguage.isEmpty()
+               ? FieldPath()
+               : FieldPath(texts).key(Zel::toUtf8(m_shownLanguage));
 }
 
-RobotLanguage BehaviorDetails::language() const {
-    return Zel::Language::languageInUse(m_languages->keys().value(m_language->currentIndex()));
+FieldPath BehaviorDetails::listField(const char *name) const {
+    const QString list = QLatin1String(name);
+    if (isOneOf(list, {"permissions"}))
+        return field(name);
+    if (!isOneOf(list, {"conditions"}))
+        return textField(name);
+    const FieldPath conditions = field(name);
+    return conditions.isEmpty() ? conditions
+                                : FieldPath(conditions).key(Zel::toUtf8(m_shownPurpose));
 }
 
 void BehaviorDetails::setBehavior(BehaviorInfoModel *behavior) {
-    m_document.closeRun();
+    leaveLists();
     m_behavior = behavior;
     setEnabled(behavior != nullptr);
     reload();
 }
 
-void BehaviorDetails::reload() {
-    m_document.closeRun();
-    for (TextField *field : std::as_const(m_fields))
-        field->reload();
-    const QSignalBlocker blocker(m_purpose);
-    if (m_behavior) {
-        // The purposes that the behavior knows come first.
-        QStringList purposes;
-        for (const auto &[purpose, conditions] :
-             m_behavior->toBehaviorInfo().purposesToConditions())
-            purposes.append(Zel::fromUtf8(purpose));
-        for (const QString &usual : {QStringLiteral("launch"), QStringLiteral("suggestion")}) {
-            if (!purposes.contains(usual))
-                purposes.append(usual);
-        }
-        m_purpose->clear();
-        m_purpose->addItems(purposes);
-    }
-    setLists();
-    refresh();
+void BehaviorDetails::leaveLists() {
+    for (StringListEditor *editor : std::as_const(m_lists))
+        editor->leave();
 }
 
-void BehaviorDetails::setLists() {
-    const RobotLanguage in = language();
-    const QPointer<BehaviorInfoModel> behavior = m_behavior;
-    m_sentences->setSource(listSource<Zel::BehaviorSetTriggerSentenceCommand,
-                                      Zel::BehaviorAddRemoveTriggerSentenceCommand>(
-        &BehaviorInfoModel::triggerSentences, package(), behavior, in));
-    m_responses->setSource(listSource<Zel::BehaviorSetLoadingResponseCommand,
-                                      Zel::BehaviorAddRemoveLoadingResponseCommand>(
-        &BehaviorInfoModel::loadingResponses, package(), behavior, in));
-    m_tags->setSource(listSource<Zel::BehaviorSetTagCommand, Zel::BehaviorAddRemoveTagCommand>(
-        &BehaviorInfoModel::tags, package(), behavior, in));
-    m_conditions->setSource(
-        listSource<Zel::BehaviorSetConditionCommand, Zel::BehaviorAddRemoveConditionCommand>(
-            &BehaviorInfoModel::conditions, package(), behavior, m_purpose->currentText()));
-    m_permissions->setSource(permissionSource(package(), behavior));
+void BehaviorDetails::changeLanguage() {
+    leaveLists();
+    m_shownLanguage = m_languages->keys().value(m_language->currentIndex());
+    reload();
+}
+
+void BehaviorDetails::changePurpose() {
+    list(Conditions)->leave();
+    m_shownPurpose = m_purpose->currentText();
+    list(Conditions)->reload();
+}
+
+void BehaviorDetails::fillPurposes() {
+    const QSignalBlocker blocker(m_purpose);
+    QStringList purposes = m_behavior ? m_behavior->purposes() : QStringList();
+    for (const QString &usual : {QStringLiteral("launch"), QStringLiteral("suggestion")}) {
+        if (!purposes.contains(usual))
+            purposes.append(usual);
+    }
+    m_purpose->clear();
+    m_purpose->addItems(purposes);
+    m_shownPurpose = m_purpose->currentText();
+}
+
+void BehaviorDetails::reload() {
+    fillPurposes();
+    for (TextField *field : std::as_const(m_fields))
+        field->reload();
+    for (StringListEditor *editor : std::as_const(m_lists))
+        editor->reload();
+    m_sentencesMark->refresh();
+    refresh();
 }
 
 void BehaviorDetails::refresh() {
@@ -263,22 +259,34 @@ void BehaviorDetails::refresh() {
     m_userRequestable->setChecked(m_behavior->isUserRequestable());
 
     const auto severity = m_document.behaviorSeverity(path());
-    m_tabs->setTabIcon(1, severity ? severityIcon(*severity) : QIcon());
-}
-
-void BehaviorDetails::showSentences(const QString &languageCode) {
-    m_language->setCurrentIndex(int(m_languages->keys().indexOf(languageCode)));
-    m_tabs->setCurrentIndex(1);
-    m_sentences->focusAddition();
+    m_tabs->setTabIcon(Sentences, severity ? severityIcon(*severity) : QIcon());
 }
 
 void BehaviorDetails::startTypingPath() {
     startTyping(m_fields.first()->widget());
 }
 
-void BehaviorDetails::takePending() {
-    for (StringListEditor *editor : {m_sentences, m_responses, m_tags, m_conditions, m_permissions})
-        editor->takePending();
+void BehaviorDetails::showField(const FieldPath &path) {
+    const QString name = fieldName(path, 1);
+    const QString key = fieldKey(path, 1);
+    if (isOneOf(name, {"conditions"}))
+        m_purpose->setCurrentText(key);
+    else if (const int language = int(m_languages->keys().indexOf(key)); language >= 0)
+        m_language->setCurrentIndex(language);
+
+    const auto tab = std::find_if(listTabs.begin(), listTabs.end(),
+                                  [&](const ListTab &each) { return isOneOf(name, {each.field}); });
+    if (tab != listTabs.end()) {
+        const int index = Sentences + int(tab - listTabs.begin());
+        m_tabs->setCurrentIndex(index);
+        list(index)->showItem(itemIndex(path));
+    } else if (isOneOf(name, {"names", "descriptions"})) {
+        m_tabs->setCurrentIndex(Texts);
+    } else if (isOneOf(name, {"nature"})) {
+        m_nature->setFocus(Qt::OtherFocusReason);
+    } else if (isOneOf(name, {"userRequestable"})) {
+        m_userRequestable->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 } // namespace Editor

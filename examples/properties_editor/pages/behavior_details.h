@@ -7,11 +7,14 @@
 
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
 class QTabWidget;
+class QVBoxLayout;
 
 namespace Editor {
 
 class LanguagesModel;
+class MarkLabel;
 
 /// All fields of one behavior.
 class BehaviorDetails : public QWidget {
@@ -22,40 +25,47 @@ public:
 
     /// Shows a behavior; none for a null pointer.
     void setBehavior(Zel::BehaviorInfoModel *behavior);
-    /// Shows the trigger sentences in a language.
-    void showSentences(const QString &languageCode);
-    /// For a new behavior.
+    /// Puts the focus on the path of a new behavior, which typing replaces.
     void startTypingPath();
-    void takePending();
+    /// Shows what is at a path of the behavior that is shown, and gives the focus to all but text
+    /// fields.
+    void showField(const Tano::FieldPath &path);
 
 private:
     QWidget *newTextsTab();
-    StringListEditor *addListTab(const QString &title, const QString &placeholder);
+    StringListEditor *addListTab(const char *field, const QString &title,
+                                 const QString &placeholder);
+    QHBoxLayout *newPurposeRow();
+    QVBoxLayout *tabLayout(int tab) const;
+    StringListEditor *list(int tab) const;
+    void leaveLists();
+    void changeLanguage();
+    void changePurpose();
+    void fillPurposes();
     void reload();
     void refresh();
-    void setLists();
     QString path() const;
     /// The path of a field of the behavior; the empty path while none is shown.
     Tano::FieldPath field(const char *name) const;
     /// The same for the language that is shown.
     Tano::FieldPath textField(const char *name) const;
-    Zel::RobotLanguage language() const;
+    /// The path of the list that is shown of one kind.
+    Tano::FieldPath listField(const char *name) const;
     Zel::PackageInfoModel *package() const { return m_document.package(); }
 
     Document &m_document;
     QPointer<Zel::BehaviorInfoModel> m_behavior;
+    QString m_shownLanguage;
+    QString m_shownPurpose;
     QVector<TextField *> m_fields;
     QComboBox *m_nature;
     QCheckBox *m_userRequestable;
     LanguagesModel *m_languages;
     QComboBox *m_language;
     QTabWidget *m_tabs;
-    StringListEditor *m_sentences;
-    StringListEditor *m_responses;
-    StringListEditor *m_tags;
+    MarkLabel *m_sentencesMark = nullptr;
     QComboBox *m_purpose;
-    StringListEditor *m_conditions;
-    StringListEditor *m_permissions;
+    QVector<StringListEditor *> m_lists;
 };
 
 } // namespace Editor

@@ -31,6 +31,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     , m_details(new BehaviorDetails(document, this)) {
     m_filtered->setSourceModel(m_model);
     m_filtered->setFilterKeyColumn(-1);
+    m_filtered->setDynamicSortFilter(false); // a behavior that is being renamed stays
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filter->setPlaceholderText(tr("Find a behavior"));
     m_filter->setAccessibleName(tr("Find a behavior"));
@@ -79,7 +80,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
             &BehaviorsPage::showCurrent);
     connect(m_filtered, &QAbstractItemModel::modelReset, this, &BehaviorsPage::selectFirst);
     connect(&document, &Document::edited, this, [this] {
-        if (!m_view->currentIndex().isValid())
+        if (!m_view->currentIndex().isValid() && m_filtered->rowCount() > 0)
             selectFirst();
     });
     selectFirst();
@@ -115,30 +116,30 @@ void BehaviorsPage::add() {
     });
     Tano::BehaviorInfo behavior;
     behavior.setPath(Zel::toUtf8(path));
-    document().edit({appended(FieldPath().field("behaviors"), behavior)},
-                    tr("Add behavior %1").arg(path));
+    document().edit({appended(FieldPath().field("behaviors"), behavior)});
     select(package()->behavior(path));
     m_details->startTypingPath();
 }
 
 void BehaviorsPage::remove() {
-    if (const BehaviorInfoModel *behavior = m_model->behavior(currentRow()))
-        document().edit({removed(package(), FieldPath().field("behaviors"), currentRow())},
-                        tr("Remove behavior %1").arg(behavior->path()));
+    if (m_model->behavior(currentRow()))
+        document().edit({removed(package(), FieldPath().field("behaviors"), currentRow())});
 }
 
 bool BehaviorsPage::showField(const FieldPath &path) {
     if (fieldName(path) != QLatin1String("behaviors"))
         return false;
-    if (const BehaviorInfoModel *behavior = package()->behavior(fieldKey(path))) {
-        select(behavior);
-        m_details->showSentences(fieldKey(path, 1));
+    const auto behaviors = package()->behaviors();
+    const int row = entryIndex(behaviors, &BehaviorInfoModel::path, path);
+    if (row >= 0)
+        select(behaviors.at(row));
+    if (row < 0 || path.steps().size() == 1) {
+        m_view->setFocus(Qt::OtherFocusReason);
+    } else {
+        m_details->showField(path);
+        focusTextField(path);
     }
     return true;
-}
-
-void BehaviorsPage::takePending() {
-    m_details->takePending();
 }
 
 } // namespace Editor

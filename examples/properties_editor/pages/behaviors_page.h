@@ -18,7 +18,6 @@ class BehaviorsPage : public Page {
 public:
     explicit BehaviorsPage(Document &document, QWidget *parent = nullptr);
     bool showField(const Tano::FieldPath &path) override;
-    void takePending() override;
 
 private:
     void add();

@@ -6,8 +6,9 @@
 #include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
-#include <packagemodel/dialog_commands.h>
-
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QListView>
@@ -56,8 +57,7 @@ QWidget *DialogsPage::newList() {
     connect(m_remove, &QPushButton::clicked, this, [this] {
         if (current())
             document().edit(
-                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())},
-                tr("Remove dialog %1").arg(current()->topicName()));
+                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())});
     });
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
@@ -74,19 +74,11 @@ QWidget *DialogsPage::newList() {
 QWidget *DialogsPage::newDetails() {
     m_details = new QWidget(this);
     auto *form = new QFormLayout;
-    m_name = addTextRow(form, tr("&Topic:"), document(),
-                        {[this] { return field("topicName"); },
-                         [this](const QString &text, bool isFinal) {
-                             return new Zel::DialogInfoModelNameCommand(
-                                 package(), current()->topicName(), text, isFinal);
-                         },
-                         tr("A dialog needs a topic name.")});
+    m_name = addTextRow(
+        form, tr("&Topic:"), document(),
+        {[this] { return field("topicName"); }, refuseEmpty(tr("A dialog needs a topic name."))});
     m_typeVersion = addTextRow(form, tr("Type vers&ion:"), document(),
-                               {[this] { return field("typeVersion"); },
-                                [this](const QString &text, bool isFinal) {
-                                    return new Zel::DialogInfoModelTypeVersionCommand(
-                                        package(), current()->topicName(), text, isFinal);
-                                }});
+                               {[this] { return field("typeVersion"); }});
 
     m_table->setModel(m_topics);
     setUpTable(m_table, document(), tr("Topic files"));
@@ -97,7 +89,13 @@ QWidget *DialogsPage::newDetails() {
     removeWithDelete(m_table, m_removeTopic);
     connect(m_removeTopic, &QPushButton::clicked, this,
             [this] { m_topics->removeTopic(m_table->currentIndex().row()); });
+    m_chooseTopic = new QPushButton(iconOf(Symbol::Open), tr("&Choose File…"), this);
+    m_chooseTopic->setAutoDefault(false);
+    connect(m_chooseTopic, &QPushButton::clicked, this, &DialogsPage::chooseTopic);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &DialogsPage::refresh);
     auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_chooseTopic);
     buttons->addWidget(m_removeTopic);
     buttons->addStretch();
 
@@ -109,6 +107,14 @@ QWidget *DialogsPage::newDetails() {
     layout->addWidget(m_table);
     layout->addLayout(buttons);
     return m_details;
+}
+
+void DialogsPage::chooseTopic() {
+    const QDir folder = QFileInfo(document().fileName()).absoluteDir();
+    const QString file = QFileDialog::getOpenFileName(this, tr("Choose a Topic File"),
+                                                      folder.path(), tr("All files (*)"));
+    if (!file.isEmpty())
+        m_topics->setFile(m_table->currentIndex().row(), folder.relativeFilePath(file));
 }
 
 DialogInfoModel *DialogsPage::current() const {
@@ -124,7 +130,6 @@ FieldPath DialogsPage::field(const char *name) const {
 void DialogsPage::showCurrent() {
     if (!m_list->currentIndex().isValid() && m_dialogs->rowCount() > 0)
         m_list->setCurrentIndex(m_dialogs->index(0, 0));
-    document().closeRun();
     m_topics->setDialog(m_list->currentIndex().row());
     m_name->reload();
     m_typeVersion->reload();
@@ -134,6 +139,9 @@ void DialogsPage::showCurrent() {
 void DialogsPage::refresh() {
     m_details->setEnabled(current() != nullptr);
     m_remove->setEnabled(current() != nullptr);
+    const bool isTopic = m_table->currentIndex().isValid();
+    m_removeTopic->setEnabled(isTopic);
+    m_chooseTopic->setEnabled(isTopic && !document().fileName().isEmpty());
 }
 
 void DialogsPage::add() {
@@ -142,14 +150,25 @@ void DialogsPage::add() {
     });
     Tano::DialogInfo dialog;
     dialog.setTopicName(Zel::toUtf8(name));
-    document().edit({appended(FieldPath().field("dialogs"), dialog)},
-                    tr("Add dialog %1").arg(name));
+    document().edit({appended(FieldPath().field("dialogs"), dialog)});
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
     startTyping(m_name->widget());
 }
 
-bool DialogsPage::showField(const FieldPath &) {
-    return false; // nothing is checked in dialogs
+bool DialogsPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("dialogs"))
+        return false;
+    const int row = entryIndex(package()->dialogs(), &DialogInfoModel::topicName, path);
+    if (row >= 0)
+        m_list->setCurrentIndex(m_dialogs->index(row, 0));
+    if (fieldName(path, 1) == QLatin1String("topics")) {
+        m_table->setFocus(Qt::OtherFocusReason);
+        m_table->setCurrentIndex(
+            m_topics->index(int(m_topics->keys().indexOf(fieldKey(path, 1))), 1));
+    } else if (!focusTextField(path)) {
+        m_list->setFocus(Qt::OtherFocusReason);
+    }
+    return true;
 }
 
 } // namespace Editor

@@ -1,21 +1,17 @@
 #include "identity_page.h"
 
-#include "document/field_edits.h"
 #include "widgets/hint_label.h"
 #include "widgets/icon_button.h"
 #include "widgets/icons.h"
 
-#include <packagemodel/package_edit_command.h>
-#include <packagemodel/set_string.h>
-
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace Editor {
 
 using Tano::FieldPath;
-using Zel::PackageStringCommand;
 
 IdentityPage::IdentityPage(Document &document, QWidget *parent)
     : Page(document, tr("&Identity"), iconOf(Symbol::Identity), parent) {
@@ -24,36 +20,33 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(newHeading(tr("Package"), this));
-    m_uid = addText(form, tr("&UID:"), QStringLiteral("my-app"), PackageStringCommand::Uid, "uid");
-    const FieldPath version = FieldPath().field("version");
-    m_shown.insert(version);
-    addTextRow(
-        form, tr("Ve&rsion:"), document,
-        {[version] { return version; },
-         [=](const QString &text, bool isFinal) {
-             const QString name =
-                 Zel::PackageGenericValueCommand<Zel::SoftwareVersion>(package(), {}).commandName();
-             return new Zel::PackageEditCommand(package(), {setText(version, text)}, name, isFinal);
-         }},
-        QStringLiteral("1.0.0"));
-    addText(form, tr("&Type version:"), {}, PackageStringCommand::TypeVersion, "typeVersion");
-    addText(form, tr("Path on the ro&bot:"), {}, PackageStringCommand::Path, "path");
-    addText(form, tr("I&nstaller:"), {}, PackageStringCommand::Installer, "installer");
+    addText(form, tr("&UID:"), QStringLiteral("my-app"), "uid");
+    addText(form, tr("Ve&rsion:"), QStringLiteral("1.0.0"), "version");
+    addText(form, tr("&Type version:"), {}, "typeVersion");
+    addText(form, tr("Path on the ro&bot:"), {}, "path");
+    addText(form, tr("I&nstaller:"), {}, "installer");
     form->addItem(new QSpacerItem(0, 12));
     form->addRow(newHeading(tr("Publisher"), this));
-    addText(form, tr("&Author:"), {}, PackageStringCommand::Author, "author");
-    addText(form, tr("&Organization:"), {}, PackageStringCommand::Organization, "organization");
-    addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), PackageStringCommand::Date, "date");
-    addText(form, tr("&Channel:"), {}, PackageStringCommand::Channel, "channel");
+    addText(form, tr("&Author:"), {}, "author");
+    addText(form, tr("&Organization:"), {}, "organization");
+    addText(form, tr("&Date:"), QStringLiteral("2026-09-14"), "date");
+    addText(form, tr("&Channel:"), {}, "channel");
     addOthers(form);
 
     auto *icon = new IconButton(document, this);
-    auto *hint = new HintLabel(tr("Click, or drop a picture."), this);
-    hint->setAlignment(Qt::AlignHCenter);
+    auto *choose = new QPushButton(iconOf(Symbol::Open), tr("Choose &Icon…"), this);
+    choose->setAutoDefault(false);
+    connect(choose, &QPushButton::clicked, icon, &IconButton::choose);
+    auto *hint = new HintLabel(icon->fileState(), this);
+    hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    hint->setWordWrap(true);
+    hint->setMinimumHeight(3 * hint->fontMetrics().lineSpacing());
+    connect(icon, &IconButton::refreshed, hint, [icon, hint] { hint->setText(icon->fileState()); });
     auto *iconLayout = new QVBoxLayout;
     iconLayout->setSpacing(8);
     iconLayout->addWidget(newHeading(tr("Icon"), this), 0, Qt::AlignHCenter);
     iconLayout->addWidget(icon, 0, Qt::AlignHCenter);
+    iconLayout->addWidget(choose, 0, Qt::AlignHCenter);
     iconLayout->addWidget(hint);
     iconLayout->addStretch();
 
@@ -64,39 +57,20 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     layout->addLayout(iconLayout);
 }
 
-TextField *IdentityPage::addText(QFormLayout *form, const QString &label,
-                                 const QString &placeholder, int what, const char *field) {
-    m_shown.insert(FieldPath().field(field));
-    return addTextRow(form, label, document(),
-                      {[path = FieldPath().field(field)] { return path; },
-                       [this, what](const QString &text, bool isFinal) {
-                           return new PackageStringCommand(
-                               package(), text, PackageStringCommand::WhatString(what), isFinal);
-                       }},
-                      placeholder);
+void IdentityPage::addText(QFormLayout *form, const QString &label, const QString &placeholder,
+                           const char *field) {
+    const FieldPath path = FieldPath().field(field);
+    m_shown.insert(path);
+    addTextRow(form, label, document(), {[path] { return path; }}, placeholder);
 }
 
 // The fields that have no place of their own.
 void IdentityPage::addOthers(QFormLayout *form) {
     for (const auto &field : Zel::PackageModel::plainFields(package())) {
-        if (m_shown.count(field.path) > 0)
-            continue;
-        addTextRow(
-            form, tr("%1:").arg(field.label), document(),
-            {[path = field.path] { return path; },
-             [this, path = field.path, label = field.label](const QString &text, bool isFinal) {
-                 return new Zel::PackageEditCommand(package(), {setText(path, text)},
-                                                    tr("Set %1").arg(label), isFinal);
-             }},
-            {});
+        if (m_shown.count(field.path) == 0)
+            addTextRow(form, tr("%1:").arg(field.label), document(),
+                       {[path = field.path] { return path; }});
     }
-}
-
-bool IdentityPage::showField(const FieldPath &path) {
-    if (fieldName(path) != QLatin1String("uid"))
-        return false;
-    m_uid->widget()->setFocus(Qt::OtherFocusReason);
-    return true;
 }
 
 } // namespace Editor

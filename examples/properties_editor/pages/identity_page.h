@@ -12,14 +12,12 @@ class IdentityPage : public Page {
 
 public:
     explicit IdentityPage(Document &document, QWidget *parent = nullptr);
-    bool showField(const Tano::FieldPath &path) override;
 
 private:
-    TextField *addText(QFormLayout *form, const QString &label, const QString &placeholder,
-                       int what, const char *field);
+    void addText(QFormLayout *form, const QString &label, const QString &placeholder,
+                 const char *field);
     void addOthers(QFormLayout *form);
 
-    TextField *m_uid;
     std::set<Tano::FieldPath> m_shown; // the fields that have a row
 };
 

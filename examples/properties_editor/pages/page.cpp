@@ -1,5 +1,6 @@
 #include "page.h"
 
+#include "widgets/field_note.h"
 #include "widgets/icons.h"
 
 #include <QAbstractItemView>
@@ -7,7 +8,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Editor {
@@ -19,12 +22,33 @@ Page::Page(Document &document, const QString &title, const QIcon &icon, QWidget 
     , m_icon(icon) {
 }
 
+bool Page::focusTextField(const Tano::FieldPath &path) {
+    const auto fields = findChildren<TextField *>();
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [&](const TextField *field) { return field->path() == path; });
+    if (found == fields.end())
+        return false;
+    (*found)->widget()->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+void addFieldRow(QFormLayout *form, const QString &label, TextField *field) {
+    auto *column = new QVBoxLayout;
+    column->setSpacing(2);
+    column->addWidget(field->widget());
+    column->addWidget(field->note());
+    auto *labelWidget = new QLabel(label, form->parentWidget());
+    labelWidget->setBuddy(field->widget());
+    form->addRow(labelWidget, column);
+}
+
 TextField *addTextRow(QFormLayout *form, const QString &label, Document &document,
                       TextBinding binding, const QString &placeholder) {
     auto *edit = new QLineEdit(form->parentWidget());
     edit->setPlaceholderText(placeholder);
-    form->addRow(label, edit);
-    return new TextField(edit, document, std::move(binding));
+    auto *field = new TextField(edit, document, std::move(binding));
+    addFieldRow(form, label, field);
+    return field;
 }
 
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent) {

@@ -23,13 +23,13 @@ public:
 
     /// Shows the field with that path and gives it the focus; returns false when it is on another
     /// page.
-    virtual bool showField(const Tano::FieldPath &path) = 0;
-
-    /// Takes what is typed in a line whose text goes into the package with a button only.
-    virtual void takePending() {}
+    virtual bool showField(const Tano::FieldPath &path) { return focusTextField(path); }
 
 protected:
     Page(Document &document, const QString &title, const QIcon &icon, QWidget *parent = nullptr);
+
+    /// Gives the focus to the text field below this page that shows the field with that path.
+    bool focusTextField(const Tano::FieldPath &path);
 
     Document &document() const { return m_document; }
     Zel::PackageInfoModel *package() const { return m_document.package(); }
@@ -40,7 +40,10 @@ private:
     QIcon m_icon;
 };
 
-/// Adds a row with a line edit, bound to a text of the package, to a form.
+/// Adds a row to a form: the widget of a field, and below it the note.
+void addFieldRow(QFormLayout *form, const QString &label, TextField *field);
+
+/// Adds a row with a line edit, bound to a text of the package.
 TextField *addTextRow(QFormLayout *form, const QString &label, Document &document,
                       TextBinding binding, const QString &placeholder = {});
 

@@ -36,10 +36,8 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
     removeWithDelete(m_table, remove);
     connect(add, &QPushButton::clicked, this, &ServicesPage::add);
     connect(remove, &QPushButton::clicked, this, [this] {
-        const int row = m_table->currentIndex().row();
-        if (const Zel::ServiceInfoModel *service = package()->services().value(row))
-            this->document().edit({removed(package(), FieldPath().field("services"), row)},
-                                  tr("Remove service %1").arg(service->name()));
+        if (const int row = m_table->currentIndex().row(); row >= 0)
+            this->document().edit({removed(package(), FieldPath().field("services"), row)});
     });
     const auto refresh = [this, remove] { remove->setEnabled(m_table->currentIndex().isValid()); };
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
@@ -62,16 +60,21 @@ void ServicesPage::add() {
     });
     Tano::PackageService service;
     service.name = Zel::toUtf8(name);
-    document().edit({appended(FieldPath().field("services"), service)},
-                    tr("Add service %1").arg(name));
+    document().edit({appended(FieldPath().field("services"), service)});
     const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
     m_table->setFocus();
     m_table->setCurrentIndex(cell);
     m_table->edit(cell);
 }
 
-bool ServicesPage::showField(const FieldPath &) {
-    return false; // nothing is checked in services
+bool ServicesPage::showField(const FieldPath &path) {
+    if (fieldName(path) != QLatin1String("services"))
+        return false;
+    m_table->setFocus(Qt::OtherFocusReason);
+    const int row = entryIndex(package()->services(), &Zel::ServiceInfoModel::name, path);
+    if (row >= 0)
+        m_table->setCurrentIndex(m_model->index(row, m_model->columnOf(fieldName(path, 1))));
+    return true;
 }
 
 } // namespace Editor

@@ -9,7 +9,6 @@
 #include "widgets/typing_delegate.h"
 
 #include <packagemodel/language_name.h>
-#include <packagemodel/set_string.h>
 
 #include <QFormLayout>
 #include <QHeaderView>
@@ -22,7 +21,6 @@
 namespace Editor {
 
 using Tano::FieldPath;
-using Zel::PackageLocalizedStringCommand;
 using Zel::RobotLanguage;
 
 TextsPage::TextsPage(Document &document, QWidget *parent)
@@ -71,23 +69,16 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     bold.setBold(true);
     m_detailsTitle->setFont(bold);
     form->addRow(m_detailsTitle);
-    const auto binding = [this](PackageLocalizedStringCommand::WhatString what,
-                                const char *field) -> TextBinding {
+    const auto binding = [this](const char *field) -> TextBinding {
         return {[this, field] {
-                    return FieldPath().field(field).key(Zel::toUtf8(current().isoCode()));
-                },
-                [this, what](const QString &text, bool isFinal) {
-                    return new PackageLocalizedStringCommand(package(), text, what, current(),
-                                                             isFinal);
-                }};
+            return FieldPath().field(field).key(Zel::toUtf8(current().isoCode()));
+        }};
     };
-    m_name = addTextRow(form, tr("&Name:"), document,
-                        binding(PackageLocalizedStringCommand::Name, "names"));
+    m_name = addTextRow(form, tr("&Name:"), document, binding("names"));
     auto *description = new QPlainTextEdit(m_details);
     description->setMinimumHeight(description->fontMetrics().lineSpacing() * 3 + 14);
-    form->addRow(tr("&Description:"), description);
-    m_description = new TextField(
-        description, document, binding(PackageLocalizedStringCommand::Description, "descriptions"));
+    m_description = new TextField(description, document, binding("descriptions"));
+    addFieldRow(form, tr("&Description:"), m_description);
 
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
@@ -115,7 +106,6 @@ RobotLanguage TextsPage::current() const {
 void TextsPage::showCurrent() {
     if (!m_table->currentIndex().isValid() && m_model->rowCount() > 0)
         m_table->setCurrentIndex(m_model->index(0, LanguagesModel::Name));
-    document().closeRun();
     m_name->reload();
     m_description->reload();
     refresh();

@@ -1,8 +1,8 @@
 #include "string_list_editor.h"
 
-#include "marks.h"
+#include "addition_line.h"
+#include "field_note.h"
 #include "pages/page.h"
-#include "text_field.h"
 #include "typing_delegate.h"
 
 #include <QCompleter>
@@ -12,14 +12,18 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Editor {
 
 StringListEditor::StringListEditor(Document &document, const QString &title,
-                                   const QString &placeholder, QWidget *parent)
+                                   const QString &placeholder,
+                                   std::function<Tano::FieldPath()> list, QWidget *parent)
     : QWidget(parent)
-    , m_model(new StringListModel(document, title, this))
+    , m_model(new StringListModel(document, title, std::move(list), this))
     , m_view(new QListView(this))
     , m_line(new QLineEdit(this))
+    , m_addition(new AdditionLine(m_line, document, *m_model))
     , m_add(newListButton(tr("Add"), true, this))
     , m_remove(newListButton(tr("Remove"), false, this)) {
     m_view->setModel(m_model);
@@ -28,7 +32,6 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
     m_line->setPlaceholderText(placeholder);
     m_line->setAccessibleName(placeholder);
     m_line->setClearButtonEnabled(true);
-    yieldUndo(m_line); // what was added last is undone, not what was typed for it
 
     auto *row = new QHBoxLayout;
     row->addWidget(m_line, 1);
@@ -38,25 +41,20 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);
     layout->addLayout(row);
+    layout->addWidget(m_addition->note());
 
-    connect(m_line, &QLineEdit::returnPressed, this, &StringListEditor::takePending);
-    connect(m_line, &QLineEdit::textChanged, this, &StringListEditor::refresh);
     connect(m_add, &QPushButton::clicked, this, [this] {
-        takePending();
-        focusAddition(); // for the next one
+        m_addition->take();
+        m_line->setFocus(Qt::OtherFocusReason); // for the next one
     });
     removeWithDelete(m_view, m_remove);
+    connect(m_addition, &AdditionLine::changed, this, &StringListEditor::refresh);
+    connect(m_addition, &AdditionLine::added, this,
+            [this] { m_view->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0)); });
     connect(m_remove, &QPushButton::clicked, this,
             [this] { m_model->remove(m_view->currentIndex().row()); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &StringListEditor::refresh);
-    connect(&document, &Document::edited, this, &StringListEditor::refresh);
-    refresh();
-}
-
-void StringListEditor::setSource(const ListSource &source) {
-    m_line->clear();
-    m_model->setSource(source);
     refresh();
 }
 
@@ -66,23 +64,25 @@ void StringListEditor::setSuggestions(const QStringList &suggestions) {
     m_line->setCompleter(completer);
 }
 
-void StringListEditor::takePending() {
-    const QString text = m_line->text();
-    if (text.isEmpty() || !m_model->additionRefusal(text).isEmpty())
-        return;
-    m_model->add(text);
-    m_line->clear();
-    m_view->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0));
+void StringListEditor::leave() {
+    m_addition->leave();
 }
 
-void StringListEditor::focusAddition() {
-    m_line->setFocus(Qt::OtherFocusReason);
+void StringListEditor::reload() {
+    m_model->sync();
+    refresh();
+}
+
+void StringListEditor::showItem(int row) {
+    const QModelIndex index = m_model->index(row, 0);
+    if (index.isValid())
+        m_view->setCurrentIndex(index);
+    QWidget *shown = index.isValid() ? static_cast<QWidget *>(m_view) : m_line;
+    shown->setFocus(Qt::OtherFocusReason);
 }
 
 void StringListEditor::refresh() {
-    const QString refusal = m_model->additionRefusal(m_line->text());
-    markField(m_line, m_line->text().isEmpty() ? std::nullopt : Mark::ofRefusal(refusal));
-    m_add->setEnabled(!m_line->text().isEmpty() && refusal.isEmpty());
+    m_add->setEnabled(m_addition->canTake());
     m_remove->setEnabled(m_view->currentIndex().isValid());
 }
 

@@ -10,20 +10,25 @@ class QPushButton;
 
 namespace Editor {
 
+class AdditionLine;
+
 /// Shows a list of texts, edits its items in place, and adds what is typed in the line below.
 class StringListEditor : public QWidget {
     Q_OBJECT
 
 public:
+    /// `list` returns the path of the list; the empty path for none.
     StringListEditor(Document &document, const QString &title, const QString &placeholder,
-                     QWidget *parent = nullptr);
+                     std::function<Tano::FieldPath()> list, QWidget *parent = nullptr);
 
-    void setSource(const ListSource &source);
     /// Texts that the line for additions offers while one types.
     void setSuggestions(const QStringList &suggestions);
-    /// Adds what is typed in the line, as its button does.
-    void takePending();
-    void focusAddition();
+    /// Takes what is typed in the line into the list, which is about to be another one.
+    void leave();
+    /// Shows the list whose path has changed.
+    void reload();
+    /// Gives the focus to an item; to the line for additions where there is no such item.
+    void showItem(int row);
     QListView *view() const { return m_view; }
 
 private:
@@ -32,6 +37,7 @@ private:
     StringListModel *m_model;
     QListView *m_view;
     QLineEdit *m_line;
+    AdditionLine *m_addition;
     QPushButton *m_add;
     QPushButton *m_remove;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/document.h"
+#include "typed_text.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -9,56 +10,67 @@
 
 namespace Editor {
 
-/// Which field of the package a widget shows, and which command writes it.
+class FieldNote;
+
+/// Which field of the package a widget shows.
 struct TextBinding {
     /// The empty path while there is no such field.
     std::function<Tano::FieldPath()> path;
-    std::function<QUndoCommand *(const QString &text, bool isFinal)> write;
-    /// What to say of an empty text, if the field must not be empty.
-    QString emptyRefusal = {};
+    /// Why the field cannot take a text that the package could take; left out where it can.
+    std::function<QString(const QString &text)> refusal = {};
 };
+
+/// Refuses the empty text, with that reason.
+std::function<QString(const QString &text)> refuseEmpty(const QString &reason);
 
 /// Keeps a text widget and a text of the package alike, in both directions.
 ///
-/// Each keystroke is a command of one run, which ends when the focus leaves or with Return. A text
-/// that is refused stays in the field, marked, and reaches the package only when it is mended.
-/// Undo and redo are those of the document, not of the widget.
-class TextField : public QObject {
+/// What is typed is one undo step until the focus leaves, Return or a line break is typed, or a
+/// pause ends the run. A refused text stays in the field, with the reason in note(), while the
+/// package keeps what it had before the run. Undo and redo are those of the document; where the
+/// text is refused, undo drops it.
+class TextField : public TypedText {
     Q_OBJECT
 
 public:
     TextField(QLineEdit *edit, Document &document, TextBinding binding);
     TextField(QPlainTextEdit *edit, Document &document, TextBinding binding);
 
-    /// Shows the text of the package, for example since it is that of another entry now.
+    Tano::FieldPath path() const { return m_binding.path(); }
+    /// Shows the text of the package, for example because it is another entry's now.
     void reload();
-    /// Why the text in the field cannot be taken; empty when it can.
-    const QString &refusal() const { return m_refusal; }
-    QWidget *widget() const { return m_widget; }
+    /// Restores what the field held when it was made: for a cell's editor that is left with Escape.
+    void revert();
+    /// To be placed below the widget.
+    FieldNote *note() const { return m_note; }
+
+    void take() override;
+    QString refusal() const override { return m_refusal; }
+    void discard() override { reload(); }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void start();
     void refresh();
-    void take();
-    void finish();
+    void typed();
     void mark();
     QString read() const;
     QString text() const;
-    void setText(const QString &text);
+    void setText(const QString &text, bool keepsCursor);
 
-    QWidget *m_widget;
     QLineEdit *m_line = nullptr;
     QPlainTextEdit *m_plain = nullptr;
+    FieldNote *m_note;
     Document &m_document;
     TextBinding m_binding;
+    std::optional<Zel::PackageModel::FieldValue> m_initial;
     QString m_shown; // what the package held when the field was last brought up to date
     QString m_refusal;
     bool m_isBusy = false;
 };
 
-/// Leaves undo and redo, while the widget has the focus, to the window's actions.
-void yieldUndo(QWidget *widget);
+/// Whether a key event is the shortcut of undo or redo, which the window's actions may do.
+bool isUndoOrRedo(const QEvent *event);
 
 } // namespace Editor

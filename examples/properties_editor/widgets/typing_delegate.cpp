@@ -1,7 +1,7 @@
 #include "typing_delegate.h"
 
 #include "document/document.h"
-#include "marks.h"
+#include "field_note.h"
 #include "models/table_model.h"
 #include "text_field.h"
 
@@ -14,27 +14,23 @@
 namespace Editor {
 namespace {
 
-constexpr const char *refusalProperty = "refusal";
-constexpr const char *isTypingProperty = "isTyping";
+TextField *fieldOf(QObject *editor) {
+    return editor->findChild<TextField *>(QString(), Qt::FindDirectChildrenOnly);
+}
 
 } // namespace
 
 TypingDelegate::TypingDelegate(Document &document, QAbstractItemView *view)
     : QStyledItemDelegate(view)
     , m_document(document) {
-    connect(this, &QAbstractItemDelegate::closeEditor, this, [this] { m_document.closeRun(); });
-}
-
-QString TypingDelegate::refusal(const QLineEdit *editor) {
-    return editor->property(refusalProperty).toString();
 }
 
 QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                       const QModelIndex &index) const {
     const auto *model = qobject_cast<const TableModel *>(index.model());
-    auto *self = const_cast<TypingDelegate *>(this); // Qt's signature; the editor reports back
     const auto choices = model->choices(index);
     if (!choices.isEmpty()) {
+        auto *self = const_cast<TypingDelegate *>(this); // Qt's signature
         auto *combo = new QComboBox(parent);
         for (const auto &[value, text] : choices)
             combo->addItem(text, value);
@@ -47,50 +43,28 @@ QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
     auto *edit = new QLineEdit(parent);
     edit->setFrame(false);
     edit->setAccessibleName(model->headerData(index.column(), Qt::Horizontal).toString());
-    yieldUndo(edit);
-    connect(edit, &QLineEdit::textEdited, self, [self, edit] { self->take(edit); });
+    const QPersistentModelIndex cell(index);
+    const auto *field = new TextField(
+        edit, m_document,
+        {[model, cell] { return cell.isValid() ? model->field(cell) : Tano::FieldPath(); },
+         [model, cell](const QString &text) {
+             return cell.isValid() ? model->refusal(cell, text) : QString();
+         }});
+    field->note()->hover();
     return edit;
 }
 
 void TypingDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const {
-    const QString value = index.data(Qt::EditRole).toString();
-    if (auto *combo = qobject_cast<QComboBox *>(editor)) {
-        combo->setCurrentIndex(combo->findData(value));
-        return;
-    }
-    auto *edit = qobject_cast<QLineEdit *>(editor);
-    if (!edit->property(isTypingProperty).toBool() && edit->text() != value) {
-        edit->setText(value);
-        edit->setProperty(refusalProperty, QString());
-    }
-    auto mark = Mark::ofRefusal(refusal(edit));
-    const QString text = index.data(Qt::AccessibleDescriptionRole).toString();
-    if (!mark && !text.isEmpty())
-        mark = Mark{Zel::PackageModel::Severity::Error, text};
-    markField(edit, mark);
-}
-
-void TypingDelegate::take(QLineEdit *editor) {
-    editor->setProperty(isTypingProperty, true);
-    Q_EMIT commitData(editor);
-    editor->setProperty(isTypingProperty, false);
+    // A text field shows its text itself.
+    if (auto *combo = qobject_cast<QComboBox *>(editor))
+        combo->setCurrentIndex(combo->findData(index.data(Qt::EditRole)));
 }
 
 void TypingDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                   const QModelIndex &index) const {
-    if (const auto *combo = qobject_cast<QComboBox *>(editor)) {
-        if (combo->currentIndex() >= 0)
-            model->setData(index, combo->currentData());
-        return;
-    }
-    auto *edit = qobject_cast<QLineEdit *>(editor);
-    const QPersistentModelIndex cell(index);
-    const QString text = edit->text();
-    edit->setProperty(refusalProperty, qobject_cast<TableModel *>(model)->refusal(index, text));
-    if (refusal(edit).isEmpty() && text != index.data(Qt::EditRole).toString())
-        model->setData(index, text);
-    if (edit->property(isTypingProperty).toBool())
-        setEditorData(edit, cell); // for the mark
+    const auto *combo = qobject_cast<QComboBox *>(editor);
+    if (combo && combo->currentIndex() >= 0)
+        model->setData(index, combo->currentData());
 }
 
 QSize TypingDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const {
@@ -100,14 +74,17 @@ QSize TypingDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelI
 }
 
 bool TypingDelegate::eventFilter(QObject *watched, QEvent *event) {
-    auto *edit = qobject_cast<QLineEdit *>(watched);
-    if (edit && event->type() == QEvent::KeyPress) {
+    TextField *field = fieldOf(watched);
+    if (field && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Escape)
-            m_document.abandonRun();
-        else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !refusal(edit).isEmpty())
-            return true; // to be mended first
+            field->revert();
+        else if ((key == Qt::Key_Return || key == Qt::Key_Enter) && !field->refusal().isEmpty())
+            return true;
     }
+    if (field && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason)
+        return false; // not for the base class, which closes the editor
     return QStyledItemDelegate::eventFilter(watched, event);
 }
 

@@ -3,15 +3,14 @@
 #include <QStyledItemDelegate>
 
 class QAbstractItemView;
-class QLineEdit;
 
 namespace Editor {
 
 class Document;
 
-/// Edits the cells of a TableModel: what is typed goes into the package at once, as one undo step
-/// until the editor closes, and a cell at fault is marked while it is typed. Escape takes the step
-/// back.
+/// Edits the cells of a TableModel with a TextField or, where a cell has choices, with a list of
+/// them. Escape restores what the cell held when its editor opened. A cell whose text is refused
+/// stays open on Return, and while another window is active.
 class TypingDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -25,15 +24,10 @@ public:
                       const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
-    /// Why the text in an editor cannot be taken; empty when it can.
-    static QString refusal(const QLineEdit *editor);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void take(QLineEdit *editor);
-
     Document &m_document;
 };
 

@@ -206,6 +206,8 @@ bool FileActions::saveElsewhere(const QString &fileName) {
 }
 
 void FileActions::reload() {
+    if (!m_window.takeEdits())
+        return;
     if (m_document.isModified()) {
         QMessageBox box(QMessageBox::Question, tr("Reload"),
                         tr("The package has changes that are not saved."),

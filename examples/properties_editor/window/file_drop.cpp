@@ -1,8 +1,9 @@
 #include "file_drop.h"
 
+#include "widgets/icon_button.h"
+
 #include <QApplication>
 #include <QDropEvent>
-#include <QImageReader>
 #include <QMimeData>
 #include <QUrl>
 #include <QWidget>
@@ -13,7 +14,7 @@ namespace {
 QString manifestOf(const QMimeData *data) {
     const auto urls = data->urls();
     const QString file = urls.size() == 1 ? urls.first().toLocalFile() : QString();
-    return QImageReader::imageFormat(file).isEmpty() ? file : QString();
+    return isPicture(file) ? QString() : file;
 }
 
 } // namespace

@@ -20,7 +20,7 @@
 #include "widgets/marks.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
-#include "widgets/typing_delegate.h"
+#include "widgets/text_field.h"
 #include "window_state.h"
 
 #include <QAction>
@@ -34,6 +34,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -68,6 +69,7 @@ MainWindow::MainWindow(QWidget *parent)
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
     });
     setTabOrderOf(*this);
+    connect(&m_document, &Document::fieldChanged, this, &MainWindow::showChange);
     refreshTitle();
 }
 
@@ -254,50 +256,57 @@ void MainWindow::showField(const QString &path) {
     }
 }
 
-QWidget *MainWindow::openCellEditor() const {
-    for (QWidget *widget = focusWidget(); widget; widget = widget->parentWidget()) {
-        QWidget *viewport = widget->parentWidget();
-        const auto *view =
-            viewport ? qobject_cast<QAbstractItemView *>(viewport->parentWidget()) : nullptr;
-        if (view && viewport == view->viewport() && qobject_cast<QLineEdit *>(widget))
-            return widget;
-    }
-    return nullptr;
-}
-
 bool MainWindow::takeEdits() {
-    if (auto *editor = qobject_cast<QLineEdit *>(openCellEditor())) {
-        // What it could take, it has taken with each key.
-        const QString refusal = TypingDelegate::refusal(editor);
-        if (!refusal.isEmpty() && !askAboutRefusal(refusal, editor))
-            return false;
-    }
-    for (Page *page : m_pages->pages())
-        page->takePending();
-    m_document.closeRun();
-    const auto fields = findChildren<TextField *>();
-    for (const TextField *field : fields) {
-        if (!field->refusal().isEmpty() && field->widget()->isEnabled() &&
-            !askAboutRefusal(field->refusal(), field->widget()))
+    QVector<QPointer<TypedText>> texts;
+    for (TypedText *text : findChildren<TypedText *>())
+        texts.append(text);
+    for (const auto &text : std::as_const(texts)) {
+        // The editor of a cell may close meanwhile.
+        if (!text || !text->widget()->isEnabled() || text->widget()->isHidden())
+            continue;
+        text->take();
+        if (!text->refusal().isEmpty() && !askAboutRefusal(text))
             return false;
     }
     return true;
 }
 
-bool MainWindow::askAboutRefusal(const QString &refusal, QWidget *field) {
-    PlainMessageBox box(QMessageBox::Warning, tr("Save"), refusal, QMessageBox::NoButton, this);
+bool MainWindow::askAboutRefusal(const QPointer<TypedText> &text) {
+    PlainMessageBox box(QMessageBox::Warning, tr("Save"), text->refusal(), QMessageBox::NoButton,
+                        this);
     box.setInformativeText(tr("The package keeps what was there before."));
     box.addButton(tr("Go On Without It"), QMessageBox::AcceptRole);
-    const QAbstractButton *mend = box.addButton(tr("Mend It"), QMessageBox::RejectRole);
+    const QAbstractButton *fix = box.addButton(tr("Fix"), QMessageBox::RejectRole);
     box.exec();
-    if (box.clickedButton() != mend)
-        return true;
+    const bool goesOn = box.clickedButton() != fix;
+    if (text && goesOn)
+        text->discard();
+    else if (text)
+        reveal(text->widget());
+    return goesOn;
+}
+
+void MainWindow::reveal(QWidget *field) {
     for (int i = 0; i < m_pages->pages().size(); ++i) {
         if (m_pages->pages().at(i)->isAncestorOf(field))
             showPage(i);
     }
+    for (QWidget *page = field; page; page = page->parentWidget()) {
+        auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget());
+        if (auto *tabs = stack ? qobject_cast<QTabWidget *>(stack->parentWidget()) : nullptr)
+            tabs->setCurrentWidget(page);
+    }
     field->setFocus(Qt::OtherFocusReason);
-    return false;
+}
+
+void MainWindow::showChange(const QString &path) {
+    const QPointer<QWidget> focus = focusWidget();
+    const auto *field = focus ? focus->findChild<TextField *>() : nullptr;
+    if (field && Zel::fromUtf8(field->path().toString()) == path)
+        return;
+    showField(path);
+    if (qobject_cast<QUndoView *>(focus))
+        focus->setFocus(Qt::OtherFocusReason);
 }
 
 bool MainWindow::openFile(const QString &fileName) {

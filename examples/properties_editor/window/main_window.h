@@ -3,6 +3,7 @@
 #include "document/document.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QVector>
 
 class QStackedWidget;
@@ -15,6 +16,7 @@ class PageStack;
 class ProblemsModel;
 class ProblemsPanel;
 class StartPage;
+class TypedText;
 
 /// The window of the editor.
 class MainWindow : public QMainWindow {
@@ -36,8 +38,8 @@ public:
     /// Brings the window to where it was when the program ended last.
     void restore();
 
-    /// Takes into the package what is being typed anywhere. Where a text cannot be taken, asks;
-    /// returns false when the user would rather mend it.
+    /// Takes into the package what is being typed anywhere. Asks where a text is refused; returns
+    /// false if the user prefers to fix it.
     bool takeEdits();
 
 protected:
@@ -54,8 +56,9 @@ private:
     void addHistoryDock();
     void addStatus();
     void refreshTitle();
-    QWidget *openCellEditor() const;
-    bool askAboutRefusal(const QString &refusal, QWidget *field);
+    bool askAboutRefusal(const QPointer<TypedText> &text);
+    void reveal(QWidget *field);
+    void showChange(const QString &path);
 
     Document m_document;
     FileActions *m_files;

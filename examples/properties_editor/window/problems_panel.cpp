@@ -2,8 +2,6 @@
 
 #include "models/problems_model.h"
 
-#include <packagemodel/package_edit_command.h>
-
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -95,16 +93,12 @@ void ProblemsPanel::refresh() {
     for (int i = 0; i < issue->fixes.size(); ++i) {
         const Fix &fix = issue->fixes.at(i);
         auto *button = new QPushButton(QString(fix.title).replace(u'&', QStringLiteral("&&")));
-        connect(button, &QPushButton::clicked, this, [this, fix] { make(fix.edits, fix.title); });
+        connect(button, &QPushButton::clicked, this,
+                [this, fix] { m_document.edit(fix.edits, fix.title); });
         m_fixes->insertWidget(i, button, 0, Qt::AlignLeft);
         setTabOrder(previous, button);
         previous = button;
     }
-}
-
-void ProblemsPanel::make(const Zel::PackageModel::Edits &edits, const QString &title) {
-    auto *command = new Zel::PackageEditCommand(m_document.package(), edits, title);
-    m_document.push(command);
 }
 
 void ProblemsPanel::fixAllSafe() {
@@ -115,14 +109,14 @@ void ProblemsPanel::fixAllSafe() {
         Zel::PackageModel::fixIssues(&scratch, Zel::PackageModel::FixChoice::Safe,
                                      {fileName.isEmpty() ? QString() : QFileInfo(fileName).path()});
     if (!edits.isEmpty())
-        make(edits, tr("Fix all safe problems"));
+        m_document.edit(edits, tr("Fix all safe problems"));
 }
 
 void ProblemsPanel::addFixes(QMenu &menu) {
     const Issue *issue = current();
     for (const Fix &fix : issue ? issue->fixes : QVector<Fix>())
         menu.addAction(QString(fix.title).replace(u'&', QStringLiteral("&&")), this,
-                       [this, fix] { make(fix.edits, fix.title); });
+                       [this, fix] { m_document.edit(fix.edits, fix.title); });
 }
 
 void ProblemsPanel::showMenu(const QPoint &place) {

@@ -40,7 +40,6 @@ private:
     void refresh();
     void showMenu(const QPoint &place);
     void addFixes(QMenu &menu);
-    void make(const Zel::PackageModel::Edits &edits, const QString &title);
     /// The problem that is selected; null for none.
     const Zel::PackageModel::Issue *current() const;
 

@@ -66,4 +66,8 @@ PACKAGEMODEL_EXPORT Edits languageRemoval(const PackageInfoModel *package,
 /// text while it is typed. Empty if it would apply the edit.
 PACKAGEMODEL_EXPORT QString refusal(const PackageInfoModel *package, const Edit &edit);
 
+/// Edits in words, in the language of the application, as the text of an undo step: "Set name of
+/// “greet” in French (France)". Of several edits, the first one and the number of the others.
+PACKAGEMODEL_EXPORT QString label(const Edits &edits);
+
 } // namespace Zel::PackageModel

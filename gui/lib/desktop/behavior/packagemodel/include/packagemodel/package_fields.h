@@ -12,6 +12,7 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
 #include <optional>
 #include <variant>
 
@@ -58,6 +59,33 @@ struct Field {
 ///     out << field.path.toString() << '=' << PackageModel::printed(field.value) << '\n';
 /// ```
 PACKAGEMODEL_EXPORT QVector<Field> fields(const PackageInfoModel *package);
+
+/// fields() in portions, for programs that stay responsive with large packages: first the package's
+/// own fields, in several portions, then those of one behavior, dialog or service each.
+///
+/// Start anew after an edit: entries that are gone by then are skipped, but renamed ones would be
+/// listed with their old paths. A walk must not outlive the package.
+///
+/// ```
+/// PackageModel::FieldWalk walk(&package);
+/// while (!walk.isAtEnd() && !timeIsOver())
+///     search(walk.next());
+/// ```
+class PACKAGEMODEL_EXPORT FieldWalk {
+public:
+    explicit FieldWalk(const PackageInfoModel *package);
+    ~FieldWalk();
+    FieldWalk(const FieldWalk &) = delete;
+    FieldWalk &operator=(const FieldWalk &) = delete;
+
+    bool isAtEnd() const;
+    /// The next portion; may be empty before the end.
+    QVector<Field> next();
+
+private:
+    struct Data;
+    std::unique_ptr<Data> m_data;
+};
 
 /// Those of fields() that hold one value of the package itself: `uid`, `version`, `author`.
 PACKAGEMODEL_EXPORT QVector<Field> plainFields(const PackageInfoModel *package);

@@ -271,11 +271,23 @@ public:
 
     void list(PackageInfoModel &package, const FieldPath &base,
               QVector<Field> &fields) const override {
+        FieldPortions portions;
+        divide(package, base, portions);
+        for (const auto &listEntry : portions)
+            listEntry(fields);
+    }
+    void divide(PackageInfoModel &package, const FieldPath &base,
+                FieldPortions &portions) const override {
         QHash<QString, int> counts;
         const auto children = (package.*m_kind.all)();
         for (Child *child : children) {
             const QString key = (child->*m_kind.key)();
-            listAll(m_kind.table(), *child, pathIn(base).entry(toUtf8(key), counts[key]++), fields);
+            const FieldPath item = pathIn(base).entry(toUtf8(key), counts[key]++);
+            portions.push_back(
+                [this, entry = QPointer<Child>(child), item](QVector<Field> &fields) {
+                    if (entry)
+                        listAll(m_kind.table(), *entry, item, fields);
+                });
         }
     }
     FieldTarget follow(PackageInfoModel &package, const Walk &walk) const override {

@@ -74,6 +74,9 @@ constexpr FieldKind kindOf() {
     return static_cast<FieldKind>(FieldValue(Value()).index());
 }
 
+/// Each appends some of the fields of an owner.
+using FieldPortions = std::vector<std::function<void(QVector<Field> &fields)>>;
+
 /// One field of an owner: a package, or an entry of it. `Owner` is a model, or refers to a
 /// requirement.
 template<typename Owner>
@@ -99,6 +102,12 @@ public:
 
     /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
     virtual void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const = 0;
+    /// list() in portions, which are appended to `portions`. They may be asked for while `owner`
+    /// lives.
+    virtual void divide(Owner &owner, const FieldPath &base, FieldPortions &portions) const {
+        portions.push_back(
+            [this, &owner, base](QVector<Field> &fields) { list(owner, base, fields); });
+    }
     virtual FieldTarget follow(Owner &owner, const Walk &walk) const = 0;
     /// What a path leads to if the package has it; nothing for a malformed one, then sets `error`.
     virtual std::optional<FieldForm> form(const Walk &walk, QString &error) const {

@@ -20,7 +20,7 @@ PackageEditCommand::PackageEditCommand(PackageInfoModel *model, const PackageMod
     : PackageCommand(model)
     , m_edits(edits)
     , m_isFinal(isFinal) {
-    setText(text);
+    setText(text.isEmpty() ? PackageModel::label(edits) : text);
 }
 
 PackageEditCommand::~PackageEditCommand() = default;
@@ -48,19 +48,22 @@ int PackageEditCommand::id() const {
 
 bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
     return mergeIf<PackageEditCommand>(incoming, [this](const PackageEditCommand &newer) {
-        if (m_isFinal || !model() || newer.model() != model() || !isTyped(m_edits) ||
-            !isTyped(newer.m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1)
+        if (m_isFinal || newer.m_startsRun || !model() || newer.model() != model() ||
+            !isTyped(m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1)
             return false;
+        if (newer.m_edits == m_inverse) {
+            setObsolete(true);
+            return true;
+        }
         // An inverse that restores the whole package stays as it is.
         const bool isWhole = m_inverse.front().path.isEmpty();
-        if (newer.m_edits.front().path != (isWhole ? m_edits : m_inverse).front().path)
+        if (!isTyped(newer.m_edits) ||
+            newer.m_edits.front().path != (isWhole ? m_edits : m_inverse).front().path)
             return false;
         m_edits.front().value = newer.m_edits.front().value;
         if (!isWhole)
             m_inverse.front().path = newer.m_inverse.front().path;
         m_isFinal = newer.m_isFinal;
-        const auto &old = m_inverse.front().value;
-        setObsolete(old && *old == *m_edits.front().value);
         return true;
     });
 }

@@ -37,6 +37,38 @@ QVector<Field> fields(const PackageInfoModel *package) {
     return all;
 }
 
+struct FieldWalk::Data {
+    PackageInfoModel *package; // null without one
+    std::size_t row = 0;
+    FieldPortions portions = {}; // of the row before
+    std::size_t portion = 0;
+};
+
+FieldWalk::FieldWalk(const PackageInfoModel *package)
+    : m_data(new Data{package ? &unconst(*package) : nullptr}) {
+}
+
+FieldWalk::~FieldWalk() = default;
+
+bool FieldWalk::isAtEnd() const {
+    const bool hasRows = m_data->package && m_data->row < packageFields().size();
+    return !hasRows && m_data->portion == m_data->portions.size();
+}
+
+QVector<Field> FieldWalk::next() {
+    QVector<Field> found;
+    if (isAtEnd())
+        return found;
+    if (m_data->portion == m_data->portions.size()) {
+        m_data->portions.clear();
+        m_data->portion = 0;
+        packageFields()[m_data->row++]->divide(*m_data->package, {}, m_data->portions);
+    }
+    if (m_data->portion < m_data->portions.size())
+        m_data->portions[m_data->portion++](found);
+    return found;
+}
+
 QVector<Field> plainFields(const PackageInfoModel *package) {
     QVector<Field> plain;
     for (const auto &row : packageFields()) {

@@ -1,0 +1,150 @@
+#include "document.h"
+
+#include "field_edits.h"
+
+#include <packagemodel/package_edit_command.h>
+
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::PackageEditCommand;
+using Zel::PackageInfoModel;
+using Zel::PackageModel::Edit;
+using Zel::PackageModel::Edits;
+
+namespace {
+
+// The field that a command has set: a key that was set has another path.
+FieldPath fieldAfter(const PackageEditCommand &command) {
+    const Edits &inverse = command.inverse();
+    const bool isField = !inverse.isEmpty() && !inverse.front().path.isEmpty();
+    return (isField ? inverse : command.edits()).front().path;
+}
+
+} // namespace
+
+QString Document::type(const FieldPath &field, const QString &text) {
+    QString reason = textRefusal(package(), field, text);
+    if (!reason.isEmpty()) {
+        abandonRun(field);
+        return reason;
+    }
+    const Edit edit = setText(field, text);
+    if (Zel::PackageModel::value(package(), field) == edit.value)
+        return {};
+    auto *command = new PackageEditCommand(package(), {edit}, {}, false);
+    if (m_run != field)
+        command->startRun();
+    const int before = m_undoStack.index();
+    pushCommand(command);
+    closeRun();
+    // One that was typed back is gone.
+    if (const auto *run = commandAt(m_undoStack.index() - 1); run && m_undoStack.index() >= before)
+        m_run = fieldAfter(*run);
+    m_pause.start();
+    return {};
+}
+
+QString Document::refusalOf(const Edits &edits) const {
+    QString reason;
+    for (const Edit &edit : edits) {
+        reason = Zel::PackageModel::refusal(package(), edit);
+        if (!reason.isEmpty())
+            break;
+    }
+    if (reason.isEmpty() || edits.size() == 1)
+        return reason;
+    // It may depend on an edit before it.
+    m_package->syncRecord();
+    PackageInfoModel scratch(m_package->packageInfo());
+    return Zel::PackageModel::apply(&scratch, edits).error;
+}
+
+void Document::edit(const Edits &edits, const QString &text) {
+    if (edits.isEmpty())
+        return;
+    if (const QString reason = refusalOf(edits); !reason.isEmpty()) {
+        Q_EMIT editRefused(reason);
+        return;
+    }
+    auto *command = new PackageEditCommand(package(), edits, text);
+    command->startRun();
+    push(command);
+}
+
+void Document::push(QUndoCommand *command) {
+    closeRun();
+    pushCommand(command);
+}
+
+void Document::pushCommand(QUndoCommand *command) {
+    const QScopedValueRollback<bool> pushing(m_isPushing, true);
+    m_undoStack.push(command);
+}
+
+void Document::closeRun() {
+    m_run = {};
+    m_pause.stop();
+}
+
+void Document::abandonRun(const FieldPath &field) {
+    if (m_run.isEmpty() || m_run != field)
+        return;
+    // The two dissolve.
+    if (const PackageEditCommand *run = commandAt(m_undoStack.index() - 1))
+        pushCommand(new PackageEditCommand(package(), run->inverse(), {}, false));
+    closeRun();
+}
+
+const PackageEditCommand *Document::commandAt(int index) const {
+    return index < 0 ? nullptr
+                     : dynamic_cast<const PackageEditCommand *>(m_undoStack.command(index));
+}
+
+FieldPath Document::changedField(int indexBefore) const {
+    const bool isUndo = m_stackIndex < indexBefore;
+    const PackageEditCommand *command = commandAt(isUndo ? m_stackIndex : m_stackIndex - 1);
+    if (!command)
+        return {};
+    // What leads away from the present state has the paths of the present state.
+    const Edits &edits = isUndo ? command->edits() : command->inverse();
+    return edits.isEmpty() ? FieldPath() : edits.front().path;
+}
+
+Edits Document::pendingEdits() const {
+    const int clean = m_undoStack.cleanIndex();
+    if (clean < 0) {
+        m_package->syncRecord();
+        return {{Edit::Action::Set, {}, m_package->packageInfo()}};
+    }
+    Edits edits;
+    for (int i = clean; i < m_undoStack.index(); ++i) {
+        if (const PackageEditCommand *command = commandAt(i))
+            edits += command->edits();
+    }
+    for (int i = clean - 1; i >= m_undoStack.index(); --i) {
+        if (const PackageEditCommand *command = commandAt(i))
+            edits += command->inverse();
+    }
+    return edits;
+}
+
+void Document::finishEdit() {
+    if (m_isReplacing)
+        return;
+    const int before = std::exchange(m_stackIndex, m_undoStack.index());
+    const bool isStep = !m_isPushing && before != m_stackIndex;
+    if (isStep)
+        closeRun();
+    m_coverages.reset();
+    refreshIssues();
+    Q_EMIT edited();
+    if (const auto field = isStep ? changedField(before) : FieldPath(); !field.isEmpty())
+        Q_EMIT fieldChanged(Zel::fromUtf8(field.toString()));
+}
+
+} // namespace Editor

@@ -1,0 +1,92 @@
+#include "addition_line.h"
+
+#include "field_note.h"
+#include "marks.h"
+#include "models/string_list_model.h"
+#include "text_field.h"
+
+#include <QLineEdit>
+#include <QRegularExpression>
+
+namespace Editor {
+namespace {
+
+QStringList linesOf(const QString &text) {
+    static const QRegularExpression lineBreak(QStringLiteral("\r\n|[\r\n\u2028\u2029]"));
+    return text.split(lineBreak, Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+AdditionLine::AdditionLine(QLineEdit *line, Document &document, StringListModel &model)
+    : TypedText(line)
+    , m_line(line)
+    , m_document(document)
+    , m_model(model)
+    , m_note(new FieldNote(line)) {
+    line->installEventFilter(this);
+    connect(line, &QLineEdit::returnPressed, this, &AdditionLine::take);
+    connect(line, &QLineEdit::textChanged, this, &AdditionLine::refresh);
+    connect(line, &QLineEdit::textEdited, this, [this](const QString &text) {
+        if (linesOf(text).size() > 1)
+            take();
+    });
+    connect(&document, &Document::edited, this, &AdditionLine::refresh);
+    refresh();
+}
+
+bool AdditionLine::eventFilter(QObject *watched, QEvent *event) {
+    if (isUndoOrRedo(event) && m_line->text().isEmpty()) {
+        event->ignore(); // the window's actions get the key
+        return true;
+    }
+    return TypedText::eventFilter(watched, event);
+}
+
+bool AdditionLine::canTake() const {
+    return !m_line->text().isEmpty() && refusal().isEmpty();
+}
+
+void AdditionLine::take() {
+    QStringList additions;
+    QStringList rest;
+    const QStringList lines = linesOf(m_line->text());
+    for (const QString &line : lines)
+        (m_model.additionRefusal(line).isEmpty() ? additions : rest).append(line);
+    additions.removeDuplicates();
+    if (!additions.isEmpty())
+        m_model.add(additions);
+    if (rest != lines)
+        m_line->setText(rest.join(u'\n'));
+    if (!additions.isEmpty())
+        Q_EMIT added();
+}
+
+void AdditionLine::leave() {
+    take();
+    const QString reason = refusal();
+    discard();
+    // The caller is in the middle of showing another list.
+    if (!reason.isEmpty() && !m_model.list().isEmpty())
+        QMetaObject::invokeMethod(
+            &m_document, [this, reason] { Q_EMIT m_document.editRefused(reason); },
+            Qt::QueuedConnection);
+}
+
+QString AdditionLine::refusal() const {
+    const QStringList lines = linesOf(m_line->text());
+    return lines.isEmpty() ? QString() : m_model.additionRefusal(lines.first());
+}
+
+void AdditionLine::discard() {
+    m_line->setText({}); // with the widget's own undo history
+}
+
+void AdditionLine::refresh() {
+    const QString reason = refusal();
+    markField(m_line, Mark::ofRefusal(reason));
+    m_note->setReason(reason);
+    Q_EMIT changed();
+}
+
+} // namespace Editor

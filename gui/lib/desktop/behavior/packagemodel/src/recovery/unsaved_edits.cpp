@@ -1,0 +1,56 @@
+#include <packagemodel/edit_session.h>
+
+#include "../fields/edits_json.h"
+#include "../fields/field_words.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+
+namespace Zel::PackageModel {
+namespace {
+
+const QLatin1String manifestMember("manifest");
+const QLatin1String contentMember("content");
+const QLatin1String digestMember("sha256");
+const QLatin1String timeMember("time");
+
+} // namespace
+
+QByteArray toJson(const UnsavedEdits &unsaved) {
+    QJsonObject object{
+        {formatMember, jsonFormat},
+        {digestMember, QLatin1String(unsaved.digest)},
+        {timeMember, unsaved.time.toUTC().toString(Qt::ISODate)},
+    };
+    if (unsaved.fileName.isEmpty())
+        object.insert(contentMember, QString::fromUtf8(unsaved.manifest));
+    else
+        object.insert(manifestMember, unsaved.fileName);
+    insertEdits(object, unsaved.edits);
+    return toText(object);
+}
+
+ParsedUnsavedEdits unsavedEditsFromJson(const QByteArray &json) {
+    JsonMembers members = JsonMembers::ofDocument(json);
+    ParsedUnsavedEdits parsed;
+    UnsavedEdits &unsaved = parsed.unsaved;
+    unsaved.fileName = members.takeOptionalText(manifestMember);
+    if (unsaved.fileName.isEmpty())
+        unsaved.manifest = members.take(contentMember, QJsonValue::String).toString().toUtf8();
+    unsaved.digest = members.take(digestMember, QJsonValue::String).toString().toLatin1();
+    unsaved.time =
+        QDateTime::fromString(members.take(timeMember, QJsonValue::String).toString(), Qt::ISODate);
+    if (members.error.isEmpty() && !unsaved.time.isValid())
+        members.fail(timeMember, misfit());
+    unsaved.edits = takeEdits(members);
+    members.refuseOthers();
+    if (!members.error.isEmpty())
+        return {{}, members.error};
+    return parsed;
+}
+
+QByteArray manifestDigest(const QByteArray &manifest) {
+    return QCryptographicHash::hash(manifest, QCryptographicHash::Sha256).toHex();
+}
+
+} // namespace Zel::PackageModel

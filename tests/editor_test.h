@@ -1,0 +1,174 @@
+#pragma once
+
+#include "window/main_window.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+#include <functional>
+#include <memory>
+
+inline QByteArray contentOf(const QString &fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void writeTo(const QString &fileName, const QByteArray &content) {
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+// Does something with the next modal dialog, which has to come; the flag says whether it came.
+class Answer {
+public:
+    template<typename Dialog>
+    explicit Answer(std::function<void(Dialog *)> give) {
+        QTimer::singleShot(0, &m_context, [this, give] {
+            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            m_isGiven = true;
+            give(dialog);
+        });
+    }
+    explicit Answer(QMessageBox::StandardButton button)
+        : Answer(std::function<void(QMessageBox *)>([this, button](QMessageBox *box) {
+            text = box->text();
+            box->button(button)->click();
+        })) {}
+    bool isGiven() const { return m_isGiven; }
+
+    QString text;
+
+private:
+    QObject m_context;
+    bool m_isGiven = false;
+};
+
+inline std::function<void(QFileDialog *)> choose(const QString &fileName) {
+    return [fileName](QFileDialog *dialog) {
+        dialog->findChild<QLineEdit *>()->setText(fileName);
+        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
+    };
+}
+
+/// The base of tests that use the editor's window by keyboard and mouse. A test class derives from
+/// it and from QObject, and calls prepare(), showWindow() and closeWindow() in initTestCase(),
+/// init() and cleanup().
+class EditorTest {
+protected:
+    void prepare() {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QCoreApplication::setOrganizationName(QStringLiteral("zel-test"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_directory.path());
+    }
+    void showWindow() {
+        m_window = std::make_unique<Editor::MainWindow>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+    void closeWindow() {
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        m_window.reset();
+    }
+
+    QString copyOf(const char *sample) {
+        const QDir samples(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages"));
+        const QDir from(samples.filePath(QLatin1String(sample)));
+        QDir to(m_directory.filePath(QString::number(++m_copies)));
+        to.mkpath(QStringLiteral("."));
+        for (const QString &name : from.entryList(QDir::Files))
+            QFile::copy(from.filePath(name), to.filePath(name));
+        return to.filePath(QStringLiteral("manifest.xml"));
+    }
+
+    // Keys go to whatever has the focus.
+    QWidget *focus() {
+        if (!QApplication::focusWidget()) { // a dialog has just closed
+            m_window->activateWindow();
+            static_cast<void>(QTest::qWaitForWindowActive(m_window.get()));
+        }
+        return QApplication::focusWidget();
+    }
+    void type(const QString &text) {
+        for (const QChar character : text)
+            QTest::keyClicks(focus(), QString(character));
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(focus(), key, modifiers);
+    }
+    void replaceText(const QString &text) {
+        press(Qt::Key_A, Qt::ControlModifier);
+        type(text);
+    }
+    static void drop(QWidget *target, const QString &fileName) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(fileName)});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+    }
+
+    QUndoStack *stack() { return m_window->document().undoStack(); }
+    QByteArray manifest() {
+        m_window->document().package()->syncRecord();
+        return m_window->document().package()->saveToManifestContent();
+    }
+    QTreeView *problems() { return view<QTreeView>("Problems"); }
+    int problemCount() { return problems()->model()->rowCount(); }
+
+    template<typename View>
+    View *view(const char *accessibleName) {
+        for (View *candidate : m_window->findChildren<View *>()) {
+            if (candidate->accessibleName() == QLatin1String(accessibleName))
+                return candidate;
+        }
+        return nullptr;
+    }
+    // The field that a label belongs to.
+    QLineEdit *field(const char *label) {
+        for (const QLabel *candidate : m_window->findChildren<QLabel *>()) {
+            if (candidate->text() == QLatin1String(label))
+                return qobject_cast<QLineEdit *>(candidate->buddy());
+        }
+        return nullptr;
+    }
+    QLineEdit *line(const char *placeholder) {
+        for (QLineEdit *candidate : m_window->findChildren<QLineEdit *>()) {
+            if (candidate->placeholderText() == QLatin1String(placeholder))
+                return candidate;
+        }
+        return nullptr;
+    }
+    QPushButton *button(const char *text) {
+        for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
+            if (candidate->text() == QString::fromUtf8(text))
+                return candidate;
+        }
+        return nullptr;
+    }
+    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(); }
+
+    QTemporaryDir m_directory;
+    int m_copies = 0;
+    std::unique_ptr<Editor::MainWindow> m_window;
+};
