@@ -27,6 +27,7 @@ set(ZEL_QT_MINIMUM_5 5.15)
 set(ZEL_QT_MINIMUM_6 6.4)
 find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 find_package(EXPAT 2.5 REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc) # which QtCore loads too
 
 # What CMake and Qt generate into the build tree is not ours to lint; some check has to be on.
 if(CMAKE_CXX_CLANG_TIDY)

@@ -161,7 +161,7 @@ protected:
     }
     QPushButton *button(const char *text) {
         for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
-            if (candidate->text() == QLatin1String(text))
+            if (candidate->text() == QString::fromUtf8(text))
                 return candidate;
         }
         return nullptr;

@@ -1099,6 +1099,11 @@
         <source>%1 (and %2 more)</source>
         <translation>%1（ほか%2件）</translation>
     </message>
+    <message>
+        <source>en-US</source>
+        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
+        <translation>ja</translation>
+    </message>
 </context>
 <context>
     <name>Zel::PackageStringCommand</name>

@@ -382,11 +382,6 @@
         <translation>Entrée standard.</translation>
     </message>
     <message>
-        <source>en-US</source>
-        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
-        <translation>fr</translation>
-    </message>
-    <message>
         <source>Write no manifest; print the names of the files that are not in the canonical form.</source>
         <translation>N&apos;écrire aucun manifeste ; afficher les noms des fichiers qui n&apos;ont pas la forme canonique.</translation>
     </message>

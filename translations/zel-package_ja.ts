@@ -382,11 +382,6 @@
         <translation>標準入力。</translation>
     </message>
     <message>
-        <source>en-US</source>
-        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
-        <translation>ja</translation>
-    </message>
-    <message>
         <source>Write no manifest; print the names of the files that are not in the canonical form.</source>
         <translation>マニフェストを書き込まず、正規形でないファイルの名前を表示する。</translation>
     </message>

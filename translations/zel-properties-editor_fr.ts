@@ -4,14 +4,6 @@
 <context>
     <name>Editor::BehaviorDetails</name>
     <message>
-        <source>A &amp;user may ask for it</source>
-        <translation>L&apos;&amp;utilisateur peut le demander</translation>
-    </message>
-    <message>
-        <source>&amp;Path:</source>
-        <translation>&amp;Chemin&#xa0;:</translation>
-    </message>
-    <message>
         <source>A behavior needs a path.</source>
         <translation>Il faut un chemin à un comportement.</translation>
     </message>
@@ -26,10 +18,6 @@
     <message>
         <source>Solitary: the robot runs it on its own</source>
         <translation>Solitaire&#xa0;: le robot le lance de lui-même</translation>
-    </message>
-    <message>
-        <source>Na&amp;ture:</source>
-        <translation>Na&amp;ture&#xa0;:</translation>
     </message>
     <message>
         <source>Language of the texts</source>
@@ -84,16 +72,48 @@
         <translation>Une nouvelle permission</translation>
     </message>
     <message>
-        <source>P&amp;urpose:</source>
-        <translation>&amp;Usage&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>D&amp;escription&#xa0;:</translation>
+        <source>What people say to start the behavior. Type a sentence below.</source>
+        <translation>Ce que l&apos;on dit pour lancer le comportement. Saisissez une phrase ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What the robot says until the behavior starts. Type a sentence below.</source>
+        <translation>Ce que le robot dit jusqu&apos;au début du comportement. Saisissez une phrase ci-dessous.</translation>
+    </message>
+    <message>
+        <source>Words that group behaviors. Type a tag below.</source>
+        <translation>Des mots qui regroupent les comportements. Saisissez une étiquette ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What has to hold for the behavior to run. Type a condition below.</source>
+        <translation>Ce qui doit être vrai pour que le comportement s&apos;exécute. Saisissez une condition ci-dessous.</translation>
+    </message>
+    <message>
+        <source>What the behavior uses of the robot. Type a permission below.</source>
+        <translation>Ce que le comportement utilise du robot. Saisissez une permission ci-dessous.</translation>
+    </message>
+    <message>
+        <source>A user may as&amp;k for it</source>
+        <translation>L&apos;utilisateur peut le de&amp;mander</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>&amp;Chemin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>Na&amp;ture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>&amp;Usage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -128,6 +148,10 @@
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>A behavior is something that the robot does. “Add” adds one; the search above may hide some.</source>
+        <translation>Un comportement est une action du robot. «&#xa0;Ajouter&#xa0;» en ajoute un&#xa0;; la recherche ci-dessus peut en masquer.</translation>
     </message>
 </context>
 <context>
@@ -164,16 +188,32 @@
         <translation>Il faut un nom de sujet à un dialogue.</translation>
     </message>
     <message>
-        <source>Type &amp;version:</source>
-        <translation>&amp;Version de type&#xa0;:</translation>
-    </message>
-    <message>
         <source>Topic files</source>
         <translation>Fichiers du sujet</translation>
     </message>
     <message>
-        <source>Remove &amp;File</source>
-        <translation>Retirer le &amp;fichier</translation>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>Un dialogue est un sujet dont le robot peut parler, avec un fichier par langue. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
+        <source>Type vers&amp;ion:</source>
+        <translation>&amp;Version de type&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Remove Fi&amp;le</source>
+        <translation>Retirer &amp;le fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation>&amp;Choisir un fichier…</translation>
+    </message>
+    <message>
+        <source>Choose a Topic File</source>
+        <translation>Choisir un fichier de sujet</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -181,6 +221,10 @@
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>L&apos;icône ne peut pas être convertie en PNG.</translation>
+    </message>
+    <message>
+        <source>Merge with the file</source>
+        <translation>Fusionner avec le fichier</translation>
     </message>
 </context>
 <context>
@@ -276,14 +320,6 @@
     <message>
         <source>Saving replaces what the other program has written.</source>
         <translation>L&apos;enregistrement remplacera ce que l&apos;autre programme a écrit.</translation>
-    </message>
-    <message>
-        <source>Publish the Manifest</source>
-        <translation>Publier le manifeste</translation>
-    </message>
-    <message>
-        <source>Publish</source>
-        <translation>Publier</translation>
     </message>
     <message>
         <source>Reload</source>
@@ -407,6 +443,18 @@
         <source>The picture %1 cannot be read: %2</source>
         <translation>L&apos;image %1 ne peut pas être lue&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Robots show the default icon.</source>
+        <translation>Les robots affichent l&apos;icône par défaut.</translation>
+    </message>
+    <message>
+        <source>The file icon.png is beside the manifest.</source>
+        <translation>Le fichier icon.png est à côté du manifeste.</translation>
+    </message>
+    <message>
+        <source>Saving writes the file icon.png beside the manifest.</source>
+        <translation>L&apos;enregistrement écrit le fichier icon.png à côté du manifeste.</translation>
+    </message>
 </context>
 <context>
     <name>Editor::IdentityPage</name>
@@ -423,16 +471,8 @@
         <translation>&amp;UID&#xa0;:</translation>
     </message>
     <message>
-        <source>&amp;Version:</source>
-        <translation>&amp;Version&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Type version:</source>
         <translation>Version de &amp;type&#xa0;:</translation>
-    </message>
-    <message>
-        <source>&amp;Path on the robot:</source>
-        <translation>&amp;Chemin sur le robot&#xa0;:</translation>
     </message>
     <message>
         <source>I&amp;nstaller:</source>
@@ -459,16 +499,67 @@
         <translation>Cana&amp;l&#xa0;:</translation>
     </message>
     <message>
-        <source>Click, or drop a picture.</source>
-        <translation>Cliquez ou déposez une image.</translation>
-    </message>
-    <message>
         <source>Icon</source>
         <translation>Icône</translation>
     </message>
     <message>
         <source>%1:</source>
         <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>Ve&amp;rsion:</source>
+        <translation>Ve&amp;rsion&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Path on the ro&amp;bot:</source>
+        <translation>&amp;Chemin sur le robot&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Icon…</source>
+        <translation>Choi&amp;sir l&apos;icône…</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguageChooser</name>
+    <message>
+        <source>Add Language</source>
+        <translation>Ajouter une langue</translation>
+    </message>
+    <message>
+        <source>Find a language, or type a code such as pt_BR</source>
+        <translation>Chercher une langue, ou saisir un code comme pt_BR</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Its own name</source>
+        <translation>Nom dans la langue</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>Another language</source>
+        <translation>Autre langue</translation>
+    </message>
+    <message>
+        <source>No known language matches. “%1” is added as a code.</source>
+        <translation>Aucune langue connue ne correspond. «&#xa0;%1&#xa0;» est ajouté comme code.</translation>
+    </message>
+    <message>
+        <source>The package supports “%1” already.</source>
+        <translation>Le paquet prend déjà en charge «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
+        <translation>Aucune langue connue ne correspond, et «&#xa0;%1&#xa0;» n&apos;est pas un code. Un code commence par des lettres&#xa0;; des lettres et des chiffres suivent un tiret bas, comme dans pt_BR.</translation>
     </message>
 </context>
 <context>
@@ -512,10 +603,6 @@
 </context>
 <context>
     <name>Editor::MainWindow</name>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
     <message>
         <source>Problems</source>
         <translation>Problèmes</translation>
@@ -581,14 +668,6 @@ Version %1</translation>
         <translation>%1[*] – Propriétés du paquet</translation>
     </message>
     <message>
-        <source>No problems</source>
-        <translation>Aucun problème</translation>
-    </message>
-    <message>
-        <source>Errors: %1, warnings: %2</source>
-        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -624,6 +703,14 @@ Version %1</translation>
         <source>Fix</source>
         <translation>Corriger</translation>
     </message>
+    <message>
+        <source>Dark &amp;Colors</source>
+        <translation>&amp;Couleurs sombres</translation>
+    </message>
+    <message>
+        <source>Package Properties</source>
+        <translation>Propriétés du paquet</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -649,6 +736,24 @@ Version %1</translation>
     <message>
         <source>Text</source>
         <translation>Texte</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::PageStack</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemCount</name>
+    <message>
+        <source>No problems</source>
+        <translation>Aucun problème</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -683,6 +788,45 @@ Version %1</translation>
     <message>
         <source>&amp;Show the field</source>
         <translation>&amp;Montrer le champ</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Publishing</name>
+    <message>
+        <source>… and %1 more</source>
+        <translation>… et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>Publier</translation>
+    </message>
+    <message>
+        <source>A package with malformed speech scripts cannot be published.</source>
+        <translation>Un paquet dont des scripts de parole sont mal formés ne peut pas être publié.</translation>
+    </message>
+    <message>
+        <source>The package still has errors.</source>
+        <translation>Le paquet a encore des erreurs.</translation>
+    </message>
+    <message>
+        <source>Publish Anyway</source>
+        <translation>Publier quand même</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>Publier le manifeste</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>Manifestes (*.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>This is the manifest that is open.</source>
+        <translation>C&apos;est le manifeste qui est ouvert.</translation>
+    </message>
+    <message>
+        <source>Publishing would replace it by a copy with fewer texts. Choose another file.</source>
+        <translation>La publication le remplacerait par une copie avec moins de textes. Choisissez un autre fichier.</translation>
     </message>
 </context>
 <context>
@@ -748,6 +892,33 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::Reloading</name>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes:</source>
+        <translation>Vos modifications non enregistrées :</translation>
+    </message>
+    <message>
+        <source>Changes in the file:</source>
+        <translation>Modifications dans le fichier :</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Discard Yours</source>
+        <translation>Abandonner les vôtres</translation>
+    </message>
+    <message>
+        <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
+        <translation>Ces champs ont été modifiés des deux côtés. Ils gardent vos valeurs et figurent parmi les problèmes jusqu’à votre décision.</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -776,6 +947,10 @@ Version %1</translation>
     <message>
         <source>Highest body</source>
         <translation>Corps, maximum</translation>
+    </message>
+    <message>
+        <source>Choose a robot</source>
+        <translation>Choisissez un robot</translation>
     </message>
 </context>
 <context>
@@ -813,8 +988,51 @@ Version %1</translation>
         <translation>Ajouter une version de &amp;Brio</translation>
     </message>
     <message>
-        <source>Remo&amp;ve Brio Version</source>
+        <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
+        <translation>Sans robot, le paquet n&apos;est proposé à aucun. «&#xa0;Ajouter un robot&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
+        <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
+        <translation>Les versions sur lesquelles le paquet fonctionne. «&#xa0;Ajouter une version de Brio&#xa0;» en ajoute une.</translation>
+    </message>
+    <message>
+        <source>Rem&amp;ove Brio Version</source>
         <translation>Re&amp;tirer la version de Brio</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ReviewPage</name>
+    <message>
+        <source>Re&amp;view</source>
+        <translation>&amp;Vérification</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>What has changed since the package was saved:</source>
+        <translation>Modifications depuis le dernier enregistrement :</translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation>XML</translation>
+    </message>
+    <message>
+        <source>Publication</source>
+        <translation>Publication</translation>
+    </message>
+    <message>
+        <source>What publishing changes in the copy for users:</source>
+        <translation>Ce que la publication change dans la copie destinée aux utilisateurs :</translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>Aucune modification.</translation>
+    </message>
+    <message>
+        <source>Nothing: all texts are plain, in languages that the package has.</source>
+        <translation>Rien : tous les textes sont simples et dans des langues du paquet.</translation>
     </message>
 </context>
 <context>
@@ -850,6 +1068,45 @@ Version %1</translation>
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
     </message>
+    <message>
+        <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
+        <translation>Un service est un programme qui tourne en arrière-plan sur le robot. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StartPage</name>
+    <message>
+        <source>%1 (the file is gone)</source>
+        <translation>%1 (le fichier a disparu)</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Recent packages</source>
+        <translation>Paquets récents</translation>
+    </message>
+    <message>
+        <source>The packages that you open appear here.</source>
+        <translation>Les paquets que vous ouvrez apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open a Manifest…</source>
+        <translation>Ouvrir un manifeste…</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>Nouveau paquet</translation>
+    </message>
 </context>
 <context>
     <name>Editor::StringListEditor</name>
@@ -880,10 +1137,6 @@ Version %1</translation>
         <translation>Langues et textes</translation>
     </message>
     <message>
-        <source>&amp;Add Language</source>
-        <translation>&amp;Ajouter une langue</translation>
-    </message>
-    <message>
         <source>&amp;Remove Language</source>
         <translation>&amp;Retirer la langue</translation>
     </message>
@@ -892,24 +1145,16 @@ Version %1</translation>
         <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>D&amp;escription&#xa0;:</translation>
-    </message>
-    <message>
         <source>No language is selected.</source>
         <translation>Aucune langue n&apos;est sélectionnée.</translation>
     </message>
     <message>
-        <source>Other Language…</source>
-        <translation>Autre langue…</translation>
+        <source>&amp;Add Language…</source>
+        <translation>&amp;Ajouter une langue…</translation>
     </message>
     <message>
-        <source>Add Language</source>
-        <translation>Ajouter une langue</translation>
-    </message>
-    <message>
-        <source>Code of the language, such as en or pt_BR:</source>
-        <translation>Code de la langue, comme en ou pt_BR&#xa0;:</translation>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -921,6 +1166,17 @@ Version %1</translation>
     <message>
         <source>Topic file</source>
         <translation>Fichier du sujet</translation>
+    </message>
+    <message>
+        <source>The file is beside the manifest.</source>
+        <translation>Le fichier est à côté du manifeste.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::XmlView</name>
+    <message>
+        <source>The manifest as XML</source>
+        <translation>Le manifeste en XML</translation>
     </message>
 </context>
 <context>

@@ -4,14 +4,6 @@
 <context>
     <name>Editor::BehaviorDetails</name>
     <message>
-        <source>A &amp;user may ask for it</source>
-        <translation>ユーザーが呼び出せる(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Path:</source>
-        <translation>パス(&amp;P):</translation>
-    </message>
-    <message>
         <source>A behavior needs a path.</source>
         <translation>ビヘイビアにはパスが必要です。</translation>
     </message>
@@ -26,10 +18,6 @@
     <message>
         <source>Solitary: the robot runs it on its own</source>
         <translation>ソリタリー: ロボットが自ら実行する</translation>
-    </message>
-    <message>
-        <source>Na&amp;ture:</source>
-        <translation>種別(&amp;T):</translation>
     </message>
     <message>
         <source>Language of the texts</source>
@@ -84,16 +72,48 @@
         <translation>新しい権限</translation>
     </message>
     <message>
-        <source>P&amp;urpose:</source>
-        <translation>用途(&amp;U):</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>説明(&amp;E):</translation>
+        <source>What people say to start the behavior. Type a sentence below.</source>
+        <translation>ビヘイビアを始めるために人が言う文です。下に文を入力してください。</translation>
+    </message>
+    <message>
+        <source>What the robot says until the behavior starts. Type a sentence below.</source>
+        <translation>ビヘイビアが始まるまでロボットが言う文です。下に文を入力してください。</translation>
+    </message>
+    <message>
+        <source>Words that group behaviors. Type a tag below.</source>
+        <translation>ビヘイビアを分類する言葉です。下にタグを入力してください。</translation>
+    </message>
+    <message>
+        <source>What has to hold for the behavior to run. Type a condition below.</source>
+        <translation>ビヘイビアの実行に必要な条件です。下に条件を入力してください。</translation>
+    </message>
+    <message>
+        <source>What the behavior uses of the robot. Type a permission below.</source>
+        <translation>ビヘイビアが使うロボットの機能です。下に権限を入力してください。</translation>
+    </message>
+    <message>
+        <source>A user may as&amp;k for it</source>
+        <translation>ユーザーが呼び出せる(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>パス(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>種別(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>用途(&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -128,6 +148,10 @@
     <message>
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>A behavior is something that the robot does. “Add” adds one; the search above may hide some.</source>
+        <translation>ビヘイビアはロボットの動作です。「追加」で追加します。上の検索で隠れている場合もあります。</translation>
     </message>
 </context>
 <context>
@@ -164,16 +188,32 @@
         <translation>ダイアログにはトピック名が必要です。</translation>
     </message>
     <message>
-        <source>Type &amp;version:</source>
-        <translation>種別バージョン(&amp;V):</translation>
-    </message>
-    <message>
         <source>Topic files</source>
         <translation>トピックファイル</translation>
     </message>
     <message>
-        <source>Remove &amp;File</source>
-        <translation>ファイルを削除(&amp;F)</translation>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>ダイアログはロボットが話せる話題で、言語ごとにファイルがあります。「追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Type vers&amp;ion:</source>
+        <translation>種別バージョン(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Remove Fi&amp;le</source>
+        <translation>ファイルを削除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose File…</source>
+        <translation>ファイルを選択(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Choose a Topic File</source>
+        <translation>トピックファイルを選択</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -181,6 +221,10 @@
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>アイコンを PNG に変換できません。</translation>
+    </message>
+    <message>
+        <source>Merge with the file</source>
+        <translation>ファイルとマージ</translation>
     </message>
 </context>
 <context>
@@ -276,14 +320,6 @@
     <message>
         <source>Saving replaces what the other program has written.</source>
         <translation>保存すると、別のプログラムが書き込んだ内容は置き換えられます。</translation>
-    </message>
-    <message>
-        <source>Publish the Manifest</source>
-        <translation>マニフェストを公開</translation>
-    </message>
-    <message>
-        <source>Publish</source>
-        <translation>公開</translation>
     </message>
     <message>
         <source>Reload</source>
@@ -407,6 +443,18 @@
         <source>The picture %1 cannot be read: %2</source>
         <translation>画像 %1 を読み込めません: %2</translation>
     </message>
+    <message>
+        <source>Robots show the default icon.</source>
+        <translation>ロボットには既定のアイコンが表示されます。</translation>
+    </message>
+    <message>
+        <source>The file icon.png is beside the manifest.</source>
+        <translation>マニフェストと同じ場所に icon.png があります。</translation>
+    </message>
+    <message>
+        <source>Saving writes the file icon.png beside the manifest.</source>
+        <translation>保存すると、マニフェストと同じ場所に icon.png が作成されます。</translation>
+    </message>
 </context>
 <context>
     <name>Editor::IdentityPage</name>
@@ -423,16 +471,8 @@
         <translation>UID(&amp;U):</translation>
     </message>
     <message>
-        <source>&amp;Version:</source>
-        <translation>バージョン(&amp;V):</translation>
-    </message>
-    <message>
         <source>&amp;Type version:</source>
         <translation>種別バージョン(&amp;T):</translation>
-    </message>
-    <message>
-        <source>&amp;Path on the robot:</source>
-        <translation>ロボット上のパス(&amp;P):</translation>
     </message>
     <message>
         <source>I&amp;nstaller:</source>
@@ -459,16 +499,67 @@
         <translation>チャンネル(&amp;C):</translation>
     </message>
     <message>
-        <source>Click, or drop a picture.</source>
-        <translation>クリックまたは画像をドロップ</translation>
-    </message>
-    <message>
         <source>Icon</source>
         <translation>アイコン</translation>
     </message>
     <message>
         <source>%1:</source>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Ve&amp;rsion:</source>
+        <translation>バージョン(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Path on the ro&amp;bot:</source>
+        <translation>ロボット上のパス(&amp;B):</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Icon…</source>
+        <translation>アイコンを選択(&amp;I)…</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguageChooser</name>
+    <message>
+        <source>Add Language</source>
+        <translation>言語を追加</translation>
+    </message>
+    <message>
+        <source>Find a language, or type a code such as pt_BR</source>
+        <translation>言語を検索するか、pt_BR のようなコードを入力</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Its own name</source>
+        <translation>その言語での名前</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Another language</source>
+        <translation>その他の言語</translation>
+    </message>
+    <message>
+        <source>No known language matches. “%1” is added as a code.</source>
+        <translation>該当する言語はありません。「%1」をコードとして追加します。</translation>
+    </message>
+    <message>
+        <source>The package supports “%1” already.</source>
+        <translation>パッケージはすでに「%1」に対応しています。</translation>
+    </message>
+    <message>
+        <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
+        <translation>該当する言語はなく、「%1」はコードではありません。コードは文字で始まり、pt_BR のように下線の後に文字や数字が続きます。</translation>
     </message>
 </context>
 <context>
@@ -512,10 +603,6 @@
 </context>
 <context>
     <name>Editor::MainWindow</name>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
     <message>
         <source>Problems</source>
         <translation>問題</translation>
@@ -581,14 +668,6 @@ Version %1</source>
         <translation>%1[*] – パッケージのプロパティ</translation>
     </message>
     <message>
-        <source>No problems</source>
-        <translation>問題なし</translation>
-    </message>
-    <message>
-        <source>Errors: %1, warnings: %2</source>
-        <translation>エラー: %1、警告: %2</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -624,6 +703,14 @@ Version %1</source>
         <source>Fix</source>
         <translation>修正</translation>
     </message>
+    <message>
+        <source>Dark &amp;Colors</source>
+        <translation>暗い配色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Package Properties</source>
+        <translation>パッケージのプロパティ</translation>
+    </message>
 </context>
 <context>
     <name>Editor::MarkLabel</name>
@@ -649,6 +736,24 @@ Version %1</source>
     <message>
         <source>Text</source>
         <translation>テキスト</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::PageStack</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ProblemCount</name>
+    <message>
+        <source>No problems</source>
+        <translation>問題はありません</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2</source>
+        <translation>エラー: %1、警告: %2</translation>
     </message>
 </context>
 <context>
@@ -683,6 +788,45 @@ Version %1</source>
     <message>
         <source>&amp;Show the field</source>
         <translation>フィールドを表示(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Publishing</name>
+    <message>
+        <source>… and %1 more</source>
+        <translation>…ほか %1 件</translation>
+    </message>
+    <message>
+        <source>Publish</source>
+        <translation>公開</translation>
+    </message>
+    <message>
+        <source>A package with malformed speech scripts cannot be published.</source>
+        <translation>形式の正しくない音声スクリプトがあるパッケージは公開できません。</translation>
+    </message>
+    <message>
+        <source>The package still has errors.</source>
+        <translation>パッケージにはまだエラーがあります。</translation>
+    </message>
+    <message>
+        <source>Publish Anyway</source>
+        <translation>それでも公開</translation>
+    </message>
+    <message>
+        <source>Publish the Manifest</source>
+        <translation>マニフェストを公開</translation>
+    </message>
+    <message>
+        <source>Manifests (*.xml);;All files (*)</source>
+        <translation>マニフェスト (*.xml);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>This is the manifest that is open.</source>
+        <translation>これは開いているマニフェストです。</translation>
+    </message>
+    <message>
+        <source>Publishing would replace it by a copy with fewer texts. Choose another file.</source>
+        <translation>公開すると、テキストの少ないコピーに置き換わります。別のファイルを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -748,6 +892,33 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::Reloading</name>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes:</source>
+        <translation>保存していないあなたの変更:</translation>
+    </message>
+    <message>
+        <source>Changes in the file:</source>
+        <translation>ファイルの変更:</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>両方を残す</translation>
+    </message>
+    <message>
+        <source>Discard Yours</source>
+        <translation>自分の変更を破棄</translation>
+    </message>
+    <message>
+        <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
+        <translation>これらの項目は両方で変更されました。あなたの値が残り、決めるまで問題として表示されます。</translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -776,6 +947,10 @@ Version %1</source>
     <message>
         <source>Highest body</source>
         <translation>ボディの最大</translation>
+    </message>
+    <message>
+        <source>Choose a robot</source>
+        <translation>ロボットを選択</translation>
     </message>
 </context>
 <context>
@@ -813,8 +988,51 @@ Version %1</source>
         <translation>Brio のバージョンを追加(&amp;B)</translation>
     </message>
     <message>
-        <source>Remo&amp;ve Brio Version</source>
-        <translation>Brio のバージョンを削除(&amp;V)</translation>
+        <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
+        <translation>ロボットがないと、パッケージはどのロボットにも提供されません。「ロボットを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
+        <translation>パッケージが動作するバージョンです。「Brio のバージョンを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Rem&amp;ove Brio Version</source>
+        <translation>Brio のバージョンを削除(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ReviewPage</name>
+    <message>
+        <source>Re&amp;view</source>
+        <translation>確認(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>What has changed since the package was saved:</source>
+        <translation>最後に保存してからの変更:</translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation>XML</translation>
+    </message>
+    <message>
+        <source>Publication</source>
+        <translation>公開</translation>
+    </message>
+    <message>
+        <source>What publishing changes in the copy for users:</source>
+        <translation>公開用のコピーで変わる内容:</translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>変更はありません。</translation>
+    </message>
+    <message>
+        <source>Nothing: all texts are plain, in languages that the package has.</source>
+        <translation>なし: すべてのテキストはプレーンで、パッケージの言語のものです。</translation>
     </message>
 </context>
 <context>
@@ -850,6 +1068,45 @@ Version %1</source>
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
     </message>
+    <message>
+        <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
+        <translation>サービスはロボットのバックグラウンドで動くプログラムです。「追加」で追加します。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::StartPage</name>
+    <message>
+        <source>%1 (the file is gone)</source>
+        <translation>%1(ファイルがありません)</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Recent packages</source>
+        <translation>最近使ったパッケージ</translation>
+    </message>
+    <message>
+        <source>The packages that you open appear here.</source>
+        <translation>開いたパッケージがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open a Manifest…</source>
+        <translation>マニフェストを開く…</translation>
+    </message>
+    <message>
+        <source>New package</source>
+        <translation>新しいパッケージ</translation>
+    </message>
 </context>
 <context>
     <name>Editor::StringListEditor</name>
@@ -880,10 +1137,6 @@ Version %1</source>
         <translation>言語とテキスト</translation>
     </message>
     <message>
-        <source>&amp;Add Language</source>
-        <translation>言語を追加(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Remove Language</source>
         <translation>言語を削除(&amp;R)</translation>
     </message>
@@ -892,24 +1145,16 @@ Version %1</source>
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>D&amp;escription:</source>
-        <translation>説明(&amp;E):</translation>
-    </message>
-    <message>
         <source>No language is selected.</source>
         <translation>言語が選択されていません。</translation>
     </message>
     <message>
-        <source>Other Language…</source>
-        <translation>その他の言語…</translation>
+        <source>&amp;Add Language…</source>
+        <translation>言語を追加(&amp;A)…</translation>
     </message>
     <message>
-        <source>Add Language</source>
-        <translation>言語を追加</translation>
-    </message>
-    <message>
-        <source>Code of the language, such as en or pt_BR:</source>
-        <translation>言語コード (en、pt_BR など):</translation>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
     </message>
 </context>
 <context>
@@ -921,6 +1166,17 @@ Version %1</source>
     <message>
         <source>Topic file</source>
         <translation>トピックファイル</translation>
+    </message>
+    <message>
+        <source>The file is beside the manifest.</source>
+        <translation>ファイルはマニフェストと同じ場所にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::XmlView</name>
+    <message>
+        <source>The manifest as XML</source>
+        <translation>XML としてのマニフェスト</translation>
     </message>
 </context>
 <context>

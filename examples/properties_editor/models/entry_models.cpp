@@ -1,6 +1,10 @@
 #include "entry_models.h"
 
 #include "document/field_edits.h"
+#include "widgets/icons.h"
+#include "widgets/marks.h"
+
+#include <packagemodel/language_name.h>
 
 #include <algorithm>
 #include <array>
@@ -55,17 +59,35 @@ int TopicsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant TopicsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog() ||
-        (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog())
         return {};
-    return index.column() == 0 ? languageInUse(key(index)).uiName()
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return index.column() == 0 ? QVariant() : fileData(index, role);
+    return index.column() == 0 ? Zel::PackageModel::languageName(languageInUse(key(index)))
                                : fieldText(package(), field(index));
+}
+
+// Whether the file exists: one that is missing is an issue.
+QVariant TopicsModel::fileData(const QModelIndex &index, int role) const {
+    if (const auto mark = Mark::ofIssue(document().issueAt(field(index))))
+        return markData(mark, role);
+    const bool exists =
+        !document().fileName().isEmpty() && !fieldText(package(), field(index)).isEmpty();
+    if (exists && role == Qt::DecorationRole)
+        return iconOf(Symbol::Check);
+    if (exists && (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole))
+        return tr("The file is beside the manifest.");
+    return {};
 }
 
 FieldPath TopicsModel::field(const QModelIndex &index) const {
     const FieldPath list = FieldPath().field("dialogs");
     const FieldPath entry = Zel::PackageModel::itemPath(package(), list, m_dialogRow);
     return entry.isEmpty() ? entry : FieldPath(entry).field("topics").key(Zel::toUtf8(key(index)));
+}
+
+void TopicsModel::setFile(int row, const QString &file) {
+    document().edit({setText(field(index(row, 1)), file)});
 }
 
 void TopicsModel::removeTopic(int row) {

@@ -33,6 +33,8 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     Tano::FieldPath field(const QModelIndex &index) const override;
+    /// Sets the topic file of a row.
+    void setFile(int row, const QString &file);
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
@@ -43,6 +45,7 @@ protected:
 
 private:
     const Zel::DialogInfoModel *dialog() const;
+    QVariant fileData(const QModelIndex &index, int role) const;
 
     int m_dialogRow = -1;
 };

@@ -4,6 +4,8 @@
 #include "widgets/marks.h"
 #include "widgets/plain_text.h"
 
+#include <packagemodel/language_name.h>
+
 #include <QLocale>
 
 namespace Editor {
@@ -66,7 +68,7 @@ FieldPath LanguagesModel::field(const QModelIndex &index) const {
 
 QVariant LanguagesModel::display(const QModelIndex &index) const {
     if (index.column() == Language)
-        return languageInUse(key(index)).uiName();
+        return Zel::PackageModel::languageName(languageInUse(key(index)));
     if (index.column() != Coverage)
         return fieldText(package(), field(index));
     const auto total = document().coverage(key(index)).total();
@@ -130,12 +132,9 @@ void LanguagesModel::add(const QString &code) {
 }
 
 void LanguagesModel::remove(const QString &code) {
-    Zel::PackageModel::Edits edits;
-    for (const Column column : {Supported, Described}) {
-        if (isIn(column, code))
-            edits.append({Edit::Action::Remove, listOf(column).key(Zel::toUtf8(code))});
-    }
-    document().edit(edits, tr("Remove language %1").arg(code));
+    const auto edits = Zel::PackageModel::languageRemoval(package(), code);
+    if (!edits.isEmpty())
+        document().edit(edits, tr("Remove language %1").arg(code));
 }
 
 Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {

@@ -27,7 +27,7 @@ public:
     static Tano::FieldPath listOf(Column column);
     /// Makes a language a supported one.
     void add(const QString &code);
-    /// Removes a language from the supported ones and from those that the package is described in.
+    /// Removes a language with all texts in it.
     void remove(const QString &code);
 
     /// "Supported languages: 10. With a name: 9. With a description: 8."

@@ -60,7 +60,9 @@ QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
     if (role != Qt::EditRole && role != Qt::DisplayRole)
         return markData(Mark::ofIssue(document().issueAt(field(index))), role);
     const QString text = fieldText(package(), field(index));
-    return role == Qt::DisplayRole && isModelColumn(index) ? robots().value(text, text) : text;
+    if (role != Qt::DisplayRole || !isModelColumn(index))
+        return text;
+    return text.isEmpty() ? tr("Choose a robot") : robots().value(text, text);
 }
 
 bool RequirementsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
@@ -80,8 +82,11 @@ QVector<QPair<QString, QString>> RequirementsModel::choices(const QModelIndex &i
     QVector<QPair<QString, QString>> choices;
     if (!isModelColumn(index))
         return choices;
-    for (auto robot = robots().begin(); robot != robots().end(); ++robot)
-        choices.append({robot.key(), robot.value()});
+    // A requirement without a model is an error.
+    for (auto robot = robots().begin(); robot != robots().end(); ++robot) {
+        if (!robot.key().isEmpty())
+            choices.append({robot.key(), robot.value()});
+    }
     const QString current = index.data(Qt::EditRole).toString();
     if (!robots().contains(current))
         choices.append({current, current});

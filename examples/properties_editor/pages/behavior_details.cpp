@@ -2,12 +2,14 @@
 
 #include "document/field_edits.h"
 #include "models/languages_model.h"
+#include "widgets/empty_hint.h"
 #include "widgets/marks.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QListView>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -25,19 +27,31 @@ struct ListTab {
     const char *field;
     const char *title;
     const char *placeholder;
+    const char *purpose; // shown while the list is empty
 };
 
 constexpr std::array listTabs{
     ListTab{"triggerSentences", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Trigger sentences"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A sentence that starts the behavior")},
-    ListTab{"loadingResponses", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Responses"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "What the robot says while it loads")},
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A sentence that starts the behavior"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What people say to start the behavior. Type a sentence below.")},
+    ListTab{
+        "loadingResponses", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Responses"),
+        QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "What the robot says while it loads"),
+        QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                          "What the robot says until the behavior starts. Type a sentence below.")},
     ListTab{"tags", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Tags"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new tag")},
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new tag"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "Words that group behaviors. Type a tag below.")},
     ListTab{"conditions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Conditions"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new condition for this purpose")},
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new condition for this purpose"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What has to hold for the behavior to run. Type a condition below.")},
     ListTab{"permissions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Permissions"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new permission")},
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new permission"),
+            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
+                              "What the behavior uses of the robot. Type a permission below.")},
 };
 
 enum Tab { Texts, Sentences, Responses, Tags, Conditions, Permissions };
@@ -53,21 +67,21 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     : QWidget(parent)
     , m_document(document)
     , m_nature(new QComboBox(this))
-    , m_userRequestable(new QCheckBox(tr("A &user may ask for it"), this))
+    , m_userRequestable(new QCheckBox(tr("A user may as&k for it"), this))
     , m_languages(new LanguagesModel(document, this))
     , m_language(new QComboBox(this))
     , m_tabs(new QTabWidget(this))
     , m_purpose(new QComboBox(this)) {
     auto *form = new QFormLayout;
     m_fields.append(addTextRow(
-        form, tr("&Path:"), document,
+        form, tr("Pa&th:"), document,
         {[this] { return field("path"); }, refuseEmpty(tr("A behavior needs a path."))}));
     m_nature->addItem(tr("None"), BehaviorInfoModel::natureNone());
     m_nature->addItem(tr("Interactive: it reacts to people"),
                       BehaviorInfoModel::natureInteractive());
     m_nature->addItem(tr("Solitary: the robot runs it on its own"),
                       BehaviorInfoModel::natureSolitary());
-    form->addRow(tr("Na&ture:"), m_nature);
+    form->addRow(tr("Nat&ure:"), m_nature);
     form->addRow(QString(), m_userRequestable);
     connect(m_nature, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString nature = m_nature->itemData(index).toString();
@@ -92,8 +106,10 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
 
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(newTextsTab(), tr("Texts"));
-    for (const ListTab &tab : listTabs)
+    for (const ListTab &tab : listTabs) {
         m_lists.append(addListTab(tab.field, tr(tab.title), tr(tab.placeholder)));
+        explainWhenEmpty(m_lists.last()->view(), tr(tab.purpose));
+    }
     list(Permissions)
         ->setSuggestions({QStringLiteral("camera"), QStringLiteral("microphone"),
                           QStringLiteral("motion"), QStringLiteral("speech")});
@@ -119,7 +135,7 @@ QWidget *BehaviorDetails::newTextsTab() {
         addTextRow(form, tr("&Name:"), m_document, {[this] { return textField("names"); }}));
     m_fields.append(new TextField(new QPlainTextEdit(tab), m_document,
                                   {[this] { return textField("descriptions"); }}));
-    addFieldRow(form, tr("D&escription:"), m_fields.last());
+    addFieldRow(form, tr("&Description:"), m_fields.last());
     return tab;
 }
 
@@ -138,7 +154,7 @@ QHBoxLayout *BehaviorDetails::newPurposeRow() {
     m_purpose->setEditable(true);
     m_purpose->setInsertPolicy(QComboBox::NoInsert);
     connect(m_purpose, &QComboBox::currentTextChanged, this, &BehaviorDetails::changePurpose);
-    auto *label = new QLabel(tr("P&urpose:"), this);
+    auto *label = new QLabel(tr("Purp&ose:"), this);
     label->setBuddy(m_purpose);
     auto *row = new QHBoxLayout;
     row->addWidget(label);
@@ -244,6 +260,10 @@ void BehaviorDetails::refresh() {
 
     const auto severity = m_document.behaviorSeverity(path());
     m_tabs->setTabIcon(Sentences, severity ? severityIcon(*severity) : QIcon());
+}
+
+void BehaviorDetails::startTypingPath() {
+    startTyping(m_fields.first()->widget());
 }
 
 void BehaviorDetails::showField(const FieldPath &path) {

@@ -25,6 +25,8 @@ public:
 
     /// Shows a behavior; none for a null pointer.
     void setBehavior(Zel::BehaviorInfoModel *behavior);
+    /// Puts the focus on the path of a new behavior, which typing replaces.
+    void startTypingPath();
     /// Shows what is at a path of the behavior that is shown, and gives the focus to all but text
     /// fields.
     void showField(const Tano::FieldPath &path);

@@ -4,7 +4,8 @@
 #include "document/field_edits.h"
 #include "models/behaviors_model.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/empty_hint.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHBoxLayout>
@@ -22,8 +23,7 @@ using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 
 BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Behaviors"),
-           platformIcon(QStringLiteral("system-run"), QStyle::SP_MediaPlay), parent)
+    : Page(document, tr("&Behaviors"), iconOf(Symbol::Behaviors), parent)
     , m_model(new BehaviorsModel(document, this))
     , m_filtered(new QSortFilterProxyModel(this))
     , m_filter(new QLineEdit(this))
@@ -41,6 +41,8 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
 
     m_view->setModel(m_filtered);
     setUpTable(m_view, document, tr("Behaviors"));
+    explainWhenEmpty(m_view, tr("A behavior is something that the robot does. “Add” adds one; the "
+                                "search above may hide some."));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true); // or every row would be measured
     m_view->header()->setMinimumSectionSize(40);
@@ -51,6 +53,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     m_remove = newListButton(tr("&Remove"), false, this);
     connect(add, &QPushButton::clicked, this, &BehaviorsPage::add);
     connect(m_remove, &QPushButton::clicked, this, &BehaviorsPage::remove);
+    removeWithDelete(m_view, m_remove);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -115,6 +118,7 @@ void BehaviorsPage::add() {
     behavior.setPath(Zel::toUtf8(path));
     document().edit({appended(FieldPath().field("behaviors"), behavior)});
     select(package()->behavior(path));
+    m_details->startTypingPath();
 }
 
 void BehaviorsPage::remove() {

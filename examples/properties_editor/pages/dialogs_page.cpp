@@ -2,9 +2,13 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/empty_hint.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QListView>
@@ -19,9 +23,7 @@ using Tano::FieldPath;
 using Zel::DialogInfoModel;
 
 DialogsPage::DialogsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Dialogs"),
-           platformIcon(QStringLiteral("dialog-messages"), QStyle::SP_MessageBoxInformation),
-           parent)
+    : Page(document, tr("&Dialogs"), iconOf(Symbol::Dialogs), parent)
     , m_dialogs(new DialogsModel(document, this))
     , m_topics(new TopicsModel(document, this))
     , m_list(new QListView(this))
@@ -46,8 +48,11 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
 QWidget *DialogsPage::newList() {
     m_list->setModel(m_dialogs);
     setUpTable(m_list, document(), tr("Dialogs"));
+    explainWhenEmpty(m_list, tr("A dialog is a topic that the robot can talk about, with a file "
+                                "for each language. “Add” adds one."));
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
+    removeWithDelete(m_list, m_remove);
     connect(add, &QPushButton::clicked, this, &DialogsPage::add);
     connect(m_remove, &QPushButton::clicked, this, [this] {
         if (current())
@@ -72,7 +77,7 @@ QWidget *DialogsPage::newDetails() {
     m_name = addTextRow(
         form, tr("&Topic:"), document(),
         {[this] { return field("topicName"); }, refuseEmpty(tr("A dialog needs a topic name."))});
-    m_typeVersion = addTextRow(form, tr("Type &version:"), document(),
+    m_typeVersion = addTextRow(form, tr("Type vers&ion:"), document(),
                                {[this] { return field("typeVersion"); }});
 
     m_table->setModel(m_topics);
@@ -80,10 +85,17 @@ QWidget *DialogsPage::newDetails() {
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_removeTopic = newListButton(tr("Remove &File"), false, this);
+    m_removeTopic = newListButton(tr("Remove Fi&le"), false, this);
+    removeWithDelete(m_table, m_removeTopic);
     connect(m_removeTopic, &QPushButton::clicked, this,
             [this] { m_topics->removeTopic(m_table->currentIndex().row()); });
+    m_chooseTopic = new QPushButton(iconOf(Symbol::Open), tr("&Choose File…"), this);
+    m_chooseTopic->setAutoDefault(false);
+    connect(m_chooseTopic, &QPushButton::clicked, this, &DialogsPage::chooseTopic);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &DialogsPage::refresh);
     auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_chooseTopic);
     buttons->addWidget(m_removeTopic);
     buttons->addStretch();
 
@@ -95,6 +107,14 @@ QWidget *DialogsPage::newDetails() {
     layout->addWidget(m_table);
     layout->addLayout(buttons);
     return m_details;
+}
+
+void DialogsPage::chooseTopic() {
+    const QDir folder = QFileInfo(document().fileName()).absoluteDir();
+    const QString file = QFileDialog::getOpenFileName(this, tr("Choose a Topic File"),
+                                                      folder.path(), tr("All files (*)"));
+    if (!file.isEmpty())
+        m_topics->setFile(m_table->currentIndex().row(), folder.relativeFilePath(file));
 }
 
 DialogInfoModel *DialogsPage::current() const {
@@ -119,6 +139,9 @@ void DialogsPage::showCurrent() {
 void DialogsPage::refresh() {
     m_details->setEnabled(current() != nullptr);
     m_remove->setEnabled(current() != nullptr);
+    const bool isTopic = m_table->currentIndex().isValid();
+    m_removeTopic->setEnabled(isTopic);
+    m_chooseTopic->setEnabled(isTopic && !document().fileName().isEmpty());
 }
 
 void DialogsPage::add() {
@@ -129,6 +152,7 @@ void DialogsPage::add() {
     dialog.setTopicName(Zel::toUtf8(name));
     document().edit({appended(FieldPath().field("dialogs"), dialog)});
     m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
+    startTyping(m_name->widget());
 }
 
 bool DialogsPage::showField(const FieldPath &path) {

@@ -22,6 +22,7 @@ private:
     QWidget *newList();
     QWidget *newDetails();
     void add();
+    void chooseTopic();
     void showCurrent();
     void refresh();
     Zel::DialogInfoModel *current() const;
@@ -34,6 +35,7 @@ private:
     QTableView *m_table;
     QPushButton *m_remove = nullptr;
     QPushButton *m_removeTopic = nullptr;
+    QPushButton *m_chooseTopic = nullptr;
     QWidget *m_details = nullptr;
     TextField *m_name = nullptr;
     TextField *m_typeVersion = nullptr;

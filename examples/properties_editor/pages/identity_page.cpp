@@ -1,11 +1,12 @@
 #include "identity_page.h"
 
+#include "widgets/hint_label.h"
 #include "widgets/icon_button.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace Editor {
@@ -13,17 +14,16 @@ namespace Editor {
 using Tano::FieldPath;
 
 IdentityPage::IdentityPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Identity"),
-           platformIcon(QStringLiteral("user-identity"), QStyle::SP_FileIcon), parent) {
+    : Page(document, tr("&Identity"), iconOf(Symbol::Identity), parent) {
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(12);
     form->setVerticalSpacing(8);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(newHeading(tr("Package"), this));
     addText(form, tr("&UID:"), QStringLiteral("my-app"), "uid");
-    addText(form, tr("&Version:"), QStringLiteral("1.0.0"), "version");
+    addText(form, tr("Ve&rsion:"), QStringLiteral("1.0.0"), "version");
     addText(form, tr("&Type version:"), {}, "typeVersion");
-    addText(form, tr("&Path on the robot:"), {}, "path");
+    addText(form, tr("Path on the ro&bot:"), {}, "path");
     addText(form, tr("I&nstaller:"), {}, "installer");
     form->addItem(new QSpacerItem(0, 12));
     form->addRow(newHeading(tr("Publisher"), this));
@@ -34,13 +34,19 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     addOthers(form);
 
     auto *icon = new IconButton(document, this);
-    auto *hint = new QLabel(tr("Click, or drop a picture."), this);
-    hint->setAlignment(Qt::AlignHCenter);
-    hint->setForegroundRole(QPalette::PlaceholderText);
+    auto *choose = new QPushButton(iconOf(Symbol::Open), tr("Choose &Icon…"), this);
+    choose->setAutoDefault(false);
+    connect(choose, &QPushButton::clicked, icon, &IconButton::choose);
+    auto *hint = new HintLabel(icon->fileState(), this);
+    hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    hint->setWordWrap(true);
+    hint->setMinimumHeight(3 * hint->fontMetrics().lineSpacing());
+    connect(icon, &IconButton::refreshed, hint, [icon, hint] { hint->setText(icon->fileState()); });
     auto *iconLayout = new QVBoxLayout;
     iconLayout->setSpacing(8);
     iconLayout->addWidget(newHeading(tr("Icon"), this), 0, Qt::AlignHCenter);
     iconLayout->addWidget(icon, 0, Qt::AlignHCenter);
+    iconLayout->addWidget(choose, 0, Qt::AlignHCenter);
     iconLayout->addWidget(hint);
     iconLayout->addStretch();
 

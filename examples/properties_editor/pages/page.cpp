@@ -1,10 +1,13 @@
 #include "page.h"
 
 #include "widgets/field_note.h"
+#include "widgets/icons.h"
 
+#include <QAbstractItemView>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -49,12 +52,21 @@ TextField *addTextRow(QFormLayout *form, const QString &label, Document &documen
 }
 
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent) {
-    // The styles have no icons for these.
-    const QIcon icon =
-        QIcon::fromTheme(isAddition ? QStringLiteral("list-add") : QStringLiteral("list-remove"));
-    auto *button = new QPushButton(icon, text, parent);
+    auto *button = new QPushButton(iconOf(isAddition ? Symbol::Add : Symbol::Remove), text, parent);
     button->setAutoDefault(false);
     return button;
+}
+
+void removeWithDelete(QAbstractItemView *view, QAbstractButton *removal) {
+    auto *shortcut = new QShortcut(Qt::Key_Delete, view);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, removal, &QAbstractButton::click);
+}
+
+void startTyping(QWidget *line) {
+    line->setFocus(Qt::OtherFocusReason);
+    if (auto *edit = qobject_cast<QLineEdit *>(line))
+        edit->selectAll();
 }
 
 QWidget *newHeading(const QString &text, QWidget *parent) {

@@ -6,6 +6,8 @@
 #include <QIcon>
 #include <QWidget>
 
+class QAbstractButton;
+class QAbstractItemView;
 class QFormLayout;
 class QPushButton;
 
@@ -47,6 +49,12 @@ TextField *addTextRow(QFormLayout *form, const QString &label, Document &documen
 
 /// A button of a list: an icon, and a text that says what it does.
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent);
+
+/// Lets the Delete key press a button in a list, but not in the editor of one of its cells.
+void removeWithDelete(QAbstractItemView *view, QAbstractButton *removal);
+
+/// Gives a line the focus with its text selected, so that typing replaces it.
+void startTyping(QWidget *line);
 
 /// A line of text above a group of fields.
 QWidget *newHeading(const QString &text, QWidget *parent);

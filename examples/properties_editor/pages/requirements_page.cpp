@@ -1,11 +1,13 @@
 #include "requirements_page.h"
 
 #include "document/field_edits.h"
+#include "widgets/empty_hint.h"
+#include "widgets/hint_label.h"
+#include "widgets/icons.h"
 #include "widgets/marks.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -15,21 +17,21 @@
 namespace Editor {
 
 RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Requirements"),
-           platformIcon(QStringLiteral("preferences-devices-cpu"), QStyle::SP_ComputerIcon),
-           parent) {
+    : Page(document, tr("&Requirements"), iconOf(Symbol::Requirements), parent) {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 16);
     m_robot = addPart(layout, RequirementsModel::Kind::Robot,
                       {tr("Robots"),
                        tr("The package is offered to robots that meet one of these. An empty "
                           "version is a bound that is not set."),
+                       tr("Without a robot, the package is offered to none. “Add Robot” adds one."),
                        tr("Add &Robot"), tr("Re&move Robot")});
     layout->addSpacing(12);
     m_brio = addPart(layout, RequirementsModel::Kind::Brio,
                      {tr("Brio middleware"),
                       tr("The versions that the package was tried on; the lowest is needed."),
-                      tr("Add &Brio Version"), tr("Remo&ve Brio Version")});
+                      tr("The versions that the package runs on. “Add Brio Version” adds one."),
+                      tr("Add &Brio Version"), tr("Rem&ove Brio Version")});
     layout->setStretchFactor(m_robot.table, 3);
     layout->setStretchFactor(m_brio.table, 2);
 }
@@ -40,13 +42,13 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     auto *table = new QTableView(this);
     table->setModel(model);
     setUpTable(table, document(), texts.heading);
+    explainWhenEmpty(table, texts.emptiness);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);
 
-    auto *hint = new QLabel(texts.hint, this);
+    auto *hint = new HintLabel(texts.hint, this);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    hint->setForegroundRole(QPalette::PlaceholderText);
     auto *mark = new MarkLabel(
         document(), [model] { return model->list(); }, this);
 
@@ -56,10 +58,12 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
         const QModelIndex cell = model->index(model->rowCount() - 1, 0);
         table->setFocus();
         table->setCurrentIndex(cell);
+        table->edit(cell);
     });
     auto *remove = newListButton(texts.removal, false, this);
     connect(remove, &QPushButton::clicked, model,
             [model, table] { model->remove(table->currentIndex().row()); });
+    removeWithDelete(table, remove);
     const auto refresh = [remove, table] { remove->setEnabled(table->currentIndex().isValid()); };
     connect(table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
     connect(&document(), &Document::edited, remove, refresh);

@@ -22,7 +22,7 @@ private:
         QTableView *table;
     };
     struct Texts {
-        QString heading, hint, addition, removal;
+        QString heading, hint, emptiness, addition, removal;
     };
     Part addPart(QVBoxLayout *layout, RequirementsModel::Kind kind, const Texts &texts);
 

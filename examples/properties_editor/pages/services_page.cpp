@@ -2,7 +2,8 @@
 
 #include "document/field_edits.h"
 #include "models/entry_models.h"
-#include "widgets/marks.h"
+#include "widgets/empty_hint.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
@@ -15,12 +16,14 @@ namespace Editor {
 using Tano::FieldPath;
 
 ServicesPage::ServicesPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Services"),
-           platformIcon(QStringLiteral("services"), QStyle::SP_DriveNetIcon), parent)
+    : Page(document, tr("&Services"), iconOf(Symbol::Services), parent)
     , m_model(new ServicesModel(document, this))
     , m_table(new QTableView(this)) {
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Services"));
+    explainWhenEmpty(
+        m_table,
+        tr("A service is a program that runs in the background on the robot. “Add” adds one."));
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(ServicesModel::Name, QHeaderView::Interactive);
@@ -30,6 +33,7 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
 
     auto *add = newListButton(tr("&Add"), true, this);
     auto *remove = newListButton(tr("&Remove"), false, this);
+    removeWithDelete(m_table, remove);
     connect(add, &QPushButton::clicked, this, &ServicesPage::add);
     connect(remove, &QPushButton::clicked, this, [this] {
         if (const int row = m_table->currentIndex().row(); row >= 0)
@@ -57,7 +61,10 @@ void ServicesPage::add() {
     Tano::PackageService service;
     service.name = Zel::toUtf8(name);
     document().edit({appended(FieldPath().field("services"), service)});
-    m_table->setCurrentIndex(m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
+    const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
+    m_table->setFocus();
+    m_table->setCurrentIndex(cell);
+    m_table->edit(cell);
 }
 
 bool ServicesPage::showField(const FieldPath &path) {

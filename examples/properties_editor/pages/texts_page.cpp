@@ -1,18 +1,19 @@
 #include "texts_page.h"
 
 #include "document/field_edits.h"
+#include "language_chooser.h"
 #include "models/languages_model.h"
 #include "widgets/coverage_delegate.h"
-#include "widgets/marks.h"
+#include "widgets/hint_label.h"
+#include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
+
+#include <packagemodel/language_name.h>
 
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -23,16 +24,13 @@ using Tano::FieldPath;
 using Zel::RobotLanguage;
 
 TextsPage::TextsPage(Document &document, QWidget *parent)
-    : Page(document, tr("&Languages"),
-           platformIcon(QStringLiteral("set-language"), QStyle::SP_FileDialogListView), parent)
+    : Page(document, tr("&Languages"), iconOf(Symbol::Languages), parent)
     , m_model(new LanguagesModel(document, this))
     , m_table(new QTableView(this))
-    , m_summary(new QLabel(this))
-    , m_languageMenu(new QMenu(this))
+    , m_summary(new HintLabel({}, this))
     , m_details(new QWidget(this))
     , m_detailsTitle(new QLabel(m_details)) {
-    for (QLabel *label : {m_summary, m_detailsTitle})
-        label->setTextFormat(Qt::PlainText);
+    m_detailsTitle->setTextFormat(Qt::PlainText);
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Languages and texts"));
     m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));
@@ -46,10 +44,10 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     header->setSectionResizeMode(LanguagesModel::Coverage, QHeaderView::Interactive);
     header->resizeSection(LanguagesModel::Coverage, 110);
 
-    auto *add = newListButton(tr("&Add Language"), true, this);
-    add->setMenu(m_languageMenu);
-    connect(m_languageMenu, &QMenu::aboutToShow, this, &TextsPage::fillLanguageMenu);
+    auto *add = newListButton(tr("&Add Language…"), true, this);
+    connect(add, &QPushButton::clicked, this, &TextsPage::chooseLanguage);
     m_remove = newListButton(tr("&Remove Language"), false, this);
+    removeWithDelete(m_table, m_remove);
     connect(m_remove, &QPushButton::clicked, this,
             [this] { m_model->remove(current().isoCode()); });
     auto *buttons = new QHBoxLayout;
@@ -57,7 +55,6 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     buttons->addWidget(m_remove);
     buttons->addStretch();
     m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_summary->setForegroundRole(QPalette::PlaceholderText);
 
     auto *tablePart = new QWidget(this);
     auto *tableLayout = new QVBoxLayout(tablePart);
@@ -81,7 +78,7 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     auto *description = new QPlainTextEdit(m_details);
     description->setMinimumHeight(description->fontMetrics().lineSpacing() * 3 + 14);
     m_description = new TextField(description, document, binding("descriptions"));
-    addFieldRow(form, tr("D&escription:"), m_description);
+    addFieldRow(form, tr("&Description:"), m_description);
 
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
@@ -118,38 +115,26 @@ void TextsPage::refresh() {
     const RobotLanguage language = current();
     const bool isShown = !language.isoCode().isEmpty();
     m_details->setEnabled(isShown);
-    m_detailsTitle->setText(isShown ? language.uiName() : tr("No language is selected."));
-    m_remove->setEnabled(isShown && (package()->hasLanguageSupport(language) ||
-                                     package()->hasLanguageDescription(language)));
+    m_detailsTitle->setText(isShown ? Zel::PackageModel::languageName(language)
+                                    : tr("No language is selected."));
+    m_remove->setEnabled(isShown);
     m_summary->setText(m_model->summary());
 }
 
-void TextsPage::fillLanguageMenu() {
-    m_languageMenu->clear();
-    for (const RobotLanguage &language : Zel::Language::knownLanguages()) {
-        if (package()->hasLanguageSupport(language))
-            continue;
-        const QString code = language.isoCode();
-        m_languageMenu->addAction(language.uiName(), this, [this, code] { addLanguage(code); });
-    }
-    m_languageMenu->addSeparator();
-    m_languageMenu->addAction(tr("Other Language…"), this, &TextsPage::addOtherLanguage);
-}
-
-void TextsPage::addOtherLanguage() {
-    const QString code = QInputDialog::getText(this, tr("Add Language"),
-                                               tr("Code of the language, such as en or pt_BR:"))
-                             .trimmed();
-    static const QRegularExpression form(
-        QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9]+([_-][A-Za-z0-9]+)*")));
-    if (form.match(code).hasMatch())
-        addLanguage(code);
+void TextsPage::chooseLanguage() {
+    QSet<QString> present;
+    for (const RobotLanguage &language : package()->supportedLanguages())
+        present.insert(language.isoCode());
+    LanguageChooser chooser(present, this);
+    if (chooser.exec() == QDialog::Accepted)
+        addLanguage(chooser.code());
 }
 
 void TextsPage::addLanguage(const QString &code) {
     m_model->add(code);
     m_table->setCurrentIndex(
         m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
+    startTyping(m_name->widget());
 }
 
 bool TextsPage::showField(const FieldPath &path) {

@@ -3,7 +3,6 @@
 #include "page.h"
 
 class QLabel;
-class QMenu;
 class QTableView;
 
 namespace Editor {
@@ -19,9 +18,8 @@ public:
     bool showField(const Tano::FieldPath &path) override;
 
 private:
-    void fillLanguageMenu();
+    void chooseLanguage();
     void addLanguage(const QString &code);
-    void addOtherLanguage();
     void showCurrent();
     void refresh();
     Zel::RobotLanguage current() const;
@@ -29,7 +27,6 @@ private:
     LanguagesModel *m_model;
     QTableView *m_table;
     QLabel *m_summary;
-    QMenu *m_languageMenu;
     QPushButton *m_remove;
     QWidget *m_details;
     QLabel *m_detailsTitle;

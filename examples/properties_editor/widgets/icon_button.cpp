@@ -5,12 +5,14 @@
 
 #include <packagemodel/set_command.h>
 
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QMenu>
 #include <QMimeData>
+#include <QMimeDatabase>
 
 namespace Editor {
 namespace {
@@ -19,13 +21,17 @@ namespace {
 QString pictureOf(const QMimeData *data) {
     const auto urls = data->urls();
     for (const QUrl &url : urls) {
-        if (url.isLocalFile() && !QImageReader::imageFormat(url.toLocalFile()).isEmpty())
+        if (url.isLocalFile() && isPicture(url.toLocalFile()))
             return url.toLocalFile();
     }
     return {};
 }
 
 } // namespace
+
+bool isPicture(const QString &fileName) {
+    return QMimeDatabase().mimeTypeForFile(fileName).name().startsWith(QLatin1String("image/"));
+}
 
 IconButton::IconButton(Document &document, QWidget *parent)
     : QToolButton(parent)
@@ -41,12 +47,23 @@ IconButton::IconButton(Document &document, QWidget *parent)
     addAction(removal);
     connect(this, &QToolButton::clicked, this, &IconButton::choose);
     connect(&document, &Document::edited, this, &IconButton::refresh);
+    connect(&document, &Document::fileNameChanged, this, &IconButton::refresh);
     refresh();
 }
 
 void IconButton::refresh() {
     const QIcon icon = m_document.package()->icon();
     setIcon(icon.isNull() ? Zel::PackageInfoModel::defaultIcon() : icon);
+    Q_EMIT refreshed();
+}
+
+QString IconButton::fileState() const {
+    if (m_document.package()->icon().isNull())
+        return tr("Robots show the default icon.");
+    const QDir folder = QFileInfo(m_document.fileName()).absoluteDir();
+    return !m_document.fileName().isEmpty() && folder.exists(QStringLiteral("icon.png"))
+               ? tr("The file icon.png is beside the manifest.")
+               : tr("Saving writes the file icon.png beside the manifest.");
 }
 
 void IconButton::choose() {

@@ -6,6 +6,9 @@ namespace Editor {
 
 class Document;
 
+/// Whether a file is an image, by its name and content.
+bool isPicture(const QString &fileName);
+
 /// The package's icon: a click chooses another file, a picture that is dropped becomes the icon.
 class IconButton : public QToolButton {
     Q_OBJECT
@@ -15,13 +18,19 @@ public:
 
     /// Makes the picture in a file the icon; says so when it holds none.
     void setIconFromFile(const QString &fileName);
+    /// Asks for a file.
+    void choose();
+    /// Whether the icon has a file beside the manifest.
+    QString fileState() const;
+
+Q_SIGNALS:
+    void refreshed();
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
-    void choose();
     void refresh();
     void setIconOf(const QPixmap &pixmap);
 

@@ -1,12 +1,17 @@
 #include "marks.h"
 
 #include "document/document.h"
+#include "icons.h"
 #include "plain_text.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace Editor {
 namespace {
@@ -16,10 +21,45 @@ using Zel::PackageModel::Severity;
 
 const QString actionName = QStringLiteral("mark");
 
-QColor mixed(const QColor &a, const QColor &b, double share) {
-    const auto mix = [share](int from, int to) { return int(from + (to - from) * share); };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
-}
+// Keeps the tint of a field, which it belongs to.
+class Tint : public QObject {
+public:
+    explicit Tint(QWidget *field)
+        : QObject(field)
+        , m_field(field) {
+        field->installEventFilter(this);
+    }
+
+    static void set(QWidget *field, const std::optional<Severity> &severity) {
+        const auto &children = field->children();
+        const auto found = std::find_if(children.begin(), children.end(), [](QObject *child) {
+            return dynamic_cast<Tint *>(child) != nullptr;
+        });
+        if (found == children.end() && !severity)
+            return;
+        auto *tint = found == children.end() ? new Tint(field) : static_cast<Tint *>(*found);
+        tint->m_severity = severity;
+        tint->apply();
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::PaletteChange && m_severity &&
+            m_field->palette().color(QPalette::Base) != severityColor(*m_severity))
+            apply();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void apply() {
+        QPalette palette;
+        if (m_severity)
+            palette.setColor(QPalette::Base, severityColor(*m_severity));
+        m_field->setPalette(palette);
+    }
+
+    QWidget *m_field;
+    std::optional<Severity> m_severity;
+};
 
 // The icon at the end of a line edit.
 void showIcon(QLineEdit *edit, const std::optional<Mark> &mark) {
@@ -50,20 +90,15 @@ std::optional<Mark> Mark::ofRefusal(const QString &sentence) {
     return Mark{Severity::Error, sentence};
 }
 
-QIcon platformIcon(const QString &name, QStyle::StandardPixmap fallback) {
-    return QIcon::fromTheme(name, QApplication::style()->standardIcon(fallback));
+QColor mixed(const QColor &a, const QColor &b, double share) {
+    const auto mix = [share](int from, int to) { return int(from + (to - from) * share); };
+    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
 QIcon severityIcon(Severity severity) {
-    switch (severity) {
-    case Severity::Note:
-        return platformIcon(QStringLiteral("dialog-information"), QStyle::SP_MessageBoxInformation);
-    case Severity::Warning:
-        return platformIcon(QStringLiteral("dialog-warning"), QStyle::SP_MessageBoxWarning);
-    case Severity::Error:
-        break;
-    }
-    return platformIcon(QStringLiteral("dialog-error"), QStyle::SP_MessageBoxCritical);
+    return iconOf(severity == Severity::Error     ? Symbol::Error
+                  : severity == Severity::Warning ? Symbol::Warning
+                                                  : Symbol::Note);
 }
 
 QString severityName(Severity severity) {
@@ -83,10 +118,7 @@ QColor severityColor(Severity severity) {
 void markField(QWidget *field, const std::optional<Mark> &mark) {
     field->setToolTip(mark ? toolTipOf(mark->text) : QString());
     field->setAccessibleDescription(mark ? mark->text : QString());
-    QPalette palette;
-    if (mark)
-        palette.setColor(QPalette::Base, severityColor(mark->severity));
-    field->setPalette(palette);
+    Tint::set(field, mark ? std::make_optional(mark->severity) : std::nullopt);
     if (auto *edit = qobject_cast<QLineEdit *>(field))
         showIcon(edit, mark);
 }
@@ -123,6 +155,12 @@ MarkLabel::MarkLabel(Document &document, std::function<Tano::FieldPath()> path, 
     connect(&document, &Document::issuesChanged, this, &MarkLabel::refresh);
     connect(&document, &Document::edited, this, &MarkLabel::refresh);
     refresh();
+}
+
+void MarkLabel::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refresh();
 }
 
 void MarkLabel::refresh() {

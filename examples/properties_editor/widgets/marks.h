@@ -6,7 +6,6 @@
 
 #include <QIcon>
 #include <QLabel>
-#include <QStyle>
 #include <QVariant>
 
 #include <functional>
@@ -26,16 +25,16 @@ struct Mark {
     static std::optional<Mark> ofRefusal(const QString &sentence);
 };
 
-/// The icon of the platform's theme, or the style's own where the theme has none.
-QIcon platformIcon(const QString &name, QStyle::StandardPixmap fallback);
+/// The color between two, `share` of the way from `a` to `b`.
+QColor mixed(const QColor &a, const QColor &b, double share);
 QIcon severityIcon(Zel::PackageModel::Severity severity);
 /// "Error" or "Warning".
 QString severityName(Zel::PackageModel::Severity severity);
 /// The background of a field at fault, in light and in dark.
 QColor severityColor(Zel::PackageModel::Severity severity);
 
-/// Tints a field, and tells the text as its tool tip and to assistive tools; without a mark it
-/// looks as ever.
+/// Tints a field, and shows the text as its tool tip and to assistive tools; without a mark it
+/// looks as usual. The tint follows the palette.
 void markField(QWidget *field, const std::optional<Mark> &mark);
 /// How a cell of an item model shows a mark; invalid for roles that it does not concern.
 QVariant markData(const std::optional<Mark> &mark, int role);
@@ -48,6 +47,9 @@ public:
     /// Shows the issue of the field whose path `path` returns.
     MarkLabel(Document &document, std::function<Tano::FieldPath()> path, QWidget *parent = nullptr);
     void refresh();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     Document &m_document;

@@ -2,6 +2,7 @@
 
 #include "marks.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -15,9 +16,7 @@ MessageBar::MessageBar(QWidget *parent)
     , m_dismissal(new QPushButton(this)) {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    QPalette palette;
-    palette.setColor(QPalette::Window, severityColor(Zel::PackageModel::Severity::Warning));
-    setPalette(palette);
+    refreshColor();
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     auto *layout = new QHBoxLayout(this);
@@ -31,6 +30,21 @@ MessageBar::MessageBar(QWidget *parent)
         Q_EMIT accepted();
     });
     hide();
+}
+
+void MessageBar::changeEvent(QEvent *event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refreshColor();
+}
+
+void MessageBar::refreshColor() {
+    const QColor color = severityColor(Zel::PackageModel::Severity::Warning);
+    if (palette().color(QPalette::Window) == color)
+        return;
+    QPalette palette;
+    palette.setColor(QPalette::Window, color);
+    setPalette(palette);
 }
 
 void MessageBar::tell(const QString &text, const QString &action, const QString &dismissal) {

@@ -7,7 +7,7 @@ class QPushButton;
 
 namespace Editor {
 
-/// A line at the top of the window that tells something and offers an answer, and is hidden
+/// A line at the top of the window that shows a message and offers an answer, and is hidden
 /// otherwise.
 class MessageBar : public QFrame {
     Q_OBJECT
@@ -15,13 +15,18 @@ class MessageBar : public QFrame {
 public:
     explicit MessageBar(QWidget *parent = nullptr);
 
-    /// Tells `text`; without the text of an action there is only the button that dismisses it.
+    /// Shows `text`; without the text of an action there is only the button that dismisses it.
     void tell(const QString &text, const QString &action, const QString &dismissal);
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 Q_SIGNALS:
     void accepted();
 
 private:
+    void refreshColor();
+
     QLabel *m_text;
     QPushButton *m_action;
     QPushButton *m_dismissal;

@@ -1,12 +1,8 @@
 #include "roomy_style.h"
 
-#include <QApplication>
+#include "icons.h"
 
 namespace Editor {
-
-void RoomyStyle::use(RoomyStyle *style) {
-    QApplication::setStyle(style);
-}
 
 int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const {
@@ -21,12 +17,29 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     }
 }
 
-void RoomyStyle::polish(QPalette &palette) {
-    QProxyStyle::polish(palette);
-    // Qt 5 has the color of placeholders without a brush, which draws labels in it invisible.
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        palette.setColor(group, QPalette::PlaceholderText,
-                         palette.color(group, QPalette::PlaceholderText));
+int RoomyStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                          QStyleHintReturn *returnData) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+QIcon RoomyStyle::standardIcon(StandardPixmap pixmap, const QStyleOption *option,
+                               const QWidget *widget) const {
+    switch (pixmap) {
+    case SP_MessageBoxCritical:
+        return iconOf(Symbol::Error);
+    case SP_MessageBoxWarning:
+        return iconOf(Symbol::Warning);
+    case SP_MessageBoxInformation:
+        return iconOf(Symbol::Note);
+    case SP_MessageBoxQuestion:
+        return iconOf(Symbol::Question);
+    case SP_LineEditClearButton:
+        return iconOf(Symbol::Clear);
+    default:
+        return QProxyStyle::standardIcon(pixmap, option, widget);
+    }
 }
 
 } // namespace Editor

@@ -4,19 +4,21 @@
 
 namespace Editor {
 
-/// The platform's style with a little more air around the texts of lists and tables.
+/// The platform's style with more space around the texts of lists and tables, and with the editor's
+/// icons where Qt's own dialogs and fields show one.
 class RoomyStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     using QProxyStyle::QProxyStyle;
-    /// Makes a style that of the application, which owns it from then on.
-    static void use(RoomyStyle *style);
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
-    using QProxyStyle::polish;
-    void polish(QPalette &palette) override;
+    int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
+                  const QWidget *widget = nullptr,
+                  QStyleHintReturn *returnData = nullptr) const override;
+    QIcon standardIcon(StandardPixmap pixmap, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
 };
 
 } // namespace Editor

@@ -43,7 +43,11 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
     layout->addLayout(row);
     layout->addWidget(m_addition->note());
 
-    connect(m_add, &QPushButton::clicked, m_addition, &AdditionLine::take);
+    connect(m_add, &QPushButton::clicked, this, [this] {
+        m_addition->take();
+        m_line->setFocus(Qt::OtherFocusReason); // for the next one
+    });
+    removeWithDelete(m_view, m_remove);
     connect(m_addition, &AdditionLine::changed, this, &StringListEditor::refresh);
     connect(m_addition, &AdditionLine::added, this,
             [this] { m_view->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0)); });

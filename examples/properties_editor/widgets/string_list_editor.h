@@ -29,6 +29,7 @@ public:
     void reload();
     /// Gives the focus to an item; to the line for additions where there is no such item.
     void showItem(int row);
+    QListView *view() const { return m_view; }
 
 private:
     void refresh();

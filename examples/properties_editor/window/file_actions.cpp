@@ -1,7 +1,10 @@
 #include "file_actions.h"
 
 #include "main_window.h"
-#include "widgets/marks.h"
+#include "publishing.h"
+#include "recent_files.h"
+#include "templates.h"
+#include "widgets/icons.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
 
@@ -12,39 +15,16 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QSettings>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
-
-#include <array>
-
-// A static library's resources wait for this, which has to stand outside of any namespace.
-static void initTemplates() {
-    Q_INIT_RESOURCE(templates);
-}
 
 namespace Editor {
 namespace {
 
-constexpr int maximumRecent = 8;
-const QString recentKey = QStringLiteral("recentFiles");
-
-struct Template {
-    const char *resource;
-    const char *name;
-};
-
-constexpr std::array templates{
-    Template{":/templates/empty.xml", QT_TRANSLATE_NOOP("Editor::FileActions", "Empty Package")},
-    Template{":/templates/behavior.xml",
-             QT_TRANSLATE_NOOP("Editor::FileActions", "Behavior Started by a Sentence")},
-    Template{":/templates/service.xml",
-             QT_TRANSLATE_NOOP("Editor::FileActions", "Service in the Background")},
-};
-
-QAction *newAction(QObject *parent, const QString &text, const char *icon,
-                   QStyle::StandardPixmap fallback, const QKeySequence &shortcut) {
-    auto *action = new QAction(platformIcon(QLatin1String(icon), fallback), text, parent);
+QAction *newAction(QObject *parent, const QString &text, Symbol symbol,
+                   const QKeySequence &shortcut) {
+    auto *action = new QAction(iconOf(symbol), text, parent);
     action->setShortcut(shortcut);
     return action;
 }
@@ -58,33 +38,31 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
     , m_messageBar(messageBar)
     , m_templates(new QMenu(tr("&New"), &window))
     , m_recent(new QMenu(tr("Open &Recent"), &window))
-    , m_open(newAction(this, tr("&Open…"), "document-open", QStyle::SP_DialogOpenButton,
-                       QKeySequence::Open))
-    , m_save(newAction(this, tr("&Save"), "document-save", QStyle::SP_DialogSaveButton,
-                       QKeySequence::Save))
-    , m_saveAs(newAction(this, tr("Save &As…"), "document-save-as", QStyle::SP_DialogSaveButton,
+    , m_open(newAction(this, tr("&Open…"), Symbol::Open, QKeySequence::Open))
+    , m_save(newAction(this, tr("&Save"), Symbol::Save, QKeySequence::Save))
+    , m_saveAs(newAction(this, tr("Save &As…"), Symbol::SaveAs,
                          QKeySequence(QStringLiteral("Ctrl+Shift+S"))))
-    , m_publish(newAction(this, tr("&Publish…"), "document-export", QStyle::SP_ArrowUp,
-                          QKeySequence(QStringLiteral("Ctrl+E"))))
-    , m_reload(newAction(this, tr("Re&load"), "view-refresh", QStyle::SP_BrowserReload,
-                         QKeySequence::Refresh))
-    , m_quit(newAction(this, tr("&Quit"), "application-exit", QStyle::SP_DialogCloseButton,
-                       QKeySequence::Quit)) {
-    initTemplates();
-    m_templates->setIcon(platformIcon(QStringLiteral("document-new"), QStyle::SP_FileIcon));
-    for (const Template &entry : templates) {
-        const QString resource = QLatin1String(entry.resource);
-        QAction *action =
-            m_templates->addAction(tr(entry.name), this, [this, resource] { newFrom(resource); });
+    , m_publish(
+          newAction(this, tr("&Publish…"), Symbol::Publish, QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_reload(newAction(this, tr("Re&load"), Symbol::Reload, QKeySequence::Refresh))
+    , m_quit(newAction(this, tr("&Quit"), Symbol::Quit, QKeySequence::Quit)) {
+    m_templates->setIcon(iconOf(Symbol::New));
+    const auto entries = templates();
+    for (const Template &entry : entries) {
+        QAction *action = m_templates->addAction(
+            entry.name, this, [this, resource = entry.resource] { newFrom(resource); });
         if (m_templates->actions().size() == 1)
             action->setShortcut(QKeySequence::New);
     }
-    m_recent->setIcon(platformIcon(QStringLiteral("document-open-recent"), QStyle::SP_FileIcon));
+    m_recent->setIcon(iconOf(Symbol::Recent));
     connect(m_recent, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
     connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);
     connect(m_save, &QAction::triggered, this, &FileActions::save);
     connect(m_saveAs, &QAction::triggered, this, &FileActions::saveAs);
-    connect(m_publish, &QAction::triggered, this, &FileActions::publish);
+    connect(m_publish, &QAction::triggered, this, [this] {
+        if (m_window.takeEdits())
+            publish(m_document, &m_window);
+    });
     connect(m_reload, &QAction::triggered, this, &FileActions::reload);
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
 
@@ -120,6 +98,7 @@ void FileActions::fillToolBar(QToolBar *toolBar) {
     button->setIcon(m_templates->icon());
     button->setToolTip(tr("New package from a template"));
     button->setAccessibleName(button->toolTip());
+    button->setFocusPolicy(Qt::NoFocus); // like the other tools
     button->setPopupMode(QToolButton::InstantPopup);
     toolBar->addWidget(button);
     toolBar->addActions({m_open, m_save});
@@ -164,7 +143,7 @@ bool FileActions::open(const QString &fileName) {
         tellFailure(tr("Open"), fileName);
         return false;
     }
-    rememberRecent(m_document.fileName());
+    rememberFile(m_document.fileName());
     return true;
 }
 
@@ -211,22 +190,19 @@ bool FileActions::mayOverwrite() {
 }
 
 bool FileActions::saveTo(const QString &fileName) {
-    if (!m_document.save(fileName)) {
-        tellFailure(tr("Save"), fileName);
-        return false;
-    }
-    rememberRecent(m_document.fileName());
+    if (!m_document.save(fileName))
+        return saveElsewhere(fileName);
+    rememberFile(m_document.fileName());
     return true;
 }
 
-void FileActions::publish() {
-    if (!m_window.takeEdits())
-        return;
-    const QString fileName = QFileDialog::getSaveFileName(
-        &m_window, tr("Publish the Manifest"), directory() + QLatin1String("/published.xml"),
-        tr("Manifests (*.xml);;All files (*)"));
-    if (!fileName.isEmpty() && !m_document.publish(fileName))
-        tellFailure(tr("Publish"), fileName);
+bool FileActions::saveElsewhere(const QString &fileName) {
+    PlainMessageBox box(QMessageBox::Critical, tr("Save"), m_document.errorString(),
+                        QMessageBox::Cancel, &m_window);
+    box.setInformativeText(QDir::toNativeSeparators(fileName));
+    const QPushButton *elsewhere = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == elsewhere && saveAs();
 }
 
 void FileActions::reload() {
@@ -263,7 +239,7 @@ void FileActions::tellDiskState(Document::DiskState state) {
 
 void FileActions::fillRecentMenu() {
     m_recent->clear();
-    const QStringList files = QSettings().value(recentKey).toStringList();
+    const QStringList files = recentFiles();
     for (const QString &file : files) {
         QString shown = file;
         m_recent->addAction(shown.replace(u'&', QLatin1String("&&")), this,
@@ -271,14 +247,6 @@ void FileActions::fillRecentMenu() {
     }
     if (files.isEmpty())
         m_recent->addAction(tr("No files yet"))->setEnabled(false);
-}
-
-void FileActions::rememberRecent(const QString &fileName) {
-    QSettings settings;
-    QStringList files = settings.value(recentKey).toStringList();
-    files.removeAll(fileName);
-    files.prepend(fileName);
-    settings.setValue(recentKey, QStringList(files.mid(0, maximumRecent)));
 }
 
 } // namespace Editor

@@ -28,18 +28,19 @@ public:
     bool open(const QString &fileName);
     bool save();
     bool saveAs();
+    void chooseAndOpen();
+    /// Starts a package from a template.
+    void newFrom(const QString &resource);
 
 private:
-    void chooseAndOpen();
-    void newFrom(const QString &resource);
-    void publish();
     void reload();
     void tellDiskState(Document::DiskState state);
     bool saveTo(const QString &fileName);
     bool mayOverwrite();
+    /// Explains why a file could not be written, and offers another one.
+    bool saveElsewhere(const QString &fileName);
     void tellFailure(const QString &title, const QString &fileName);
     void fillRecentMenu();
-    void rememberRecent(const QString &fileName);
     QString directory() const;
 
     MainWindow &m_window;

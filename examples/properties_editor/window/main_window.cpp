@@ -1,18 +1,27 @@
 #include "main_window.h"
 
+#include "color_scheme.h"
 #include "file_actions.h"
+#include "file_drop.h"
 #include "models/problems_model.h"
+#include "page_stack.h"
 #include "pages/behaviors_page.h"
 #include "pages/dialogs_page.h"
 #include "pages/identity_page.h"
 #include "pages/requirements_page.h"
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
+#include "problem_count.h"
 #include "problems_panel.h"
+#include "start_page.h"
+#include "tab_order.h"
+#include "undo_actions.h"
+#include "widgets/icons.h"
 #include "widgets/marks.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
 #include "widgets/text_field.h"
+#include "window_state.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,15 +29,9 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
-#include <QHeaderView>
-#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
-#include <QPainter>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -41,33 +44,15 @@
 #include <algorithm>
 
 namespace Editor {
-namespace {
-
-// Icons of one size, so that the texts beside them stand in one line.
-QIcon squareIcon(const QIcon &icon, int extent, qreal ratio) {
-    QPixmap square(QSize(extent, extent) * ratio);
-    square.setDevicePixelRatio(ratio);
-    square.fill(Qt::transparent);
-    QPainter painter(&square);
-    icon.paint(&painter, 0, 0, extent, extent);
-    return square;
-}
-
-QString localFile(const QMimeData *data) {
-    const auto urls = data->urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
-}
-
-} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_messageBar(new MessageBar(this))
-    , m_navigation(new QListWidget(this))
     , m_stack(new QStackedWidget(this))
+    , m_start(new StartPage(this))
     , m_problems(new ProblemsModel(m_document, this)) {
     m_files = new FileActions(*this, *m_messageBar);
-    setAcceptDrops(true);
+    connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFile);
     addPages();
     addProblemsDock();
     addHistoryDock();
@@ -83,11 +68,16 @@ MainWindow::MainWindow(QWidget *parent)
     connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
     });
+    setTabOrderOf(*this);
     connect(&m_document, &Document::fieldChanged, this, &MainWindow::showChange);
     refreshTitle();
 }
 
 MainWindow::~MainWindow() {
+    // An open cell editor would still write through the model of its view.
+    if (QWidget *focus = focusWidget())
+        focus->clearFocus();
+    m_document.closeRun();
     m_document.undoStack()->disconnect(this);
     // They look at the document until they are gone.
     while (auto *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
@@ -95,45 +85,50 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::addPages() {
-    m_pages = {new IdentityPage(m_document, this),     new TextsPage(m_document, this),
-               new RequirementsPage(m_document, this), new BehaviorsPage(m_document, this),
-               new DialogsPage(m_document, this),      new ServicesPage(m_document, this)};
-    m_navigation->setAccessibleName(tr("Pages"));
-    m_navigation->setFrameShape(QFrame::NoFrame);
-    constexpr int iconExtent = 22;
-    m_navigation->setIconSize(QSize(iconExtent, iconExtent));
-    m_navigation->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (Page *page : std::as_const(m_pages)) {
-        auto *scroll = new QScrollArea(m_stack);
-        scroll->setWidgetResizable(true);
-        scroll->setFrameShape(QFrame::NoFrame);
-        scroll->setWidget(page);
-        m_stack->addWidget(scroll);
-        QString title = page->title();
-        title.remove(
-            QRegularExpression(QStringLiteral("\\(&.\\)|&"))); // "言語(&L)" or "&Languages"
-        auto *item = new QListWidgetItem(squareIcon(page->icon(), iconExtent, devicePixelRatioF()),
-                                         title, m_navigation);
-        item->setSizeHint(QSize(fontMetrics().horizontalAdvance(title) + 2 * iconExtent + 16,
-                                std::max(iconExtent, fontMetrics().height()) + 14));
-    }
-    m_navigation->setFixedWidth(m_navigation->sizeHintForColumn(0) + 16);
-    connect(m_navigation, &QListWidget::currentRowChanged, m_stack,
-            &QStackedWidget::setCurrentIndex);
-    m_navigation->setCurrentRow(0);
-
+    m_pages =
+        new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
+                       new RequirementsPage(m_document, this), new BehaviorsPage(m_document, this),
+                       new DialogsPage(m_document, this), new ServicesPage(m_document, this)},
+                      this);
+    m_stack->addWidget(m_pages);
+    m_stack->addWidget(m_start);
     auto *content = new QWidget(this);
-    auto *layout = new QHBoxLayout;
+    auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_navigation);
+    layout->addWidget(m_messageBar);
     layout->addWidget(m_stack, 1);
-    auto *outer = new QVBoxLayout(content);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->setSpacing(0);
-    outer->addWidget(m_messageBar);
-    outer->addLayout(layout, 1);
     setCentralWidget(content);
+
+    connect(&m_document, &Document::packageReplaced, this, &MainWindow::leaveStartPage);
+    connect(m_start, &StartPage::openWanted, m_files, &FileActions::chooseAndOpen);
+    connect(m_start, &StartPage::templateWanted, m_files, &FileActions::newFrom);
+    connect(m_start, &StartPage::fileWanted, this, [this](const QString &fileName) {
+        if (!openFile(fileName))
+            m_start->refresh();
+    });
+}
+
+void MainWindow::showStartPage() {
+    m_start->refresh();
+    m_stack->setCurrentWidget(m_start);
+    const auto docks = findChildren<QDockWidget *>();
+    for (QDockWidget *dock : docks) {
+        if (!dock->isHidden())
+            m_hiddenDocks.append(dock);
+        dock->hide();
+    }
+    refreshTitle();
+}
+
+void MainWindow::leaveStartPage() {
+    if (m_stack->currentWidget() != m_start)
+        return;
+    m_stack->setCurrentWidget(m_pages);
+    for (QWidget *dock : std::as_const(m_hiddenDocks))
+        dock->show();
+    m_hiddenDocks.clear();
+    refreshTitle();
 }
 
 void MainWindow::addProblemsDock() {
@@ -158,21 +153,9 @@ void MainWindow::addHistoryDock() {
 void MainWindow::addMenus() {
     m_files->fillMenu(menuBar()->addMenu(tr("&File")));
 
-    QUndoStack *stack = m_document.undoStack();
-    QAction *undo = stack->createUndoAction(this, tr("&Undo"));
-    undo->setShortcuts(QKeySequence::Undo);
-    undo->setIcon(platformIcon(QStringLiteral("edit-undo"), QStyle::SP_ArrowBack));
-    QAction *redo = stack->createRedoAction(this, tr("&Redo"));
-    redo->setShortcuts(QKeySequence::Redo);
-    redo->setIcon(platformIcon(QStringLiteral("edit-redo"), QStyle::SP_ArrowForward));
-    for (QAction *action : {undo, redo}) {
-        // Its own tool tip is the text of the command, in which a value may look like markup.
-        const auto update = [action] { action->setToolTip(toolTipOf(action->iconText())); };
-        connect(action, &QAction::changed, action, update);
-        update();
-    }
+    const QList<QAction *> undoing = newUndoActions(*m_document.undoStack(), this);
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addActions({undo, redo});
+    edit->addActions(undoing);
 
     QMenu *problems = menuBar()->addMenu(tr("&Problems"));
     problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext, Qt::Key_F8);
@@ -181,26 +164,8 @@ void MainWindow::addMenus() {
     problems->addSeparator();
     problems->addAction(tr("&Fix All Safe Problems"), m_problemsPanel, &ProblemsPanel::fixAllSafe);
 
-    QMenu *view = menuBar()->addMenu(tr("&View"));
-    for (int i = 0; i < m_pages.size(); ++i) {
-        QAction *action = view->addAction(m_pages.at(i)->icon(), m_pages.at(i)->title(), this,
-                                          [this, i] { showPage(i); });
-        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
-    }
-    view->addSeparator();
-    const auto docks = findChildren<QDockWidget *>();
-    for (QDockWidget *dock : docks)
-        view->addAction(dock->toggleViewAction());
-
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(platformIcon(QStringLiteral("help-about"), QStyle::SP_MessageBoxInformation),
-                    tr("&About"), this, [this] {
-                        QMessageBox::about(
-                            this, tr("About"),
-                            tr("The properties editor shows and edits the manifest of an "
-                               "application package for a robot.\n\nVersion %1")
-                                .arg(QApplication::applicationVersion()));
-                    });
+    addViewMenu();
+    addHelpMenu();
 
     QToolBar *toolBar = addToolBar(tr("Tools"));
     toolBar->setObjectName(QStringLiteral("tools"));
@@ -208,27 +173,58 @@ void MainWindow::addMenus() {
     toolBar->setIconSize(QSize(22, 22));
     m_files->fillToolBar(toolBar);
     toolBar->addSeparator();
-    toolBar->addActions({undo, redo});
+    toolBar->addActions(undoing);
+}
+
+void MainWindow::addViewMenu() {
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    for (int i = 0; i < m_pages->pages().size(); ++i) {
+        const Page *page = m_pages->pages().at(i);
+        QAction *action =
+            view->addAction(page->icon(), page->title(), this, [this, i] { showPage(i); });
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
+    }
+    view->addSeparator();
+    const auto docks = findChildren<QDockWidget *>();
+    for (QDockWidget *dock : docks)
+        view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    QAction *dark = view->addAction(tr("Dark &Colors"));
+    dark->setCheckable(true);
+    dark->setChecked(chosenColorScheme() == ColorScheme::Dark);
+    connect(dark, &QAction::triggered, this, [](bool isDark) {
+        chooseColorScheme(isDark ? ColorScheme::Dark : ColorScheme::Platform);
+    });
+}
+
+void MainWindow::addHelpMenu() {
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(iconOf(Symbol::Note), tr("&About"), this, [this] {
+        QMessageBox::about(this, tr("About"),
+                           tr("The properties editor shows and edits the manifest of an "
+                              "application package for a robot.\n\nVersion %1")
+                               .arg(QApplication::applicationVersion()));
+    });
 }
 
 void MainWindow::addStatus() {
-    m_problemCount = new QToolButton(this);
-    m_problemCount->setAutoRaise(true);
-    m_problemCount->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    connect(m_problemCount, &QToolButton::clicked, this, [this] {
+    auto *count = new ProblemCount(m_document, this);
+    connect(count, &QToolButton::clicked, this, [this] {
         auto *dock = findChild<QDockWidget *>(QStringLiteral("problems"));
         dock->show();
         dock->raise();
         m_problemsPanel->view()->setFocus();
     });
-    statusBar()->addPermanentWidget(m_problemCount);
-    connect(&m_document, &Document::edited, this, &MainWindow::refreshStatus);
-    refreshStatus();
+    statusBar()->addPermanentWidget(count);
 }
 
 void MainWindow::refreshTitle() {
     const QString &fileName = m_document.fileName();
     setWindowFilePath(fileName);
+    if (m_stack->currentWidget() == m_start) {
+        setWindowTitle(tr("Package Properties"));
+        return;
+    }
     const QString shown = fileName.isEmpty()
                               ? tr("New package")
                               : QStringLiteral("%1/%2").arg(QFileInfo(fileName).dir().dirName(),
@@ -237,35 +233,26 @@ void MainWindow::refreshTitle() {
     setWindowModified(m_document.isModified());
 }
 
-void MainWindow::refreshStatus() {
-    using Zel::PackageModel::Severity;
-    int errors = 0;
-    int warnings = 0;
-    for (const auto &issue : m_document.issues())
-        ++(issue.severity == Severity::Error ? errors : warnings);
-    if (errors + warnings == 0) {
-        m_problemCount->setText(tr("No problems"));
-        m_problemCount->setIcon(
-            platformIcon(QStringLiteral("dialog-ok-apply"), QStyle::SP_DialogApplyButton));
-        return;
-    }
-    m_problemCount->setText(tr("Errors: %1, warnings: %2").arg(errors).arg(warnings));
-    m_problemCount->setIcon(severityIcon(errors > 0 ? Severity::Error : Severity::Warning));
+void MainWindow::showPage(int index) {
+    leaveStartPage();
+    m_pages->show(index);
 }
 
-void MainWindow::showPage(int index) {
-    m_navigation->setCurrentRow(index);
+void MainWindow::restore() {
+    const int page = restoreWindowState(*this);
+    if (page >= 0)
+        m_pages->show(page);
 }
 
 void MainWindow::showField(const QString &path) {
     const auto field = Tano::FieldPath::parse(Zel::toUtf8(path));
-    for (int i = 0; field && i < m_pages.size(); ++i) {
+    for (int i = 0; field && i < m_pages->pages().size(); ++i) {
         // It has to be on show to take the focus.
-        const int previous = m_navigation->currentRow();
-        m_navigation->setCurrentRow(i);
-        if (m_pages.at(i)->showField(*field))
+        const int previous = m_pages->current();
+        showPage(i);
+        if (m_pages->pages().at(i)->showField(*field))
             return;
-        m_navigation->setCurrentRow(previous);
+        m_pages->show(previous);
     }
 }
 
@@ -300,9 +287,9 @@ bool MainWindow::askAboutRefusal(const QPointer<TypedText> &text) {
 }
 
 void MainWindow::reveal(QWidget *field) {
-    for (int i = 0; i < m_pages.size(); ++i) {
-        if (m_pages.at(i)->isAncestorOf(field))
-            m_navigation->setCurrentRow(i);
+    for (int i = 0; i < m_pages->pages().size(); ++i) {
+        if (m_pages->pages().at(i)->isAncestorOf(field))
+            showPage(i);
     }
     for (QWidget *page = field; page; page = page->parentWidget()) {
         auto *stack = qobject_cast<QStackedWidget *>(page->parentWidget());
@@ -328,16 +315,10 @@ bool MainWindow::openFile(const QString &fileName) {
 
 void MainWindow::closeEvent(QCloseEvent *event) {
     event->setAccepted(m_files->settle());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event) {
-    if (!localFile(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent *event) {
-    event->acceptProposedAction();
-    openFile(localFile(event->mimeData()));
+    if (!event->isAccepted())
+        return;
+    leaveStartPage();
+    saveWindowState(*this, m_pages->current());
 }
 
 bool MainWindow::event(QEvent *event) {

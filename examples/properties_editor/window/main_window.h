@@ -6,18 +6,16 @@
 #include <QPointer>
 #include <QVector>
 
-class QListWidget;
 class QStackedWidget;
-class QToolButton;
-class QTreeView;
 
 namespace Editor {
 
 class FileActions;
 class MessageBar;
-class Page;
+class PageStack;
 class ProblemsModel;
 class ProblemsPanel;
+class StartPage;
 class TypedText;
 
 /// The window of the editor.
@@ -35,6 +33,10 @@ public:
     /// Shows the field with a path as issues have it, and gives it the focus.
     void showField(const QString &path);
     void showPage(int index);
+    /// Shows the start page until a package is opened or a page is chosen.
+    void showStartPage();
+    /// Brings the window to where it was when the program ended last.
+    void restore();
 
     /// Takes into the package what is being typed anywhere. Asks where a text is refused; returns
     /// false if the user prefers to fix it.
@@ -42,18 +44,18 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
     void addPages();
     void addMenus();
+    void addViewMenu();
+    void addHelpMenu();
+    void leaveStartPage();
     void addProblemsDock();
     void addHistoryDock();
     void addStatus();
     void refreshTitle();
-    void refreshStatus();
     bool askAboutRefusal(const QPointer<TypedText> &text);
     void reveal(QWidget *field);
     void showChange(const QString &path);
@@ -61,12 +63,12 @@ private:
     Document m_document;
     FileActions *m_files;
     MessageBar *m_messageBar;
-    QListWidget *m_navigation;
+    PageStack *m_pages;
     QStackedWidget *m_stack;
-    QVector<Page *> m_pages;
+    StartPage *m_start;
+    QVector<QWidget *> m_hiddenDocks; // by the start page
     ProblemsModel *m_problems;
     ProblemsPanel *m_problemsPanel = nullptr;
-    QToolButton *m_problemCount = nullptr;
 };
 
 } // namespace Editor

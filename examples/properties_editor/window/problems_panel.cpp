@@ -61,6 +61,7 @@ ProblemsPanel::ProblemsPanel(Document &document, ProblemsModel *problems, QWidge
     details->addStretch();
     m_details->setWidgetResizable(true);
     m_details->setFrameShape(QFrame::NoFrame);
+    m_details->setFocusPolicy(Qt::NoFocus);
     m_details->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_details->setWidget(content);
     auto *layout = new QHBoxLayout(this);
@@ -88,12 +89,15 @@ void ProblemsPanel::refresh() {
     const auto rule = std::find_if(rules.begin(), rules.end(),
                                    [&](const auto &each) { return each.id == issue->id; });
     m_explanation->setText(rule->explanation % u' ' % rule->remedy);
+    QWidget *previous = m_view;
     for (int i = 0; i < issue->fixes.size(); ++i) {
         const Fix &fix = issue->fixes.at(i);
         auto *button = new QPushButton(QString(fix.title).replace(u'&', QStringLiteral("&&")));
         connect(button, &QPushButton::clicked, this,
                 [this, fix] { m_document.edit(fix.edits, fix.title); });
         m_fixes->insertWidget(i, button, 0, Qt::AlignLeft);
+        setTabOrder(previous, button);
+        previous = button;
     }
 }
 

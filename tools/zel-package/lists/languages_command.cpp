@@ -2,9 +2,10 @@
 
 #include "arguments/format_option.h"
 #include "console/json_list.h"
-#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
+
+#include <packagemodel/language_name.h>
 
 #include <zel/language.h>
 
@@ -19,7 +20,7 @@ void printJson(Console &console) {
     JsonListForm form(QLatin1String("languages"), console);
     for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
         form.add({{QStringLiteral("code"), language.isoCode()},
-                  {QStringLiteral("name"), nameOf(language)},
+                  {QStringLiteral("name"), Zel::PackageModel::languageName(language)},
                   {QStringLiteral("englishName"), language.englishName()},
                   {QStringLiteral("nativeName"), language.nativeName()},
                   {QStringLiteral("speech"), language.nuanceCode()}});
@@ -35,7 +36,7 @@ void printTable(Console &console) {
                      {QCoreApplication::translate("zel-package", "native name")}});
     for (const Zel::RobotLanguage &language : Zel::Language::knownLanguages()) {
         table.addRow({{language.isoCode()},
-                      {nameOf(language)},
+                      {Zel::PackageModel::languageName(language)},
                       {language.nuanceCode()},
                       {language.nativeName()}});
     }

@@ -1,8 +1,9 @@
 #include "coverage_table.h"
 
-#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "console/text_table.h"
+
+#include <packagemodel/language_name.h>
 
 #include <QCoreApplication>
 
@@ -88,10 +89,10 @@ TextTable tableOf(const std::vector<LanguageCoverage> &coverages, bool hasNames,
         const bool isListed = coverage.isSupported || coverage.isDescribed;
         TextTable::Row row{{printable(coverage.language.isoCode()) % signOf(coverage)}};
         if (hasNames)
-            row.push_back(
-                {printable(coverage.language.name().isEmpty() ? QString()
-                                                              : nameOf(coverage.language)),
-                 Style::Faint});
+            row.push_back({printable(coverage.language.name().isEmpty()
+                                         ? QString()
+                                         : Zel::PackageModel::languageName(coverage.language)),
+                           Style::Faint});
         row.insert(row.end(),
                    {markOf(coverage.hasName), markOf(coverage.hasDescription),
                     cellOf(coverage.names, isListed), cellOf(coverage.descriptions, isListed),

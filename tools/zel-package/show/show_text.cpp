@@ -1,11 +1,11 @@
 #include "show_text.h"
 
 #include "console/labeled_list.h"
-#include "console/language_name.h"
 #include "console/text_layout.h"
 #include "coverage_table.h"
 #include "shown_text.h"
 
+#include <packagemodel/language_name.h>
 #include <packagemodel/package_coverage.h>
 #include <packagemodel/package_fields.h>
 #include <packagemodel/package_info_model.h>
@@ -263,9 +263,9 @@ QString behaviorsSection(const Zel::PackageInfoModel &package, const RobotLangua
     const auto behaviors = package.behaviors();
     for (const Zel::BehaviorInfoModel *behavior : behaviors)
         entries.push_back(behaviorEntry(*behavior, language, isSpokenIn(language, package)));
-    return entriesSection(
-        QCoreApplication::translate("zel-package", "Behaviors in %1").arg(nameOf(language)),
-        entries, console);
+    return entriesSection(QCoreApplication::translate("zel-package", "Behaviors in %1")
+                              .arg(Zel::PackageModel::languageName(language)),
+                          entries, console);
 }
 
 QString dialogsSection(const Zel::PackageInfoModel &package,
@@ -320,9 +320,9 @@ QString textOf(const Zel::PackageInfoModel &package, const std::optional<RobotLa
     const RobotLanguage shown =
         language ? *language : usualLanguageOf(Zel::PackageModel::languages(&package));
     const QString title = printable(shownName(package, shown).text);
-    const QString textsTitle =
-        language ? QCoreApplication::translate("zel-package", "Texts in %1").arg(nameOf(*language))
-                 : QCoreApplication::translate("zel-package", "Texts");
+    const QString textsTitle = language ? QCoreApplication::translate("zel-package", "Texts in %1")
+                                              .arg(Zel::PackageModel::languageName(*language))
+                                        : QCoreApplication::translate("zel-package", "Texts");
     const QString texts =
         language ? textsIn(*language, package, console) : textsInAll(package, console);
     return console.styled(title, Style::Heading) % u'\n' % identitySection(package, console) %

@@ -7,6 +7,8 @@
 #include "manifest/manifest_source.h"
 #include "report_rules.h"
 
+#include <packagemodel/translation.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
@@ -65,15 +67,13 @@ QJsonObject toolObject(const QVector<Rule> &rules) {
     for (const Rule &rule : rules)
         ruleObjects += ruleObject(rule);
     const QString version = QCoreApplication::applicationVersion();
-    const QJsonObject driver{
-        {QStringLiteral("name"), QStringLiteral("zel-package")},
-        {QStringLiteral("version"), version},
-        {QStringLiteral("semanticVersion"), version},
-        {QStringLiteral("informationUri"),
-         QStringLiteral("https://packagemodel.example/docs/validation")},
-        //: The language of this translation, as RFC 5646 writes it.
-        {QStringLiteral("language"), QCoreApplication::translate("zel-package", "en-US")},
-        {QStringLiteral("rules"), ruleObjects}};
+    const QJsonObject driver{{QStringLiteral("name"), QStringLiteral("zel-package")},
+                             {QStringLiteral("version"), version},
+                             {QStringLiteral("semanticVersion"), version},
+                             {QStringLiteral("informationUri"),
+                              QStringLiteral("https://packagemodel.example/docs/validation")},
+                             {QStringLiteral("language"), Zel::translationLanguage()},
+                             {QStringLiteral("rules"), ruleObjects}};
     return {{QStringLiteral("driver"), driver}};
 }
 

@@ -23,4 +23,9 @@ bool installTranslation(const QString &catalogue, const QLocale &locale) {
     return false;
 }
 
+QString translationLanguage() {
+    //: The language of this translation, as RFC 5646 writes it.
+    return QCoreApplication::translate("Zel::PackageModel", "en-US");
+}
+
 } // namespace Zel

@@ -57,6 +57,11 @@ PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edit &edit);
 /// Applies all edits in their order, or none.
 PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edits &edits);
 
+/// The edits that remove all that a package has in a language: texts, topics, and the language from
+/// the lists of languages. They apply in their order and depend on none of each other.
+PACKAGEMODEL_EXPORT Edits languageRemoval(const PackageInfoModel *package,
+                                          const QString &languageCode);
+
 /// Why apply() would refuse an edit, in one sentence without the path: for a form that checks a
 /// text while it is typed. Empty if it would apply the edit.
 PACKAGEMODEL_EXPORT QString refusal(const PackageInfoModel *package, const Edit &edit);

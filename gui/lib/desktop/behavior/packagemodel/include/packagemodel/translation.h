@@ -18,4 +18,8 @@ PACKAGEMODEL_EXPORT bool
 installTranslation(const QString &catalogue = QStringLiteral("packagemodel"),
                    const QLocale &locale = QLocale::system());
 
+/// The language of the application's texts as RFC 5646 writes it: that of the installed catalogue
+/// "packagemodel", else "en-US".
+PACKAGEMODEL_EXPORT QString translationLanguage();
+
 } // namespace Zel

@@ -2,6 +2,7 @@
 
 #include "further_checks.h"
 
+#include <packagemodel/language_name.h>
 #include <packagemodel/near_words.h>
 #include <packagemodel/package_info_model.h>
 
@@ -97,10 +98,10 @@ QVector<Fix> fixMissingMinimum(const Finding &finding, const PackageInfoModel &p
 }
 
 Fix dropLanguage(const RobotLanguage &language) {
-    return {
-        text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Stop supporting %1")).arg(language.uiName()),
-        false,
-        {removing(fieldNamed("supportedLanguages").key(toUtf8(language.isoCode())))}};
+    return {text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Stop supporting %1"))
+                .arg(languageName(language)),
+            false,
+            {removing(fieldNamed("supportedLanguages").key(toUtf8(language.isoCode())))}};
 }
 
 // What a language lacks may be copied from the default language, else from the first that has it.
@@ -115,7 +116,7 @@ auto sourceOf(const Values &values) {
 }
 
 QString copyTitle(const RobotLanguage &from) {
-    return text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Copy from %1")).arg(from.uiName());
+    return text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Copy from %1")).arg(languageName(from));
 }
 
 QVector<Fix> fixMissingText(const Finding &finding, const PackageInfoModel &package) {
@@ -301,7 +302,7 @@ QVector<Fix> fixMissingSupport(const Finding &finding, const PackageInfoModel &p
     const RobotLanguages &described = package.descriptionLanguages();
     const RobotLanguage language =
         described.empty() ? Language::defaultLanguage() : described.front();
-    return {{text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Support %1")).arg(language.uiName()),
+    return {{text(QT_TRANSLATE_NOOP("Zel::PackageModel", "Support %1")).arg(languageName(language)),
              false,
              {{Edit::Action::Insert, finding.field, language.isoCode(), 0}}}};
 }

@@ -1,5 +1,6 @@
 #include "field_words.h"
 
+#include <packagemodel/language_name.h>
 #include <packagemodel/text_conversion.h>
 
 #include <zel/language.h>
@@ -13,8 +14,8 @@
 namespace Zel::PackageModel {
 namespace {
 
-QString languageName(const Tano::FieldPath::Selector &selector) {
-    return Language::languageInUse(fromUtf8(selector.text)).uiName();
+QString selectedLanguage(const Tano::FieldPath::Selector &selector) {
+    return languageName(Language::languageInUse(fromUtf8(selector.text)));
 }
 
 QString named(const QString &label, const QString &name) {
@@ -27,7 +28,7 @@ QString itemWords(const QString &label, const QString &form, const Selectors &gi
     if (form == QLatin1String("N") && number)
         return label % u' ' % QString::number(*number + 1);
     return named(label,
-                 form == QLatin1String("CODE") ? languageName(given.back()) : entryName(given));
+                 form == QLatin1String("CODE") ? selectedLanguage(given.back()) : entryName(given));
 }
 
 } // namespace
@@ -80,7 +81,7 @@ QString fieldWords(const FieldLabels &labels, const char *form, const Selectors 
         return words;
     if (forms.first() == QLatin1String("CODE"))
         return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 in %2"))
-            .arg(words, languageName(given.front()));
+            .arg(words, selectedLanguage(given.front()));
     return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 for “%2”"))
         .arg(words, fromUtf8(given.front().text));
 }

@@ -1,17 +1,15 @@
-#include "language_name.h"
+#include <packagemodel/language_name.h>
 
-#include <QCoreApplication>
+#include <packagemodel/translation.h>
 
 #include <array>
 #include <unicode/uloc.h>
 
-namespace ZelPackage {
+namespace Zel::PackageModel {
 
-QString nameOf(const Zel::RobotLanguage &language) {
-    const QString source = QStringLiteral("en-US");
-    //: The language of this translation, as RFC 5646 writes it.
-    const QString shown = QCoreApplication::translate("zel-package", "en-US");
-    if (shown == source || language.name().isEmpty())
+QString languageName(const RobotLanguage &language) {
+    const QString shown = translationLanguage();
+    if (shown == QLatin1String("en-US") || language.name().isEmpty())
         return language.uiName();
     // Qt has the names of languages in English and in themselves only.
     std::array<UChar, 200> name{};
@@ -23,4 +21,4 @@ QString nameOf(const Zel::RobotLanguage &language) {
     return isKnown ? QString::fromUtf16(name.data(), length) : language.uiName();
 }
 
-} // namespace ZelPackage
+} // namespace Zel::PackageModel

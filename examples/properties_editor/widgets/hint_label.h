@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+
+namespace Editor {
+
+/// A line of explanation in a fainter color than other texts.
+///
+/// The color comes from the texts' own, since palettes may lack one for hints.
+class HintLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit HintLabel(const QString &text, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void refreshColor();
+};
+
+} // namespace Editor

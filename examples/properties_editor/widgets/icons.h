@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QIcon>
+
+namespace Editor {
+
+/// The icons of the editor, in the order of their drawings.
+enum class Symbol {
+    New,
+    Open,
+    Recent,
+    Save,
+    SaveAs,
+    Publish,
+    Reload,
+    Quit,
+    Undo,
+    Redo,
+    Identity,
+    Languages,
+    Requirements,
+    Behaviors,
+    Dialogs,
+    Services,
+    Add,
+    Remove,
+    Check,
+    Clear,
+    Error,
+    Warning,
+    Note,
+    Question,
+};
+
+/// An icon that is drawn at any size, in the colors that the palette has at that time.
+QIcon iconOf(Symbol symbol);
+
+} // namespace Editor

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+namespace Editor {
+
+/// Takes manifests that are dropped anywhere in a window, also on fields that would take the text
+/// of their names. Pictures are left to the widget below the pointer.
+class FileDrop : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FileDrop(QWidget *window);
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void dropped(const QString &fileName);
+
+private:
+    QWidget *m_window;
+};
+
+} // namespace Editor

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace Editor {
+
+class Document;
+
+/// How many problems there are, in the status bar.
+class ProblemCount : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit ProblemCount(const Document &document, QWidget *parent = nullptr);
+
+private:
+    void refresh();
+
+    const Document &m_document;
+};
+
+} // namespace Editor

@@ -1,0 +1,14 @@
+#pragma once
+
+class QMainWindow;
+
+namespace Editor {
+
+// The place and the docks of the window, and the page that it shows, in the settings.
+
+void saveWindowState(const QMainWindow &window, int page);
+/// Returns the page; -1 if nothing was saved. A window that would not be on a screen is moved and
+/// shrunk to fit.
+int restoreWindowState(QMainWindow &window);
+
+} // namespace Editor
