@@ -130,6 +130,14 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
             line(path, {{12, top + 3.5}, {17, top + 3.5}});
         }
     },
+    [](QPainterPath &path) { // Review
+        page(path);
+        line(path, {{8, 14}, {11, 17}, {16, 12}});
+    },
+    [](QPainterPath &path) { // Find
+        circle(path, 10, 10, 7);
+        line(path, {{15, 15}, {21, 21}});
+    },
     [](QPainterPath &path) { // Add
         line(path, {{12, 4}, {12, 20}});
         line(path, {{4, 12}, {20, 12}});
