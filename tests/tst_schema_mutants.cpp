@@ -1,79 +1,22 @@
 // The reader and the schema agree: both judge mutants of valid manifests, the schema through
 // xmllint. The documented exceptions are those of isException().
 
+#include "xml_tree.h"
+
 #include <tano/manifest_reader.h>
 #include <tano/package_info.h>
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QXmlStreamReader>
 
-#include <deque>
 #include <random>
+
+using namespace XmlTree;
 
 namespace {
 
 constexpr int mutantCount = 600;
-
-struct Element {
-    QString name;
-    QVector<QPair<QString, QString>> attributes;
-    QString content; // of a text, comment or instruction, which have no name
-    std::deque<Element> children;
-};
-
-Element treeOf(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    QXmlStreamReader reader(&file);
-    reader.setNamespaceProcessing(false);
-    Element document;
-    std::vector<Element *> open{&document};
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement: {
-            Element element{reader.qualifiedName().toString(), {}, {}, {}};
-            for (const auto &attribute : reader.attributes())
-                element.attributes.append(
-                    {attribute.qualifiedName().toString(), attribute.value().toString()});
-            open.back()->children.push_back(element);
-            open.push_back(&open.back()->children.back());
-            break;
-        }
-        case QXmlStreamReader::EndElement:
-            open.pop_back();
-            break;
-        case QXmlStreamReader::Characters:
-            open.back()->children.push_back({{}, {}, reader.text().toString().toHtmlEscaped(), {}});
-            break;
-        case QXmlStreamReader::Comment:
-            open.back()->children.push_back(
-                {{}, {}, QStringLiteral("<!--%1-->").arg(reader.text().toString()), {}});
-            break;
-        default:
-            break;
-        }
-    }
-    return document.children.front();
-}
-
-QString written(const Element &element) {
-    if (element.name.isEmpty())
-        return element.content;
-    QString text = QLatin1Char('<') + element.name;
-    for (const auto &attribute : element.attributes)
-        text += QStringLiteral(" %1=\"%2\"").arg(attribute.first, attribute.second.toHtmlEscaped());
-    text += QLatin1Char('>');
-    for (const Element &child : element.children)
-        text += written(child);
-    return text + QStringLiteral("</%1>").arg(element.name);
-}
 
 class Mutator {
 public:
@@ -203,12 +146,6 @@ struct Judged {
     QString error;
 };
 
-void write(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
 Judged judgedByReader(const QString &path, const QByteArray &content) {
     write(path, content);
     Judged judged{path, path + QStringLiteral(".canonical"), false, false, {}};
@@ -220,30 +157,6 @@ Judged judgedByReader(const QString &path, const QByteArray &content) {
     if (judged.isAccepted)
         write(judged.canonicalPath, QByteArray::fromStdString(package.saveToManifestContent()));
     return judged;
-}
-
-// The files that conform to the schema, of those in the folder.
-QSet<QString> acceptedBySchema(const QDir &dir) {
-    QStringList arguments{QStringLiteral("--nonet"), QStringLiteral("--noout"),
-                          QStringLiteral("--schema"), QStringLiteral(ZEL_SCHEMA)};
-    for (const QFileInfo &file : dir.entryInfoList(QDir::Files, QDir::Name))
-        arguments += file.filePath();
-    QProcess xmllint;
-    xmllint.setProcessChannelMode(QProcess::MergedChannels);
-    xmllint.start(QStringLiteral(ZEL_XMLLINT), arguments);
-    if (!xmllint.waitForFinished(-1))
-        qFatal("xmllint does not run");
-    QSet<QString> accepted;
-    QSet<QString> misnamed; // xmllint goes on after a violation of Namespaces in XML
-    const QString output = QString::fromUtf8(xmllint.readAll());
-    for (const QString &line : output.split(QLatin1Char('\n'))) {
-        const QString validates = QStringLiteral(" validates");
-        if (line.contains(QLatin1String(": namespace error :")))
-            misnamed += line.section(QLatin1Char(':'), 0, 0);
-        else if (line.endsWith(validates))
-            accepted += line.chopped(validates.size());
-    }
-    return accepted -= misnamed;
 }
 
 // The schema rejects what only a newer version knows, and other orders than the canonical one.

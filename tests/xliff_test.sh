@@ -2,7 +2,8 @@
 # Usage: xliff_test.sh PROGRAM MANIFEST WORK-DIR LCONVERT XLIFF2PO PO2XLIFF
 #
 # Exports the texts of a package in each of its languages, converts them to PO and back with two
-# independent tools, and imports them: untouched, which changes nothing, and with one translation.
+# independent tools, and imports them: untouched, which changes nothing, with one translation, and
+# with the names of all behaviors in German, which changes nothing else.
 
 set -euo pipefail
 
@@ -66,4 +67,36 @@ END
         [ "$changes" = "< names[$language]=$name
 > names[$language]=$name \"2\"" ] || fail "$base" "$changes"
     done
+done
+
+translate_behaviors='
+import json, pathlib, sys
+package = json.loads(sys.argv[2])
+path = pathlib.Path(sys.argv[1])
+text = path.read_text()
+names = [behavior["names"] for behavior in package["behaviors"]]
+assert len(names) == 20, len(names)
+for name in names:
+    old = "msgid \"%s\"\nmsgstr \"%s\"" % (name["en_US"], name["de_DE"])
+    assert old in text, old
+    text = text.replace(old, old[:-1] + " (neu)\"")
+path.write_text(text)
+'
+expected=$("$program" show "$manifest" --format json | python3 -c '
+import json, sys
+for behavior in json.load(sys.stdin)["behaviors"]:
+    print("behaviors[%s].names[de_DE]" % behavior["path"], behavior["names"]["de_DE"], "(neu)")')
+for tool in by_lconvert by_toolkit; do
+    cp "$manifest" german.xml
+    "$program" texts export german.xml --language de_DE -o german.xlf
+    $tool to_po german.xlf german.po >tool.log 2>&1 || fail "$tool" "$(<tool.log)"
+    python3 -c "$translate_behaviors" german.po "$("$program" show german.xml --format json)"
+    $tool from_po german.po german-back.xlf >tool.log 2>&1 || fail "$tool" "$(<tool.log)"
+    "$program" texts import german.xml german-back.xlf 2>import.log || fail "$(<import.log)"
+    changes=$("$program" diff "$manifest" german.xml --format json | python3 -c '
+import json, sys
+for edit in json.load(sys.stdin)["edits"]:
+    assert edit["action"] == "set", edit
+    print(edit["path"], edit["value"])') || :
+    [ "$changes" = "$expected" ] || fail "$tool" "$changes"
 done

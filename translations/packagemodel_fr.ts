@@ -1040,41 +1040,69 @@
         <translation>Une balise dépasse 64 Kio.</translation>
     </message>
     <message>
-        <source>en-US</source>
-        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
-        <translation>fr</translation>
+        <source>%1 added</source>
+        <translation>%1&#xa0;: ajout</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1&#xa0;: suppression</translation>
+    </message>
+    <message>
+        <source>The package replaced</source>
+        <translation>Le paquet est remplacé</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 remplacé</translation>
+    </message>
+    <message>
+        <source>%1 renamed to “%2”</source>
+        <translation>%1&#xa0;: nouveau nom «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 changed from %2 to %3</source>
+        <translation>%1&#xa0;: %2 devient %3</translation>
+    </message>
+    <message>
+        <source>%1 moved to place %2</source>
+        <translation>%1&#xa0;: déplacement à la place %2</translation>
     </message>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter : %1</translation>
     </message>
     <message>
         <source>Add to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à : %1</translation>
     </message>
     <message>
         <source>Replace the package</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer le paquet</translation>
     </message>
     <message>
         <source>Rename %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer : %1</translation>
     </message>
     <message>
         <source>Set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier : %1</translation>
     </message>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer : %1</translation>
     </message>
     <message>
         <source>Move %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer : %1</translation>
     </message>
     <message>
         <source>%1 (and %2 more)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (et %2 autres)</translation>
+    </message>
+    <message>
+        <source>en-US</source>
+        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
+        <translation>fr</translation>
     </message>
 </context>
 <context>

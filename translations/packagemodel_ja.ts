@@ -1040,41 +1040,69 @@
         <translation>タグが 64 KiB を超えています。</translation>
     </message>
     <message>
-        <source>en-US</source>
-        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
-        <translation>ja</translation>
+        <source>%1 added</source>
+        <translation>%1を追加</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1を削除</translation>
+    </message>
+    <message>
+        <source>The package replaced</source>
+        <translation>パッケージを置き換え</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1を置き換え</translation>
+    </message>
+    <message>
+        <source>%1 renamed to “%2”</source>
+        <translation>%1の名前を「%2」に変更</translation>
+    </message>
+    <message>
+        <source>%1 changed from %2 to %3</source>
+        <translation>%1を%2から%3に変更</translation>
+    </message>
+    <message>
+        <source>%1 moved to place %2</source>
+        <translation>%1を%2番目に移動</translation>
     </message>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>追加: %1</translation>
     </message>
     <message>
         <source>Add to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>追加先: %1</translation>
     </message>
     <message>
         <source>Replace the package</source>
-        <translation type="unfinished"></translation>
+        <translation>パッケージを置き換える</translation>
     </message>
     <message>
         <source>Rename %1</source>
-        <translation type="unfinished"></translation>
+        <translation>名前の変更: %1</translation>
     </message>
     <message>
         <source>Set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を設定</translation>
     </message>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>削除: %1</translation>
     </message>
     <message>
         <source>Move %1</source>
-        <translation type="unfinished"></translation>
+        <translation>移動: %1</translation>
     </message>
     <message>
         <source>%1 (and %2 more)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（ほか%2件）</translation>
+    </message>
+    <message>
+        <source>en-US</source>
+        <extracomment>The language of this translation, as RFC 5646 writes it.</extracomment>
+        <translation>ja</translation>
     </message>
 </context>
 <context>

@@ -1135,26 +1135,6 @@
         <translation>Constats connus : %1</translation>
     </message>
     <message>
-        <source>%1 added</source>
-        <translation>%1&#xa0;: ajout</translation>
-    </message>
-    <message>
-        <source>%1 removed</source>
-        <translation>%1&#xa0;: suppression</translation>
-    </message>
-    <message>
-        <source>%1 renamed to “%2”</source>
-        <translation>%1&#xa0;: nouveau nom «&#xa0;%2&#xa0;»</translation>
-    </message>
-    <message>
-        <source>%1 changed from %2 to %3</source>
-        <translation>%1&#xa0;: %2 devient %3</translation>
-    </message>
-    <message>
-        <source>%1 moved to place %2</source>
-        <translation>%1&#xa0;: déplacement à la place %2</translation>
-    </message>
-    <message>
         <source>Only comments, unknown content or the notation of values differ.</source>
         <translation>Seuls des commentaires, du contenu inconnu ou la notation de valeurs diffèrent.</translation>
     </message>
@@ -1195,10 +1175,6 @@
         <translation>Fusionner les modifications de deux manifestes champ par champ</translation>
     </message>
     <message>
-        <source>BASE OURS THEIRS [-o OUT]</source>
-        <translation>BASE OURS THEIRS [-o OUT]</translation>
-    </message>
-    <message>
         <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
         <translation>Fusionne dans OURS, champ par champ, les modifications qui mènent de BASE à THEIRS. Quand les deux côtés ont changé un champ différemment, OURS reste, et un commentaire devant le champ contient les deux valeurs ; &apos;validate&apos; le signale jusqu&apos;à sa suppression. Le code de sortie est 0 après une fusion sans conflit, 1 après une fusion avec conflits, et 2 pour une erreur, qui laisse OURS inchangé. Un fichier vide est un manifeste sans aucun champ. &apos;-&apos; pour l&apos;un des fichiers lit l&apos;entrée standard.</translation>
     </message>
@@ -1209,6 +1185,26 @@
     <message>
         <source>  For example:</source>
         <translation>  Par exemple :</translation>
+    </message>
+    <message>
+        <source>Call the manifest PATH in messages: git merges copies, and passes the path as %P.</source>
+        <translation>Appeler le manifeste PATH dans les messages : git fusionne des copies et transmet le chemin par %P.</translation>
+    </message>
+    <message>
+        <source>%1 (base)</source>
+        <translation>%1 (BASE)</translation>
+    </message>
+    <message>
+        <source>%1 (theirs)</source>
+        <translation>%1 (THEIRS)</translation>
+    </message>
+    <message>
+        <source>BASE OURS THEIRS [-o OUT] [--path PATH]</source>
+        <translation>BASE OURS THEIRS [-o OUT] [--path PATH]</translation>
+    </message>
+    <message>
+        <source>The baseline lists findings in &apos;%1&apos;, which does not exist any more.</source>
+        <translation>La référence mentionne des constats dans &apos;%1&apos;, qui n&apos;existe plus.</translation>
     </message>
 </context>
 </TS>

@@ -1135,26 +1135,6 @@
         <translation>既知の検出結果: %1</translation>
     </message>
     <message>
-        <source>%1 added</source>
-        <translation>%1を追加</translation>
-    </message>
-    <message>
-        <source>%1 removed</source>
-        <translation>%1を削除</translation>
-    </message>
-    <message>
-        <source>%1 renamed to “%2”</source>
-        <translation>%1の名前を「%2」に変更</translation>
-    </message>
-    <message>
-        <source>%1 changed from %2 to %3</source>
-        <translation>%1を%2から%3に変更</translation>
-    </message>
-    <message>
-        <source>%1 moved to place %2</source>
-        <translation>%1を%2番目に移動</translation>
-    </message>
-    <message>
         <source>Only comments, unknown content or the notation of values differ.</source>
         <translation>コメント、未知の内容、または値の表記だけが異なります。</translation>
     </message>
@@ -1195,10 +1175,6 @@
         <translation>二つのマニフェストの変更をフィールドごとにマージする</translation>
     </message>
     <message>
-        <source>BASE OURS THEIRS [-o OUT]</source>
-        <translation>BASE OURS THEIRS [-o OUT]</translation>
-    </message>
-    <message>
         <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
         <translation>BASE から THEIRS への変更を、フィールドごとに OURS にマージします。両側が同じフィールドを異なる値に変更した場合は OURS を残し、フィールドの前のコメントに両方の値を書きます。&apos;validate&apos; はそのコメントが削除されるまで報告します。終了ステータスは、競合なしでマージすれば 0、競合があれば 1、エラーなら 2 で、エラーの場合 OURS は変わりません。空のファイルはフィールドのないマニフェストです。いずれかに &apos;-&apos; を指定すると標準入力から読みます。</translation>
     </message>
@@ -1209,6 +1185,26 @@
     <message>
         <source>  For example:</source>
         <translation>  例:</translation>
+    </message>
+    <message>
+        <source>Call the manifest PATH in messages: git merges copies, and passes the path as %P.</source>
+        <translation>メッセージの中でマニフェストを PATH と呼びます。git はコピーをマージし、パスを %P で渡します。</translation>
+    </message>
+    <message>
+        <source>%1 (base)</source>
+        <translation>%1 (BASE)</translation>
+    </message>
+    <message>
+        <source>%1 (theirs)</source>
+        <translation>%1 (THEIRS)</translation>
+    </message>
+    <message>
+        <source>BASE OURS THEIRS [-o OUT] [--path PATH]</source>
+        <translation>BASE OURS THEIRS [-o OUT] [--path PATH]</translation>
+    </message>
+    <message>
+        <source>The baseline lists findings in &apos;%1&apos;, which does not exist any more.</source>
+        <translation>基準ファイルは &apos;%1&apos; の検出結果を挙げていますが、このファイルはもう存在しません。</translation>
     </message>
 </context>
 </TS>

@@ -76,26 +76,6 @@
         <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
-        <source>A user may as&amp;k for it</source>
-        <translation>L&apos;utilisateur peut le de&amp;mander</translation>
-    </message>
-    <message>
-        <source>Pa&amp;th:</source>
-        <translation>&amp;Chemin&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Nat&amp;ure:</source>
-        <translation>Na&amp;ture&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Purp&amp;ose:</source>
-        <translation>&amp;Usage&#xa0;:</translation>
-    </message>
-    <message>
-        <source>&amp;Description:</source>
-        <translation>&amp;Description&#xa0;:</translation>
-    </message>
-    <message>
         <source>What people say to start the behavior. Type a sentence below.</source>
         <translation>Ce que l&apos;on dit pour lancer le comportement. Saisissez une phrase ci-dessous.</translation>
     </message>
@@ -114,6 +94,26 @@
     <message>
         <source>What the behavior uses of the robot. Type a permission below.</source>
         <translation>Ce que le comportement utilise du robot. Saisissez une permission ci-dessous.</translation>
+    </message>
+    <message>
+        <source>A user may as&amp;k for it</source>
+        <translation>L&apos;utilisateur peut le de&amp;mander</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>&amp;Chemin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>Na&amp;ture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>&amp;Usage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -192,16 +192,16 @@
         <translation>Fichiers du sujet</translation>
     </message>
     <message>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>Un dialogue est un sujet dont le robot peut parler, avec un fichier par langue. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
         <source>Type vers&amp;ion:</source>
         <translation>&amp;Version de type&#xa0;:</translation>
     </message>
     <message>
         <source>Remove Fi&amp;le</source>
         <translation>Retirer &amp;le fichier</translation>
-    </message>
-    <message>
-        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
-        <translation>Un dialogue est un sujet dont le robot peut parler, avec un fichier par langue. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
     </message>
     <message>
         <source>&amp;Choose File…</source>
@@ -221,6 +221,10 @@
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>L&apos;icône ne peut pas être convertie en PNG.</translation>
+    </message>
+    <message>
+        <source>Merge with the file</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -354,63 +358,63 @@
     <name>Editor::FindPanel</name>
     <message>
         <source>Match case</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecter la casse</translation>
     </message>
     <message>
         <source>Whole words</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots entiers</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression régulière</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Replace All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout remplacer</translation>
     </message>
     <message>
         <source>Text to find</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte à rechercher</translation>
     </message>
     <message>
         <source>Replace by</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer par</translation>
     </message>
     <message>
         <source>In the replacement, \1 is the first captured text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le remplacement, \1 est le premier texte capturé.</translation>
     </message>
     <message>
         <source>Matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrences</translation>
     </message>
     <message>
         <source>Searching: %1 so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche en cours : %1</translation>
     </message>
     <message>
         <source>Not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introuvable.</translation>
     </message>
     <message>
         <source>Matches: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrences : %1</translation>
     </message>
     <message>
         <source>Replaced: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacés : %1.</translation>
     </message>
     <message>
         <source>Replaced: %1, not possible: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacés : %1, impossibles : %2.</translation>
     </message>
     <message>
         <source>Replace “%1” by “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer « %1 » par « %2 »</translation>
     </message>
 </context>
 <context>
@@ -696,16 +700,16 @@ Version %1</translation>
         <translation>&amp;Corriger tout ce qui est sûr</translation>
     </message>
     <message>
+        <source>Fix</source>
+        <translation>Corriger</translation>
+    </message>
+    <message>
         <source>Dark &amp;Colors</source>
         <translation>&amp;Couleurs sombres</translation>
     </message>
     <message>
         <source>Package Properties</source>
         <translation>Propriétés du paquet</translation>
-    </message>
-    <message>
-        <source>Fix</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -727,11 +731,11 @@ Version %1</translation>
     <name>Editor::MatchesModel</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished">Champ</translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
 </context>
 <context>
@@ -826,6 +830,95 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>Modifications récupérées</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>un paquet jamais enregistré</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… et %1 autres</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>Les modifications non enregistrées ne sont pas conservées : %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>Une autre fenêtre (processus %1 sur %2) a ouvert ce fichier. Celle qui enregistre en dernier peut écraser les modifications de l’autre.</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>L’éditeur s’est arrêté avant l’enregistrement des modifications du %1.</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>Le fichier a changé depuis. Les modifications s’appliquent au fichier tel qu’il est maintenant.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Récupérer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>Les modifications ne peuvent pas s’appliquer au fichier tel qu’il est maintenant. Elles sont conservées.</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>Modifications : %1, dans %2</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Reloading</name>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished">Recharger</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes in the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard Yours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -895,16 +988,51 @@ Version %1</translation>
         <translation>Ajouter une version de &amp;Brio</translation>
     </message>
     <message>
-        <source>Rem&amp;ove Brio Version</source>
-        <translation>Re&amp;tirer la version de Brio</translation>
-    </message>
-    <message>
         <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
         <translation>Sans robot, le paquet n&apos;est proposé à aucun. «&#xa0;Ajouter un robot&#xa0;» en ajoute un.</translation>
     </message>
     <message>
         <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
         <translation>Les versions sur lesquelles le paquet fonctionne. «&#xa0;Ajouter une version de Brio&#xa0;» en ajoute une.</translation>
+    </message>
+    <message>
+        <source>Rem&amp;ove Brio Version</source>
+        <translation>Re&amp;tirer la version de Brio</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ReviewPage</name>
+    <message>
+        <source>Re&amp;view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has changed since the package was saved:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Publication</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What publishing changes in the copy for users:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing: all texts are plain, in languages that the package has.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1021,12 +1149,12 @@ Version %1</translation>
         <translation>Aucune langue n&apos;est sélectionnée.</translation>
     </message>
     <message>
-        <source>&amp;Description:</source>
-        <translation>&amp;Description&#xa0;:</translation>
-    </message>
-    <message>
         <source>&amp;Add Language…</source>
         <translation>&amp;Ajouter une langue…</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Description&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1170,13 @@ Version %1</translation>
     <message>
         <source>The file is beside the manifest.</source>
         <translation>Le fichier est à côté du manifeste.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::XmlView</name>
+    <message>
+        <source>The manifest as XML</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -76,26 +76,6 @@
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>A user may as&amp;k for it</source>
-        <translation>ユーザーが呼び出せる(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Pa&amp;th:</source>
-        <translation>パス(&amp;T):</translation>
-    </message>
-    <message>
-        <source>Nat&amp;ure:</source>
-        <translation>種別(&amp;U):</translation>
-    </message>
-    <message>
-        <source>Purp&amp;ose:</source>
-        <translation>用途(&amp;O):</translation>
-    </message>
-    <message>
-        <source>&amp;Description:</source>
-        <translation>説明(&amp;D):</translation>
-    </message>
-    <message>
         <source>What people say to start the behavior. Type a sentence below.</source>
         <translation>ビヘイビアを始めるために人が言う文です。下に文を入力してください。</translation>
     </message>
@@ -114,6 +94,26 @@
     <message>
         <source>What the behavior uses of the robot. Type a permission below.</source>
         <translation>ビヘイビアが使うロボットの機能です。下に権限を入力してください。</translation>
+    </message>
+    <message>
+        <source>A user may as&amp;k for it</source>
+        <translation>ユーザーが呼び出せる(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;th:</source>
+        <translation>パス(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Nat&amp;ure:</source>
+        <translation>種別(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Purp&amp;ose:</source>
+        <translation>用途(&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -192,16 +192,16 @@
         <translation>トピックファイル</translation>
     </message>
     <message>
+        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
+        <translation>ダイアログはロボットが話せる話題で、言語ごとにファイルがあります。「追加」で追加します。</translation>
+    </message>
+    <message>
         <source>Type vers&amp;ion:</source>
         <translation>種別バージョン(&amp;I):</translation>
     </message>
     <message>
         <source>Remove Fi&amp;le</source>
         <translation>ファイルを削除(&amp;L)</translation>
-    </message>
-    <message>
-        <source>A dialog is a topic that the robot can talk about, with a file for each language. “Add” adds one.</source>
-        <translation>ダイアログはロボットが話せる話題で、言語ごとにファイルがあります。「追加」で追加します。</translation>
     </message>
     <message>
         <source>&amp;Choose File…</source>
@@ -221,6 +221,10 @@
     <message>
         <source>The icon cannot be converted to PNG.</source>
         <translation>アイコンを PNG に変換できません。</translation>
+    </message>
+    <message>
+        <source>Merge with the file</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -354,63 +358,63 @@
     <name>Editor::FindPanel</name>
     <message>
         <source>Match case</source>
-        <translation type="unfinished"></translation>
+        <translation>大文字と小文字を区別</translation>
     </message>
     <message>
         <source>Whole words</source>
-        <translation type="unfinished"></translation>
+        <translation>単語全体</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>正規表現</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>置換</translation>
     </message>
     <message>
         <source>Replace All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて置換</translation>
     </message>
     <message>
         <source>Text to find</source>
-        <translation type="unfinished"></translation>
+        <translation>検索する文字列</translation>
     </message>
     <message>
         <source>Replace by</source>
-        <translation type="unfinished"></translation>
+        <translation>置換後の文字列</translation>
     </message>
     <message>
         <source>In the replacement, \1 is the first captured text.</source>
-        <translation type="unfinished"></translation>
+        <translation>置換後の文字列では、\1 が最初にキャプチャした文字列です。</translation>
     </message>
     <message>
         <source>Matches</source>
-        <translation type="unfinished"></translation>
+        <translation>一致箇所</translation>
     </message>
     <message>
         <source>Searching: %1 so far</source>
-        <translation type="unfinished"></translation>
+        <translation>検索中: %1件</translation>
     </message>
     <message>
         <source>Not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかりません。</translation>
     </message>
     <message>
         <source>Matches: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>一致: %1件</translation>
     </message>
     <message>
         <source>Replaced: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>置換: %1件。</translation>
     </message>
     <message>
         <source>Replaced: %1, not possible: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>置換: %1件、置換できないもの: %2件。</translation>
     </message>
     <message>
         <source>Replace “%1” by “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を「%2」に置換</translation>
     </message>
 </context>
 <context>
@@ -696,16 +700,16 @@ Version %1</source>
         <translation>安全な修正をすべて行う(&amp;F)</translation>
     </message>
     <message>
+        <source>Fix</source>
+        <translation>修正</translation>
+    </message>
+    <message>
         <source>Dark &amp;Colors</source>
         <translation>暗い配色(&amp;C)</translation>
     </message>
     <message>
         <source>Package Properties</source>
         <translation>パッケージのプロパティ</translation>
-    </message>
-    <message>
-        <source>Fix</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -727,11 +731,11 @@ Version %1</source>
     <name>Editor::MatchesModel</name>
     <message>
         <source>Field</source>
-        <translation type="unfinished">項目</translation>
+        <translation>項目</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
 </context>
 <context>
@@ -826,6 +830,95 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::Recovery</name>
+    <message>
+        <source>Recovered edits</source>
+        <translation>復元した編集</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::RecoveryDialogs</name>
+    <message>
+        <source>a package that was never saved</source>
+        <translation>まだ保存されていないパッケージ</translation>
+    </message>
+    <message>
+        <source>… and %1 others</source>
+        <translation>… ほか%1件</translation>
+    </message>
+    <message>
+        <source>Unsaved edits are not kept: %1</source>
+        <translation>保存していない編集を保管できません: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Another window (process %1 on %2) has this file open. Whoever saves last may overwrite the edits of the other.</source>
+        <translation>別のウィンドウ（%2 のプロセス %1）がこのファイルを開いています。後から保存した方が、他方の編集を上書きすることがあります。</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>The editor ended before the edits of %1 were saved.</source>
+        <translation>%1 の編集を保存する前にエディターが終了しました。</translation>
+    </message>
+    <message>
+        <source>The file has changed since. The edits are made in the file as it is now.</source>
+        <translation>その後ファイルが変更されています。編集は現在のファイルに適用されます。</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>復元する</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>The edits cannot be made in the file as it is now. They are kept.</source>
+        <translation>現在のファイルには編集を適用できません。編集は保管されています。</translation>
+    </message>
+    <message>
+        <source>Edits: %1, in %2</source>
+        <translation>編集: %1件（%2）</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::Reloading</name>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished">再読み込み</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes in the file:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard Yours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Editor::RequirementsModel</name>
     <message>
         <source>Lowest version</source>
@@ -895,16 +988,51 @@ Version %1</source>
         <translation>Brio のバージョンを追加(&amp;B)</translation>
     </message>
     <message>
-        <source>Rem&amp;ove Brio Version</source>
-        <translation>Brio のバージョンを削除(&amp;O)</translation>
-    </message>
-    <message>
         <source>Without a robot, the package is offered to none. “Add Robot” adds one.</source>
         <translation>ロボットがないと、パッケージはどのロボットにも提供されません。「ロボットを追加」で追加します。</translation>
     </message>
     <message>
         <source>The versions that the package runs on. “Add Brio Version” adds one.</source>
         <translation>パッケージが動作するバージョンです。「Brio のバージョンを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Rem&amp;ove Brio Version</source>
+        <translation>Brio のバージョンを削除(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::ReviewPage</name>
+    <message>
+        <source>Re&amp;view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What has changed since the package was saved:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Publication</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What publishing changes in the copy for users:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing: all texts are plain, in languages that the package has.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1021,12 +1149,12 @@ Version %1</source>
         <translation>言語が選択されていません。</translation>
     </message>
     <message>
-        <source>&amp;Description:</source>
-        <translation>説明(&amp;D):</translation>
-    </message>
-    <message>
         <source>&amp;Add Language…</source>
         <translation>言語を追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>説明(&amp;D):</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1170,13 @@ Version %1</source>
     <message>
         <source>The file is beside the manifest.</source>
         <translation>ファイルはマニフェストと同じ場所にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::XmlView</name>
+    <message>
+        <source>The manifest as XML</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

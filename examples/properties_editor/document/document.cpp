@@ -2,6 +2,10 @@
 
 #include "field_edits.h"
 
+#include <packagemodel/edit_session.h>
+
+#include <tano/kept_content.h>
+
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
@@ -36,6 +40,19 @@ QPixmap largest(const QIcon &icon) {
     return icon.pixmap(size);
 }
 
+// Whether a load of the manifest that a package has written gives the same package for edits:
+// it places comments and unknown content by what is around them, and describes the package in
+// every supported language.
+bool loadsAsItIs(const PackageInfoModel &package, const std::string &manifest) {
+    const auto has = [&](const char *part) { return manifest.find(part, 1) != std::string::npos; };
+    const auto &supported = package.supportedLanguages();
+    return !has("<!--") && !has("<?") && !has("xmlns") &&
+           Tano::unknownNodes(package.packageInfo()).empty() &&
+           std::all_of(supported.begin(), supported.end(), [&](const auto &language) {
+               return package.hasLanguageDescription(language);
+           });
+}
+
 } // namespace
 
 Document::Document(QObject *parent)
@@ -47,6 +64,7 @@ Document::Document(QObject *parent)
     connect(&m_pause, &QTimer::timeout, this, &Document::closeRun);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Document::checkDisk);
     watchPackage();
+    m_template = QByteArray::fromStdString(m_package->packageInfo().saveToManifestContent());
     refreshIssues();
 }
 
@@ -73,8 +91,14 @@ bool Document::openTemplate(const QByteArray &manifest) {
         m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
         return false;
     }
+    m_template = manifest;
     replacePackage(std::move(package), QString(), {});
     return true;
+}
+
+QByteArray Document::digest() const {
+    return m_fileName.isEmpty() ? Zel::PackageModel::manifestDigest(m_template)
+                                : QByteArray::fromStdString(m_onDisk.digest).toHex();
 }
 
 bool Document::save(const QString &fileName) {
@@ -91,6 +115,7 @@ bool Document::save(const QString &fileName) {
     if (path == m_fileName)
         manifest.expected = m_seenOnDisk;
     const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
+    const bool isReplayable = m_undoStack.index() == 0 || loadsAsItIs(*m_package, *manifest.bytes);
     std::vector<Tano::FileToSave> files{std::move(manifest)};
     if (!addIcon(fileName, files))
         return false;
@@ -99,6 +124,8 @@ bool Document::save(const QString &fileName) {
         return false;
     }
     m_fileName = path;
+    m_isReplayable = isReplayable;
+    m_saved = m_package->packageInfo();
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(written);
     m_undoStack.setClean();
@@ -130,15 +157,49 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
 
 bool Document::publish(const QString &fileName) {
     closeRun();
-    m_package->syncRecord();
-    PackageInfoModel published(*m_package);
-    published.trimExtraInfo();
-    published.genPlainTextFromScript();
-    published.syncRecord();
-    if (published.saveToManifestFile(fileName))
+    const auto copy = published();
+    if (copy->saveToManifestFile(fileName))
         return true;
-    m_errorString = Zel::fromUtf8(published.packageInfo().errorString());
+    m_errorString = Zel::fromUtf8(copy->packageInfo().errorString());
     return false;
+}
+
+std::unique_ptr<PackageInfoModel> Document::published() const {
+    m_package->syncRecord();
+    auto copy = std::make_unique<PackageInfoModel>(*m_package);
+    copy->trimExtraInfo();
+    copy->genPlainTextFromScript();
+    copy->syncRecord();
+    return copy;
+}
+
+std::unique_ptr<PackageInfoModel> Document::readAgain() {
+    auto package = std::make_unique<PackageInfoModel>();
+    if (package->loadFromManifestFile(m_fileName))
+        return package;
+    m_errorString = Zel::fromUtf8(package->packageInfo().errorString());
+    return nullptr;
+}
+
+std::optional<QVector<Zel::PackageModel::MergeConflict>> Document::mergeWithFile() {
+    using Zel::PackageModel::Edit;
+    const auto content = Tano::FileFingerprint::ofFile(Zel::toUtf8(m_fileName));
+    const auto theirs = readAgain();
+    if (!theirs)
+        return {};
+    closeRun();
+    m_package->syncRecord();
+    const auto merged =
+        Zel::PackageModel::merge(m_saved, m_package->packageInfo(), theirs->packageInfo());
+    if (!merged.error.isEmpty()) {
+        m_errorString = merged.error;
+        return {};
+    }
+    m_saved = theirs->packageInfo();
+    rememberDisk(content);
+    m_undoStack.resetClean(); // no step leads to what the file has
+    edit({{Edit::Action::Set, {}, merged.record}}, tr("Merge with the file"));
+    return merged.conflicts;
 }
 
 Document::DiskState Document::checkDisk() {
@@ -180,9 +241,11 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_undoStack.clear(); // its views and actions follow at once
     m_isReplacing = false;
     m_stackIndex = 0;
+    m_isReplayable = true;
     // Until everybody has heard, somebody may still look at the old one.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
+    m_saved = m_package->packageInfo();
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(content);
     watchPackage();

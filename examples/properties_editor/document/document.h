@@ -4,6 +4,7 @@
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_issues.h>
+#include <packagemodel/package_merge.h>
 
 #include <tano/save_file.h>
 
@@ -55,7 +56,22 @@ public:
     /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
     bool publish(const QString &fileName);
     const QString &fileName() const { return m_fileName; }
+    /// The package as it was opened or last saved.
+    const Tano::PackageInfo &saved() const { return m_saved; }
+    /// The manifest that a package without a file was started from.
+    const QByteArray &templateManifest() const { return m_template; }
+    /// The digest of the manifest that was last read or written, see UnsavedEdits.
+    QByteArray digest() const;
     const QString &errorString() const { return m_errorString; }
+
+    /// The package as publish() writes it.
+    std::unique_ptr<Zel::PackageInfoModel> published() const;
+    /// Reads the package that the file has now, which another program may have changed.
+    std::unique_ptr<Zel::PackageInfoModel> readAgain();
+    /// Merges what another program has written into the file with the edits since it was last read
+    /// or saved, as an undo step. Returns the conflicts, which the issues hold too; nothing if the
+    /// file cannot be merged.
+    std::optional<QVector<Zel::PackageModel::MergeConflict>> mergeWithFile();
 
     /// Compares the file with what was last read or written. Once for every difference, sends
     /// fileDiffers().
@@ -80,7 +96,7 @@ public:
     void setTypingPause(std::chrono::milliseconds pause) { m_pause.setInterval(pause); }
 
     /// The edits that lead from the package as it was opened or last saved to the present one; the
-    /// whole package if the undo stack cannot lead back there. The icon is not among them.
+    /// whole package if edits cannot lead there exactly. The icon is not among them.
     Zel::PackageModel::Edits pendingEdits() const;
 
     // What is wrong, as it is right now.
@@ -126,6 +142,7 @@ private:
     Tano::FieldPath m_run; // the field that is being typed in; empty while no run is open
     QTimer m_pause;
     int m_stackIndex = 0;
+    bool m_isReplayable = true; // whether a load of the saved file takes the edits that follow
     bool m_isPushing = false;
     bool m_isReplacing = false;
 
@@ -138,6 +155,8 @@ private:
     mutable std::optional<std::vector<Zel::PackageModel::LanguageCoverage>> m_coverages;
 
     QString m_fileName;
+    Tano::PackageInfo m_saved;
+    QByteArray m_template;
     QString m_errorString;
     QFileSystemWatcher m_watcher;
     Tano::FileFingerprint m_onDisk; // when last read or written

@@ -110,14 +110,19 @@ FieldPath Document::changedField(int indexBefore) const {
     const PackageEditCommand *command = commandAt(isUndo ? m_stackIndex : m_stackIndex - 1);
     if (!command)
         return {};
-    // What leads away from the present state has the paths of the present state.
+    // What leads away from the present state has the paths of the present state. Edits that follow
+    // from another one, such as that of a language, are not at this end.
     const Edits &edits = isUndo ? command->edits() : command->inverse();
-    return edits.isEmpty() ? FieldPath() : edits.front().path;
+    if (edits.isEmpty())
+        return {};
+    return isUndo ? edits.back().path : edits.front().path;
 }
 
 Edits Document::pendingEdits() const {
     const int clean = m_undoStack.cleanIndex();
-    if (clean < 0) {
+    if (!isModified())
+        return {};
+    if (clean < 0 || !m_isReplayable) {
         m_package->syncRecord();
         return {{Edit::Action::Set, {}, m_package->packageInfo()}};
     }

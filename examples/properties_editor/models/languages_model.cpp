@@ -17,13 +17,11 @@ using Zel::Language::languageInUse;
 using Zel::PackageModel::Edit;
 using Zel::PackageModel::LanguageCoverage;
 
-// The list that a check box puts a language in.
-FieldPath listOf(LanguagesModel::Column column) {
-    return FieldPath().field(column == LanguagesModel::Supported ? "supportedLanguages"
-                                                                 : "descriptionLanguages");
-}
-
 } // namespace
+
+FieldPath LanguagesModel::listOf(Column column) {
+    return FieldPath().field(column == Supported ? "supportedLanguages" : "descriptionLanguages");
+}
 
 LanguagesModel::LanguagesModel(Document &document, QObject *parent)
     : TableModel(document, parent) {

@@ -23,6 +23,8 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Tano::FieldPath field(const QModelIndex &index) const override;
 
+    /// The list that the check boxes of a column put a language in.
+    static Tano::FieldPath listOf(Column column);
     /// Makes a language a supported one.
     void add(const QString &code);
     /// Removes a language with all texts in it.

@@ -12,6 +12,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Editor {
 
 RequirementsPage::RequirementsPage(Document &document, QWidget *parent)
@@ -84,8 +86,8 @@ bool RequirementsPage::showField(const Tano::FieldPath &path) {
         if (fieldName(path) != fieldName(part.model->list()))
             continue;
         part.table->setFocus(Qt::OtherFocusReason);
-        part.table->setCurrentIndex(
-            part.model->index(fieldKey(path).toInt(), part.model->columnOf(fieldName(path, 1))));
+        part.table->setCurrentIndex(part.model->index(
+            fieldKey(path).toInt(), std::max(0, part.model->columnOf(fieldName(path, 1)))));
         return true;
     }
     return false;

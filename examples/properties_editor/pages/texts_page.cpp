@@ -138,6 +138,14 @@ void TextsPage::addLanguage(const QString &code) {
 }
 
 bool TextsPage::showField(const FieldPath &path) {
+    for (const auto column : {LanguagesModel::Supported, LanguagesModel::Described}) {
+        if (fieldName(path) != fieldName(LanguagesModel::listOf(column)))
+            continue;
+        m_table->setFocus(Qt::OtherFocusReason);
+        m_table->setCurrentIndex(
+            m_model->index(int(m_model->keys().indexOf(fieldKey(path))), column));
+        return true;
+    }
     const bool isName = fieldName(path) == QLatin1String("names");
     if (!isName && fieldName(path) != QLatin1String("descriptions"))
         return false;

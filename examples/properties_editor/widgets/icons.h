@@ -22,6 +22,7 @@ enum class Symbol {
     Behaviors,
     Dialogs,
     Services,
+    Review,
     Add,
     Remove,
     Check,

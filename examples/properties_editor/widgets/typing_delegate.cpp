@@ -67,6 +67,12 @@ void TypingDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         model->setData(index, combo->currentData());
 }
 
+// A mark, which may go while one types, takes no room from the editor.
+void TypingDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                          const QModelIndex &) const {
+    editor->setGeometry(option.rect);
+}
+
 QSize TypingDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
     size.setHeight(std::max(size.height(), option.fontMetrics.height() + 10));

@@ -27,7 +27,7 @@ FileSave::FileSave(const FileToSave &file)
 std::string FileSave::prepare() {
     for (const auto step : {&FileSave::resolve, &FileSave::openTarget, &FileSave::openFolder,
                             &FileSave::checkExpected, &FileSave::writeCopy}) {
-        const std::string reason = (this->*step)();
+        std::string reason = (this->*step)();
         if (!reason.empty())
             return reason;
     }

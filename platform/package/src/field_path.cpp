@@ -136,9 +136,22 @@ std::size_t FieldPath::find(std::string_view text, char character) {
     return std::string_view::npos;
 }
 
+const std::vector<FieldPath::Step> &FieldPath::steps() const {
+    static const std::vector<Step> none;
+    return m_steps ? *m_steps : none;
+}
+
+std::vector<FieldPath::Step> &FieldPath::edit() {
+    if (!m_steps)
+        m_steps = std::make_shared<std::vector<Step>>();
+    else if (m_steps.use_count() > 1)
+        m_steps = std::make_shared<std::vector<Step>>(*m_steps);
+    return *m_steps;
+}
+
 std::string FieldPath::toString() const {
     std::string text;
-    for (const Step &step : m_steps) {
+    for (const Step &step : steps()) {
         if (!text.empty())
             text += '.';
         text += step.field;
@@ -149,13 +162,13 @@ std::string FieldPath::toString() const {
 }
 
 FieldPath &FieldPath::field(std::string_view name) {
-    m_steps.push_back({std::string(name), {}});
+    edit().push_back({std::string(name), {}});
     return *this;
 }
 
 FieldPath &FieldPath::key(std::string_view key) {
-    if (!m_steps.empty())
-        m_steps.back().selectors.push_back({std::string(key), false});
+    if (!isEmpty())
+        edit().back().selectors.push_back({std::string(key), false});
     return *this;
 }
 
@@ -169,18 +182,19 @@ FieldPath &FieldPath::entry(std::string_view key, int index) {
 }
 
 FieldPath &FieldPath::end() {
-    if (!m_steps.empty())
-        m_steps.back().selectors.push_back({std::string(endSelector), true});
+    if (!isEmpty())
+        edit().back().selectors.push_back({std::string(endSelector), true});
     return *this;
 }
 
 FieldPath FieldPath::parent() const {
     FieldPath path = *this;
-    if (path.m_steps.empty())
+    if (path.isEmpty())
         return path;
-    auto &selectors = path.m_steps.back().selectors;
+    auto &steps = path.edit();
+    auto &selectors = steps.back().selectors;
     if (selectors.empty())
-        path.m_steps.pop_back();
+        steps.pop_back();
     else
         selectors.pop_back();
     return path;

@@ -1,7 +1,6 @@
 #include <tano/kept_content.h>
 
-#include "field_positions.h"
-#include "manifest_writer.h"
+#include "path_observer.h"
 #include "xml_reading.h"
 
 #include <algorithm>
@@ -16,42 +15,6 @@ namespace {
 
 constexpr std::string_view commentStart = "<!--";
 constexpr std::string_view commentEnd = "-->";
-
-// Knows the path of the innermost element that is being written.
-class PathObserver : public WriteObserver {
-public:
-    void elementStarts(Element element, const std::string &key, int index,
-                       std::size_t /*offset*/) override {
-        const int sameKey = isEntry(element) ? m_entries[{element, key}]++ : index;
-        m_open.push_back({element, key, sameKey});
-    }
-    void elementEnds() override { m_open.pop_back(); }
-
-protected:
-    // How many elements are open.
-    std::size_t depth() const { return m_open.size(); }
-    Element element() const { return m_open.back().element; }
-
-    FieldPath path() const {
-        FieldPath path;
-        std::string_view language; // of the block of texts around the element
-        for (const Open &open : m_open) {
-            if (open.element != Element::Package)
-                appendField(path, open.element, open.key, open.index, language);
-            language = isTextsBlock(open.element) ? open.key : std::string_view();
-        }
-        return path;
-    }
-
-private:
-    struct Open {
-        Element element;
-        std::string_view key;
-        int index; // among the siblings with the same key
-    };
-    std::vector<Open> m_open;
-    std::map<std::pair<Element, std::string>, int> m_entries;
-};
 
 class CommentFinder : public PathObserver {
 public:
@@ -209,17 +172,6 @@ private:
     std::map<FieldPath, std::size_t> m_offsets;
 };
 
-WrittenManifest write(const PackageInfo &package, WriteObserver &observer) {
-    return writeManifest(RecordAccess::data(package), &observer);
-}
-
-std::optional<PackageInfo> read(const std::string &manifest) {
-    PackageInfo package;
-    if (!ManifestReader().readContent(manifest, package))
-        return {};
-    return package;
-}
-
 // With what XML does not allow in a comment taken apart.
 std::string commentOf(const std::string &text) {
     std::string xml(commentStart);
@@ -272,41 +224,8 @@ bool isSame(const UnknownNode &a, const UnknownNode &b) {
            a.parentPath == b.parentPath;
 }
 
-// Whether content that begins with `start` is kept anywhere in an element: without any, the
-// manifest need not be written to look for it.
-template<typename IsLooked>
-bool keeps(const ExtrasPointer &extras, IsLooked isLooked) {
-    if (!extras)
-        return false;
-    if (!extras->attributes.empty() && isLooked("<a"))
-        return true;
-    for (const Extras::Kept &kept : extras->kept) {
-        bool isKept = false;
-        forEachPiece(kept.xml, [&](std::string_view piece) { isKept = isKept || isLooked(piece); });
-        if (isKept)
-            return true;
-    }
-    return std::any_of(extras->children.begin(), extras->children.end(),
-                       [&](const auto &child) { return keeps(child.extras, isLooked); });
-}
-
-template<typename IsLooked>
-bool keeps(const PackageInfo &package, IsLooked isLooked) {
-    const auto anyOf = [&](const auto &records) {
-        return std::any_of(records.begin(), records.end(), [&](const auto &record) {
-            return keeps(RecordAccess::data(record).extras, isLooked);
-        });
-    };
-    return keeps(RecordAccess::data(package).extras, isLooked) || anyOf(package.behaviors()) ||
-           anyOf(package.dialogs());
-}
-
 bool isComment(std::string_view piece) {
     return piece.substr(0, 4) == "<!--";
-}
-
-bool isElement(std::string_view piece) {
-    return piece.size() > 1 && piece[0] == '<' && piece[1] != '!' && piece[1] != '?';
 }
 
 } // namespace

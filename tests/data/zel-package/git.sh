@@ -12,7 +12,7 @@ repository() {
     cp "$FILES/good.xml" manifest.xml
     if [ "$1" = with ]; then
         echo 'manifest.xml merge=zel-package diff=zel-package' >.gitattributes
-        git config merge.zel-package.driver 'zel-package merge %O %A %B'
+        git config merge.zel-package.driver 'zel-package merge %O %A %B --path %P'
     fi
     git add . && git commit -qm base && git checkout -qb theirs || exit
     zel-package set manifest.xml $3 && git commit -qam theirs && git checkout -q ours || exit
@@ -24,6 +24,6 @@ merges() {
     for driver in without with; do
         (repository $driver "$1" "$2"
         git merge theirs >/dev/null 2>messages && echo "$driver: merged" || echo "$driver: conflict"
-        grep ^zel-package messages | sed 's/merge_file_[[:alnum:]]*/FILE/')
+        grep ^zel-package messages)
     done
 }

@@ -1,10 +1,11 @@
 #include "program_command.h"
 
 #include "arguments/format_option.h"
-#include "change_lines.h"
 #include "console/json_list.h"
+#include "console/text_layout.h"
 #include "manifest/manifest_source.h"
 
+#include <packagemodel/change_words.h>
 #include <packagemodel/package_difference.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
@@ -26,7 +27,8 @@ void printText(const Tano::PackageInfo &from, const Zel::PackageModel::Edits &ed
                 "zel-package", "Only comments, unknown content or the notation of values differ.") %
             u'\n');
     Zel::PackageInfoModel package(from);
-    visitChanges(&package, edits, [&](const QString &line) { console.print(line % u'\n'); });
+    Zel::PackageModel::visitChanges(
+        &package, edits, [&](const QString &line) { console.print(printable(line) % u'\n'); });
 }
 
 void printJson(const Zel::PackageModel::Edits &edits, Console &console) {

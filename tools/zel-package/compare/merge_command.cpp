@@ -2,10 +2,10 @@
 
 #include "arguments/native_text.h"
 #include "console/library_text.h"
-#include "excerpt.h"
 #include "manifest/manifest_source.h"
 #include "manifest/output_file.h"
 
+#include <packagemodel/change_words.h>
 #include <packagemodel/package_merge.h>
 #include <packagemodel/text_conversion.h>
 
@@ -18,11 +18,43 @@ namespace {
 
 using Zel::PackageModel::MergeConflict;
 
+const QLatin1String pathOption("path");
+
 QList<QCommandLineOption> options() {
     return {{{QStringLiteral("o"), outputOptionName},
              QCoreApplication::translate(
                  "zel-package", "Write to this file rather than OURS; '-' is standard output."),
-             QStringLiteral("OUT")}};
+             QStringLiteral("OUT")},
+            {pathOption,
+             QCoreApplication::translate("zel-package",
+                                         "Call the manifest PATH in messages: git merges copies, "
+                                         "and passes the path as %P."),
+             QStringLiteral("PATH")}};
+}
+
+// A version of the manifest, and its name in messages.
+struct Side {
+    QString file;
+    QString name;
+};
+
+struct Request {
+    Side base;
+    Side ours;
+    Side theirs;
+    QString output;
+};
+
+Request requestOf(const QCommandLineParser &arguments) {
+    const QStringList files = arguments.positionalArguments();
+    const QString path = arguments.value(pathOption);
+    const auto side = [&](int index, const QString &name) {
+        return Side{files.at(index), path.isEmpty() ? files.at(index) : name.arg(path)};
+    };
+    return {side(0, QCoreApplication::translate("zel-package", "%1 (base)")),
+            side(1, QStringLiteral("%1")),
+            side(2, QCoreApplication::translate("zel-package", "%1 (theirs)")),
+            arguments.isSet(outputOptionName) ? arguments.value(outputOptionName) : files.at(1)};
 }
 
 bool hasLineWith(const std::string &content, const std::string &start) {
@@ -37,9 +69,9 @@ bool hasConflictMarkers(const std::string &content) {
 
 // A side of the merge. An empty file is a package without anything: git passes one as the base of
 // files that both branches have added.
-std::optional<Manifest> readSide(const QString &file, Console &console) {
+std::optional<Manifest> readSide(const Side &side, Console &console) {
     ManifestTrouble trouble;
-    const auto content = readContent(file, trouble.text);
+    const auto content = readContent(side.file, trouble.text);
     if (content && content->empty())
         return Manifest();
     if (content && hasConflictMarkers(*content))
@@ -49,18 +81,18 @@ std::optional<Manifest> readSide(const QString &file, Console &console) {
         if (auto manifest = manifestOf(*content, trouble))
             return manifest;
     }
-    console.tell(file, trouble.position, trouble.text);
+    console.tell(side.name, trouble.position, trouble.text);
     return {};
 }
 
 QString inWords(const MergeConflict &conflict) {
     if (conflict.ours.isNull())
         return QCoreApplication::translate("zel-package", "Removed by ours, %1 in theirs.")
-            .arg(excerpt(conflict.theirs));
+            .arg(Zel::PackageModel::excerpt(conflict.theirs));
     if (conflict.theirs.isNull())
         return QCoreApplication::translate("zel-package", "%1 in ours, removed by theirs.")
-            .arg(excerpt(conflict.ours));
-    const Excerpts shown = excerpts(conflict.ours, conflict.theirs);
+            .arg(Zel::PackageModel::excerpt(conflict.ours));
+    const auto shown = Zel::PackageModel::excerpts(conflict.ours, conflict.theirs);
     return QCoreApplication::translate("zel-package", "%1 in ours, %2 in theirs.")
         .arg(shown.before, shown.after);
 }
@@ -83,26 +115,26 @@ bool saveOurs(const QString &file, const Manifest &ours, const std::string &cont
     return bool(result);
 }
 
-ExitStatus merge(const QStringList &files, const QString &output, Console &console) {
-    const auto base = readSide(files.at(0), console);
-    const auto ours = readSide(files.at(1), console);
-    const auto theirs = readSide(files.at(2), console);
+ExitStatus merge(const Request &request, Console &console) {
+    const auto base = readSide(request.base, console);
+    const auto ours = readSide(request.ours, console);
+    const auto theirs = readSide(request.theirs, console);
     if (!base || !ours || !theirs)
         return Failure;
     const auto merged = Zel::PackageModel::merge(base->package, ours->package, theirs->package);
     const std::string content = merged.record.saveToManifestContent();
     if (!merged.error.isEmpty() || content.empty()) {
-        console.tell(files.at(1), merged.error.isEmpty()
-                                      ? translatedSentence(merged.record.errorString())
-                                      : merged.error);
+        console.tell(request.ours.name, merged.error.isEmpty()
+                                            ? translatedSentence(merged.record.errorString())
+                                            : merged.error);
         return Failure;
     }
-    const bool isSaved = output == files.at(1) && !isStandardStream(output)
-                             ? saveOurs(output, *ours, content, console)
-                             : writeOutput(output, content, console);
+    const bool isOurs = request.output == request.ours.file && !isStandardStream(request.output);
+    const bool isSaved = isOurs ? saveOurs(request.output, *ours, content, console)
+                                : writeOutput(request.output, content, console);
     if (!isSaved)
         return Failure;
-    report(files.at(1), merged.conflicts, console);
+    report(request.ours.name, merged.conflicts, console);
     return merged.conflicts.isEmpty() ? Fine : Findings;
 }
 
@@ -112,9 +144,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
         console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
         return Failure;
     }
-    const QString output =
-        arguments.isSet(outputOptionName) ? arguments.value(outputOptionName) : files.at(1);
-    return merge(files, output, console);
+    return merge(requestOf(arguments), console);
 }
 
 } // namespace
@@ -122,7 +152,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 const ProgramCommand mergeCommand{
     "merge",
     QT_TRANSLATE_NOOP("zel-package", "Merge the changes of two manifests by field"),
-    QT_TRANSLATE_NOOP("zel-package", "BASE OURS THEIRS [-o OUT]"),
+    QT_TRANSLATE_NOOP("zel-package", "BASE OURS THEIRS [-o OUT] [--path PATH]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
         "Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both "

@@ -11,11 +11,14 @@
 #include <tano/save_file.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
+#include <filesystem>
 #include <numeric>
+#include <utility>
 
 namespace ZelPackage {
 namespace {
@@ -122,6 +125,20 @@ std::vector<Baseline::Entry> Baseline::left(const QString &manifest) const {
         entries.push_back({rule, field, it.value()});
     }
     return entries;
+}
+
+QStringList Baseline::missingManifests() const {
+    QStringList missing;
+    QString last;
+    for (auto it = m_counts.constBegin(); it != m_counts.constEnd(); ++it) {
+        const QString &file = std::get<0>(it.key());
+        if (file == std::exchange(last, file) || isStandardStream(QFileInfo(file).fileName()))
+            continue;
+        std::error_code ignored;
+        if (!std::filesystem::exists(nativeBytes(QDir(m_folder).filePath(file)), ignored))
+            missing += file;
+    }
+    return missing;
 }
 
 int Baseline::size() const {

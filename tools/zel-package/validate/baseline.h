@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <tuple>
 #include <vector>
@@ -38,6 +39,8 @@ public:
     bool take(const QString &manifest, const QString &rule, const QString &field);
     /// The findings of a manifest that are left.
     std::vector<Entry> left(const QString &manifest) const;
+    /// The manifests with findings left that do not exist, named as in the file.
+    QStringList missingManifests() const;
 
     int size() const;
 

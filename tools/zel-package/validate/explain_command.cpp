@@ -25,13 +25,8 @@ QString tableOf(const QVector<Rule> &rules, const Console &console) {
 
 void printJson(const QVector<Rule> &rules, Console &console) {
     JsonListForm form(QLatin1String("rules"), console);
-    for (const Rule &rule : rules) {
-        form.add({{QStringLiteral("id"), rule.id},
-                  {QStringLiteral("severity"), wordOf(rule.severity)},
-                  {QStringLiteral("message"), messageForm(rule)},
-                  {QStringLiteral("explanation"), rule.explanation},
-                  {QStringLiteral("remedy"), rule.remedy}});
-    }
+    for (const Rule &rule : rules)
+        form.add(ruleJson(rule));
     form.finish();
 }
 

@@ -81,13 +81,8 @@ private:
     void writeRules(const QVector<Zel::PackageModel::Rule> &rules) {
         m_console.print(QStringLiteral("],\n\"rules\": ["));
         JsonList list(m_console);
-        for (const auto &rule : rules) {
-            list.add({{QStringLiteral("id"), rule.id},
-                      {QStringLiteral("severity"), wordOf(rule.severity)},
-                      {QStringLiteral("message"), messageForm(rule)},
-                      {QStringLiteral("explanation"), rule.explanation},
-                      {QStringLiteral("remedy"), rule.remedy}});
-        }
+        for (const auto &rule : rules)
+            list.add(ruleJson(rule));
     }
 
     Console &m_console;

@@ -26,6 +26,15 @@ QString indented(const QString &text, const Console &console) {
     return result;
 }
 
+QString exampleOf(const Rule &rule) {
+    if (rule.example.isEmpty())
+        return {};
+    QString lines = u'\n' % QCoreApplication::translate("zel-package", "  For example:") % u'\n';
+    for (const QString &line : rule.example.split(u'\n'))
+        lines += QStringLiteral("    ") % line % u'\n';
+    return lines;
+}
+
 } // namespace
 
 const QLatin1String malformedRuleId("manifest-malformed");
@@ -41,6 +50,7 @@ struct OwnRule {
     const char *message;
     const char *explanation;
     const char *remedy;
+    const char *example;
 };
 
 // clang-format off
@@ -48,19 +58,23 @@ const std::array ownRules{
     OwnRule{baselineUnusedRuleId, Severity::Note,
      QT_TRANSLATE_NOOP("zel-package", "The baseline lists '%1' here, which is not found any more."),
      QT_TRANSLATE_NOOP("zel-package", "A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back."),
-     QT_TRANSLATE_NOOP("zel-package", "Write the baseline again with --write-baseline.")},
+     QT_TRANSLATE_NOOP("zel-package", "Write the baseline again with --write-baseline."),
+     "{\"count\":1,\"field\":\"date\",\"file\":\"manifest.xml\",\"rule\":\"date-invalid\"}"},
     OwnRule{ignoreUnusedRuleId, Severity::Note,
      QT_TRANSLATE_NOOP("zel-package", "The comment ignores '%1', which is not found here."),
      QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' applies to the element that follows it. Where its rules find nothing, it would hide findings that come later."),
-     QT_TRANSLATE_NOOP("zel-package", "Remove the rule from the comment, or the comment.")},
+     QT_TRANSLATE_NOOP("zel-package", "Remove the rule from the comment, or the comment."),
+     "<!-- zel-package: ignore nature-unknown -->\n<behavior path=\"greet\" nature=\"solitary\"/>"},
     OwnRule{ignoreUnknownRuleId, Severity::Warning,
      QT_TRANSLATE_NOOP("zel-package", "There is no rule '%1'%2"),
      QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' names a rule that does not exist, so that it has no effect."),
-     QT_TRANSLATE_NOOP("zel-package", "Write the id of a rule; 'zel-package explain' lists them.")},
+     QT_TRANSLATE_NOOP("zel-package", "Write the id of a rule; 'zel-package explain' lists them."),
+     "<!-- zel-package: ignore nature -->\n<behavior path=\"greet\" nature=\"solo\"/>"},
     OwnRule{malformedRuleId, Severity::Error,
      QT_TRANSLATE_NOOP("zel-package", "The manifest is malformed."),
      QT_TRANSLATE_NOOP("zel-package", "The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2."),
-     QT_TRANSLATE_NOOP("zel-package", "Correct the file at the line and column that are given, then check it again.")},
+     QT_TRANSLATE_NOOP("zel-package", "Correct the file at the line and column that are given, then check it again."),
+     "<author>Smith & Sons</author>"},
 };
 // clang-format on
 
@@ -74,7 +88,8 @@ QVector<Rule> reportRules() {
     QVector<Rule> rules = Zel::PackageModel::rules();
     for (const OwnRule &rule : ownRules)
         rules.append({rule.id, rule.severity, translated(rule.message),
-                      translated(rule.explanation), translated(rule.remedy)});
+                      translated(rule.explanation), translated(rule.remedy),
+                      QLatin1String(rule.example)});
     return rules;
 }
 
@@ -130,20 +145,22 @@ QString messageForm(const Rule &rule) {
         .replace(placeholder, QStringLiteral("…"));
 }
 
-QString exampleOf(const Rule &rule) {
-    if (rule.example.isEmpty())
-        return {};
-    QString lines = u'\n' % QCoreApplication::translate("zel-package", "  For example:") % u'\n';
-    for (const QString &line : rule.example.split(u'\n'))
-        lines += QStringLiteral("    ") % line % u'\n';
-    return lines;
-}
-
 QString explanationOf(const Rule &rule, const Console &console) {
     return console.styled(rule.id, Style::Heading) % u' ' %
            console.styled(u'(' % wordOf(rule.severity) % u')', Style::Faint) % u'\n' %
            indented(messageForm(rule), console) % u'\n' % indented(rule.explanation, console) %
            u'\n' % indented(rule.remedy, console) % exampleOf(rule);
+}
+
+QJsonObject ruleJson(const Rule &rule) {
+    QJsonObject object{{QStringLiteral("id"), rule.id},
+                       {QStringLiteral("severity"), wordOf(rule.severity)},
+                       {QStringLiteral("message"), messageForm(rule)},
+                       {QStringLiteral("explanation"), rule.explanation},
+                       {QStringLiteral("remedy"), rule.remedy}};
+    if (!rule.example.isEmpty())
+        object[QStringLiteral("example")] = rule.example;
+    return object;
 }
 
 QString unknownRule(const QString &id, const QStringList &known) {

@@ -4,6 +4,7 @@
 
 #include <packagemodel/package_issues.h>
 
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -39,8 +40,11 @@ QString messageOf(QLatin1String ownRule);
 /// The rule's message as plain text, "…" where it names something.
 QString messageForm(const Zel::PackageModel::Rule &rule);
 
-/// The message, explanation and remedy of a rule, in lines of the width of the terminal.
+/// The message, explanation, remedy and example of a rule, in lines of the width of the terminal.
 QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
+
+/// A rule as "rules" of schema/rules.schema.json has it.
+QJsonObject ruleJson(const Zel::PackageModel::Rule &rule);
 
 /// The sentence that there is no such rule, with the nearest ones.
 QString unknownRule(const QString &id, const QStringList &known);

@@ -258,6 +258,25 @@ std::vector<ManifestFinding> Validation::unusedEntries(const QString &file) cons
     return findings;
 }
 
+// Their entries have no manifest to be reported in.
+void Validation::reportMissingManifests() {
+    const Target target = targetOf(m_request.baseline);
+    if (target.settings.isOff(baselineUnusedRuleId))
+        return;
+    CheckedManifest baseline{target.name};
+    for (const QString &file : m_baseline->missingManifests())
+        baseline.findings.push_back(
+            {{1, 1},
+             baselineUnusedRuleId,
+             target.settings.severityOf(baselineUnusedRuleId, Severity::Note),
+             {},
+             QCoreApplication::translate(
+                 "zel-package",
+                 "The baseline lists findings in '%1', which does not exist any more.")
+                 .arg(file)});
+    write(target, baseline);
+}
+
 void Validation::write(const Target &target, CheckedManifest &manifest) {
     auto &findings = manifest.findings;
     const auto isReported = [&](const ManifestFinding &finding) {
@@ -297,6 +316,8 @@ void Validation::reportTruncated(const QString &file) {
 }
 
 Report Validation::finish() {
+    if (m_baseline)
+        reportMissingManifests();
     if (m_newBaseline) {
         if (const QString error = m_newBaseline->write(); !error.isEmpty())
             reportTrouble(m_request.newBaseline, error);

@@ -42,6 +42,7 @@ private:
     void collect(const Target &target, const Tano::ManifestReader &reader,
                  CheckedManifest &manifest);
     std::vector<ManifestFinding> unusedEntries(const QString &file) const;
+    void reportMissingManifests();
     void write(const Target &target, CheckedManifest &manifest);
     void count(const ManifestFinding &finding, const RuleSettings &settings);
     void reportTruncated(const QString &file);

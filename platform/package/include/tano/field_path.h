@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +18,9 @@ namespace Tano {
 /// `robotRequirements[0].maxBodyVersion` or `behaviors[greet].triggerSentences[ja_JP][0]`. UTF-8
 /// throughout; the empty path is the package.
 ///
-/// A path is a list of steps separated by dots; a step is the name of a field and any number of
-/// selectors in brackets. A selector is a key (a language code, a behavior's path), an index, or
+/// A path is an implicitly shared list of steps separated by dots; a step is the name of a field
+/// and any number of selectors in brackets. A selector is a key (a language code, a behavior's
+/// path), an index, or
 /// `[+]`, the place after the last entry. `behaviors[greet][1]` is the second behavior with the
 /// path "greet"; the index 0 of an entry is left out. In a selector, `\` precedes a literal `]` or
 /// `\`, and the key "+" is written `[\+]`.
@@ -57,8 +59,8 @@ public:
 
     std::string toString() const;
 
-    const std::vector<Step> &steps() const { return m_steps; }
-    bool isEmpty() const { return m_steps.empty(); }
+    const std::vector<Step> &steps() const;
+    bool isEmpty() const { return steps().empty(); }
 
     // Each appends to the path and returns it. Selectors belong to the last field.
 
@@ -74,7 +76,9 @@ public:
     FieldPath parent() const;
 
 private:
-    std::vector<Step> m_steps;
+    std::vector<Step> &edit();
+
+    std::shared_ptr<std::vector<Step>> m_steps; // shared with copies; null for none
 };
 
 inline bool operator==(const FieldPath::Selector &a, const FieldPath::Selector &b) {
@@ -90,7 +94,7 @@ inline bool operator<(const FieldPath::Step &a, const FieldPath::Step &b) {
     return std::tie(a.field, a.selectors) < std::tie(b.field, b.selectors);
 }
 inline bool operator==(const FieldPath &a, const FieldPath &b) {
-    return a.steps() == b.steps();
+    return &a.steps() == &b.steps() || a.steps() == b.steps();
 }
 inline bool operator!=(const FieldPath &a, const FieldPath &b) {
     return !(a == b);

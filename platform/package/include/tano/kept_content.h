@@ -82,6 +82,31 @@ withoutComments(const PackageInfo &package, const std::vector<KeptComment> &remo
 /// ManifestReader::unknownNodes() returns those of a file.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::vector<UnknownNode> unknownNodes(const PackageInfo &package);
 
+/// An element or attribute beyond the format, of any namespace, as it is written.
+struct KeptNode {
+    UnknownNode::Kind kind;
+    std::string name;     ///< with its prefix; `xmlns:x` for the declaration of one
+    std::string xml;      ///< the whole element, or ` name="value"`
+    std::string parent;   ///< the name of the element around it
+    FieldPath parentPath; ///< of that element; of a block of texts, the package or behavior
+    std::string language; ///< of the block of texts; empty for another parent
+};
+
+/// All of them in the order of writing; of an element within one, only the outer.
+[[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptNode> keptNodes(const PackageInfo &package);
+
+/// A package with other nodes, and those that could not be added.
+struct ChangedNodes {
+    PackageInfo package;
+    std::vector<KeptNode> left;
+};
+
+/// Removes nodes and adds others, elements at the start of their parent. Nodes are left whose
+/// parent is absent; all of them, and nothing is removed, if the result could not be read.
+[[nodiscard]] TANO_PACKAGE_EXPORT ChangedNodes withKeptNodes(const PackageInfo &package,
+                                                             const std::vector<KeptNode> &removed,
+                                                             const std::vector<KeptNode> &added);
+
 /// The names that the format knows where a node is: of attributes for an attribute, of elements for
 /// an element. Empty if no manifest has such a parent.
 [[nodiscard]] TANO_PACKAGE_EXPORT std::vector<std::string> knownNames(const UnknownNode &node);

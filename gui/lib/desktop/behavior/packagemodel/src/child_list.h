@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <optional>
 #include <string>
@@ -308,6 +309,33 @@ public:
         return found;
     }
 
+    /// All children with a key, in their order.
+    std::vector<Child *> findAll(const std::string &key) {
+        std::vector<Child *> found;
+        if (!find(key))
+            return found;
+        const auto end = m_index.upper_bound({key, std::numeric_limits<std::uint64_t>::max()});
+        for (auto entry = m_index.lower_bound({key, 0}); entry != end; ++entry)
+            found.push_back(entry->second);
+        for (Child *child : m_unindexed) {
+            if (key == foundKeyOf(*child))
+                found.push_back(child);
+        }
+        std::sort(found.begin(), found.end(),
+                  [](const Child *a, const Child *b) { return labelOf(*a) < labelOf(*b); });
+        return found;
+    }
+
+    /// The index of a child of this list.
+    int placeOf(const Child &child) const {
+        const auto isBefore = [](const Child *a, std::uint64_t label) {
+            return labelOf(*a) < label;
+        };
+        const auto found =
+            std::lower_bound(m_children.cbegin(), m_children.cend(), labelOf(child), isBefore);
+        return static_cast<int>(found - m_children.cbegin());
+    }
+
     static const std::string &keyOf(const Child &child) {
         return std::invoke(Kind::key, ChildAccess::data(child).record());
     }
@@ -410,16 +438,6 @@ private:
             data.m_label = label += labelGap;
             data.m_indexEntry.reset();
         }
-    }
-
-    // The index of a child of this list.
-    int placeOf(const Child &child) const {
-        const auto isBefore = [](const Child *a, std::uint64_t label) {
-            return labelOf(*a) < label;
-        };
-        const auto found =
-            std::lower_bound(m_children.cbegin(), m_children.cend(), labelOf(child), isBefore);
-        return static_cast<int>(found - m_children.cbegin());
     }
 
     void remove(int index, ChildData<Child> &data) {

@@ -31,8 +31,8 @@ struct PackageIcon {
 
 namespace {
 
-constexpr int largestExtent = 4096;              // pixels
-constexpr qint64 largestFile = 16 * 1024 * 1024; // bytes
+constexpr int largestExtent = 4096;                      // pixels
+constexpr qint64 largestFile = qint64(16) * 1024 * 1024; // bytes
 
 bool hasDisplay() {
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance());

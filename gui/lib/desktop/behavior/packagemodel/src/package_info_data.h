@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <type_traits>
 
 namespace Zel {
 
@@ -64,5 +65,17 @@ struct PackageInfoModel::Data {
 private:
     Tano::PackageInfo m_record;
 };
+
+/// The package's children of a kind.
+template<typename Child>
+ChildList<Child> &childrenOf(const PackageInfoModel &package) {
+    auto &data = ChildAccess::data(package);
+    if constexpr (std::is_same_v<Child, BehaviorInfoModel>)
+        return data.behaviors;
+    else if constexpr (std::is_same_v<Child, DialogInfoModel>)
+        return data.dialogs;
+    else
+        return data.services;
+}
 
 } // namespace Zel

@@ -5,6 +5,7 @@
 #include "meta_types.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace Zel {
@@ -95,12 +96,12 @@ void PackageInfoValidator::deactivate() {
 
 void PackageInfoValidator::validateAll() {
     using Check = void (PackageInfoValidator::*)();
-    constexpr Check checks[]{&PackageInfoValidator::validateUID,
-                             &PackageInfoValidator::validateRobotRequirements,
-                             &PackageInfoValidator::validateBrioRequirements,
-                             &PackageInfoValidator::validateApplicationNames,
-                             &PackageInfoValidator::validateApplicationDescriptions,
-                             &PackageInfoValidator::validateBehaviorTriggerSentences};
+    constexpr std::array<Check, 6> checks{&PackageInfoValidator::validateUID,
+                                          &PackageInfoValidator::validateRobotRequirements,
+                                          &PackageInfoValidator::validateBrioRequirements,
+                                          &PackageInfoValidator::validateApplicationNames,
+                                          &PackageInfoValidator::validateApplicationDescriptions,
+                                          &PackageInfoValidator::validateBehaviorTriggerSentences};
     const QPointer<PackageInfoValidator> living(this);
     for (const Check check : checks) {
         if (living)

@@ -40,9 +40,9 @@ struct Merged {
 ///   stays, and a comment before the field holds both values, which the rule merge-conflict reports
 ///   until it is removed.
 ///
-/// Comments and unknown content of `ours` stay. Comments that `theirs` added or removed are added
-/// or removed; unknown elements and attributes that `theirs` added come along in entries that
-/// `ours` left unchanged or does not have, and are conflicts anywhere else.
+/// Comments that `theirs` added or removed are added or removed. Unknown elements and attributes of
+/// `ours` stay, and those that `theirs` added come along; one that both sides changed or added with
+/// different content is a conflict, as is one whose element the merged package does not have.
 ///
 /// ```
 /// const Merged merged = merge(base, ours, theirs);

@@ -126,7 +126,7 @@ void checkLanguageCodes(const CheckedPackage &checked, Findings &findings) {
         known += language.isoCode();
     const auto check = [&](const RobotLanguages &languages, const char *list) {
         for (const RobotLanguage &language : languages) {
-            const QString code = language.isoCode();
+            const QString &code = language.isoCode();
             if (!known.contains(code) && !isScriptVariant(code))
                 findings.push_back({RuleId::LanguageUnknown,
                                     fieldNamed(list).key(toUtf8(code)),
@@ -237,7 +237,7 @@ private:
 
     // The script of a published text belongs to the text.
     void checkLanguage(const char *field, const RobotLanguage &language) {
-        const QString code = language.isoCode();
+        const QString &code = language.isoCode();
         const QString spoken =
             isScriptVariant(code) ? code.left(code.size() - k_sa.text().size()) : code;
         if (!m_checked.languages.contains(spoken))

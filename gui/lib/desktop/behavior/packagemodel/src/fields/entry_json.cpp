@@ -126,7 +126,7 @@ std::optional<FieldValue> EntryPackage::readManifest(const QJsonValue &manifest,
     if (!record)
         return {};
     m_package = PackageInfoModel(*record);
-    const auto read = entry();
+    auto read = entry();
     if (!read)
         error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel",
                                            "The manifest must have one entry of '%1'."))

@@ -176,7 +176,6 @@ private:
 template<typename Child>
 struct EntryKind {
     QVector<Child *> (PackageInfoModel::*all)() const;
-    Child *(PackageInfoModel::*find)(const QString &key) const;
     QString (Child::*key)() const;
     FieldValue (*record)(const Child &child);
     FieldValue (*empty)(const std::string &key);
@@ -210,22 +209,15 @@ public:
         const auto occurrence = selectors.size() == 2 ? selectors[1].toIndex() : std::optional(0);
         if (selectors.empty() || selectors.size() > 2 || !occurrence || !m_package)
             return -1;
-        const QString key = fromUtf8(selectors.front().text);
-        const auto children = all();
-        int index = static_cast<int>(children.indexOf((m_package->*m_kind.find)(key)));
-        for (int i = 0; index >= 0 && i < *occurrence; ++i)
-            index = next(children, index + 1, key);
-        return index;
+        const auto &children = childrenOf<Child>(*m_package);
+        const Child *child = childAt(selectors.front().text, *occurrence);
+        return child ? children.placeOf(*child) : -1;
     }
     void select(FieldPath &path, int index) const override {
-        const auto children = all();
-        const QString key = (children.at(index)->*m_kind.key)();
-        int occurrence = 0;
-        const bool isFirst = (m_package->*m_kind.find)(key) == children.at(index);
-        for (int i = isFirst ? index : next(children, 0, key); i >= 0 && i < index;
-             i = next(children, i + 1, key))
-            ++occurrence;
-        path.entry(toUtf8(key), occurrence);
+        const Child *child = all().at(index);
+        const std::string key = toUtf8((child->*m_kind.key)());
+        const auto alike = childrenOf<Child>(*m_package).findAll(key);
+        path.entry(key, int(std::find(alike.begin(), alike.end(), child) - alike.begin()));
     }
     QString refusal(const FieldValue &value, int) const override {
         return m_kind.isRecord(value) ? QString() : misfit();
@@ -248,13 +240,10 @@ public:
     }
 
 private:
-    // The next child with a key from an index on; -1 for none.
-    int next(const QVector<Child *> &children, int from, const QString &key) const {
-        for (int i = from; i < children.size(); ++i) {
-            if ((children.at(i)->*m_kind.key)() == key)
-                return i;
-        }
-        return -1;
+    // The child with a key that so many others with the key precede; null for none.
+    const Child *childAt(const std::string &key, int occurrence) const {
+        const auto alike = childrenOf<Child>(*m_package).findAll(toUtf8(fromUtf8(key)));
+        return occurrence < int(alike.size()) ? alike[std::size_t(occurrence)] : nullptr;
     }
 
     QPointer<PackageInfoModel> m_package;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../package_info_data.h"
 #include "field_target.h"
 #include "field_words.h"
 #include "list_difference.h"
@@ -262,15 +263,13 @@ class KeyRow : public CellRow<Child, QString> {
 public:
     using Get = QString (Child::*)() const;
     using Find = Child *(PackageInfoModel::*)(const QString &key) const;
-    using All = QVector<Child *> (PackageInfoModel::*)() const;
     using Record = FieldValue (*)(const Child &child);
 
     KeyRow(const char *name, const char *label, Get get, void (Child::*set)(const QString &),
-           Find find, All all, Record record)
+           Find find, Record record)
         : CellRow<Child, QString>(name, label, get, set)
         , m_get(get)
         , m_find(find)
-        , m_all(all)
         , m_record(record) {}
 
     std::optional<FieldForm> form(const Walk &walk, QString &error) const override {
@@ -290,14 +289,12 @@ public:
                        ? QCoreApplication::translate("Zel::PackageModel", "'%1' is taken.").arg(key)
                        : QString();
         };
-        target.cell->inverse = [get = m_get, all = m_all, record = m_record, &owner, package,
+        target.cell->inverse = [get = m_get, record = m_record, &owner, package,
                                 path = walk.path](const QString &key) {
             FieldPath renamed;
             renamed.field(path.steps().front().field).entry(toUtf8(key));
             const QString old = (owner.*get)();
-            const auto children = (package->*all)();
-            const auto isAlike = [&](const Child *child) { return (child->*get)() == old; };
-            if (std::count_if(children.begin(), children.end(), isAlike) == 1)
+            if (childrenOf<Child>(*package).findAll(toUtf8(old)).size() == 1)
                 return Edit{Edit::Action::Set, renamed.field(path.steps().back().field), old};
             return Edit{Edit::Action::Set, renamed, record(owner)}; // the old key is taken
         };
@@ -310,7 +307,6 @@ public:
 private:
     Get m_get;
     Find m_find;
-    All m_all;
     Record m_record;
 };
 

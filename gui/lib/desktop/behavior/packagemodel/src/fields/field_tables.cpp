@@ -382,8 +382,7 @@ const FieldTable<BehaviorInfoModel> &behaviorFields() {
     static const auto rows = [] {
         FieldTable<B> table;
         add<KeyRow<B>>(table, "path", QT_TRANSLATE_NOOP("Zel::PackageModel", "Path"), &B::path,
-                       &B::setPath, &PackageInfoModel::behavior, &PackageInfoModel::behaviors,
-                       &recordOf<B>);
+                       &B::setPath, &PackageInfoModel::behavior, &recordOf<B>);
         add<CellRow<B, QString>>(table, "nature", QT_TRANSLATE_NOOP("Zel::PackageModel", "Nature"),
                                  &B::nature, &B::setNature);
         add<CellRow<B, bool>>(table, "userRequestable",
@@ -443,8 +442,7 @@ const FieldTable<DialogInfoModel> &dialogFields() {
     static const auto rows = [] {
         FieldTable<D> table;
         add<KeyRow<D>>(table, "topicName", QT_TRANSLATE_NOOP("Zel::PackageModel", "Topic name"),
-                       &D::topicName, &D::setTopicName, &PackageInfoModel::dialog,
-                       &PackageInfoModel::dialogs, &recordOf<D>);
+                       &D::topicName, &D::setTopicName, &PackageInfoModel::dialog, &recordOf<D>);
         add<CellRow<D, QString>>(table, "typeVersion",
                                  QT_TRANSLATE_NOOP("Zel::PackageModel", "Type version"),
                                  &D::typeVersion, &D::setTypeVersion);
@@ -464,8 +462,7 @@ const FieldTable<ServiceInfoModel> &serviceFields() {
     static const auto rows = [] {
         FieldTable<S> table;
         add<KeyRow<S>>(table, "name", QT_TRANSLATE_NOOP("Zel::PackageModel", "Name"), &S::name,
-                       &S::setName, &PackageInfoModel::service, &PackageInfoModel::services,
-                       &recordOf<S>);
+                       &S::setName, &PackageInfoModel::service, &recordOf<S>);
         add<CellRow<S, bool>>(table, "autoRun", QT_TRANSLATE_NOOP("Zel::PackageModel", "Autostart"),
                               &S::isAutoRun, &S::setAutoRun);
         add<CellRow<S, QString>>(table, "execStart",
@@ -481,7 +478,6 @@ using P = PackageInfoModel;
 
 const EntryKind<BehaviorInfoModel> behaviorEntries{
     &P::behaviors,
-    &P::behavior,
     &BehaviorInfoModel::path,
     &recordOf<BehaviorInfoModel>,
     [](const std::string &key) {
@@ -499,7 +495,6 @@ const EntryKind<BehaviorInfoModel> behaviorEntries{
 
 const EntryKind<DialogInfoModel> dialogEntries{
     &P::dialogs,
-    &P::dialog,
     &DialogInfoModel::topicName,
     &recordOf<DialogInfoModel>,
     [](const std::string &key) {
@@ -517,7 +512,6 @@ const EntryKind<DialogInfoModel> dialogEntries{
 
 const EntryKind<ServiceInfoModel> serviceEntries{
     &P::services,
-    &P::service,
     &ServiceInfoModel::name,
     &recordOf<ServiceInfoModel>,
     [](const std::string &key) {

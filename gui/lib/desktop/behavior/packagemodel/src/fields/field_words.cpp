@@ -68,7 +68,7 @@ QString fieldWords(const FieldLabels &labels, const char *form, const Selectors 
                    const OfOwner &of) {
     const QStringList forms =
         QString::fromLatin1(form).remove(u'[').split(u']', Qt::SkipEmptyParts);
-    const std::size_t expected = std::size_t(forms.size());
+    const auto expected = std::size_t(forms.size());
     const bool isKeyed =
         !forms.isEmpty() && (!labels.all || expected > 1) && forms.first() != QLatin1String("NAME");
     const std::size_t keys = isKeyed ? 1 : 0;

@@ -47,7 +47,7 @@ JsonMembers JsonMembers::ofDocument(const QByteArray &json) {
 QJsonValue JsonMembers::take(QLatin1String name, QJsonValue::Type type) {
     if (!error.isEmpty())
         return {};
-    const QJsonValue value = m_object.take(name);
+    QJsonValue value = m_object.take(name);
     if (value.isUndefined())
         fail(name, inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "It is missing.")));
     else if (type != QJsonValue::Undefined && value.type() != type)

@@ -1,6 +1,7 @@
 #include <packagemodel/package_edits.h>
 
 #include "field_tables.h"
+#include "requirement_spelling.h"
 
 #include <algorithm>
 #include <set>
@@ -26,7 +27,7 @@ QString notForThis() {
 QString setRefusal(const Edit &edit, const FieldTarget &target) {
     if (!edit.value || (!target.cell && target.item < 0))
         return notForThis();
-    if (const QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
+    if (QString reason = refusalOfValue(*edit.value); !reason.isEmpty())
         return reason;
     if (!target.cell)
         return target.list->refusal(*edit.value, target.item);
@@ -139,24 +140,13 @@ Edits change(const Edit &edit, const FieldTarget &target) {
     return {};
 }
 
-template<typename Records, typename FromRecord, typename ToRecord>
-bool areNormal(const Records &records, FromRecord fromRecord, ToRecord toRecord) {
-    return std::all_of(records.begin(), records.end(),
-                       [&](const auto &record) { return toRecord(fromRecord(record)) == record; });
-}
-
-// Whether the slots can restore what an edit changes. Versions of requirements are normalized by
-// the first edit of their list, and a permission that a manifest repeats is removed as a whole.
+// Whether the slots can restore what an edit changes. They write the versions of requirements in
+// their own way, and remove a permission that a manifest repeats as a whole.
 bool isReversible(const PackageInfoModel &package, const FieldPath &path) {
     if (path.isEmpty())
         return true;
-    const std::string &first = path.steps().front().field;
-    const Tano::PackageInfo &record = package.packageInfo();
-    if (first == "robotRequirements")
-        return areNormal(record.robotRequirements(), fromTanoRobotRequirement,
-                         toTanoRobotRequirement);
-    if (first == "brioRequirements")
-        return areNormal(record.brioRequirements(), fromTanoBrioRequirement, toTanoBrioRequirement);
+    if (hasOddVersions(package.packageInfo(), path))
+        return false;
     if (path.steps().back().field != "permissions")
         return true;
     FieldPath entryPath = path;
@@ -175,7 +165,10 @@ Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     if (!isReversible(package, edit.path)) {
         package.syncRecord();
         const Tano::PackageInfo before = package.packageInfo();
+        const QPointer<PackageInfoModel> living(&package);
         change(edit, target);
+        if (living)
+            restoreSpelling(package, edit, before);
         return {{{Edit::Action::Set, {}, before}}, {}};
     }
     return {change(edit, target), {}};
@@ -213,6 +206,7 @@ Applied apply(PackageInfoModel *package, const Edits &edits) {
         inverses.push_back(applied.inverse);
     }
     Edits inverse;
+    inverse.reserve(edits.size());
     for (auto last = inverses.rbegin(); last != inverses.rend(); ++last)
         inverse += *last;
     if (!error.isEmpty()) {

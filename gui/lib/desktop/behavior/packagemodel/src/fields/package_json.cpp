@@ -7,7 +7,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-QByteArray indented(QByteArray json, int depth) {
+QByteArray indented(const QByteArray &json, int depth) {
     const QByteArray lineBreak = '\n' + QByteArray(4 * depth, ' ');
     return json.trimmed().replace("\n", lineBreak);
 }

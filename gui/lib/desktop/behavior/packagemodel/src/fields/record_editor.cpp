@@ -21,13 +21,19 @@ struct RecordEditor::Data {
         , isCompleted(package.packageInfo().descriptionLanguages() !=
                       record.descriptionLanguages()) {}
 
+    // What a whole package may change.
+    struct Before {
+        std::string version;
+        std::vector<std::string> descriptionLanguages;
+    };
+
     // Notes what an edit asks for. A whole package asks for what it has more than before.
-    void note(const PackageModel::Edit &edit, const Tano::PackageInfo &before) {
+    void note(const PackageModel::Edit &edit, const Before &before) {
         const auto *whole = edit.value ? std::get_if<Tano::PackageInfo>(&*edit.value) : nullptr;
         if (whole) {
-            editsVersion = editsVersion || whole->version() != before.version();
+            editsVersion = editsVersion || whole->version() != before.version;
             for (const std::string &code : whole->descriptionLanguages()) {
-                if (!contains(before.descriptionLanguages(), code))
+                if (!contains(before.descriptionLanguages, code))
                     editedLanguages.insert(code);
             }
         }
@@ -63,7 +69,9 @@ PackageInfoModel *RecordEditor::package() const {
 }
 
 PackageModel::Applied RecordEditor::apply(const PackageModel::Edits &edits) {
-    const Tano::PackageInfo before = m_data->package.packageInfo();
+    // Not the record itself, which the first edit would have to copy then.
+    const Tano::PackageInfo &record = m_data->package.packageInfo();
+    const Data::Before before{record.version(), record.descriptionLanguages()};
     PackageModel::Applied applied = PackageModel::apply(&m_data->package, edits);
     if (!applied.error.isEmpty())
         return applied;

@@ -8,6 +8,12 @@
 namespace Zel::PackageModel {
 namespace {
 
+EntrySummaries savedSummaries(const FieldRow<PackageInfoModel> &row, PackageInfoModel &side) {
+    EntrySummaries entries = *row.summaries(side);
+    entries.fields = [fields = entries.fields](int index) { return savedFields(fields(index)); };
+    return entries;
+}
+
 class EntryMerge {
 public:
     EntryMerge(const FieldRow<PackageInfoModel> &row, const Sides<PackageInfoModel *> &packages,
@@ -15,7 +21,8 @@ public:
         : m_row(row)
         , m_path(FieldPath().field(row.name()))
         , m_merge(merge)
-        , m_entries(mapped(packages, [&](PackageInfoModel *side) { return *row.summaries(*side); }))
+        , m_entries(
+              mapped(packages, [&](PackageInfoModel *side) { return savedSummaries(row, *side); }))
         , m_records(mapped(packages, [&](PackageInfoModel *side) { return entries(side, m_path); }))
         , m_keysOfOurs(m_entries.ours.keys.begin(), m_entries.ours.keys.end())
         , m_matches(matchesOf(m_entries)) {}

@@ -7,6 +7,8 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace Zel::PackageModel {
 namespace {
 
@@ -144,7 +146,36 @@ void mergeSet(const Sides<QJsonArray> &lists, const FieldPath &path, FieldMerge 
         appendTextSetEdits(texts.ours, merged, path, merge.edits);
 }
 
+// Texts by language that a manifest does not hold if they are empty.
+constexpr const char *optionalTexts[]{"names", "descriptions"};
+
+bool hasEmptyText(const QJsonObject &texts) {
+    return std::any_of(texts.begin(), texts.end(), [](const QJsonValue &text) {
+        return text.isString() && text.toString().isEmpty();
+    });
+}
+
+QJsonObject withoutEmptyTexts(QJsonObject texts) {
+    for (auto text = texts.begin(); text != texts.end();)
+        text = text->toString().isEmpty() ? texts.erase(text) : text + 1;
+    return texts;
+}
+
+bool isOptionalText(const FieldPath &path) {
+    return std::any_of(std::begin(optionalTexts), std::end(optionalTexts),
+                       [&](const char *name) { return path.steps().back().field == name; });
+}
+
 } // namespace
+
+QJsonObject savedFields(QJsonObject owner) {
+    for (const char *name : optionalTexts) {
+        const QJsonObject texts = owner.value(QLatin1String(name)).toObject();
+        if (hasEmptyText(texts))
+            owner.insert(QLatin1String(name), withoutEmptyTexts(texts));
+    }
+    return owner;
+}
 
 void FieldMerge::addConflict(const FieldPath &path, const Values &values) {
     const auto texts = mapped(values, shownText);
@@ -179,7 +210,9 @@ void mergeValue(const Values &values, const FieldPath &path, FieldMerge &merge) 
         const auto lists = mapped(values, [](const QJsonValue &side) { return side.toArray(); });
         isSet(path) ? mergeSet(lists, path, merge) : mergeList(lists, path, merge);
     } else if (isAny(QJsonValue::Object)) {
-        const auto objects = objectsOf(values);
+        auto objects = objectsOf(values);
+        if (isOptionalText(path))
+            objects = mapped(objects, withoutEmptyTexts);
         for (const QString &key : keysOf(objects))
             mergeValue(membersOf(objects, key), FieldPath(path).key(toUtf8(key)), merge);
     } else {

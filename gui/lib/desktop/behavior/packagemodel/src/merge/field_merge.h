@@ -33,6 +33,9 @@ struct FieldMerge {
     Tano::FieldPath placeOf(const Tano::FieldPath &pathInTheirs) const;
 };
 
+/// The fields of an entry as a manifest holds them: an empty name or description is none.
+QJsonObject savedFields(QJsonObject owner);
+
 /// Merges a field. A text or a flag is a cell, an object holds cells or lists by key, and an array
 /// is a list of texts or requirements; an absent value is undefined.
 void mergeValue(const Sides<QJsonValue> &values, const Tano::FieldPath &path, FieldMerge &merge);

@@ -8,12 +8,15 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
+#include <tuple>
 
 namespace Zel::PackageModel {
 namespace {
 
 using Tano::FieldPath;
 using Tano::KeptComment;
+using Tano::KeptNode;
 using Tano::PackageInfo;
 using Tano::UnknownNode;
 
@@ -86,31 +89,127 @@ void mergeComments(const Sides<PackageInfo> &records, const FieldMerge &merge,
         merged = Tano::withComments(merged, added);
 }
 
-bool isAmong(const std::vector<UnknownNode> &nodes, const UnknownNode &node) {
-    return std::any_of(nodes.begin(), nodes.end(), [&](const UnknownNode &each) {
-        return each.kind == node.kind && each.name == node.name && each.parent == node.parent &&
-               each.parentPath == node.parentPath && each.index == node.index;
-    });
+// The elements or attributes of one name in one element: what an author means by a node.
+using NodeGroup = std::tuple<FieldPath, std::string, std::string, UnknownNode::Kind, std::string>;
+using NodesByGroup = std::map<NodeGroup, std::vector<KeptNode>>;
+
+NodesByGroup groupsOf(const std::vector<KeptNode> &nodes) {
+    NodesByGroup groups;
+    for (const KeptNode &node : nodes)
+        groups[{node.parentPath, node.parent, node.language, node.kind, node.name}].push_back(node);
+    return groups;
 }
 
-void reportUnknownNodes(const Sides<PackageInfo> &records, const PackageInfo &merged,
-                        FieldMerge &merge) {
-    const auto added = Tano::unknownNodes(records.theirs);
-    if (added.empty())
-        return;
-    const auto known = Tano::unknownNodes(records.base);
-    const auto present = Tano::unknownNodes(merged);
-    for (UnknownNode node : added) {
-        if (isAmong(known, node))
-            continue;
-        node.parentPath = merge.placeOf(node.parentPath);
-        const bool isElement = node.kind == UnknownNode::Kind::Element;
-        if (!isAmong(present, node))
-            merge.addConflict(node.parentPath,
-                              {QJsonValue::Undefined, QJsonValue::Undefined,
-                               isElement ? QString(u'<' + fromUtf8(node.name) + u'>')
-                                         : QString(fromUtf8(node.name) + u'=')});
+// The nodes of a list that another one lacks, by their XML.
+std::vector<KeptNode> without(std::vector<KeptNode> nodes, const std::vector<KeptNode> &others) {
+    for (const KeptNode &other : others) {
+        const auto same = std::find_if(nodes.begin(), nodes.end(),
+                                       [&](const KeptNode &each) { return each.xml == other.xml; });
+        if (same != nodes.end())
+            nodes.erase(same);
     }
+    return nodes;
+}
+
+constexpr std::string_view declarationStart = "xmlns:";
+
+// Whether a node is an attribute that declares a prefix.
+bool isDeclaration(const KeptNode &node) {
+    return node.name.compare(0, declarationStart.size(), declarationStart) == 0;
+}
+
+// Whether a node may use a prefix, judged by its text.
+bool mayUse(const KeptNode &node, const std::string &prefix) {
+    return node.xml.find('<' + prefix + ':') != std::string::npos ||
+           node.xml.find(' ' + prefix + ':') != std::string::npos;
+}
+
+// What theirs changed in the unknown elements and attributes of a group. What it only removed
+// stays, since its whole parent may be gone.
+class NodeMerge {
+public:
+    NodeMerge(const PackageInfo &base, const PackageInfo &merged, FieldMerge &merge)
+        : m_base(groupsOf(Tano::keptNodes(base)))
+        , m_merged(groupsOf(Tano::keptNodes(merged)))
+        , m_merge(merge) {}
+
+    void add(const NodeGroup &group, const std::vector<KeptNode> &theirs) {
+        const auto &base = m_base[group];
+        NodeGroup place = group;
+        auto &path = std::get<FieldPath>(place);
+        path = m_merge.placeOf(path);
+        const auto &present = m_merged[place];
+        auto gone = without(base, theirs);
+        for (KeptNode node : without(without(theirs, base), without(present, base))) {
+            node.parentPath = path;
+            if (!addNode(node, present, gone))
+                addConflict(node, present);
+        }
+    }
+
+    void finish(PackageInfo &merged) {
+        if (m_added.empty())
+            return;
+        const auto changed = Tano::withKeptNodes(merged, m_removed, m_added);
+        merged = changed.package;
+        for (const KeptNode &node : changed.left)
+            addConflict(node, {});
+    }
+
+private:
+    // A new node takes the place of one that theirs has no more. Returns false if ours has changed
+    // that one, or has another attribute of the name.
+    bool addNode(const KeptNode &node, const std::vector<KeptNode> &present,
+                 std::vector<KeptNode> &gone) {
+        const bool usesOtherNamespace =
+            std::any_of(m_otherPrefixes.begin(), m_otherPrefixes.end(),
+                        [&](const std::string &prefix) { return mayUse(node, prefix); });
+        if (usesOtherNamespace)
+            return false;
+        if (!gone.empty()) {
+            const auto old = std::find_if(present.begin(), present.end(), [&](const auto &each) {
+                return each.xml == gone.back().xml;
+            });
+            if (old == present.end())
+                return false;
+            m_removed.push_back(*old);
+            gone.pop_back();
+        } else if (node.kind == UnknownNode::Kind::Attribute && !present.empty()) {
+            return false;
+        }
+        m_added.push_back(node);
+        return true;
+    }
+
+    void addConflict(const KeptNode &node, const std::vector<KeptNode> &present) {
+        const auto shown = [](const KeptNode &each) { return fromUtf8(each.xml).trimmed(); };
+        const QJsonValue ours =
+            present.empty() ? QJsonValue(QJsonValue::Undefined) : shown(present.back());
+        m_merge.addConflict(node.parentPath, {QJsonValue::Undefined, ours, shown(node)});
+        if (isDeclaration(node))
+            m_otherPrefixes.push_back(node.name.substr(declarationStart.size()));
+    }
+
+    NodesByGroup m_base;
+    NodesByGroup m_merged;
+    FieldMerge &m_merge;
+    std::vector<std::string> m_otherPrefixes; // that theirs declares for another namespace
+    std::vector<KeptNode> m_removed;
+    std::vector<KeptNode> m_added;
+};
+
+void mergeNodes(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInfo &merged) {
+    const auto theirs = groupsOf(Tano::keptNodes(records.theirs));
+    if (theirs.empty())
+        return;
+    NodeMerge nodes(records.base, merged, merge);
+    for (const bool areDeclarations : {true, false}) {
+        for (const auto &[group, ofGroup] : theirs) {
+            if (isDeclaration(ofGroup.front()) == areDeclarations)
+                nodes.add(group, ofGroup);
+        }
+    }
+    nodes.finish(merged);
 }
 
 // A text in quotation marks, at most so long that a comment can hold two.
@@ -127,7 +226,7 @@ std::string quoted(const QString &text) {
 
 void mergeKeptContent(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInfo &merged) {
     mergeComments(records, merge, merged);
-    reportUnknownNodes(records, merged, merge);
+    mergeNodes(records, merge, merged);
 }
 
 PackageInfo withConflictComments(const PackageInfo &record,

@@ -7,6 +7,7 @@
 #include <packagemodel/record_editor.h>
 
 #include <algorithm>
+#include <array>
 
 namespace Zel::PackageModel {
 namespace {
@@ -22,11 +23,11 @@ struct LanguageList {
     bool (PackageInfo::*move)(int from, int to);
 };
 
-constexpr LanguageList languageLists[]{
-    {&PackageInfo::supportedLanguages, &PackageInfo::insertSupportedLanguage,
-     &PackageInfo::removeSupportedLanguage, &PackageInfo::moveSupportedLanguage},
-    {&PackageInfo::descriptionLanguages, &PackageInfo::insertDescriptionLanguage,
-     &PackageInfo::removeDescriptionLanguage, &PackageInfo::moveDescriptionLanguage}};
+constexpr std::array languageLists{
+    LanguageList{&PackageInfo::supportedLanguages, &PackageInfo::insertSupportedLanguage,
+                 &PackageInfo::removeSupportedLanguage, &PackageInfo::moveSupportedLanguage},
+    LanguageList{&PackageInfo::descriptionLanguages, &PackageInfo::insertDescriptionLanguage,
+                 &PackageInfo::removeDescriptionLanguage, &PackageInfo::moveDescriptionLanguage}};
 
 void setLanguages(const LanguageList &list, const QStringList &wanted, PackageInfo &record) {
     const std::vector<std::string> before = (record.*list.all)();

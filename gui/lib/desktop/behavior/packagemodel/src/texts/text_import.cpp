@@ -57,8 +57,9 @@ public:
             m_codes.insert(bcp47(language.isoCode()).toLower(), language.isoCode());
         for (int i = 0; i < units.size(); ++i) {
             m_places.push_back(textPlace(units.at(i).path));
+            m_fields.push_back(fromUtf8(units.at(i).path.toString()));
             if (hasTarget(units.at(i)))
-                m_last.insert(fromUtf8(units.at(i).path.toString()), i);
+                m_last.insert(m_fields.back(), i);
         }
     }
 
@@ -77,6 +78,7 @@ private:
     const bool m_force;
     QHash<QString, QString> m_codes; // by language tag
     std::vector<std::optional<TextPlace>> m_places;
+    std::vector<QString> m_fields; // the paths of the units
     QHash<QString, int> m_last;          // the last unit with a target, by field
     QHash<QString, QStringList> m_texts; // by field, with the edits
     QSet<QString> m_described;
@@ -136,7 +138,7 @@ TextOutcome TextImporter::import(int index, QString &reason) {
         return TextOutcome::FieldGone;
     if (!hasTarget(unit))
         return TextOutcome::Untranslated;
-    const int last = m_last.value(fromUtf8(unit.path.toString()));
+    const int last = m_last.value(m_fields[std::size_t(index)]);
     if (m_units.at(last).target != unit.target)
         return TextOutcome::Superseded;
     const auto present = m_owners.texts(*place, place->code);
@@ -173,7 +175,7 @@ TextImport TextImporter::result() {
                 fromUtf8(m_units.at(index).path.toString()) % QStringLiteral(": ") % reason;
     }
     if (result.error.isEmpty())
-        result.edits = m_languages + m_edits;
+        result.edits = m_languages.isEmpty() ? m_edits : m_languages + m_edits;
     return result;
 }
 

@@ -1,19 +1,17 @@
-#include "change_lines.h"
+#include <packagemodel/change_words.h>
 
-#include "console/text_layout.h"
-#include "excerpt.h"
+#include "field_words.h"
 
 #include <packagemodel/package_json.h>
 #include <packagemodel/text_conversion.h>
 
-#include <QCoreApplication>
 #include <QJsonObject>
+#include <QStringBuilder>
 
-namespace ZelPackage {
+namespace Zel::PackageModel {
 namespace {
 
 using Tano::FieldPath;
-using namespace Zel::PackageModel;
 
 QString withValue(const QString &line, const QString &value) {
     return value.isEmpty() ? line : line % QStringLiteral(": ") % value;
@@ -21,14 +19,14 @@ QString withValue(const QString &line, const QString &value) {
 
 // The fields of a requirement; nothing for a larger entry.
 QString fieldsOf(const FieldValue &entry) {
-    const bool isRequirement = std::holds_alternative<Zel::RobotRequirement>(entry) ||
-                               std::holds_alternative<Zel::BrioRequirement>(entry);
+    const bool isRequirement = std::holds_alternative<RobotRequirement>(entry) ||
+                               std::holds_alternative<BrioRequirement>(entry);
     QStringList fields;
     if (isRequirement) {
         const QJsonObject object = toJson(entry).toObject();
         for (auto field = object.begin(); field != object.end(); ++field) {
             if (!field->toString().isEmpty())
-                fields += printable(field.key() % u' ' % field->toString());
+                fields += field.key() % u' ' % field->toString();
         }
     }
     return fields.join(QStringLiteral(", "));
@@ -40,42 +38,46 @@ QString shownValue(const FieldPath &path, const FieldValue &value) {
     if (!text)
         return fieldsOf(value);
     const auto &selectors = path.steps().back().selectors;
-    const bool isNamed = !selectors.empty() && Zel::fromUtf8(selectors.back().text) == *text;
+    const bool isNamed = !selectors.empty() && fromUtf8(selectors.back().text) == *text;
     return isNamed ? QString() : excerpt(*text);
 }
 
 QString lineOf(const char *form, const FieldPath &path) {
-    return QCoreApplication::translate("zel-package", form).arg(printable(label(path)));
+    return inWords(form).arg(label(path));
 }
 
 QString addition(const FieldPath &path, const FieldValue &value) {
-    return withValue(lineOf(QT_TRANSLATE_NOOP("zel-package", "%1 added"), path),
+    return withValue(lineOf(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 added"), path),
                      shownValue(path, value));
 }
 
 QString removal(const FieldPath &path, const FieldValue &value) {
-    return withValue(lineOf(QT_TRANSLATE_NOOP("zel-package", "%1 removed"), path),
+    return withValue(lineOf(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 removed"), path),
                      shownValue(path, value));
 }
 
 QString setting(const Edit &edit, const std::optional<FieldValue> &old) {
+    if (edit.path.isEmpty())
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The package replaced"));
+    if (old && edit.value->index() >= std::size_t(FieldKind::RobotRequirement))
+        return lineOf(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 replaced"), edit.path);
     const QString before = old ? printed(*old) : QString();
     const QString after = printed(*edit.value);
     const auto form = formOf(edit.path);
     if (form && form->isKey)
-        return QCoreApplication::translate("zel-package", "%1 renamed to “%2”")
-            .arg(printable(label(edit.path.parent())), printable(after));
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 renamed to “%2”"))
+            .arg(label(edit.path.parent()), after);
     if (before.isEmpty())
         return addition(edit.path, after);
     if (after.isEmpty())
         return removal(edit.path, before);
     const Excerpts shown = excerpts(before, after);
-    return QCoreApplication::translate("zel-package", "%1 changed from %2 to %3")
-        .arg(printable(label(edit.path)), shown.before, shown.after);
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 changed from %2 to %3"))
+        .arg(label(edit.path), shown.before, shown.after);
 }
 
 // The line of an edit, which is applied.
-QString changeLine(Zel::PackageInfoModel *package, const Edit &edit) {
+QString changeLine(PackageInfoModel *package, const Edit &edit) {
     const auto old = value(package, edit.path);
     apply(package, edit);
     switch (edit.action) {
@@ -86,18 +88,18 @@ QString changeLine(Zel::PackageInfoModel *package, const Edit &edit) {
     case Edit::Action::Remove:
         return removal(edit.path, *old);
     case Edit::Action::Move:
-        return QCoreApplication::translate("zel-package", "%1 moved to place %2")
-            .arg(printable(label(edit.path)), QString::number(edit.index + 1));
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to place %2"))
+            .arg(label(edit.path), QString::number(edit.index + 1));
     }
     return {};
 }
 
 } // namespace
 
-void visitChanges(Zel::PackageInfoModel *package, const Edits &edits,
+void visitChanges(PackageInfoModel *package, const Edits &edits,
                   const std::function<void(const QString &)> &visit) {
     for (const Edit &edit : edits)
         visit(changeLine(package, edit));
 }
 
-} // namespace ZelPackage
+} // namespace Zel::PackageModel

@@ -1,12 +1,10 @@
-#include "excerpt.h"
-
-#include "console/text_layout.h"
+#include <packagemodel/change_words.h>
 
 #include <QStringBuilder>
 
 #include <algorithm>
 
-namespace ZelPackage {
+namespace Zel::PackageModel {
 namespace {
 
 constexpr int longestExcerpt = 60;
@@ -22,7 +20,7 @@ QString excerptFrom(const QString &text, int wanted) {
     const int start = boundaryAt(text, wanted);
     const int end = boundaryAt(text, std::min(int(text.size()), start + longestExcerpt));
     const QString ellipsis = QStringLiteral("…");
-    return u'"' % (start > 0 ? ellipsis : QString()) % printable(text.mid(start, end - start)) %
+    return u'"' % (start > 0 ? ellipsis : QString()) % text.mid(start, end - start) %
            (end < text.size() ? ellipsis : QString()) % u'"';
 }
 
@@ -42,4 +40,4 @@ Excerpts excerpts(const QString &before, const QString &after) {
     return {excerptFrom(before, start), excerptFrom(after, start)};
 }
 
-} // namespace ZelPackage
+} // namespace Zel::PackageModel

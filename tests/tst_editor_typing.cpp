@@ -1,0 +1,476 @@
+#include "document/field_edits.h"
+#include "editor_test.h"
+#include "widgets/field_note.h"
+#include "widgets/marks.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QListView>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTableView>
+#include <QUndoView>
+
+using namespace Editor;
+using Tano::FieldPath;
+using Zel::PackageModel::Edit;
+
+/// How what is typed reaches the package, is refused, and is undone.
+class TestEditorTyping : public QObject, private EditorTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare(); }
+    void init() { showWindow(); }
+    void cleanup() { closeWindow(); }
+
+    // In a package without behaviors too, whose list has nothing to select.
+    void aRunIsOneStep() {
+        m_window->document().edit({appended(path("supportedLanguages"), QStringLiteral("en_US"))});
+        const int before = stack()->count();
+        field("&Author:")->setFocus();
+        type(QStringLiteral("Ada"));
+        QCOMPARE(stack()->count(), before + 1);
+        QCOMPARE(stack()->undoText(), QStringLiteral("Set author"));
+
+        const auto *table = openCell(1, "Languages and texts", 0, 3);
+        for (const char *text : {"a", "b", "c"}) {
+            type(QLatin1String(text));
+            QCOMPARE(table->currentIndex().data().toString(), line(focus())->text());
+            QCOMPARE(stack()->count(), before + 2);
+        }
+        press(Qt::Key_Escape);
+        QCOMPARE(stack()->count(), before + 1);
+        QVERIFY(!stack()->canRedo());
+        QVERIFY(!manifest().contains("<name>"));
+    }
+
+    void runsEnd() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        m_window->document().setTypingPause(std::chrono::milliseconds(0));
+        QLineEdit *author = field("&Author:");
+        author->setFocus();
+        replaceText(QStringLiteral("Ada"));
+        QCoreApplication::processEvents(); // a pause
+        const int before = stack()->count();
+        type(QStringLiteral("!"));
+        QCOMPARE(stack()->count(), before + 1);
+
+        m_window->document().setTypingPause(std::chrono::hours(1));
+        m_window->showPage(1);
+        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        description->setFocus();
+        press(Qt::Key_A, Qt::ControlModifier);
+        type(QStringLiteral("one"));
+        press(Qt::Key_Return);
+        type(QStringLiteral("two"));
+        QCOMPARE(stack()->count(), before + 3);
+        stack()->undo();
+        QCOMPARE(description->toPlainText(), QStringLiteral("one\n"));
+    }
+
+    // A cell that is left with Escape is as it was, however often the user paused.
+    void escapeTakesAllBack() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        const QByteArray before = manifest();
+        m_window->document().setTypingPause(std::chrono::milliseconds(0));
+        openCell(1, "Languages and texts", 1, 3);
+        for (int i = 0; i < 3; ++i) {
+            type(QStringLiteral("x"));
+            QCoreApplication::processEvents();
+        }
+        press(Qt::Key_Escape);
+        QCOMPARE(manifest(), before);
+    }
+
+    void renamesAreRunsToo() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        const QByteArray before = manifest();
+        m_window->showPage(3);
+        line("Find a behavior")->setFocus();
+        type(QStringLiteral("stor")); // and a behavior that the filter does not match any more
+        field("&Path:")->setFocus();
+        const auto *behavior = m_window->document().package()->behavior(field("&Path:")->text());
+        replaceText(QStringLiteral("fable"));
+        QCOMPARE(behavior->path(), QStringLiteral("fable"));
+        m_window->showPage(4);
+        field("&Topic:")->setFocus();
+        replaceText(QStringLiteral("talk"));
+        openCell(5, "Services", 0, 0);
+        type(QStringLiteral("clock"));
+        QCOMPARE(line(focus())->text(), QStringLiteral("clock"));
+        QCOMPARE(m_window->document().package()->services().at(0)->name(), QStringLiteral("clock"));
+        QCOMPARE(stack()->count(), 3);
+        for (int i = 0; i < 3; ++i)
+            stack()->undo();
+        QCOMPARE(manifest(), before);
+    }
+
+    void refusedTexts_data() {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("version") << 0 << "&Version:"
+                                 << "3.x"
+                                 << "'3.x' is not a version";
+        QTest::newRow("control character") << 0 << "&Author:"
+                                           << "a\vb"
+                                           << "U+000B";
+        QTest::newRow("path that is taken") << 3 << "&Path:"
+                                            << "goodbye"
+                                            << "'goodbye' is taken.";
+        QTest::newRow("path") << 3 << "&Path:" << QString() << "A behavior needs a path.";
+        QTest::newRow("cell") << 2 << "Robots"
+                              << "3.x"
+                              << "'3.x' is not a version";
+    }
+    // The package keeps what it had before the run, and the reason is there to be read.
+    void refusedTexts() {
+        QFETCH(int, page);
+        QFETCH(QString, label);
+        QFETCH(QString, text);
+        QFETCH(QString, reason);
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        const QByteArray before = manifest();
+        m_window->showPage(page);
+        const QByteArray name = label.toUtf8();
+        if (label.startsWith(u'&')) {
+            field(name.constData())->setFocus();
+            press(Qt::Key_A, Qt::ControlModifier);
+        } else {
+            openCell(page, name.constData(), 0, 1);
+        }
+        press(Qt::Key_Backspace);
+        if (text.contains(u'\v'))
+            paste(text.toUtf8());
+        else
+            type(text);
+        const QWidget *edit = focus();
+        QCOMPARE(stack()->count(), 0);
+        QVERIFY(!stack()->canRedo());
+        QCOMPARE(manifest(), before);
+        const FieldNote *shown = note();
+        QVERIFY(shown);
+        QVERIFY2(shown->text().contains(reason), qPrintable(shown->text()));
+        QVERIFY(shown->mapToGlobal(QPoint()).y() >=
+                edit->mapToGlobal(QPoint(0, edit->height())).y());
+        QVERIFY(m_window->rect().contains(
+            QRect(shown->mapTo(m_window.get(), QPoint()), shown->size())));
+
+        // Undo drops it, and only it.
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!note());
+        QVERIFY(line(focus())->text() != text);
+        QCOMPARE(focus(), edit);
+        QVERIFY(!stack()->canRedo());
+    }
+
+    void savingARefusedCell_data() {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("fix") << "Fix" << false;
+        QTest::newRow("go on") << "Go On Without It" << true;
+    }
+    void savingARefusedCell() {
+        QFETCH(QString, button);
+        QFETCH(bool, isSaved);
+        QVERIFY(m_window->openFile(copyOf("small")));
+        const QByteArray before = manifest();
+        field("&Author:")->setFocus();
+        replaceText(QStringLiteral("Ada"));
+        openCell(2, "Robots", 0, 1);
+        type(QStringLiteral("1.x"));
+        Answer answer{std::function<void(QMessageBox *)>([&](QMessageBox *box) {
+            for (QAbstractButton *each : box->buttons()) {
+                if (each->text() == button)
+                    each->click();
+            }
+        })};
+        press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(answer.isGiven());
+        QCOMPARE(!m_window->isWindowModified(), isSaved);
+        QCOMPARE(note() != nullptr, !isSaved);
+        QCOMPARE(line(focus())->text() == QStringLiteral("1.x"), !isSaved);
+        press(Qt::Key_Escape);
+        stack()->undo();
+        QCOMPARE(manifest(), before);
+    }
+
+    void messageFollowsTheSelection() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        m_window->document().edit({appended(path("supportedLanguages"), QStringLiteral("ja_JP"))});
+        Tano::BehaviorInfo behavior;
+        behavior.setPath("other");
+        m_window->document().edit({appended(path("behaviors"), behavior)});
+        m_window->showPage(3);
+        tabs()->setCurrentIndex(1);
+        auto *message = tabs()->widget(1)->findChild<MarkLabel *>();
+        auto *languages = combo("Language of the texts");
+        auto *list = view<QTreeView>("Behaviors");
+        for (const auto &[row, language, isShown] :
+             {std::tuple(0, 0, false), {0, 2, true}, {1, 2, false}, {0, 2, true}, {0, 0, false}}) {
+            list->setCurrentIndex(list->model()->index(row, 0));
+            languages->setCurrentIndex(language);
+            QCOMPARE(message->isVisible(), isShown);
+        }
+    }
+
+    void historyIsThatOfThePackage() {
+        const QString fileName = copyOf("small");
+        const auto *history = m_window->findChild<QUndoView *>()->model();
+        const auto edit = [&] {
+            field("&Author:")->setFocus();
+            type(QStringLiteral("x"));
+            QCOMPARE(action("&Undo Set author")->isEnabled(), true);
+            QCOMPARE(history->rowCount(), 2);
+        };
+        const auto isEmpty = [&] {
+            return !action("&Undo")->isEnabled() && history->rowCount() == 1 &&
+                   !m_window->isWindowModified();
+        };
+        edit();
+        QVERIFY(m_window->document().open(fileName));
+        QVERIFY(isEmpty());
+        edit();
+        Answer newPackage(QMessageBox::Discard);
+        press(Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(isEmpty());
+        QVERIFY(m_window->openFile(fileName));
+        edit();
+        stack()->undo();
+        stack()->redo();
+        Answer reload(QMessageBox::Discard);
+        press(Qt::Key_F5);
+        QVERIFY(reload.isGiven());
+        QVERIFY(isEmpty());
+    }
+
+    void additionsAreNotLost_data() {
+        QTest::addColumn<std::function<void()>>("leave");
+        const auto row = [](const char *name, const std::function<void()> &leave) {
+            QTest::newRow(name) << leave;
+        };
+        row("behavior", [this] {
+            auto *list = view<QTreeView>("Behaviors");
+            list->setCurrentIndex(list->model()->index(1, 0));
+        });
+        row("language", [this] { combo("Language of the texts")->setCurrentIndex(1); });
+        row("reload", [this] {
+            Answer cancel(QMessageBox::Cancel);
+            press(Qt::Key_F5);
+            QVERIFY(cancel.isGiven());
+        });
+        row("save", [this] { press(Qt::Key_S, Qt::ControlModifier); });
+    }
+    void additionsAreNotLost() {
+        QFETCH(std::function<void()>, leave);
+        startAddition("half-ty");
+        const auto *behavior = m_window->document().package()->behaviors().first();
+        leave();
+        QVERIFY(line("A new tag")->text().isEmpty());
+        QCOMPARE(behavior->tags(Zel::Language::defaultLanguage()).last(),
+                 QStringLiteral("half-ty"));
+    }
+
+    // The text goes nowhere, and the user learns why.
+    void refusedAdditions() {
+        startAddition("half-ty");
+        press(Qt::Key_Return);
+        type(QStringLiteral("half-ty"));
+        QVERIFY(note());
+        const QByteArray before = manifest();
+        auto *list = view<QTreeView>("Behaviors");
+        list->setCurrentIndex(list->model()->index(1, 0));
+        Answer informed(QMessageBox::Ok);
+        QCoreApplication::processEvents();
+        QCOMPARE(informed.text, QStringLiteral("The list has “half-ty” already."));
+        QCOMPARE(manifest(), before);
+        QVERIFY(line("A new tag")->text().isEmpty());
+    }
+
+    void undoInAnAddition() {
+        startAddition("word");
+        press(Qt::Key_Return);
+        type(QStringLiteral("other"));
+        const QByteArray before = manifest();
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(line("A new tag")->text().isEmpty());
+        QCOMPARE(manifest(), before);
+        QCOMPARE(stack()->index(), 1);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(stack()->index(), 0);
+        QCOMPARE(focus(), line("A new tag"));
+    }
+
+    void pastedLinesAreEntries() {
+        startAddition("");
+        const auto *behavior = m_window->document().package()->behaviors().first();
+        const QStringList before = behavior->tags(Zel::Language::defaultLanguage());
+        paste("one\r\n" + before.first().toUtf8() + "\ntwo\n\none\nthree\n");
+        QCOMPARE(behavior->tags(Zel::Language::defaultLanguage()),
+                 before + QStringList({QStringLiteral("one"), QStringLiteral("two"),
+                                       QStringLiteral("three")}));
+        QCOMPARE(stack()->count(), 1);
+        QCOMPARE(line("A new tag")->text(), before.first()); // is there already
+        QVERIFY(note());
+
+        press(Qt::Key_A, Qt::ControlModifier);
+        paste("a\vb");
+        press(Qt::Key_Return);
+        QVERIFY(note()->text().contains(QStringLiteral("U+000B")));
+        QCOMPARE(stack()->count(), 1);
+    }
+
+    void undoShowsTheField_data() {
+        QTest::addColumn<QString>("at");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("content");
+        const auto row = [](const char *at, int page, const char *name, const char *content) {
+            QTest::newRow(at) << at << page << name << QString::fromUtf8(content);
+        };
+        row("author", 0, "Author:", "Ines Moreau");
+        row("names[ja_JP]", 1, "Name:", "読書コーナー");
+        row("supportedLanguages[de_DE]", 1, "Languages and texts", "German (Germany)");
+        row("brioRequirements[0].minVersion", 2, "Brio middleware", "2.5");
+        row("robotRequirements[1]", 2, "Robots", "Heron H1");
+        row("behaviors[stories/fable]", 3, "Behaviors", "stories/fable");
+        row("behaviors[stories/fable].path", 3, "Path:", "stories/fable");
+        row("behaviors[stories/fable].nature", 3, "Interactive: it reacts to people",
+            "Interactive: it reacts to people");
+        row("behaviors[stories/fable].names[fr_FR]", 3, "Name:", "Fable");
+        row("behaviors[stories/fable].triggerSentences[fr_FR][1]", 3, "Trigger sentences",
+            "raconte-moi une histoire d'animaux");
+        row("behaviors[stories/fable].tags[en_US][0]", 3, "Tags", "story");
+        row("behaviors[greet-visitor].conditions[suggestion][0]", 3, "Conditions", "people.new");
+        row("behaviors[stories/fable].permissions[0]", 3, "Permissions", "speech");
+        row("dialogs[reading-talk].topicName", 4, "Topic:", "reading-talk");
+        row("dialogs[reading-talk].topics[fr_FR]", 4, "Topic files",
+            "dialogs/reading-talk/reading-talk_frf.top");
+        row("services[noise-meter].execStart", 5, "Services", "bin/noise-meter --window 5s");
+        row("services[noise-meter]", 5, "Services", "noise-meter");
+    }
+    // Whatever is shown, an edit that is undone is shown with its page, entry, language and tab.
+    void undoShowsTheField() {
+        QFETCH(QString, at);
+        QFETCH(int, page);
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        Document &document = m_window->document();
+        const FieldPath changed = *FieldPath::parse(at.toStdString());
+        const bool isEntry = !changed.steps().back().selectors.empty();
+        document.edit({isEntry ? Edit{Edit::Action::Remove, changed} : setText(changed, {})});
+        QCOMPARE(stack()->count(), 1);
+        m_window->showPage((page + 1) % 6);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m_window->findChild<QListWidget *>()->currentRow(), page);
+        QVERIFY(focus()->isVisible());
+        QTEST(QAccessible::queryAccessibleInterface(focus())->text(QAccessible::Name), "name");
+        QTEST(shownBy(focus()), "content");
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(m_window->findChild<QListWidget *>()->currentRow(), page);
+    }
+
+    // The cursor stays where the text changes, in the editor of a cell too.
+    void undoKeepsTheCursor() {
+        QVERIFY(m_window->openFile(copyOf("small")));
+        QLineEdit *author = field("&Author:");
+        author->setFocus();
+        replaceText(QStringLiteral("abcdef"));
+        press(Qt::Key_Return);
+        author->setCursorPosition(3);
+        type(QStringLiteral("xy"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(author->text(), QStringLiteral("abcdef"));
+        QCOMPARE(author->cursorPosition(), 3);
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(author->cursorPosition(), 5);
+
+        m_window->showPage(1);
+        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        description->setFocus();
+        press(Qt::Key_A, Qt::ControlModifier);
+        type(QStringLiteral("one two"));
+        m_window->document().closeRun();
+        press(Qt::Key_Home);
+        type(QStringLiteral("x"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(description->toPlainText(), QStringLiteral("one two"));
+        QCOMPARE(description->textCursor().position(), 0);
+
+        openCell(1, "Languages and texts", 0, 3);
+        const QPointer<QWidget> editor = focus();
+        press(Qt::Key_End);
+        type(QStringLiteral("!"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(focus(), editor.data());
+        QCOMPARE(line(focus())->cursorPosition(), int(line(focus())->text().size()));
+    }
+
+private:
+    static FieldPath path(const char *list) { return FieldPath().field(list); }
+    static QLineEdit *line(QWidget *widget) { return qobject_cast<QLineEdit *>(widget); }
+    using EditorTest::line;
+
+    static QString shownBy(const QWidget *widget) {
+        if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
+            return edit->text();
+        if (const auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
+            const QModelIndex cell = view->currentIndex();
+            const bool isCheckBox = cell.data(Qt::CheckStateRole).isValid();
+            return (isCheckBox ? cell.siblingAtColumn(0) : cell).data().toString();
+        }
+        return qobject_cast<const QComboBox *>(widget)->currentText();
+    }
+
+    // Opens the editor of a cell, with all of its text selected.
+    QTableView *openCell(int page, const char *table, int row, int column) {
+        m_window->showPage(page);
+        auto *shown = view<QTableView>(table);
+        shown->setFocus();
+        shown->setCurrentIndex(shown->model()->index(row, column));
+        press(Qt::Key_F2);
+        return shown;
+    }
+    // Types the text of a new tag of the first behavior of a package, in English.
+    void startAddition(const char *text) {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->showPage(3);
+        tabs()->setCurrentIndex(3);
+        line("A new tag")->setFocus();
+        type(QLatin1String(text));
+    }
+    void paste(const QByteArray &text) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+        press(Qt::Key_V, Qt::ControlModifier);
+    }
+    // The reason that is shown; null for none.
+    FieldNote *note() const {
+        for (FieldNote *each : m_window->findChildren<FieldNote *>()) {
+            if (each->isVisible())
+                return each;
+        }
+        return nullptr;
+    }
+    QComboBox *combo(const char *accessibleName) const {
+        for (QComboBox *each : m_window->findChildren<QComboBox *>()) {
+            if (each->accessibleName() == QLatin1String(accessibleName))
+                return each;
+        }
+        return nullptr;
+    }
+    QAction *action(const char *text) const {
+        for (QAction *each : m_window->findChildren<QAction *>()) {
+            if (each->text() == QLatin1String(text))
+                return each;
+        }
+        return nullptr;
+    }
+};
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
+QTEST_MAIN(TestEditorTyping)
+#include "tst_editor_typing.moc"

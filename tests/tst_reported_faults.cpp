@@ -1,0 +1,242 @@
+// No fault goes unnoticed: a manifest with one fault that the schema rejects is refused by the
+// reader or has a finding more than the manifest without the fault. The exceptions are a table
+// below.
+
+#include "text.h"
+#include "xml_tree.h"
+
+#include <packagemodel/package_info_model.h>
+#include <packagemodel/package_issues.h>
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+
+using namespace XmlTree;
+
+namespace {
+
+using Visit = std::function<void(const QString &fault, const Element &root)>;
+
+QStringList misspellings(const QString &name) {
+    return {name.chopped(1),
+            QString(name % name.back()),
+            QString(name.mid(1, 1) % name.left(1) % name.mid(2)),
+            QString(name.left(1).toUpper() % name.mid(1)),
+            name.toLower(),
+            QString(text("x") % name)};
+}
+
+// Visits a tree with each of the faults that one change makes.
+class Faults {
+public:
+    Faults(const Element &root, Visit visit)
+        : m_root(root)
+        , m_visit(std::move(visit)) {}
+
+    void visitAll() {
+        change(m_root);
+        visitChildren(m_root);
+    }
+
+private:
+    void visitChildren(Element &parent) {
+        for (std::size_t i = 0; i < parent.children.size(); ++i) {
+            if (parent.children[i].name.isEmpty())
+                continue;
+            replaceChild(parent, i, {}, "removed");
+            replaceChild(parent, i, {parent.children[i], parent.children[i]}, "duplicated");
+            change(parent.children[i]);
+            visitChildren(parent.children[i]);
+        }
+    }
+
+    void replaceChild(Element &parent, std::size_t index, const std::vector<Element> &others,
+                      const char *fault) {
+        const auto before = parent.children;
+        const auto at = parent.children.erase(parent.children.begin() + std::ptrdiff_t(index));
+        parent.children.insert(at, others.begin(), others.end());
+        m_visit(before[index].name % u' ' % text(fault), m_root);
+        parent.children = before;
+    }
+
+    void change(Element &element) {
+        const Element before = element;
+        const auto visit = [&](const QString &fault) {
+            m_visit(before.name % u' ' % fault, m_root);
+            element = before;
+        };
+        for (const QString &name : misspellings(before.name)) {
+            element.name = name;
+            visit(text("misspelled ") % name);
+        }
+        element.children.clear();
+        visit(text("emptied"));
+        for (const char *content : {"text", " ", "<odd/>", "<!--a comment-->"}) {
+            element.children = {{{}, {}, text(content), {}}};
+            visit(text("replaced by ") % text(content));
+            element.children.push_front({{}, {}, text(content), {}});
+            visit(text("begun with ") % text(content));
+        }
+        for (int i = 0; i < before.attributes.size(); ++i)
+            changeAttribute(element, i, visit);
+    }
+
+    static void changeAttribute(Element &element, int index,
+                                const std::function<void(const QString &fault)> &visit) {
+        const auto attribute = element.attributes[index];
+        for (const QString &name : misspellings(attribute.first)) {
+            element.attributes[index].first = name;
+            visit(text("misspelled ") % name);
+        }
+        for (const QString &value : QStringList{
+                 QString(), text(" "), text("TRUE"), text("0"), text("x"), QString(4097, u'x'),
+                 attribute.second.toUpper(), QString(u' ' % attribute.second)}) {
+            element.attributes[index].second = value;
+            visit(attribute.first % text(" changed to ") % value.left(10));
+        }
+        element.attributes.append(attribute);
+        visit(attribute.first % text(" duplicated"));
+        element.attributes.remove(index);
+        visit(attribute.first % text(" removed"));
+    }
+
+    Element m_root;
+    Visit m_visit;
+};
+
+std::map<QString, int> countsOfIssues(const QByteArray &content) {
+    Tano::PackageInfo record;
+    if (!record.loadFromManifestContent(content.toStdString()))
+        return {{text("refused"), 1}};
+    const Zel::PackageInfoModel package(record);
+    Zel::PackageModel::IssueOptions options{{}, &record};
+    options.withFixes = false;
+    std::map<QString, int> counts;
+    for (const auto &issue : Zel::PackageModel::issues(&package, options))
+        ++counts[issue.id];
+    return counts;
+}
+
+bool hasMore(const std::map<QString, int> &counts, std::map<QString, int> before) {
+    return std::any_of(counts.begin(), counts.end(),
+                       [&](const auto &each) { return each.second > before[each.first]; });
+}
+
+struct Mutant {
+    QString fault;
+    QString path;
+    const std::map<QString, int> *before; // the findings without the fault
+};
+
+// What the schema rejects although it is no fault.
+struct Exception {
+    const char *reason;
+    const char *fault; // a regular expression
+};
+
+constexpr Exception exceptions[]{
+    {"The name of a namespace is any text for the reader, and a URI for xmllint.",
+     " xmlns(:[a-z]+)? changed to  "},
+};
+
+bool isException(const Mutant &mutant) {
+    return std::any_of(std::begin(exceptions), std::end(exceptions), [&](const Exception &each) {
+        return mutant.fault.contains(QRegularExpression(text(each.fault)));
+    });
+}
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+} // namespace
+
+class TestReportedFaults : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QDir(m_dir.path()).mkdir(text("seeds"));
+        int number = 0;
+        for (const char *folder :
+             {ZEL_TEST_DATA "/manifest/valid", ZEL_TEST_DATA "/manifest/valid/noncanonical",
+              ZEL_SOURCE_DIR "/examples/packages/small",
+              ZEL_SOURCE_DIR "/examples/packages/unfinished",
+              ZEL_SOURCE_DIR "/examples/packages/ten-languages"}) {
+            static const QRegularExpression limits(text("^(most|deepest)"));
+            const auto files = QDir(text(folder)).entryInfoList({text("*.xml")}, QDir::Files);
+            for (const QFileInfo &file : files) {
+                if (!limits.match(file.fileName()).hasMatch())
+                    write(m_dir.filePath(text("seeds/%1").arg(number++)),
+                          written(treeOf(file.filePath())).toUtf8());
+            }
+        }
+        const QSet<QString> valid = acceptedBySchema(QDir(m_dir.filePath(text("seeds"))));
+        for (const QString &path : valid)
+            m_seeds.append(path);
+        m_seeds.sort();
+        QVERIFY(m_seeds.size() > 20);
+    }
+
+    void oneFault() {
+        // One of so many; 1 for a run of minutes with all of them.
+        const int wanted = qEnvironmentVariableIntValue("ZEL_FAULT_STEP");
+        const int step = wanted > 0 ? wanted : 19;
+        const QDir dir(m_dir.filePath(text("mutants")));
+        dir.mkpath(text("."));
+        std::map<QString, std::map<QString, int>> before;
+        std::vector<Mutant> mutants;
+        int number = 0;
+        for (const QString &seed : std::as_const(m_seeds)) {
+            const auto &counts = before[seed] = countsOfIssues(contentOf(seed));
+            Faults(treeOf(seed), [&](const QString &fault, const Element &root) {
+                if (number++ % step != 0)
+                    return;
+                const QString path = dir.filePath(QString::number(number));
+                mutants.push_back({fault, path, &counts});
+                write(path, written(root).toUtf8());
+            }).visitAll();
+        }
+        checkMutants(mutants, acceptedBySchema(dir));
+    }
+
+private:
+    static void checkMutants(const std::vector<Mutant> &mutants, const QSet<QString> &valid) {
+        QStringList unnoticed;
+        int refused = 0;
+        int reported = 0;
+        int excepted = 0;
+        for (const Mutant &mutant : mutants) {
+            if (valid.contains(mutant.path))
+                continue;
+            const QByteArray content = contentOf(mutant.path);
+            const auto counts = countsOfIssues(content);
+            if (counts.count(text("refused")) != 0)
+                ++refused;
+            else if (hasMore(counts, *mutant.before))
+                ++reported;
+            else if (isException(mutant))
+                ++excepted;
+            else
+                unnoticed += mutant.fault % u'\n' % QString::fromUtf8(content).left(500);
+        }
+        qInfo("%d mutants: %d valid, %d refused, %d reported, %d exceptions", int(mutants.size()),
+              int(valid.size()), refused, reported, excepted);
+        QVERIFY(refused > 0 && reported > 0);
+        QVERIFY2(unnoticed.isEmpty(), qPrintable(unnoticed.join(u'\n')));
+    }
+
+    QTemporaryDir m_dir;
+    QStringList m_seeds;
+};
+
+QTEST_GUILESS_MAIN(TestReportedFaults)
+#include "tst_reported_faults.moc"
