@@ -99,7 +99,11 @@ function(zel_add_library target)
     list(FILTER outside EXCLUDE REGEX "^(Zel|Tano)::")
     set_target_properties(${target} PROPERTIES ZEL_OUTSIDE_DEPENDS "${outside}")
 
-    set_property(GLOBAL APPEND PROPERTY ZEL_${arg_NAMESPACE}_LIBRARIES ${target})
+    set_target_properties(${target} PROPERTIES
+        ZEL_NAME ${arg_NAMESPACE}::${arg_EXPORT_NAME}
+        ZEL_DEPENDS "${arg_DEPENDS}"
+        ZEL_PRIVATE_DEPENDS "${arg_PRIVATE_DEPENDS}")
+    set_property(GLOBAL APPEND PROPERTY ZEL_LIBRARIES ${target})
     install(DIRECTORY include/ "${generated}/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
         FILES_MATCHING PATTERN "*.h")
 endfunction()

@@ -30,6 +30,27 @@ if(NOT name STREQUAL EXPECTED_NAME)
     message(FATAL_ERROR "The expected name is '${EXPECTED_NAME}'.")
 endif()
 
+# The same with pkg-config instead of CMake.
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${WORK_DIR}/prefix/${LIBDIR}/pkgconfig"
+        "${PKG_CONFIG}" --cflags --libs zel-packagemodel
+    OUTPUT_VARIABLE flags
+    OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} -std=c++17 -fPIC ${CONSUMER_DIR}/main.cpp ${flags}")
+execute_process(
+    COMMAND "${CXX_COMPILER}" ${flags} "-Wl,-rpath,${WORK_DIR}/prefix/${LIBDIR}"
+        -o "${WORK_DIR}/consumer"
+    COMMAND_ERROR_IS_FATAL ANY)
+execute_process(
+    COMMAND "${WORK_DIR}/consumer" "${MANIFEST}"
+    OUTPUT_VARIABLE name
+    OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+if(NOT name STREQUAL EXPECTED_NAME)
+    message(FATAL_ERROR "With pkg-config, the consumer read '${name}'.")
+endif()
+
 # The installed program finds the installed data, not those of the build tree.
 if(EXISTS "${WORK_DIR}/prefix/bin/zel-package")
     execute_process(

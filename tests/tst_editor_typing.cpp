@@ -90,7 +90,7 @@ private Q_SLOTS:
         const QByteArray before = manifest();
         m_window->showPage(3);
         line("Find a behavior")->setFocus();
-        type(QStringLiteral("stor")); // and a behavior that the filter does not match any more
+        type(QStringLiteral("stories/b")); // and a behavior that the filter does not match any more
         field("&Path:")->setFocus();
         const auto *behavior = m_window->document().package()->behavior(field("&Path:")->text());
         replaceText(QStringLiteral("fable"));

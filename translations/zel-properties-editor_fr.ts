@@ -224,7 +224,7 @@
     </message>
     <message>
         <source>Merge with the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionner avec le fichier</translation>
     </message>
 </context>
 <context>
@@ -895,27 +895,27 @@ Version %1</translation>
     <name>Editor::Reloading</name>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">Recharger</translation>
+        <translation>Recharger</translation>
     </message>
     <message>
         <source>Your unsaved changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos modifications non enregistrées :</translation>
     </message>
     <message>
         <source>Changes in the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications dans le fichier :</translation>
     </message>
     <message>
         <source>Keep Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les deux</translation>
     </message>
     <message>
         <source>Discard Yours</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner les vôtres</translation>
     </message>
     <message>
         <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces champs ont été modifiés des deux côtés. Ils gardent vos valeurs et figurent parmi les problèmes jusqu’à votre décision.</translation>
     </message>
 </context>
 <context>
@@ -1004,35 +1004,35 @@ Version %1</translation>
     <name>Editor::ReviewPage</name>
     <message>
         <source>Re&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vérification</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications</translation>
     </message>
     <message>
         <source>What has changed since the package was saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications depuis le dernier enregistrement :</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Publication</source>
-        <translation type="unfinished"></translation>
+        <translation>Publication</translation>
     </message>
     <message>
         <source>What publishing changes in the copy for users:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que la publication change dans la copie destinée aux utilisateurs :</translation>
     </message>
     <message>
         <source>Nothing has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune modification.</translation>
     </message>
     <message>
         <source>Nothing: all texts are plain, in languages that the package has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien : tous les textes sont simples et dans des langues du paquet.</translation>
     </message>
 </context>
 <context>
@@ -1176,7 +1176,7 @@ Version %1</translation>
     <name>Editor::XmlView</name>
     <message>
         <source>The manifest as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Le manifeste en XML</translation>
     </message>
 </context>
 <context>

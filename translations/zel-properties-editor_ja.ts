@@ -224,7 +224,7 @@
     </message>
     <message>
         <source>Merge with the file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルとマージ</translation>
     </message>
 </context>
 <context>
@@ -895,27 +895,27 @@ Version %1</source>
     <name>Editor::Reloading</name>
     <message>
         <source>Reload</source>
-        <translation type="unfinished">再読み込み</translation>
+        <translation>再読み込み</translation>
     </message>
     <message>
         <source>Your unsaved changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>保存していないあなたの変更:</translation>
     </message>
     <message>
         <source>Changes in the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの変更:</translation>
     </message>
     <message>
         <source>Keep Both</source>
-        <translation type="unfinished"></translation>
+        <translation>両方を残す</translation>
     </message>
     <message>
         <source>Discard Yours</source>
-        <translation type="unfinished"></translation>
+        <translation>自分の変更を破棄</translation>
     </message>
     <message>
         <source>These fields were changed on both sides. They keep your values, and are listed as problems until you decide.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの項目は両方で変更されました。あなたの値が残り、決めるまで問題として表示されます。</translation>
     </message>
 </context>
 <context>
@@ -1004,35 +1004,35 @@ Version %1</source>
     <name>Editor::ReviewPage</name>
     <message>
         <source>Re&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>確認(&amp;V)</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>What has changed since the package was saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に保存してからの変更:</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Publication</source>
-        <translation type="unfinished"></translation>
+        <translation>公開</translation>
     </message>
     <message>
         <source>What publishing changes in the copy for users:</source>
-        <translation type="unfinished"></translation>
+        <translation>公開用のコピーで変わる内容:</translation>
     </message>
     <message>
         <source>Nothing has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更はありません。</translation>
     </message>
     <message>
         <source>Nothing: all texts are plain, in languages that the package has.</source>
-        <translation type="unfinished"></translation>
+        <translation>なし: すべてのテキストはプレーンで、パッケージの言語のものです。</translation>
     </message>
 </context>
 <context>
@@ -1176,7 +1176,7 @@ Version %1</source>
     <name>Editor::XmlView</name>
     <message>
         <source>The manifest as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML としてのマニフェスト</translation>
     </message>
 </context>
 <context>
