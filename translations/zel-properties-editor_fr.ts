@@ -950,7 +950,7 @@ Version %1</translation>
     </message>
     <message>
         <source>Choose a robot</source>
-        <translation>Choisissez un robot</translation>
+        <translation>Choisir</translation>
     </message>
 </context>
 <context>
