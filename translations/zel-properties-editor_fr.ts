@@ -1156,6 +1156,10 @@ Version %1</translation>
         <source>&amp;Description:</source>
         <translation>&amp;Description&#xa0;:</translation>
     </message>
+    <message>
+        <source>The languages that the package supports or has texts in. “Add Language” adds one.</source>
+        <translation>Les langues que le paquet prend en charge ou dans lesquelles il a des textes. «&#xa0;Ajouter une langue&#xa0;» en ajoute une.</translation>
+    </message>
 </context>
 <context>
     <name>Editor::TopicsModel</name>
