@@ -131,8 +131,10 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
         }
     },
     [](QPainterPath &path) { // Review
-        page(path);
-        line(path, {{8, 14}, {11, 17}, {16, 12}});
+        path.moveTo(2, 12);
+        path.cubicTo(7, 4, 17, 4, 22, 12);
+        path.cubicTo(17, 20, 7, 20, 2, 12);
+        circle(path, 12, 12, 3);
     },
     [](QPainterPath &path) { // Find
         circle(path, 10, 10, 7);

@@ -114,6 +114,7 @@ void MainWindow::addPages() {
 void MainWindow::showStartPage() {
     m_start->refresh();
     m_stack->setCurrentWidget(m_start);
+    statusBar()->hide();
     const auto docks = findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks) {
         if (!dock->isHidden())
@@ -127,6 +128,7 @@ void MainWindow::leaveStartPage() {
     if (m_stack->currentWidget() != m_start)
         return;
     m_stack->setCurrentWidget(m_pages);
+    statusBar()->show();
     for (QWidget *dock : std::as_const(m_hiddenDocks))
         dock->show();
     m_hiddenDocks.clear();
