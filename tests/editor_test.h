@@ -170,7 +170,16 @@ protected:
         }
         return nullptr;
     }
-    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(); }
+    /// The first widget of that kind on the page that is shown.
+    template<typename Widget>
+    Widget *shown() {
+        for (Widget *candidate : m_window->findChildren<Widget *>()) {
+            if (candidate->isVisible())
+                return candidate;
+        }
+        return nullptr;
+    }
+    QTabWidget *tabs() { return shown<QTabWidget>(); }
 
     QTemporaryDir m_directory;
     int m_copies = 0;

@@ -60,7 +60,7 @@ private Q_SLOTS:
 
         m_window->document().setTypingPause(std::chrono::hours(1));
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = shown<QPlainTextEdit>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one"));
@@ -389,7 +389,7 @@ private Q_SLOTS:
         QCOMPARE(author->cursorPosition(), 5);
 
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = shown<QPlainTextEdit>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one two"));
