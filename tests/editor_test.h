@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/behavior_details.h"
 #include "window/main_window.h"
 
 #include <QApplication>
@@ -170,7 +171,9 @@ protected:
         }
         return nullptr;
     }
-    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(); }
+    QTabWidget *tabs() {
+        return m_window->findChild<Editor::BehaviorDetails *>()->findChild<QTabWidget *>();
+    }
 
     QTemporaryDir m_directory;
     int m_copies = 0;

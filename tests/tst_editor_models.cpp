@@ -303,8 +303,8 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         const QString fileName = directory.filePath(QStringLiteral("manifest.xml"));
         // With and without comments and unknown content.
-        const QString original = seed % 2 == 0 ? QStringLiteral(ZEL_TEST_DATA "/fields/package.xml")
-                                               : sample("small");
+        const QString original =
+            seed % 2 == 0 ? QStringLiteral(ZEL_TEST_DATA "/fields/package.xml") : sample("small");
         QVERIFY(QFile::copy(original, fileName));
         Document document;
         QVERIFY(document.open(fileName));

@@ -1,5 +1,6 @@
 #include "document/field_edits.h"
 #include "editor_test.h"
+#include "pages/texts_page.h"
 #include "widgets/field_note.h"
 #include "widgets/marks.h"
 
@@ -60,7 +61,7 @@ private Q_SLOTS:
 
         m_window->document().setTypingPause(std::chrono::hours(1));
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = m_window->findChild<TextsPage *>()->findChild<QPlainTextEdit *>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one"));
@@ -389,7 +390,7 @@ private Q_SLOTS:
         QCOMPARE(author->cursorPosition(), 5);
 
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = m_window->findChild<TextsPage *>()->findChild<QPlainTextEdit *>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one two"));

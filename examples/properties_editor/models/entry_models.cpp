@@ -131,6 +131,8 @@ int ServicesModel::columnCount(const QModelIndex &parent) const {
 }
 
 FieldPath ServicesModel::field(const QModelIndex &index) const {
+    if (!index.isValid()) // such as that of an editor whose row is gone
+        return {};
     const FieldPath list = FieldPath().field("services");
     return Zel::PackageModel::itemPath(package(), list, index.row())
         .field(names.at(std::size_t(index.column())));

@@ -51,6 +51,8 @@ FieldPath RequirementsModel::list() const {
 }
 
 FieldPath RequirementsModel::field(const QModelIndex &index) const {
+    if (!index.isValid())
+        return {};
     return list().index(index.row()).field(columns().at(std::size_t(index.column())).field);
 }
 

@@ -136,6 +136,10 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
         path.cubicTo(17, 20, 7, 20, 2, 12);
         circle(path, 12, 12, 3);
     },
+    [](QPainterPath &path) { // Find
+        circle(path, 10, 10, 7);
+        line(path, {{15, 15}, {21, 21}});
+    },
     [](QPainterPath &path) { // Add
         line(path, {{12, 4}, {12, 20}});
         line(path, {{4, 12}, {20, 12}});

@@ -23,6 +23,7 @@ enum class Symbol {
     Dialogs,
     Services,
     Review,
+    Find,
     Add,
     Remove,
     Check,

@@ -2,16 +2,19 @@
 
 #include "file_actions.h"
 #include "file_drop.h"
+#include "find_panel.h"
 #include "models/problems_model.h"
 #include "page_stack.h"
 #include "pages/behaviors_page.h"
 #include "pages/dialogs_page.h"
 #include "pages/identity_page.h"
 #include "pages/requirements_page.h"
+#include "pages/review_page.h"
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
 #include "problem_count.h"
 #include "problems_panel.h"
+#include "recovery_dialogs.h"
 #include "start_page.h"
 #include "tab_order.h"
 #include "widgets/message_bar.h"
@@ -47,12 +50,9 @@ MainWindow::MainWindow(QWidget *parent)
     m_files = new FileActions(*this, *m_messageBar);
     connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFile);
     addPages();
-    addProblemsDock();
-    addHistoryDock();
+    addDocks();
     addMenus();
     addStatus();
-    resizeDocks(findChildren<QDockWidget *>(), {820, 260}, Qt::Horizontal);
-    resizeDocks({findChild<QDockWidget *>(QStringLiteral("problems"))}, {150}, Qt::Vertical);
     resize(1100, 780);
 
     connect(m_document.undoStack(), &QUndoStack::cleanChanged, this,
@@ -61,7 +61,6 @@ MainWindow::MainWindow(QWidget *parent)
     connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
     });
-    setTabOrderOf(*this);
     connect(&m_document, &Document::fieldChanged, this, &MainWindow::showChange);
     refreshTitle();
 }
@@ -78,11 +77,12 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::addPages() {
-    m_pages =
-        new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
-                       new RequirementsPage(m_document, this), new BehaviorsPage(m_document, this),
-                       new DialogsPage(m_document, this), new ServicesPage(m_document, this)},
-                      this);
+    m_pages = new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
+                             new RequirementsPage(m_document, this),
+                             new BehaviorsPage(m_document, this), new DialogsPage(m_document, this),
+                             new ServicesPage(m_document, this), new ReviewPage(m_document, this)},
+                            this);
+    connect(findChild<ReviewPage *>(), &ReviewPage::fieldWanted, this, &MainWindow::showField);
     m_stack->addWidget(m_pages);
     m_stack->addWidget(m_start);
     auto *content = new QWidget(this);
@@ -126,23 +126,32 @@ void MainWindow::leaveStartPage() {
     refreshTitle();
 }
 
-void MainWindow::addProblemsDock() {
-    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
-    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
-    auto *dock = new QDockWidget(tr("Problems"), this);
-    dock->setObjectName(QStringLiteral("problems"));
-    dock->setWidget(m_problemsPanel);
+QDockWidget *MainWindow::addDock(const QString &title, const char *name, QWidget *content) {
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(content);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
+    return dock;
 }
 
-void MainWindow::addHistoryDock() {
-    auto *view = new QUndoView(m_document.undoStack(), this);
-    view->setEmptyLabel(tr("As opened"));
-    view->setAccessibleName(tr("History"));
-    auto *dock = new QDockWidget(tr("History"), this);
-    dock->setObjectName(QStringLiteral("history"));
-    dock->setWidget(view);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
+void MainWindow::addDocks() {
+    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
+    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
+    QDockWidget *problems = addDock(tr("Problems"), "problems", m_problemsPanel);
+
+    m_findPanel = new FindPanel(m_document, this);
+    connect(m_findPanel, &FindPanel::fieldWanted, this, &MainWindow::showField);
+    QDockWidget *find = addDock(tr("Find and Replace"), "find", m_findPanel);
+
+    auto *history = new QUndoView(m_document.undoStack(), this);
+    history->setEmptyLabel(tr("As opened"));
+    history->setAccessibleName(tr("History"));
+    QDockWidget *historyDock = addDock(tr("History"), "history", history);
+
+    tabifyDockWidget(problems, find);
+    resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
+    resizeDocks({problems}, {150}, Qt::Vertical);
+    find->hide();
 }
 
 void MainWindow::addStatus() {
@@ -180,6 +189,16 @@ void MainWindow::restore() {
     const int page = restoreWindowState(*this);
     if (page >= 0)
         m_pages->show(page);
+}
+
+void MainWindow::keepEditsIn(const QString &folder) {
+    m_recovery = std::make_unique<Recovery>(m_document, folder);
+    m_recoveryDialogs = new RecoveryDialogs(m_document, *m_recovery, *m_messageBar, this);
+}
+
+void MainWindow::offerLeftovers() {
+    if (m_recoveryDialogs)
+        m_recoveryDialogs->offerLeftovers();
 }
 
 void MainWindow::showField(const QString &path) {
@@ -263,7 +282,10 @@ bool MainWindow::event(QEvent *event) {
     // A file on a network drive may change without notice.
     if (event->type() == QEvent::WindowActivate)
         m_document.checkDisk();
-    return QMainWindow::event(event);
+    const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::Show)
+        setTabOrderOf(*this); // docks in one place have their tabs by now
+    return isHandled;
 }
 
 } // namespace Editor

@@ -2,6 +2,7 @@
 
 #include "color_scheme.h"
 #include "file_actions.h"
+#include "find_panel.h"
 #include "page_stack.h"
 #include "pages/page.h"
 #include "problems_panel.h"
@@ -23,6 +24,8 @@ void MainWindow::addMenus() {
     const QList<QAction *> undoing = newUndoActions(*m_document.undoStack(), this);
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     edit->addActions(undoing);
+    edit->addSeparator();
+    addFindActions(edit);
 
     QMenu *problems = menuBar()->addMenu(tr("&Problems"));
     problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext)
@@ -42,6 +45,22 @@ void MainWindow::addMenus() {
     m_files->fillToolBar(toolBar);
     toolBar->addSeparator();
     toolBar->addActions(undoing);
+}
+
+void MainWindow::addFindActions(QMenu *menu) {
+    auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
+    const auto start = [this, dock] {
+        leaveStartPage();
+        dock->show();
+        dock->raise();
+        m_findPanel->start();
+    };
+    menu->addAction(iconOf(Symbol::Find), tr("&Find…"), this, start)
+        ->setShortcut(QKeySequence::Find);
+    menu->addAction(tr("Find &Next"), m_findPanel, &FindPanel::showNext)
+        ->setShortcut(QKeySequence::FindNext);
+    menu->addAction(tr("Find &Previous"), m_findPanel, &FindPanel::showPrevious)
+        ->setShortcut(QKeySequence::FindPrevious);
 }
 
 void MainWindow::addViewMenu() {
