@@ -1,6 +1,5 @@
 #pragma once
 
-#include "pages/behavior_details.h"
 #include "window/main_window.h"
 
 #include <QApplication>
@@ -66,6 +65,16 @@ inline std::function<void(QFileDialog *)> choose(const QString &fileName) {
     return [fileName](QFileDialog *dialog) {
         dialog->findChild<QLineEdit *>()->setText(fileName);
         dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
+    };
+}
+
+/// Clicks the button of a dialog with that text.
+inline std::function<void(QDialog *)> click(const QString &text) {
+    return [text](QDialog *dialog) {
+        for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
+            if (button->text() == text)
+                button->click();
+        }
     };
 }
 
@@ -137,6 +146,14 @@ protected:
     QTreeView *problems() { return view<QTreeView>("Problems"); }
     int problemCount() { return problems()->model()->rowCount(); }
 
+    template<typename Widget>
+    Widget *visible() const {
+        for (Widget *candidate : m_window->findChildren<Widget *>()) {
+            if (candidate->isVisible())
+                return candidate;
+        }
+        return nullptr;
+    }
     template<typename View>
     View *view(const char *accessibleName) {
         for (View *candidate : m_window->findChildren<View *>()) {
@@ -171,9 +188,8 @@ protected:
         }
         return nullptr;
     }
-    QTabWidget *tabs() {
-        return m_window->findChild<Editor::BehaviorDetails *>()->findChild<QTabWidget *>();
-    }
+    // The tabs of the page that is shown.
+    QTabWidget *tabs() { return visible<QTabWidget>(); }
 
     QTemporaryDir m_directory;
     int m_copies = 0;

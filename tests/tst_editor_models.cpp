@@ -149,6 +149,8 @@ private Q_SLOTS:
             for (int role = 0; role <= Qt::UserRole + 2; ++role)
                 QVERIFY(!model->data({}, role).isValid());
             QVERIFY(!model->setData({}, QStringLiteral("x")));
+            if (const auto *table = qobject_cast<TableModel *>(model))
+                QVERIFY(table->field({}).isEmpty() && table->refusal({}, {}).isEmpty());
             const std::unique_ptr<QMimeData> data(model->mimeData({QModelIndex()}));
         }
         QVERIFY(!document.isModified());

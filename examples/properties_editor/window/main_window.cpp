@@ -61,6 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
     });
+    setTabOrderOf(*this);
     connect(&m_document, &Document::fieldChanged, this, &MainWindow::showChange);
     refreshTitle();
 }
@@ -77,12 +78,13 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::addPages() {
+    auto *review = new ReviewPage(m_document, this);
+    connect(review, &ReviewPage::fieldWanted, this, &MainWindow::showField);
     m_pages = new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
                              new RequirementsPage(m_document, this),
                              new BehaviorsPage(m_document, this), new DialogsPage(m_document, this),
-                             new ServicesPage(m_document, this), new ReviewPage(m_document, this)},
+                             new ServicesPage(m_document, this), review},
                             this);
-    connect(findChild<ReviewPage *>(), &ReviewPage::fieldWanted, this, &MainWindow::showField);
     m_stack->addWidget(m_pages);
     m_stack->addWidget(m_start);
     auto *content = new QWidget(this);
@@ -148,7 +150,6 @@ void MainWindow::addDocks() {
     history->setAccessibleName(tr("History"));
     QDockWidget *historyDock = addDock(tr("History"), "history", history);
 
-    tabifyDockWidget(problems, find);
     resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
     resizeDocks({problems}, {150}, Qt::Vertical);
     find->hide();
@@ -282,10 +283,7 @@ bool MainWindow::event(QEvent *event) {
     // A file on a network drive may change without notice.
     if (event->type() == QEvent::WindowActivate)
         m_document.checkDisk();
-    const bool isHandled = QMainWindow::event(event);
-    if (event->type() == QEvent::Show)
-        setTabOrderOf(*this); // docks in one place have their tabs by now
-    return isHandled;
+    return QMainWindow::event(event);
 }
 
 } // namespace Editor

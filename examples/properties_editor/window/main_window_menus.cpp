@@ -51,6 +51,8 @@ void MainWindow::addFindActions(QMenu *menu) {
     auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
     const auto start = [this, dock] {
         leaveStartPage();
+        if (dock->isHidden()) // only now, or its tab would be there before
+            tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("problems")), dock);
         dock->show();
         dock->raise();
         m_findPanel->start();

@@ -75,9 +75,6 @@ void setTabOrderOf(QMainWindow &window) {
     const auto docks = window.findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks)
         stops.add(dock);
-    const auto tabs = window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QTabBar *bar : tabs) // of docks in one place
-        stops.add(bar);
     stops.add(window.statusBar());
     stops.apply();
 }
