@@ -35,7 +35,7 @@ using namespace Editor;
 
 namespace {
 
-constexpr int pageCount = 6;
+constexpr int pageCount = 7;
 
 QString nameOf(QWidget *widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
@@ -69,8 +69,8 @@ private Q_SLOTS:
 
     void tabKeyFollowsTheScreen_data() {
         QTest::addColumn<int>("page");
-        const std::array names{"identity",  "languages", "requirements",
-                               "behaviors", "dialogs",   "services"};
+        const std::array names{"identity", "languages", "requirements", "behaviors",
+                               "dialogs",  "services",  "review"};
         for (int page = 0; page < pageCount; ++page)
             QTest::newRow(names.at(std::size_t(page))) << page;
     }
@@ -233,7 +233,8 @@ private Q_SLOTS:
                       pressButton(shown, QMessageBox::AcceptRole), chooseFile(published)});
         press(Qt::Key_E, Qt::ControlModifier);
         QVERIFY2(shown.value(0).contains(QStringLiteral(".top")), qPrintable(shown.value(0)));
-        QVERIFY2(shown.value(2).contains(QStringLiteral("fewer texts")), qPrintable(shown.value(2)));
+        QVERIFY2(shown.value(2).contains(QStringLiteral("fewer texts")),
+                 qPrintable(shown.value(2)));
         QCOMPARE(contentOf(fileName), before);
         QVERIFY(contentOf(published).contains("uid=\"reading-corner\""));
         QVERIFY(m_answers.empty());
@@ -260,7 +261,8 @@ private Q_SLOTS:
         QStringList shown;
         answerInTurn({pressButton(shown, QMessageBox::AcceptRole), chooseFile(other)});
         press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY2(shown.value(0).contains(QStringLiteral("No such file")), qPrintable(shown.value(0)));
+        QVERIFY2(shown.value(0).contains(QStringLiteral("No such file")),
+                 qPrintable(shown.value(0)));
         QCOMPARE(m_window->document().fileName(), other);
         QVERIFY(contentOf(other).contains("morning-wave"));
     }
