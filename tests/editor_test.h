@@ -144,10 +144,14 @@ protected:
         }
         return nullptr;
     }
+    // Which letter is underlined does not matter.
+    static bool isSame(QString shown, const char *text) {
+        return shown.remove(u'&') == QString::fromUtf8(text).remove(u'&');
+    }
     // The field that a label belongs to.
     QLineEdit *field(const char *label) {
         for (const QLabel *candidate : m_window->findChildren<QLabel *>()) {
-            if (candidate->text() == QLatin1String(label))
+            if (isSame(candidate->text(), label))
                 return qobject_cast<QLineEdit *>(candidate->buddy());
         }
         return nullptr;
@@ -161,7 +165,7 @@ protected:
     }
     QPushButton *button(const char *text) {
         for (QPushButton *candidate : m_window->findChildren<QPushButton *>()) {
-            if (candidate->text() == QString::fromUtf8(text))
+            if (isSame(candidate->text(), text))
                 return candidate;
         }
         return nullptr;

@@ -10,6 +10,7 @@
 #include "window/page_stack.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QCommandLinkButton>
 #include <QDialogButtonBox>
@@ -19,6 +20,7 @@
 #include <QMenuBar>
 #include <QMetaEnum>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTableView>
 #include <QTranslator>
@@ -184,6 +186,24 @@ private Q_SLOTS:
         QApplication::setPalette(palette);
         hint.show();
         QVERIFY(contrast(hint) > 4.5);
+    }
+
+    void checkBoxesAreVisibleInTheDark() {
+        QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+        QCheckBox box;
+        QVERIFY(contrast(box) > 3);
+    }
+
+    // An issue of the package as a whole, such as that of its icon, marks no field.
+    void marksFieldsAtFaultOnly() {
+        const QString fileName = copyOf("small");
+        writeTo(QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png")), "no picture");
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("icon.png is not read")));
+        QVERIFY(m_window->openFile(fileName));
+        QCOMPARE(problemCount(), 1);
+        const auto *languages = view<QTableView>("Languages and texts")->model();
+        QVERIFY(languages->index(0, 0).data(Qt::DecorationRole).isNull());
     }
 
     // The icons and marks that are shown already change their colors.

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Texts &amp;in:</source>
-        <translation>Textes &amp;en&#xa0;:</translation>
+        <translation>Te&amp;xtes en&#xa0;:</translation>
     </message>
     <message>
         <source>Texts</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Affichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -950,7 +950,7 @@ Version %1</translation>
     </message>
     <message>
         <source>Choose a robot</source>
-        <translation>Choisissez un robot</translation>
+        <translation>Choisir</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1155,10 @@ Version %1</translation>
     <message>
         <source>&amp;Description:</source>
         <translation>&amp;Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The languages that the package supports or has texts in. “Add Language” adds one.</source>
+        <translation>Les langues que le paquet prend en charge ou dans lesquelles il a des textes. «&#xa0;Ajouter une langue&#xa0;» en ajoute une.</translation>
     </message>
 </context>
 <context>

@@ -1156,6 +1156,10 @@ Version %1</source>
         <source>&amp;Description:</source>
         <translation>説明(&amp;D):</translation>
     </message>
+    <message>
+        <source>The languages that the package supports or has texts in. “Add Language” adds one.</source>
+        <translation>パッケージが対応しているか、テキストがある言語です。「言語を追加」で追加します。</translation>
+    </message>
 </context>
 <context>
     <name>Editor::TopicsModel</name>

@@ -1,3 +1,4 @@
+#include "document/recovery.h"
 #include "window/application_setup.h"
 #include "window/main_window.h"
 
@@ -24,10 +25,13 @@ int main(int argc, char **argv) {
     parser.process(application);
 
     Editor::MainWindow window;
+    window.keepEditsIn(Editor::Recovery::stateFolder());
     window.restore();
     window.show();
     const QString fileName = parser.positionalArguments().value(0);
     if (fileName.isEmpty() || !window.openFile(fileName))
         window.showStartPage();
+    if (fileName.isEmpty())
+        window.offerLeftovers();
     return QApplication::exec();
 }

@@ -312,6 +312,8 @@ void Document::refreshIssues() {
 }
 
 std::optional<Issue> Document::issueAt(const FieldPath &path) const {
+    if (path.isEmpty())
+        return std::nullopt; // the issue of the package concerns no field
     const auto found = m_issueByPath.constFind(Zel::fromUtf8(path.toString()));
     return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
 }

@@ -119,7 +119,7 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     tabLayout(Conditions)->insertLayout(0, newPurposeRow());
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addLayout(form);
     layout->addSpacing(4);
     layout->addLayout(languageRow);

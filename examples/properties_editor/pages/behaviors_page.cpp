@@ -68,6 +68,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
 
     auto *splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(16);
     splitter->addWidget(list);
     splitter->addWidget(m_details);
     splitter->setStretchFactor(1, 1);

@@ -30,6 +30,7 @@ DialogsPage::DialogsPage(Document &document, QWidget *parent)
     , m_table(new QTableView(this)) {
     auto *splitter = new QSplitter(this);
     splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(16);
     splitter->addWidget(newList());
     splitter->addWidget(newDetails());
     splitter->setStretchFactor(1, 1);
@@ -100,7 +101,7 @@ QWidget *DialogsPage::newDetails() {
     buttons->addStretch();
 
     auto *layout = new QVBoxLayout(m_details);
-    layout->setContentsMargins(12, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addLayout(form);
     layout->addSpacing(4);
     layout->addWidget(newHeading(tr("Topic files"), m_details));

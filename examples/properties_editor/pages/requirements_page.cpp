@@ -45,10 +45,12 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     explainWhenEmpty(table, texts.emptiness);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    if (kind == RequirementsModel::Kind::Robot)
+        table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     table->setMinimumHeight(table->verticalHeader()->defaultSectionSize() * 5 / 2);
 
     auto *hint = new HintLabel(texts.hint, this);
-    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    hint->setWordWrap(true);
     auto *mark = new MarkLabel(
         document(), [model] { return model->list(); }, this);
 

@@ -2,7 +2,7 @@
 
 #include "document/change_list.h"
 #include "models/table_model.h"
-#include "widgets/marks.h"
+#include "widgets/icons.h"
 #include "widgets/xml_view.h"
 
 #include <packagemodel/text_conversion.h>
@@ -42,9 +42,7 @@ ChangeList withoutScripts(const ChangeList &changes) {
 } // namespace
 
 ReviewPage::ReviewPage(Document &document, QWidget *parent)
-    : Page(document, tr("Re&view"),
-           platformIcon(QStringLiteral("document-preview"), QStyle::SP_FileDialogContentsView),
-           parent)
+    : Page(document, tr("Re&view"), iconOf(Symbol::Review), parent)
     , m_tabs(new QTabWidget(this))
     , m_xml(new XmlView(document, this)) {
     m_tabs->setDocumentMode(true);

@@ -4,6 +4,7 @@
 #include "language_chooser.h"
 #include "models/languages_model.h"
 #include "widgets/coverage_delegate.h"
+#include "widgets/empty_hint.h"
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
 #include "widgets/typing_delegate.h"
@@ -33,6 +34,9 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     m_detailsTitle->setTextFormat(Qt::PlainText);
     m_table->setModel(m_model);
     setUpTable(m_table, document, tr("Languages and texts"));
+    explainWhenEmpty(
+        m_table,
+        tr("The languages that the package supports or has texts in. “Add Language” adds one."));
     m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);

@@ -10,6 +10,7 @@ namespace Editor {
 HintLabel::HintLabel(const QString &text, QWidget *parent)
     : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);
+    setForegroundRole(QPalette::WindowText); // also on a list
     refreshColor();
 }
 

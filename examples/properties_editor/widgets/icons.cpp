@@ -130,6 +130,16 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
             line(path, {{12, top + 3.5}, {17, top + 3.5}});
         }
     },
+    [](QPainterPath &path) { // Review
+        path.moveTo(2, 12);
+        path.cubicTo(7, 4, 17, 4, 22, 12);
+        path.cubicTo(17, 20, 7, 20, 2, 12);
+        circle(path, 12, 12, 3);
+    },
+    [](QPainterPath &path) { // Find
+        circle(path, 10, 10, 7);
+        line(path, {{15, 15}, {21, 21}});
+    },
     [](QPainterPath &path) { // Add
         line(path, {{12, 4}, {12, 20}});
         line(path, {{4, 12}, {20, 12}});

@@ -22,6 +22,8 @@ enum class Symbol {
     Behaviors,
     Dialogs,
     Services,
+    Review,
+    Find,
     Add,
     Remove,
     Check,

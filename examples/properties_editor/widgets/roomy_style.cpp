@@ -1,6 +1,9 @@
 #include "roomy_style.h"
 
 #include "icons.h"
+#include "marks.h"
+
+#include <QStyleOptionButton>
 
 namespace Editor {
 
@@ -22,6 +25,22 @@ int RoomyStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const {
+    const auto *box = element == PE_IndicatorCheckBox
+                          ? qstyleoption_cast<const QStyleOptionButton *>(option)
+                          : nullptr;
+    if (!box || box->palette.color(QPalette::Base).lightness() >= 128) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    // The frame is a darker shade of the window, which cannot be seen in dark colors.
+    QStyleOptionButton lighter = *box;
+    lighter.palette.setColor(QPalette::Window, mixed(box->palette.color(QPalette::Base),
+                                                     box->palette.color(QPalette::Text), 0.8));
+    QProxyStyle::drawPrimitive(element, &lighter, painter, widget);
 }
 
 QIcon RoomyStyle::standardIcon(StandardPixmap pixmap, const QStyleOption *option,

@@ -17,6 +17,8 @@ public:
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap pixmap, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
 };

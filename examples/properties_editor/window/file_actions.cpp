@@ -3,6 +3,7 @@
 #include "main_window.h"
 #include "publishing.h"
 #include "recent_files.h"
+#include "reloading.h"
 #include "templates.h"
 #include "widgets/icons.h"
 #include "widgets/message_bar.h"
@@ -206,19 +207,8 @@ bool FileActions::saveElsewhere(const QString &fileName) {
 }
 
 void FileActions::reload() {
-    if (!m_window.takeEdits())
-        return;
-    if (m_document.isModified()) {
-        QMessageBox box(QMessageBox::Question, tr("Reload"),
-                        tr("The package has changes that are not saved."),
-                        QMessageBox::Discard | QMessageBox::Cancel, &m_window);
-        box.setInformativeText(tr("Reloading loses them."));
-        box.setDefaultButton(QMessageBox::Cancel);
-        if (box.exec() != QMessageBox::Discard)
-            return;
-    }
-    if (!m_document.open(m_document.fileName()))
-        tellFailure(tr("Reload"), m_document.fileName());
+    if (m_window.takeEdits())
+        Editor::reload(m_document, &m_window);
 }
 
 void FileActions::tellDiskState(Document::DiskState state) {

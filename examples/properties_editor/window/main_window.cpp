@@ -3,16 +3,19 @@
 #include "color_scheme.h"
 #include "file_actions.h"
 #include "file_drop.h"
+#include "find_panel.h"
 #include "models/problems_model.h"
 #include "page_stack.h"
 #include "pages/behaviors_page.h"
 #include "pages/dialogs_page.h"
 #include "pages/identity_page.h"
 #include "pages/requirements_page.h"
+#include "pages/review_page.h"
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
 #include "problem_count.h"
 #include "problems_panel.h"
+#include "recovery_dialogs.h"
 #include "start_page.h"
 #include "tab_order.h"
 #include "undo_actions.h"
@@ -54,12 +57,9 @@ MainWindow::MainWindow(QWidget *parent)
     m_files = new FileActions(*this, *m_messageBar);
     connect(new FileDrop(this), &FileDrop::dropped, this, &MainWindow::openFile);
     addPages();
-    addProblemsDock();
-    addHistoryDock();
+    addDocks();
     addMenus();
     addStatus();
-    resizeDocks(findChildren<QDockWidget *>(), {820, 260}, Qt::Horizontal);
-    resizeDocks({findChild<QDockWidget *>(QStringLiteral("problems"))}, {150}, Qt::Vertical);
     resize(1100, 780);
 
     connect(m_document.undoStack(), &QUndoStack::cleanChanged, this,
@@ -85,11 +85,13 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::addPages() {
-    m_pages =
-        new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
-                       new RequirementsPage(m_document, this), new BehaviorsPage(m_document, this),
-                       new DialogsPage(m_document, this), new ServicesPage(m_document, this)},
-                      this);
+    auto *review = new ReviewPage(m_document, this);
+    connect(review, &ReviewPage::fieldWanted, this, &MainWindow::showField);
+    m_pages = new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
+                             new RequirementsPage(m_document, this),
+                             new BehaviorsPage(m_document, this), new DialogsPage(m_document, this),
+                             new ServicesPage(m_document, this), review},
+                            this);
     m_stack->addWidget(m_pages);
     m_stack->addWidget(m_start);
     auto *content = new QWidget(this);
@@ -112,6 +114,7 @@ void MainWindow::addPages() {
 void MainWindow::showStartPage() {
     m_start->refresh();
     m_stack->setCurrentWidget(m_start);
+    statusBar()->hide();
     const auto docks = findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks) {
         if (!dock->isHidden())
@@ -125,29 +128,39 @@ void MainWindow::leaveStartPage() {
     if (m_stack->currentWidget() != m_start)
         return;
     m_stack->setCurrentWidget(m_pages);
+    statusBar()->show();
     for (QWidget *dock : std::as_const(m_hiddenDocks))
         dock->show();
     m_hiddenDocks.clear();
     refreshTitle();
 }
 
-void MainWindow::addProblemsDock() {
-    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
-    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
-    auto *dock = new QDockWidget(tr("Problems"), this);
-    dock->setObjectName(QStringLiteral("problems"));
-    dock->setWidget(m_problemsPanel);
+QDockWidget *MainWindow::addDock(const QString &title, const char *name, QWidget *content) {
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(QLatin1String(name));
+    dock->setWidget(content);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
+    return dock;
 }
 
-void MainWindow::addHistoryDock() {
-    auto *view = new QUndoView(m_document.undoStack(), this);
-    view->setEmptyLabel(tr("As opened"));
-    view->setAccessibleName(tr("History"));
-    auto *dock = new QDockWidget(tr("History"), this);
-    dock->setObjectName(QStringLiteral("history"));
-    dock->setWidget(view);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
+void MainWindow::addDocks() {
+    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
+    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
+    QDockWidget *problems = addDock(tr("Problems"), "problems", m_problemsPanel);
+
+    m_findPanel = new FindPanel(m_document, this);
+    connect(m_findPanel, &FindPanel::fieldWanted, this, &MainWindow::showField);
+    QDockWidget *find = addDock(tr("Find and Replace"), "find", m_findPanel);
+
+    auto *history = new QUndoView(m_document.undoStack(), this);
+    history->setEmptyLabel(tr("As opened"));
+    history->setAccessibleName(tr("History"));
+    QDockWidget *historyDock = addDock(tr("History"), "history", history);
+
+    tabifyDockWidget(problems, find);
+    resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
+    resizeDocks({problems}, {150}, Qt::Vertical);
+    find->hide();
 }
 
 void MainWindow::addMenus() {
@@ -156,6 +169,8 @@ void MainWindow::addMenus() {
     const QList<QAction *> undoing = newUndoActions(*m_document.undoStack(), this);
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     edit->addActions(undoing);
+    edit->addSeparator();
+    addFindActions(edit);
 
     QMenu *problems = menuBar()->addMenu(tr("&Problems"));
     problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext, Qt::Key_F8);
@@ -174,6 +189,20 @@ void MainWindow::addMenus() {
     m_files->fillToolBar(toolBar);
     toolBar->addSeparator();
     toolBar->addActions(undoing);
+}
+
+void MainWindow::addFindActions(QMenu *menu) {
+    auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
+    const auto start = [this, dock] {
+        leaveStartPage();
+        dock->show();
+        dock->raise();
+        m_findPanel->start();
+    };
+    menu->addAction(iconOf(Symbol::Find), tr("&Find…"), this, start, QKeySequence::Find);
+    menu->addAction(tr("Find &Next"), m_findPanel, &FindPanel::showNext, QKeySequence::FindNext);
+    menu->addAction(tr("Find &Previous"), m_findPanel, &FindPanel::showPrevious,
+                    QKeySequence::FindPrevious);
 }
 
 void MainWindow::addViewMenu() {
@@ -242,6 +271,16 @@ void MainWindow::restore() {
     const int page = restoreWindowState(*this);
     if (page >= 0)
         m_pages->show(page);
+}
+
+void MainWindow::keepEditsIn(const QString &folder) {
+    m_recovery = std::make_unique<Recovery>(m_document, folder);
+    m_recoveryDialogs = new RecoveryDialogs(m_document, *m_recovery, *m_messageBar, this);
+}
+
+void MainWindow::offerLeftovers() {
+    if (m_recoveryDialogs)
+        m_recoveryDialogs->offerLeftovers();
 }
 
 void MainWindow::showField(const QString &path) {

@@ -6,15 +6,22 @@
 #include <QPointer>
 #include <QVector>
 
+#include <memory>
+
+class QDockWidget;
+class QMenu;
 class QStackedWidget;
 
 namespace Editor {
 
 class FileActions;
+class FindPanel;
 class MessageBar;
 class PageStack;
 class ProblemsModel;
 class ProblemsPanel;
+class Recovery;
+class RecoveryDialogs;
 class StartPage;
 class TypedText;
 
@@ -37,6 +44,10 @@ public:
     void showStartPage();
     /// Brings the window to where it was when the program ended last.
     void restore();
+    /// Keeps unsaved edits in a folder until they are saved, and locks the open file there.
+    void keepEditsIn(const QString &folder);
+    /// Offers to open the packages whose edits another window left there.
+    void offerLeftovers();
 
     /// Takes into the package what is being typed anywhere. Asks where a text is refused; returns
     /// false if the user prefers to fix it.
@@ -52,8 +63,9 @@ private:
     void addViewMenu();
     void addHelpMenu();
     void leaveStartPage();
-    void addProblemsDock();
-    void addHistoryDock();
+    QDockWidget *addDock(const QString &title, const char *name, QWidget *content);
+    void addDocks();
+    void addFindActions(QMenu *menu);
     void addStatus();
     void refreshTitle();
     bool askAboutRefusal(const QPointer<TypedText> &text);
@@ -69,6 +81,9 @@ private:
     QVector<QWidget *> m_hiddenDocks; // by the start page
     ProblemsModel *m_problems;
     ProblemsPanel *m_problemsPanel = nullptr;
+    FindPanel *m_findPanel = nullptr;
+    std::unique_ptr<Recovery> m_recovery;
+    RecoveryDialogs *m_recoveryDialogs = nullptr;
 };
 
 } // namespace Editor

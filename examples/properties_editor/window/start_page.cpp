@@ -55,7 +55,7 @@ StartPage::StartPage(QWidget *parent)
 
     auto *recent = new QVBoxLayout;
     recent->addWidget(newHeading(tr("Recent packages"), this));
-    recent->addWidget(m_recent);
+    recent->addWidget(m_recent, 1);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(40, 32, 40, 32);
     layout->setSpacing(32);
