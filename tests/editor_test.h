@@ -68,6 +68,16 @@ inline std::function<void(QFileDialog *)> choose(const QString &fileName) {
     };
 }
 
+/// Clicks the button of a dialog with that text.
+inline std::function<void(QDialog *)> click(const QString &text) {
+    return [text](QDialog *dialog) {
+        for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
+            if (button->text() == text)
+                button->click();
+        }
+    };
+}
+
 /// The base of tests that use the editor's window by keyboard and mouse. A test class derives from
 /// it and from QObject, and calls prepare(), showWindow() and closeWindow() in initTestCase(),
 /// init() and cleanup().
@@ -136,6 +146,14 @@ protected:
     QTreeView *problems() { return view<QTreeView>("Problems"); }
     int problemCount() { return problems()->model()->rowCount(); }
 
+    template<typename Widget>
+    Widget *visible() const {
+        for (Widget *candidate : m_window->findChildren<Widget *>()) {
+            if (candidate->isVisible())
+                return candidate;
+        }
+        return nullptr;
+    }
     template<typename View>
     View *view(const char *accessibleName) {
         for (View *candidate : m_window->findChildren<View *>()) {
@@ -170,7 +188,8 @@ protected:
         }
         return nullptr;
     }
-    QTabWidget *tabs() { return m_window->findChild<QTabWidget *>(); }
+    // The tabs of the page that is shown.
+    QTabWidget *tabs() { return visible<QTabWidget>(); }
 
     QTemporaryDir m_directory;
     int m_copies = 0;

@@ -149,6 +149,8 @@ private Q_SLOTS:
             for (int role = 0; role <= Qt::UserRole + 2; ++role)
                 QVERIFY(!model->data({}, role).isValid());
             QVERIFY(!model->setData({}, QStringLiteral("x")));
+            if (const auto *table = qobject_cast<TableModel *>(model))
+                QVERIFY(table->field({}).isEmpty() && table->refusal({}, {}).isEmpty());
             const std::unique_ptr<QMimeData> data(model->mimeData({QModelIndex()}));
         }
         QVERIFY(!document.isModified());
@@ -303,8 +305,8 @@ private Q_SLOTS:
         const QTemporaryDir directory;
         const QString fileName = directory.filePath(QStringLiteral("manifest.xml"));
         // With and without comments and unknown content.
-        const QString original = seed % 2 == 0 ? QStringLiteral(ZEL_TEST_DATA "/fields/package.xml")
-                                               : sample("small");
+        const QString original =
+            seed % 2 == 0 ? QStringLiteral(ZEL_TEST_DATA "/fields/package.xml") : sample("small");
         QVERIFY(QFile::copy(original, fileName));
         Document document;
         QVERIFY(document.open(fileName));

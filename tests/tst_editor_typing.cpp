@@ -60,7 +60,7 @@ private Q_SLOTS:
 
         m_window->document().setTypingPause(std::chrono::hours(1));
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = visible<QPlainTextEdit>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one"));
@@ -183,12 +183,7 @@ private Q_SLOTS:
         replaceText(QStringLiteral("Ada"));
         openCell(2, "Robots", 0, 1);
         type(QStringLiteral("1.x"));
-        Answer answer{std::function<void(QMessageBox *)>([&](QMessageBox *box) {
-            for (QAbstractButton *each : box->buttons()) {
-                if (each->text() == button)
-                    each->click();
-            }
-        })};
+        Answer answer(click(button));
         press(Qt::Key_S, Qt::ControlModifier);
         QVERIFY(answer.isGiven());
         QCOMPARE(!m_window->isWindowModified(), isSaved);
@@ -242,7 +237,7 @@ private Q_SLOTS:
         edit();
         stack()->undo();
         stack()->redo();
-        Answer reload(QMessageBox::Discard);
+        Answer reload(click(QStringLiteral("Discard Yours")));
         press(Qt::Key_F5);
         QVERIFY(reload.isGiven());
         QVERIFY(isEmpty());
@@ -259,7 +254,7 @@ private Q_SLOTS:
         });
         row("language", [this] { combo("Language of the texts")->setCurrentIndex(1); });
         row("reload", [this] {
-            Answer cancel(QMessageBox::Cancel);
+            Answer cancel(click(QStringLiteral("Cancel")));
             press(Qt::Key_F5);
             QVERIFY(cancel.isGiven());
         });
@@ -389,7 +384,7 @@ private Q_SLOTS:
         QCOMPARE(author->cursorPosition(), 5);
 
         m_window->showPage(1);
-        auto *description = m_window->findChildren<QPlainTextEdit *>().first();
+        auto *description = visible<QPlainTextEdit>();
         description->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         type(QStringLiteral("one two"));
@@ -447,13 +442,7 @@ private:
         press(Qt::Key_V, Qt::ControlModifier);
     }
     // The reason that is shown; null for none.
-    FieldNote *note() const {
-        for (FieldNote *each : m_window->findChildren<FieldNote *>()) {
-            if (each->isVisible())
-                return each;
-        }
-        return nullptr;
-    }
+    FieldNote *note() const { return visible<FieldNote>(); }
     QComboBox *combo(const char *accessibleName) const {
         for (QComboBox *each : m_window->findChildren<QComboBox *>()) {
             if (each->accessibleName() == QLatin1String(accessibleName))

@@ -311,7 +311,7 @@ private Q_SLOTS:
         QVERIFY(cancel.isGiven());
         QCOMPARE(contentOf(fileName), content);
 
-        Answer discard(QMessageBox::Discard);
+        Answer discard(click(QStringLiteral("Discard Yours")));
         QTest::mouseClick(bar->findChild<QPushButton *>(), Qt::LeftButton);
         QVERIFY(discard.isGiven());
         QCOMPARE(manifest(), content);

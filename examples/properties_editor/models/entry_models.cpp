@@ -80,7 +80,7 @@ QVariant TopicsModel::fileData(const QModelIndex &index, int role) const {
     return {};
 }
 
-FieldPath TopicsModel::field(const QModelIndex &index) const {
+FieldPath TopicsModel::fieldOf(const QModelIndex &index) const {
     const FieldPath list = FieldPath().field("dialogs");
     const FieldPath entry = Zel::PackageModel::itemPath(package(), list, m_dialogRow);
     return entry.isEmpty() ? entry : FieldPath(entry).field("topics").key(Zel::toUtf8(key(index)));
@@ -130,7 +130,7 @@ int ServicesModel::columnCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : 3;
 }
 
-FieldPath ServicesModel::field(const QModelIndex &index) const {
+FieldPath ServicesModel::fieldOf(const QModelIndex &index) const {
     const FieldPath list = FieldPath().field("services");
     return Zel::PackageModel::itemPath(package(), list, index.row())
         .field(names.at(std::size_t(index.column())));

@@ -32,13 +32,13 @@ public:
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    Tano::FieldPath field(const QModelIndex &index) const override;
     /// Sets the topic file of a row.
     void setFile(int row, const QString &file);
     /// Removes the topic file of a row.
     void removeTopic(int row);
 
 protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
     QStringList currentKeys() const override;
     QStringList titles() const override;
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
@@ -61,11 +61,11 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    Tano::FieldPath field(const QModelIndex &index) const override;
     /// The column of the field of a service with that name in paths; the first one for others.
     Column columnOf(const QString &field) const;
 
 protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
     QStringList currentKeys() const override;
     QStringList titles() const override;
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;

@@ -58,7 +58,7 @@ int LanguagesModel::columnCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : 6;
 }
 
-FieldPath LanguagesModel::field(const QModelIndex &index) const {
+FieldPath LanguagesModel::fieldOf(const QModelIndex &index) const {
     if (index.column() != Name && index.column() != Description)
         return {};
     return FieldPath()

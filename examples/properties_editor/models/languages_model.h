@@ -21,7 +21,6 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    Tano::FieldPath field(const QModelIndex &index) const override;
 
     /// The list that the check boxes of a column put a language in.
     static Tano::FieldPath listOf(Column column);
@@ -34,6 +33,7 @@ public:
     QString summary() const;
 
 protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
     QStringList currentKeys() const override;
     QStringList titles() const override;
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;

@@ -50,7 +50,7 @@ FieldPath RequirementsModel::list() const {
     return FieldPath().field(m_kind == Kind::Robot ? "robotRequirements" : "brioRequirements");
 }
 
-FieldPath RequirementsModel::field(const QModelIndex &index) const {
+FieldPath RequirementsModel::fieldOf(const QModelIndex &index) const {
     return list().index(index.row()).field(columns().at(std::size_t(index.column())).field);
 }
 

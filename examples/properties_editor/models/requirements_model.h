@@ -16,7 +16,6 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    Tano::FieldPath field(const QModelIndex &index) const override;
     QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
     void add();
@@ -27,6 +26,7 @@ public:
     Tano::FieldPath list() const;
 
 protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
     QStringList currentKeys() const override;
     QStringList titles() const override;
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;

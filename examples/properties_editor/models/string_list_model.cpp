@@ -34,7 +34,7 @@ QVariant StringListModel::data(const QModelIndex &index, int role) const {
     return items().value(index.row());
 }
 
-FieldPath StringListModel::field(const QModelIndex &index) const {
+FieldPath StringListModel::fieldOf(const QModelIndex &index) const {
     return Zel::PackageModel::itemPath(package(), list(), index.row());
 }
 

@@ -18,7 +18,6 @@ public:
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    Tano::FieldPath field(const QModelIndex &index) const override;
     QString refusal(const QModelIndex &index, const QString &text) const override;
 
     Tano::FieldPath list() const { return m_list(); }
@@ -29,6 +28,7 @@ public:
     void remove(int row);
 
 protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
     QStringList currentKeys() const override;
     QStringList titles() const override;
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;

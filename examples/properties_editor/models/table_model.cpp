@@ -38,7 +38,11 @@ bool TableModel::setData(const QModelIndex &index, const QVariant &value, int ro
            document().type(field(index), value.toString()).isEmpty();
 }
 
-Tano::FieldPath TableModel::field(const QModelIndex &) const {
+Tano::FieldPath TableModel::field(const QModelIndex &index) const {
+    return index.isValid() ? fieldOf(index) : Tano::FieldPath();
+}
+
+Tano::FieldPath TableModel::fieldOf(const QModelIndex &) const {
     return {};
 }
 

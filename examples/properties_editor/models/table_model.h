@@ -22,7 +22,7 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
     /// The field of the package that a cell edits as a text; the empty path for other cells.
-    virtual Tano::FieldPath field(const QModelIndex &index) const;
+    Tano::FieldPath field(const QModelIndex &index) const;
     /// Why a cell cannot take a text; empty when it can.
     virtual QString refusal(const QModelIndex &index, const QString &text) const;
     /// What may be chosen for a cell, as pairs of the value and its text; empty where anything
@@ -41,6 +41,8 @@ protected:
     /// What tells the rows apart, in order. Where entries have no key of their own, numbered().
     virtual QStringList currentKeys() const = 0;
     virtual QStringList titles() const = 0;
+    /// field() of a valid index.
+    virtual Tano::FieldPath fieldOf(const QModelIndex &index) const;
     /// The flags of a cell beside those of any cell.
     virtual Qt::ItemFlags extraFlags(const QModelIndex &index) const;
     /// For a new package, before its rows are asked for.

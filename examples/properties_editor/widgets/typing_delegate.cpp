@@ -44,12 +44,10 @@ QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
     edit->setFrame(false);
     edit->setAccessibleName(model->headerData(index.column(), Qt::Horizontal).toString());
     const QPersistentModelIndex cell(index);
-    const auto *field = new TextField(
-        edit, m_document,
-        {[model, cell] { return cell.isValid() ? model->field(cell) : Tano::FieldPath(); },
-         [model, cell](const QString &text) {
-             return cell.isValid() ? model->refusal(cell, text) : QString();
-         }});
+    const auto *field =
+        new TextField(edit, m_document,
+                      {[model, cell] { return model->field(cell); },
+                       [model, cell](const QString &text) { return model->refusal(cell, text); }});
     field->note()->hover();
     return edit;
 }

@@ -159,7 +159,6 @@ void MainWindow::addDocks() {
     history->setAccessibleName(tr("History"));
     QDockWidget *historyDock = addDock(tr("History"), "history", history);
 
-    tabifyDockWidget(problems, find);
     resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
     resizeDocks({problems}, {150}, Qt::Vertical);
     find->hide();
@@ -197,6 +196,8 @@ void MainWindow::addFindActions(QMenu *menu) {
     auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
     const auto start = [this, dock] {
         leaveStartPage();
+        if (dock->isHidden()) // only now, or its tab would be there before
+            tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("problems")), dock);
         dock->show();
         dock->raise();
         m_findPanel->start();
