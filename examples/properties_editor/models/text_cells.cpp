@@ -53,6 +53,12 @@ QString excerptOf(const QString &text) {
     return text.left(longest).simplified();
 }
 
+QString ofLanguage(const QString &title, const QString &code) {
+    return code.isEmpty()
+               ? title
+               : QStringLiteral("%1: %2").arg(title, Zel::Language::languageInUse(code).uiName());
+}
+
 QString shownText(const TranslatableText &text, TextState state, TextColumn column) {
     switch (column) {
     case TextColumn::Field:
@@ -74,6 +80,22 @@ QString wholeText(const TranslatableText &text, TextColumn column) {
 }
 
 } // namespace
+
+QString columnTitle(TextColumn column, const LanguagePair &languages) {
+    switch (column) {
+    case TextColumn::Field:
+        return inWords(QT_TRANSLATE_NOOP("Editor::TextCells", "Field"));
+    case TextColumn::Source:
+        return ofLanguage(inWords(QT_TRANSLATE_NOOP("Editor::TextCells", "Source")),
+                          languages.sourceLanguage);
+    case TextColumn::Target:
+        return ofLanguage(inWords(QT_TRANSLATE_NOOP("Editor::TextCells", "Translation")),
+                          languages.language);
+    case TextColumn::State:
+        break;
+    }
+    return inWords(QT_TRANSLATE_NOOP("Editor::TextCells", "State"));
+}
 
 QString stateWords(TextState state) {
     return inWords(stateRows[std::size_t(state)].words);

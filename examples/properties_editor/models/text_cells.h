@@ -11,6 +11,8 @@ namespace Editor {
 enum class TextColumn { Field, Source, Target, State };
 inline constexpr int textColumnCount = 4;
 
+QString columnTitle(TextColumn column, const LanguagePair &languages);
+
 /// A state in words.
 QString stateWords(Zel::PackageModel::TextState state);
 

@@ -7,6 +7,7 @@
 namespace Editor {
 
 using Tano::FieldPath;
+using Zel::PackageModel::Count;
 using Zel::PackageModel::TextState;
 using Zel::PackageModel::TranslatableText;
 
@@ -44,6 +45,19 @@ bool isSame(const TranslatableText &a, const TranslatableText &b) {
 
 } // namespace
 
+FieldPath inLanguage(const FieldPath &path, const QString &code) {
+    FieldPath translated;
+    const auto &steps = path.steps();
+    for (const auto &step : steps) {
+        translated.field(step.field);
+        for (const auto &selector : step.selectors) {
+            const bool isLanguage = &step == &steps.back() && &selector == &step.selectors.front();
+            translated.key(isLanguage ? Zel::toUtf8(code) : selector.text);
+        }
+    }
+    return translated;
+}
+
 int TextGroup::present() const {
     return int(states.size()) - int(std::count(states.begin(), states.end(), TextState::Missing));
 }
@@ -56,9 +70,8 @@ TextGroups::TextGroups(Document &document)
     : m_document(document) {
 }
 
-void TextGroups::start(const QString &language, const QString &sourceLanguage) {
-    m_language = language;
-    m_sourceLanguage = sourceLanguage;
+void TextGroups::start(const LanguagePair &languages) {
+    m_languages = languages;
     m_saved = m_document.saved();
     m_savedIndexes.clear();
     m_document.package()->syncRecord();
@@ -81,9 +94,10 @@ int TextGroups::find(const FieldPath &path) const {
 
 QVector<TranslatableText> TextGroups::textsOf(int group) const {
     if (group == 0)
-        return Zel::PackageModel::ownTexts(*m_document.package(), m_language, m_sourceLanguage);
-    return Zel::PackageModel::textsOf(*m_behaviors.at(group - 1), at(group).owner, m_language,
-                                      m_sourceLanguage);
+        return Zel::PackageModel::ownTexts(*m_document.package(), m_languages.language,
+                                           m_languages.sourceLanguage);
+    return Zel::PackageModel::textsOf(*m_behaviors.at(group - 1), at(group).owner,
+                                      m_languages.language, m_languages.sourceLanguage);
 }
 
 std::optional<Tano::BehaviorInfo> TextGroups::savedRecordOf(int group) {
@@ -106,8 +120,8 @@ QVector<TranslatableText> TextGroups::savedTextsOf(int group) {
         own.clearBehaviors();
         own.clearDialogs();
         own.clearServices();
-        return Zel::PackageModel::ownTexts(Zel::PackageInfoModel(own), m_language,
-                                           m_sourceLanguage);
+        return Zel::PackageModel::ownTexts(Zel::PackageInfoModel(own), m_languages.language,
+                                           m_languages.sourceLanguage);
     }
     const auto &behaviors = m_saved.behaviors();
     const std::size_t index = std::size_t(group) - 1;
@@ -116,8 +130,15 @@ QVector<TranslatableText> TextGroups::savedTextsOf(int group) {
     const auto record = savedRecordOf(group);
     if (!record)
         return {};
-    return Zel::PackageModel::textsOf(Zel::BehaviorInfoModel(*record), at(group).owner, m_language,
-                                      m_sourceLanguage);
+    return Zel::PackageModel::textsOf(Zel::BehaviorInfoModel(*record), at(group).owner,
+                                      m_languages.language, m_languages.sourceLanguage);
+}
+
+Count TextGroups::total(int count) const {
+    Count total;
+    for (int i = 0; i < count; ++i)
+        total.add({at(i).present(), int(at(i).texts.size())});
+    return total;
 }
 
 void TextGroups::keepHeld(TextGroup &group, const Texts &before) const {

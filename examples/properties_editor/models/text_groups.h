@@ -11,6 +11,19 @@
 
 namespace Editor {
 
+/// The languages of texts that are translated, as codes.
+struct LanguagePair {
+    QString language;
+    QString sourceLanguage;
+};
+
+inline bool operator==(const LanguagePair &a, const LanguagePair &b) {
+    return a.language == b.language && a.sourceLanguage == b.sourceLanguage;
+}
+
+/// The field of a text in another language.
+Tano::FieldPath inLanguage(const Tano::FieldPath &path, const QString &code);
+
 /// The texts of the package itself, or of one behavior, in two languages.
 struct TextGroup {
     Tano::FieldPath owner;     ///< empty for the package
@@ -37,12 +50,15 @@ public:
     explicit TextGroups(Document &document);
 
     /// Starts with the groups of the package as it is now, none of which is read.
-    void start(const QString &language, const QString &sourceLanguage);
+    void start(const LanguagePair &languages);
     int size() const { return int(m_groups.size()); }
     const TextGroup &at(int group) const { return m_groups[std::size_t(group)]; }
     /// The group of a text or an owner; -1 for none.
     int find(const Tano::FieldPath &path) const;
     void read(int group);
+    /// How many texts there are in the target language, of those that either language has, in the
+    /// first `count` groups.
+    Zel::PackageModel::Count total(int count) const;
 
     /// Reads the groups again that an edit or a save has changed, if they have been read. Nothing
     /// if there are other behaviors now, or very many changes: then start anew.
@@ -64,8 +80,7 @@ private:
     void keepHeld(TextGroup &group, const Texts &before) const;
 
     Document &m_document;
-    QString m_language;
-    QString m_sourceLanguage;
+    LanguagePair m_languages;
     Tano::FieldPath m_held;
     QVector<Zel::BehaviorInfoModel *> m_behaviors; // as of the last start or update
     std::vector<TextGroup> m_groups;               // the package's first

@@ -1,18 +1,13 @@
 #include "translation_model.h"
 
-#include "document/field_edits.h"
-#include "text_cells.h"
-
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace Editor {
 
 using Tano::FieldPath;
-using Zel::PackageModel::Count;
 using Zel::PackageModel::TextState;
 using Zel::PackageModel::TranslatableText;
 
@@ -34,7 +29,7 @@ TranslationModel::TranslationModel(Document &document, QObject *parent)
         m_timer.stop();
         beginResetModel();
         m_rows.clear();
-        m_language.clear();
+        m_languages = {};
         endResetModel();
     });
     connect(&document, &Document::edited, this, &TranslationModel::followDocument);
@@ -52,14 +47,7 @@ int TranslationModel::columnCount(const QModelIndex &parent) const {
 QVariant TranslationModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    const auto named = [](const QString &title, const QString &code) {
-        return code.isEmpty() ? title
-                              : QStringLiteral("%1: %2").arg(
-                                    title, Zel::Language::languageInUse(code).uiName());
-    };
-    const std::array titles{tr("Field"), named(tr("Source"), m_sourceLanguage),
-                            named(tr("Translation"), m_language), tr("State")};
-    return section < textColumnCount ? titles[std::size_t(section)] : QVariant();
+    return section < textColumnCount ? columnTitle(TextColumn(section), m_languages) : QVariant();
 }
 
 TranslationModel::Row TranslationModel::rowAt(const QModelIndex &index) const {
@@ -69,18 +57,9 @@ TranslationModel::Row TranslationModel::rowAt(const QModelIndex &index) const {
     return row.text < groupOf(row).texts.size() ? row : Row{row.group, gone};
 }
 
-bool TranslationModel::isHeading(const QModelIndex &index) const {
-    return rowAt(index).text == heading;
-}
-
 TranslatableText TranslationModel::text(const QModelIndex &index) const {
     const Row row = rowAt(index);
     return row.text < 0 ? TranslatableText() : groupOf(row).texts.value(row.text);
-}
-
-QString TranslationModel::stateText(const QModelIndex &index) const {
-    const Row row = rowAt(index);
-    return row.text < 0 ? QString() : stateWords(groupOf(row).states[std::size_t(row.text)]);
 }
 
 Qt::ItemFlags TranslationModel::flags(const QModelIndex &index) const {
@@ -101,13 +80,11 @@ QVariant TranslationModel::data(const QModelIndex &index, int role) const {
     return textCell(group.texts.at(row.text), group.states[std::size_t(row.text)], column, role);
 }
 
-void TranslationModel::setLanguages(const QString &language, const QString &sourceLanguage) {
-    if (language == m_language && sourceLanguage == m_sourceLanguage)
+void TranslationModel::setLanguages(const LanguagePair &languages) {
+    if (languages == m_languages)
         return;
-    m_language = language;
-    m_sourceLanguage = sourceLanguage;
-    m_groups.start(language, sourceLanguage);
-    restart();
+    m_languages = languages;
+    restart(true);
     Q_EMIT headerDataChanged(Qt::Horizontal, int(TextColumn::Source), int(TextColumn::Target));
 }
 
@@ -116,27 +93,29 @@ void TranslationModel::setFilter(const TextFilter &filter) {
         return;
     m_filter = filter;
     m_current = {};
-    restart();
+    restart(false);
 }
 
 void TranslationModel::setActive(bool isActive) {
     m_isActive = isActive;
     if (isActive)
         followDocument();
-    if (isActive && m_next < m_groups.size() && !m_language.isEmpty())
+    if (isActive && m_next < m_groups.size() && !m_languages.language.isEmpty())
         m_timer.start(0);
     else if (!isActive)
         m_timer.stop();
 }
 
-void TranslationModel::restart() {
+void TranslationModel::restart(bool isAnew) {
     beginResetModel();
+    if (isAnew)
+        m_groups.start(m_languages);
     m_rows.clear();
     m_touched.clear();
     m_next = 0;
     endResetModel();
     m_timer.stop();
-    if (m_isActive && !m_language.isEmpty())
+    if (m_isActive && !m_languages.language.isEmpty())
         m_timer.start(0);
     Q_EMIT updated();
 }
@@ -145,8 +124,12 @@ void TranslationModel::restart() {
 void TranslationModel::advance() {
     QElapsedTimer time;
     time.start();
+    advanceWhile([&] { return !time.hasExpired(stepDuration); });
+}
+
+void TranslationModel::advanceWhile(const std::function<bool()> &goesOn) {
     std::vector<Row> rows;
-    while (m_next < m_groups.size() && !time.hasExpired(stepDuration)) {
+    while (m_next < m_groups.size() && goesOn()) {
         const int group = m_next++;
         if (!m_groups.at(group).isRead)
             m_groups.read(group);
@@ -168,12 +151,11 @@ void TranslationModel::advance() {
 }
 
 void TranslationModel::followDocument() {
-    if (!m_isActive || m_language.isEmpty())
+    if (!m_isActive || m_languages.language.isEmpty())
         return;
     const auto changes = m_groups.update();
     if (!changes) {
-        m_groups.start(m_language, m_sourceLanguage);
-        restart();
+        restart(true);
         return;
     }
     for (const auto &[group, before] : *changes) {
@@ -252,8 +234,7 @@ void TranslationModel::refreshRows(int group, const QVector<TranslatableText> &b
         insertRow(range.begin, {group, heading});
     for (std::size_t i = 0; i < wanted.size(); ++i) {
         const int row = range.begin + 1 + int(i);
-        const bool isThere = row < rowsOf(group).end && m_rows[std::size_t(row)].text == wanted[i];
-        if (!isThere)
+        if (row >= rowsOf(group).end || m_rows[std::size_t(row)].text != wanted[i])
             insertRow(row, {group, wanted[i]});
     }
     Q_EMIT dataChanged(index(range.begin, 0), index(rowsOf(group).end - 1, textColumnCount - 1));
@@ -274,18 +255,12 @@ void TranslationModel::setCurrent(const FieldPath &path) {
 
 QModelIndex TranslationModel::reveal(const FieldPath &path) {
     const int group = m_groups.find(path);
-    if (group >= 0 && group < m_next && !indexOf(path).isValid())
+    if (group >= m_next)
+        advanceWhile([&] { return group >= m_next; });
+    if (group >= 0 && !indexOf(path).isValid())
         m_touched.push_back(group);
     setCurrent(path);
     return indexOf(path);
-}
-
-QString TranslationModel::refusal(const QModelIndex &index) const {
-    const FieldPath path = field(index);
-    if (path.isEmpty() || path.steps().back().selectors.size() < 2 ||
-        itemIndex(path) <= Zel::PackageModel::entries(m_document.package(), path.parent()).size())
-        return {};
-    return tr("Translate the item before this one first: a list has no gaps.");
 }
 
 QModelIndex TranslationModel::indexOf(const FieldPath &path) const {
@@ -310,13 +285,6 @@ QModelIndex TranslationModel::nextMissing(const QModelIndex &from, int distance)
             return cellAt(place);
     }
     return {};
-}
-
-Count TranslationModel::total() const {
-    Count total;
-    for (int i = 0; i < m_next; ++i)
-        total.add({m_groups.at(i).present(), int(m_groups.at(i).texts.size())});
-    return total;
 }
 
 } // namespace Editor

@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 #include <QTimer>
 
+#include <functional>
+
 namespace Editor {
 
 /// All texts of the package and its behaviors in two languages, a row each, below a heading for
@@ -27,24 +29,18 @@ public:
                         int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Shows the texts in a pair of languages; the empty codes show none.
-    void setLanguages(const QString &language, const QString &sourceLanguage);
+    /// Shows the texts in a pair of languages; none without a target.
+    void setLanguages(const LanguagePair &languages);
     /// Shows the texts that pass a filter.
     void setFilter(const TextFilter &filter);
     /// Follows the document while active; otherwise catches up when activated.
     void setActive(bool isActive);
-    const QString &sourceLanguage() const { return m_sourceLanguage; }
     bool isLoading() const { return m_timer.isActive(); }
 
-    bool isHeading(const QModelIndex &index) const;
     /// The text of a row; empty for headings.
     Zel::PackageModel::TranslatableText text(const QModelIndex &index) const;
     /// The field that a row edits; the empty path for headings.
     Tano::FieldPath field(const QModelIndex &index) const { return text(index).path; }
-    /// The state of a text in words.
-    QString stateText(const QModelIndex &index) const;
-    /// Why a row cannot take a text that its field could take; empty if it can.
-    QString refusal(const QModelIndex &index) const;
     /// The target cell of a field; invalid if no row shows it.
     QModelIndex indexOf(const Tano::FieldPath &path) const;
     /// The target cell of the nearest missing text among the rows, after or before one, going on at
@@ -52,12 +48,13 @@ public:
     QModelIndex nextMissing(const QModelIndex &from, int distance) const;
     /// How many texts there are in the target language, of those that either language has. Texts
     /// that are still to come do not count.
-    Zel::PackageModel::Count total() const;
+    Zel::PackageModel::Count total() const { return m_groups.total(m_next); }
 
     /// Makes a row the current one: those that were edited before have to pass the filter again.
     void setCurrent(const Tano::FieldPath &path);
     /// The target cell of a field, which becomes the current one even if the filter does not pass
-    /// it; invalid if it is none of the texts that have been read.
+    /// it; invalid if there is no such text in the language. Rows that are to come before it come
+    /// now.
     QModelIndex reveal(const Tano::FieldPath &path);
 
 Q_SIGNALS:
@@ -74,8 +71,9 @@ private:
         int end;
     };
 
-    void restart();
+    void restart(bool isAnew);
     void advance();
+    void advanceWhile(const std::function<bool()> &goesOn);
     void followDocument();
     std::vector<int> passing(int group) const;
     Range rowsOf(int group) const;
@@ -90,8 +88,7 @@ private:
     Document &m_document;
     TextGroups m_groups;
     std::vector<Row> m_rows;
-    QString m_language;
-    QString m_sourceLanguage;
+    LanguagePair m_languages;
     TextFilter m_filter;
     Tano::FieldPath m_current;
     std::vector<int> m_touched; // groups that were edited while the current row was

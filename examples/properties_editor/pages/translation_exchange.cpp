@@ -1,6 +1,6 @@
 #include "translation_exchange.h"
 
-#include "document/document.h"
+#include "models/text_groups.h"
 #include "widgets/plain_text.h"
 
 #include <packagemodel/text_states.h>

@@ -7,12 +7,7 @@ class QWidget;
 namespace Editor {
 
 class Document;
-
-/// The languages that a translator works with, as codes.
-struct LanguagePair {
-    QString language;
-    QString sourceLanguage;
-};
+struct LanguagePair;
 
 // What a translator does with many texts at once. Each asks and reports in dialogs over `parent`,
 // and is one undo step.

@@ -1,7 +1,9 @@
 #include "translation_page.h"
 
 #include "document/field_edits.h"
+#include "language_pair_chooser.h"
 #include "models/translation_model.h"
+#include "translation_exchange.h"
 #include "widgets/empty_hint.h"
 #include "widgets/icons.h"
 #include "widgets/text_pair.h"
@@ -14,7 +16,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -28,26 +29,12 @@ using Zel::PackageModel::TextState;
 
 namespace {
 
-// The same field in another language.
-FieldPath inLanguage(const FieldPath &path, const QString &code) {
-    FieldPath translated;
-    const auto &steps = path.steps();
-    for (const auto &step : steps) {
-        translated.field(step.field);
-        for (const auto &selector : step.selectors) {
-            const bool isLanguage = &step == &steps.back() && &selector == &step.selectors.front();
-            translated.key(isLanguage ? Zel::toUtf8(code) : selector.text);
-        }
-    }
-    return translated;
-}
-
-void fillWith(QComboBox *chooser, const QStringList &codes, const QString &current) {
-    const QSignalBlocker blocker(chooser);
-    chooser->clear();
-    for (const QString &code : codes)
-        chooser->addItem(Zel::Language::languageInUse(code).uiName(), code);
-    chooser->setCurrentIndex(std::max(0, chooser->findData(current)));
+// Why a text has no place in its list yet; empty if it has.
+QString gapRefusal(const Zel::PackageInfoModel *package, const FieldPath &path) {
+    const bool isItem = !path.isEmpty() && path.steps().back().selectors.size() > 1;
+    if (!isItem || itemIndex(path) <= Zel::PackageModel::entries(package, path.parent()).size())
+        return {};
+    return TranslationPage::tr("Translate the item before this one first: a list has no gaps.");
 }
 
 } // namespace
@@ -55,8 +42,7 @@ void fillWith(QComboBox *chooser, const QStringList &codes, const QString &curre
 TranslationPage::TranslationPage(Document &document, QWidget *parent)
     : Page(document, tr("&Translation"), iconOf(Symbol::Translation), parent)
     , m_model(new TranslationModel(document, this))
-    , m_source(new QComboBox(this))
-    , m_target(new QComboBox(this))
+    , m_languages(new LanguagePairChooser(this))
     , m_filter(new QComboBox(this))
     , m_search(new QLineEdit(this))
     , m_view(new QTableView(this))
@@ -80,6 +66,9 @@ TranslationPage::TranslationPage(Document &document, QWidget *parent)
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(newChoosers());
     layout->addWidget(splitter, 1);
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout->addWidget(m_summary);
     layout->addWidget(newButtons());
     connectModel();
     refresh();
@@ -89,17 +78,11 @@ QWidget *TranslationPage::newChoosers() {
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](const QString &title, QComboBox *chooser) {
-        auto *label = new QLabel(title, row);
-        label->setBuddy(chooser);
-        chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        chooser->setMinimumContentsLength(8);
-        layout->addWidget(label);
-        layout->addWidget(chooser, 1);
-    };
-    add(tr("&Source:"), m_source);
-    add(tr("&Target:"), m_target);
-    add(tr("Sho&w:"), m_filter);
+    auto *label = new QLabel(tr("Sho&w:"), row);
+    label->setBuddy(m_filter);
+    layout->addWidget(m_languages, 2);
+    layout->addWidget(label);
+    layout->addWidget(m_filter, 1);
     m_filter->addItem(tr("All texts"));
     for (const TextState state : {TextState::Missing, TextState::SameAsSource,
                                   TextState::SourceChanged, TextState::Malformed})
@@ -108,9 +91,7 @@ QWidget *TranslationPage::newChoosers() {
     m_search->setAccessibleName(tr("Find a text"));
     m_search->setClearButtonEnabled(true);
     layout->addWidget(m_search, 1);
-    connect(m_source, qOverload<int>(&QComboBox::activated), this, &TranslationPage::chooseSource);
-    connect(m_target, qOverload<int>(&QComboBox::activated), this,
-            &TranslationPage::chooseLanguages);
+    connect(m_languages, &LanguagePairChooser::chosen, this, &TranslationPage::showLanguages);
     connect(m_filter, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &TranslationPage::applyFilter);
     connect(m_search, &QLineEdit::textChanged, this, &TranslationPage::applyFilter);
@@ -139,40 +120,39 @@ QWidget *TranslationPage::newList() {
 }
 
 QPushButton *TranslationPage::newButton(const QString &text, const QString &toolTip,
-                                        void (TranslationPage::*slot)()) {
+                                        const std::function<void()> &action) {
     auto *button = new QPushButton(text, this);
     button->setAutoDefault(false);
     button->setToolTip(toolTip);
-    connect(button, &QPushButton::clicked, this, slot);
+    connect(button, &QPushButton::clicked, this, action);
     return button;
 }
 
 QWidget *TranslationPage::newButtons() {
+    m_rowButtons = {newButton(tr("Previo&us Missing"), tr("Alt+Up"), [this] { goTo(-1); }),
+                    newButton(tr("&Next Missing"), tr("Alt+Down, or Ctrl+Return while typing"),
+                              [this] { goTo(1); }),
+                    newButton(tr("&Copy Source"), tr("Copies the source text into the translation"),
+                              [this] { copySource(); })};
+    m_listButtons = {
+        newButton(tr("Fill &All Missing"),
+                  tr("Copies the source text to where the translation is missing"),
+                  [this] {
+                      m_note = fillMissingTexts(document(), m_languages->languages());
+                      refresh();
+                  }),
+        newButton(tr("E&xport XLIFF…"), tr("Writes the texts for translation tools"),
+                  [this] { exportTexts(this, document(), m_languages->languages()); })};
+    auto *import = newButton(tr("&Import XLIFF…"), tr("Reads texts from translation tools"),
+                             [this] { importTexts(this, document()); });
     auto *part = new QWidget(this);
-    m_rowButtons = {
-        newButton(tr("Previo&us Missing"), tr("Alt+Up"), &TranslationPage::goToPrevious),
-        newButton(tr("&Next Missing"), tr("Alt+Down, or Ctrl+Return while typing"),
-                  &TranslationPage::goToNext),
-        newButton(tr("&Copy Source"), tr("Copies the source text into the translation"),
-                  &TranslationPage::copySource)};
-    m_listButtons = {newButton(tr("Fill &All Missing"),
-                               tr("Copies the source text to where the translation is missing"),
-                               &TranslationPage::fillAll),
-                     newButton(tr("E&xport XLIFF…"), tr("Writes the texts for translation tools"),
-                               &TranslationPage::exportAll)};
-    auto *buttons = new QHBoxLayout;
+    auto *layout = new QHBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
     const auto all = m_rowButtons + m_listButtons;
     for (QPushButton *button : all)
-        buttons->addWidget(button);
-    buttons->addWidget(newButton(tr("&Import XLIFF…"), tr("Reads texts from translation tools"),
-                                 &TranslationPage::importAll));
-    buttons->addStretch();
-    m_summary->setTextFormat(Qt::PlainText);
-    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto *layout = new QVBoxLayout(part);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_summary);
-    layout->addLayout(buttons);
+        layout->addWidget(button);
+    layout->addWidget(import);
+    layout->addStretch();
     return part;
 }
 
@@ -191,12 +171,9 @@ void TranslationPage::connectModel() {
 }
 
 TextBinding TranslationPage::bindingOf(const std::function<QModelIndex()> &index) const {
-    return {[this, index] { return m_model->field(index()); },
-            [this, index](const QString &) { return m_model->refusal(index()); }};
-}
-
-LanguagePair TranslationPage::languages() const {
-    return {m_target->currentData().toString(), m_source->currentData().toString()};
+    return {
+        [this, index] { return m_model->field(index()); },
+        [this, index](const QString &) { return gapRefusal(package(), m_model->field(index())); }};
 }
 
 void TranslationPage::showEvent(QShowEvent *event) {
@@ -216,41 +193,16 @@ void TranslationPage::followDocument() {
     QStringList codes;
     for (const auto &language : document().languages())
         codes.append(language.isoCode());
-    if (codes != m_codes) {
-        const QString source = m_source->currentData().toString();
-        m_codes = codes;
-        fillWith(m_source, codes,
-                 codes.contains(source) ? source : Zel::Language::defaultLanguage().isoCode());
-        fillTargets();
-    }
-    m_model->setLanguages(languages().language, languages().sourceLanguage);
-}
-
-// All languages but the source; the one that was chosen last, if it is there.
-void TranslationPage::fillTargets() {
-    QStringList codes = m_codes;
-    codes.removeAll(m_source->currentData().toString());
-    fillWith(m_target, codes, m_language);
+    m_languages->offer(codes);
     for (QPushButton *button : std::as_const(m_listButtons))
-        button->setEnabled(!codes.isEmpty());
+        button->setEnabled(codes.size() > 1);
+    m_model->setLanguages(m_languages->languages());
 }
 
-void TranslationPage::chooseSource() {
-    // The two swap where they would be the same.
-    if (m_source->currentData() == m_target->currentData())
-        m_language = m_model->sourceLanguage();
-    fillTargets();
-    chooseLanguages();
-}
-
-void TranslationPage::chooseLanguages() {
+void TranslationPage::showLanguages() {
     m_note.clear();
-    m_language = languages().language;
-    if (const FieldPath path = m_model->field(m_view->currentIndex()); !path.isEmpty())
-        m_wanted = path;
-    const FieldPath wanted = inLanguage(m_wanted, m_language);
-    m_model->setLanguages(m_language, languages().sourceLanguage);
-    m_wanted = wanted;
+    m_model->setLanguages(m_languages->languages());
+    m_wanted = inLanguage(m_wanted, m_languages->languages().language);
 }
 
 void TranslationPage::applyFilter() {
@@ -300,7 +252,8 @@ void TranslationPage::refresh() {
             .arg(QLocale().toString(total.present), QLocale().toString(total.expected))};
     if (m_model->isLoading())
         summary += tr("Reading the texts…");
-    m_summary->setText((summary + QStringList(m_note)).join(u' '));
+    summary += m_note;
+    m_summary->setText(summary.join(u' '));
 }
 
 void TranslationPage::goTo(int distance) {
@@ -325,23 +278,6 @@ void TranslationPage::goTo(int distance) {
 void TranslationPage::copySource() {
     m_pair->target()->setFocus(Qt::OtherFocusReason);
     m_pair->copySource();
-}
-
-void TranslationPage::fillAll() {
-    m_note = fillMissingTexts(document(), languages());
-    refresh();
-}
-
-void TranslationPage::exportAll() {
-    exportTexts(this, document(), languages());
-}
-
-void TranslationPage::importAll() {
-    importTexts(this, document());
-}
-
-bool TranslationPage::showField(const FieldPath &) {
-    return false;
 }
 
 bool TranslationPage::showText(const FieldPath &path) {

@@ -17,7 +17,7 @@ public:
     /// Edits the field that `binding` leads to.
     TextPair(Document &document, TextBinding binding, QWidget *parent = nullptr);
 
-    /// Shows another text; one with the empty path disables the editors.
+    /// Shows another text; one with the empty path cannot be edited.
     void show(const Zel::PackageModel::TranslatableText &text);
     /// Follows changes of the text that is shown.
     void refresh(const Zel::PackageModel::TranslatableText &text);
