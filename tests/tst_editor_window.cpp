@@ -35,7 +35,7 @@ using namespace Editor;
 
 namespace {
 
-constexpr int pageCount = 6;
+constexpr int pageCount = 7;
 
 QString nameOf(QWidget *widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
@@ -69,8 +69,8 @@ private Q_SLOTS:
 
     void tabKeyFollowsTheScreen_data() {
         QTest::addColumn<int>("page");
-        const std::array names{"identity",  "languages", "requirements",
-                               "behaviors", "dialogs",   "services"};
+        const std::array names{"identity", "languages", "requirements", "behaviors",
+                               "dialogs",  "services",  "review"};
         for (int page = 0; page < pageCount; ++page)
             QTest::newRow(names.at(std::size_t(page))) << page;
     }
@@ -227,13 +227,14 @@ private Q_SLOTS:
         const QString published = m_directory.filePath(QStringLiteral("published.xml"));
         QVERIFY(m_window->openFile(fileName));
         const QByteArray before = contentOf(fileName);
-        QStringList told;
-        answerInTurn({pressButton(told, QMessageBox::AcceptRole), chooseFile(fileName),
-                      pressButton(told, QMessageBox::YesRole),
-                      pressButton(told, QMessageBox::AcceptRole), chooseFile(published)});
+        QStringList shown;
+        answerInTurn({pressButton(shown, QMessageBox::AcceptRole), chooseFile(fileName),
+                      pressButton(shown, QMessageBox::YesRole),
+                      pressButton(shown, QMessageBox::AcceptRole), chooseFile(published)});
         press(Qt::Key_E, Qt::ControlModifier);
-        QVERIFY2(told.value(0).contains(QStringLiteral(".top")), qPrintable(told.value(0)));
-        QVERIFY2(told.value(2).contains(QStringLiteral("fewer texts")), qPrintable(told.value(2)));
+        QVERIFY2(shown.value(0).contains(QStringLiteral(".top")), qPrintable(shown.value(0)));
+        QVERIFY2(shown.value(2).contains(QStringLiteral("fewer texts")),
+                 qPrintable(shown.value(2)));
         QCOMPARE(contentOf(fileName), before);
         QVERIFY(contentOf(published).contains("uid=\"reading-corner\""));
         QVERIFY(m_answers.empty());
@@ -244,11 +245,11 @@ private Q_SLOTS:
         m_window->document().edit(
             {{Zel::PackageModel::Edit::Action::Set, *Tano::FieldPath::parse("names[fr_FR]"),
               QStringLiteral("<speak>")}});
-        QStringList told;
-        answerInTurn({pressButton(told, QMessageBox::RejectRole)});
+        QStringList shown;
+        answerInTurn({pressButton(shown, QMessageBox::RejectRole)});
         press(Qt::Key_E, Qt::ControlModifier);
-        QVERIFY2(told.value(0).startsWith(QStringLiteral("A package with malformed")),
-                 qPrintable(told.value(0)));
+        QVERIFY2(shown.value(0).startsWith(QStringLiteral("A package with malformed")),
+                 qPrintable(shown.value(0)));
     }
 
     void savesElsewhereAfterAFailure() {
@@ -257,10 +258,11 @@ private Q_SLOTS:
         QVERIFY(m_window->openFile(fileName));
         QVERIFY(QDir().rename(QFileInfo(fileName).path(),
                               m_directory.filePath(QStringLiteral("moved"))));
-        QStringList told;
-        answerInTurn({pressButton(told, QMessageBox::AcceptRole), chooseFile(other)});
+        QStringList shown;
+        answerInTurn({pressButton(shown, QMessageBox::AcceptRole), chooseFile(other)});
         press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY2(told.value(0).contains(QStringLiteral("No such file")), qPrintable(told.value(0)));
+        QVERIFY2(shown.value(0).contains(QStringLiteral("No such file")),
+                 qPrintable(shown.value(0)));
         QCOMPARE(m_window->document().fileName(), other);
         QVERIFY(contentOf(other).contains("morning-wave"));
     }
@@ -473,10 +475,10 @@ private:
             [fileName](QDialog *dialog) { choose(fileName)(qobject_cast<QFileDialog *>(dialog)); };
     }
     // Keeps the texts of the box.
-    static Answering pressButton(QStringList &told, QMessageBox::ButtonRole role) {
-        return [&told, role](QDialog *dialog) {
+    static Answering pressButton(QStringList &shown, QMessageBox::ButtonRole role) {
+        return [&shown, role](QDialog *dialog) {
             auto *box = qobject_cast<QMessageBox *>(dialog);
-            told.append(box->text() + box->informativeText());
+            shown.append(box->text() + box->informativeText());
             const auto buttons = box->buttons();
             const auto wanted =
                 std::find_if(buttons.begin(), buttons.end(), [&](QAbstractButton *button) {

@@ -326,10 +326,6 @@
         <translation>Recharger</translation>
     </message>
     <message>
-        <source>Reloading loses them.</source>
-        <translation>Elles seront perdues au rechargement.</translation>
-    </message>
-    <message>
         <source>Another program has changed the file.</source>
         <translation>Un autre programme a modifié le fichier.</translation>
     </message>
@@ -710,6 +706,22 @@ Version %1</translation>
     <message>
         <source>Package Properties</source>
         <translation>Propriétés du paquet</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Rechercher…</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Rechercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Rechercher le &amp;précédent</translation>
     </message>
 </context>
 <context>

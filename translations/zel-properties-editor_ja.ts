@@ -326,10 +326,6 @@
         <translation>再読み込み</translation>
     </message>
     <message>
-        <source>Reloading loses them.</source>
-        <translation>再読み込みすると変更は失われます。</translation>
-    </message>
-    <message>
         <source>Another program has changed the file.</source>
         <translation>別のプログラムがファイルを変更しました。</translation>
     </message>
@@ -710,6 +706,22 @@ Version %1</source>
     <message>
         <source>Package Properties</source>
         <translation>パッケージのプロパティ</translation>
+    </message>
+    <message>
+        <source>Find and Replace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>検索(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>次を検索(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>前を検索(&amp;P)</translation>
     </message>
 </context>
 <context>

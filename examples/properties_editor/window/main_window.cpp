@@ -1,6 +1,5 @@
 #include "main_window.h"
 
-#include "color_scheme.h"
 #include "file_actions.h"
 #include "file_drop.h"
 #include "find_panel.h"
@@ -19,27 +18,21 @@
 #include "recovery_dialogs.h"
 #include "start_page.h"
 #include "tab_order.h"
-#include "undo_actions.h"
-#include "widgets/icons.h"
-#include "widgets/marks.h"
 #include "widgets/message_bar.h"
 #include "widgets/plain_text.h"
 #include "widgets/text_field.h"
 #include "window_state.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QToolBar>
 #include <QToolButton>
 #include <QTreeView>
 #include <QUndoView>
@@ -162,81 +155,6 @@ void MainWindow::addDocks() {
     resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
     resizeDocks({problems}, {150}, Qt::Vertical);
     find->hide();
-}
-
-void MainWindow::addMenus() {
-    m_files->fillMenu(menuBar()->addMenu(tr("&File")));
-
-    const QList<QAction *> undoing = newUndoActions(*m_document.undoStack(), this);
-    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addActions(undoing);
-    edit->addSeparator();
-    addFindActions(edit);
-
-    QMenu *problems = menuBar()->addMenu(tr("&Problems"));
-    problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext, Qt::Key_F8);
-    problems->addAction(tr("&Previous Problem"), m_problemsPanel, &ProblemsPanel::showPrevious,
-                        Qt::SHIFT | Qt::Key_F8);
-    problems->addSeparator();
-    problems->addAction(tr("&Fix All Safe Problems"), m_problemsPanel, &ProblemsPanel::fixAllSafe);
-
-    addViewMenu();
-    addHelpMenu();
-
-    QToolBar *toolBar = addToolBar(tr("Tools"));
-    toolBar->setObjectName(QStringLiteral("tools"));
-    toolBar->setMovable(false);
-    toolBar->setIconSize(QSize(22, 22));
-    m_files->fillToolBar(toolBar);
-    toolBar->addSeparator();
-    toolBar->addActions(undoing);
-}
-
-void MainWindow::addFindActions(QMenu *menu) {
-    auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
-    const auto start = [this, dock] {
-        leaveStartPage();
-        if (dock->isHidden()) // only now, or its tab would be there before
-            tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("problems")), dock);
-        dock->show();
-        dock->raise();
-        m_findPanel->start();
-    };
-    menu->addAction(iconOf(Symbol::Find), tr("&Find…"), this, start, QKeySequence::Find);
-    menu->addAction(tr("Find &Next"), m_findPanel, &FindPanel::showNext, QKeySequence::FindNext);
-    menu->addAction(tr("Find &Previous"), m_findPanel, &FindPanel::showPrevious,
-                    QKeySequence::FindPrevious);
-}
-
-void MainWindow::addViewMenu() {
-    QMenu *view = menuBar()->addMenu(tr("&View"));
-    for (int i = 0; i < m_pages->pages().size(); ++i) {
-        const Page *page = m_pages->pages().at(i);
-        QAction *action =
-            view->addAction(page->icon(), page->title(), this, [this, i] { showPage(i); });
-        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(i + 1)));
-    }
-    view->addSeparator();
-    const auto docks = findChildren<QDockWidget *>();
-    for (QDockWidget *dock : docks)
-        view->addAction(dock->toggleViewAction());
-    view->addSeparator();
-    QAction *dark = view->addAction(tr("Dark &Colors"));
-    dark->setCheckable(true);
-    dark->setChecked(chosenColorScheme() == ColorScheme::Dark);
-    connect(dark, &QAction::triggered, this, [](bool isDark) {
-        chooseColorScheme(isDark ? ColorScheme::Dark : ColorScheme::Platform);
-    });
-}
-
-void MainWindow::addHelpMenu() {
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(iconOf(Symbol::Note), tr("&About"), this, [this] {
-        QMessageBox::about(this, tr("About"),
-                           tr("The properties editor shows and edits the manifest of an "
-                              "application package for a robot.\n\nVersion %1")
-                               .arg(QApplication::applicationVersion()));
-    });
 }
 
 void MainWindow::addStatus() {
