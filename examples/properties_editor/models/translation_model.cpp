@@ -98,12 +98,9 @@ void TranslationModel::setFilter(const TextFilter &filter) {
 
 void TranslationModel::setActive(bool isActive) {
     m_isActive = isActive;
-    if (isActive)
-        followDocument();
-    if (isActive && m_next < m_groups.size() && !m_languages.language.isEmpty())
-        m_timer.start(0);
-    else if (!isActive)
-        m_timer.stop();
+    followDocument();
+    if (!m_timer.isActive() || !isActive)
+        goOn();
 }
 
 void TranslationModel::restart(bool isAnew) {
@@ -114,10 +111,17 @@ void TranslationModel::restart(bool isAnew) {
     m_touched.clear();
     m_next = 0;
     endResetModel();
-    m_timer.stop();
-    if (m_isActive && !m_languages.language.isEmpty())
-        m_timer.start(0);
+    goOn();
     Q_EMIT updated();
+}
+
+// Shows the first rows at once, so that small packages do not flicker.
+void TranslationModel::goOn() {
+    m_timer.stop();
+    if (!m_isActive || m_languages.language.isEmpty() || m_next >= m_groups.size())
+        return;
+    m_timer.start(0);
+    advance();
 }
 
 // The next groups, for a short time.

@@ -72,6 +72,7 @@ private:
     };
 
     void restart(bool isAnew);
+    void goOn();
     void advance();
     void advanceWhile(const std::function<bool()> &goesOn);
     void followDocument();

@@ -27,17 +27,18 @@ LanguagePairChooser::LanguagePairChooser(QWidget *parent)
     : QWidget(parent) {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_source = newChooser(tr("&Source:"));
-    m_target = newChooser(tr("&Target:"));
+    m_source = newChooser(tr("&Source:"), tr("Source language"));
+    m_target = newChooser(tr("&Target:"), tr("Target language"));
     connect(m_source, qOverload<int>(&QComboBox::activated), this,
             &LanguagePairChooser::chooseSource);
     connect(m_target, qOverload<int>(&QComboBox::activated), this,
             &LanguagePairChooser::chooseTarget);
 }
 
-QComboBox *LanguagePairChooser::newChooser(const QString &title) {
+QComboBox *LanguagePairChooser::newChooser(const QString &title, const QString &accessibleName) {
     auto *chooser = new QComboBox(this);
     chooser->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    chooser->setAccessibleName(accessibleName);
     constexpr int characters = 8;
     chooser->setMinimumContentsLength(characters);
     auto *label = new QLabel(title, this);

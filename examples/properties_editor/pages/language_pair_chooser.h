@@ -26,7 +26,7 @@ Q_SIGNALS:
     void chosen();
 
 private:
-    QComboBox *newChooser(const QString &title);
+    QComboBox *newChooser(const QString &title, const QString &accessibleName);
     void chooseSource();
     void chooseTarget();
     void fillTargets();

@@ -67,7 +67,6 @@ TranslationPage::TranslationPage(Document &document, QWidget *parent)
     layout->addWidget(newChoosers());
     layout->addWidget(splitter, 1);
     m_summary->setTextFormat(Qt::PlainText);
-    m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     layout->addWidget(m_summary);
     layout->addWidget(newButtons());
     connectModel();
@@ -80,9 +79,10 @@ QWidget *TranslationPage::newChoosers() {
     layout->setContentsMargins(0, 0, 0, 0);
     auto *label = new QLabel(tr("Sho&w:"), row);
     label->setBuddy(m_filter);
-    layout->addWidget(m_languages, 2);
+    layout->addWidget(m_languages, 3);
     layout->addWidget(label);
     layout->addWidget(m_filter, 1);
+    m_filter->setAccessibleName(tr("Texts to show"));
     m_filter->addItem(tr("All texts"));
     for (const TextState state : {TextState::Missing, TextState::SameAsSource,
                                   TextState::SourceChanged, TextState::Malformed})
@@ -161,6 +161,7 @@ void TranslationPage::connectModel() {
     connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
         if (const FieldPath path = m_model->field(m_view->currentIndex()); !path.isEmpty())
             m_wanted = path;
+        m_wanted = inLanguage(m_wanted, m_languages->languages().language);
     });
     connect(m_model, &QAbstractItemModel::modelReset, this, &TranslationPage::showCurrent);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -202,7 +203,6 @@ void TranslationPage::followDocument() {
 void TranslationPage::showLanguages() {
     m_note.clear();
     m_model->setLanguages(m_languages->languages());
-    m_wanted = inLanguage(m_wanted, m_languages->languages().language);
 }
 
 void TranslationPage::applyFilter() {
