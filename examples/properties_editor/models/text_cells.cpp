@@ -4,6 +4,8 @@
 #include "widgets/marks.h"
 #include "widgets/plain_text.h"
 
+#include <packagemodel/language_name.h>
+
 #include <QApplication>
 #include <QFont>
 #include <QLocale>
@@ -56,7 +58,8 @@ QString excerptOf(const QString &text) {
 QString ofLanguage(const QString &title, const QString &code) {
     return code.isEmpty()
                ? title
-               : QStringLiteral("%1: %2").arg(title, Zel::Language::languageInUse(code).uiName());
+               : QStringLiteral("%1: %2").arg(
+                     title, Zel::PackageModel::languageName(Zel::Language::languageInUse(code)));
 }
 
 QString shownText(const TranslatableText &text, TextState state, TextColumn column) {

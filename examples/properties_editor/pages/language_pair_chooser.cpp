@@ -1,5 +1,7 @@
 #include "language_pair_chooser.h"
 
+#include <packagemodel/language_name.h>
+
 #include <zel/language.h>
 
 #include <QComboBox>
@@ -17,7 +19,7 @@ void fill(QComboBox *chooser, const QStringList &codes, const QString &current) 
     const QSignalBlocker blocker(chooser);
     chooser->clear();
     for (const QString &code : codes)
-        chooser->addItem(Zel::Language::languageInUse(code).uiName(), code);
+        chooser->addItem(Zel::PackageModel::languageName(Zel::Language::languageInUse(code)), code);
     chooser->setCurrentIndex(std::max(0, chooser->findData(current)));
 }
 
