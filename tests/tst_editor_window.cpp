@@ -35,7 +35,7 @@ using namespace Editor;
 
 namespace {
 
-constexpr int pageCount = 7;
+constexpr int pageCount = 8;
 
 QString nameOf(QWidget *widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void tabKeyFollowsTheScreen_data() {
         QTest::addColumn<int>("page");
         const std::array names{"identity", "languages", "requirements", "behaviors",
-                               "dialogs",  "services",  "review"};
+                               "dialogs",  "services",  "translation",  "review"};
         for (int page = 0; page < pageCount; ++page)
             QTest::newRow(names.at(std::size_t(page))) << page;
     }
