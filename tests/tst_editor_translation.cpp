@@ -225,6 +225,10 @@ private Q_SLOTS:
         const QByteArray ten = manifest();
         QVERIFY(ten.contains("<tag>t4</tag>"));
 
+        for (int i = 0; i < 6; ++i) // an item of a list among them
+            stack()->undo();
+        QCOMPARE(current(), text("behaviors[greet-visitor].tags[nl_NL][0]"));
+        stack()->setIndex(10);
         stack()->undo(); // leads back to the text, on this page
         QCOMPARE(pair()->target()->toPlainText(), QString());
         QCOMPARE(focus(), pair()->target());
@@ -284,6 +288,10 @@ private Q_SLOTS:
         press(Qt::Key_Escape);
 
         select(text("behaviors[greet].tags[fr_FR][1]"));
+        type(text("x"));
+        press(Qt::Key_Backspace);
+        QCOMPARE(stack()->count(), 0); // no empty item is left
+        QCOMPARE(manifest(), before);
         type(text("coucou"));
         press(Qt::Key_Return, Qt::ControlModifier);
         type(text("hey"));
