@@ -5,6 +5,7 @@
 #include "widgets/hint_label.h"
 #include "widgets/icon_button.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "window/application_setup.h"
 #include "window/main_window.h"
 #include "window/page_stack.h"
@@ -233,7 +234,8 @@ private Q_SLOTS:
                       pressButton(shown, QMessageBox::AcceptRole), chooseFile(published)});
         press(Qt::Key_E, Qt::ControlModifier);
         QVERIFY2(shown.value(0).contains(QStringLiteral(".top")), qPrintable(shown.value(0)));
-        QVERIFY2(shown.value(2).contains(QStringLiteral("fewer texts")), qPrintable(shown.value(2)));
+        QVERIFY2(shown.value(2).contains(QStringLiteral("fewer texts")),
+                 qPrintable(shown.value(2)));
         QCOMPARE(contentOf(fileName), before);
         QVERIFY(contentOf(published).contains("uid=\"reading-corner\""));
         QVERIFY(m_answers.empty());
@@ -260,7 +262,8 @@ private Q_SLOTS:
         QStringList shown;
         answerInTurn({pressButton(shown, QMessageBox::AcceptRole), chooseFile(other)});
         press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY2(shown.value(0).contains(QStringLiteral("No such file")), qPrintable(shown.value(0)));
+        QVERIFY2(shown.value(0).contains(QStringLiteral("No such file")),
+                 qPrintable(shown.value(0)));
         QCOMPARE(m_window->document().fileName(), other);
         QVERIFY(contentOf(other).contains("morning-wave"));
     }
@@ -313,7 +316,7 @@ private Q_SLOTS:
         for (int rows = 3; rows > 1; --rows) {
             QCOMPARE(table->model()->rowCount(), rows);
             table->setFocus();
-            table->setCurrentIndex(table->model()->index(1, 0));
+            Editor::selectAlone(table, table->model()->index(1, 0));
             press(Qt::Key_Delete);
         }
         QVERIFY2(!manifest().contains("fr_FR") && !manifest().contains("it_IT"),

@@ -1048,6 +1048,49 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::RowActions</name>
+    <message>
+        <source>This list takes entries of another kind.</source>
+        <translation>Cette liste prend des entrées d’un autre type.</translation>
+    </message>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>La liste contient déjà «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The clipboard has nothing for this list.</source>
+        <translation>Le presse-papiers ne contient rien pour cette liste.</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>Du&amp;pliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ServicesModel</name>
     <message>
         <source>Name</source>

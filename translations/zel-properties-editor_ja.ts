@@ -1048,6 +1048,49 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::RowActions</name>
+    <message>
+        <source>This list takes entries of another kind.</source>
+        <translation>この一覧には別の種類の項目が入ります。</translation>
+    </message>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>一覧には既に「%1」があります。</translation>
+    </message>
+    <message>
+        <source>The clipboard has nothing for this list.</source>
+        <translation>クリップボードにこの一覧へ貼り付けられるものはありません。</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>複製(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>上へ移動(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下へ移動(&amp;W)</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ServicesModel</name>
     <message>
         <source>Name</source>

@@ -4,6 +4,7 @@
 #include "models/entry_models.h"
 #include "widgets/empty_hint.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
@@ -24,7 +25,6 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
     explainWhenEmpty(
         m_table,
         tr("A service is a program that runs in the background on the robot. “Add” adds one."));
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(ServicesModel::Name, QHeaderView::Interactive);
     header->resizeSection(ServicesModel::Name, 200);
@@ -33,12 +33,9 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
 
     auto *add = newListButton(tr("&Add"), true, this);
     auto *remove = newListButton(tr("&Remove"), false, this);
-    removeWithDelete(m_table, remove);
+    auto *rows = new RowActions(m_table, document, {[] { return FieldPath().field("services"); }});
     connect(add, &QPushButton::clicked, this, &ServicesPage::add);
-    connect(remove, &QPushButton::clicked, this, [this] {
-        if (const int row = m_table->currentIndex().row(); row >= 0)
-            this->document().edit({removed(package(), FieldPath().field("services"), row)});
-    });
+    connect(remove, &QPushButton::clicked, rows, &RowActions::remove);
     const auto refresh = [this, remove] { remove->setEnabled(m_table->currentIndex().isValid()); };
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
     connect(&document, &Document::edited, remove, refresh);
@@ -63,7 +60,7 @@ void ServicesPage::add() {
     document().edit({appended(FieldPath().field("services"), service)});
     const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
     m_table->setFocus();
-    m_table->setCurrentIndex(cell);
+    selectAlone(m_table, cell);
     m_table->edit(cell);
 }
 
@@ -73,7 +70,7 @@ bool ServicesPage::showField(const FieldPath &path) {
     m_table->setFocus(Qt::OtherFocusReason);
     const int row = entryIndex(package()->services(), &Zel::ServiceInfoModel::name, path);
     if (row >= 0)
-        m_table->setCurrentIndex(m_model->index(row, m_model->columnOf(fieldName(path, 1))));
+        selectAlone(m_table, m_model->index(row, m_model->columnOf(fieldName(path, 1))));
     return true;
 }
 
