@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
+#include <QTableView>
 
 #include <optional>
 
@@ -222,7 +223,40 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget()->contextMenuPolicy(), Qt::ActionsContextMenu);
     }
 
+    void propertiesOfAService() {
+        const QByteArray before = manifest();
+        m_window->showField(QStringLiteral("services[clock].properties[nice]"));
+        type(QStringLiteral("5"));
+        press(Qt::Key_Return);
+        QTest::mouseClick(button("Add Property"), Qt::LeftButton);
+        type(QStringLiteral("user"));
+        press(Qt::Key_Return);
+        QTRY_COMPARE(properties(), QStringLiteral("nice=5 restart=always user="));
+        QAbstractItemModel *model = view<QTableView>("Properties")->model();
+        const Answer answer(QMessageBox::Ok);
+        QVERIFY(!model->setData(model->index(2, 0), QStringLiteral("nice")));
+        QVERIFY(answer.text.contains(QStringLiteral("“nice”")));
+        m_window->showField(QStringLiteral("services[clock].properties[nice]"));
+        press(Qt::Key_Delete);
+        QCOMPARE(properties(), QStringLiteral("restart=always user="));
+        while (stack()->canUndo())
+            stack()->undo();
+        QCOMPARE(manifest(), before);
+        m_window->showField(QStringLiteral("services[radio]"));
+        QCOMPARE(view<QTableView>("Properties")->model()->rowCount(), 0);
+        QVERIFY(m_window->openFile(QStringLiteral(ZEL_TEST_DATA "/editor/rows/manifest.xml")));
+        QVERIFY(!button("Add Property")->isEnabled());
+    }
+
 private:
+    QString properties() {
+        QStringList texts;
+        const auto all = m_window->document().package()->service(QStringLiteral("clock"));
+        const auto map = all->properties();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            texts += it.key() + u'=' + it.value();
+        return texts.join(u' ');
+    }
     void openAgain() {
         m_window.reset();
         showWindow();

@@ -803,6 +803,29 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::PropertiesModel</name>
+    <message>
+        <source>A property needs a name.</source>
+        <translation>プロパティには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The service has “%1” already.</source>
+        <translation>サービスにはすでに「%1」があります。</translation>
+    </message>
+    <message>
+        <source>Rename property “%1”</source>
+        <translation>プロパティ「%1」の名前を変更</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+</context>
+<context>
     <name>Editor::Publishing</name>
     <message>
         <source>… and %1 more</source>
@@ -1126,6 +1149,22 @@ Version %1</source>
     <message>
         <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
         <translation>サービスはロボットのバックグラウンドで動くプログラムです。「追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Settings of the service that is selected above. “Add Property” adds one.</source>
+        <translation>上で選択したサービスの設定です。「プロパティを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Add Pr&amp;operty</source>
+        <translation>プロパティを追加(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Property</source>
+        <translation>プロパティを削除(&amp;M)</translation>
     </message>
 </context>
 <context>
