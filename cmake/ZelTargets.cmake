@@ -172,6 +172,11 @@ function(zel_add_translations name)
     endforeach()
 endfunction()
 
+set(ZEL_TEST_TIMEOUT 300) # seconds
+if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    set(ZEL_TEST_TIMEOUT 1200)
+endif()
+
 # zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and
 # with the test data found under ZEL_TEST_DATA.
 function(zel_add_test name)
@@ -188,5 +193,5 @@ function(zel_add_test name)
     # The last two are for the sanitizers: full stacks, so that a leak can be told by its library.
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
-        TIMEOUT 300)
+        TIMEOUT ${ZEL_TEST_TIMEOUT})
 endfunction()

@@ -133,6 +133,20 @@ private Q_SLOTS:
         QCOMPARE(leftovers(state()).size(), 0);
     }
 
+    void locksOfKilledEditorsGo() {
+        QProcess editor;
+        editor.start(QCoreApplication::applicationFilePath(),
+                     {QLatin1String(editorMode), state(), newManifest()});
+        QVERIFY(editor.waitForReadyRead());
+        editor.kill();
+        QVERIFY(editor.waitForFinished());
+        const QDir folder(state());
+        QCOMPARE(folder.entryList({QStringLiteral("*.lock")}).size(), 1);
+        for (const Leftover &each : leftovers(state()))
+            EditSession::ofLeftover(state(), each.id).discard();
+        QCOMPARE(folder.entryList({QStringLiteral("*.lock")}).size(), 0);
+    }
+
     void packageWithoutFile() {
         UnsavedEdits unsaved = sample({}, QStringLiteral("Ada"));
         unsaved.manifest = "<package/>";

@@ -36,7 +36,7 @@ using namespace Editor;
 
 namespace {
 
-constexpr int pageCount = 6;
+constexpr int pageCount = 8;
 
 QString nameOf(QWidget *widget) {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
@@ -70,8 +70,8 @@ private Q_SLOTS:
 
     void tabKeyFollowsTheScreen_data() {
         QTest::addColumn<int>("page");
-        const std::array names{"identity",  "languages", "requirements",
-                               "behaviors", "dialogs",   "services"};
+        const std::array names{"identity", "languages", "requirements", "behaviors",
+                               "dialogs",  "services",  "translation",  "review"};
         for (int page = 0; page < pageCount; ++page)
             QTest::newRow(names.at(std::size_t(page))) << page;
     }

@@ -406,6 +406,18 @@ void TestPackageEdits::runsThatEnd() {
         }
         QCOMPARE(bytes(), before);
     }
+    // An item that is inserted.
+    const auto list = path("behaviors[greet].tags[nl_NL]");
+    push({{Edit::Action::Insert, list, text("a")}});
+    push({{Edit::Action::Set, path("behaviors[greet].tags[nl_NL][0]"), text("ab")}});
+    QCOMPARE(stack.count(), 1);
+    QCOMPARE(script(top()->edits()), text("insert behaviors[greet].tags[nl_NL] 0 ab\n"));
+    stack.undo();
+    QCOMPARE(bytes(), before);
+    stack.redo();
+    push(top()->inverse());
+    QCOMPARE(stack.count(), 0);
+    QCOMPARE(bytes(), before);
 }
 
 void TestPackageEdits::textsOfSteps() {

@@ -5,7 +5,7 @@
 #include <packagemodel/package_coverage.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/record_editor.h>
-#include <packagemodel/text_exchange.h>
+#include <packagemodel/text_states.h>
 
 #include <tano/package_info.h>
 
@@ -238,6 +238,44 @@ private Q_SLOTS:
         QCOMPARE(units.front().path.toString(), std::string("behaviors[a:1].names[de_DE]"));
         QCOMPARE(units.front().source, text("A-B\r"));
         QCOMPARE(units.front().target, text("<p>C"));
+    }
+
+    // The texts of all owners are those of the package.
+    void textsByOwner() {
+        const PackageInfoModel package(m_record);
+        auto texts = ownTexts(package, text("fr_FR"), text("en_US"));
+        for (const Field &field : fields(&package)) {
+            if (field.path.steps().back().field != "path" || field.path.steps().size() != 2)
+                continue;
+            const BehaviorInfoModel behavior(
+                std::get<Tano::BehaviorInfo>(*value(&package, field.path.parent())));
+            texts += textsOf(behavior, field.path.parent(), text("fr_FR"), text("en_US"));
+        }
+        const auto all = translatableTexts(&package, text("fr_FR"), text("en_US"));
+        QCOMPARE(texts.size(), all.size());
+        for (int i = 0; i < all.size(); ++i) {
+            QCOMPARE(texts.at(i).path.toString(), all.at(i).path.toString());
+            QCOMPARE(texts.at(i).source, all.at(i).source);
+            QCOMPARE(texts.at(i).target, all.at(i).target);
+        }
+    }
+
+    void states() {
+        const auto stateOf = [](const char *field, const char *source, const char *target,
+                                const TranslatableText *before = nullptr) {
+            return textState({*Tano::FieldPath::parse(field), text(source), text(target), {}},
+                             before);
+        };
+        const TranslatableText before{{}, text("a"), text("b"), {}};
+        QCOMPARE(stateOf("names[fr_FR]", "a", "", &before), TextState::Missing);
+        QCOMPARE(stateOf("names[fr_FR]", "<p>", "<p>", &before), TextState::Malformed);
+        QCOMPARE(stateOf("behaviors[a].tags[fr_FR][0]", "c", "<p>"), TextState::Translated);
+        QCOMPARE(stateOf("names[fr_FR]", "b", "b", &before), TextState::SourceChanged);
+        QCOMPARE(stateOf("names[fr_FR]", "b", "b"), TextState::SameAsSource);
+        QCOMPARE(stateOf("names[fr_FR]", "c", "d", &before), TextState::Translated);
+        QCOMPARE(stateOf("names[fr_FR]", "a", "b", &before), TextState::Translated);
+        QVERIFY(isSpeechScript(*Tano::FieldPath::parse("names[fr_FR]"), text("<p/>")));
+        QVERIFY(!isSpeechScript(*Tano::FieldPath::parse("author"), text("<p/>")));
     }
 
     // A file that is cut off anywhere, or garbled, is read as a whole or not at all.

@@ -228,6 +228,53 @@
     </message>
 </context>
 <context>
+    <name>Editor::Exchange</name>
+    <message>
+        <source>XLIFF files (*.xlf *.xliff);;All files (*)</source>
+        <translation>Fichiers XLIFF (*.xlf *.xliff);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export Texts</source>
+        <translation>Exporter les textes</translation>
+    </message>
+    <message>
+        <source>Import Texts</source>
+        <translation>Importer des textes</translation>
+    </message>
+    <message>
+        <source>Texts whose source has changed since the export: %1</source>
+        <translation>Textes dont la source a changé depuis l&apos;export : %1</translation>
+    </message>
+    <message>
+        <source>Import their translations too?</source>
+        <translation>Importer aussi leurs traductions ?</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Ligne %1, %2 : %3</translation>
+    </message>
+    <message>
+        <source>Texts imported: %1. Unchanged: %2. Not translated: %3. Skipped: %4.</source>
+        <translation>Textes importés : %1. Inchangés : %2. Non traduits : %3. Ignorés : %4.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: some texts are malformed speech scripts.</source>
+        <translation>Rien n&apos;a été importé : certains textes sont des scripts de parole mal formés.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>Ligne %1, colonne %2 : %3</translation>
+    </message>
+    <message>
+        <source>Fill missing texts</source>
+        <translation>Compléter les textes manquants</translation>
+    </message>
+    <message>
+        <source>Filled from the source: %1.</source>
+        <translation>Textes repris de la source : %1.</translation>
+    </message>
+</context>
+<context>
     <name>Editor::FileActions</name>
     <message>
         <source>Empty Package</source>
@@ -556,6 +603,25 @@
     <message>
         <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
         <translation>Aucune langue connue ne correspond, et «&#xa0;%1&#xa0;» n&apos;est pas un code. Un code commence par des lettres&#xa0;; des lettres et des chiffres suivent un tiret bas, comme dans pt_BR.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguagePairChooser</name>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Source :</translation>
+    </message>
+    <message>
+        <source>&amp;Target:</source>
+        <translation>&amp;Cible :</translation>
+    </message>
+    <message>
+        <source>Source language</source>
+        <translation>Langue source</translation>
+    </message>
+    <message>
+        <source>Target language</source>
+        <translation>Langue cible</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1287,76 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::TextCells</name>
+    <message>
+        <source>Missing</source>
+        <translation>Manquant</translation>
+    </message>
+    <message>
+        <source>Malformed script</source>
+        <translation>Script mal formé</translation>
+    </message>
+    <message>
+        <source>Source changed</source>
+        <translation>Source modifiée</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>Identique à la source</translation>
+    </message>
+    <message>
+        <source>Translated</source>
+        <translation>Traduit</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Champ</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Traduction</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>Paquet</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextPair</name>
+    <message>
+        <source>As plain text: %1</source>
+        <translation>En texte brut : %1</translation>
+    </message>
+    <message>
+        <source>Malformed speech script: %1</source>
+        <translation>Script de parole mal formé : %1</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>Texte source</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Traduction</translation>
+    </message>
+    <message>
+        <source>Type the translation; Ctrl+Return goes on</source>
+        <translation>Saisissez la traduction ; Ctrl+Entrée passe à la suite</translation>
+    </message>
+</context>
+<context>
     <name>Editor::TextsPage</name>
     <message>
         <source>&amp;Languages</source>
@@ -1268,6 +1404,101 @@ Version %1</translation>
     <message>
         <source>The file is beside the manifest.</source>
         <translation>Le fichier est à côté du manifeste.</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TranslationPage</name>
+    <message>
+        <source>Translate the item before this one first: a list has no gaps.</source>
+        <translation>Traduisez d&apos;abord l&apos;élément précédent : une liste n&apos;a pas de trous.</translation>
+    </message>
+    <message>
+        <source>&amp;Translation</source>
+        <translation>&amp;Traduction</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>Montre&amp;r :</translation>
+    </message>
+    <message>
+        <source>All texts</source>
+        <translation>Tous les textes</translation>
+    </message>
+    <message>
+        <source>Find a text</source>
+        <translation>Rechercher un texte</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textes</translation>
+    </message>
+    <message>
+        <source>No text is shown. A package needs two languages for translating; the page Languages adds them.</source>
+        <translation>Aucun texte à afficher. Pour traduire, un paquet doit avoir deux langues ; la page Langues permet d&apos;en ajouter.</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Missing</source>
+        <translation>Man&amp;quant précédent</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Haut</translation>
+    </message>
+    <message>
+        <source>&amp;Next Missing</source>
+        <translation>Manquant suiva&amp;nt</translation>
+    </message>
+    <message>
+        <source>Alt+Down, or Ctrl+Return while typing</source>
+        <translation>Alt+Bas, ou Ctrl+Entrée pendant la saisie</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Source</source>
+        <translation>C&amp;opier la source</translation>
+    </message>
+    <message>
+        <source>Copies the source text into the translation</source>
+        <translation>Copie le texte source dans la traduction</translation>
+    </message>
+    <message>
+        <source>Fill &amp;All Missing</source>
+        <translation>Co&amp;mpléter tout</translation>
+    </message>
+    <message>
+        <source>Copies the source text to where the translation is missing</source>
+        <translation>Copie le texte source là où la traduction manque</translation>
+    </message>
+    <message>
+        <source>E&amp;xport XLIFF…</source>
+        <translation>E&amp;xporter en XLIFF…</translation>
+    </message>
+    <message>
+        <source>Writes the texts for translation tools</source>
+        <translation>Écrit les textes pour les outils de traduction</translation>
+    </message>
+    <message>
+        <source>&amp;Import XLIFF…</source>
+        <translation>Importer &amp;du XLIFF…</translation>
+    </message>
+    <message>
+        <source>Reads texts from translation tools</source>
+        <translation>Lit les textes des outils de traduction</translation>
+    </message>
+    <message>
+        <source>Translated: %1 of %2.</source>
+        <translation>Traduits : %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>Reading the texts…</source>
+        <translation>Lecture des textes…</translation>
+    </message>
+    <message>
+        <source>No other text is missing.</source>
+        <translation>Aucun autre texte ne manque.</translation>
+    </message>
+    <message>
+        <source>Texts to show</source>
+        <translation>Textes à montrer</translation>
     </message>
 </context>
 <context>

@@ -228,6 +228,53 @@
     </message>
 </context>
 <context>
+    <name>Editor::Exchange</name>
+    <message>
+        <source>XLIFF files (*.xlf *.xliff);;All files (*)</source>
+        <translation>XLIFF ファイル (*.xlf *.xliff);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Export Texts</source>
+        <translation>テキストのエクスポート</translation>
+    </message>
+    <message>
+        <source>Import Texts</source>
+        <translation>テキストのインポート</translation>
+    </message>
+    <message>
+        <source>Texts whose source has changed since the export: %1</source>
+        <translation>エクスポート後に原文が変わったテキスト: %1</translation>
+    </message>
+    <message>
+        <source>Import their translations too?</source>
+        <translation>その翻訳もインポートしますか?</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>%1 行目、%2: %3</translation>
+    </message>
+    <message>
+        <source>Texts imported: %1. Unchanged: %2. Not translated: %3. Skipped: %4.</source>
+        <translation>インポートしたテキスト: %1。変更なし: %2。未翻訳: %3。スキップ: %4。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: some texts are malformed speech scripts.</source>
+        <translation>何もインポートされませんでした。不正な音声スクリプトのテキストがあります。</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2: %3</source>
+        <translation>%1 行 %2 列: %3</translation>
+    </message>
+    <message>
+        <source>Fill missing texts</source>
+        <translation>未翻訳のテキストを埋める</translation>
+    </message>
+    <message>
+        <source>Filled from the source: %1.</source>
+        <translation>原文から埋めたテキスト: %1。</translation>
+    </message>
+</context>
+<context>
     <name>Editor::FileActions</name>
     <message>
         <source>Empty Package</source>
@@ -556,6 +603,25 @@
     <message>
         <source>No known language matches, and “%1” is not a code. A code starts with letters; letters and digits follow an underscore, as in pt_BR.</source>
         <translation>該当する言語はなく、「%1」はコードではありません。コードは文字で始まり、pt_BR のように下線の後に文字や数字が続きます。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::LanguagePairChooser</name>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>原文の言語(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Target:</source>
+        <translation>訳文の言語(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Source language</source>
+        <translation>原文の言語</translation>
+    </message>
+    <message>
+        <source>Target language</source>
+        <translation>訳文の言語</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1287,76 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::TextCells</name>
+    <message>
+        <source>Missing</source>
+        <translation>未翻訳</translation>
+    </message>
+    <message>
+        <source>Malformed script</source>
+        <translation>不正なスクリプト</translation>
+    </message>
+    <message>
+        <source>Source changed</source>
+        <translation>原文が変更済み</translation>
+    </message>
+    <message>
+        <source>Same as source</source>
+        <translation>原文と同じ</translation>
+    </message>
+    <message>
+        <source>Translated</source>
+        <translation>翻訳済み</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>原文</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>訳文</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Package</source>
+        <translation>パッケージ</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TextPair</name>
+    <message>
+        <source>As plain text: %1</source>
+        <translation>プレーンテキスト: %1</translation>
+    </message>
+    <message>
+        <source>Malformed speech script: %1</source>
+        <translation>不正な音声スクリプト: %1</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>原文</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>訳文</translation>
+    </message>
+    <message>
+        <source>Type the translation; Ctrl+Return goes on</source>
+        <translation>訳文を入力します。Ctrl+Return で次に進みます</translation>
+    </message>
+</context>
+<context>
     <name>Editor::TextsPage</name>
     <message>
         <source>&amp;Languages</source>
@@ -1268,6 +1404,101 @@ Version %1</source>
     <message>
         <source>The file is beside the manifest.</source>
         <translation>ファイルはマニフェストと同じ場所にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>Editor::TranslationPage</name>
+    <message>
+        <source>Translate the item before this one first: a list has no gaps.</source>
+        <translation>先に前の項目を翻訳してください。リストに空きは作れません。</translation>
+    </message>
+    <message>
+        <source>&amp;Translation</source>
+        <translation>翻訳(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w:</source>
+        <translation>表示(&amp;W):</translation>
+    </message>
+    <message>
+        <source>All texts</source>
+        <translation>すべてのテキスト</translation>
+    </message>
+    <message>
+        <source>Find a text</source>
+        <translation>テキストを検索</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>No text is shown. A package needs two languages for translating; the page Languages adds them.</source>
+        <translation>表示するテキストがありません。翻訳には 2 つの言語が必要です。言語は「言語」のページで追加できます。</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Missing</source>
+        <translation>前の未翻訳(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+↑</translation>
+    </message>
+    <message>
+        <source>&amp;Next Missing</source>
+        <translation>次の未翻訳(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Alt+Down, or Ctrl+Return while typing</source>
+        <translation>Alt+↓、または入力中に Ctrl+Return</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Source</source>
+        <translation>原文をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copies the source text into the translation</source>
+        <translation>原文を訳文にコピーします</translation>
+    </message>
+    <message>
+        <source>Fill &amp;All Missing</source>
+        <translation>未翻訳をすべて埋める(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Copies the source text to where the translation is missing</source>
+        <translation>訳文のないところに原文をコピーします</translation>
+    </message>
+    <message>
+        <source>E&amp;xport XLIFF…</source>
+        <translation>XLIFF をエクスポート(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Writes the texts for translation tools</source>
+        <translation>翻訳ツール用にテキストを書き出します</translation>
+    </message>
+    <message>
+        <source>&amp;Import XLIFF…</source>
+        <translation>XLIFF をインポート(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Reads texts from translation tools</source>
+        <translation>翻訳ツールのテキストを読み込みます</translation>
+    </message>
+    <message>
+        <source>Translated: %1 of %2.</source>
+        <translation>翻訳済み: %2 件中 %1 件。</translation>
+    </message>
+    <message>
+        <source>Reading the texts…</source>
+        <translation>テキストを読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>No other text is missing.</source>
+        <translation>ほかに未翻訳のテキストはありません。</translation>
+    </message>
+    <message>
+        <source>Texts to show</source>
+        <translation>表示するテキスト</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,20 @@ FieldPath fieldAfter(const PackageEditCommand &command) {
     return (isField ? inverse : command.edits()).front().path;
 }
 
+// Whether a run has inserted the item that it types in.
+bool beganAsItem(const PackageEditCommand *run) {
+    return run && !run->edits().isEmpty() && run->edits().front().action == Edit::Action::Insert;
+}
+
+// The field that the last edit of a command has changed: the item that it inserted into a list of
+// texts rather than the list.
+FieldPath lastField(const PackageEditCommand &command) {
+    const Edit &last = command.edits().back();
+    const bool isItem = last.action == Edit::Action::Insert &&
+                        !last.path.steps().back().selectors.empty() && !command.inverse().isEmpty();
+    return isItem ? command.inverse().front().path : last.path;
+}
+
 } // namespace
 
 QString Document::type(const FieldPath &field, const QString &text) {
@@ -33,9 +47,12 @@ QString Document::type(const FieldPath &field, const QString &text) {
         abandonRun(field);
         return reason;
     }
-    const Edit edit = setText(field, text);
-    if (Zel::PackageModel::value(package(), field) == edit.value)
+    Edit edit = typedEdit(package(), field, text);
+    const bool isItem = edit.action == Edit::Action::Insert;
+    if (isItem ? text.isEmpty() : Zel::PackageModel::value(package(), field) == edit.value)
         return {};
+    if (text.isEmpty() && m_run == field && beganAsItem(commandAt(m_undoStack.index() - 1)))
+        edit = {Edit::Action::Remove, field};
     auto *command = new PackageEditCommand(package(), {edit}, {}, false);
     if (m_run != field)
         command->startRun();
@@ -115,7 +132,7 @@ FieldPath Document::changedField(int indexBefore) const {
     const Edits &edits = isUndo ? command->edits() : command->inverse();
     if (edits.isEmpty())
         return {};
-    return isUndo ? edits.back().path : edits.front().path;
+    return isUndo ? lastField(*command) : edits.front().path;
 }
 
 Edits Document::pendingEdits() const {

@@ -30,10 +30,21 @@ Edit setText(const FieldPath &path, const QString &text) {
     return {Edit::Action::Set, path, valueOf(path, text, error)};
 }
 
+Edit typedEdit(const PackageInfoModel *package, const FieldPath &path, const QString &text) {
+    const Edit edit = setText(path, text);
+    const int index = itemIndex(path);
+    const FieldPath list = path.parent();
+    const auto form = Zel::PackageModel::formOf(list);
+    const bool isItem = index >= 0 && form && form->isList && edit.value;
+    if (!isItem || Zel::PackageModel::entries(package, list).size() != index)
+        return edit;
+    return {Edit::Action::Insert, list, edit.value, index};
+}
+
 QString textRefusal(const PackageInfoModel *package, const FieldPath &path, const QString &text) {
     QString error;
     const auto value = valueOf(path, text, error);
-    return value ? Zel::PackageModel::refusal(package, {Edit::Action::Set, path, value}) : error;
+    return value ? Zel::PackageModel::refusal(package, typedEdit(package, path, text)) : error;
 }
 
 Edit appended(const FieldPath &list, const FieldValue &entry) {

@@ -12,7 +12,11 @@ namespace Editor {
 QString fieldText(const Zel::PackageInfoModel *package, const Tano::FieldPath &path);
 /// The edit that sets a field to a typed text, which may be that of a version.
 Zel::PackageModel::Edit setText(const Tano::FieldPath &path, const QString &text);
-/// Why a field cannot be set to a text, for people; empty if it can.
+/// The edit that types a text into a field: setText(), or the insertion of a text that follows the
+/// last one of a list.
+Zel::PackageModel::Edit typedEdit(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
+                                  const QString &text);
+/// Why a text cannot be typed into a field, for people; empty if it can.
 QString textRefusal(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
                     const QString &text);
 /// The edit that adds an entry at the end of a list.

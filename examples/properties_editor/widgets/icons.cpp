@@ -104,6 +104,12 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
         path.addEllipse(QPointF(12, 12), 4, 9);
         line(path, {{3, 12}, {21, 12}});
     },
+    [](QPainterPath &path) { // Translation
+        line(path, {{3, 8}, {20, 8}});
+        line(path, {{16, 4}, {20, 8}, {16, 12}});
+        line(path, {{21, 16}, {4, 16}});
+        line(path, {{8, 12}, {4, 16}, {8, 20}});
+    },
     [](QPainterPath &path) { // Requirements
         path.addRoundedRect(6, 6, 12, 12, 1.5, 1.5);
         path.addRect(10, 10, 4, 4);

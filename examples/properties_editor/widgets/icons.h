@@ -18,6 +18,7 @@ enum class Symbol {
     Redo,
     Identity,
     Languages,
+    Translation,
     Requirements,
     Behaviors,
     Dialogs,

@@ -54,6 +54,7 @@ FindPanel::FindPanel(Document &document, QWidget *parent)
     m_view->setAlternatingRowColors(true);
     m_view->setAllColumnsShowFocus(true);
     m_view->header()->resizeSection(MatchesModel::Field, 260);
+    m_view->setMinimumHeight(m_view->fontMetrics().lineSpacing() * 6);
     const auto show = [this](const QModelIndex &index) {
         Q_EMIT fieldWanted(index.data(MatchesModel::PathRole).toString());
     };

@@ -12,6 +12,7 @@
 #include "pages/review_page.h"
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
+#include "pages/translation_page.h"
 #include "problem_count.h"
 #include "problems_panel.h"
 #include "recovery_dialogs.h"
@@ -80,11 +81,12 @@ MainWindow::~MainWindow() {
 void MainWindow::addPages() {
     auto *review = new ReviewPage(m_document, this);
     connect(review, &ReviewPage::fieldWanted, this, &MainWindow::showField);
-    m_pages = new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
-                             new RequirementsPage(m_document, this),
-                             new BehaviorsPage(m_document, this), new DialogsPage(m_document, this),
-                             new ServicesPage(m_document, this), review},
-                            this);
+    m_pages =
+        new PageStack({new IdentityPage(m_document, this), new TextsPage(m_document, this),
+                       new RequirementsPage(m_document, this), new BehaviorsPage(m_document, this),
+                       new DialogsPage(m_document, this), new ServicesPage(m_document, this),
+                       new TranslationPage(m_document, this), review},
+                      this);
     m_stack->addWidget(m_pages);
     m_stack->addWidget(m_start);
     auto *content = new QWidget(this);

@@ -4,7 +4,6 @@
 #include "copies.h"
 #include "log_category.h"
 #include "package_info_data.h"
-#include "plain_text.h"
 
 #include <tano/field_path.h>
 #include <tano/log.h>
@@ -137,7 +136,7 @@ template<typename Keep, typename Replace>
 void generate(const QString &script, const RobotLanguage &language, const char *operation,
               Keep keep, Replace replace) {
     keep(script, makeXScrpolLanguage(language));
-    const PlainText plain = plainTextOf(script);
+    const PackageModel::PlainText plain = PackageModel::plainTextOf(script);
     if (plain.error.isEmpty())
         replace(plain.text, language);
     else
@@ -214,7 +213,8 @@ private:
     void check(const QString &text, Path path) {
         if (!text.contains(u'<'))
             return; // plain
-        if (const PlainText plain = plainTextOf(text); !plain.error.isEmpty())
+        if (const PackageModel::PlainText plain = PackageModel::plainTextOf(text);
+            !plain.error.isEmpty())
             m_errors.append({fromUtf8(path().toString()), plain.error});
     }
 

@@ -1,4 +1,4 @@
-#include "plain_text.h"
+#include <packagemodel/package_scripts.h>
 
 #include <packagemodel/text_conversion.h>
 
@@ -6,7 +6,7 @@
 
 #include <exception>
 
-namespace Zel {
+namespace Zel::PackageModel {
 
 PlainText plainTextOf(const QString &script) {
     try {
@@ -16,4 +16,4 @@ PlainText plainTextOf(const QString &script) {
     }
 }
 
-} // namespace Zel
+} // namespace Zel::PackageModel

@@ -100,7 +100,7 @@ struct Leftover {
 };
 
 /// All unsaved edits in a folder whose manifests no editor has open, the newest first. Files that
-/// cannot be read are left in place, and logged.
+/// cannot be read are left in place, and logged. Locks of processes that were killed are removed.
 PACKAGEMODEL_EXPORT QVector<Leftover> leftovers(const QString &folder);
 
 } // namespace Zel::PackageModel

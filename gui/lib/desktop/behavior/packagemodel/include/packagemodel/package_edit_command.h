@@ -7,11 +7,11 @@ namespace Zel {
 
 /// Applies edits of a package as one undo step.
 ///
-/// A command that sets one text or version merges with later ones for the same field of the same
-/// package, until one of them is final or starts another run. A field that names its entry stays
-/// the same field when the entry is renamed. A run that ends at its old text, or that is followed
-/// by a command with its inverse(), becomes obsolete, so that the stack drops it. error() says why
-/// a step changed nothing.
+/// A command that sets or inserts one text or version merges with later ones that set the same
+/// field of the same package, until one of them is final or starts another run. A field that names
+/// its entry stays the same field when the entry is renamed. A run that ends at its old text, or
+/// that is followed by a command with its inverse(), becomes obsolete, so that the stack drops it.
+/// error() says why a step changed nothing.
 ///
 /// ```
 /// stack.push(new PackageEditCommand(&package, {edit}));

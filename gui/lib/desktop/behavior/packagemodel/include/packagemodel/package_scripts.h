@@ -11,6 +11,15 @@ class PackageInfoModel;
 
 namespace PackageModel {
 
+/// A speech script as a person would read it, or why it cannot be.
+struct PlainText {
+    QString text;
+    QString error; ///< what is wrong, with the place within the text; empty on success
+};
+
+/// Makes plain text of a script; a text without markup is plain already.
+PACKAGEMODEL_EXPORT PlainText plainTextOf(const QString &script);
+
 /// A text of which no plain text can be made, because it is a malformed speech script.
 struct ScriptError {
     /// The field that holds it, for example "names[fr_FR]" or

@@ -5,12 +5,18 @@
 namespace Zel {
 namespace {
 
+using PackageModel::Edit;
+
 // Whether the edits are a single new text or version, which may be a part of a typed run.
-bool isTyped(const PackageModel::Edits &edits) {
-    return edits.size() == 1 && edits.front().action == PackageModel::Edit::Action::Set &&
-           edits.front().value &&
+bool isTyped(const PackageModel::Edits &edits, Edit::Action action = Edit::Action::Set) {
+    return edits.size() == 1 && edits.front().action == action && edits.front().value &&
            (std::holds_alternative<QString>(*edits.front().value) ||
             std::holds_alternative<SoftwareVersion>(*edits.front().value));
+}
+
+// Whether they may begin a typed run, which the insertion of an item may do too.
+bool beginRun(const PackageModel::Edits &edits) {
+    return isTyped(edits) || isTyped(edits, Edit::Action::Insert);
 }
 
 } // namespace
@@ -49,7 +55,7 @@ int PackageEditCommand::id() const {
 bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
     return mergeIf<PackageEditCommand>(incoming, [this](const PackageEditCommand &newer) {
         if (m_isFinal || newer.m_startsRun || !model() || newer.model() != model() ||
-            !isTyped(m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1)
+            !beginRun(m_edits) || m_inverse.size() != 1 || newer.m_inverse.size() != 1)
             return false;
         if (newer.m_edits == m_inverse) {
             setObsolete(true);

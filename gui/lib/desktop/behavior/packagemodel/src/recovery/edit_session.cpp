@@ -118,13 +118,20 @@ void EditSession::discard() {
 
 QVector<Leftover> leftovers(const QString &folder) {
     QVector<Leftover> found;
-    const auto files =
-        QDir(folder).entryList({QLatin1Char('*') + editsSuffix}, QDir::Files, QDir::Name);
-    for (const QString &file : files) {
-        const QString id = file.left(file.size() - editsSuffix.size());
+    const auto idsOf = [&](QLatin1String suffix) {
+        QStringList ids = QDir(folder).entryList({QLatin1Char('*') + suffix}, QDir::Files);
+        for (QString &id : ids)
+            id.chop(suffix.size());
+        return ids;
+    };
+    const QStringList kept = idsOf(editsSuffix);
+    for (const QString &id : kept) {
         if (const auto unsaved = EditSession::ofLeftover(folder, id).leftover())
             found.append({id, *unsaved});
     }
+    const QStringList locks = idsOf(lockSuffix);
+    for (const QString &id : locks)
+        EditSession::ofLeftover(folder, id); // removes the lock of a process that was killed
     std::stable_sort(found.begin(), found.end(), [](const Leftover &a, const Leftover &b) {
         return a.unsaved.time > b.unsaved.time;
     });

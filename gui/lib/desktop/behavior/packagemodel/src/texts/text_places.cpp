@@ -1,9 +1,9 @@
 #include "text_places.h"
 
 #include "../behavior_paths.h"
-#include "../plain_text.h"
-
+#include <packagemodel/package_scripts.h>
 #include <packagemodel/text_conversion.h>
+#include <packagemodel/text_states.h>
 
 #include <zel/language.h>
 
@@ -61,8 +61,12 @@ bool isBehavior(const Tano::FieldPath::Step &step) {
 
 } // namespace
 
+bool TextKind::isMarkup(const QString &text) const {
+    return isScript && text.contains(u'<');
+}
+
 QString TextKind::scriptError(const QString &text) const {
-    return isScript && text.contains(u'<') ? plainTextOf(text).error : QString();
+    return isMarkup(text) ? plainTextOf(text).error : QString();
 }
 
 const std::vector<TextKind> &textKinds() {
@@ -119,6 +123,22 @@ std::optional<QStringList> TextOwners::texts(const TextPlace &place, const QStri
     if (behavior == m_behaviors.constEnd())
         return {};
     return place.kind->ofBehavior(**behavior, language);
+}
+
+QVector<TranslatableText> ownTexts(const PackageInfoModel &package, const QString &language,
+                                   const QString &sourceLanguage) {
+    QVector<TranslatableText> texts;
+    appendTexts(package, &TextKind::ofPackage, {}, Language::languageInUse(language),
+                Language::languageInUse(sourceLanguage), texts);
+    return texts;
+}
+
+QVector<TranslatableText> textsOf(const BehaviorInfoModel &behavior, const Tano::FieldPath &path,
+                                  const QString &language, const QString &sourceLanguage) {
+    QVector<TranslatableText> texts;
+    appendTexts(behavior, &TextKind::ofBehavior, path, Language::languageInUse(language),
+                Language::languageInUse(sourceLanguage), texts);
+    return texts;
 }
 
 QVector<TranslatableText> translatableTexts(const PackageInfoModel *package,

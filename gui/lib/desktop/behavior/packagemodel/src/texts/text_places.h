@@ -19,6 +19,8 @@ struct TextKind {
     QStringList (*ofPackage)(const PackageInfoModel &package, const RobotLanguage &language);
     QStringList (*ofBehavior)(const BehaviorInfoModel &behavior, const RobotLanguage &language);
 
+    /// Whether the text of such a field is a speech script.
+    bool isMarkup(const QString &text) const;
     /// Why the text of such a field is a malformed script; empty if it is none.
     QString scriptError(const QString &text) const;
 };
