@@ -164,7 +164,7 @@ private Q_SLOTS:
             QTest::newRow(name) << make;
         };
         row("add language", [](D &, M &m) { m.languages.add(QStringLiteral("it_CH")); });
-        row("remove language", [](D &, M &m) { m.languages.remove(QStringLiteral("de_DE")); });
+        row("remove languages", [](D &, M &m) { m.languages.remove({1, 3}); });
         row("stop supporting the third language",
             [](D &, M &m) { check(m.languages, 2, LanguagesModel::Supported); });
         row("remove the first description language",
@@ -182,7 +182,9 @@ private Q_SLOTS:
         row("trigger sentences", [](D &, M &m) {
             m.sentences.add({QStringLiteral("one"), QStringLiteral("two")});
         });
-        row("remove trigger sentence", [](D &, M &m) { m.sentences.remove(0); });
+        row("remove trigger sentence", [](D &d, M &m) {
+            d.edit({removed(d.package(), m.sentences.list(), 0)}, QStringLiteral("Remove"));
+        });
         row("add dialog", add("dialogs", Tano::DialogInfo()));
         row("remove the first dialog", remove("dialogs", 0));
         row("topic", [](D &, M &m) { write(m.topics, 1, 1, "other.top"); });
@@ -195,11 +197,11 @@ private Q_SLOTS:
             [](D &, M &m) { write(m.services, 0, ServicesModel::ExecStart, "other"); });
         row("start of service", [](D &, M &m) { check(m.services, 0, ServicesModel::AutoRun); });
         row("add robot", [](D &, M &m) { m.robots.add(); });
-        row("remove the first robot", [](D &, M &m) { m.robots.remove(0); });
+        row("remove the first robot", remove("robotRequirements", 0));
         row("wrong range", [](D &, M &m) { write(m.robots, 0, 4, "1.0"); });
         row("robot", [](D &, M &m) { write(m.robots, 0, 0, "HERON"); });
         row("add Brio version", [](D &, M &m) { m.brio.add(); });
-        row("remove Brio version", [](D &, M &m) { m.brio.remove(0); });
+        row("remove Brio version", remove("brioRequirements", 0));
         row("Brio minimum", [](D &, M &m) { write(m.brio, 0, 0, ""); });
     }
 

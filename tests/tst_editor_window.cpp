@@ -5,6 +5,7 @@
 #include "widgets/hint_label.h"
 #include "widgets/icon_button.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "window/application_setup.h"
 #include "window/main_window.h"
 #include "window/page_stack.h"
@@ -315,7 +316,7 @@ private Q_SLOTS:
         for (int rows = 3; rows > 1; --rows) {
             QCOMPARE(table->model()->rowCount(), rows);
             table->setFocus();
-            table->setCurrentIndex(table->model()->index(1, 0));
+            Editor::selectAlone(table, table->model()->index(1, 0));
             press(Qt::Key_Delete);
         }
         QVERIFY2(!manifest().contains("fr_FR") && !manifest().contains("it_IT"),

@@ -869,6 +869,29 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::PropertiesModel</name>
+    <message>
+        <source>A property needs a name.</source>
+        <translation>Une propriété doit avoir un nom.</translation>
+    </message>
+    <message>
+        <source>The service has “%1” already.</source>
+        <translation>Le service a déjà « %1 ».</translation>
+    </message>
+    <message>
+        <source>Rename property “%1”</source>
+        <translation>Renommer la propriété « %1 »</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+</context>
+<context>
     <name>Editor::Publishing</name>
     <message>
         <source>… and %1 more</source>
@@ -1114,6 +1137,49 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::RowActions</name>
+    <message>
+        <source>This list takes entries of another kind.</source>
+        <translation>Cette liste prend des entrées d’un autre type.</translation>
+    </message>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>La liste contient déjà «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The clipboard has nothing for this list.</source>
+        <translation>Le presse-papiers ne contient rien pour cette liste.</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>Du&amp;pliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ServicesModel</name>
     <message>
         <source>Name</source>
@@ -1149,6 +1215,22 @@ Version %1</translation>
     <message>
         <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
         <translation>Un service est un programme qui tourne en arrière-plan sur le robot. «&#xa0;Ajouter&#xa0;» en ajoute un.</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Settings of the service that is selected above. “Add Property” adds one.</source>
+        <translation>Réglages du service sélectionné ci-dessus. « Ajouter une propriété » en ajoute un.</translation>
+    </message>
+    <message>
+        <source>Add Pr&amp;operty</source>
+        <translation>A&amp;jouter une propriété</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Property</source>
+        <translation>Retirer la proprié&amp;té</translation>
     </message>
 </context>
 <context>

@@ -869,6 +869,29 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::PropertiesModel</name>
+    <message>
+        <source>A property needs a name.</source>
+        <translation>プロパティには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The service has “%1” already.</source>
+        <translation>サービスにはすでに「%1」があります。</translation>
+    </message>
+    <message>
+        <source>Rename property “%1”</source>
+        <translation>プロパティ「%1」の名前を変更</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+</context>
+<context>
     <name>Editor::Publishing</name>
     <message>
         <source>… and %1 more</source>
@@ -1114,6 +1137,49 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::RowActions</name>
+    <message>
+        <source>This list takes entries of another kind.</source>
+        <translation>この一覧には別の種類の項目が入ります。</translation>
+    </message>
+    <message>
+        <source>The list has “%1” already.</source>
+        <translation>一覧には既に「%1」があります。</translation>
+    </message>
+    <message>
+        <source>The clipboard has nothing for this list.</source>
+        <translation>クリップボードにこの一覧へ貼り付けられるものはありません。</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>複製(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Move Up</source>
+        <translation>上へ移動(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下へ移動(&amp;W)</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ServicesModel</name>
     <message>
         <source>Name</source>
@@ -1149,6 +1215,22 @@ Version %1</source>
     <message>
         <source>A service is a program that runs in the background on the robot. “Add” adds one.</source>
         <translation>サービスはロボットのバックグラウンドで動くプログラムです。「追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Settings of the service that is selected above. “Add Property” adds one.</source>
+        <translation>上で選択したサービスの設定です。「プロパティを追加」で追加します。</translation>
+    </message>
+    <message>
+        <source>Add Pr&amp;operty</source>
+        <translation>プロパティを追加(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Property</source>
+        <translation>プロパティを削除(&amp;M)</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,15 @@ Zel::PackageModel::Edit appended(const Tano::FieldPath &list,
 Zel::PackageModel::Edit removed(const Zel::PackageInfoModel *package, const Tano::FieldPath &list,
                                 int index);
 
+/// A name that no entry has yet: `stem`, or the stem with a number.
+template<typename IsTaken>
+QString freeName(const QString &stem, IsTaken isTaken) {
+    QString name = stem;
+    for (int i = 2; isTaken(name); ++i)
+        name = stem + QLatin1Char('-') + QString::number(i);
+    return name;
+}
+
 // Parts of a path by which a page finds the widget of a field; empty where the path has no such
 // part.
 

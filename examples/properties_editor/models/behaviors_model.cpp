@@ -55,6 +55,11 @@ QVariant BehaviorsModel::headerData(int section, Qt::Orientation orientation, in
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 
+Qt::ItemFlags BehaviorsModel::flags(const QModelIndex &index) const {
+    return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled
+                           : Qt::ItemIsDropEnabled;
+}
+
 BehaviorInfoModel *BehaviorsModel::behavior(int row) const {
     return m_behaviors.value(row);
 }

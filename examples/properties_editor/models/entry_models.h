@@ -71,13 +71,4 @@ protected:
     Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
 };
 
-/// A name that no entry has yet: `stem`, or the stem with a number.
-template<typename IsTaken>
-QString freeName(const QString &stem, IsTaken isTaken) {
-    QString name = stem;
-    for (int i = 2; isTaken(name); ++i)
-        name = stem + QLatin1Char('-') + QString::number(i);
-    return name;
-}
-
 } // namespace Editor

@@ -131,10 +131,14 @@ void LanguagesModel::add(const QString &code) {
     document().edit({appended(listOf(Supported), code)});
 }
 
-void LanguagesModel::remove(const QString &code) {
-    const auto edits = Zel::PackageModel::languageRemoval(package(), code);
-    if (!edits.isEmpty())
-        document().edit(edits, tr("Remove language %1").arg(code));
+void LanguagesModel::remove(const QVector<int> &rows) {
+    QStringList codes;
+    Zel::PackageModel::Edits edits;
+    for (const int row : rows) {
+        codes.append(keys().at(row));
+        edits += Zel::PackageModel::languageRemoval(package(), codes.last());
+    }
+    document().edit(edits, tr("Remove language %1").arg(codes.join(QStringLiteral(", "))));
 }
 
 Qt::ItemFlags LanguagesModel::extraFlags(const QModelIndex &index) const {

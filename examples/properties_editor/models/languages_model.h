@@ -26,8 +26,8 @@ public:
     static Tano::FieldPath listOf(Column column);
     /// Makes a language a supported one.
     void add(const QString &code);
-    /// Removes a language with all texts in it.
-    void remove(const QString &code);
+    /// Removes the languages of rows with all texts in them.
+    void remove(const QVector<int> &rows);
 
     /// "Supported languages: 10. With a name: 9. With a description: 8."
     QString summary() const;

@@ -100,11 +100,6 @@ void RequirementsModel::add() {
         document().edit({appended(list(), Zel::BrioRequirement())});
 }
 
-void RequirementsModel::remove(int row) {
-    if (row >= 0 && row < rowCount())
-        document().edit({removed(package(), list(), row)});
-}
-
 int RequirementsModel::columnOf(const QString &field) const {
     const auto found = std::find_if(columns().begin(), columns().end(), [&](const Column &column) {
         return field == QLatin1String(column.field);

@@ -19,7 +19,6 @@ public:
     QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
     void add();
-    void remove(int row);
     /// The column of the field of a requirement with that name in paths; -1 for none.
     int columnOf(const QString &field) const;
     /// The path of the list.

@@ -61,11 +61,6 @@ void StringListModel::add(const QStringList &texts) {
     document().edit(edits);
 }
 
-void StringListModel::remove(int row) {
-    if (row >= 0 && row < rowCount())
-        document().edit({removed(package(), list(), row)});
-}
-
 QStringList StringListModel::currentKeys() const {
     return numbered(int(items().size()));
 }

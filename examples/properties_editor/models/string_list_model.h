@@ -25,7 +25,6 @@ public:
     QString additionRefusal(const QString &text) const;
     /// Adds texts that can be added, as one undo step.
     void add(const QStringList &texts);
-    void remove(int row);
 
 protected:
     Tano::FieldPath fieldOf(const QModelIndex &index) const override;

@@ -24,8 +24,10 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 }
 
 Qt::ItemFlags TableModel::flags(const QModelIndex &index) const {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return index.isValid() ? flags | extraFlags(index) : flags;
+    // Rows are dragged in views of ordered lists, and dropped between others.
+    return index.isValid()
+               ? QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | extraFlags(index)
+               : Qt::ItemIsDropEnabled;
 }
 
 Qt::ItemFlags TableModel::extraFlags(const QModelIndex &) const {

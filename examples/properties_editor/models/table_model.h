@@ -18,6 +18,7 @@ public:
                         int role = Qt::DisplayRole) const override;
 
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
     /// Types a text into the field of an editable cell.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 

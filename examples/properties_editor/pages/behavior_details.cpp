@@ -144,7 +144,8 @@ StringListEditor *BehaviorDetails::addListTab(const char *field, const QString &
     auto *tab = new QWidget(this);
     auto *layout = new QVBoxLayout(tab);
     auto *editor = new StringListEditor(
-        m_document, title, placeholder, [this, field] { return listField(field); }, tab);
+        m_document, title, placeholder, [this, field] { return listField(field); },
+        !isOneOf(QLatin1String(field), {"permissions"}), tab);
     layout->addWidget(editor);
     m_tabs->addTab(tab, title);
     return editor;

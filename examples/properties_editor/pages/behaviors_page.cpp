@@ -3,9 +3,9 @@
 #include "behavior_details.h"
 #include "document/field_edits.h"
 #include "models/behaviors_model.h"
-#include "models/entry_models.h"
 #include "widgets/empty_hint.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHBoxLayout>
@@ -52,8 +52,9 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
     connect(add, &QPushButton::clicked, this, &BehaviorsPage::add);
-    connect(m_remove, &QPushButton::clicked, this, &BehaviorsPage::remove);
-    removeWithDelete(m_view, m_remove);
+    auto *rows = new RowActions(m_view, document, {[] { return FieldPath().field("behaviors"); }});
+    connect(m_remove, &QPushButton::clicked, rows, &RowActions::remove);
+    connect(rows, &RowActions::hiddenRowsWanted, m_filter, &QLineEdit::clear);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -98,7 +99,7 @@ void BehaviorsPage::showCurrent() {
 }
 
 void BehaviorsPage::selectFirst() {
-    m_view->setCurrentIndex(m_filtered->index(0, 0));
+    selectAlone(m_view, m_filtered->index(0, 0));
     showCurrent();
 }
 
@@ -107,7 +108,7 @@ void BehaviorsPage::select(const BehaviorInfoModel *behavior) {
     if (!m_filtered->mapFromSource(source).isValid())
         m_filter->clear();
     const QModelIndex index = m_filtered->mapFromSource(source);
-    m_view->setCurrentIndex(index);
+    selectAlone(m_view, index);
     m_view->scrollTo(index);
 }
 
@@ -120,11 +121,6 @@ void BehaviorsPage::add() {
     document().edit({appended(FieldPath().field("behaviors"), behavior)});
     select(package()->behavior(path));
     m_details->startTypingPath();
-}
-
-void BehaviorsPage::remove() {
-    if (m_model->behavior(currentRow()))
-        document().edit({removed(package(), FieldPath().field("behaviors"), currentRow())});
 }
 
 bool BehaviorsPage::showField(const FieldPath &path) {

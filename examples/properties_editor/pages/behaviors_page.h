@@ -21,7 +21,6 @@ public:
 
 private:
     void add();
-    void remove();
     void select(const Zel::BehaviorInfoModel *behavior);
     void showCurrent();
     void selectFirst();

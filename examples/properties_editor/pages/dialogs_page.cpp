@@ -4,6 +4,7 @@
 #include "models/entry_models.h"
 #include "widgets/empty_hint.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
 #include <QDir>
@@ -53,13 +54,9 @@ QWidget *DialogsPage::newList() {
                                 "for each language. “Add” adds one."));
     auto *add = newListButton(tr("&Add"), true, this);
     m_remove = newListButton(tr("&Remove"), false, this);
-    removeWithDelete(m_list, m_remove);
+    auto *rows = new RowActions(m_list, document(), {[] { return FieldPath().field("dialogs"); }});
     connect(add, &QPushButton::clicked, this, &DialogsPage::add);
-    connect(m_remove, &QPushButton::clicked, this, [this] {
-        if (current())
-            document().edit(
-                {removed(package(), FieldPath().field("dialogs"), m_list->currentIndex().row())});
-    });
+    connect(m_remove, &QPushButton::clicked, rows, &RowActions::remove);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -130,7 +127,7 @@ FieldPath DialogsPage::field(const char *name) const {
 
 void DialogsPage::showCurrent() {
     if (!m_list->currentIndex().isValid() && m_dialogs->rowCount() > 0)
-        m_list->setCurrentIndex(m_dialogs->index(0, 0));
+        selectAlone(m_list, m_dialogs->index(0, 0));
     m_topics->setDialog(m_list->currentIndex().row());
     m_name->reload();
     m_typeVersion->reload();
@@ -152,7 +149,7 @@ void DialogsPage::add() {
     Tano::DialogInfo dialog;
     dialog.setTopicName(Zel::toUtf8(name));
     document().edit({appended(FieldPath().field("dialogs"), dialog)});
-    m_list->setCurrentIndex(m_dialogs->index(m_dialogs->rowCount() - 1, 0));
+    selectAlone(m_list, m_dialogs->index(m_dialogs->rowCount() - 1, 0));
     startTyping(m_name->widget());
 }
 
@@ -161,7 +158,7 @@ bool DialogsPage::showField(const FieldPath &path) {
         return false;
     const int row = entryIndex(package()->dialogs(), &DialogInfoModel::topicName, path);
     if (row >= 0)
-        m_list->setCurrentIndex(m_dialogs->index(row, 0));
+        selectAlone(m_list, m_dialogs->index(row, 0));
     if (fieldName(path, 1) == QLatin1String("topics")) {
         m_table->setFocus(Qt::OtherFocusReason);
         m_table->setCurrentIndex(

@@ -5,6 +5,7 @@
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
 #include "widgets/marks.h"
+#include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
 #include <QHeaderView>
@@ -43,7 +44,6 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     table->setModel(model);
     setUpTable(table, document(), texts.heading);
     explainWhenEmpty(table, texts.emptiness);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     if (kind == RequirementsModel::Kind::Robot)
         table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -59,13 +59,12 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
         model->add();
         const QModelIndex cell = model->index(model->rowCount() - 1, 0);
         table->setFocus();
-        table->setCurrentIndex(cell);
+        selectAlone(table, cell);
         table->edit(cell);
     });
     auto *remove = newListButton(texts.removal, false, this);
-    connect(remove, &QPushButton::clicked, model,
-            [model, table] { model->remove(table->currentIndex().row()); });
-    removeWithDelete(table, remove);
+    auto *rows = new RowActions(table, document(), {[model] { return model->list(); }});
+    connect(remove, &QPushButton::clicked, rows, &RowActions::remove);
     const auto refresh = [remove, table] { remove->setEnabled(table->currentIndex().isValid()); };
     connect(table->selectionModel(), &QItemSelectionModel::currentChanged, remove, refresh);
     connect(&document(), &Document::edited, remove, refresh);
@@ -88,8 +87,9 @@ bool RequirementsPage::showField(const Tano::FieldPath &path) {
         if (fieldName(path) != fieldName(part.model->list()))
             continue;
         part.table->setFocus(Qt::OtherFocusReason);
-        part.table->setCurrentIndex(part.model->index(
-            fieldKey(path).toInt(), std::max(0, part.model->columnOf(fieldName(path, 1)))));
+        selectAlone(part.table,
+                    part.model->index(fieldKey(path).toInt(),
+                                      std::max(0, part.model->columnOf(fieldName(path, 1)))));
         return true;
     }
     return false;

@@ -6,9 +6,10 @@ class QTableView;
 
 namespace Editor {
 
+class PropertiesModel;
 class ServicesModel;
 
-/// The services that the package starts.
+/// The services that the package starts, and the properties of the one that is selected.
 class ServicesPage : public Page {
     Q_OBJECT
 
@@ -17,10 +18,19 @@ public:
     bool showField(const Tano::FieldPath &path) override;
 
 private:
+    QWidget *newServices();
+    QWidget *newProperties();
     void add();
+    void addProperty();
+    void refresh();
 
     ServicesModel *m_model;
+    PropertiesModel *m_properties;
     QTableView *m_table;
+    QTableView *m_propertyTable;
+    QPushButton *m_remove = nullptr;
+    QPushButton *m_addProperty = nullptr;
+    QPushButton *m_removeProperty = nullptr;
 };
 
 } // namespace Editor

@@ -7,6 +7,7 @@
 #include "widgets/empty_hint.h"
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
+#include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
 #include <packagemodel/language_name.h>
@@ -39,7 +40,6 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
         tr("The languages that the package supports or has texts in. “Add Language” adds one."));
     m_table->setItemDelegateForColumn(LanguagesModel::Coverage, new CoverageDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView *header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(LanguagesModel::Name, QHeaderView::Interactive);
@@ -51,9 +51,10 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     auto *add = newListButton(tr("&Add Language…"), true, this);
     connect(add, &QPushButton::clicked, this, &TextsPage::chooseLanguage);
     m_remove = newListButton(tr("&Remove Language"), false, this);
-    removeWithDelete(m_table, m_remove);
-    connect(m_remove, &QPushButton::clicked, this,
-            [this] { m_model->remove(current().isoCode()); });
+    const auto list = [] { return LanguagesModel::listOf(LanguagesModel::Supported); };
+    const auto removal = [this](const QVector<int> &rows) { m_model->remove(rows); };
+    auto *rows = new RowActions(m_table, document, {list, true, removal});
+    connect(m_remove, &QPushButton::clicked, rows, &RowActions::remove);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(m_remove);
@@ -109,7 +110,7 @@ RobotLanguage TextsPage::current() const {
 
 void TextsPage::showCurrent() {
     if (!m_table->currentIndex().isValid() && m_model->rowCount() > 0)
-        m_table->setCurrentIndex(m_model->index(0, LanguagesModel::Name));
+        selectAlone(m_table, m_model->index(0, LanguagesModel::Name));
     m_name->reload();
     m_description->reload();
     refresh();
@@ -136,8 +137,7 @@ void TextsPage::chooseLanguage() {
 
 void TextsPage::addLanguage(const QString &code) {
     m_model->add(code);
-    m_table->setCurrentIndex(
-        m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
+    selectAlone(m_table, m_model->index(int(m_model->keys().indexOf(code)), LanguagesModel::Name));
     startTyping(m_name->widget());
 }
 
@@ -146,16 +146,15 @@ bool TextsPage::showField(const FieldPath &path) {
         if (fieldName(path) != fieldName(LanguagesModel::listOf(column)))
             continue;
         m_table->setFocus(Qt::OtherFocusReason);
-        m_table->setCurrentIndex(
-            m_model->index(int(m_model->keys().indexOf(fieldKey(path))), column));
+        selectAlone(m_table, m_model->index(int(m_model->keys().indexOf(fieldKey(path))), column));
         return true;
     }
     const bool isName = fieldName(path) == QLatin1String("names");
     if (!isName && fieldName(path) != QLatin1String("descriptions"))
         return false;
     const int row = int(m_model->keys().indexOf(fieldKey(path)));
-    m_table->setCurrentIndex(
-        m_model->index(row, isName ? LanguagesModel::Name : LanguagesModel::Description));
+    selectAlone(m_table,
+                m_model->index(row, isName ? LanguagesModel::Name : LanguagesModel::Description));
     (isName ? m_name : m_description)->widget()->setFocus(Qt::OtherFocusReason);
     return true;
 }

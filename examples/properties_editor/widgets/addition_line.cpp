@@ -1,22 +1,14 @@
 #include "addition_line.h"
 
+#include "document/row_edits.h"
 #include "field_note.h"
 #include "marks.h"
 #include "models/string_list_model.h"
 #include "text_field.h"
 
 #include <QLineEdit>
-#include <QRegularExpression>
 
 namespace Editor {
-namespace {
-
-QStringList linesOf(const QString &text) {
-    static const QRegularExpression lineBreak(QStringLiteral("\r\n|[\r\n\u2028\u2029]"));
-    return text.split(lineBreak, Qt::SkipEmptyParts);
-}
-
-} // namespace
 
 AdditionLine::AdditionLine(QLineEdit *line, Document &document, StringListModel &model)
     : TypedText(line)

@@ -3,6 +3,7 @@
 #include "addition_line.h"
 #include "field_note.h"
 #include "pages/page.h"
+#include "row_actions.h"
 #include "typing_delegate.h"
 
 #include <QCompleter>
@@ -18,7 +19,8 @@ namespace Editor {
 
 StringListEditor::StringListEditor(Document &document, const QString &title,
                                    const QString &placeholder,
-                                   std::function<Tano::FieldPath()> list, QWidget *parent)
+                                   std::function<Tano::FieldPath()> list, bool isOrdered,
+                                   QWidget *parent)
     : QWidget(parent)
     , m_model(new StringListModel(document, title, std::move(list), this))
     , m_view(new QListView(this))
@@ -47,12 +49,11 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
         m_addition->take();
         m_line->setFocus(Qt::OtherFocusReason); // for the next one
     });
-    removeWithDelete(m_view, m_remove);
     connect(m_addition, &AdditionLine::changed, this, &StringListEditor::refresh);
     connect(m_addition, &AdditionLine::added, this,
-            [this] { m_view->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0)); });
-    connect(m_remove, &QPushButton::clicked, this,
-            [this] { m_model->remove(m_view->currentIndex().row()); });
+            [this] { selectAlone(m_view, m_model->index(m_model->rowCount() - 1, 0)); });
+    auto *rows = new RowActions(m_view, document, {[this] { return m_model->list(); }, isOrdered});
+    connect(m_remove, &QPushButton::clicked, rows, &RowActions::remove);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &StringListEditor::refresh);
     refresh();
@@ -76,7 +77,7 @@ void StringListEditor::reload() {
 void StringListEditor::showItem(int row) {
     const QModelIndex index = m_model->index(row, 0);
     if (index.isValid())
-        m_view->setCurrentIndex(index);
+        selectAlone(m_view, index);
     QWidget *shown = index.isValid() ? static_cast<QWidget *>(m_view) : m_line;
     shown->setFocus(Qt::OtherFocusReason);
 }

@@ -17,9 +17,11 @@ class StringListEditor : public QWidget {
     Q_OBJECT
 
 public:
-    /// `list` returns the path of the list; the empty path for none.
+    /// `list` returns the path of the list; the empty path for none. Items of an ordered list can
+    /// be moved.
     StringListEditor(Document &document, const QString &title, const QString &placeholder,
-                     std::function<Tano::FieldPath()> list, QWidget *parent = nullptr);
+                     std::function<Tano::FieldPath()> list, bool isOrdered,
+                     QWidget *parent = nullptr);
 
     /// Texts that the line for additions offers while one types.
     void setSuggestions(const QStringList &suggestions);

@@ -25,7 +25,7 @@ TypingDelegate::TypingDelegate(Document &document, QAbstractItemView *view)
     , m_document(document) {
 }
 
-QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
+QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                       const QModelIndex &index) const {
     const auto *model = qobject_cast<const TableModel *>(index.model());
     const auto choices = model->choices(index);
@@ -40,6 +40,8 @@ QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
         });
         return combo;
     }
+    if (model->field(index).isEmpty())
+        return QStyledItemDelegate::createEditor(parent, option, index);
     auto *edit = new QLineEdit(parent);
     edit->setFrame(false);
     edit->setAccessibleName(model->headerData(index.column(), Qt::Horizontal).toString());
@@ -56,6 +58,8 @@ void TypingDelegate::setEditorData(QWidget *editor, const QModelIndex &index) co
     // A text field shows its text itself.
     if (auto *combo = qobject_cast<QComboBox *>(editor))
         combo->setCurrentIndex(combo->findData(index.data(Qt::EditRole)));
+    else if (!fieldOf(editor))
+        QStyledItemDelegate::setEditorData(editor, index);
 }
 
 void TypingDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -63,6 +67,8 @@ void TypingDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     const auto *combo = qobject_cast<QComboBox *>(editor);
     if (combo && combo->currentIndex() >= 0)
         model->setData(index, combo->currentData());
+    else if (!combo && !fieldOf(editor))
+        QStyledItemDelegate::setModelData(editor, model, index);
 }
 
 // A mark, which may go while one types, takes no room from the editor.

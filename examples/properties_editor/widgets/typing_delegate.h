@@ -9,8 +9,9 @@ namespace Editor {
 class Document;
 
 /// Edits the cells of a TableModel with a TextField or, where a cell has choices, with a list of
-/// them. Escape restores what the cell held when its editor opened. A cell whose text is refused
-/// stays open on Return, and while another window is active.
+/// them. A cell without a field, such as a name that is a key, is set when its editor closes.
+/// Escape restores what the cell held when its editor opened. A cell whose text is refused stays
+/// open on Return, and while another window is active.
 class TypingDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -1,0 +1,96 @@
+#include "properties_model.h"
+
+#include "document/field_edits.h"
+#include "widgets/marks.h"
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::PackageModel::Edit;
+
+PropertiesModel::PropertiesModel(Document &document, QObject *parent)
+    : TableModel(document, parent) {
+    start();
+}
+
+const Zel::ServiceInfoModel *PropertiesModel::service() const {
+    return package()->services().value(m_serviceRow);
+}
+
+void PropertiesModel::setService(int row) {
+    m_serviceRow = row;
+    start();
+}
+
+int PropertiesModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : 2;
+}
+
+FieldPath PropertiesModel::property(const QString &name) const {
+    const FieldPath list = FieldPath().field("services");
+    const FieldPath entry = Zel::PackageModel::itemPath(package(), list, m_serviceRow);
+    return entry.isEmpty() ? entry : FieldPath(entry).field("properties").key(Zel::toUtf8(name));
+}
+
+FieldPath PropertiesModel::fieldOf(const QModelIndex &index) const {
+    return index.column() == Value ? property(key(index)) : FieldPath();
+}
+
+QVariant PropertiesModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service())
+        return {};
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return markData(Mark::ofIssue(document().issueAt(field(index))), role);
+    return index.column() == Name ? key(index) : fieldText(package(), field(index));
+}
+
+bool PropertiesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid) ||
+        index.column() != Name)
+        return TableModel::setData(index, value, role);
+    const QString name = value.toString();
+    if (name == key(index))
+        return true;
+    QString reason;
+    if (name.isEmpty())
+        reason = tr("A property needs a name.");
+    else if (keys().contains(name))
+        reason = tr("The service has “%1” already.").arg(name);
+    if (reason.isEmpty())
+        rename(key(index), name);
+    else
+        Q_EMIT document().editRefused(reason);
+    return reason.isEmpty();
+}
+
+void PropertiesModel::rename(const QString &from, const QString &to) {
+    const QString value = fieldText(package(), property(from));
+    document().edit({{Edit::Action::Remove, property(from)}, setText(property(to), value)},
+                    tr("Rename property “%1”").arg(from));
+}
+
+QString PropertiesModel::add() {
+    const QString name = freeName(QStringLiteral("property"),
+                                  [this](const QString &taken) { return keys().contains(taken); });
+    document().edit({setText(property(name), {})});
+    return name;
+}
+
+void PropertiesModel::remove(int row) {
+    if (row >= 0 && row < rowCount())
+        document().edit({{Edit::Action::Remove, property(keys().at(row))}});
+}
+
+Qt::ItemFlags PropertiesModel::extraFlags(const QModelIndex &) const {
+    return Qt::ItemIsEditable;
+}
+
+QStringList PropertiesModel::currentKeys() const {
+    return service() ? service()->properties().keys() : QStringList();
+}
+
+QStringList PropertiesModel::titles() const {
+    return {tr("Name"), tr("Value")};
+}
+
+} // namespace Editor

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "table_model.h"
+
+namespace Editor {
+
+/// The properties of one service, by name.
+class PropertiesModel : public TableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Name, Value };
+
+    explicit PropertiesModel(Document &document, QObject *parent = nullptr);
+    /// Shows the service at a row of the package's list; none for -1.
+    void setService(int row);
+    bool hasService() const { return service() != nullptr; }
+
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    /// Renames a property too, unless the service has one with that name.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+
+    /// Adds an empty property and returns its name.
+    QString add();
+    void remove(int row);
+
+protected:
+    Tano::FieldPath fieldOf(const QModelIndex &index) const override;
+    QStringList currentKeys() const override;
+    QStringList titles() const override;
+    Qt::ItemFlags extraFlags(const QModelIndex &index) const override;
+
+private:
+    const Zel::ServiceInfoModel *service() const;
+    Tano::FieldPath property(const QString &name) const;
+    void rename(const QString &from, const QString &to);
+
+    int m_serviceRow = -1;
+};
+
+} // namespace Editor

@@ -1,0 +1,293 @@
+#include "document/row_edits.h"
+#include "editor_test.h"
+#include "widgets/row_actions.h"
+
+#include <packagemodel/package_json.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QClipboard>
+#include <QTableView>
+
+#include <optional>
+
+using Zel::PackageModel::FieldValue;
+using Entries = QVector<FieldValue>;
+
+class TestEditorRows : public QObject, EditorTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare(); }
+    void init() { openAgain(); }
+    void cleanup() { closeWindow(); }
+
+    // Lists of three entries.
+    void keyboard_data() {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QString>("duplicates"); // empty if there are none
+        QTest::addColumn<bool>("isOrdered");
+        const auto row = [](const char *list, const char *lines, const char *duplicates,
+                            bool isOrdered = true) {
+            QTest::newRow(list) << list << lines << duplicates << isOrdered;
+        };
+        row("behaviors", "a\nb", "a-2\nb-2");
+        row("behaviors[a].triggerSentences[en_US]", "hello\ngood morning",
+            "hello-2\ngood morning-2");
+        row("behaviors[a].loadingResponses[en_US]", "Soon.\nWait.", "Soon.-2\nWait.-2");
+        row("behaviors[a].tags[en_US]", "one\ntwo", "one-2\ntwo-2");
+        row("behaviors[a].conditions[launch]", "one\ntwo", "one-2\ntwo-2");
+        row("behaviors[a].permissions", "camera\nmotion", "camera-2\nmotion-2", false);
+        row("robotRequirements", "Plover P1\t1.0\t\t\t\nHeron H1\t\t\t\t",
+            "Plover P1\t1.0\t\t\t\nHeron H1\t\t\t\t");
+        row("brioRequirements", "1.0\t\n2.0\t2.5", "1.0\t\n2.0\t2.5");
+        row("dialogs", "tea\nmilk", "tea-2\nmilk-2");
+        row("services", "clock\nradio", "clock-2\nradio-2");
+        row("supportedLanguages", "en_US\nfr_FR", "");
+    }
+    void keyboard() {
+        QFETCH(QString, list);
+        QFETCH(QString, duplicates);
+        QFETCH(bool, isOrdered);
+        const Entries before = entries(list);
+        QCOMPARE(before.size(), 3);
+        const QByteArray bytes = manifest();
+        const auto undo = [&] {
+            QCOMPARE(stack()->count(), 1);
+            stack()->undo();
+            QCOMPARE(manifest(), bytes);
+            stack()->clear();
+        };
+
+        selectTwo(list);
+        press(Qt::Key_C, Qt::ControlModifier);
+        QTEST(clipboard()->text(), "lines");
+        if (!duplicates.isEmpty()) {
+            press(Qt::Key_D, Qt::ControlModifier);
+            QCOMPARE(entries(list).mid(0, 2), before.mid(0, 2));
+            QCOMPARE(entries(list).at(4), before.at(2));
+            QCOMPARE(selectedRows(), (QList<int>{2, 3}));
+            press(Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(clipboard()->text(), duplicates);
+            undo();
+        }
+        selectTwo(list);
+        press(Qt::Key_Down, Qt::AltModifier);
+        if (isOrdered) {
+            QCOMPARE(entries(list), (Entries{before.at(2), before.at(0), before.at(1)}));
+            QCOMPARE(selectedRows(), (QList<int>{1, 2}));
+            press(Qt::Key_Down, Qt::AltModifier);
+            undo();
+            selectLast(list);
+            press(Qt::Key_Up, Qt::AltModifier);
+            QCOMPARE(entries(list), (Entries{before.at(0), before.at(2), before.at(1)}));
+            QCOMPARE(selectedRows(), QList<int>{1});
+            undo();
+        }
+        QCOMPARE(stack()->count(), 0);
+
+        selectTwo(list);
+        press(Qt::Key_Delete);
+        QCOMPARE(entries(list), before.mid(2));
+        undo();
+        selectTwo(list);
+        press(Qt::Key_X, Qt::ControlModifier);
+        if (duplicates.isEmpty())
+            press(Qt::Key_Delete);
+        QCOMPARE(entries(list), before.mid(2));
+        if (duplicates.isEmpty())
+            return;
+
+        // Another window.
+        openAgain();
+        selectTwo(list);
+        press(Qt::Key_Delete);
+        stack()->clear();
+        press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(entries(list), (Entries{before.at(2), before.at(0), before.at(1)}));
+        QCOMPARE(selectedRows(), (QList<int>{1, 2}));
+        QCOMPARE(stack()->count(), 1);
+    }
+
+    void pastesBesideOthers_data() {
+        QTest::addColumn<QString>("text"); // none for two copied behaviors
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("refusal");
+        const auto row = [](const char *name, const char *text, const char *list, const char *keys,
+                            const char *refusal = "") {
+            QTest::newRow(name) << QString::fromUtf8(text) << list << keys
+                                << QString::fromUtf8(refusal);
+        };
+        const char *tags = "behaviors[a].tags[en_US]";
+        row("lines", "four\r\n\ntwo\nfive\nfive", tags, "one two four five three");
+        row("known line", "three\n", tags, "one two three", "The list has “three” already.");
+        row("nothing", "", tags, "one two three", "The clipboard has nothing for this list.");
+        row("bad character", "four\nfive\x01", tags, "one two three", "U+0001");
+        row("languages", "de_DE\nfr_FR", "supportedLanguages", "en_US fr_FR de_DE ja_JP");
+        row("no entries", "four", "services", "clock radio lamp",
+            "The clipboard has nothing for this list.");
+        row("taken paths", nullptr, "behaviors", "a b a-2 b-2 c");
+        row("another kind", nullptr, "dialogs", "tea milk bread",
+            "This list takes entries of another kind.");
+    }
+    void pastesBesideOthers() {
+        QFETCH(QString, text);
+        QFETCH(QString, list);
+        QFETCH(QString, refusal);
+        if (text.isNull()) {
+            selectTwo(QStringLiteral("behaviors"));
+            press(Qt::Key_C, Qt::ControlModifier);
+        } else {
+            clipboard()->setText(text);
+        }
+        selectTwo(list);
+        std::optional<Answer> answer;
+        if (!refusal.isEmpty())
+            answer.emplace(QMessageBox::Ok);
+        press(Qt::Key_V, Qt::ControlModifier);
+        QStringList keys;
+        for (const FieldValue &entry : entries(list))
+            keys += Editor::entryKey(entry);
+        QTEST(keys.join(u' '), "keys");
+        QCOMPARE(stack()->count(), answer ? 0 : 1);
+        if (answer)
+            QVERIFY2(answer->text.contains(refusal), qPrintable(answer->text));
+    }
+
+    void movesBehaviorsThatAreAllShown() {
+        const QString list = QStringLiteral("behaviors");
+        const Entries before = entries(list);
+        selectTwo(list);
+        auto *tree = view<QTreeView>("Behaviors");
+        line("Find a behavior")->setText(QStringLiteral("a"));
+        tree->setFocus();
+        press(Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(entries(list), before);
+        press(Qt::Key_C, Qt::ControlModifier);
+        line("Find a behavior")->setText(QStringLiteral("First"));
+        tree->setFocus();
+        press(Qt::Key_V, Qt::ControlModifier); // its path and name show it
+        QCOMPARE(entries(list).size(), 4);
+        QCOMPARE(selectedRows(), QList<int>{1});
+        line("Find a behavior")->setText(QStringLiteral("irst"));
+        clipboard()->setMimeData(Editor::newRowData(path(list), before.mid(1, 1), {}));
+        tree->setFocus();
+        press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(line("Find a behavior")->text(), QString()); // which hid the new row
+        QCOMPARE(selectedRows(), QList<int>{2});
+    }
+
+    void drag_data() {
+        QTest::addColumn<QString>("list");
+        QTest::addColumn<int>("target");
+        QTest::addColumn<bool>("isBelow"); // the middle of the target
+        QTest::addColumn<QList<int>>("expected");
+        const QString sentences = QStringLiteral("behaviors[a].triggerSentences[en_US]");
+        QTest::newRow("to the end") << sentences << 2 << true << QList<int>{2, 0, 1};
+        QTest::newRow("into themselves") << sentences << 1 << false << QList<int>{0, 1, 2};
+        QTest::newRow("beside") << "services" << 2 << false << QList<int>{0, 1, 2};
+        QTest::newRow("below all") << "behaviors" << -1 << false << QList<int>{2, 0, 1};
+        QTest::newRow("no order") << "behaviors[a].permissions" << 2 << true << QList<int>{0, 1, 2};
+        QTest::newRow("below the supported")
+            << "supportedLanguages" << 3 << true << QList<int>{2, 0, 1};
+    }
+    void drag() {
+        QFETCH(QString, list);
+        QFETCH(int, target);
+        QFETCH(bool, isBelow);
+        QFETCH(QList<int>, expected);
+        const Entries before = entries(list);
+        selectTwo(list);
+        auto *view = qobject_cast<QAbstractItemView *>(QApplication::focusWidget());
+        const QRect rect = view->visualRect(view->model()->index(target, 0));
+        const QPoint point = target < 0 ? view->viewport()->rect().bottomLeft() - QPoint(-9, 4)
+                                        : rect.center() + QPoint(0, isBelow ? 4 : -4);
+        view->findChild<Editor::RowActions *>()->dropAt(point);
+        Entries wanted;
+        for (const int row : expected)
+            wanted += before.at(row);
+        QCOMPARE(entries(list), wanted);
+        QCOMPARE(stack()->count(), wanted == before ? 0 : 1);
+    }
+
+    // Every action is in the context menu, with its key.
+    void contextMenu() {
+        selectTwo(QStringLiteral("services"));
+        QStringList keys;
+        for (const QAction *action : QApplication::focusWidget()->actions())
+            keys += action->isSeparator() ? QStringLiteral("-") : action->shortcut().toString();
+        QCOMPARE(keys.join(u' '),
+                 QStringLiteral("Ctrl+X Ctrl+C Ctrl+V Ctrl+D Del - Alt+Up Alt+Down"));
+        QCOMPARE(QApplication::focusWidget()->contextMenuPolicy(), Qt::ActionsContextMenu);
+    }
+
+    void propertiesOfAService() {
+        const QByteArray before = manifest();
+        m_window->showField(QStringLiteral("services[clock].properties[nice]"));
+        type(QStringLiteral("5"));
+        press(Qt::Key_Return);
+        QTest::mouseClick(button("Add Property"), Qt::LeftButton);
+        type(QStringLiteral("user"));
+        press(Qt::Key_Return);
+        QTRY_COMPARE(properties(), QStringLiteral("nice=5 restart=always user="));
+        QAbstractItemModel *model = view<QTableView>("Properties")->model();
+        const Answer answer(QMessageBox::Ok);
+        QVERIFY(!model->setData(model->index(2, 0), QStringLiteral("nice")));
+        QVERIFY(answer.text.contains(QStringLiteral("“nice”")));
+        m_window->showField(QStringLiteral("services[clock].properties[nice]"));
+        press(Qt::Key_Delete);
+        QCOMPARE(properties(), QStringLiteral("restart=always user="));
+        while (stack()->canUndo())
+            stack()->undo();
+        QCOMPARE(manifest(), before);
+        m_window->showField(QStringLiteral("services[radio]"));
+        QCOMPARE(view<QTableView>("Properties")->model()->rowCount(), 0);
+        QVERIFY(m_window->openFile(QStringLiteral(ZEL_TEST_DATA "/editor/rows/manifest.xml")));
+        QVERIFY(!button("Add Property")->isEnabled());
+    }
+
+private:
+    QString properties() {
+        QStringList texts;
+        const auto all = m_window->document().package()->service(QStringLiteral("clock"));
+        const auto map = all->properties();
+        for (auto it = map.begin(); it != map.end(); ++it)
+            texts += it.key() + u'=' + it.value();
+        return texts.join(u' ');
+    }
+    void openAgain() {
+        m_window.reset();
+        showWindow();
+        QVERIFY(m_window->openFile(QStringLiteral(ZEL_TEST_DATA "/editor/rows/manifest.xml")));
+    }
+    static Tano::FieldPath path(const QString &text) {
+        return *Tano::FieldPath::parse(Zel::toUtf8(text));
+    }
+    Entries entries(const QString &list) {
+        return Zel::PackageModel::entries(m_window->document().package(), path(list));
+    }
+    void showItem(const QString &list, int row) {
+        const auto item =
+            Zel::PackageModel::itemPath(m_window->document().package(), path(list), row);
+        m_window->showField(QString::fromStdString(item.toString()));
+    }
+    void selectTwo(const QString &list) {
+        showItem(list, 0);
+        press(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(selectedRows(), (QList<int>{0, 1}));
+    }
+    void selectLast(const QString &list) { showItem(list, int(entries(list).size()) - 1); }
+    static QList<int> selectedRows() {
+        const auto *view = qobject_cast<QAbstractItemView *>(QApplication::focusWidget());
+        QMap<int, int> rows;
+        for (const QModelIndex &index : view->selectionModel()->selectedIndexes())
+            rows.insert(index.row(), 0);
+        return rows.keys();
+    }
+    static QClipboard *clipboard() { return QGuiApplication::clipboard(); }
+};
+
+QTEST_MAIN(TestEditorRows)
+#include "tst_editor_rows.moc"
