@@ -78,7 +78,7 @@ private:
     const bool m_force;
     QHash<QString, QString> m_codes; // by language tag
     std::vector<std::optional<TextPlace>> m_places;
-    std::vector<QString> m_fields; // the paths of the units
+    std::vector<QString> m_fields;       // the paths of the units
     QHash<QString, int> m_last;          // the last unit with a target, by field
     QHash<QString, QStringList> m_texts; // by field, with the edits
     QSet<QString> m_described;
