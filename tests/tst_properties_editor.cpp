@@ -242,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(fileName), QByteArray("another program's"));
     }
 
-    void tellsWhyAFileCannotBeRead() {
+    void saysWhyAFileCannotBeRead() {
         QVERIFY(m_window->openFile(copyOf("small")));
         const QString name = field("&UID:")->text();
         const QString broken = m_directory.filePath(QStringLiteral("broken.xml"));

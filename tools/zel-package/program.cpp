@@ -114,11 +114,12 @@ void reportUnknownOption(const QString &option, const QList<QCommandLineOption> 
     for (const QCommandLineOption &each : options)
         known += QStringLiteral("--") % each.names().constLast();
     const bool isShortened = !option.startsWith(QLatin1String("--")) && option.size() > 2;
-    console.tell(QCoreApplication::translate("zel-package", "There is no option '%1'%2")
-                     .arg(option, suggestion(isShortened ? u'-' % option : option, known,
-                                             QCoreApplication::translate(
-                                                 "zel-package", "; '%1 --help' lists the options.")
-                                                 .arg(helpOf))));
+    console.printMessage(
+        QCoreApplication::translate("zel-package", "There is no option '%1'%2")
+            .arg(option, suggestion(isShortened ? u'-' % option : option, known,
+                                    QCoreApplication::translate("zel-package",
+                                                                "; '%1 --help' lists the options.")
+                                        .arg(helpOf))));
 }
 
 // Parses arguments into options and others; `program` is named in messages.
@@ -131,7 +132,7 @@ bool parse(const QStringList &arguments, const QList<QCommandLineOption> &option
     }
     const bool isParsed = parser.parse(QStringList{program} + arguments);
     if (!isParsed)
-        console.tell(parser.errorText());
+        console.printMessage(parser.errorText());
     return isParsed;
 }
 
@@ -143,15 +144,15 @@ bool parse(const QStringList &arguments, const QList<QCommandLineOption> &option
 bool checkCount(const QStringList &arguments, const ProgramCommand &command, Console &console) {
     if (arguments.size() < command.minArguments) {
         const QString usage = translated(command.usage);
-        console.tell(
+        console.printMessage(
             QCoreApplication::translate("zel-package", "Missing argument %1; usage: %2")
                 .arg(usage.section(u' ', int(arguments.size()), int(arguments.size())).remove(u'.'),
                      usageOf(command)));
         return false;
     }
     if (arguments.size() > command.maxArguments) {
-        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
-                         .arg(arguments.at(command.maxArguments)));
+        console.printMessage(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                                 .arg(arguments.at(command.maxArguments)));
         return false;
     }
     return true;
@@ -205,8 +206,8 @@ ExitStatus runOption(const CommandGroup &group, const QStringList &arguments, Co
         return Failure;
     const QStringList others = parser.positionalArguments();
     if (!others.isEmpty()) {
-        console.tell(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
-                         .arg(others.constFirst()));
+        console.printMessage(QCoreApplication::translate("zel-package", "Unexpected argument '%1'.")
+                                 .arg(others.constFirst()));
         return Failure;
     }
     if (parser.isSet(help))
@@ -220,16 +221,16 @@ void reportUnknownCommand(const CommandGroup &group, const QString &name, Consol
     const QString hint =
         QCoreApplication::translate("zel-package", "; '%1 --help' lists the commands.")
             .arg(group.program());
-    console.tell(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
-                     .arg(group.start() % name,
-                          suggestion(name, commandWords(QLatin1String(group.name)), hint)));
+    console.printMessage(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
+                             .arg(group.start() % name,
+                                  suggestion(name, commandWords(QLatin1String(group.name)), hint)));
 }
 
 ExitStatus runGroup(const CommandGroup &group, const QStringList &arguments, Console &console) {
     if (arguments.isEmpty()) {
-        console.tell(QCoreApplication::translate("zel-package",
-                                                 "Missing command; '%1 --help' lists the commands.")
-                         .arg(group.program()));
+        console.printMessage(QCoreApplication::translate(
+                                 "zel-package", "Missing command; '%1 --help' lists the commands.")
+                                 .arg(group.program()));
         return Failure;
     }
     const QString &first = arguments.constFirst();

@@ -47,7 +47,7 @@ void MessageBar::refreshColor() {
     setPalette(palette);
 }
 
-void MessageBar::tell(const QString &text, const QString &action, const QString &dismissal) {
+void MessageBar::showMessage(const QString &text, const QString &action, const QString &dismissal) {
     m_text->setText(text);
     m_action->setText(action);
     m_action->setHidden(action.isEmpty());

@@ -16,7 +16,7 @@ public:
     explicit MessageBar(QWidget *parent = nullptr);
 
     /// Shows `text`; without the text of an action there is only the button that dismisses it.
-    void tell(const QString &text, const QString &action, const QString &dismissal);
+    void showMessage(const QString &text, const QString &action, const QString &dismissal);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -72,7 +72,7 @@ FileActions::FileActions(MainWindow &window, MessageBar &messageBar)
         m_messageBar.hide();
     });
     m_reload->setEnabled(false);
-    connect(&m_document, &Document::fileDiffers, this, &FileActions::tellDiskState);
+    connect(&m_document, &Document::fileDiffers, this, &FileActions::showDiskState);
     connect(&m_messageBar, &MessageBar::accepted, this, [this] {
         if (m_document.checkDisk() == Document::DiskState::Vanished)
             save();
@@ -130,7 +130,7 @@ bool FileActions::settle() {
     }
 }
 
-void FileActions::tellFailure(const QString &title, const QString &fileName) {
+void FileActions::showFailure(const QString &title, const QString &fileName) {
     PlainMessageBox box(QMessageBox::Critical, title, m_document.errorString(), QMessageBox::Ok,
                         &m_window);
     box.setInformativeText(QDir::toNativeSeparators(fileName));
@@ -141,7 +141,7 @@ bool FileActions::open(const QString &fileName) {
     if (!settle())
         return false;
     if (!m_document.open(fileName)) {
-        tellFailure(tr("Open"), fileName);
+        showFailure(tr("Open"), fileName);
         return false;
     }
     rememberFile(m_document.fileName());
@@ -160,7 +160,7 @@ void FileActions::newFrom(const QString &resource) {
     if (!settle() || !file.open(QIODevice::ReadOnly))
         return;
     if (!m_document.openTemplate(file.readAll()))
-        tellFailure(tr("New"), resource);
+        showFailure(tr("New"), resource);
 }
 
 bool FileActions::save() {
@@ -211,18 +211,18 @@ void FileActions::reload() {
         Editor::reload(m_document, &m_window);
 }
 
-void FileActions::tellDiskState(Document::DiskState state) {
+void FileActions::showDiskState(Document::DiskState state) {
     switch (state) {
     case Document::DiskState::Same:
         m_messageBar.hide();
         break;
     case Document::DiskState::Changed:
-        m_messageBar.tell(tr("Another program has changed the file."), tr("Reload"),
-                          tr("Keep What Is Here"));
+        m_messageBar.showMessage(tr("Another program has changed the file."), tr("Reload"),
+                                 tr("Keep What Is Here"));
         break;
     case Document::DiskState::Vanished:
-        m_messageBar.tell(tr("The file is not there any more."), tr("Save It Again"),
-                          tr("Dismiss"));
+        m_messageBar.showMessage(tr("The file is not there any more."), tr("Save It Again"),
+                                 tr("Dismiss"));
         break;
     }
 }

@@ -34,12 +34,12 @@ public:
 
 private:
     void reload();
-    void tellDiskState(Document::DiskState state);
+    void showDiskState(Document::DiskState state);
     bool saveTo(const QString &fileName);
     bool mayOverwrite();
     /// Explains why a file could not be written, and offers another one.
     bool saveElsewhere(const QString &fileName);
-    void tellFailure(const QString &title, const QString &fileName);
+    void showFailure(const QString &title, const QString &fileName);
     void fillRecentMenu();
     QString directory() const;
 

@@ -51,16 +51,18 @@ RecoveryDialogs::RecoveryDialogs(Document &document, Recovery &recovery, Message
     connect(&recovery, &Recovery::noticed, this, &RecoveryDialogs::handleNotice,
             Qt::QueuedConnection);
     connect(&recovery, &Recovery::failed, this, [this](const QString &reason) {
-        m_messageBar.tell(tr("Unsaved edits are not kept: %1").arg(reason), {}, tr("Dismiss"));
+        m_messageBar.showMessage(tr("Unsaved edits are not kept: %1").arg(reason), {},
+                                 tr("Dismiss"));
     });
 }
 
 void RecoveryDialogs::handleNotice() {
     if (const auto owner = m_recovery.otherOwner())
-        m_messageBar.tell(tr("Another window (process %1 on %2) has this file open. Whoever saves "
-                             "last may overwrite the edits of the other.")
-                              .arg(QString::number(owner->process), owner->host),
-                          {}, tr("Dismiss"));
+        m_messageBar.showMessage(
+            tr("Another window (process %1 on %2) has this file open. Whoever saves "
+               "last may overwrite the edits of the other.")
+                .arg(QString::number(owner->process), owner->host),
+            {}, tr("Dismiss"));
     else if (std::exchange(m_isAccepted, false))
         restore();
     else if (m_recovery.leftover())

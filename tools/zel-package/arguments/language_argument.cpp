@@ -66,7 +66,7 @@ std::optional<Zel::RobotLanguage> languageArgument(const QString &code, Console 
     QString message;
     auto language = languageArgument(code, message);
     if (!message.isEmpty())
-        console.tell(message);
+        console.printMessage(message);
     return language;
 }
 

@@ -11,15 +11,16 @@ bool checkWord(const QString &word, const QStringList &known, const QString &ref
                const QString &hint, Console &console) {
     if (known.contains(word))
         return true;
-    console.tell(refusal.arg(word, suggestion(word, known, hint)));
+    console.printMessage(refusal.arg(word, suggestion(word, known, hint)));
     return false;
 }
 
 bool checkText(const QString &argument, Console &console) {
     if (!hasForeignBytes(argument))
         return true;
-    console.tell(QCoreApplication::translate("zel-package", "The argument '%1' is not valid UTF-8.")
-                     .arg(argument));
+    console.printMessage(
+        QCoreApplication::translate("zel-package", "The argument '%1' is not valid UTF-8.")
+            .arg(argument));
     return false;
 }
 

@@ -58,7 +58,8 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (!format)
         return Failure;
     if (isStandardStream(files.at(0)) && isStandardStream(files.at(1))) {
-        console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "'-' can be given only once."));
         return Failure;
     }
     const auto from = readManifest(files.at(0), console);

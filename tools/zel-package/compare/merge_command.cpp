@@ -81,7 +81,7 @@ std::optional<Manifest> readSide(const Side &side, Console &console) {
         if (auto manifest = manifestOf(*content, trouble))
             return manifest;
     }
-    console.tell(side.name, trouble.position, trouble.text);
+    console.printMessage(side.name, trouble.position, trouble.text);
     return {};
 }
 
@@ -99,8 +99,8 @@ QString inWords(const MergeConflict &conflict) {
 
 void report(const QString &file, const QVector<MergeConflict> &conflicts, Console &console) {
     for (const MergeConflict &conflict : conflicts)
-        console.tell(file, Zel::fromUtf8(conflict.path.toString()) % QStringLiteral(": ") %
-                               inWords(conflict));
+        console.printMessage(file, Zel::fromUtf8(conflict.path.toString()) % QStringLiteral(": ") %
+                                       inWords(conflict));
 }
 
 // Writes the result to OURS unless another program has changed it since.
@@ -111,7 +111,7 @@ bool saveOurs(const QString &file, const Manifest &ours, const std::string &cont
     const Tano::SaveResult result = Tano::saveFile(
         {nativeBytes(file), content, Tano::FileFingerprint::ofContent(ours.content)});
     if (!result)
-        console.tell(translatedSentence(result.error));
+        console.printMessage(translatedSentence(result.error));
     return bool(result);
 }
 
@@ -124,9 +124,10 @@ ExitStatus merge(const Request &request, Console &console) {
     const auto merged = Zel::PackageModel::merge(base->package, ours->package, theirs->package);
     const std::string content = merged.record.saveToManifestContent();
     if (!merged.error.isEmpty() || content.empty()) {
-        console.tell(request.ours.name, merged.error.isEmpty()
-                                            ? translatedSentence(merged.record.errorString())
-                                            : merged.error);
+        console.printMessage(request.ours.name,
+                             merged.error.isEmpty()
+                                 ? translatedSentence(merged.record.errorString())
+                                 : merged.error);
         return Failure;
     }
     const bool isOurs = request.output == request.ours.file && !isStandardStream(request.output);
@@ -141,7 +142,8 @@ ExitStatus merge(const Request &request, Console &console) {
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QStringList files = arguments.positionalArguments();
     if (std::count_if(files.begin(), files.end(), isStandardStream) > 1) {
-        console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "'-' can be given only once."));
         return Failure;
     }
     return merge(requestOf(arguments), console);

@@ -95,23 +95,25 @@ void Console::write(const std::string &bytes) {
     }
 }
 
-void Console::tell(const QString &message) {
+void Console::printMessage(const QString &message) {
     // What was printed before stands before it, should both go to the same place.
     removeProgress();
     flush();
     m_messages.write((QStringLiteral("zel-package: ") % printable(message) % u'\n').toUtf8());
 }
 
-void Console::tell(const QString &file, const QString &message) {
-    tell(file % QStringLiteral(": ") % message);
+void Console::printMessage(const QString &file, const QString &message) {
+    printMessage(file % QStringLiteral(": ") % message);
 }
 
-void Console::tell(const QString &file, Tano::SourcePosition position, const QString &message) {
+void Console::printMessage(const QString &file, Tano::SourcePosition position,
+                           const QString &message) {
     if (position.line == 0)
-        tell(file, message);
+        printMessage(file, message);
     else
-        tell(file % u':' % QString::number(position.line) % u':' % QString::number(position.column),
-             message);
+        printMessage(file % u':' % QString::number(position.line) % u':' %
+                         QString::number(position.column),
+                     message);
 }
 
 void Console::showProgress(const QString &text) {
@@ -139,8 +141,9 @@ bool Console::finish() {
     flush();
     if (m_writeError.isEmpty())
         return true;
-    tell(QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
-             .arg(m_writeError));
+    printMessage(
+        QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
+            .arg(m_writeError));
     return false;
 }
 

@@ -43,9 +43,9 @@ public:
     // To standard error, as "zel-package: FILE:LINE:COLUMN: message". Control characters are
     // escaped.
 
-    void tell(const QString &message);
-    void tell(const QString &file, const QString &message);
-    void tell(const QString &file, Tano::SourcePosition position, const QString &message);
+    void printMessage(const QString &message);
+    void printMessage(const QString &file, const QString &message);
+    void printMessage(const QString &file, Tano::SourcePosition position, const QString &message);
 
     /// Shows how far the work has got, in a line on the terminal that gives way to whatever is
     /// written next; an empty text removes it. Does nothing where standard error is no terminal.

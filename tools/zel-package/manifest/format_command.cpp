@@ -55,7 +55,7 @@ Formatted rewrite(const QString &file, const Manifest &manifest, Console &consol
         console.printBytes(canonical);
     } else if (manifest.content != canonical &&
                !saveIfUnchanged(file, manifest, manifest.package)) {
-        console.tell(translatedSentence(manifest.package.errorString()));
+        console.printMessage(translatedSentence(manifest.package.errorString()));
         return {Formatted::Unreadable};
     }
     return {};
@@ -91,7 +91,7 @@ ExitStatus formatAll(const QStringList &files, bool isCheck, JsonListForm *form,
         else if (formatted.state == Formatted::Different)
             console.print(console.shown(file) % u'\n');
         if (!formatted.trouble.text.isEmpty())
-            console.tell(file, formatted.trouble.position, formatted.trouble.text);
+            console.printMessage(file, formatted.trouble.position, formatted.trouble.text);
     }
     return status;
 }
@@ -105,7 +105,8 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (outputFormat == OutputFormat::Text)
         return formatAll(files, isCheck, nullptr, console);
     if (!isCheck) {
-        console.tell(QCoreApplication::translate("zel-package", "--format json needs --check."));
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "--format json needs --check."));
         return Failure;
     }
     JsonListForm form(QLatin1String("files"), console);

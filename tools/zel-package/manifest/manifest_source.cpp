@@ -102,7 +102,7 @@ std::optional<Manifest> readManifest(const QString &file, Console &console) {
     ManifestTrouble trouble;
     auto manifest = readManifest(file, trouble);
     if (!manifest)
-        console.tell(file, trouble.position, trouble.text);
+        console.printMessage(file, trouble.position, trouble.text);
     return manifest;
 }
 

@@ -52,7 +52,7 @@ std::optional<Zel::RobotLanguages> languagesOf(const QStringList &codes, Console
 bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Console &console) {
     const QByteArray content = package.saveToManifestContent();
     if (content.isEmpty()) {
-        console.tell(file, translatedSentence(package.packageInfo().errorString()));
+        console.printMessage(file, translatedSentence(package.packageInfo().errorString()));
         return false;
     }
     if (isStandardStream(file)) {
@@ -61,7 +61,7 @@ bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Co
     }
     const QString trouble = createFile(file, content.toStdString());
     if (!trouble.isEmpty())
-        console.tell(file, trouble);
+        console.printMessage(file, trouble);
     return trouble.isEmpty();
 }
 
@@ -69,10 +69,11 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     QStringList errors;
     if (Zel::PackageModel::validatePackageUID(&package, errors))
         return true;
-    console.tell(QCoreApplication::translate(
-                     "zel-package",
-                     "'%1' is not a valid UID; 'zel-package explain uid-invalid' describes one.")
-                     .arg(package.uid()));
+    console.printMessage(
+        QCoreApplication::translate(
+            "zel-package",
+            "'%1' is not a valid UID; 'zel-package explain uid-invalid' describes one.")
+            .arg(package.uid()));
     return false;
 }
 
@@ -84,7 +85,7 @@ void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Co
         if (issue.id.contains(QLatin1String("-missing")))
             fields += issue.path;
     }
-    console.tell(
+    console.printMessage(
         QCoreApplication::translate("zel-package", "Created %1, version %2. Still needed: %3.")
             .arg(file, Zel::SoftwareVersionUtils::toString(package.version()),
                  fields.join(QStringLiteral(", "))));
@@ -94,7 +95,8 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QString file = arguments.positionalArguments().constFirst();
     const QString uid = arguments.value(uidOption);
     if (uid.isEmpty()) {
-        console.tell(QCoreApplication::translate("zel-package", "Missing option --uid UID."));
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "Missing option --uid UID."));
         return Failure;
     }
     const auto languages = languagesOf(arguments.values(languageOption), console);

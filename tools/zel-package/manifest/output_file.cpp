@@ -101,8 +101,8 @@ QCommandLineOption outputOption() {
 bool checkIsOther(const QString &file, const QString &output, Console &console) {
     if (!isSameFile(file, output))
         return true;
-    console.tell(output, QCoreApplication::translate("zel-package",
-                                                     "The output cannot be the manifest itself."));
+    console.printMessage(output, QCoreApplication::translate(
+                                     "zel-package", "The output cannot be the manifest itself."));
     return false;
 }
 
@@ -114,12 +114,12 @@ bool writeOutput(const QString &output, const std::string &content, Console &con
     if (isSpecialFile(output)) {
         const QString trouble = writeToSpecialFile(output, content);
         if (!trouble.isEmpty())
-            console.tell(output, trouble);
+            console.printMessage(output, trouble);
         return trouble.isEmpty();
     }
     const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
     if (!result)
-        console.tell(translatedSentence(result.error));
+        console.printMessage(translatedSentence(result.error));
     return bool(result);
 }
 

@@ -26,7 +26,7 @@ bool writeManifest(const Tano::PackageInfo &package, const QString &file, const 
     const std::string content = package.saveToManifestContent();
     if (!content.empty())
         return writeOutput(output, content, console);
-    console.tell(file, translatedSentence(package.errorString()));
+    console.printMessage(file, translatedSentence(package.errorString()));
     return false;
 }
 
@@ -58,13 +58,13 @@ MalformedScript malformedScript(const Zel::PackageModel::ScriptError &error,
 }
 
 void report(const QString &file, const MalformedScript &script, Console &console) {
-    console.tell(file, script.position,
-                 QCoreApplication::translate("zel-package",
-                                             "%1: Malformed speech script (line %2, column %3): %4")
-                     .arg(script.field)
-                     .arg(script.positionInScript.line)
-                     .arg(script.positionInScript.column)
-                     .arg(script.text));
+    console.printMessage(file, script.position,
+                         QCoreApplication::translate(
+                             "zel-package", "%1: Malformed speech script (line %2, column %3): %4")
+                             .arg(script.field)
+                             .arg(script.positionInScript.line)
+                             .arg(script.positionInScript.column)
+                             .arg(script.text));
 }
 
 QJsonObject toJson(const QString &file, const MalformedScript &script) {
@@ -110,7 +110,7 @@ bool checkOutput(const QString &file, const QString &output, OutputFormat format
     if (!checkIsOther(file, output, console))
         return false;
     if (format == OutputFormat::Json && isStandardOutput(output)) {
-        console.tell(QCoreApplication::translate(
+        console.printMessage(QCoreApplication::translate(
             "zel-package", "--format json prints to standard output and needs an --output."));
         return false;
     }
@@ -127,8 +127,9 @@ ExitStatus publish(const QString &file, const Manifest &manifest, const QString 
         return Findings;
     }
     if (holdsScriptVariants(manifest.package))
-        console.tell(file, QCoreApplication::translate(
-                               "zel-package", "This manifest has been published before; the "
+        console.printMessage(
+            file, QCoreApplication::translate("zel-package",
+                                              "This manifest has been published before; the "
                                               "scripts beside its texts are dropped."));
     package.genPlainTextFromScript();
     package.syncRecord();

@@ -64,10 +64,10 @@ bool readArguments(const QStringList &arguments, Request &request, Console &cons
         if (assignment)
             request.assignments.push_back(*assignment);
         else
-            console.tell(QCoreApplication::translate("zel-package",
-                                                     "'%1' is not of the form FIELD=VALUE, as in "
-                                                     "author=Ines or names[en_US]=Tea.")
-                             .arg(argument));
+            console.printMessage(QCoreApplication::translate(
+                                     "zel-package", "'%1' is not of the form FIELD=VALUE, as in "
+                                                    "author=Ines or names[en_US]=Tea.")
+                                     .arg(argument));
         isFine = isFine && assignment;
     }
     return isFine;
@@ -82,7 +82,7 @@ bool readEdits(const QString &file, Request &request, Console &console) {
         trouble = parsed.error;
     }
     if (!trouble.isEmpty())
-        console.tell(file, trouble);
+        console.printMessage(file, trouble);
     return trouble.isEmpty();
 }
 
@@ -100,7 +100,7 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
     else if (streams > 1)
         trouble = QCoreApplication::translate("zel-package", "'-' can be given only once.");
     if (!trouble.isEmpty())
-        console.tell(trouble);
+        console.printMessage(trouble);
     return trouble.isEmpty();
 }
 
@@ -159,7 +159,7 @@ bool FileEdit::apply(const Assignment &assignment) {
     const AssignedEdit assigned = assignedEdit(assignment, *m_editor.package());
     for (const QString &message : {assigned.error, assigned.remark}) {
         if (!message.isEmpty())
-            m_console.tell(m_file, assignment.field % QStringLiteral(": ") % message);
+            m_console.printMessage(m_file, assignment.field % QStringLiteral(": ") % message);
     }
     if (!assigned.error.isEmpty())
         return false;
@@ -170,7 +170,7 @@ bool FileEdit::apply(const Edits &edits) {
     for (const Edit &edit : edits) {
         const auto applied = m_editor.apply({edit});
         if (!applied.error.isEmpty()) {
-            m_console.tell(m_file, applied.error);
+            m_console.printMessage(m_file, applied.error);
             return false;
         }
         reportLostTopics(edit, applied.inverse);
@@ -189,7 +189,8 @@ void FileEdit::reportLostTopics(const Edit &edit, const Edits &inverse) {
             topics += Zel::fromUtf8(restored.path.toString());
     }
     if (!topics.isEmpty())
-        m_console.tell(m_file, Zel::fromUtf8(edit.path.toString()) % QStringLiteral(": ") %
+        m_console.printMessage(m_file,
+                               Zel::fromUtf8(edit.path.toString()) % QStringLiteral(": ") %
                                    QCoreApplication::translate("zel-package", "Also removes %1.")
                                        .arg(topics.join(QStringLiteral(", "))));
 }
@@ -201,7 +202,8 @@ void FileEdit::reportNewFindings() {
     const auto known = findingsOn(Zel::PackageInfoModel(m_written));
     for (const Finding &finding : found) {
         if (!known.contains(finding))
-            m_console.tell(m_file, finding.first.isEmpty()
+            m_console.printMessage(m_file,
+                                   finding.first.isEmpty()
                                        ? finding.second
                                        : finding.first % QStringLiteral(": ") % finding.second);
     }
@@ -216,7 +218,7 @@ std::optional<std::string> editedContent(const QString &file, const Manifest &ma
     const Tano::PackageInfo record = edit.record();
     std::string content = record.saveToManifestContent();
     if (content.empty()) {
-        console.tell(file, translatedSentence(record.errorString()));
+        console.printMessage(file, translatedSentence(record.errorString()));
         return {};
     }
     edit.reportNewFindings();
@@ -248,7 +250,7 @@ ExitStatus editFiles(const Request &request, bool isDryRun, Console &console) {
     if (!isFine)
         return Failure;
     if (const Tano::SaveResult result = Tano::saveFiles(saved); !result) {
-        console.tell(translatedSentence(result.error));
+        console.printMessage(translatedSentence(result.error));
         return Failure;
     }
     console.print(printed);

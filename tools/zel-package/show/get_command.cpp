@@ -57,13 +57,13 @@ ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
         if (isGroup || (form && form->isList))
             return Fine;
         if (form) {
-            console.tell(file, argument % QStringLiteral(": ") %
-                                   QCoreApplication::translate("zel-package",
-                                                               "The package has no such entry."));
+            console.printMessage(file, argument % QStringLiteral(": ") %
+                                           QCoreApplication::translate(
+                                               "zel-package", "The package has no such entry."));
             return Findings;
         }
     }
-    console.tell(file, argument % QStringLiteral(": ") % reason);
+    console.printMessage(file, argument % QStringLiteral(": ") % reason);
     return Failure;
 }
 

@@ -28,7 +28,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (!format)
         return Failure;
     if (format == OutputFormat::Json && arguments.isSet(languageOption)) {
-        console.tell(QCoreApplication::translate(
+        console.printMessage(QCoreApplication::translate(
             "zel-package", "--format json shows all languages and takes no --language."));
         return Failure;
     }

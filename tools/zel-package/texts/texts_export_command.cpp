@@ -53,7 +53,7 @@ bool exportTexts(const QString &file, const Zel::PackageInfoModel &package,
                                         arguments.isSet(missingOption), withVisibleBytes(file)},
                                        &error);
     if (!error.isEmpty()) {
-        console.tell(file, error);
+        console.printMessage(file, error);
         return false;
     }
     return writeOutput(arguments.value(outputOptionName), xliff.toStdString(), console);
@@ -61,7 +61,8 @@ bool exportTexts(const QString &file, const Zel::PackageInfoModel &package,
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (!arguments.isSet(languageOption)) {
-        console.tell(QCoreApplication::translate("zel-package", "Missing option --language CODE."));
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "Missing option --language CODE."));
         return Failure;
     }
     const QString file = arguments.positionalArguments().constFirst();

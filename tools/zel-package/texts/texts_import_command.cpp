@@ -43,12 +43,13 @@ bool readUnits(const QString &file, Units &all, Console &console) {
     QString trouble;
     const auto content = readContent(file, trouble);
     if (!content) {
-        console.tell(file, trouble);
+        console.printMessage(file, trouble);
         return false;
     }
     const auto parsed = Zel::PackageModel::parseXliff(QByteArray::fromStdString(*content));
     if (!parsed.error.isEmpty()) {
-        console.tell(file, {std::size_t(parsed.line), std::size_t(parsed.column)}, parsed.error);
+        console.printMessage(file, {std::size_t(parsed.line), std::size_t(parsed.column)},
+                             parsed.error);
         return false;
     }
     all.units += parsed.units;
@@ -60,7 +61,7 @@ bool readUnits(const QString &file, Units &all, Console &console) {
 bool checkStreams(const QStringList &files, Console &console) {
     if (std::count_if(files.begin(), files.end(), isStandardStream) <= 1)
         return true;
-    console.tell(QCoreApplication::translate("zel-package", "'-' can be given only once."));
+    console.printMessage(QCoreApplication::translate("zel-package", "'-' can be given only once."));
     return false;
 }
 
@@ -79,18 +80,19 @@ bool report(const QString &manifest, const TextImport &import, const Units &give
             continue;
         isFine = false;
         const TextUnit &unit = given.units.at(i);
-        console.tell(given.files.at(i), {std::size_t(unit.line), std::size_t(unit.column)},
-                     Zel::fromUtf8(unit.path.toString()) % QStringLiteral(": ") % reason);
+        console.printMessage(given.files.at(i), {std::size_t(unit.line), std::size_t(unit.column)},
+                             Zel::fromUtf8(unit.path.toString()) % QStringLiteral(": ") % reason);
     }
     const int imported = import.error.isEmpty() ? countOf(import, TextOutcome::Imported) : 0;
-    console.tell(manifest, QCoreApplication::translate(
-                               "zel-package", "Texts: %1 imported, %2 unchanged, %3 untranslated, "
+    console.printMessage(
+        manifest, QCoreApplication::translate("zel-package",
+                                              "Texts: %1 imported, %2 unchanged, %3 untranslated, "
                                               "%4 skipped.")
-                               .arg(imported)
-                               .arg(countOf(import, TextOutcome::Unchanged))
-                               .arg(countOf(import, TextOutcome::Untranslated))
-                               .arg(import.units.size() - countOf(import, TextOutcome::Unchanged) -
-                                    countOf(import, TextOutcome::Untranslated) - imported));
+                      .arg(imported)
+                      .arg(countOf(import, TextOutcome::Unchanged))
+                      .arg(countOf(import, TextOutcome::Untranslated))
+                      .arg(import.units.size() - countOf(import, TextOutcome::Unchanged) -
+                           countOf(import, TextOutcome::Untranslated) - imported));
     return isFine;
 }
 
@@ -105,7 +107,7 @@ bool save(const QString &file, const Manifest &manifest, const std::string &cont
     const Tano::SaveResult result = Tano::saveFile(
         {nativeBytes(file), content, Tano::FileFingerprint::ofContent(manifest.content)});
     if (!result)
-        console.tell(translatedSentence(result.error));
+        console.printMessage(translatedSentence(result.error));
     return bool(result);
 }
 
@@ -117,14 +119,14 @@ ExitStatus importUnits(const QString &file, const Manifest &manifest, const Unit
     const ExitStatus status = report(file, import, given, console) ? Fine : Findings;
     if (!import.error.isEmpty()) {
         if (status == Fine)
-            console.tell(file, import.error);
+            console.printMessage(file, import.error);
         return Findings;
     }
     const Tano::PackageInfo record = editor.record();
     const std::string content =
         import.edits.isEmpty() ? manifest.content : record.saveToManifestContent();
     if (content.empty()) {
-        console.tell(file, translatedSentence(record.errorString()));
+        console.printMessage(file, translatedSentence(record.errorString()));
         return Failure;
     }
     if (arguments.isSet(dryRunOption)) {

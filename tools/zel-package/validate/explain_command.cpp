@@ -44,7 +44,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QStringList known = idsOf(rules);
     const auto index = known.indexOf(ids.constFirst());
     if (index < 0) {
-        console.tell(unknownRule(ids.constFirst(), known));
+        console.printMessage(unknownRule(ids.constFirst(), known));
         return Failure;
     }
     isJson ? printJson({rules.at(index)}, console)

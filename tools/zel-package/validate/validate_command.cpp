@@ -60,7 +60,7 @@ ExitStatus validate(const ValidateRequest &request, Console &results, Console &o
     writer->finish(report);
     const QString summary = summaryOf(report, request.showsDiff);
     if (!request.isQuiet && !summary.isEmpty())
-        results.tell(summary);
+        results.printMessage(summary);
     return report.status;
 }
 

@@ -78,7 +78,7 @@ std::optional<QSet<QString>> ignoredRules(const QStringList &values, Console &co
     const QStringList ids = values.join(u',').split(u',');
     for (const QString &id : ids) {
         if (!known.contains(id)) {
-            console.tell(
+            console.printMessage(
                 id == malformedRuleId
                     ? QCoreApplication::translate("zel-package", "'%1' cannot be ignored.").arg(id)
                     : unknownRule(id, known));
@@ -175,9 +175,9 @@ std::optional<ValidateRequest> validateRequest(const QCommandLineParser &argumen
         return {};
     const QStringList files = arguments.positionalArguments();
     if (arguments.isSet(stdinNameOption) && !hasStream(files)) {
-        console.tell(QCoreApplication::translate("zel-package",
-                                                 "'--%1' needs '-', standard input, as a FILE.")
-                         .arg(stdinNameOption));
+        console.printMessage(QCoreApplication::translate(
+                                 "zel-package", "'--%1' needs '-', standard input, as a FILE.")
+                                 .arg(stdinNameOption));
         return {};
     }
     return ValidateRequest{files,

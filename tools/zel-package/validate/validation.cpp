@@ -70,7 +70,7 @@ bool Validation::prepare() {
     Tano::SourcePosition position;
     if (m_baseline->read(error, position))
         return true;
-    m_messages.tell(m_request.baseline, position, error);
+    m_messages.printMessage(m_request.baseline, position, error);
     return false;
 }
 
@@ -78,7 +78,7 @@ void Validation::reportTrouble(const QString &file, const QString &trouble,
                                Tano::SourcePosition position) {
     m_hasTrouble = true;
     m_writer.writeTrouble(file, trouble);
-    m_messages.tell(file, position, trouble);
+    m_messages.printMessage(file, position, trouble);
 }
 
 Validation::Target Validation::targetOf(const QString &file) {
@@ -312,7 +312,7 @@ void Validation::reportTruncated(const QString &file) {
                              "zel-package", "Of each rule, only the first %1 findings are listed.")
                              .arg(mostFindings);
     m_writer.writeTruncated(file, note);
-    m_messages.tell(file, note);
+    m_messages.printMessage(file, note);
 }
 
 Report Validation::finish() {
@@ -322,9 +322,9 @@ Report Validation::finish() {
         if (const QString error = m_newBaseline->write(); !error.isEmpty())
             reportTrouble(m_request.newBaseline, error);
         else if (!m_request.isQuiet)
-            m_messages.tell(m_request.newBaseline,
-                            QCoreApplication::translate("zel-package", "Known findings: %1")
-                                .arg(m_newBaseline->size()));
+            m_messages.printMessage(m_request.newBaseline,
+                                    QCoreApplication::translate("zel-package", "Known findings: %1")
+                                        .arg(m_newBaseline->size()));
     }
     const bool hasFailed = m_hasFailed || (m_request.showsDiff && m_report.fixed > 0);
     m_report.status = m_hasTrouble ? Failure : hasFailed ? Findings : Fine;
