@@ -90,8 +90,9 @@ void ProblemsPanel::refresh() {
                                    [&](const auto &each) { return each.id == issue->id; });
     m_explanation->setText(rule->explanation % u' ' % rule->remedy);
     QWidget *previous = m_view;
-    for (int i = 0; i < issue->fixes.size(); ++i) {
-        const Fix &fix = issue->fixes.at(i);
+    const QVector<Fix> fixes = m_document.fixes(*issue);
+    for (int i = 0; i < fixes.size(); ++i) {
+        const Fix &fix = fixes.at(i);
         auto *button = new QPushButton(QString(fix.title).replace(u'&', QStringLiteral("&&")));
         connect(button, &QPushButton::clicked, this,
                 [this, fix] { m_document.edit(fix.edits, fix.title); });
@@ -114,7 +115,7 @@ void ProblemsPanel::fixAllSafe() {
 
 void ProblemsPanel::addFixes(QMenu &menu) {
     const Issue *issue = current();
-    for (const Fix &fix : issue ? issue->fixes : QVector<Fix>())
+    for (const Fix &fix : issue ? m_document.fixes(*issue) : QVector<Fix>())
         menu.addAction(QString(fix.title).replace(u'&', QStringLiteral("&&")), this,
                        [this, fix] { m_document.edit(fix.edits, fix.title); });
 }
