@@ -26,7 +26,7 @@ enum class Element : std::uint8_t {
     Epilog, ///< after the root element
 };
 
-/// What an element may contain.
+/// The content of an element.
 enum class Content : std::uint8_t { Elements, Text, Nothing };
 
 /// How often an element may occur in its parent.

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char *explanationContext = "Zel::PackageModel";
 
-// The only entity in messages. The values of a message that has it are versions, which cannot
+// The only entity in messages. A message that contains it has only versions as values, which cannot
 // contain it.
 constexpr const char *lessThan = "&lt;";
 
