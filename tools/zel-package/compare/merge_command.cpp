@@ -32,7 +32,7 @@ QList<QCommandLineOption> options() {
              QStringLiteral("PATH")}};
 }
 
-// A version of the manifest, and its name in messages.
+// A version of the manifest and its name in messages.
 struct Side {
     QString file;
     QString name;
@@ -62,13 +62,13 @@ bool hasLineWith(const std::string &content, const std::string &start) {
            content.find('\n' + start) != std::string::npos;
 }
 
-// A failed merge of git leaves such lines in a file.
+// Whether git left conflict markers after a failed merge.
 bool hasConflictMarkers(const std::string &content) {
     return hasLineWith(content, "<<<<<<< ") && hasLineWith(content, ">>>>>>> ");
 }
 
-// A side of the merge. An empty file is a package without anything: git passes one as the base of
-// files that both branches have added.
+// Reads a side of the merge. An empty file means an empty package: git passes one as the base of
+// files added in both branches.
 std::optional<Manifest> readSide(const Side &side, Console &console) {
     ManifestTrouble trouble;
     const auto content = readContent(side.file, trouble.text);
@@ -103,7 +103,7 @@ void report(const QString &file, const QVector<MergeConflict> &conflicts, Consol
                                        inWords(conflict));
 }
 
-// Writes the result to OURS unless another program has changed it since.
+// Writes the result to OURS, unless the file was changed in the meantime.
 bool saveOurs(const QString &file, const Manifest &ours, const std::string &content,
               Console &console) {
     if (content == ours.content)

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char *context = "Tano";
 
-// Where several match, the first counts. %1, %2... come in this order.
+// The first match counts. %1, %2... occur in this order.
 constexpr std::array sentences{
     // Reading XML.
     QT_TRANSLATE_NOOP("Tano", "There is not enough memory for the manifest."),
@@ -137,9 +137,9 @@ QString translatedText(const QString &text) {
             continue;
         QString result = QCoreApplication::translate(context, pattern.source);
         QStringList arguments = match.capturedTexts().mid(1);
-        for (QString &argument : arguments) // it may be a reason
+        for (QString &argument : arguments) // may be a reason
             argument = translatedText(argument);
-        // QString::arg() would take a "%1" in an argument for a placeholder.
+        // QString::arg() would treat a "%1" in an argument as a placeholder.
         static const QRegularExpression placeholder(QStringLiteral("%([1-9])"));
         QString filled;
         int done = 0;

@@ -29,7 +29,7 @@ void printJson(Console &console) {
 }
 
 void printTable(Console &console) {
-    // The native names come last, where writing from right to left moves no other column.
+    // Native names are in the last column, where right-to-left text cannot shift other columns.
     TextTable table({{QCoreApplication::translate("zel-package", "code")},
                      {QCoreApplication::translate("zel-package", "name")},
                      {QCoreApplication::translate("zel-package", "speech")},

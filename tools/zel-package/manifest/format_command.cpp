@@ -22,11 +22,11 @@ QList<QCommandLineOption> options() {
             formatOption()};
 }
 
-// The state of a file before or after formatting.
+// A file before or after formatting.
 struct Formatted {
     enum State { Canonical, Different, Malformed, Unreadable };
     State state = Canonical;
-    ManifestTrouble trouble = {}; // of the last two
+    ManifestTrouble trouble = {}; // if malformed or unreadable
 };
 
 constexpr std::array stateWords{"canonical", "different", "malformed", "unreadable"};

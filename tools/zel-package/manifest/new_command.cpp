@@ -77,7 +77,7 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     return false;
 }
 
-// To standard error, since the manifest may go to standard output.
+// Uses standard error, since the manifest may go to standard output.
 void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
     QStringList fields;
     const auto issues = Zel::PackageModel::issues(&package);

@@ -41,7 +41,7 @@ QString systemSentence() {
     return reasonSentence(std::generic_category().message(errno));
 }
 
-// Closes the file.
+// Also closes the file.
 QString writeAll(int opened, const std::string &content) {
     QFile file;
     const auto size = qint64(content.size());

@@ -37,7 +37,7 @@ bool holdsScriptVariants(const Tano::PackageInfo &package) {
     });
 }
 
-// A text that is a malformed speech script.
+// A text with a malformed speech script.
 struct MalformedScript {
     QString field;
     Tano::SourcePosition position; // of the field in the manifest
@@ -77,7 +77,7 @@ QJsonObject toJson(const QString &file, const MalformedScript &script) {
             {QStringLiteral("text"), script.text}};
 }
 
-// The texts of which no plain text can be made.
+// The texts that cannot be converted to plain text.
 std::vector<MalformedScript> malformedScripts(const Zel::PackageInfoModel &package,
                                               const std::string &content) {
     std::vector<MalformedScript> scripts;
@@ -86,7 +86,7 @@ std::vector<MalformedScript> malformedScripts(const Zel::PackageInfoModel &packa
         return scripts;
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     Tano::PackageInfo record;
-    static_cast<void>(reader.readContent(content, record)); // it has been read before
+    static_cast<void>(reader.readContent(content, record)); // was read successfully before
     for (const Zel::PackageModel::ScriptError &error : errors)
         scripts.push_back(malformedScript(error, reader));
     return scripts;

@@ -42,14 +42,14 @@ QList<QCommandLineOption> options() {
              QStringLiteral("FILE")}};
 }
 
-// What the arguments ask for.
+// The parsed arguments.
 struct Request {
     QStringList files;
     std::vector<Assignment> assignments;
-    Edits edits; // of the JSON file
+    Edits edits; // from the JSON file
 };
 
-// The files come first; returns false once it has reported what is wrong.
+// Reads the arguments, files first; on errors, reports them and returns false.
 bool readArguments(const QStringList &arguments, Request &request, Console &console) {
     bool isFine = true;
     for (const QString &argument : arguments) {
@@ -104,7 +104,7 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
     return trouble.isEmpty();
 }
 
-// One manifest on its way through the edits.
+// Applies edits to one manifest.
 class FileEdit {
 public:
     FileEdit(const QString &file, const Manifest &manifest, Console &console)
@@ -113,9 +113,9 @@ public:
         , m_written(manifest.package)
         , m_editor(manifest.package) {}
 
-    /// Makes the edits, each on the result of those before it; reports every wrong one.
+    /// Applies the edits in turn; reports each invalid one.
     bool apply(const Request &request);
-    /// What the edited fields are at fault for that they were not before.
+    /// Reports the findings in edited fields that are new.
     void reportNewFindings();
     Tano::PackageInfo record() const { return m_editor.record(); }
 
@@ -134,7 +134,7 @@ private:
     QSet<QString> m_edited; // the paths
 };
 
-// What is wrong with the edited fields of a package.
+// The findings in the edited fields of a package.
 QVector<FileEdit::Finding> FileEdit::findingsOn(const Zel::PackageInfoModel &package) const {
     using namespace Zel::PackageModel;
     constexpr int mostOfARule = 10000;
@@ -179,7 +179,7 @@ bool FileEdit::apply(const Edits &edits) {
     return true;
 }
 
-// The topics of dialogs go with a supported language.
+// Removing a supported language also removes the dialogs' topics in it.
 void FileEdit::reportLostTopics(const Edit &edit, const Edits &inverse) {
     if (edit.action != Edit::Action::Remove)
         return;
@@ -209,7 +209,7 @@ void FileEdit::reportNewFindings() {
     }
 }
 
-// The bytes of an edited manifest; nothing once the fault has been reported.
+// The bytes of an edited manifest; nullopt after reporting an error.
 std::optional<std::string> editedContent(const QString &file, const Manifest &manifest,
                                          const Request &request, Console &console) {
     FileEdit edit(file, manifest, console);

@@ -35,7 +35,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const auto manifest = readManifest(arguments.positionalArguments().constFirst(), console);
     if (!manifest)
         return Failure;
-    // The languages that the manifest mentions are known from here on.
+    // The model registers the languages in the manifest.
     const Zel::PackageInfoModel package(manifest->package);
 
     std::optional<Zel::RobotLanguage> language;

@@ -69,7 +69,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (!checkIsOther(file, arguments.value(outputOptionName), console))
         return Failure;
     const auto manifest = readManifest(file, console);
-    // The languages that the manifest mentions are known while the model exists.
+    // The languages in the manifest are known while the model exists.
     const bool isDone =
         manifest && exportTexts(file, Zel::PackageInfoModel(manifest->package), arguments, console);
     return isDone ? Fine : Failure;

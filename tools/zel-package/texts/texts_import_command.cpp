@@ -33,10 +33,10 @@ QList<QCommandLineOption> options() {
                                              "the export.")}};
 }
 
-// The units of all files, in their order.
+// The units of all files, in file order.
 struct Units {
     QVector<TextUnit> units;
-    QStringList files; // of each unit
+    QStringList files; // the file of each unit
 };
 
 bool readUnits(const QString &file, Units &all, Console &console) {
@@ -70,7 +70,7 @@ int countOf(const TextImport &import, TextOutcome outcome) {
                              [&](const auto &unit) { return unit.outcome == outcome; }));
 }
 
-// Returns whether every text could be imported.
+// Returns whether all texts were imported.
 bool report(const QString &manifest, const TextImport &import, const Units &given,
             Console &console) {
     bool isFine = true;

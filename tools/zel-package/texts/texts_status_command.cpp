@@ -25,7 +25,7 @@ QList<QCommandLineOption> options() {
     return {formatOption()};
 }
 
-// How far one manifest is translated.
+// The translation progress of one manifest.
 struct TranslationStatus {
     explicit TranslationStatus(const Zel::PackageInfoModel &package)
         : languages(Zel::PackageModel::coverages(&package))

@@ -126,7 +126,7 @@ private:
         return severities;
     }
 
-    // Nothing for "off", and for what is no severity.
+    // nullopt for "off" and for invalid severities.
     std::optional<Severity> severityIn(const QString &key, const toml::node &value,
                                        const QStringList &words) {
         const auto given = value.value<std::string_view>();

@@ -16,7 +16,7 @@ using Zel::PackageModel::Severity;
 
 namespace {
 
-const QLatin1String lessThan("&lt;"); // the one entity that messages have
+const QLatin1String lessThan("&lt;"); // the only entity in messages
 
 QString indented(const QString &text, const Console &console) {
     QString result;

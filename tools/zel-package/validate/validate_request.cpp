@@ -47,8 +47,7 @@ constexpr std::array severities{Choice<Severity>{"error", Severity::Error},
                                 Choice<Severity>{"warning", Severity::Warning},
                                 Choice<Severity>{"note", Severity::Note}};
 
-// The value of an option, the first choice where it is not given; nothing once an unknown word has
-// been reported.
+// The value of an option, by default the first choice; nullopt after reporting an unknown word.
 template<typename Choices>
 auto chosen(const QCommandLineParser &arguments, QLatin1String option, const Choices &choices,
             Console &console) {
