@@ -8,7 +8,7 @@
 #include <optional>
 #include <random>
 
-/// Random edits of a package: of its fields, and of lists found by dropping selectors.
+/// Random edits of a package's fields, and of its lists, which are found by dropping selectors.
 class RandomEdits {
 public:
     explicit RandomEdits(unsigned seed)

@@ -14,7 +14,7 @@ using namespace Zel::PackageModel;
 
 namespace {
 
-// What another process does: it opens the manifest, keeps an edit, and runs until it is killed.
+// Runs another process that opens the manifest, stores an edit, and waits to be killed.
 constexpr const char *editorMode = "--edit";
 
 UnsavedEdits sample(const QString &fileName, const QString &author) {
@@ -106,7 +106,7 @@ private Q_SLOTS:
             second.discard();
             QVERIFY(!second.leftover());
         }
-        QCOMPARE(leftovers(state()).size(), 0); // it is open
+        QCOMPARE(leftovers(state()).size(), 0); // it is still open
         QVERIFY(isSame(*first.leftover(), sample(manifest, QStringLiteral("Ada"))));
         first.discard();
         QVERIFY(!first.leftover());
@@ -160,7 +160,7 @@ private Q_SLOTS:
         }
         const auto found = leftovers(state());
         QCOMPARE(found.size(), 2);
-        QVERIFY(isSame(found.first().unsaved, later)); // the newest first
+        QVERIFY(isSame(found.first().unsaved, later)); // newest first
         for (const Leftover &each : found)
             EditSession::ofLeftover(state(), each.id).discard();
         QCOMPARE(leftovers(state()).size(), 0);

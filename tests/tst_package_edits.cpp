@@ -19,7 +19,7 @@ using Tano::FieldPath;
 
 namespace {
 
-// What differs between the caches of a package and those of a new one with the same record.
+// The differences between the caches of a package and those of a new one with the same record.
 QByteArray cacheDifference(const PackageInfoModel &package) {
     const PackageInfoModel fresh(package.packageInfo());
     const auto lines = [](const PackageInfoModel &of) {
@@ -28,7 +28,7 @@ QByteArray cacheDifference(const PackageInfoModel &package) {
     };
     const QSet<QString> live = lines(package);
     const QSet<QString> made = lines(fresh);
-    // A new model makes every supported language a description language.
+    // A new model uses every supported language for descriptions.
     QStringList differing = ((live - made) + (made - live)).values();
     for (const RobotLanguage &language : package.supportedLanguages())
         differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language: "
@@ -201,7 +201,7 @@ void TestPackageEdits::inversesRestoreEverything() {
 void TestPackageEdits::differences() {
     QFETCH(unsigned, seed);
     RandomEdits random(seed);
-    // Differences give a repeated permission once.
+    // Differences contain a repeated permission only once.
     QCOMPARE(error({Edit::Action::Remove, path("behaviors[greet][1].permissions[0]")}), QString());
     PackageInfoModel target;
     QVERIFY(target.loadFromManifestContent(bytes()));
@@ -392,7 +392,7 @@ void TestPackageEdits::runsThatEnd() {
             command->startRun();
         stack.push(command);
     };
-    // A text that was absent, and an entry that is renamed.
+    // An absent text, and a renamed entry.
     for (const char *field : {"names[de_DE]", "behaviors[odd\\]\\\\path].path"}) {
         push({{Edit::Action::Set, path(field), text("a")}});
         push({{Edit::Action::Set, top()->inverse().front().path, text("ab")}});
@@ -406,7 +406,7 @@ void TestPackageEdits::runsThatEnd() {
         }
         QCOMPARE(bytes(), before);
     }
-    // An item that is inserted.
+    // An inserted item.
     const auto list = path("behaviors[greet].tags[nl_NL]");
     push({{Edit::Action::Insert, list, text("a")}});
     push({{Edit::Action::Set, path("behaviors[greet].tags[nl_NL][0]"), text("ab")}});

@@ -201,7 +201,7 @@ void TestPackageLoading::shippedManifestsComeBack() {
     QCOMPARE(model.saveToManifestContent(), content);
     model.syncRecord();
     QCOMPARE(model.saveToManifestContent(), content);
-    // The icon beside the faulty sample is no image.
+    // The icon of the faulty sample is invalid.
     const bool isFaulty = path.contains(text("/faulty/"));
     QCOMPARE(m_warnings.take().filter(text("icon.png is not read")).size(), isFaulty ? 1 : 0);
 }
