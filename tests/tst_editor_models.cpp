@@ -275,7 +275,7 @@ private Q_SLOTS:
         QCOMPARE(cell.data().toString(), before);
     }
 
-    // The package is unchanged, and the user is told the reason.
+    // The package is unchanged, and the reason is shown.
     void refusals() {
         Document document;
         QVERIFY(document.open(sample("ten-languages")));

@@ -270,7 +270,7 @@ private Q_SLOTS:
                  QStringLiteral("half-ty"));
     }
 
-    // The text is not added, and the user is told the reason.
+    // The text is not added, and the reason is shown.
     void refusedAdditions() {
         startAddition("half-ty");
         press(Qt::Key_Return);
