@@ -75,9 +75,9 @@ private Q_SLOTS:
             QTest::newRow(error) << QString::fromUtf8(from) << QString::fromUtf8(to)
                                  << QString::fromUtf8(error);
         };
-        row("\"format\": 1", "\"format\": 2", "format: The format 2 is not known.");
+        row("\"format\": 1", "\"format\": 2", "format: Format 2 is not supported.");
         row("\"manifest\"", "\"package\"", "content: It is missing.");
-        row("2026-11-21T", "soon", "time: The value is of another type.");
+        row("2026-11-21T", "soon", "time: The value has the wrong type.");
         row("\"set\"", "\"put\"",
             "edits[0].action: It must be 'set', 'insert', 'remove' or 'move'.");
         row("\"sha256\"", "\"extra\": 1, \"sha256\"", "extra: There is no such member.");

@@ -283,7 +283,7 @@ private Q_SLOTS:
         const QSignalSpy refused(&document, &Document::editRefused);
         const QString taken = document.package()->services().at(0)->name();
         QCOMPARE(models.services.refusal(models.services.index(1, ServicesModel::Name), taken),
-                 QStringLiteral("'%1' is taken.").arg(taken));
+                 QStringLiteral("'%1' is already in use.").arg(taken));
         QVERIFY(!models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.x")).isEmpty());
         QVERIFY(models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.2")).isEmpty());
         QVERIFY(!models.languages
@@ -291,7 +291,7 @@ private Q_SLOTS:
                      .isEmpty());
         models.languages.add(QStringLiteral("en_US"));
         QCOMPARE(refused.size(), 1);
-        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("'en_US' is there already."));
+        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("'en_US' already exists."));
         QCOMPARE(document.undoStack()->count(), 0);
     }
 

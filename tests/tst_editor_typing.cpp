@@ -121,7 +121,7 @@ private Q_SLOTS:
                                            << "U+000B";
         QTest::newRow("path that is taken") << 3 << "&Path:"
                                             << "goodbye"
-                                            << "'goodbye' is taken.";
+                                            << "'goodbye' is already in use.";
         QTest::newRow("path") << 3 << "&Path:" << QString() << "A behavior needs a path.";
         QTest::newRow("cell") << 2 << "Robots"
                               << "3.x"

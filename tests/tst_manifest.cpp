@@ -241,9 +241,9 @@ private Q_SLOTS:
         QTest::addColumn<std::string>("text");
         QTest::addColumn<QString>("reason");
         const QString control =
-            QStringLiteral("holds the control character %1, which XML cannot hold.");
+            QStringLiteral("contains the control character %1, which XML cannot represent.");
         const QString byte =
-            QStringLiteral("holds the byte %1, which starts no character that XML can hold.");
+            QStringLiteral("contains the byte %1, which does not start a valid XML character.");
         const auto row = [](const char *name, const std::string &text, const QString &reason,
                             const char *code) {
             QTest::newRow(name) << text << reason.arg(QLatin1String(code));
@@ -430,7 +430,7 @@ private Q_SLOTS:
                         "No such file or directory"));
         const QString dangling = dir.filePath(QStringLiteral("dangling"));
         QVERIFY(QFile::link(dir.filePath(QStringLiteral("nowhere")), dangling));
-        QVERIFY(refuses(dangling, "it is a link to a file that is not there"));
+        QVERIFY(refuses(dangling, "it is a link to a missing file"));
     }
 
     void linksAndOpenFilesAreWrittenThrough() {

@@ -107,22 +107,22 @@ void TestPackageEdits::refused_data() {
             << int(action) << text(at) << QString::fromUtf8(value) << text(error);
     };
     row(A::Set, "autor", "x", "autor: There is no field 'autor'; did you mean 'author'?");
-    row(A::Set, "version", "1.0", "version: The value is of another type.");
-    row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value is of another type.");
+    row(A::Set, "version", "1.0", "version: The value has the wrong type.");
+    row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value has the wrong type.");
     row(A::Set, "behaviors", "x", "behaviors: The field does not allow this change.");
     row(A::Set, "author", "a\x01",
-        "author: The text holds the character U+0001, which a manifest "
-        "cannot hold.");
+        "author: The text contains the character U+0001, which a manifest "
+        "cannot represent.");
     row(A::Set, "behaviors[odd\\]\\\\path].path", "greet",
-        "behaviors[odd\\]\\\\path].path: 'greet' is taken.");
+        "behaviors[odd\\]\\\\path].path: 'greet' is already in use.");
     row(A::Set, "supportedLanguages[en_US]", "de_DE",
-        "supportedLanguages[en_US]: The value is of another type.");
-    row(A::Insert, "supportedLanguages", "en_US", "supportedLanguages: 'en_US' is there already.");
+        "supportedLanguages[en_US]: The value has the wrong type.");
+    row(A::Insert, "supportedLanguages", "en_US", "supportedLanguages: 'en_US' already exists.");
     row(A::Insert, "behaviors[greet].permissions", "camera",
-        "behaviors[greet].permissions: 'camera' is there already.");
+        "behaviors[greet].permissions: 'camera' already exists.");
     row(A::Insert, "author", "x", "author: The field does not allow this change.");
     row(A::Remove, "author", "", "author: The field does not allow this change.");
-    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: There is none.");
+    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: It does not exist.");
     row(A::Move, "dialogs[talk]", "", "dialogs[talk]: The list has no such index.");
     row(A::Move, "names[en_US]", "", "names[en_US]: The field does not allow this change.");
 }
@@ -453,7 +453,7 @@ void TestPackageEdits::failedCommands() {
     QCOMPARE(bytes(), before);
     m_package.reset();
     stack.redo();
-    QCOMPARE(command->error(), text("There is no package to be edited."));
+    QCOMPARE(command->error(), text("There is no package to edit."));
 }
 
 QTEST_GUILESS_MAIN(TestPackageEdits)

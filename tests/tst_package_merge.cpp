@@ -221,8 +221,8 @@ void TestPackageMerge::refused() {
     theirs.setName("a\x01", "en_US");
     const Merged merged = merge(m_base, ours, theirs);
     QCOMPARE(merged.error,
-             text("names[en_US]: The text holds the character U+0001, which a manifest cannot "
-                  "hold."));
+             text("names[en_US]: The text contains the character U+0001, which a manifest cannot "
+                  "represent."));
     QCOMPARE(merged.record, ours);
 }
 

@@ -426,7 +426,7 @@ private Q_SLOTS:
             {appended(Tano::FieldPath().field("supportedLanguages"), QStringLiteral("en_US"))},
             QStringLiteral("Add language"));
         QVERIFY(answer.isGiven());
-        QCOMPARE(answer.text, QStringLiteral("'en_US' is there already."));
+        QCOMPARE(answer.text, QStringLiteral("'en_US' already exists."));
     }
 
     void editsTheListsOfABehavior() {

@@ -307,8 +307,9 @@ private Q_SLOTS:
         QCOMPARE(error, text("The language is the source language too."));
         package.behaviors().front()->setName(QString(QChar(7)), language("en_US"));
         QVERIFY(exportXliff(&package, {text("de_DE"), text("en_US")}, &error).isEmpty());
-        QCOMPARE(error, text("behaviors[greet].names[de_DE]: The text holds the character U+0007, "
-                             "which a manifest cannot hold."));
+        QCOMPARE(error,
+                 text("behaviors[greet].names[de_DE]: The text contains the character U+0007, "
+                      "which a manifest cannot represent."));
         QVERIFY(!importTexts(static_cast<PackageInfoModel *>(nullptr), {}).error.isEmpty());
     }
 

@@ -115,7 +115,7 @@ void reportUnknownOption(const QString &option, const QList<QCommandLineOption> 
         known += QStringLiteral("--") % each.names().constLast();
     const bool isShortened = !option.startsWith(QLatin1String("--")) && option.size() > 2;
     console.printMessage(
-        QCoreApplication::translate("zel-package", "There is no option '%1'%2")
+        QCoreApplication::translate("zel-package", "Unknown option '%1'%2")
             .arg(option, suggestion(isShortened ? u'-' % option : option, known,
                                     QCoreApplication::translate("zel-package",
                                                                 "; '%1 --help' lists the options.")
@@ -221,7 +221,7 @@ void reportUnknownCommand(const CommandGroup &group, const QString &name, Consol
     const QString hint =
         QCoreApplication::translate("zel-package", "; '%1 --help' lists the commands.")
             .arg(group.program());
-    console.printMessage(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
+    console.printMessage(QCoreApplication::translate("zel-package", "Unknown command '%1'%2")
                              .arg(group.start() % name,
                                   suggestion(name, commandWords(QLatin1String(group.name)), hint)));
 }

@@ -44,7 +44,7 @@ std::string FileSave::resolve() {
     const std::unique_ptr<char, decltype(&std::free)> resolved(
         ::realpath(m_target.c_str(), nullptr), &std::free);
     if (!resolved)
-        return errno == ENOENT ? "it is a link to a file that is not there" : systemReason();
+        return errno == ENOENT ? "it is a link to a missing file" : systemReason();
     m_target = resolved.get();
     return {};
 }

@@ -182,7 +182,7 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
             return fail("The root element is " + tagged(name) + " instead of <package>.");
         if (isForeign)
             return fail("The root element <package> is in the namespace " +
-                        quoted(m_namespaces.defaultNamespace()) + "; a manifest is in none.");
+                        quoted(m_namespaces.defaultNamespace()) + "; a manifest has no namespace.");
         openFrame(Element::Package, attributes);
         return;
     }

@@ -390,10 +390,10 @@ void Writer::escaped(const Node &node, std::string_view text, EscapeFor where) {
     if (bad == std::string::npos)
         return;
     const auto byte = static_cast<unsigned char>(text[bad]);
-    fail(node, byte < 0x20
-                   ? "holds the control character " + hexadecimal(byte) + ", which XML cannot hold"
-                   : "holds the byte " + hexadecimal(byte) +
-                         ", which starts no character that XML can hold");
+    fail(node, byte < 0x20 ? "contains the control character " + hexadecimal(byte) +
+                                 ", which XML cannot represent"
+                           : "contains the byte " + hexadecimal(byte) +
+                                 ", which does not start a valid XML character");
 }
 
 void Writer::fail(const Node &node, std::string reason) {

@@ -254,7 +254,7 @@ void SpeechScriptReader::text(std::string_view text) {
     const Frame &frame = m_open.back();
     if (frame.element->gives == Gives::FirstAlternative) {
         if (!isWhiteSpace(text))
-            fail("There is text beside the alternatives of <one-of>; each of them is an <item>.");
+            fail("There is text between the alternatives of <one-of>; each must be an <item>.");
     } else if (!frame.isSilent && !frame.isSettled) {
         m_text.append(text);
     }

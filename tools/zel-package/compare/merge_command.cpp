@@ -21,15 +21,15 @@ using Zel::PackageModel::MergeConflict;
 const QLatin1String pathOption("path");
 
 QList<QCommandLineOption> options() {
-    return {{{QStringLiteral("o"), outputOptionName},
-             QCoreApplication::translate(
-                 "zel-package", "Write to this file rather than OURS; '-' is standard output."),
-             QStringLiteral("OUT")},
-            {pathOption,
-             QCoreApplication::translate("zel-package",
-                                         "Call the manifest PATH in messages: git merges copies, "
-                                         "and passes the path as %P."),
-             QStringLiteral("PATH")}};
+    return {
+        {{QStringLiteral("o"), outputOptionName},
+         QCoreApplication::translate("zel-package",
+                                     "Write to this file instead of OURS; '-' is standard output."),
+         QStringLiteral("OUT")},
+        {pathOption,
+         QCoreApplication::translate("zel-package", "Use PATH for the manifest in messages: git "
+                                                    "merges copies, and passes the path as %P."),
+         QStringLiteral("PATH")}};
 }
 
 // A version of the manifest and its name in messages.
@@ -76,7 +76,8 @@ std::optional<Manifest> readSide(const Side &side, Console &console) {
         return Manifest();
     if (content && hasConflictMarkers(*content))
         trouble.text = QCoreApplication::translate(
-            "zel-package", "It has conflict markers of git; resolve these conflicts first.");
+            "zel-package",
+            "The file contains conflict markers of git; resolve these conflicts first.");
     if (content && trouble.text.isEmpty()) {
         if (auto manifest = manifestOf(*content, trouble))
             return manifest;
@@ -157,12 +158,12 @@ const ProgramCommand mergeCommand{
     QT_TRANSLATE_NOOP("zel-package", "BASE OURS THEIRS [-o OUT] [--path PATH]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both "
-        "sides changed a field differently, OURS stays, and a comment before the field holds both "
+        "Merges the changes from BASE to THEIRS into OURS, field by field. If both sides changed a "
+        "field differently, the value in OURS is kept, and a comment before the field shows both "
         "values; 'validate' reports it until it is removed. The exit status is 0 after a merge "
-        "without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS "
-        "unchanged. An empty file is a manifest without any field. '-' for one of the files reads "
-        "standard input."),
+        "without conflicts, 1 after a merge with conflicts, and 2 after an error, which leaves "
+        "OURS unchanged. An empty file is a manifest without fields. One of the files may be '-' "
+        "for standard input."),
     3,
     3,
     options,

@@ -141,9 +141,8 @@ bool Console::finish() {
     flush();
     if (m_writeError.isEmpty())
         return true;
-    printMessage(
-        QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
-            .arg(m_writeError));
+    printMessage(QCoreApplication::translate("zel-package", "Cannot write to standard output: %1.")
+                     .arg(m_writeError));
     return false;
 }
 

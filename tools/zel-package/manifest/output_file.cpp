@@ -91,9 +91,8 @@ QString writeToSpecialFile(const QString &file, const std::string &content) {
 
 QCommandLineOption outputOption() {
     return {{QStringLiteral("o"), outputOptionName},
-            QCoreApplication::translate("zel-package",
-                                        "Write to this file; to standard output when none is "
-                                        "given, or '-'."),
+            QCoreApplication::translate(
+                "zel-package", "Write to this file; the default, also '-', is standard output."),
             QStringLiteral("OUT"),
             QStringLiteral("-")};
 }

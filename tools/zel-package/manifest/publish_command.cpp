@@ -129,8 +129,8 @@ ExitStatus publish(const QString &file, const Manifest &manifest, const QString 
     if (holdsScriptVariants(manifest.package))
         console.printMessage(
             file, QCoreApplication::translate("zel-package",
-                                              "This manifest has been published before; the "
-                                              "scripts beside its texts are dropped."));
+                                              "This manifest was published before; the scripts "
+                                              "stored beside its texts are dropped."));
     package.genPlainTextFromScript();
     package.syncRecord();
     if (!writeManifest(package.packageInfo(), file, output, console))
@@ -158,11 +158,10 @@ const ProgramCommand publishCommand{
     QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT] [--format text|json]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Writes the manifest in FILE for publication: without texts in languages "
-        "that the package no longer offers, and with plain text in place of speech "
-        "scripts, which are kept in a private-use variant of their language. If a text "
-        "is a malformed script, reports it and writes nothing. '-' reads standard "
-        "input."),
+        "Writes the manifest in FILE for publication: removes texts in languages that the package "
+        "no longer offers, and replaces speech scripts by plain text, keeping the scripts in a "
+        "private-use variant of their language. If a text is a malformed script, reports it and "
+        "writes nothing. '-' reads standard input."),
     1,
     1,
     options,

@@ -112,8 +112,9 @@ AssignedEdit Resolver::remove() const {
     const FieldPath &path = m_assignment.path;
     if (has(path) || path.steps().back().selectors.back().toIndex())
         return {Edit{Edit::Action::Remove, path}};
-    return {
-        {}, {}, text(QT_TRANSLATE_NOOP("zel-package", "There is none, so nothing is removed."))};
+    return {{},
+            {},
+            text(QT_TRANSLATE_NOOP("zel-package", "It does not exist, so nothing is removed."))};
 }
 
 AssignedEdit Resolver::set(const FieldForm &form) const {
@@ -126,10 +127,8 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
     AssignedEdit result;
     if (form.kind > FieldKind::Version)
         result.error =
-            text(QT_TRANSLATE_NOOP(
-                     "zel-package",
-                     "This is an entry: an empty VALUE removes it; a field of it is set as "
-                     "in '%1.FIELD=VALUE'."))
+            text(QT_TRANSLATE_NOOP("zel-package", "This is an entry: an empty VALUE removes it, "
+                                                  "and '%1.FIELD=VALUE' sets one of its fields."))
                 .arg(m_assignment.field);
     else if (const auto parsed = Zel::PackageModel::parsedValue(form.kind, value, &result.error))
         result.edit = Edit{Edit::Action::Set, m_assignment.path, parsed};

@@ -32,13 +32,11 @@ const QLatin1String editsOption("edits");
 QList<QCommandLineOption> options() {
     return {{dryRunOption,
              QCoreApplication::translate("zel-package",
-                                         "Write nothing; print what would change, as a unified "
-                                         "diff.")},
+                                         "Write nothing; print the changes as a unified diff.")},
             {editsOption,
              QCoreApplication::translate("zel-package",
-                                         "First apply the edits in this JSON file, which "
-                                         "schema/edits.schema.json describes; '-' is standard "
-                                         "input."),
+                                         "First apply the edits in this JSON file (see "
+                                         "schema/edits.schema.json); '-' is standard input."),
              QStringLiteral("FILE")}};
 }
 
@@ -279,14 +277,14 @@ const ProgramCommand setCommand{
         "zel-package",
         "Sets fields, named as in 'show --format json': author=Ines, names[fr_FR]=Goûter, "
         "robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty "
-        "VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds "
-        "one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds it at "
-        "an index, from 0 on: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
-        "behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so "
-        "that commands can be repeated. Either all fields of all files are set or, where one is "
-        "wrong, none. Files are rewritten in the canonical form with nothing lost. '-' takes "
-        "standard input and writes to standard output; a file whose name has a '=' is given with "
-        "its folder, as in ./a=b.xml."),
+        "VALUE clears a text or removes an entry or item: behaviors[greet]=. The key [+] adds to a "
+        "list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds at an index, "
+        "counted from 0: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
+        "behaviors[greet]@0. Adding an existing entry or removing a missing one changes nothing, "
+        "so commands can be repeated. If one field is wrong, no file is changed. Files are "
+        "rewritten in canonical form without losing content. '-' reads standard input and writes "
+        "to standard output; give a file whose name contains '=' with its folder, as in "
+        "./a=b.xml."),
     1,
     ProgramCommand::anyNumber,
     options,

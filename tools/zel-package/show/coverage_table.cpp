@@ -139,7 +139,7 @@ QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Cons
     if (std::any_of(coverages.begin(), coverages.end(), isDescribedOnly))
         text += noteOn(QStringLiteral("°"),
                        QCoreApplication::translate(
-                           "zel-package", "The package is only described in this language."),
+                           "zel-package", "The package only has descriptions in this language."),
                        console, indent);
     if (std::any_of(coverages.begin(), coverages.end(), isUnlisted))
         text += noteOn(

@@ -54,8 +54,8 @@ QStringList manifestsOf(const QStringList &arguments, const Report &report) {
             files);
         files.sort();
         if (files.isEmpty() && isFine)
-            report(argument, QCoreApplication::translate(
-                                 "zel-package", "There is no manifest.xml in the folder."));
+            report(argument, QCoreApplication::translate("zel-package",
+                                                         "The folder contains no manifest.xml."));
         all += files;
     }
     return all;

@@ -89,11 +89,11 @@ const ProgramCommand validateCommand{
                       "[--write-baseline FILE] [--stdin-name NAME] [--quiet] "
                       "[--color auto|always|never] [--explain]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: "
-                      "text [id]; a missing field has the place of the element that should hold "
-                      "it. A FOLDER means every manifest.xml in it and below it. 'zel-package "
-                      "explain ID' explains a rule. '-' reads standard input; with --fix, the "
-                      "manifest goes to standard output and the findings to standard error."),
+                      "Prints the findings in each manifest by line, as FILE:LINE:COLUMN: error: "
+                      "text [id]; a missing field is reported at the element that should contain "
+                      "it. A FOLDER means every manifest.xml in or below it. 'zel-package explain "
+                      "ID' explains a rule. '-' reads standard input; with --fix, the manifest "
+                      "goes to standard output and the findings to standard error."),
     1,
     ProgramCommand::anyNumber,
     validateOptions,

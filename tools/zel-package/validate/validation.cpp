@@ -271,8 +271,7 @@ void Validation::reportMissingManifests() {
              target.settings.severityOf(baselineUnusedRuleId, Severity::Note),
              {},
              QCoreApplication::translate(
-                 "zel-package",
-                 "The baseline lists findings in '%1', which does not exist any more.")
+                 "zel-package", "The baseline lists findings in '%1', which no longer exists.")
                  .arg(file)});
     write(target, baseline);
 }

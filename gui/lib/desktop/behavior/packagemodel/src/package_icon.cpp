@@ -106,7 +106,7 @@ void readBeside(const QFile &manifest, PackageInfoModel &package) {
         rejection = readPng(file, image);
     if (!rejection.isEmpty())
         Tano::log::write(logCategory, Tano::log::Level::Warning, "loadFromManifestFile",
-                         QStringLiteral("%1 is not read: %2.").arg(path, rejection));
+                         QStringLiteral("Ignoring %1: %2.").arg(path, rejection));
     if (rejection.isEmpty() && !image.isNull())
         package.setIcon(QIcon(QPixmap::fromImage(image)));
 }

@@ -413,7 +413,7 @@ const QVector<Fix> &FixMaker::resolutions() {
         return *m_resolutions;
     const auto record = std::get<Tano::PackageInfo>(*value(&m_package, {}));
     m_resolutions = {{text(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                             "Keep the present values and remove the comments")),
+                                             "Keep the current values and remove the comments")),
                       false,
                       {setting({}, Tano::withoutComments(record, conflicts(record)))}}};
     return *m_resolutions;

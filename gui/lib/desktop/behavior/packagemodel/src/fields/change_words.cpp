@@ -88,7 +88,7 @@ QString changeLine(PackageInfoModel *package, const Edit &edit) {
     case Edit::Action::Remove:
         return removal(edit.path, *old);
     case Edit::Action::Move:
-        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to place %2"))
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to position %2"))
             .arg(label(edit.path), QString::number(edit.index + 1));
     }
     return {};

@@ -152,7 +152,7 @@ std::optional<FieldValue> readValue(FieldKind kind, const QJsonValue &json, QStr
         return json.toBool();
     if (json.isString() && (kind == FieldKind::Text || kind == FieldKind::Version))
         return parsedValue(kind, json.toString(), &error);
-    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value has the wrong type."));
     return {};
 }
 

@@ -11,7 +11,7 @@ inline int indexIn(const Selectors &selectors, int size) {
 }
 
 inline QString taken(const QString &value) {
-    return QCoreApplication::translate("Zel::PackageModel", "'%1' is there already.").arg(value);
+    return QCoreApplication::translate("Zel::PackageModel", "'%1' already exists.").arg(value);
 }
 
 /// A row whose paths lead to a list or to one of its items.

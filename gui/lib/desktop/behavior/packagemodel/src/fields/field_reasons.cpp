@@ -57,7 +57,7 @@ QString reasonOf(PackageInfoModel &package, const FieldPath &path) {
         if (target.list)
             return noItem(*target.list, fromUtf8(selectors.back().text));
     }
-    return QCoreApplication::translate("Zel::PackageModel", "There is none.");
+    return QCoreApplication::translate("Zel::PackageModel", "It does not exist.");
 }
 
 } // namespace Zel::PackageModel

@@ -286,7 +286,8 @@ public:
         target.cell->refusal = [find = m_find, &owner, package](const QString &key) {
             const Child *taker = (package->*find)(key);
             return taker && taker != &owner
-                       ? QCoreApplication::translate("Zel::PackageModel", "'%1' is taken.").arg(key)
+                       ? QCoreApplication::translate("Zel::PackageModel", "'%1' is already in use.")
+                             .arg(key)
                        : QString();
         };
         target.cell->inverse = [get = m_get, record = m_record, &owner, package,

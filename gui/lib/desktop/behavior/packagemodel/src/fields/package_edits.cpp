@@ -48,7 +48,7 @@ QString removeRefusal(const FieldTarget &target) {
     if (target.cell && target.cell->remove)
         return target.cell->value
                    ? QString()
-                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none."));
+                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "It does not exist."));
     return target.item < 0 ? notForThis() : QString();
 }
 
@@ -174,7 +174,7 @@ Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     return {change(edit, target), {}};
 }
 QString noPackage() {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to edit."));
 }
 
 } // namespace

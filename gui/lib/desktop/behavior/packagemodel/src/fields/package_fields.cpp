@@ -156,7 +156,7 @@ std::optional<FieldValue> parsedValue(FieldKind kind, const QString &text, QStri
         else
             reason = QCoreApplication::translate(
                 "Zel::PackageModel",
-                "'%1' is not a version: numbers with dots between them, as in 2.1.");
+                "'%1' is not a version, that is, numbers separated by dots as in 2.1.");
     } else {
         reason =
             QCoreApplication::translate("Zel::PackageModel", "'%1' is no entry with its fields.");

@@ -50,7 +50,7 @@ std::optional<UnsavedEdits> readUnsavedEdits(const QString &fileName) {
     if (parsed.error.isEmpty())
         return parsed.unsaved;
     Tano::log::write(logCategory, Tano::log::Level::Warning, "leftover",
-                     QStringLiteral("%1 is not read: %2").arg(fileName, parsed.error));
+                     QStringLiteral("Ignoring %1: %2").arg(fileName, parsed.error));
     return {};
 }
 

@@ -185,7 +185,7 @@ TextImport importTo(const PackageInfoModel *package, const QVector<TextUnit> &un
     if (!package) {
         TextImport nothing;
         nothing.error =
-            inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
+            inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to edit."));
         return nothing;
     }
     TextImport result = TextImporter(*package, units, options.force).result();
