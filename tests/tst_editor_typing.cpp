@@ -17,6 +17,8 @@ using namespace Editor;
 using Tano::FieldPath;
 using Zel::PackageModel::Edit;
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 /// Tests how typed text reaches the package, is refused, and is undone.
 class TestEditorTyping : public QObject, private EditorTest {
     Q_OBJECT
@@ -458,8 +460,6 @@ private:
         return nullptr;
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void()>)
 
 QTEST_MAIN(TestEditorTyping)
 #include "tst_editor_typing.moc"
