@@ -18,7 +18,7 @@ inline void addSeeds(int usual) {
         QTest::addRow("seed %u", seed) << seed;
 }
 
-/// Random edits of a package: of its fields, and of lists found by dropping selectors.
+/// Random edits of a package's fields, and of its lists, which are found by dropping selectors.
 class RandomEdits {
 public:
     explicit RandomEdits(unsigned seed)

@@ -15,7 +15,7 @@ using namespace Zel::PackageModel;
 
 namespace {
 
-// "uid [uid-invalid]: Application UID is not defined correctly.", then a line for each fix.
+// "uid [uid-invalid]: Application UID is not defined correctly.", then one line per fix.
 QByteArray listing(const QVector<Issue> &issues) {
     QString lines;
     for (const Issue &issue : issues) {
@@ -57,7 +57,7 @@ private Q_SLOTS:
             QTest::newRow(name) << samples.filePath(text(name) % text("/manifest.xml"));
     }
 
-    // A record has the same issues as its model, behavior by behavior.
+    // A record has the same issues as its model.
     void records_data() { manifests_data(); }
 
     void records() {
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(lines(found), lines(issues(&package, options)));
     }
 
-    // What is found, how it can be fixed, and the manifest after the safe fixes and after all.
+    // The issues, their fixes, and the manifest after the safe fixes and after all fixes.
     void manifests() {
         QFETCH(QString, file);
         const IssueOptions options{QFileInfo(file).path()};

@@ -18,11 +18,11 @@ namespace {
 using Tano::FieldPath;
 using Zel::PackageModel::Severity;
 
-// The fields of a block of texts, in the order of writing.
+// The fields of a text block, in canonical order.
 constexpr std::array<const char *, 5> textFields{"names", "descriptions", "tags",
                                                  "triggerSentences", "loadingResponses"};
 
-// The ids in a comment; nothing for a comment of another kind.
+// The rule ids in a comment; empty for other comments.
 QStringList rulesIn(const Tano::KeptComment &comment) {
     static const QRegularExpression form(
         QRegularExpression::anchoredPattern(QStringLiteral("\\s*zel-package:\\s*ignore\\b(.*)")),
@@ -37,7 +37,7 @@ QStringList rulesIn(const Tano::KeptComment &comment) {
     return rules;
 }
 
-// Whether the block of the last step's language has such texts.
+// Whether the text block of a language has a name and a description.
 template<typename Owner>
 std::array<bool, 2> ownTexts(const Owner &owner, const std::string &code) {
     return {owner.names().count(code) > 0, owner.descriptions().count(code) > 0};
@@ -61,7 +61,7 @@ std::array<bool, textFields.size()> textsOf(const Tano::PackageInfo &record, con
     return {};
 }
 
-// Whether a path is that of the first text in its block.
+// Whether a path leads to the first text in its block.
 bool beginsBlock(const Tano::PackageInfo &record, const FieldPath &path) {
     if (path.isEmpty() || path.steps().back().selectors.empty())
         return false;
@@ -104,8 +104,8 @@ bool IgnoreComments::ignores(const QString &rule, const QString &field) {
     return true;
 }
 
-// The selectors of the first step are the key of an entry and its number among equal ones; those of
-// others may lead further into a list.
+// Selectors of the first step are an entry's key and its index among equal keys; further selectors
+// of `field` may select within a list.
 bool IgnoreComments::covers(const Ignored &ignored, const FieldPath &field) {
     const auto &outer = ignored.element.steps();
     const auto &inner = field.steps();

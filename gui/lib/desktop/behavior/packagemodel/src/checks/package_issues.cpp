@@ -16,7 +16,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// Passes findings on as issues until the visitor has had enough.
+// Passes findings to the visitor as issues until it stops.
 class FindingVisit {
 public:
     FindingVisit(const PackageInfoModel &package,
@@ -28,7 +28,7 @@ public:
         , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
         , m_withFixes(options.withFixes) {}
 
-    // Returns false when the visitor stops.
+    // Returns false once the visitor stops.
     bool visit(const Findings &findings) {
         for (const Finding &finding : findings) {
             if (skips(finding.rule) || !isNamed(finding))
@@ -74,7 +74,7 @@ std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behavior
     return places;
 }
 
-// By ascending path; behaviors with the same path keep their order.
+// Sorted by path; behaviors with the same path keep their order.
 std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behaviors) {
     std::vector<std::pair<QString, BehaviorPlace>> byPath;
     byPath.reserve(behaviors.size());
@@ -136,7 +136,7 @@ void visitIssues(const PackageInfoModel *package,
     }
 }
 
-// One behavior at a time has a model.
+// Creates a model for one behavior at a time, to bound memory.
 void visitIssues(const Tano::PackageInfo &record,
                  const std::function<IssueVisit(const Issue &issue)> &visit,
                  const IssueOptions &options) {
