@@ -2,11 +2,11 @@
 
 #include "console/library_text.h"
 #include "console/text_diff.h"
-#include "ignore_comments.h"
 #include "manifest/manifest_source.h"
 #include "manifest_fixes.h"
 #include "report_rules.h"
 
+#include <packagemodel/ignore_comments.h>
 #include <packagemodel/package_info_model.h>
 
 #include <QCoreApplication>
@@ -19,6 +19,7 @@
 namespace ZelPackage {
 namespace {
 
+using Zel::PackageModel::IgnoreComments;
 using Zel::PackageModel::Issue;
 using Zel::PackageModel::IssueOptions;
 using Zel::PackageModel::IssueVisit;
@@ -200,6 +201,29 @@ private:
     std::map<Key, Tano::SourcePosition> m_positions;
 };
 
+// The rules of comments that were not used and the ones that do not exist. They have no position;
+// their field is the one that follows the comment.
+std::vector<ManifestFinding> findingsOf(const IgnoreComments &comments) {
+    const QStringList known = changeableRuleIds();
+    std::vector<ManifestFinding> findings;
+    for (const IgnoreComments::Entry &entry : comments.entries()) {
+        const QString field = Zel::fromUtf8(entry.element.toString());
+        if (!known.contains(entry.rule))
+            findings.push_back({{},
+                                ignoreUnknownRuleId,
+                                Severity::Warning,
+                                field,
+                                unknownRule(entry.rule, known)});
+        else if (!entry.isUsed)
+            findings.push_back({{},
+                                ignoreUnusedRuleId,
+                                Severity::Note,
+                                field,
+                                messageOf(ignoreUnusedRuleId).arg(entry.rule)});
+    }
+    return findings;
+}
+
 } // namespace
 
 void Validation::collect(const Target &target, const Tano::ManifestReader &reader,
@@ -236,7 +260,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
         reportTruncated(target.name);
         return;
     }
-    auto unused = ignored.findings();
+    auto unused = findingsOf(ignored);
     const auto left = unusedEntries(target.name);
     unused.insert(unused.end(), left.begin(), left.end());
     for (const ManifestFinding &finding : unused) {
