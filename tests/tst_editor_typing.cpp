@@ -17,7 +17,9 @@ using namespace Editor;
 using Tano::FieldPath;
 using Zel::PackageModel::Edit;
 
-/// How what is typed reaches the package, is refused, and is undone.
+Q_DECLARE_METATYPE(std::function<void()>)
+
+/// How typed text reaches the package, is refused, and is undone.
 class TestEditorTyping : public QObject, private EditorTest {
     Q_OBJECT
 
@@ -458,8 +460,6 @@ private:
         return nullptr;
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void()>)
 
 QTEST_MAIN(TestEditorTyping)
 #include "tst_editor_typing.moc"
