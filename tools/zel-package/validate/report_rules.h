@@ -2,7 +2,7 @@
 
 #include "console/console.h"
 
-#include <packagemodel/package_issues.h>
+#include <packagemodel/issue_report.h>
 
 #include <QJsonObject>
 #include <QString>
@@ -28,8 +28,7 @@ QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
 /// The ids of the rules that can be ignored and given another severity.
 QStringList changeableRuleIds();
 
-/// "error", "warning" or "note", in every language.
-QLatin1String wordOf(Zel::PackageModel::Severity severity);
+/// "error", "warning" and "note", in every language.
 QStringList severityWords();
 /// The severity of a word; nothing for another word.
 std::optional<Zel::PackageModel::Severity> severityOf(const QString &word);

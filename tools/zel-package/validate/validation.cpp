@@ -7,14 +7,13 @@
 #include "report_rules.h"
 
 #include <packagemodel/ignore_comments.h>
+#include <packagemodel/issue_report.h>
 #include <packagemodel/package_info_model.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <map>
-#include <tuple>
 
 namespace ZelPackage {
 namespace {
@@ -175,32 +174,6 @@ bool Validation::save(const Target &target, const std::string &content,
 
 namespace {
 
-// The places of unknown elements and attributes.
-class NodePositions {
-public:
-    explicit NodePositions(const Tano::ManifestReader &reader)
-        : m_reader(reader) {}
-
-    Tano::SourcePosition of(const Tano::UnknownNode &node) {
-        if (m_positions.empty()) {
-            for (const Tano::UnknownNode &known : m_reader.unknownNodes())
-                m_positions.emplace(keyOf(known), known.position);
-        }
-        return m_positions[keyOf(node)];
-    }
-
-private:
-    using Key = std::tuple<Tano::FieldPath, std::string, std::string, bool, int>;
-
-    static Key keyOf(const Tano::UnknownNode &node) {
-        return {node.parentPath, node.parent, node.name,
-                node.kind == Tano::UnknownNode::Kind::Element, node.index};
-    }
-
-    const Tano::ManifestReader &m_reader;
-    std::map<Key, Tano::SourcePosition> m_positions;
-};
-
 // The rules of comments that were not used and the ones that do not exist. They have no position;
 // their field is the one that follows the comment.
 std::vector<ManifestFinding> findingsOf(const IgnoreComments &comments) {
@@ -235,7 +208,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
         manifest.findings.push_back(std::move(finding));
     };
     QHash<QString, int> counts;
-    NodePositions nodes(reader);
+    Zel::PackageModel::IssuePlaces places(reader);
     bool isTruncated = false;
     const auto visit = [&](const Issue &issue) {
         if (++counts[issue.id] > mostFindings) {
@@ -243,8 +216,8 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             return IssueVisit::SkipRule;
         }
         if (!m_baseline || !m_baseline->take(target.name, issue.id, issue.path))
-            add({issue.node ? nodes.of(*issue.node) : Tano::SourcePosition(), issue.id,
-                 issue.severity, issue.path, issue.plainText(), issue.fixes});
+            add({places.of(issue), issue.id, issue.severity, issue.path, issue.plainText(),
+                 issue.fixes});
         return IssueVisit::Continue;
     };
     IgnoreComments ignored(manifest.record);
