@@ -1,6 +1,7 @@
 #include "document.h"
 
 #include "field_edits.h"
+#include "problem_report.h"
 
 #include <packagemodel/edit_session.h>
 
@@ -282,8 +283,7 @@ LanguageCoverage Document::coverage(const QString &languageCode) const {
 }
 
 void Document::refreshIssues() {
-    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
-    const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
+    const auto issues = Zel::PackageModel::issues(m_package.get(), issueOptions(m_fileName));
     const auto isSame = [](const Issue &a, const Issue &b) {
         return a.id == b.id && a.path == b.path && a.text == b.text;
     };

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <packagemodel/package_issues.h>
+
+#include <QScrollArea>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace Editor {
+
+/// The explanation and the remedy of one problem, and a button for each way to deal with it.
+class ProblemDetails : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ProblemDetails(QWidget *parent = nullptr);
+
+    /// Hidden for null. The buttons follow `previous` in the order of the Tab key.
+    void show(const Zel::PackageModel::Issue *issue, QWidget *previous);
+
+Q_SIGNALS:
+    void fixWanted(const Zel::PackageModel::Fix &fix);
+    void ignoreWanted();
+
+private:
+    QLabel *m_explanation;
+    QVBoxLayout *m_buttons;
+};
+
+/// A text as a button or menu shows it, without mnemonics.
+QString withoutMnemonics(QString text);
+
+} // namespace Editor
