@@ -16,6 +16,7 @@
 #include <QCommandLinkButton>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
@@ -23,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSplitter>
 #include <QTableView>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -90,6 +92,16 @@ private Q_SLOTS:
         }
         const QString golden = QStringLiteral(ZEL_TEST_DATA "/editor/tab-order/%1.txt");
         COMPARE_WITH_GOLDEN(golden.arg(QLatin1String(QTest::currentDataTag())), stops.toUtf8());
+    }
+
+    // The bar of docks that share their place follows their pages.
+    void tabKeyReachesTheBarOfDocks() {
+        QVERIFY(m_window->openFile(sample("small")));
+        press(Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(m_window->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly));
+        QCoreApplication::processEvents();
+        COMPARE_WITH_GOLDEN(QStringLiteral(ZEL_TEST_DATA "/editor/tab-order/docks.txt"),
+                            walk().toUtf8());
     }
 
     void mnemonicsAreUnique_data() {
@@ -355,10 +367,17 @@ private Q_SLOTS:
         m_window->resize(700, 600);
         m_window->showPage(4);
         dock("history")->hide();
+        auto *column = problems()->header();
+        column->resizeSection(1, 222);
+        auto *splitter = shownPage()->findChild<QSplitter *>();
+        splitter->setSizes({150, splitter->width() - 150});
+        const QList<int> sizes = splitter->sizes();
         QVERIFY(m_window->close());
         showWindow();
         m_window->restore();
         QCOMPARE(m_window->size(), QSize(700, 600));
+        QCOMPARE(shownPage()->findChild<QSplitter *>()->sizes(), sizes);
+        QCOMPARE(problems()->header()->sectionSize(1), 222);
         QVERIFY(dock("history")->isHidden());
         QVERIFY(!dock("problems")->isHidden());
         QVERIFY(field("&Topic:")->isVisible());

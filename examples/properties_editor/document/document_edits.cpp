@@ -126,7 +126,7 @@ FieldPath Document::changedField(int indexBefore) const {
     const bool isUndo = m_stackIndex < indexBefore;
     const PackageEditCommand *command = commandAt(isUndo ? m_stackIndex : m_stackIndex - 1);
     if (!command)
-        return {};
+        return FieldPath().field("icon"); // which no edit changes
     // What leads away from the present state has the paths of the present state. Edits that follow
     // from another one, such as that of a language, are not at this end.
     const Edits &edits = isUndo ? command->edits() : command->inverse();
