@@ -233,7 +233,6 @@ private Q_SLOTS:
                 names += action->text().remove(u'&');
             return names.join(u' ');
         };
-        const QString before = names();
         selectTwo(QStringLiteral("services"));
         m_window->menuBar()->setFocus();
         QVERIFY2(
@@ -247,7 +246,7 @@ private Q_SLOTS:
                  QStringLiteral("clock"));
         m_window->showField(QStringLiteral("services[lamp]"));
         press(Qt::Key_F2); // the cell has its own
-        QCOMPARE(names(), before);
+        QVERIFY2(!names().contains(QStringLiteral("Cut")), qPrintable(names()));
     }
 
     void propertiesOfAService() {

@@ -78,7 +78,7 @@ RowActions::RowActions(QAbstractItemView *view, Document &document, RowList list
         add(tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &RowActions::paste);
     if (hasAll)
         m_needRows +=
-            add(tr("D&uplicate"), {QKeySequence(Qt::CTRL | Qt::Key_D)}, &RowActions::duplicate);
+            add(tr("Dup&licate"), {QKeySequence(Qt::CTRL | Qt::Key_D)}, &RowActions::duplicate);
     m_needRows += add(tr("&Delete"), {QKeySequence(Qt::Key_Delete)}, &RowActions::remove);
     if (m_list.isOrdered) {
         addSeparator();

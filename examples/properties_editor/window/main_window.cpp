@@ -154,7 +154,7 @@ void MainWindow::addDocks() {
     QDockWidget *historyDock = addDock(tr("History"), "history", history);
 
     resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
-    resizeDocks({problems}, {150}, Qt::Vertical);
+    resizeDocks({problems}, {190}, Qt::Vertical);
     find->hide();
 }
 

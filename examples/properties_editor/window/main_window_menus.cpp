@@ -63,7 +63,7 @@ void MainWindow::addFindActions(QMenu *menu) {
         ->setShortcut(QKeySequence::Find);
     menu->addAction(tr("Find &Next"), m_findPanel, &FindPanel::showNext)
         ->setShortcut(QKeySequence::FindNext);
-    menu->addAction(tr("Find &Previous"), m_findPanel, &FindPanel::showPrevious)
+    menu->addAction(tr("Find Pre&vious"), m_findPanel, &FindPanel::showPrevious)
         ->setShortcut(QKeySequence::FindPrevious);
 }
 

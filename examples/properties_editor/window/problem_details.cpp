@@ -37,7 +37,7 @@ void ProblemDetails::show(const Issue *issue, QWidget *previous) {
         const std::unique_ptr<QLayoutItem> item(m_buttons->takeAt(0));
         item->widget()->deleteLater();
     }
-    setVisible(issue);
+    m_explanation->clear();
     if (!issue)
         return;
     const auto rules = Zel::PackageModel::rules();

@@ -16,7 +16,8 @@ class ProblemDetails : public QScrollArea {
 public:
     explicit ProblemDetails(QWidget *parent = nullptr);
 
-    /// Hidden for null. The buttons follow `previous` in the order of the Tab key.
+    /// Empty for null, in the same place, so that the list beside it does not move. The buttons
+    /// follow `previous` in the order of the Tab key.
     void show(const Zel::PackageModel::Issue *issue, QWidget *previous);
 
 Q_SIGNALS:

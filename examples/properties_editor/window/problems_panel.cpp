@@ -87,9 +87,10 @@ void ProblemsPanel::setUpView() {
     m_view->setAccessibleName(tr("Problems"));
     explainWhenEmpty(m_view, tr("No problems, or the filter above hides them."));
     QHeaderView *header = m_view->header();
-    header->setStretchLastSection(true);
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(ProblemsModel::Text, QHeaderView::Stretch);
     header->resizeSection(ProblemsModel::Severity, 100);
-    header->resizeSection(ProblemsModel::Text, 400);
+    header->resizeSection(ProblemsModel::Field, 200);
     header->setSectionsClickable(true);
     header->setSortIndicatorShown(true);
     header->setSortIndicator(-1, Qt::AscendingOrder);
