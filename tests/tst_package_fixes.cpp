@@ -2,9 +2,12 @@
 #include "random_edits.h"
 #include "text.h"
 
+#include <packagemodel/ignore_comments.h>
 #include <packagemodel/issue_tracker.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
+
+#include <tano/kept_content.h>
 
 #include <QDir>
 
@@ -147,6 +150,49 @@ private Q_SLOTS:
         package.reset();
         tracker.update();
         QVERIFY(tracker.issues().isEmpty());
+    }
+
+    // Each issue on its own, and all of them in turn.
+    void ignoredIssues_data() { manifests_data(); }
+
+    void ignoredIssues() {
+        QFETCH(QString, file);
+        QFile manifest(file);
+        PackageInfoModel package;
+        QVERIFY(package.loadFromManifestFile(manifest));
+        IssueOptions options{QFileInfo(file).path()};
+        options.filterFor = notIgnored;
+        const auto all = issues(&package, options);
+        const QByteArray before = package.saveToManifestContent();
+        const auto isThere = [&](const Issue &issue) {
+            const auto left = issues(&package, options);
+            return std::any_of(left.begin(), left.end(), [&](const Issue &each) {
+                return each.id == issue.id && each.path == issue.path;
+            });
+        };
+        QByteArray places;
+        for (const Issue &issue : all) {
+            const Edits edits = ignoringEdits(&package, {issue});
+            const auto read = editsFromJson(toJson(edits));
+            const Applied applied = apply(&package, read.edits);
+            QCOMPARE(applied.error + read.error, QString());
+            QVERIFY2(!isThere(issue), qPrintable(issue.id));
+            QVERIFY(ignoringEdits(&package, {issue}).isEmpty());
+            for (const Tano::KeptComment &comment : Tano::comments(package.packageInfo())) {
+                if (QByteArray::fromStdString(comment.text).contains(issue.id.toUtf8()))
+                    places += issue.path.toUtf8() + " [" + issue.id.toUtf8() + "] before '" +
+                              QByteArray::fromStdString(comment.before.toString()) + "'\n";
+            }
+            QCOMPARE(apply(&package, applied.inverse).error, QString());
+            QCOMPARE(package.saveToManifestContent(), before);
+        }
+        if (all.isEmpty())
+            return;
+        QCOMPARE(apply(&package, ignoringEdits(&package, all)).error, QString());
+        QCOMPARE(listing(issues(&package, options)), QByteArray());
+        COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/ignored-") %
+                                QFileInfo(file).dir().dirName() % text(".txt"),
+                            places + package.saveToManifestContent());
     }
 
 private:

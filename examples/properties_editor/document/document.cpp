@@ -1,6 +1,7 @@
 #include "document.h"
 
 #include "field_edits.h"
+#include "problem_report.h"
 
 #include <packagemodel/edit_session.h>
 
@@ -288,9 +289,8 @@ LanguageCoverage Document::coverage(const QString &languageCode) const {
 
 // Checks the whole package, and its files.
 void Document::trackIssues() {
-    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
-    m_tracker = std::make_unique<Zel::PackageModel::IssueTracker>(
-        m_package.get(), Zel::PackageModel::IssueOptions{folder});
+    m_tracker = std::make_unique<Zel::PackageModel::IssueTracker>(m_package.get(),
+                                                                  issueOptions(m_fileName));
     indexIssues();
 }
 

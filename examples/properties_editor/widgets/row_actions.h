@@ -27,6 +27,8 @@ struct RowList {
     /// Removes rows whose entries are not all that goes with them, such as languages with their
     /// texts. Such rows are neither cut nor duplicated.
     std::function<void(const QVector<int> &rows)> removal = {};
+    /// False for rows that are only removed, and copied as text.
+    bool hasEntries = true;
 };
 
 /// Cut, copy, paste, duplicate, delete and move for the selected rows of a view, by shortcut,

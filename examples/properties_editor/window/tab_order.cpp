@@ -75,6 +75,10 @@ void setTabOrderOf(QMainWindow &window) {
     const auto docks = window.findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks)
         stops.add(dock);
+    // Of docks that are tabs; below their pages.
+    const auto bars = window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QTabBar *bar : bars)
+        stops.add(bar);
     stops.add(window.statusBar());
     stops.apply();
 }
