@@ -32,7 +32,7 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fields/empty.json"), json);
     }
 
-    // Each field is set and removed, each list gets a copy of its entries, each entry moves.
+    // Sets and removes each field, copies the entries of each list, and moves each entry.
     void editsComeBack() {
         Edits edits;
         for (const Field &field : fields(&m_package)) {

@@ -12,7 +12,7 @@
 
 namespace {
 
-// The output, each line of the messages after "2> ", and a status other than 0 after "=> ".
+// The output, with "2> " before each line of the messages, and "=> " before a status other than 0.
 QByteArray printed(const Outcome &outcome) {
     QByteArray lines = outcome.out;
     if (!lines.isEmpty() && !lines.endsWith('\n'))
@@ -43,7 +43,7 @@ private:
 private Q_SLOTS:
     void init() { resetFiles(m_dir.path()); }
 
-    // Files of lines for a shell, "$ zel-package ...", each followed by the printed() outcome.
+    // Files of shell commands, "$ zel-package ...", each followed by the printed() outcome.
     void shellLines_data() {
         QTest::addColumn<QString>("path");
         const auto files = QDir(testData("zel-package/shell")).entryInfoList(QDir::Files);
@@ -66,7 +66,7 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(path, transcript);
     }
 
-    // The commands in docs/translating.md print what it says, one after the other.
+    // The commands in docs/translating.md print the output shown there, in order.
     void documentedTranslation() {
         const QByteArray manual = contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/translating.md"));
         QVERIFY(QFile::copy(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/small/manifest.xml"),
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(QString::fromUtf8(actual), expected);
     }
 
-    // The manual page and the completion know what the help offers.
+    // The manual page and the completions cover everything in the help.
     void helpIsComplete() {
         const QByteArray manual =
             contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/zel-package.1")).replace("\\-", "-");
@@ -121,7 +121,7 @@ private Q_SLOTS:
         }
     }
 
-    // Nothing that garbles a terminal is in the output, and nothing is lost.
+    // The output contains all of the text, and nothing that garbles a terminal.
     void showJsonOfHardText() {
         const QString path = testData("manifest/valid/hard-text.xml");
         const Outcome outcome =

@@ -164,7 +164,8 @@ void Document::finishEdit() {
     if (isStep)
         closeRun();
     m_coverages.reset();
-    refreshIssues();
+    if (m_tracker->update())
+        indexIssues();
     Q_EMIT edited();
     if (const auto field = isStep ? changedField(before) : FieldPath(); !field.isEmpty())
         Q_EMIT fieldChanged(Zel::fromUtf8(field.toString()));

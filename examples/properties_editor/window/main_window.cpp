@@ -74,9 +74,11 @@ MainWindow::~MainWindow() {
         focus->clearFocus();
     m_document.closeRun();
     m_document.undoStack()->disconnect(this);
-    // They look at the document until they are gone.
-    while (auto *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
-        delete child;
+    // They look at the document until they are gone. The other children belong to the layout.
+    for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        delete dock;
+    delete centralWidget();
+    setStatusBar(nullptr);
 }
 
 void MainWindow::addPages() {

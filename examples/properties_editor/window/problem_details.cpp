@@ -32,7 +32,7 @@ ProblemDetails::ProblemDetails(QWidget *parent)
     setWidget(content);
 }
 
-void ProblemDetails::show(const Issue *issue, QWidget *previous) {
+void ProblemDetails::show(const Issue *issue, const QVector<Fix> &fixes, QWidget *previous) {
     while (m_buttons->count() > 0) {
         const std::unique_ptr<QLayoutItem> item(m_buttons->takeAt(0));
         item->widget()->deleteLater();
@@ -49,9 +49,10 @@ void ProblemDetails::show(const Issue *issue, QWidget *previous) {
         setTabOrder(previous, button);
         previous = button;
     };
-    for (const Fix &fix : issue->fixes) {
+    for (const Fix &fix : fixes) {
         auto *button = new QPushButton(withoutMnemonics(fix.title));
-        connect(button, &QPushButton::clicked, this, [this, fix] { Q_EMIT fixWanted(fix); });
+        connect(button, &QPushButton::clicked, this,
+                [this, title = fix.title] { Q_EMIT fixWanted(title); });
         add(button);
     }
     auto *ignore = new QPushButton(tr("Ignore"));

@@ -18,10 +18,11 @@ public:
 
     /// Empty for null, in the same place, so that the list beside it does not move. The buttons
     /// follow `previous` in the order of the Tab key.
-    void show(const Zel::PackageModel::Issue *issue, QWidget *previous);
+    void show(const Zel::PackageModel::Issue *issue, const QVector<Zel::PackageModel::Fix> &fixes,
+              QWidget *previous);
 
 Q_SIGNALS:
-    void fixWanted(const Zel::PackageModel::Fix &fix);
+    void fixWanted(const QString &title);
     void ignoreWanted();
 
 private:

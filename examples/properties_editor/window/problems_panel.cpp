@@ -149,11 +149,17 @@ QVector<Issue> ProblemsPanel::selected() const {
 }
 
 void ProblemsPanel::refresh() {
-    m_details->show(issueOf(m_view->currentIndex()), m_view);
+    const Issue *issue = issueOf(m_view->currentIndex());
+    m_details->show(issue, issue ? m_document.fixes(*issue) : QVector<Fix>(), m_view);
 }
 
-void ProblemsPanel::fix(const Fix &fix) {
-    m_document.edit(fix.edits, fix.title);
+// An edit elsewhere may have changed what the fix has to do.
+void ProblemsPanel::fix(const QString &title) {
+    const Issue *issue = issueOf(m_view->currentIndex());
+    for (const Fix &fix : issue ? m_document.fixes(*issue) : QVector<Fix>()) {
+        if (fix.title == title)
+            return m_document.edit(fix.edits, title);
+    }
 }
 
 void ProblemsPanel::fixAllSafe() {
@@ -184,8 +190,9 @@ void ProblemsPanel::showMenu(const QPoint &place) {
     if (!issue)
         return;
     QMenu menu;
-    for (const Fix &each : issue->fixes)
-        menu.addAction(withoutMnemonics(each.title), this, [this, each] { fix(each); });
+    for (const Fix &each : m_document.fixes(*issue))
+        menu.addAction(withoutMnemonics(each.title), this,
+                       [this, title = each.title] { fix(title); });
     menu.addSeparator();
     menu.addActions(m_view->actions());
     menu.addAction(tr("&Show the field"), this,

@@ -42,7 +42,7 @@ private:
     void sort(int column, Qt::SortOrder order);
     void showBeside(int distance);
     void refresh();
-    void fix(const Zel::PackageModel::Fix &fix);
+    void fix(const QString &title);
     void ignoreSelected();
     void copySelected();
     void showMenu(const QPoint &place);

@@ -29,7 +29,7 @@ public:
     explicit TextWriter(Console &console)
         : m_console(console) {}
 
-    // For the excerpts.
+    // Content is needed for excerpts.
     std::size_t neededContent() const override {
         return m_console.isTerminal() ? std::numeric_limits<std::size_t>::max() : 0;
     }

@@ -25,7 +25,7 @@ using Zel::PackageModel::IssueVisit;
 using Zel::PackageModel::Rule;
 using Zel::PackageModel::Severity;
 
-// Of one rule in one manifest. A manifest can have as many as behaviors times languages.
+// Per rule and manifest. There may be as many as behaviors times languages.
 constexpr int mostFindings = 10000;
 
 void sortByPlace(std::vector<ManifestFinding> &findings) {
@@ -38,10 +38,10 @@ void sortByPlace(std::vector<ManifestFinding> &findings) {
 
 } // namespace
 
-// A manifest on its way through the checks.
+// A manifest to check.
 struct Validation::Target {
-    QString file; // as it is opened
-    QString name; // as it is reported
+    QString file; // as opened
+    QString name; // as reported
     QString patchName;
     QString folder;
     RuleSettings settings;
@@ -120,8 +120,8 @@ void Validation::check(const QString &file, const QString &patchName) {
     write(target, manifest);
 }
 
-// The bytes of a manifest take as much memory as all the rest, so they are read and kept only where
-// they are needed.
+// A manifest's bytes take as much memory as everything else, so they are read and kept only if
+// needed.
 bool Validation::read(const Target &target, Tano::ManifestReader &reader, CheckedManifest &manifest,
                       QString &trouble) {
     if (!m_request.fixes && m_writer.neededContent() == 0)
@@ -255,7 +255,7 @@ std::vector<ManifestFinding> Validation::unusedEntries(const QString &file) cons
     return findings;
 }
 
-// Their entries have no manifest to be reported in.
+// Reports them under the baseline, since their manifests do not exist.
 void Validation::reportMissingManifests() {
     const Target target = targetOf(m_request.baseline);
     if (target.settings.isOff(baselineUnusedRuleId))
@@ -268,8 +268,7 @@ void Validation::reportMissingManifests() {
              target.settings.severityOf(baselineUnusedRuleId, Severity::Note),
              {},
              QCoreApplication::translate(
-                 "zel-package",
-                 "The baseline lists findings in '%1', which does not exist any more.")
+                 "zel-package", "The baseline lists findings in '%1', which no longer exists.")
                  .arg(file)});
     write(target, baseline);
 }

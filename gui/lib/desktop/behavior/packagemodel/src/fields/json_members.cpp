@@ -41,7 +41,7 @@ JsonMembers JsonMembers::ofDocument(const QByteArray &json) {
     const int format = members.takeNumber(formatMember);
     if (members.error.isEmpty() && format != jsonFormat)
         members.fail(formatMember,
-                     inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The format %1 is not known."))
+                     inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "Format %1 is not supported."))
                          .arg(format));
     return members;
 }
