@@ -1,5 +1,7 @@
 #include "random_input.h"
 
+#include "document/problem_report.h"
+
 #include <packagemodel/package_edits.h>
 
 #include <QAbstractButton>
@@ -201,9 +203,8 @@ void RandomInput::check() {
     stack->setIndex(0);
     stack->setIndex(index);
     compare(present, "Redo leads to a different package:");
-    const QString folder = QFileInfo(document.fileName()).path();
-    const auto issues = Zel::PackageModel::issues(
-        document.package(), {document.fileName().isEmpty() ? QString() : folder});
+    const auto issues =
+        Zel::PackageModel::issues(document.package(), Editor::issueOptions(document.fileName()));
     const QStringList expected = inWords(issues);
     const QStringList shown = inWords(document.issues());
     const auto [left, right] =

@@ -63,7 +63,7 @@ private:
 
     // Not what the platform cannot do, and not what the library says about files.
     static QRegularExpression unexpected() {
-        return QRegularExpression(QStringLiteral("^(?!This plugin does not support|\\w+: /)"));
+        return QRegularExpression(QStringLiteral("^(?!This plugin does not support|\\w+: (Ignoring )?/)"));
     }
 
     WarningGuard m_warnings;
