@@ -63,7 +63,8 @@ private:
 
     // Not what the platform cannot do, and not what the library says about files.
     static QRegularExpression unexpected() {
-        return QRegularExpression(QStringLiteral("^(?!This plugin does not support|\\w+: (Ignoring )?/)"));
+        return QRegularExpression(
+            QStringLiteral("^(?!This plugin does not support|\\w+: (Ignoring )?/)"));
     }
 
     WarningGuard m_warnings;
