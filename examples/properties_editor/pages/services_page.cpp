@@ -109,10 +109,7 @@ void ServicesPage::refresh() {
 
 void ServicesPage::addProperty() {
     const int row = int(m_properties->keys().indexOf(m_properties->add()));
-    const QModelIndex cell = m_properties->index(row, PropertiesModel::Name);
-    m_propertyTable->setFocus();
-    selectAlone(m_propertyTable, cell);
-    m_propertyTable->edit(cell);
+    editAlone(m_propertyTable, m_properties->index(row, PropertiesModel::Name));
 }
 
 void ServicesPage::add() {
@@ -122,10 +119,7 @@ void ServicesPage::add() {
     Tano::PackageService service;
     service.name = Zel::toUtf8(name);
     document().edit({appended(FieldPath().field("services"), service)});
-    const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
-    m_table->setFocus();
-    selectAlone(m_table, cell);
-    m_table->edit(cell);
+    editAlone(m_table, m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
 }
 
 bool ServicesPage::showField(const FieldPath &path) {

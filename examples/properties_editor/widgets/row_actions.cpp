@@ -61,6 +61,14 @@ void selectAlone(QAbstractItemView *view, const QModelIndex &index) {
     view->setSelectionMode(mode);
 }
 
+void editAlone(QAbstractItemView *view, const QModelIndex &cell) {
+    if (!cell.isValid())
+        return;
+    view->setFocus();
+    selectAlone(view, cell);
+    view->edit(cell);
+}
+
 RowActions::RowActions(QAbstractItemView *view, Document &document, RowList list)
     : QObject(view)
     , m_view(view)

@@ -19,6 +19,8 @@ class Document;
 
 /// Selects an item of a view and nothing else, whatever keys are held down.
 void selectAlone(QAbstractItemView *view, const QModelIndex &index);
+/// Selects a cell and opens its editor. Does nothing without one: its entry was refused.
+void editAlone(QAbstractItemView *view, const QModelIndex &cell);
 
 /// The list of a package whose entries are the rows of a view.
 struct RowList {

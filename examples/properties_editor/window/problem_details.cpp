@@ -46,7 +46,8 @@ void ProblemDetails::show(const Issue *issue, const QVector<Fix> &fixes, QWidget
     m_explanation->setText(rule->explanation % u' ' % rule->remedy);
     const auto add = [&](QPushButton *button) {
         m_buttons->addWidget(button, 0, Qt::AlignLeft);
-        setTabOrder(previous, button);
+        if (previous->window() == button->window())
+            setTabOrder(previous, button);
         previous = button;
     };
     for (const Fix &fix : fixes) {

@@ -74,7 +74,7 @@ void setTabOrderOf(QMainWindow &window) {
     stops.add(window.centralWidget());
     const auto docks = window.findChildren<QDockWidget *>();
     for (QDockWidget *dock : docks) {
-        if (!dock->isFloating()) // or it is a window of its own
+        if (!dock->isFloating())
             stops.add(dock);
     }
     // Of docks that are tabs; below their pages.
