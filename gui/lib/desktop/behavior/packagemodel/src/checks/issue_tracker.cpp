@@ -118,7 +118,7 @@ std::vector<std::string> commonInput(const PackageInfoModel &package) {
 
 } // namespace
 
-struct IssueTracker::Data {
+struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
     // What a behavior was like when it was checked last, and what was found.
     struct CheckedBehavior {
         const BehaviorInfoModel *model; // may be dangling
