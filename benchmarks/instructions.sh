@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Usage: instructions.sh BIN
 #
-# Counts the instructions of a load, a save and a validation of a package of 1,000 behaviors with
-# valgrind, which does not depend on the load of the machine. Compares them with instructions.txt;
-# the exit status is 1 if one differs by more than 2 %. With ZEL_UPDATE_GOLDEN in the environment,
-# writes that file instead.
+# Counts the instructions of a load, a save, the making of models and a validation of a package of
+# 1,000 behaviors with valgrind, which does not depend on the load of the machine. Models and
+# validation include deleting the models. Compares them with instructions.txt; the exit status is 1
+# if one differs by more than 2 %. With ZEL_UPDATE_GOLDEN in the environment, writes that file
+# instead.
 
 set -euo pipefail
 bin=$1
@@ -22,8 +23,9 @@ count() {
 base=$(count read)
 load=$(($(count load) - base))
 save=$(($(count save) - base - load))
+models=$(($(count models) - base - load))
 validate=$(($(count validate) - base - load))
-printf 'load %d\nsave %d\nvalidate %d\n' "$load" "$save" "$validate" >"$work/counts"
+printf 'load %d\nsave %d\nmodels %d\nvalidate %d\n' "$load" "$save" "$models" "$validate" >"$work/counts"
 if [ -n "${ZEL_UPDATE_GOLDEN-}" ]; then
     cp "$work/counts" "$golden"
 fi
