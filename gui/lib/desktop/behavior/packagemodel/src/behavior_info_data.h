@@ -18,7 +18,9 @@ struct PACKAGEMODEL_NO_EXPORT BehaviorInfoModel::Data : ChildData<BehaviorInfoMo
     Data(BehaviorInfoModel *behavior, const Tano::BehaviorInfo &info, PackageInfoModel *package);
     Data(BehaviorInfoModel *behavior, const Data &other);
 
-    using TextField = LocalizedField<BehaviorInfoModel, Data, Tano::BehaviorInfo>;
+    using LazyTexts = DecodedOnUse<CachedTexts, Tano::BehaviorInfo>;
+    using LazyLists = DecodedOnUse<CachedLists, Tano::BehaviorInfo>;
+    using TextField = LocalizedField<BehaviorInfoModel, Data, Tano::BehaviorInfo, LazyTexts>;
     static const TextField nameField;
     static const TextField descriptionField;
 
@@ -30,7 +32,7 @@ struct PACKAGEMODEL_NO_EXPORT BehaviorInfoModel::Data : ChildData<BehaviorInfoMo
         void (Tano::BehaviorInfo::*add)(const std::string &value, const std::string &key);
         void (Tano::BehaviorInfo::*insert)(const std::string &value, const std::string &key,
                                            int index);
-        CachedLists Data::*cache; // null for conditions, which are not cached
+        LazyLists Data::*cache; // null for conditions, which are not cached
         void (BehaviorInfoModel::*added)(const QString &value, const Key &key);
         void (BehaviorInfoModel::*inserted)(const QString &value, const Key &key, int index);
         void (BehaviorInfoModel::*updated)(int index, const QString &value, const Key &key);
@@ -76,11 +78,11 @@ struct PACKAGEMODEL_NO_EXPORT BehaviorInfoModel::Data : ChildData<BehaviorInfoMo
     bool remove(const ListKind<Key> &kind, int index, const Key &inKey);
 
     BehaviorInfoModel *model;
-    CachedTexts names;
-    CachedTexts descriptions;
-    CachedLists tags;
-    CachedLists triggerSentences;
-    CachedLists loadingResponses;
+    LazyTexts names;
+    LazyTexts descriptions;
+    LazyLists tags;
+    LazyLists triggerSentences;
+    LazyLists loadingResponses;
     QPointer<PackageInfoModel> package;
 
 private:

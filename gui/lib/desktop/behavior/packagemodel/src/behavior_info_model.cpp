@@ -15,6 +15,23 @@ bool isRootBehavior(const QString &path) {
     return path == QLatin1String(".");
 }
 
+template<const Tano::TextMap &(Tano::BehaviorInfo::*texts)() const>
+CachedTexts decodeTexts(const Tano::BehaviorInfo &record) {
+    return textsFromRecord((record.*texts)());
+}
+
+template<const Tano::TextListMap &(Tano::BehaviorInfo::*lists)() const>
+CachedLists decodeLists(const Tano::BehaviorInfo &record) {
+    return listsFromRecord((record.*lists)());
+}
+
+// Other languages are known only while the cache holds them.
+template<typename Cache, typename Map>
+void useLanguages(const Cache &cache, const Map &field) {
+    if (!areBuiltIn(field))
+        cache.values();
+}
+
 } // namespace
 
 const BehaviorInfoModel::Data::TextField BehaviorInfoModel::Data::nameField{
@@ -37,22 +54,27 @@ BehaviorInfoModel::Data::Data(BehaviorInfoModel *behavior, const Tano::BehaviorI
                               PackageInfoModel *package)
     : ChildData(behavior, info)
     , model(behavior)
-    , names(textsFromRecord(info.names()))
-    , descriptions(textsFromRecord(info.descriptions()))
-    , tags(listsFromRecord(info.languagesToTags()))
-    , triggerSentences(listsFromRecord(info.languagesToTriggerSentences()))
-    , loadingResponses(listsFromRecord(info.languagesToLoadingResponses()))
+    , names(record(), decodeTexts<&Tano::BehaviorInfo::names>)
+    , descriptions(record(), decodeTexts<&Tano::BehaviorInfo::descriptions>)
+    , tags(record(), decodeLists<&Tano::BehaviorInfo::languagesToTags>)
+    , triggerSentences(record(), decodeLists<&Tano::BehaviorInfo::languagesToTriggerSentences>)
+    , loadingResponses(record(), decodeLists<&Tano::BehaviorInfo::languagesToLoadingResponses>)
     , package(package) {
+    useLanguages(names, info.names());
+    useLanguages(descriptions, info.descriptions());
+    useLanguages(tags, info.languagesToTags());
+    useLanguages(triggerSentences, info.languagesToTriggerSentences());
+    useLanguages(loadingResponses, info.languagesToLoadingResponses());
 }
 
 BehaviorInfoModel::Data::Data(BehaviorInfoModel *behavior, const Data &other)
     : ChildData(behavior, other.record())
     , model(behavior)
-    , names(other.names)
-    , descriptions(other.descriptions)
-    , tags(other.tags)
-    , triggerSentences(other.triggerSentences)
-    , loadingResponses(other.loadingResponses)
+    , names(record(), other.names)
+    , descriptions(record(), other.descriptions)
+    , tags(record(), other.tags)
+    , triggerSentences(record(), other.triggerSentences)
+    , loadingResponses(record(), other.loadingResponses)
     , package(other.package) {
 }
 
@@ -125,19 +147,19 @@ QString BehaviorInfoModel::nature() const {
 }
 
 QString BehaviorInfoModel::name(const RobotLanguage &lang) const {
-    return valueFor(m_data->names, lang);
+    return valueFor(m_data->names.values(), lang);
 }
 
 const Language::LocalizedStrings &BehaviorInfoModel::names() const {
-    return m_data->names;
+    return m_data->names.values();
 }
 
 QString BehaviorInfoModel::description(const RobotLanguage &lang) const {
-    return valueFor(m_data->descriptions, lang);
+    return valueFor(m_data->descriptions.values(), lang);
 }
 
 const Language::LocalizedStrings &BehaviorInfoModel::descriptions() const {
-    return m_data->descriptions;
+    return m_data->descriptions.values();
 }
 
 QSet<QString> BehaviorInfoModel::permissions() const {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <utility>
 
 namespace Zel {
 namespace {
@@ -33,7 +34,7 @@ const std::vector<std::string> &recordList(const Tano::BehaviorInfo &record,
 template<typename Key, typename Data, typename Kind, typename Edit>
 void editCache(Data &data, const Kind &kind, Edit edit) {
     if constexpr (std::is_same_v<Key, RobotLanguage>)
-        edit(data.*kind.cache);
+        edit((data.*kind.cache).values());
 }
 
 } // namespace
@@ -64,7 +65,7 @@ const BehaviorInfoModel::Data::ListKind<QString> BehaviorInfoModel::Data::condit
 
 QStringList BehaviorInfoModel::Data::list(const ListKind<RobotLanguage> &kind,
                                           const RobotLanguage &language) const {
-    return valueFor(this->*kind.cache, language);
+    return valueFor((this->*kind.cache).values(), language);
 }
 
 QStringList BehaviorInfoModel::Data::list(const ListKind<QString> &, const QString &purpose) const {
@@ -73,7 +74,7 @@ QStringList BehaviorInfoModel::Data::list(const ListKind<QString> &, const QStri
 
 int BehaviorInfoModel::Data::size(const ListKind<RobotLanguage> &kind,
                                   const RobotLanguage &language) const {
-    const auto *entry = (this->*kind.cache).find(language);
+    const auto *entry = (this->*kind.cache).values().find(language);
     return entry ? static_cast<int>(entry->first.size()) : 0;
 }
 
@@ -83,7 +84,7 @@ int BehaviorInfoModel::Data::size(const ListKind<QString> &kind, const QString &
 
 bool BehaviorInfoModel::Data::contains(const ListKind<RobotLanguage> &kind,
                                        const RobotLanguage &language, const QString &value) const {
-    const auto *entry = (this->*kind.cache).find(language);
+    const auto *entry = (this->*kind.cache).values().find(language);
     return entry && entry->first.contains(value);
 }
 
@@ -96,7 +97,7 @@ bool BehaviorInfoModel::Data::contains(const ListKind<QString> &kind, const QStr
 
 QString BehaviorInfoModel::Data::valueAt(const ListKind<RobotLanguage> &kind,
                                          const RobotLanguage &language, int index) const {
-    return (this->*kind.cache).find(language)->first.at(index);
+    return (this->*kind.cache).values().find(language)->first.at(index);
 }
 
 QString BehaviorInfoModel::Data::valueAt(const ListKind<QString> &kind, const QString &purpose,
@@ -204,7 +205,7 @@ QStringList BehaviorInfoModel::tags(const RobotLanguage &lang) const {
 }
 
 const Language::LocalizedStringLists &BehaviorInfoModel::languagesToTags() const {
-    return m_data->tags;
+    return std::as_const(m_data->tags).values();
 }
 
 QStringList BehaviorInfoModel::triggerSentences(const RobotLanguage &lang) const {
@@ -212,7 +213,7 @@ QStringList BehaviorInfoModel::triggerSentences(const RobotLanguage &lang) const
 }
 
 const Language::LocalizedStringLists &BehaviorInfoModel::languagesToTriggerSentences() const {
-    return m_data->triggerSentences;
+    return std::as_const(m_data->triggerSentences).values();
 }
 
 QStringList BehaviorInfoModel::loadingResponses(const RobotLanguage &lang) const {
@@ -220,7 +221,7 @@ QStringList BehaviorInfoModel::loadingResponses(const RobotLanguage &lang) const
 }
 
 const Language::LocalizedStringLists &BehaviorInfoModel::languagesToLoadingResponses() const {
-    return m_data->loadingResponses;
+    return std::as_const(m_data->loadingResponses).values();
 }
 
 QStringList BehaviorInfoModel::conditions(const QString &purpose) const {

@@ -1,5 +1,7 @@
 #include "localized_texts.h"
 
+#include <unordered_set>
+
 namespace Zel {
 
 RobotLanguage languageFromCode(const std::string &code) {
@@ -12,6 +14,14 @@ RobotLanguages languagesFromCodes(const std::vector<std::string> &codes) {
     for (const std::string &code : codes)
         languages.push_back(languageFromCode(code));
     return languages;
+}
+
+bool isBuiltIn(const std::string &code) {
+    static const auto builtIn = [] {
+        const std::set<std::string> codes = codesOf(Language::builtInLanguages());
+        return std::unordered_set<std::string>(codes.begin(), codes.end());
+    }();
+    return builtIn.count(code) != 0;
 }
 
 std::string codeOf(const RobotLanguage &language) {

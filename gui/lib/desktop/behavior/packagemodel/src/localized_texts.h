@@ -2,6 +2,7 @@
 
 #include "by_language.h"
 #include "copies.h"
+#include "decoded_on_use.h"
 
 #include <packagemodel/text_conversion.h>
 
@@ -10,6 +11,7 @@
 
 #include <QObject>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <utility>
@@ -21,6 +23,13 @@ namespace Zel {
 /// its texts are kept and shown.
 RobotLanguage languageFromCode(const std::string &code);
 RobotLanguages languagesFromCodes(const std::vector<std::string> &codes);
+/// Whether the code is of a built-in language, which stays known without being in use.
+bool isBuiltIn(const std::string &code);
+template<typename Map>
+bool areBuiltIn(const Map &byCode) {
+    return std::all_of(byCode.begin(), byCode.end(),
+                       [](const auto &entry) { return isBuiltIn(entry.first); });
+}
 /// The records' key for a language.
 std::string codeOf(const RobotLanguage &language);
 std::set<std::string> codesOf(const RobotLanguages &languages);
@@ -54,21 +63,36 @@ void keepOnly(const ByLanguage<RobotLanguage> &languages, Values &values) {
     values.removeIf([&](const RobotLanguage &language) { return !languages.contains(language); });
 }
 
+/// The same for values that may not be decoded yet; the record's texts are dropped with them.
+template<typename Values, typename Record>
+void keepOnly(const ByLanguage<RobotLanguage> &languages, DecodedOnUse<Values, Record> &cache) {
+    if (cache.isDecoded())
+        keepOnly(languages, cache.values());
+}
+
+inline CachedTexts &valuesOf(CachedTexts &cache) {
+    return cache;
+}
+template<typename Values, typename Record>
+Values &valuesOf(DecodedOnUse<Values, Record> &cache) {
+    return cache.values();
+}
+
 /// One kind of text per language: the record's operations, the cache, and the setter's
 /// notification.
-template<typename Model, typename Data, typename Record>
+template<typename Model, typename Data, typename Record, typename Cache>
 struct LocalizedField {
     const Tano::TextMap &(Record::*texts)() const;
     const std::string &(Record::*text)(const std::string &code) const;
     void (Record::*setText)(const std::string &text, const std::string &code);
     bool (Record::*removeText)(const std::string &code);
-    CachedTexts Data::*cache;
+    Cache Data::*cache;
     void (Model::*updated)(const QString &text, const RobotLanguage &language);
 };
 
 /// Sets a text unless the record already has it.
-template<typename Model, typename Data, typename Record>
-void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record> &field,
+template<typename Model, typename Data, typename Record, typename Cache>
+void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
              const QString &newText, const RobotLanguage &inLanguage) {
     const std::string code = codeOf(inLanguage);
     const std::string bytes = toUtf8(newText);
@@ -76,21 +100,23 @@ void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record>
         return;
     const QString text = copyOf(newText);
     const RobotLanguage language = copyOf(inLanguage);
+    CachedTexts &cache = valuesOf(data.*field.cache);
     data.editAnnounced([&](Record &record) { (record.*field.setText)(bytes, code); });
-    madeValue(data.*field.cache, language) = text;
+    madeValue(cache, language) = text;
     Q_EMIT(model->*field.updated)(text, language);
 }
 
 /// Removes a text, announced as a change to the empty text. Returns false if there is none.
-template<typename Model, typename Data, typename Record>
-bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Record> &field,
+template<typename Model, typename Data, typename Record, typename Cache>
+bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
                 const RobotLanguage &inLanguage) {
     const RobotLanguage language = copyOf(inLanguage);
     const std::string code = codeOf(language);
     if ((data.record().*field.texts)().count(code) == 0)
         return false;
+    CachedTexts &cache = valuesOf(data.*field.cache);
     data.editAnnounced([&](Record &record) { (record.*field.removeText)(code); });
-    (data.*field.cache).remove(language);
+    cache.remove(language);
     Q_EMIT(model->*field.updated)(QString(), language);
     return true;
 }

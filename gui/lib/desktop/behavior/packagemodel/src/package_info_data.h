@@ -36,7 +36,8 @@ struct PACKAGEMODEL_NO_EXPORT PackageInfoModel::Data {
     /// Marks the record's lists as out of sync after the record was replaced.
     void setOutOfStep();
 
-    using LocalizedTextField = LocalizedField<PackageInfoModel, Data, Tano::PackageInfo>;
+    using LocalizedTextField =
+        LocalizedField<PackageInfoModel, Data, Tano::PackageInfo, CachedTexts>;
     static const LocalizedTextField nameField;
     static const LocalizedTextField descriptionField;
 
