@@ -39,6 +39,8 @@ std::string ManifestAttributes::read(const ElementRule &rule, const char **attri
     const std::size_t known = rule.attributes.size();
     m_present = 0;
     m_hasUnknown = false;
+    if (known == 0 && !*attributes)
+        return {};
     for (std::size_t i = 0; i < known; ++i)
         m_values[i].clear();
 

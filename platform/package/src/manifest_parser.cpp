@@ -169,14 +169,14 @@ bool ManifestParser::declareNamespaces(const XML_Char **attributes) {
 void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
     if (!m_failure.message.empty())
         return;
-    if (std::string sentence = exceededBound(m_parser.get(), name, ++m_depth); !sentence.empty())
-        return fail(std::move(sentence));
-    if (!declareNamespaces(attributes))
+    if (isBeyondBounds(m_parser.get(), ++m_depth))
+        return fail(exceededBound(m_parser.get(), name, m_depth));
+    if (*attributes && !declareNamespaces(attributes))
         return;
 
     if (m_unknownDepth > 0)
         return startUnknown(name, attributes);
-    const bool isForeign = !m_namespaces.defaultNamespace().empty();
+    const bool isForeign = !m_namespaces.isEmpty() && !m_namespaces.defaultNamespace().empty();
     if (m_open == 0) {
         if (name != ruleOf(Element::Package).name)
             return fail("The root element is " + tagged(name) + " instead of <package>.");

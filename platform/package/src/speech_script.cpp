@@ -201,9 +201,8 @@ void SpeechScriptReader::start(std::string_view name, const XML_Char **attribute
         return;
     if (!std::exchange(m_isInside, true))
         return; // the wrapping element
-    if (std::string sentence = exceededBound(m_parser.get(), name, int(m_open.size()) + 1);
-        !sentence.empty())
-        return fail(std::move(sentence));
+    if (const int depth = int(m_open.size()) + 1; isBeyondBounds(m_parser.get(), depth))
+        return fail(exceededBound(m_parser.get(), name, depth));
     if (name == "speak" && !m_open.empty())
         return fail("The element <speak> is within another element; it can only be the root.");
 

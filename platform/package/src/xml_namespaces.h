@@ -38,6 +38,8 @@ public:
         return !m_declared.empty() && m_declared.back().depth == depth;
     }
 
+    /// Whether there are no declarations in scope.
+    bool isEmpty() const { return m_declared.empty(); }
     /// The default namespace, empty if there is none.
     const std::string &defaultNamespace() const;
 

@@ -51,10 +51,8 @@ std::string exceededBound(XML_Parser parser, std::string_view element, int depth
         return tagTooLong;
     if (depth > ManifestReader::maxDepth)
         return "More than " + std::to_string(ManifestReader::maxDepth) + " elements are nested.";
-    if (XML_GetSpecifiedAttributeCount(parser) / 2 > ManifestReader::maxAttributes)
-        return "The element " + tagged(element) + " has more than " +
-               std::to_string(ManifestReader::maxAttributes) + " attributes.";
-    return {};
+    return "The element " + tagged(element) + " has more than " +
+           std::to_string(ManifestReader::maxAttributes) + " attributes.";
 }
 
 std::string describeXmlError(XML_Parser parser, std::string_view noun) {

@@ -26,7 +26,13 @@ inline bool isWhiteSpace(std::string_view text) {
     return true;
 }
 
-/// The limit of ManifestReader that the current element, at the given depth, exceeds; else empty.
+/// Whether the current element, at the given depth, exceeds a limit of ManifestReader.
+inline bool isBeyondBounds(XML_Parser parser, int depth) {
+    return std::size_t(XML_GetCurrentByteCount(parser)) > ManifestReader::maxTagLength ||
+           depth > ManifestReader::maxDepth ||
+           XML_GetSpecifiedAttributeCount(parser) / 2 > ManifestReader::maxAttributes;
+}
+/// A sentence about this limit.
 std::string exceededBound(XML_Parser parser, std::string_view element, int depth);
 /// Limits on tags apply exactly to complete tags. For an unterminated one, this many bytes without
 /// progress suffice to give up.
