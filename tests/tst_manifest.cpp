@@ -168,6 +168,23 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(package.errorString()), error);
     }
 
+    // The memory of what was read is released meanwhile.
+    void longManifestsAreReadWhole() {
+        PackageInfo package;
+        package.setUuid("u");
+        for (int i = 0; i < 150; ++i)
+            package.addService(
+                {std::to_string(i), std::string(70000, char('a' + i % 26)), false, {}});
+        std::string content = package.saveToManifestContent();
+        QVERIFY(content.size() > (std::size_t(8) << 20));
+        QCOMPARE(loaded(content), package);
+        content.insert(content.find("</package>"), "  <service/>\n");
+        QVERIFY(!package.loadFromManifestContent(content));
+        QCOMPARE(
+            package.errorString(),
+            std::string("Line 453, column 3: The element <service> lacks the attribute \"name\"."));
+    }
+
     void whatCannotBeReadIsNotSaved() {
         PackageInfo package;
         package.setUuid(std::string(ManifestReader::maxTagLength - 100, 'x'));

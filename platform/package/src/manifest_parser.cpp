@@ -1,5 +1,6 @@
 #include "manifest_parser.h"
 
+#include "page_release.h"
 #include "xml_escape.h"
 
 #include <QByteArray>
@@ -68,6 +69,7 @@ bool ManifestParser::feed(std::size_t size, bool isLast) {
         return false;
     }
     m_isEmpty = m_isEmpty && size == 0;
+    m_isLastPiece = isLast;
     const XML_Status status = XML_ParseBuffer(m_parser.get(), int(size), isLast);
     if (!m_failure.message.empty())
         return false;
@@ -239,6 +241,20 @@ void ManifestParser::end() {
         storeExtras(frame);
     if (--m_open == 0)
         m_rootDone = true;
+    if (m_open == 1 && m_releasesBytes && m_isLastPiece)
+        releaseBytes();
+}
+
+// Called between the children of the root element. expat compares the name in its end tag with the
+// bytes of its start tag, so those stay.
+void ManifestParser::releaseBytes() {
+    constexpr std::uint64_t step = std::uint64_t(128) << 10;
+    const std::uint64_t parsed = eventOffset();
+    const std::uint64_t from = std::max({m_released, m_fed, m_rootEnd});
+    if (parsed < from + step)
+        return;
+    releasePages(m_room + (from - m_fed), m_room + (parsed - m_fed));
+    m_released = parsed;
 }
 
 void ManifestParser::text(std::string_view text) {
@@ -304,10 +320,12 @@ void ManifestParser::openFrame(Element element, const XML_Char **attributes) {
         notePositions(frame, attributes);
     if (frame.rule->content == Content::Text)
         m_text.clear();
-    if (m_open > 1)
+    if (m_open > 1) {
         m_builder.start(frame.element, frame.key, m_attributes.values());
-    else
+    } else {
         m_builder.startPackage(m_attributes.values());
+        m_rootEnd = eventOffset() + std::uint64_t(XML_GetCurrentByteCount(m_parser.get()));
+    }
 }
 
 bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {

@@ -43,6 +43,10 @@ public:
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
 
+    /// Returns the memory of parsed bytes of the last piece to the system as the records take more.
+    /// If the manifest is rejected, the failure may be wrong; read it again to report it.
+    void releaseParsedBytes() { m_releasesBytes = true; }
+
     const ManifestFailure &failure() const { return m_failure; }
     /// The record, once all bytes were fed successfully.
     [[nodiscard]] std::shared_ptr<PackageData> takePackage();
@@ -98,6 +102,7 @@ private:
     void placeKept(Frame &parent, const Frame &child);
     void storeExtras(Frame &frame);
     void notePositions(Frame &frame, const XML_Char **attributes);
+    void releaseBytes();
 
     Frame &top() { return m_frames[std::size_t(m_open - 1)]; }
     Frame &parentOf(const Frame &frame) {
@@ -116,6 +121,10 @@ private:
     ManifestFailure m_failure;
     char *m_room = nullptr;
     std::uint64_t m_fed = 0; // the bytes before m_room
+    bool m_isLastPiece = false;
+    bool m_releasesBytes = false;
+    std::uint64_t m_rootEnd = 0;  // the end of the root element's start tag
+    std::uint64_t m_released = 0; // the end of the released bytes
     bool m_isEmpty = true;
     const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by number
     bool m_keepsPositions;

@@ -18,6 +18,9 @@ constexpr std::size_t streamPiece = std::size_t(64) << 10;
 // sixth of the time.
 constexpr std::size_t savingPiece = std::size_t(1) << 20;
 constexpr std::size_t smallPiece = std::size_t(8) << 10;
+// From this size on, memory matters more than the time to get pages from the system again at the
+// next load.
+constexpr qint64 releasedFrom = qint64(8) << 20;
 
 // Sources of a manifest's bytes. read() returns the number of bytes read: fewer than requested at
 // the end, negative on errors.
@@ -111,8 +114,11 @@ struct TANO_PACKAGE_NO_EXPORT ManifestReader::State {
         const bool keepPositions = positions == Positions::Keep;
         const bool isLong = !source.isSequential() && source.left() > qint64(hopelessLag);
         auto parser = std::make_unique<ManifestParser>(keepPositions);
+        if (isLong && !keepPositions && source.left() >= releasedFrom)
+            parser->releaseParsedBytes();
         failure = feedAll(*parser, source, keepPositions ? savingPiece : ManifestParser::maxPiece);
         // Read in small pieces, an unterminated tag is reported as such, and not for its contents.
+        // Released bytes are there again.
         if (!failure.message.empty() && isLong && source.rewind()) {
             parser = std::make_unique<ManifestParser>(keepPositions);
             failure = feedAll(*parser, source, streamPiece);
