@@ -23,7 +23,8 @@ namespace Zel::PackageModel {
 class PACKAGEMODEL_EXPORT IssueTracker {
 public:
     /// Checks the whole package. The options stay in force for updates; what they point to has to
-    /// live as long as the tracker, and their `withFixes` has no effect.
+    /// live as long as the tracker, and their `withFixes` has no effect. `filterFor` is called again
+    /// when findings or the package itself have changed.
     explicit IssueTracker(const PackageInfoModel *package, const IssueOptions &options = {});
     ~IssueTracker();
     IssueTracker(const IssueTracker &) = delete;
