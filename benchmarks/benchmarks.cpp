@@ -1,6 +1,6 @@
-// The cases that script/bench runs, each in a process of its own, and sets in proportion to each
-// other. Sizes are numbers of behaviors; the manifests come from write_samples, so that the heap of
-// a case has no history.
+// The cases of script/bench, which runs each in its own process and compares the results. Sizes are
+// numbers of behaviors. The manifests come from write_samples, so that each case starts with a
+// fresh heap.
 
 #include "sample_package.h"
 
@@ -23,7 +23,7 @@
 
 using namespace Zel;
 
-// Registers a case for every size.
+// Registers a case for each size.
 #define MEASURE(function)                                                                          \
     BENCHMARK(function)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)
 
@@ -38,7 +38,7 @@ int countOf(const benchmark::State &state) {
     return static_cast<int>(state.range(0));
 }
 
-// The manifest of a package with as many behaviors.
+// The manifest of a package with this number of behaviors.
 QByteArray manifest(const benchmark::State &state) {
     QFile file(qEnvironmentVariable("ZEL_BENCHMARK_SAMPLES") + QLatin1Char('/') +
                QString::number(countOf(state)) + QLatin1String(".xml"));
@@ -54,7 +54,7 @@ Tano::PackageInfo record(const benchmark::State &state) {
     return record;
 }
 
-// Times `make()` alone, not what it takes to be rid of its result.
+// Times `make()`, but not the destruction of its result.
 template<typename Make>
 void timeMaking(benchmark::State &state, Make &&make) {
     for (auto _ : state) {
@@ -95,7 +95,7 @@ void save(benchmark::State &state) {
 }
 MEASURE(save);
 
-// What a document is made of, decoded, so that writing it is all that remains to be done.
+// The decoded content of a document, so that only writing is measured.
 struct Token {
     QXmlStreamReader::TokenType type;
     QString text; // or the name of the element
@@ -150,7 +150,7 @@ void writeWithQt(benchmark::State &state) {
 }
 MEASURE(writeWithQt);
 
-// A model can neither be copied nor moved out of a function.
+// Models can neither be copied nor moved.
 std::unique_ptr<PackageInfoModel> modelOf(const Tano::PackageInfo &package) {
     return std::make_unique<PackageInfoModel>(package);
 }
@@ -161,7 +161,7 @@ void makeModels(benchmark::State &state) {
 }
 MEASURE(makeModels);
 
-// One child after the other is edited, so that each is met cold.
+// Edits one child after the other, so that each is cold in the cache.
 void editChild(benchmark::State &state) {
     const auto package = modelOf(record(state));
     const auto behaviors = package->behaviors();
@@ -184,7 +184,7 @@ void copyListDeeply(benchmark::State &state) {
     timeMaking(state, [&] {
         std::vector<Tano::BehaviorInfo> copies = package.behaviors();
         for (Tano::BehaviorInfo &copy : copies)
-            copy.setUserRequestable(copy.isUserRequestable()); // makes its data its own
+            copy.setUserRequestable(copy.isUserRequestable()); // detaches its data
         return copies;
     });
 }
@@ -213,7 +213,7 @@ void validate(benchmark::State &state) {
 }
 MEASURE(validate);
 
-// The validator alone is called: the change of the behavior itself is another figure.
+// Calls only the validator; editing behaviors is a separate case.
 void recheckBehavior(benchmark::State &state) {
     const auto package = modelOf(record(state));
     PackageInfoValidator validator(package.get());
@@ -224,7 +224,7 @@ void recheckBehavior(benchmark::State &state) {
 }
 MEASURE(recheckBehavior);
 
-// One behavior whose name is set to and fro.
+// A behavior whose name alternates between two values.
 struct NameEdit {
     explicit NameEdit(const benchmark::State &state)
         : package(modelOf(record(state)))

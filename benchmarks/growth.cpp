@@ -1,9 +1,9 @@
 // Usage: growth write SHAPE NUMBER
 //        growth run OPERATION FILE
 //
-// Writes a manifest that is large in one way to standard output, or does one thing with a manifest
-// and prints the processor time in seconds that it took, and the peak resident memory of the
-// process in bytes. script/growth makes a table of both.
+// Writes a large manifest of some shape to standard output, or runs an operation on a manifest and
+// prints the processor time in seconds and the peak resident memory in bytes. script/growth makes a
+// table of both.
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
@@ -63,7 +63,7 @@ void addTranslations(Tano::PackageInfo &package, int number) {
     package.addBehavior(behavior);
 }
 
-// As many behaviors as languages, all of which lack a sentence in all languages but one.
+// As many behaviors as languages, each with a sentence in only one language.
 void addGrid(Tano::PackageInfo &package, int number) {
     addLanguages(package, number);
     for (int i = 0; i < number; ++i) {
@@ -130,7 +130,7 @@ int write(const std::string &shape, int number) {
     return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-// Each is timed from when the model is loaded.
+// Timed from the end of loading.
 
 void nothing(PackageInfoModel &) {
 }
@@ -165,7 +165,7 @@ void generatePlainText(PackageInfoModel &package) {
     package.genPlainTextFromScript();
 }
 
-// As many as there are.
+// As many conditions as the package already has.
 void appendConditions(PackageInfoModel &package) {
     Zel::BehaviorInfoModel &behavior = *package.behaviors().constFirst();
     const QString purpose = QStringLiteral("start");
@@ -221,7 +221,7 @@ int run(const std::string &name, const char *file) {
     operation->run(package);
     std::printf("%.4f %lld\n", processorSeconds() - start, peakBytes());
     std::fflush(stdout);
-    std::_Exit(EXIT_SUCCESS); // being rid of the package is not counted
+    std::_Exit(EXIT_SUCCESS); // excludes the destruction of the package
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // Usage: load_memory FILE
 //
-// Loads a manifest and prints, in bytes, by how much that raised the peak of the memory taken from
-// the heap, and that of the resident memory of the process.
+// Loads a manifest and prints how much that raised the peaks of heap and resident memory, in bytes.
 
 #include <tano/package_info.h>
 
@@ -29,7 +28,7 @@ namespace {
 std::size_t taken = 0;
 std::size_t peak = 0;
 
-// What a block really takes: its usable bytes and the size that the heap keeps before it.
+// The size of a block, including the heap's header before it.
 std::size_t sizeOf(void *block) {
     return block ? malloc_usable_size(block) + sizeof(std::size_t) : 0;
 }
@@ -42,7 +41,7 @@ void *count(void *block) {
 
 } // namespace
 
-// They stand in for those of the C library in every library of the process.
+// Replace the C library's functions in the whole process.
 extern "C" {
 void *malloc(std::size_t size) {
     return count(__libc_malloc(size));
@@ -83,7 +82,7 @@ std::size_t status(const std::string &key) {
     return 0;
 }
 
-// Lets the peak of the resident memory start anew (proc(5)).
+// Resets the peak of the resident memory (proc(5)).
 void resetResidentPeak() {
     std::ofstream("/proc/self/clear_refs") << "5\n";
 }

@@ -5,7 +5,7 @@
 namespace SamplePackage {
 namespace {
 
-// The texts of a behavior in one language; "#" stands for its number.
+// The texts of a behavior in one language; "#" is replaced by its number.
 struct Texts {
     const char *code;
     const char *name;

@@ -4,10 +4,10 @@
 
 #include <string>
 
-/// Packages of any size to measure with. The same count gives the same bytes.
+/// Packages of any size for benchmarks. Equal sizes give identical bytes.
 namespace SamplePackage {
 
-/// A package with as many behaviors, each in three languages and about 2 kB of manifest.
+/// A package with this number of behaviors, each in three languages and about 2 kB of manifest.
 Tano::PackageInfo package(int behaviorCount);
 
 /// The behavior at an index of such a package.

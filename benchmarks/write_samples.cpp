@@ -5,7 +5,7 @@
 
 // Usage: write_samples FOLDER COUNT...
 //
-// Writes the manifests of packages with as many behaviors, as FOLDER/COUNT.xml.
+// Writes a manifest for each number of behaviors to FOLDER/COUNT.xml.
 int main(int argc, char **argv) {
     for (int i = 2; i < argc; ++i) {
         const std::string file = std::string(argv[1]) + '/' + argv[i] + ".xml";

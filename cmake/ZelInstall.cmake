@@ -1,5 +1,5 @@
-# The installed package: each library is a component of find_package(ZelPackageModel), with an export
-# of its own and a file for pkg-config.
+# The installed package. Each library is a component of find_package(ZelPackageModel), with its own
+# export and pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
@@ -8,7 +8,7 @@ set(ZEL_PKGCONFIG_DIR "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH ZEL_PREFIX_FROM_PKGCONFIG "/${ZEL_PKGCONFIG_DIR}" "/")
 set(ZEL_QT_MINIMUM "${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}}")
 
-# The module of pkg-config for a target: Zel::Version is zel-version, Qt5::Core is Qt5Core.
+# The pkg-config module of a target: zel-version for Zel::Version, Qt5Core for Qt5::Core.
 function(zel_pkgconfig_module target result)
     if(target MATCHES "^(Zel|Tano)::(.*)$")
         string(TOLOWER "${CMAKE_MATCH_1}-${CMAKE_MATCH_2}" module)
@@ -18,8 +18,8 @@ function(zel_pkgconfig_module target result)
     set(${result} ${module} PARENT_SCOPE)
 endfunction()
 
-# Sets the variables that ZelModule.pc.in needs, and writes a library's file for pkg-config. What the
-# library needs privately, it loads itself.
+# Sets the variables of ZelModule.pc.in and writes a library's pkg-config file. Private dependencies
+# are omitted, since the library loads them itself.
 function(zel_install_pkgconfig library)
     get_target_property(name ${library} ZEL_NAME)
     get_target_property(depends ${library} ZEL_DEPENDS)
@@ -35,9 +35,8 @@ function(zel_install_pkgconfig library)
     install(FILES "${PROJECT_BINARY_DIR}/${module}.pc" DESTINATION "${ZEL_PKGCONFIG_DIR}")
 endfunction()
 
-# Below, ZEL_COMPONENTS lists the components after those that they depend on, and
-# ZEL_COMPONENT_DEPENDS has a line of CMake for each, with the components and parts of Qt that it
-# needs.
+# Below, ZEL_COMPONENTS lists the components in dependency order, and ZEL_COMPONENT_DEPENDS has a
+# line of CMake per component with the components and Qt modules that it needs.
 get_property(libraries GLOBAL PROPERTY ZEL_LIBRARIES)
 set(ZEL_COMPONENTS)
 set(ZEL_COMPONENT_DEPENDS)

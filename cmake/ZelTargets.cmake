@@ -1,4 +1,4 @@
-# Everything a target of this project has in common, and one function per kind of target.
+# Settings shared by all targets of this project, and one function per kind of target.
 
 include(GNUInstallDirs)
 include(GenerateExportHeader)
@@ -12,7 +12,7 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 
-# The build tree mirrors the install tree, so that a library finds its data the same way in both.
+# The build tree mirrors the install tree, so that libraries find their data the same way in both.
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
 file(RELATIVE_PATH ZEL_LIBDIR_FROM_BINDIR
@@ -27,14 +27,15 @@ set(ZEL_QT_MINIMUM_5 5.15)
 set(ZEL_QT_MINIMUM_6 6.4)
 find_package(${ZEL_QT} ${ZEL_QT_MINIMUM_${ZEL_QT_MAJOR}} REQUIRED COMPONENTS Core Gui Widgets LinguistTools)
 find_package(EXPAT 2.5 REQUIRED)
-find_package(ICU REQUIRED COMPONENTS uc) # which QtCore loads too
+find_package(ICU REQUIRED COMPONENTS uc) # also loaded by QtCore
 
-# What CMake and Qt generate into the build tree is not ours to lint; some check has to be on.
+# Do not lint the code that CMake and Qt generate into the build tree. clang-tidy requires at least
+# one check.
 if(CMAKE_CXX_CLANG_TIDY)
     file(WRITE "${PROJECT_BINARY_DIR}/.clang-tidy" "Checks: '-*,misc-unused-alias-decls'\n")
 endif()
 
-# Warnings and Qt strictness, for our own sources only.
+# Warnings and strict Qt settings for our own sources.
 add_library(zel_strict INTERFACE)
 target_compile_options(zel_strict INTERFACE
     -Wall -Wextra -Wconversion $<$<BOOL:${ZEL_WERROR}>:-Werror>)
@@ -43,9 +44,9 @@ target_compile_definitions(zel_strict INTERFACE
     QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER
     QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 
-# The flags of Debian's dpkg-buildflags with hardening=+all, as far as the compiler knows them. Those
-# of the compiler are for optimised builds, as one of them needs the optimiser. All objects are
-# position-independent, since Qt requires that.
+# The flags of Debian's dpkg-buildflags with hardening=+all, if the compiler supports them. Compiler
+# flags apply to optimized builds only, since one of them needs the optimizer. All objects are
+# position-independent, as Qt requires.
 add_library(zel_hardened INTERFACE)
 if(ZEL_HARDEN)
     set(optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
@@ -67,8 +68,7 @@ target_link_libraries(zel_strict INTERFACE zel_hardened)
 #                 SOURCES ... [DEPENDS public-dependency ...] [PRIVATE_DEPENDS ...])
 #
 # A shared library with hidden visibility, its export header <dir>/<target>_export.h, the public
-# headers under include/, an alias of the name that an installed package gives it, and its install
-# rules.
+# headers under include/, an alias with the name in installed packages, and its install rules.
 function(zel_add_library target)
     cmake_parse_arguments(arg "" "NAMESPACE;EXPORT_NAME;HEADER_PREFIX"
         "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
@@ -110,9 +110,9 @@ endfunction()
 
 # zel_add_program(<target> SOURCES ... [BUILT_IN library ...] DEPENDS ...): an installed program.
 #
-# A program with BUILT_IN links the objects that it uses of these libraries from archives, users
-# before the libraries that they use: one file to load, and only the system libraries needed for
-# those objects.
+# A program with BUILT_IN links the objects that it uses of these libraries from archives, which are
+# listed in dependency order. It then loads one file, and only the system libraries needed by those
+# objects.
 function(zel_add_program target)
     cmake_parse_arguments(arg "" "" "SOURCES;BUILT_IN;DEPENDS" ${ARGN})
     add_executable(${target} ${arg_SOURCES})
@@ -125,7 +125,7 @@ function(zel_add_program target)
         endif()
         target_include_directories(${target} PRIVATE
             "$<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>")
-        # Resources register themselves; nothing else refers to them.
+        # Resources register themselves, so no symbol refers to them.
         target_sources(${target} PRIVATE
             "$<FILTER:${objects},INCLUDE,/(qrc_|[a-z]+_translations)[^/]*$>")
         target_link_libraries(${target} PRIVATE ${library}_parts)
@@ -143,7 +143,7 @@ function(zel_add_program target)
 endfunction()
 
 # zel_add_translations(<catalogue> <target>...): compiles translations/<catalogue>_*.ts into the
-# targets, where Zel::installTranslation() finds them.
+# targets for Zel::installTranslation().
 function(zel_add_translations name)
     file(GLOB catalogues CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/${name}_*.ts")
     set(compiled "")
@@ -177,8 +177,8 @@ if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     set(ZEL_TEST_TIMEOUT 1200)
 endif()
 
-# zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display and
-# with the test data found under ZEL_TEST_DATA.
+# zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display.
+# ZEL_TEST_DATA is the folder of the test data.
 function(zel_add_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
@@ -190,7 +190,8 @@ function(zel_add_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}")
     add_test(NAME ${name} COMMAND ${name})
-    # The last two are for the sanitizers: full stacks, so that a leak can be told by its library.
+    # The last two are for the sanitizers: full stacks, so that leaks can be attributed to
+    # libraries.
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
         TIMEOUT ${ZEL_TEST_TIMEOUT})

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Small numbers drawn from the bytes of an input. When those are used up, every answer is 0.
+/// Small numbers drawn from the bytes of an input; always 0 after its end.
 class Decisions {
 public:
     Decisions(const std::uint8_t *data, std::size_t size)
@@ -12,7 +12,7 @@ public:
 
     bool isAtEnd() const { return m_next == m_end; }
 
-    /// A number from 0 to `limit` - 1; `limit` is at most 256.
+    /// A number below `limit`, which is at most 256.
     unsigned below(unsigned limit) {
         return limit < 2 || isAtEnd() ? 0 : unsigned(*m_next++) % limit;
     }

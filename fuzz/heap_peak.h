@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-// The heap as operator new takes it, in the whole program that this is linked with.
+// Measures the memory allocated by operator new in the whole program.
 
 void resetHeapPeak();
-/// The most bytes taken at a time since the reset, beyond those taken at the reset.
+/// The peak since the reset, relative to the memory allocated at the reset.
 std::size_t heapPeak();

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The elements that are not written while they are empty, and the attributes that are not.
+// Elements and attributes that are omitted if they are empty.
 const std::set<std::string_view> omittedElements{"installer",   "author", "organization", "date",
                                                  "channel",     "path",   "texts",        "name",
                                                  "description", "topic",  "execStart"};
@@ -18,7 +18,7 @@ const std::set<std::string_view> omittedAttributes{
     "typeVersion", "minHeadVersion", "maxHeadVersion", "minBodyVersion",  "maxBodyVersion",
     "minVersion",  "maxVersion",     "nature",         "userRequestable", "autoRun"};
 
-// Counts each thing in a document as a text.
+// Counts the items of a document, each described by a text.
 class Contents {
 public:
     explicit Contents(const std::string &xml) {
@@ -39,7 +39,7 @@ private:
         std::string name;
         std::string attributes;
         std::string text;
-        bool isEmpty = true; // apart from what is not written
+        bool isEmpty = true; // ignoring what is omitted
     };
 
     static Contents &at(void *self) { return *static_cast<Contents *>(self); }
@@ -80,7 +80,7 @@ private:
                           (isBlank || isElementOnly(element) ? std::string() : element.text)];
     }
 
-    // White space between elements is that of the canonical form.
+    // White space between elements is not preserved.
     static bool isElementOnly(const Element &element) {
         return element.text.find_first_not_of(" \t\r\n") == std::string::npos &&
                (element.name == "package" || element.name == "texts" ||

@@ -1,6 +1,6 @@
-// An accepted manifest is written without a loss, and reading the result gives the same record and
-// the same bytes. A rejected one is rejected with a sentence and a position, and leaves the record
-// alone. Memory stays below a multiple of the input.
+// An accepted manifest is written without losses, and reading the result gives the same record and
+// the same bytes. A rejected one is reported with a sentence and a position, and leaves the record
+// unchanged. Memory stays below a multiple of the input.
 
 #include "heap_peak.h"
 #include "manifest_contents.h"

@@ -1,5 +1,6 @@
-// A manifest, then a NUL and the choice of calls: what is loaded, edited and copied has caches that
-// agree with its record, and survives a save. A refused manifest leaves an empty package.
+// The input is a manifest, a NUL, and bytes that choose calls. Models that are loaded, edited and
+// copied have caches that agree with their records, and survive a save. A rejected manifest leaves
+// an empty package.
 
 #include "observer_world.h"
 #include "offscreen.h"
@@ -20,7 +21,7 @@ void requireAgreement(const PackageInfoModel &package) {
         require(fault.isEmpty(), fault.toStdString());
 }
 
-// The package, or one of its children.
+// The package or one of its children.
 QObject *anyModel(PackageInfoModel &package, Decisions &decisions) {
     QVector<QObject *> models{&package};
     for (auto *behavior : package.behaviors())

@@ -12,7 +12,7 @@ void callAny(World &world) {
     world.callAnySlot(world.any<Object>());
 }
 
-// Calls what the package offers beside its slots.
+// Calls a function of the package that is not a slot.
 template<auto function>
 void callPackage(World &world) {
     if (auto *package = world.any<PackageInfoModel>()) {
@@ -65,7 +65,7 @@ void assign(World &world) {
     world.reset([&] { *to = *from; });
 }
 
-// A package of its own that takes the place of one that is gone, or leaves at once.
+// A new package that replaces a deleted one, or is deleted at once.
 void copy(World &world) {
     const auto *package = world.any<PackageInfoModel>();
     if (!package)

@@ -26,7 +26,7 @@ Texts texts(const Record &record) {
     return decoded;
 }
 
-// An assignment copies through the setters, for which an empty text is as good as none.
+// An assignment copies through the setters, which do not distinguish empty texts from absent ones.
 Texts withoutEmpty(Texts texts) {
     texts.erase(std::remove_if(texts.begin(), texts.end(),
                                [](const auto &entry) { return entry.second.isEmpty(); }),
@@ -210,7 +210,7 @@ QString savingFault(const Tano::PackageInfo &record) {
     if (!again.loadFromManifestContent(content))
         return QStringLiteral("what was saved cannot be loaded: ") +
                QString::fromStdString(again.errorString());
-    // An empty text, which undoing leaves behind, is no text in the manifest.
+    // Undoing may leave an empty text, which the manifest omits.
     return again.saveToManifestContent() == content
                ? QString()
                : QStringLiteral("what was saved loads as another record");

@@ -43,7 +43,7 @@ auto anyEntry(World &world, const Lists &lists) {
     return lists.empty() ? nullptr : &lists.at(world.decisions.below(lists.size()));
 }
 
-// A text that lies in a model, which the call itself or an observer may change; null for none.
+// A text inside a model, which the call or an observer may change; may be null.
 const QString *anyTextInside(World &world) {
     if (const void *heard = world.heard("QString"); heard && world.decisions.below(2))
         return static_cast<const QString *>(heard);
@@ -119,7 +119,7 @@ ServiceInfoModel *newChild(World &world, const ServiceInfoModel *like) {
     return like ? new ServiceInfoModel(*like) : new ServiceInfoModel(serviceRecord(world));
 }
 
-// To remove, any address will do; all else needs a child that lives.
+// Removals accept any address; everything else needs a living child.
 template<typename Child>
 void chooseChild(World &world, const QMetaMethod &method, CallArguments &arguments) {
     const auto *address = static_cast<const Child *>(nullptr);

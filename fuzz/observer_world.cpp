@@ -9,7 +9,7 @@
 
 namespace Observers {
 
-/// Hears every signal of one object, whatever its signature.
+/// Receives every signal of one object, whatever its signature.
 class Observer : public QObject {
 public:
     Observer(World &world, QObject *target)
@@ -38,7 +38,7 @@ public:
 
 private:
     World &m_world;
-    QObject *m_target; // not used once it is gone
+    QObject *m_target; // not used after its deletion
     std::vector<QMetaMethod> m_signals;
 };
 
@@ -158,7 +158,7 @@ void World::callSlot(QObject *object, const QMetaMethod &slot) {
                        texts.join(QStringLiteral(", "))));
     }
     if (slot.name().startsWith("clear"))
-        expectLag(); // the lists of children stay in the record
+        expectLag(); // the record keeps its lists of children
     QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, slot.methodIndex(),
                           arguments.pointers());
 }
@@ -198,7 +198,7 @@ void World::watchObject(QObject *object) {
     m_names[object] =
         QStringLiteral("%1#%2").arg(QString::fromLatin1(object->metaObject()->className()).mid(5),
                                     QString::number(m_names.size()));
-    // The second sees what the first has left.
+    // The second observer sees the changes of the first.
     m_observers.push_back(std::make_unique<Observer>(*this, object));
     m_observers.push_back(std::make_unique<Observer>(*this, object));
 }
@@ -248,7 +248,7 @@ void World::hear(QObject *sender, const QMetaMethod &signal, void **arguments) {
     m_heard = outer;
     m_dying -= isDying ? 1 : 0;
     if (guard)
-        use(signal, arguments); // as the next receiver does
+        use(signal, arguments); // like the next receiver
 }
 
 void World::use(const QMetaMethod &signal, void **arguments) {

@@ -19,57 +19,57 @@
 #include <set>
 #include <vector>
 
-/// Two packages, a validator for each and one undo stack, whose every notification may edit, load
-/// or delete any of them. An input decides everything that happens.
+/// Two packages with a validator each, and an undo stack. Every notification may edit, load or
+/// delete any of them, as the input decides.
 namespace Observers {
 
 using namespace Zel;
 
-/// What observers may do during a step. Each includes those before it.
+/// The actions allowed to observers during a step. Each level includes the previous ones.
 enum class Freedom {
-    Read,  ///< what changes no content: saving, copying, bringing the record up to date
+    Read,  ///< without changes of content: saving, copying, synchronizing the record
     Reset, ///< loading and clearing
     Edit,
 };
 
 class World;
 
-/// The arguments of one call, as the meta-object system passes them.
+/// The arguments of a call, as the meta-object system passes them.
 class CallArguments {
 public:
     CallArguments();
 
-    /// Adds a copy of `value`, which lives as long as the arguments.
+    /// Adds a copy of `value` that lives as long as the arguments.
     template<typename Value>
     void own(Value value) {
         auto owned = std::make_shared<Value>(std::move(value));
         borrow(owned.get());
         m_owned.push_back(std::move(owned));
     }
-    /// Adds a value that lies elsewhere.
+    /// Adds a value owned elsewhere.
     void borrow(const void *value) { m_pointers.push_back(const_cast<void *>(value)); }
 
     void **pointers() { return m_pointers.data(); }
 
 private:
-    std::shared_ptr<void> m_result; // large enough for what any slot returns
+    std::shared_ptr<void> m_result; // large enough for the result of any slot
     std::vector<void *> m_pointers;
     std::vector<std::shared_ptr<void>> m_owned;
 };
 
-/// A type of parameter: how to choose a value for it, and how to use every byte of one.
+/// A parameter type: how to choose a value, and how to read every byte of one.
 struct ValueKind {
     const char *type;
-    /// `method` says what the value is for.
+    /// `method` shows the purpose of the value.
     void (*choose)(World &world, const QMetaMethod &method, CallArguments &arguments);
     void (*use)(const void *value);
     QString (*text)(const void *value);
 };
 
-/// The kind of a type by its normalized name. A type without one is a promise that does not hold.
+/// The kind for a normalized type name. Fails if the type is unknown.
 const ValueKind &valueKind(const QByteArray &type);
 
-/// Something that a program does with the models which is no slot.
+/// An operation on the models that is not a slot.
 struct Action {
     const char *name;
     Freedom freedom;
@@ -81,18 +81,19 @@ const std::vector<Action> &actions();
 
 class World {
 public:
-    /// Observers react to the notifications that they cause up to a depth; 0 is not at all.
+    /// Observers react to notifications that they cause themselves up to this depth; 0 disables
+    /// them.
     World(const std::uint8_t *data, std::size_t size, int greatestDepth = 4);
     ~World();
     World(const World &) = delete;
     World &operator=(const World &) = delete;
 
-    /// Does steps until the input is used up, and checks everything after each.
+    /// Runs steps until the input is used up, and checks everything after each.
     void run();
 
     Decisions decisions;
 
-    /// A living object of a type; null when there is none.
+    /// A living object of a type, or null.
     template<typename Object>
     Object *any() {
         std::vector<Object *> living;
@@ -103,7 +104,7 @@ public:
         return living.empty() ? nullptr : living.at(decisions.below(living.size()));
     }
 
-    /// Connects to everything that the object announces.
+    /// Connects to all signals of the object.
     template<typename Object>
     Object *watch(Object *object) {
         watchObject(object);
@@ -114,27 +115,28 @@ public:
     void callSlot(QObject *object, const QMetaMethod &slot);
     void callAnySlot(QObject *object);
 
-    /// The address of a child, living or not, as a dangling pointer is one.
+    /// The address of a child, which may be dangling.
     const void *anyAddress();
 
-    /// Whether a package may be deleted: not while a child is, which Qt would then delete twice.
+    /// Whether a package may be deleted: not during the deletion of a child, which Qt would delete
+    /// twice.
     bool canDeletePackage() const { return m_dying == 0; }
 
-    /// Runs a load, an assignment or a clearing, which may leave descriptions behind.
+    /// Runs a load, an assignment or a reset, which may leave descriptions in caches.
     void reset(const std::function<void()> &call);
-    /// Runs what the undo stack must finish before anything else is pushed or undone.
+    /// Runs an operation that the undo stack must finish before the next push or undo.
     void onStack(const std::function<void(QUndoStack &)> &call);
 
-    /// The records of packages may wait for syncRecord() from now on.
+    /// Allows the packages' records to wait for syncRecord().
     void expectLag() { m_isLagging = true; }
 
     bool isLagging() const { return m_isLagging; }
 
-    /// Says that the package's record is this one after a step in which observers only read, or
-    /// that of another load where observers load as well. Does nothing for other steps.
+    /// Expects the package's record to be this one after a step in which observers only read, or
+    /// that of another load if observers load as well. Has no effect on other steps.
     void expectRecord(PackageInfoModel *package, const Tano::PackageInfo &record);
 
-    /// The argument of a type of the notification that is being heard; null for none.
+    /// The current notification's argument of a type, or null.
     const void *heard(const QByteArray &type) const;
 
     void trace(const QString &line);
@@ -174,30 +176,30 @@ private:
     const int m_greatestDepth;
     int m_budget;
     int m_resets = 0;
-    int m_dying = 0; // how many objects are being destroyed
+    int m_dying = 0; // the number of objects being destroyed
     bool m_isOnStack = false;
     bool m_isLagging = false;
     bool m_isEnding = false;
-    std::set<std::pair<QString, QString>> m_leftovers; // descriptions that a reset may leave behind
+    std::set<std::pair<QString, QString>> m_leftovers; // stale descriptions
     std::vector<std::pair<QPointer<PackageInfoModel>, Tano::PackageInfo>> m_expected;
-    Heard m_heard; // while m_depth is not 0
+    Heard m_heard; // valid while m_depth is not 0
     QHash<const void *, QString> m_names;
     const bool m_isTraced;
 };
 
-/// Why the package's caches, record and children disagree; empty when they agree. Descriptions
-/// that `isLeftover` knows may lie in the cache alone.
+/// How the package's caches, record and children disagree; empty if they agree. Descriptions
+/// accepted by `isLeftover` may be in the cache only.
 QString
 disagreement(const PackageInfoModel &package,
              const std::function<bool(const QString &code, const QString &text)> &isLeftover);
-/// Why the record's lists are not those of the children; empty when they are.
+/// How the record's lists differ from the children; empty if they agree.
 QString lag(const PackageInfoModel &package);
-/// Why the record does not survive a save; empty when it does, or cannot be saved.
+/// How a save changes the record; empty if it does not, or if the record cannot be saved.
 QString savingFault(const Tano::PackageInfo &record);
 
-/// The contents of manifests to load, some of which are refused.
+/// Manifests to load, some of which are invalid.
 const std::vector<QByteArray> &manifests();
-/// The record that loading manifests().at(i) gives when nobody observes; empty where it is refused.
+/// The record that loading manifests().at(i) gives without observers; empty if it is invalid.
 Tano::PackageInfo loadedRecord(std::size_t i);
 
 } // namespace Observers

@@ -1,4 +1,4 @@
-// Observers that edit, load and delete within every notification leave packages whose caches,
+// Packages stay consistent whatever observers edit, load and delete within notifications: caches,
 // records and children agree.
 
 #include "observer_world.h"

@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-/// Starts the application that icons need, without a display. It lives as long as the process.
+/// Starts the application object that icons need, without a display. Never destroyed.
 inline void startOffscreen() {
     static int argc = 1;
     static char name[] = "fuzzer";

@@ -1,6 +1,5 @@
-// A manifest that is published can be saved and read back, and is no larger than its texts twice
-// over. Publishing it again converts what looks like a script only, and a third time changes
-// nothing.
+// A published manifest can be saved and read back, and at most doubles the size of its texts.
+// Publishing it again only converts what looks like a script, and a third time changes nothing.
 
 #include "target.h"
 
@@ -32,7 +31,7 @@ void append(Texts &texts, const Tano::TextListMap &map) {
     }
 }
 
-// What is made plain, in the languages that people read.
+// The texts to be converted, in natural languages.
 Texts plainTexts(const Tano::PackageInfo &record) {
     Texts texts;
     append(texts, record.names());
@@ -70,7 +69,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
             "what is published is not much larger than its source");
     const Texts texts = plainTexts(first);
     if (std::any_of(texts.begin(), texts.end(), [](const std::string &text) {
-            return text.find('<') != std::string::npos; // a script, for all that is known
+            return text.find('<') != std::string::npos; // may be a script
         }))
         return 0;
     const Tano::PackageInfo second = published(first);

@@ -1,7 +1,6 @@
 // Usage: REPLAY FOLDER...
 //
-// Tries every file below the folders on the fuzz target that this is linked with, in the order of
-// their names.
+// Runs the fuzz target that is linked in on every file below the folders, sorted by name.
 
 #include "target.h"
 
@@ -28,7 +27,7 @@ int main(int argc, char **argv) {
     for (const fs::path &path : files) {
         std::ifstream file(path, std::ios::binary);
         const std::string input{std::istreambuf_iterator<char>(file), {}};
-        std::cerr << path.string() << std::endl; // the last one is the one that fails
+        std::cerr << path.string() << std::endl; // the last one printed is the failing one
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.data()), input.size());
     }
     std::cout << files.size() << " inputs tried\n";

@@ -1,4 +1,4 @@
-// The description of a robot model gives a model that has all its texts, or none at all.
+// A description of a robot model results in a complete model, or in none.
 
 #include "target.h"
 

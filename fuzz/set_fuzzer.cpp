@@ -1,6 +1,6 @@
-// Lines FIELD=VALUE, as "zel-package set" takes them, or edits as JSON: the result is consistent,
-// and survives being saved; the edits survive being written as JSON, and their inverses restore the
-// package.
+// The input is lines FIELD=VALUE, as for "zel-package set", or edits as JSON. The result is
+// consistent and survives a save; the edits survive a round trip through JSON, and their inverses
+// restore the package.
 
 #include "observer_world.h"
 #include "offscreen.h"
@@ -45,7 +45,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     for (const QString &line : lines) {
         const PackageModel::Edits edits = editsOf(line, package);
         const PackageModel::Applied applied = apply(&package, edits);
-        // A text that no manifest holds, such as U+FFFF, may not survive JSON either.
+        // A text that a manifest cannot hold, such as U+FFFF, may not survive JSON either.
         require(!applied.error.isEmpty() ||
                     PackageModel::editsFromJson(toJson(edits)).edits == edits,
                 "JSON keeps the edits");

@@ -1,5 +1,5 @@
-// A speech script becomes a text that is no longer than it, or is refused with a sentence and a
-// place; a text without a tag is plain.
+// A speech script is converted to a text that is not longer, or rejected with a sentence and a
+// position; a text without a tag is plain.
 
 #include "target.h"
 

@@ -1,10 +1,10 @@
 # shellcheck shell=bash
-# What the scripts share; they source it. They run in the root of the source tree.
+# Functions shared by the scripts, which source this file. They run in the root of the source tree.
 
 root=$(CDPATH='' cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root" || exit
 
-# Runs a command quietly and sums it up in one line; when it fails, prints all that it wrote.
+# Runs a command quietly and prints a one-line summary; if it fails, prints all of its output.
 step() {
     local title=$1 log begin=$SECONDS status=0
     shift
@@ -25,7 +25,7 @@ usage() {
     sed -n '2,/^$/ s/^# \{0,1\}//p' "script/${0##*/}"
 }
 
-# Ends the script because of how it was called.
+# Exits with a message about wrong arguments.
 usage_error() {
     printf '%s: %s\n' "${0##*/}" "$1" >&2
     printf 'Try script/%s --help.\n' "${0##*/}" >&2

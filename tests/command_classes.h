@@ -12,12 +12,12 @@
 #include <memory>
 #include <vector>
 
-/// Every command of the library, by the name of its class.
+/// All commands of the library, by class name.
 namespace Commands {
 
 using namespace Zel;
 
-/// Number 0 stands for no icon.
+/// Number 0 means no icon.
 inline QIcon icon(const QString &number) {
     const auto colored = [](Qt::GlobalColor color) {
         QPixmap pixmap(4, 4);
@@ -28,14 +28,14 @@ inline QIcon icon(const QString &number) {
     return icons.at(std::size_t(number.toInt()));
 }
 
-/// A code that stands for a language or a purpose, as the commands ask for.
+/// A code that converts to a language or a purpose.
 struct Tag {
     QString code;
     operator QString() const { return code; }
     operator RobotLanguage() const { return RobotLanguage(ISOCode(code), NuanceCode()); }
 };
 
-/// A text that stands for a version or an icon where a command asks for such.
+/// A text that converts to a version or an icon.
 struct Value {
     QString text;
     operator QString() const { return text; }
@@ -43,7 +43,7 @@ struct Value {
     operator QIcon() const { return icon(text); }
 };
 
-/// Which text of the package.
+/// Selects a text of the package.
 struct What {
     int number = 0;
     operator PackageStringCommand::WhatString() const {
@@ -54,7 +54,7 @@ struct What {
     }
 };
 
-/// All that one command or another is made from.
+/// The arguments for any command.
 struct Arguments {
     PackageInfoModel *model = nullptr;
     QString key; ///< the behavior's path or the dialog's name
@@ -68,12 +68,12 @@ struct Arguments {
 
 struct CommandClass {
     const char *name;
-    int id;                    ///< -1 for those that never merge
-    const char *sameArguments; ///< those that have to be equal in two that merge
+    int id;                    ///< -1 if the command never merges
+    const char *sameArguments; ///< arguments that must be equal for merging
     QUndoCommand *(*make)(const Arguments &arguments);
 };
 
-/// What an editor derives to add a language that the package lacks, or to remove it.
+/// Derived by an editor to add or remove a language of the package.
 class SwitchLanguage : public PackageLanguageCommand {
 public:
     using PackageLanguageCommand::PackageLanguageCommand;

@@ -1,5 +1,5 @@
 #!/bin/bash
-# Completes words in bash, zsh and fish, and hostile ones, none of which may be evaluated.
+# Completes words in bash, zsh and fish, including hostile ones, which must not be evaluated.
 # Usage: completion_test.sh COMPLETIONS_DIR PROGRAM WORK_DIR FILES_DIR
 
 set -u
@@ -12,7 +12,7 @@ failures=0
 
 in_bash() {
     COMP_LINE=$1 COMP_POINT=${#1}
-    # As bash splits it: at spaces, and around "=" and ":".
+    # Splits like bash: at spaces, and around "=" and ":".
     mapfile -t COMP_WORDS < <(sed -E 's/[=:]+/ & /g; s/  +/ /g; y/ /\n/' <<<"$1")
     [[ $1 == *[=:] ]] && unset 'COMP_WORDS[-1]'
     COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
@@ -33,7 +33,7 @@ in_fish() {
     fish --no-config -c 'source $argv[2]; complete -C $argv[1]' "$1" "$scripts/zel-package.fish"
 }
 
-# expect SHELL COMPLETIONS LINE: what completes the last word of a line.
+# expect SHELL COMPLETIONS LINE: checks the completions of the last word in a line.
 expect() {
     local actual
     actual=$("in_$1" "$3" | sed '/^$/d' | sort | paste -sd ' ')

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Checks what desktops and XML programs find of an installed tree: the desktop entry, the metainfo,
-# the MIME type of manifests and the catalog of schemas.
+# Checks the files in an installed tree that desktops and XML programs use: the desktop entry, the
+# metainfo, the MIME type of manifests and the catalog of schemas.
 # Usage: desktop_test.sh PREFIX SOURCE_DIR
 
 set -eu
@@ -14,7 +14,7 @@ desktop-file-validate "$share/applications/$id.desktop"
 appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
 xmllint --noout "$share/icons/hicolor/scalable/apps/$id.svg"
 
-# expect FILE TYPE: a file manager takes the file for that type.
+# expect FILE TYPE: checks the MIME type of a file.
 expect() {
     found=$(XDG_DATA_HOME=$work gio info -a standard::content-type "$1" |
         sed -n 's/.*content-type: //p')
@@ -33,6 +33,6 @@ expect "$samples/small/manifest.xml" "$type"
 expect "$work/downloaded" "$type"
 expect "$work/other" application/xml
 
-# The schema by its address, without a network.
+# Finds the schema by its URL without network access.
 XML_CATALOG_FILES=$share/xml/zel-package/catalog.xml xmllint --nonet --noout \
     --schema https://packagemodel.example/schema/manifest.xsd "$samples/small/manifest.xml"

@@ -8,17 +8,17 @@
 #include <tuple>
 #include <vector>
 
-/// A plain model of a package, of the commands that edit it and of the stack that they stand on:
-/// no notifications but a list of what would be told, no records, no caches, no sharing.
+/// A reference model of a package, its commands and their undo stack, with a list instead of
+/// notifications, and without records, caches and sharing.
 namespace Reference {
 
-/// The notifications, as SignalLog prints them.
-using Told = QStringList;
+/// The notifications in the format of SignalLog.
+using Notifications = QStringList;
 
-/// A package, behavior or dialog: what it holds by the name of the field, which is "names[en_US]"
-/// for what has one value a language. A behavior's path and a dialog's name are its "key".
+/// A package, behavior or dialog: values by field name, which is "names[en_US]" for fields with a
+/// value per language. The path of a behavior and the name of a dialog are its "key".
 struct Entity {
-    QString label; ///< stands before its notifications, and tells those that share a key apart
+    QString label; ///< prefixes its notifications, and distinguishes entities with the same key
     QMap<QString, QString> texts{};
     QMap<QString, QStringList> lists{};
 
@@ -51,27 +51,28 @@ inline Entity *entityAt(std::vector<Entity> &entities, const QString &key) {
     return found == entities.end() ? nullptr : &*found;
 }
 
-/// What a command does with its field.
+/// The effect of a command on its field.
 enum class Does {
-    Write,   ///< one of a run that is merged
-    SetItem, ///< that too
-    Set,     ///< by itself, as all the others
+    Write,   ///< merges with a run
+    SetItem, ///< likewise
+    Set,     ///< does not merge, like the following
     AddOrRemoveItem,
     AddOrRemovePermission,
     SwitchLanguage,
     RemoveTopic
 };
 
-/// One kind of command.
+/// A kind of command.
 struct Kind {
     QString className;
     int what;
     Does does;
     QString field;
-    QStringList told; ///< the notifications, with INDEX, VALUE and TAG in them
+    QStringList
+        announced; ///< the expected notifications, with the placeholders INDEX, VALUE and TAG
     QStringList values;
     QStringList tags;    ///< languages or purposes
-    QStringList lasting; ///< why undoing right after doing may not restore the package
+    QStringList lasting; ///< why undoing may not restore the package
 };
 
 inline std::vector<Kind> readKinds() {
@@ -94,7 +95,7 @@ inline const std::vector<Kind> &kinds() {
     return all;
 }
 
-/// What a command is made from, and what it remembers.
+/// A command's arguments and the state that it stores.
 struct Command {
     const Kind *kind = nullptr;
     QString key{};
@@ -121,34 +122,34 @@ struct Command {
             return &package.own;
         return entityAt(isOnBehavior() ? package.behaviors : package.dialogs, key);
     }
-    Told toldBy(const Entity &owner, const QString &shown, int which = 0) const {
-        QString told = kind->told.at(which);
-        told.replace(QLatin1String("INDEX"), QString::number(index));
-        told.replace(QLatin1String("TAG"), tag);
-        return {owner.label + told.replace(QLatin1String("VALUE"), shown)};
+    Notifications announcedBy(const Entity &owner, const QString &shown, int which = 0) const {
+        QString announced = kind->announced.at(which);
+        announced.replace(QLatin1String("INDEX"), QString::number(index));
+        announced.replace(QLatin1String("TAG"), tag);
+        return {owner.label + announced.replace(QLatin1String("VALUE"), shown)};
     }
 };
 
-inline Told write(Entity &owner, Command &command, const QString &value) {
+inline Notifications write(Entity &owner, Command &command, const QString &value) {
     const QString field = command.field();
-    if (owner.texts.value(field) == value && !command.isField("version")) // which is told always
+    if (owner.texts.value(field) == value && !command.isField("version")) // always announced
         return {};
     owner.texts[field] = value;
     if (command.isField("key"))
         command.key = value;
-    return command.toldBy(owner, value);
+    return command.announcedBy(owner, value);
 }
 
-inline Told setItem(Entity &owner, const Command &command, const QString &value) {
+inline Notifications setItem(Entity &owner, const Command &command, const QString &value) {
     QStringList list = owner.lists.value(command.field());
     if (command.index >= list.size())
         return {};
     list[command.index] = value;
     owner.setList(command.field(), list);
-    return command.toldBy(owner, value);
+    return command.announcedBy(owner, value);
 }
 
-inline Told addOrRemoveItem(Entity *owner, Command &command, bool isAdd) {
+inline Notifications addOrRemoveItem(Entity *owner, Command &command, bool isAdd) {
     if (!command.hasSucceeded)
         return {};
     QStringList list = owner ? owner->lists.value(command.field()) : QStringList();
@@ -164,10 +165,10 @@ inline Told addOrRemoveItem(Entity *owner, Command &command, bool isAdd) {
         list.insert(command.index, command.value);
     owner->setList(command.field(), list);
     const int insertedOrAdded = isInside ? 1 : 0;
-    return command.toldBy(*owner, command.value, isAdd ? insertedOrAdded : 2);
+    return command.announcedBy(*owner, command.value, isAdd ? insertedOrAdded : 2);
 }
 
-inline Told addOrRemovePermission(Entity &owner, const Command &command, bool isAdd) {
+inline Notifications addOrRemovePermission(Entity &owner, const Command &command, bool isAdd) {
     QStringList list = owner.lists.value(command.field());
     if (list.contains(command.value) == isAdd)
         return {};
@@ -176,36 +177,36 @@ inline Told addOrRemovePermission(Entity &owner, const Command &command, bool is
     else
         list.removeOne(command.value);
     owner.setList(command.field(), list);
-    return command.toldBy(owner, command.value, isAdd ? 0 : 1);
+    return command.announcedBy(owner, command.value, isAdd ? 0 : 1);
 }
 
-inline Told removeTopic(Entity &dialog, const QString &language) {
+inline Notifications removeTopic(Entity &dialog, const QString &language) {
     if (dialog.texts.remove(QStringLiteral("topics[%1]").arg(language)) == 0)
         return {};
     return {dialog.label + QStringLiteral("topicRemoved(%1)").arg(language)};
 }
 
-inline Told switchLanguage(Package &package, const QString &language) {
+inline Notifications switchLanguage(Package &package, const QString &language) {
     const QString supported = QStringLiteral("supportedLanguages");
     const QString described = QStringLiteral("descriptionLanguages");
     QStringList list = package.own.lists.value(supported);
-    Told told;
+    Notifications announced;
     if (list.removeOne(language)) {
         for (Entity &dialog : package.dialogs)
-            told += removeTopic(dialog, language);
+            announced += removeTopic(dialog, language);
         package.own.setList(supported, list);
-        return told << QStringLiteral("languageRemoved(%1)").arg(language);
+        return announced << QStringLiteral("languageRemoved(%1)").arg(language);
     }
     package.own.lists[supported] += language;
-    told += QStringLiteral("languageAdded(%1)").arg(language);
+    announced += QStringLiteral("languageAdded(%1)").arg(language);
     if (!package.own.lists.value(described).contains(language)) {
         package.own.lists[described] += language;
-        told += QStringLiteral("descriptionAdded(%1)").arg(language);
+        announced += QStringLiteral("descriptionAdded(%1)").arg(language);
     }
-    return told;
+    return announced;
 }
 
-inline Told step(Package &package, Command &command, bool isUndo) {
+inline Notifications step(Package &package, Command &command, bool isUndo) {
     Entity *owner = command.ownerIn(package);
     const bool isAdd = command.isAdd != isUndo;
     if (command.does(Does::AddOrRemoveItem))
@@ -227,7 +228,7 @@ inline Told step(Package &package, Command &command, bool isUndo) {
     }
 }
 
-/// Fills in what a command remembers when it is made.
+/// Sets the state that a command stores at construction.
 inline Command made(Package &package, Command command) {
     const Entity *owner = command.ownerIn(package);
     command.madeFor = command.key;
@@ -236,7 +237,7 @@ inline Command made(Package &package, Command command) {
     else
         command.old = owner ? owner->texts.value(command.field()) : QString();
     if (command.isField("key") && command.isOnBehavior())
-        command.old = command.key; // also when the behavior is not there
+        command.old = command.key; // even if the behavior does not exist
     if (command.isField("userRequestable")) {
         const bool wasSet = command.old == QLatin1String("true");
         command.old = wasSet ? QStringLiteral("true") : QStringLiteral("false");
@@ -253,24 +254,24 @@ public:
     int index() const { return m_index; }
     int count() const { return int(m_stack.size()); }
 
-    Told push(const Command &pushed) {
+    Notifications push(const Command &pushed) {
         Command command = made(package, pushed);
-        const Told told = step(package, command, false);
+        const Notifications announced = step(package, command, false);
         m_stack.resize(std::size_t(m_index));
         if (!m_stack.empty() && merge(m_stack.back(), command))
-            return told;
+            return announced;
         m_stack.push_back(command);
         ++m_index;
-        return told;
+        return announced;
     }
 
-    Told setIndex(int index) {
-        Told told;
+    Notifications setIndex(int index) {
+        Notifications announced;
         while (m_index < index)
-            told += step(package, m_stack.at(std::size_t(m_index++)), false);
+            announced += step(package, m_stack.at(std::size_t(m_index++)), false);
         while (m_index > index)
-            told += step(package, m_stack.at(std::size_t(--m_index)), true);
-        return told;
+            announced += step(package, m_stack.at(std::size_t(--m_index)), true);
+        return announced;
     }
 
 private:

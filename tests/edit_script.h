@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-/// Fields and edits of packages as lines of text, which tests write and compare.
+/// Reads and prints fields and edits of packages as lines of text.
 namespace EditScript {
 
 using namespace Zel;
@@ -31,14 +31,16 @@ inline QByteArray listing(const PackageInfoModel &package) {
     return lines.toUtf8();
 }
 
-// The fields of a package in the order that a difference keeps: texts by their language's code.
+// The fields of a package without their order, except where differences preserve it: texts are
+// sorted by language code.
 inline QList<QByteArray> orderedListing(const PackageInfoModel &package) {
     QList<QByteArray> lines = listing(package).split('\n');
     std::sort(lines.begin(), lines.end());
     return listing(PackageInfoModel(package.packageInfo())).split('\n') + lines;
 }
 
-// Edits as lines: the action, the path, the index where it has one, the value or a behavior's path.
+// An edit is a line with the action, the path, the index if any, and the value or the path of a
+// behavior.
 inline const QStringList &actions() {
     static const QStringList names{text("set"), text("insert"), text("remove"), text("move")};
     return names;

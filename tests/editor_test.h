@@ -34,7 +34,7 @@ inline void writeTo(const QString &fileName, const QByteArray &content) {
     file.write(content);
 }
 
-// Does something with the next modal dialog, which has to come; the flag says whether it came.
+// Handles the next modal dialog, which must appear; the flag records whether it did.
 class Answer {
 public:
     template<typename Dialog>
@@ -68,7 +68,7 @@ inline std::function<void(QFileDialog *)> choose(const QString &fileName) {
     };
 }
 
-/// Clicks the button of a dialog with that text.
+/// Clicks the dialog's button with this text.
 inline std::function<void(QDialog *)> click(const QString &text) {
     return [text](QDialog *dialog) {
         for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
@@ -78,9 +78,9 @@ inline std::function<void(QDialog *)> click(const QString &text) {
     };
 }
 
-/// The base of tests that use the editor's window by keyboard and mouse. A test class derives from
-/// it and from QObject, and calls prepare(), showWindow() and closeWindow() in initTestCase(),
-/// init() and cleanup().
+/// The base class of tests that control the editor's window by keyboard and mouse. A test class
+/// derives from it and from QObject, and calls prepare(), showWindow() and closeWindow() in
+/// initTestCase(), init() and cleanup().
 class EditorTest {
 protected:
     void prepare() {
@@ -109,7 +109,7 @@ protected:
         return to.filePath(QStringLiteral("manifest.xml"));
     }
 
-    // Keys go to whatever has the focus.
+    // The widget that receives keys.
     QWidget *focus() {
         if (!QApplication::focusWidget()) { // a dialog has just closed
             m_window->activateWindow();
@@ -162,11 +162,11 @@ protected:
         }
         return nullptr;
     }
-    // Which letter is underlined does not matter.
+    // Ignores the position of the mnemonic.
     static bool isSame(QString shown, const char *text) {
         return shown.remove(u'&') == QString::fromUtf8(text).remove(u'&');
     }
-    // The field that a label belongs to.
+    // The field with this label.
     QLineEdit *field(const char *label) {
         for (const QLabel *candidate : m_window->findChildren<QLabel *>()) {
             if (isSame(candidate->text(), label))
@@ -188,7 +188,7 @@ protected:
         }
         return nullptr;
     }
-    // The tabs of the page that is shown.
+    // The tabs of the current page.
     QTabWidget *tabs() { return visible<QTabWidget>(); }
 
     QTemporaryDir m_directory;

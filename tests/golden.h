@@ -4,8 +4,8 @@
 #include <QProcess>
 #include <QTest>
 
-/// The difference between a golden file and what a test produced, as diff(1) shows it. With
-/// ZEL_UPDATE_GOLDEN in the environment, the file is written instead.
+/// The difference between a golden file and a test's output, as printed by diff(1). If
+/// ZEL_UPDATE_GOLDEN is set in the environment, writes the file instead.
 inline QString differenceFromGolden(const QString &path, const QByteArray &actual) {
     QFile file(path);
     if (file.open(QFile::ReadOnly) && file.readAll() == actual)
@@ -27,7 +27,7 @@ inline QString differenceFromGolden(const QString &path, const QByteArray &actua
     return QString::fromUtf8(diff.readAll() + diff.readAllStandardError());
 }
 
-/// Fails with the difference, if any.
+/// Fails with the difference, if there is one.
 #define COMPARE_WITH_GOLDEN(path, actual)                                                          \
     do {                                                                                           \
         const QString difference = differenceFromGolden(path, actual);                             \

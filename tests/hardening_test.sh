@@ -1,10 +1,10 @@
 #!/bin/sh
-# Reads from the installed libraries and programs how they are protected.
+# Checks the hardening of the installed libraries and programs.
 # Usage: hardening_test.sh PREFIX CONFIGURATION
 
 failures=0
 
-# expect FILE PATTERN: a line of the description matches.
+# expect FILE PATTERN: checks that a line of the description matches.
 expect() {
     if ! printf '%s\n' "$description" | grep -Eq -- "$2"; then
         echo "$1: nothing matches '$2'"
@@ -24,8 +24,8 @@ for file in $(find "$1" -type f \( -name '*.so.*' -o -path '*/bin/*' \)); do
     Debug | '') continue ;;
     esac
     expect "$file" ' __stack_chk_fail@'
-    # Start-up code alone marks fewer than ten branch targets, and lacks the property that would mark
-    # the whole file.
+    # Start-up code alone has fewer than ten branch targets, and lacks the property that marks the
+    # whole file.
     case $(uname -m) in
     x86_64)
         if [ "$(objdump -d "$file" | grep -c endbr64)" -lt 15 ]; then

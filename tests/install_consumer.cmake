@@ -1,6 +1,6 @@
-# Installs the build tree into a fresh folder, and builds and runs a program against what stands
-# there, as the library's users do. Variables: BUILD_DIR, CONSUMER_DIR, WORK_DIR, MANIFEST,
-# EXPECTED_NAME, and the settings of the build that a program has to share.
+# Installs the build tree into a fresh folder, and builds and runs a program against it, as users of
+# the library do. Variables: BUILD_DIR, CONSUMER_DIR, WORK_DIR, MANIFEST, EXPECTED_NAME, and build
+# settings that the program must share.
 
 file(REMOVE_RECURSE "${WORK_DIR}")
 
@@ -30,7 +30,7 @@ if(NOT name STREQUAL EXPECTED_NAME)
     message(FATAL_ERROR "The expected name is '${EXPECTED_NAME}'.")
 endif()
 
-# The same with pkg-config instead of CMake.
+# The same with pkg-config.
 execute_process(
     COMMAND "${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${WORK_DIR}/prefix/${LIBDIR}/pkgconfig"
         "${PKG_CONFIG}" --cflags --libs zel-packagemodel
@@ -51,7 +51,7 @@ if(NOT name STREQUAL EXPECTED_NAME)
     message(FATAL_ERROR "With pkg-config, the consumer read '${name}'.")
 endif()
 
-# The installed program finds the installed data, not those of the build tree.
+# The installed program must find the installed data, not those in the build tree.
 if(EXISTS "${WORK_DIR}/prefix/bin/zel-package")
     execute_process(
         COMMAND "${CMAKE_COMMAND}" -E env --unset=ZENTRIX_DATA_PATH

@@ -10,8 +10,7 @@
 #include <pty.h>
 #include <unistd.h>
 
-// Runs zel-package as its users do, and what such tests need besides. Whatever goes wrong on the
-// way ends the test program.
+// Runs zel-package like its users. Any failure to do so ends the test program.
 
 struct Outcome {
     int status = -1;
@@ -39,10 +38,10 @@ inline QString testData(const char *path) {
 inline Outcome finished(QProcess &process, const QByteArray &input = {}) {
     process.write(input);
     process.closeWriteChannel();
-    // However long it takes with a sanitizer; ctest ends what hangs.
+    // Sanitizers are slow; ctest stops tests that hang.
     if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
         qFatal("zel-package: %s", qPrintable(process.errorString()));
-    if (!process.isReadable()) // both streams go elsewhere
+    if (!process.isReadable()) // both streams are redirected
         return {process.exitCode(), {}, {}};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
@@ -56,8 +55,8 @@ inline Outcome runProgram(const QStringList &arguments, const QString &directory
     return finished(process, input);
 }
 
-/// Runs a line of a shell, which finds the program on its PATH, the manifests for it in $FILES, and
-/// $DATA, $SOURCE and $XMLLINT.
+/// Runs a shell command. The program is on the PATH; $FILES has the manifests for it, and $DATA,
+/// $SOURCE and $XMLLINT are set.
 inline Outcome runShell(const QString &line, const QString &directory) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -75,10 +74,11 @@ inline Outcome runShell(const QString &line, const QString &directory) {
     return finished(process);
 }
 
-/// Empties the directory but for copies of the manifests for the program.
+/// Replaces the directory's contents by copies of the manifests for the program.
 inline void resetFiles(const QString &directory) {
     std::error_code error;
-    std::filesystem::remove_all(directory.toStdString(), error); // Qt leaves names not in UTF-8
+    // Unlike Qt, removes names that are not UTF-8.
+    std::filesystem::remove_all(directory.toStdString(), error);
     if (error || !QDir().mkpath(directory))
         qFatal("cannot empty %s", qPrintable(directory));
     const auto files = QDir(testData("zel-package/files")).entryInfoList(QDir::Files);
@@ -86,8 +86,7 @@ inline void resetFiles(const QString &directory) {
         QFile::copy(file.filePath(), QDir(directory).filePath(file.fileName()));
 }
 
-/// What the program writes to a terminal of 120 columns: its standard output, and the messages too
-/// where that is asked for.
+/// The program's standard output on a terminal of 120 columns, optionally with its messages.
 inline QByteArray terminalOutput(const QStringList &arguments, const QString &directory,
                                  const char *noColor, bool withMessages = false) {
     winsize size{};
@@ -116,6 +115,6 @@ inline QByteArray terminalOutput(const QStringList &arguments, const QString &di
     if (!terminal.open(primary, QIODevice::ReadOnly | QIODevice::Unbuffered,
                        QFileDevice::AutoCloseHandle))
         qFatal("%s", qPrintable(terminal.errorString()));
-    // Reading fails once all is read and the other side is closed.
+    // Reading fails at the end, once the other side is closed.
     return terminal.readAll().replace("\r\n", "\n");
 }

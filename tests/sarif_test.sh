@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Usage: sarif_test.sh PROGRAM SOURCE-DIR WORK-DIR
 #
-# Lets the SARIF multitool of npm judge what "zel-package validate --format sarif" says. Skips the
-# test (status 77), and says so, where npm or its registry is not at hand.
+# Validates the output of "zel-package validate --format sarif" with the SARIF multitool from npm.
+# Skips the test (status 77) with a message if npm or its registry is unavailable.
 
 set -euo pipefail
 
@@ -27,7 +27,7 @@ fi
 multitool=$(node -p "require('$package')") 2>npm.log || skip "$package does not run here"
 chmod u+x "$multitool"
 
-# Prints the errors that the multitool finds. It exits with 0 whether there are some or not.
+# Prints the errors that the multitool finds. Its exit status is 0 in any case.
 errors_in() {
     "$multitool" validate "$1" --level Error --output judged.sarif --log ForceOverwrite >judged.log
     grep -q '^Analysis completed successfully' judged.log || {
@@ -40,7 +40,7 @@ errors_in() {
 cp "$source/examples/packages/faulty/manifest.xml" "files/ü #1/a b.xml"
 cp "$source/tests/data/manifest/invalid/crossed-tags.xml" files/broken.xml
 
-# Findings of every rule, a malformed manifest, one that is not there, and names that need encoding.
+# Findings of every rule, a malformed manifest, a missing one, and names that need encoding.
 status=0
 "$program" validate --format sarif "$source"/examples/packages/*/manifest.xml files/*/*.xml \
     files/broken.xml files/missing.xml - </dev/null >all.sarif 2>all.err || status=$?
@@ -55,6 +55,6 @@ for log in all none; do
     fi
 done
 
-# The judge does find what is wrong.
+# The tool must detect errors.
 sed 's/"startLine":[0-9]*/"startLine":-1/' all.sarif >wrong.sarif
 [ -n "$(errors_in wrong.sarif)" ]

@@ -1,8 +1,8 @@
 #!/bin/sh
 # Usage: schema_test.sh XMLLINT SOURCE_DIR
 #
-# Checks the schema with a validator that is not ours: it has to accept the sample packages and the
-# manifests that the reader accepts in canonical form, and to refuse those that the reader refuses.
+# Checks the schema with an independent validator: it must accept the sample packages and canonical
+# manifests that the reader accepts, and reject manifests that the reader rejects.
 set -eu
 xmllint=$1
 schema=$2/schema/manifest.xsd
@@ -14,7 +14,7 @@ fault() {
     faults=$((faults + 1))
 }
 
-# xmllint reports a violation of Namespaces in XML, and goes on.
+# xmllint reports violations of Namespaces in XML but continues.
 validate() {
     report=$("$xmllint" --nonet --noout --schema "$schema" "$1" 2>&1) || return 1
     case $report in *'namespace error'*) return 1 ;; esac
@@ -24,7 +24,7 @@ accepted=0
 for file in "$2"/examples/packages/*/manifest.xml "$data"/valid/*.xml \
     "$data"/valid/noncanonical/*.canonical.xml; do
     case ${file##*/} in
-    newer-*) # holds what only a newer schema can know
+    newer-*) # content of a newer schema
         if validate "$file"; then fault "$file: accepted"; fi
         continue
         ;;
@@ -42,7 +42,7 @@ done
 refused=0
 for file in "$data"/invalid/*.xml; do
     case ${file##*/} in
-    # Well-formed XML with valid content; what the reader refuses there is no matter of a schema.
+    # Well-formed XML with valid content, rejected by the reader for reasons beyond a schema.
     *-declared.xml | utf16-*.xml | doctype*.xml | too-*.xml | trailing-nul.xml) continue ;;
     esac
     if validate "$file"; then fault "$file: accepted"; fi

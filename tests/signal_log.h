@@ -10,15 +10,14 @@
 #include <utility>
 #include <vector>
 
-/// Writes down every notification of the objects that it watches, one line each in the order of
-/// their delivery: `nameUpdated("Tea", fr_FR)`, or `dialog.topicRemoved(fr_FR)` for an object that
-/// is watched under a label.
+/// Logs every notification of the watched objects in delivery order, one line each:
+/// `nameUpdated("Tea", fr_FR)`, or `dialog.topicRemoved(fr_FR)` for an object with a label.
 class SignalLog : public QObject {
 public:
     SignalLog() = default;
     explicit SignalLog(QObject &object) { watch(object); }
 
-    /// Watches the notifications that the object's own class declares.
+    /// Watches the signals declared by the object's own class.
     void watch(QObject &object, const QString &label = {}) {
         const QMetaObject *meta = object.metaObject();
         for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
@@ -31,10 +30,10 @@ public:
         }
     }
 
-    /// Calls `look` upon every notification, and logs the lines that it returns behind it.
+    /// Calls `look` on every notification, and logs the lines that it returns after it.
     void onEverySignal(std::function<QStringList()> look) { m_look = std::move(look); }
 
-    /// Adds lines that tell of something else.
+    /// Adds other lines.
     void append(const QStringList &lines) { m_lines += lines; }
 
     /// The lines since the last call.

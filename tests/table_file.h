@@ -9,8 +9,8 @@
 
 #include <list>
 
-/// The rows of a table in a JSON file below ZEL_TEST_DATA, which is an array of rows of one length;
-/// the first row has the names of the columns.
+/// The rows of a table in a JSON file below ZEL_TEST_DATA: an array of arrays of equal length, of
+/// which the first has the column names.
 inline QJsonArray tableIn(const char *path) {
     QFile file(QStringLiteral(ZEL_TEST_DATA "/") + QLatin1String(path));
     QJsonParseError error{};
@@ -26,11 +26,11 @@ inline QJsonArray tableIn(const char *path) {
     return rows;
 }
 
-/// Fills the table of a data function with that of a file. A column holds texts, numbers, or arrays
-/// of texts, as its first value does; the first one also names the rows.
+/// Adds the rows of a file to a data function's table. A column holds texts, numbers or arrays of
+/// texts, depending on its first value; the first column also names the rows.
 inline void addRowsOf(const char *path) {
     const QJsonArray rows = tableIn(path);
-    static std::list<QByteArray> known; // Qt keeps but the pointers
+    static std::list<QByteArray> known; // Qt only keeps the pointers
     const QJsonArray names = rows.at(0).toArray();
     for (int column = 0; column < names.size(); ++column) {
         const QByteArray &name = known.emplace_back(names.at(column).toString().toUtf8());

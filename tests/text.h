@@ -10,12 +10,12 @@ inline QString text(const char *utf8) {
     return QString::fromUtf8(utf8);
 }
 
-/// The language of that code; the one without a code where the table has none.
+/// The language with this code, or one without a code.
 inline Zel::RobotLanguage language(const char *code) {
     return Zel::robotLanguage(text(code));
 }
 
-/// What a file of the test data holds.
+/// The content of a file below ZEL_TEST_DATA.
 inline QByteArray testData(const QString &path) {
     QFile file(text(ZEL_TEST_DATA "/") + path);
     if (!file.open(QFile::ReadOnly))

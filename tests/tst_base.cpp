@@ -15,7 +15,7 @@ using Tano::log::Level;
 
 namespace {
 
-QStringList lines; // "type category text" of each message since the test began
+QStringList lines; // "type category text" of each message in the current test
 
 void record(QtMsgType type, const QMessageLogContext &context, const QString &text) {
     lines.append(qFormatLogMessage(type, context, text));
@@ -116,7 +116,7 @@ private Q_SLOTS:
         const QString system1 = made(QStringLiteral("system1/zentrix"));
         const QString system2 = made(QStringLiteral("system2/zentrix"));
         const QString own = made(user());
-        // Twice the same, one that is not there, an empty entry, and a relative one.
+        // A duplicate, a missing directory, an empty entry, and a relative one.
         const QString relative = QDir::current().relativeFilePath(second);
         qputenv("ZENTRIX_DATA_PATH",
                 QString(first % u":/missing::" % relative % u':' % first).toUtf8());
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
     void finds_data() { addRowsOf("base/found.json"); }
 
-    // The first directory wins, and nothing outside the directories is found.
+    // The first directory wins, and files outside the directories are not found.
     void finds() {
         QFETCH(const QString, application);
         QFETCH(const QString, path);
@@ -157,8 +157,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Makes a directory under the test's home, and in it a file where one is named; gives the
-    /// directory's path.
+    /// Creates a directory in the test's home, optionally with a file, and returns its path.
     QString made(const QString &name, const QString &file = {}) const {
         const QDir directory(QDir(m_home->path()).absoluteFilePath(name));
         QFile made(directory.filePath(file));

@@ -19,7 +19,7 @@ QString text(const char *utf8) {
     return QString::fromUtf8(utf8);
 }
 
-// What an editor adds to the commands of the library.
+// A command class defined by an editor.
 class EditorNature : public BehaviorSetStringCommand {
 public:
     using BehaviorSetStringCommand::BehaviorSetStringCommand;
@@ -45,7 +45,7 @@ bool isA(const QUndoCommand &command) {
     return dynamic_cast<const Base *>(&command);
 }
 
-// Writes down what is translated, and answers the text in brackets.
+// Records the translated texts and puts them into brackets.
 class RecordingTranslator : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -62,7 +62,7 @@ private:
     mutable QStringList m_asked;
 };
 
-// A behavior and a dialog, both called tea.
+// Adds a behavior and a dialog, both named tea.
 void fill(PackageInfoModel &package) {
     const RobotLanguage french = Commands::Tag{text("fr_FR")};
     package.setInstaller(text("old"));
@@ -140,8 +140,8 @@ void TestCommands::init() {
     m_arguments = {m_package.get(), text("tea"), {text("2")}, {text("fr_FR")}, 1};
 }
 
-// One row a class and variant: what is translated, the text (brackets mark what was translated),
-// and what is announced when it is done and when it is undone.
+// One row per class and variant: the translated source, the text (with the translated part in
+// brackets), and the notifications of redo and undo.
 void TestCommands::steps() {
     QFETCH(QString, command);
     const QString className = command.section(u' ', 0, 0);
@@ -165,7 +165,7 @@ void TestCommands::steps() {
         step->undo();
         QTEST(taken(), "undone");
         if (className == QLatin1String("PackageLanguageCommand"))
-            break; // the description language and the topic are not its business
+            break; // description languages and topics may stay
     }
     QCOMPARE(translator.take(), QStringList());
 }
@@ -197,7 +197,7 @@ void TestCommands::derivation_data() {
     row("text of a dialog", "^DialogInfoModel[NT]", isA<DialogInfoModelCommand>);
 }
 
-// The classes that have a base, found at run time and from the outside of the library.
+// Checks the base classes at run time and from outside the library.
 void TestCommands::derivation() {
     QFETCH(QString, classes);
     QFETCH(IsA, isBase);
@@ -209,7 +209,7 @@ void TestCommands::derivation() {
     }
 }
 
-// Every class upon every class, all else being equal.
+// Every pair of classes, with equal arguments.
 void TestCommands::merges_data() {
     QTest::addColumn<QString>("older");
     QTest::addColumn<QString>("newer");
@@ -276,7 +276,7 @@ void TestCommands::mergesByField() {
     if (className != QLatin1String("DialogInfoModelTopicCommand"))
         QCOMPARE(older->text(), shown);
 
-    // It writes what the newer one would, and what was there before the run.
+    // Does what the newer command would do, and undoes to the state before the run.
     if (differing == QLatin1String("value"))
         done.replaceInStrings(text("\"2\""), text("\"3\""));
     older->redo();
@@ -285,7 +285,7 @@ void TestCommands::mergesByField() {
     QCOMPARE(taken(), undone);
 }
 
-// The type that a command asks for is that of its base, so an editor's own class takes part.
+// Merging requires the type of the base class, so classes defined by an editor can take part.
 void TestCommands::mergesWithEditorClasses() {
     PackageInfoModel *package = m_package.get();
     const QString path = text("tea");
@@ -303,7 +303,7 @@ void TestCommands::mergesWithEditorClasses() {
     QVERIFY(!typeVersion.mergeWith(&editorName));
 }
 
-// A run keeps to its entry; renaming something else to the same name is no part of it.
+// A run stays with its entry; renaming another entry to the same name does not extend it.
 void TestCommands::runsOfRenames() {
     m_package->addBehavior(text("other"));
     m_package->addDialog(text("other"));
@@ -320,16 +320,16 @@ void TestCommands::runsOfRenames() {
         taken();
         stack.undo();
         stack.redo();
-        const QString told = taken().join(u' ');
-        QVERIFY2(told.contains(
+        const QString announced = taken().join(u' ');
+        QVERIFY2(announced.contains(
                      QRegularExpression(text(R"((pathUpdated|nameChanged)\("tea"\) .*"rum")"))),
-                 qPrintable(told));
+                 qPrintable(announced));
         rename("other", "rum");
         QCOMPARE(stack.count(), 2);
     }
 }
 
-// A lone surrogate is no text that a record can hold; the entry is found again all the same.
+// Records cannot represent a lone surrogate, but the entry can still be found.
 void TestCommands::renamedToWhatCannotBeHeld() {
     m_arguments.value = {QString(QChar(0xD800))};
     for (const char *className : {"BehaviorPathCommand", "DialogInfoModelNameCommand"}) {
@@ -367,7 +367,7 @@ void TestCommands::missingEntry() {
     m_arguments.key = text("none");
     for (const auto &each : commandClasses()) {
         if (text(each.name) == QLatin1String("PackageLanguageCommand"))
-            continue; // the editor's business
+            continue; // covered by the editor's tests
         m_arguments.model = text(each.name).startsWith(u'P') ? nullptr : m_package.get();
         const auto command = made(text(each.name), m_arguments);
         command->redo();
@@ -390,7 +390,7 @@ void TestCommands::switchNamesTheBehavior() {
     QCOMPARE(shown(), text("Set a behavior as not user-requestable"));
     QLocale::setDefault(locale);
 
-    // It is made for one flag, and sticks to it.
+    // The command always switches to the same value.
     BehaviorSwitchUserRequestableCommand command(m_package.get(), text("tea"));
     m_behavior->setUserRequestable(false);
     taken();
@@ -415,7 +415,7 @@ void TestCommands::permissionsUndoBlindly() {
                                b.permissionAdded("camera"))"));
 }
 
-// Steps that the command does not remember.
+// Removes and adds items between undo steps, which the command does not know of.
 void TestCommands::listsByHand() {
     const std::unique_ptr<BehaviorAddRemoveTagCommand> command(
         BehaviorAddRemoveTagCommand::addCommand(m_package.get(), text("tea"), text("x"),

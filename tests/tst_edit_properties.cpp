@@ -10,7 +10,7 @@ using namespace Zel;
 using Reference::Command;
 using Reference::Does;
 using Reference::Entity;
-using Reference::Told;
+using Reference::Notifications;
 
 namespace {
 
@@ -18,7 +18,7 @@ QString text(const char *utf8) {
     return QString::fromUtf8(utf8);
 }
 
-// What has one value a language.
+// Stores a field that has one value per language.
 template<typename Value, typename Localized>
 void put(QMap<QString, Value> &fields, const char *field, const Localized &values) {
     for (const auto &[value, language] : values)
@@ -32,7 +32,7 @@ QStringList codes(const RobotLanguages &languages) {
     return result;
 }
 
-// What the readers of a package answer.
+// The contents of a package according to its getters.
 Entity shown(const PackageInfoModel &package) {
     Entity own;
     own.texts = {{text("installer"), package.installer()},
@@ -69,7 +69,7 @@ Entity shown(const BehaviorInfoModel &model) {
     for (const char *purpose : {"launch", "stop"})
         behavior.setList(text("conditions[%1]").arg(text(purpose)),
                          model.conditions(text(purpose)));
-    // The model does not tell the order, which matters to the manifest.
+    // The model does not expose the order, which matters in the manifest.
     QStringList permissions;
     for (const std::string &permission : model.toBehaviorInfo().permissions())
         permissions += fromUtf8(permission);
@@ -85,8 +85,7 @@ Entity shown(const DialogInfoModel &model) {
     return dialog;
 }
 
-// What is left of it in a manifest, where texts that are empty are no others than those that are
-// missing.
+// The package after a save, which turns empty texts into absent ones.
 Reference::Package saved(Reference::Package package) {
     const auto clean = [](Entity &entity) {
         entity.label.clear();
@@ -101,11 +100,11 @@ Reference::Package saved(Reference::Package package) {
     return package;
 }
 
-// The real package beside the plain one, and everything that it tells.
+// A real package and a reference model, with the notifications of the real one.
 class Pair {
 public:
     Pair() {
-        // With comments, elements and attributes beyond the fields, which have to stay in place.
+        // Has comments and unknown content, which must stay in place.
         QFile manifest(QStringLiteral(ZEL_TEST_DATA "/commands/package.xml"));
         if (!manifest.open(QIODevice::ReadOnly))
             qFatal("no manifest");
@@ -114,7 +113,7 @@ public:
         reference.package = all(package);
     }
 
-    // The library's command for a plain one.
+    // The library's command for a reference command.
     std::unique_ptr<QUndoCommand> real(const Command &c) {
         return Commands::made(
             c.kind->className,
@@ -131,7 +130,7 @@ public:
         expectSame(reference.setIndex(index));
     }
 
-    // What other hands do: an edit that is on no stack.
+    // Edits the package without the undo stack.
     void edit(Command command) {
         real(command)->redo();
         command = Reference::made(reference.package, command);
@@ -152,8 +151,8 @@ public:
         addOrRemove(reference.package.dialogs, name, all(package).dialogs);
     }
 
-    // What was told since the last step.
-    Told take() { return m_log.take(); }
+    // The notifications since the last step.
+    Notifications take() { return m_log.take(); }
 
     std::string bytes() {
         package.syncRecord();
@@ -170,7 +169,7 @@ private:
             qFatal("%s", package.packageInfo().errorString().c_str());
     }
 
-    // With the children, which are watched from then on if they are those of the package.
+    // Includes the children; watches them if they belong to the package.
     Reference::Package all(const PackageInfoModel &model) {
         const auto labelled = [&](auto *child, QChar letter) {
             if (&model == &package && child->objectName().isEmpty()) {
@@ -199,12 +198,12 @@ private:
         expectSame({});
     }
 
-    void expectSame(const Told &told) {
-        RC_ASSERT(m_log.take().join(u'\n').toStdString() == told.join(u'\n').toStdString());
+    void expectSame(const Notifications &announced) {
+        RC_ASSERT(m_log.take().join(u'\n').toStdString() == announced.join(u'\n').toStdString());
         RC_ASSERT(all(package) == reference.package);
         RC_ASSERT(stack.count() == reference.count());
         RC_ASSERT(stack.index() == reference.index());
-        // The record holds what the readers answer.
+        // The record holds what the getters return.
         package.syncRecord();
         PackageInfoModel read;
         load(read, package.saveToManifestContent());
@@ -243,7 +242,7 @@ Command anyCommand() {
     return c;
 }
 
-// Whether undoing restores the package; only some kinds of commands have a reason not to.
+// Whether undoing restores the package; only some kinds of commands may fail to.
 bool isUndone(Pair &pair, const Command &pushed) {
     Reference::Package package = pair.reference.package;
     Command command = Reference::made(package, pushed);
@@ -272,7 +271,7 @@ private:
     }
 };
 
-// Undoing and redoing give the exact bytes of every index, in any order.
+// Undoing and redoing restore the exact bytes for every index, in any order.
 void TestEditProperties::everyIndexHasItsBytes() {
     const bool holds = rc::check("every index of the stack has its bytes", [] {
         Pair pair;
@@ -299,7 +298,7 @@ void TestEditProperties::everyIndexHasItsBytes() {
     QVERIFY(holds);
 }
 
-// Whatever else happens to the package, the commands do what the plain ones do, and tell it.
+// Commands behave and notify like the reference while other code edits the package.
 void TestEditProperties::otherHands() {
     const bool holds = rc::check("commands go on over the edits of others", [] {
         Pair pair;
@@ -349,7 +348,8 @@ void TestEditProperties::whatUndoingDoesNotRestore() {
     QVERIFY2(fromUtf8(bytes).contains(left), bytes.c_str());
 }
 
-// A manifest does not tell them apart, unless the element has attributes that it keeps.
+// A manifest does not distinguish absent texts from empty ones unless the element has unknown
+// attributes.
 void TestEditProperties::missingTextsAreUndoneToEmptyOnes() {
     Pair pair;
     const auto bytes = [&] { return QByteArray::fromStdString(pair.bytes()); };

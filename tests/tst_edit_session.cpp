@@ -14,7 +14,7 @@ using namespace Zel::PackageModel;
 
 namespace {
 
-// What another process does: it opens the manifest, keeps an edit, and runs until it is killed.
+// Runs another process that opens the manifest, stores an edit, and waits to be killed.
 constexpr const char *editorMode = "--edit";
 
 UnsavedEdits sample(const QString &fileName, const QString &author) {
@@ -75,9 +75,9 @@ private Q_SLOTS:
             QTest::newRow(error) << QString::fromUtf8(from) << QString::fromUtf8(to)
                                  << QString::fromUtf8(error);
         };
-        row("\"format\": 1", "\"format\": 2", "format: The format 2 is not known.");
+        row("\"format\": 1", "\"format\": 2", "format: Format 2 is not supported.");
         row("\"manifest\"", "\"package\"", "content: It is missing.");
-        row("2026-11-21T", "soon", "time: The value is of another type.");
+        row("2026-11-21T", "soon", "time: The value has the wrong type.");
         row("\"set\"", "\"put\"",
             "edits[0].action: It must be 'set', 'insert', 'remove' or 'move'.");
         row("\"sha256\"", "\"extra\": 1, \"sha256\"", "extra: There is no such member.");
@@ -106,7 +106,7 @@ private Q_SLOTS:
             second.discard();
             QVERIFY(!second.leftover());
         }
-        QCOMPARE(leftovers(state()).size(), 0); // it is open
+        QCOMPARE(leftovers(state()).size(), 0); // it is still open
         QVERIFY(isSame(*first.leftover(), sample(manifest, QStringLiteral("Ada"))));
         first.discard();
         QVERIFY(!first.leftover());
@@ -160,7 +160,7 @@ private Q_SLOTS:
         }
         const auto found = leftovers(state());
         QCOMPARE(found.size(), 2);
-        QVERIFY(isSame(found.first().unsaved, later)); // the newest first
+        QVERIFY(isSame(found.first().unsaved, later)); // newest first
         for (const Leftover &each : found)
             EditSession::ofLeftover(state(), each.id).discard();
         QCOMPARE(leftovers(state()).size(), 0);

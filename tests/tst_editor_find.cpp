@@ -36,7 +36,7 @@ private Q_SLOTS:
         QTest::keyClick(text(), Qt::Key_Return);
         m_panel->showNext();
         m_panel->showPrevious();
-        m_panel->showPrevious(); // around
+        m_panel->showPrevious(); // wraps around
         QStringList paths;
         for (const auto &each : wanted)
             paths += each.first().toString();

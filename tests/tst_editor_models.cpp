@@ -40,7 +40,7 @@ QStringList languagesOf(const Zel::PackageInfoModel &package) {
     return codes;
 }
 
-// What a model shows, one line a row.
+// The contents of a model, one line per row.
 QStringList shown(const QAbstractItemModel &model) {
     QStringList rows;
     for (int row = 0; row < model.rowCount(); ++row) {
@@ -140,7 +140,7 @@ class TestEditorModels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // A view without a current row asks for one.
+    // A view without a current row passes invalid indexes.
     void invalidIndexes() {
         Document document;
         QVERIFY(document.open(sample("ten-languages")));
@@ -205,7 +205,7 @@ private Q_SLOTS:
         row("Brio minimum", [](D &, M &m) { write(m.brio, 0, 0, ""); });
     }
 
-    // Each edit is seen by the models, is undone to the very bytes of the file, and done again.
+    // Models show each edit, undoing it restores the exact bytes of the file, and redoing works.
     void edit() {
         QFETCH(MakeEdit, make);
         Document document;
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QCOMPARE(cell.data().toString(), before);
     }
 
-    // The package keeps what it has, and the user learns why.
+    // The package is unchanged, and the reason is shown.
     void refusals() {
         Document document;
         QVERIFY(document.open(sample("ten-languages")));
@@ -283,7 +283,7 @@ private Q_SLOTS:
         const QSignalSpy refused(&document, &Document::editRefused);
         const QString taken = document.package()->services().at(0)->name();
         QCOMPARE(models.services.refusal(models.services.index(1, ServicesModel::Name), taken),
-                 QStringLiteral("'%1' is taken.").arg(taken));
+                 QStringLiteral("'%1' is already in use.").arg(taken));
         QVERIFY(!models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.x")).isEmpty());
         QVERIFY(models.robots.refusal(models.robots.index(0, 1), QStringLiteral("1.2")).isEmpty());
         QVERIFY(!models.languages
@@ -291,17 +291,12 @@ private Q_SLOTS:
                      .isEmpty());
         models.languages.add(QStringLiteral("en_US"));
         QCOMPARE(refused.size(), 1);
-        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("'en_US' is there already."));
+        QCOMPARE(refused.at(0).at(0).toString(), QStringLiteral("'en_US' already exists."));
         QCOMPARE(document.undoStack()->count(), 0);
     }
 
-    void pendingEdits_data() {
-        QTest::addColumn<unsigned>("seed");
-        const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-        for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 16); ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-    }
-    // The pending edits lead from the saved file to the present package.
+    void pendingEdits_data() { addSeeds(16); }
+    // The pending edits turn the saved file into the current package.
     void pendingEdits() {
         QFETCH(unsigned, seed);
         const QTemporaryDir directory;

@@ -10,7 +10,7 @@ using namespace Editor;
 
 namespace {
 
-// A window in short: a document and what keeps its edits. Without end(), it dies as by a signal.
+// A minimal window: a document and its edit session. Without end(), simulates a crash.
 struct Session {
     explicit Session(const QString &folder)
         : recovery(std::make_unique<Recovery>(document, folder))
@@ -87,7 +87,7 @@ private Q_SLOTS:
                     .startsWith(QStringLiteral("Evening")));
     }
 
-    // What the file does not take any more stays on disk, also when the user goes on.
+    // Edits that do not fit the file stay on disk, even if the user continues editing.
     void misfitStays() {
         crashWith({"Ada"}, [](Session &session) {
             session.document.edit({setText(*Tano::FieldPath::parse("behaviors[.].names[en_US]"),
@@ -152,12 +152,12 @@ private Q_SLOTS:
         QCOMPARE(first.noticed.size(), 0);
         QCOMPARE(second.noticed.size(), 1);
         QVERIFY(second.recovery->otherOwner());
-        QVERIFY(first.document.open(m_manifest)); // the same window again
+        QVERIFY(first.document.open(m_manifest)); // in the same window
         QVERIFY(!first.recovery->otherOwner());
     }
 
 private:
-    // Leaves edits behind, as a process does that is killed.
+    // Leaves edits behind like a killed process.
     void crashWith(std::initializer_list<const char *> authors,
                    const std::function<void(Session &)> &also = {}) {
         auto *session = new Session(state());

@@ -63,7 +63,7 @@ private Q_SLOTS:
         QTEST(view->textCursor().block().text(), "line");
     }
 
-    // A part is shown at once where the whole would take seconds.
+    // Shows a part immediately if the whole text would take seconds.
     void largeXml() {
         QString description;
         for (int i = 0; i < 200000; ++i)

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
+#include <QMenuBar>
 #include <QTableView>
 
 #include <optional>
@@ -26,7 +27,7 @@ private Q_SLOTS:
     void keyboard_data() {
         QTest::addColumn<QString>("list");
         QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("duplicates"); // empty if there are none
+        QTest::addColumn<QString>("duplicates"); // empty if duplicates are impossible
         QTest::addColumn<bool>("isOrdered");
         const auto row = [](const char *list, const char *lines, const char *duplicates,
                             bool isOrdered = true) {
@@ -99,7 +100,7 @@ private Q_SLOTS:
         if (duplicates.isEmpty())
             return;
 
-        // Another window.
+        // Simulates another window.
         openAgain();
         selectTwo(list);
         press(Qt::Key_Delete);
@@ -111,7 +112,7 @@ private Q_SLOTS:
     }
 
     void pastesBesideOthers_data() {
-        QTest::addColumn<QString>("text"); // none for two copied behaviors
+        QTest::addColumn<QString>("text"); // empty for two copied behaviors
         QTest::addColumn<QString>("list");
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("refusal");
@@ -168,21 +169,21 @@ private Q_SLOTS:
         press(Qt::Key_C, Qt::ControlModifier);
         line("Find a behavior")->setText(QStringLiteral("First"));
         tree->setFocus();
-        press(Qt::Key_V, Qt::ControlModifier); // its path and name show it
+        press(Qt::Key_V, Qt::ControlModifier); // shown by its path and name
         QCOMPARE(entries(list).size(), 4);
         QCOMPARE(selectedRows(), QList<int>{1});
         line("Find a behavior")->setText(QStringLiteral("irst"));
         clipboard()->setMimeData(Editor::newRowData(path(list), before.mid(1, 1), {}));
         tree->setFocus();
         press(Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(line("Find a behavior")->text(), QString()); // which hid the new row
+        QCOMPARE(line("Find a behavior")->text(), QString()); // the filter hid the new row
         QCOMPARE(selectedRows(), QList<int>{2});
     }
 
     void drag_data() {
         QTest::addColumn<QString>("list");
         QTest::addColumn<int>("target");
-        QTest::addColumn<bool>("isBelow"); // the middle of the target
+        QTest::addColumn<bool>("isBelow"); // below the middle of the target
         QTest::addColumn<QList<int>>("expected");
         const QString sentences = QStringLiteral("behaviors[a].triggerSentences[en_US]");
         QTest::newRow("to the end") << sentences << 2 << true << QList<int>{2, 0, 1};
@@ -212,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), wanted == before ? 0 : 1);
     }
 
-    // Every action is in the context menu, with its key.
+    // The context menu lists every action with its shortcut.
     void contextMenu() {
         selectTwo(QStringLiteral("services"));
         QStringList keys;
@@ -221,6 +222,31 @@ private Q_SLOTS:
         QCOMPARE(keys.join(u' '),
                  QStringLiteral("Ctrl+X Ctrl+C Ctrl+V Ctrl+D Del - Alt+Up Alt+Down"));
         QCOMPARE(QApplication::focusWidget()->contextMenuPolicy(), Qt::ActionsContextMenu);
+    }
+
+    // The Edit menu has the actions of the list that has the focus, also while the menu bar has it.
+    void editMenu() {
+        const QMenu *edit = m_window->menuBar()->actions().at(1)->menu();
+        const auto names = [edit] {
+            QStringList names;
+            for (const QAction *action : edit->actions())
+                names += action->text().remove(u'&');
+            return names.join(u' ');
+        };
+        selectTwo(QStringLiteral("services"));
+        m_window->menuBar()->setFocus();
+        QVERIFY2(
+            names().endsWith(QStringLiteral("Cut Copy Paste Duplicate Delete  Move Up Move Down")),
+            qPrintable(names()));
+        for (QAction *action : edit->actions()) {
+            if (isSame(action->text(), "Move Down"))
+                action->trigger();
+        }
+        QCOMPARE(Editor::entryKey(entries(QStringLiteral("services")).at(1)),
+                 QStringLiteral("clock"));
+        m_window->showField(QStringLiteral("services[lamp]"));
+        press(Qt::Key_F2); // the cell has its own
+        QVERIFY2(!names().contains(QStringLiteral("Cut")), qPrintable(names()));
     }
 
     void propertiesOfAService() {
@@ -239,6 +265,13 @@ private Q_SLOTS:
         m_window->showField(QStringLiteral("services[clock].properties[nice]"));
         press(Qt::Key_Delete);
         QCOMPARE(properties(), QStringLiteral("restart=always user="));
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboard()->text(), QStringLiteral("restart\talways\nuser\t"));
+        const int steps = stack()->count();
+        press(Qt::Key_Delete);
+        QCOMPARE(properties(), QString());
+        QCOMPARE(stack()->count(), steps + 1);
         while (stack()->canUndo())
             stack()->undo();
         QCOMPARE(manifest(), before);

@@ -123,7 +123,7 @@ private Q_SLOTS:
         QTEST(rowsOf(model), "expected");
     }
 
-    // A source counts as changed until its translation changes too, or the package is saved.
+    // A source counts as changed until its translation changes too or the package is saved.
     void changedSources() {
         Document document;
         const QString file = copyOf("small");
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(changed().size(), 2);
     }
 
-    // Rows that no longer pass stay until another one becomes the current one.
+    // Rows that no longer match the filter stay until another row becomes current.
     void filtersWhenTheRowChanges() {
         Document document;
         QVERIFY(document.openTemplate(sample));
@@ -163,7 +163,7 @@ private Q_SLOTS:
         document.type(name, text("Saluer"));
         QCOMPARE(rowsOf(model).value(1), text("Name|Greet|Saluer|Translated"));
         document.type(path(text("behaviors[greet].names[en_US]")), QString());
-        document.type(name, QString()); // no language has it, but it is being edited
+        document.type(name, QString()); // absent in all languages, but being edited
         QCOMPARE(rowsOf(model).value(1), text("Name|||Missing"));
         document.type(name, text("Saluer"));
         model.setCurrent(path(text("behaviors[greet].tags[fr_FR][1]")));
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(model).value(1), text("Name||Saluer|Translated"));
     }
 
-    // Whatever happens elsewhere, the rows are those of a model that is made afterwards.
+    // After any edit, the rows equal those of a new model.
     void followsAnyEdit_data() {
         QTest::addColumn<bool>("isMissing");
         QTest::newRow("all") << false;
@@ -225,11 +225,11 @@ private Q_SLOTS:
         const QByteArray ten = manifest();
         QVERIFY(ten.contains("<tag>t4</tag>"));
 
-        for (int i = 0; i < 6; ++i) // an item of a list among them
+        for (int i = 0; i < 6; ++i) // including an item of a list
             stack()->undo();
         QCOMPARE(current(), text("behaviors[greet-visitor].tags[nl_NL][0]"));
         stack()->setIndex(10);
-        stack()->undo(); // leads back to the text, on this page
+        stack()->undo(); // returns to the text on this page
         QCOMPARE(pair()->target()->toPlainText(), QString());
         QCOMPARE(focus(), pair()->target());
         QVERIFY(pair()->isVisible());
@@ -238,7 +238,7 @@ private Q_SLOTS:
         type(text("t9"));
         QCOMPARE(manifest(), ten);
 
-        press(Qt::Key_Up, Qt::AltModifier); // around to the last one
+        press(Qt::Key_Up, Qt::AltModifier); // wraps around to the last one
         QCOMPARE(table()->currentIndex().row(), table()->model()->rowCount() - 1);
         chooseFilter(text("Missing"));
         const int rows = table()->model()->rowCount();
@@ -269,7 +269,7 @@ private Q_SLOTS:
         QCOMPARE(manifest(), before);
     }
 
-    // In the list itself, where a text without a place is refused as well.
+    // Types directly in the list; texts without a place are refused there as well.
     void typesInPlace() {
         QVERIFY(m_directory.isValid());
         openIn(fileOf(sample), {});
@@ -290,7 +290,7 @@ private Q_SLOTS:
         select(text("behaviors[greet].tags[fr_FR][1]"));
         type(text("x"));
         press(Qt::Key_Backspace);
-        QCOMPARE(stack()->count(), 0); // no empty item is left
+        QCOMPARE(stack()->count(), 0); // no empty item remains
         QCOMPARE(manifest(), before);
         type(text("coucou"));
         press(Qt::Key_Return, Qt::ControlModifier);
@@ -359,14 +359,14 @@ private Q_SLOTS:
         select(text("behaviors[greet-visitor].names[fr_FR]"));
         choose(1, text("German"));
         QCOMPARE(current(), text("behaviors[greet-visitor].names[de_DE]"));
-        choose(0, text("German")); // by way of French, with which it swaps places
+        choose(0, text("German")); // via French, with which it is swapped
         QCOMPARE(current(), text("behaviors[greet-visitor].names[fr_FR]"));
         QCOMPARE(chooser(1)->findText(chooser(0)->currentText()), -1);
         choose(1, text("Japanese"));
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         QTRY_VERIFY(!model()->isLoading());
         QCOMPARE(current(),
-                 text("behaviors[greet-visitor].names[ja_JP]")); // the window remembers it
+                 text("behaviors[greet-visitor].names[ja_JP]")); // remembered by the window
     }
 
 private:
@@ -384,7 +384,7 @@ private:
         writeTo(name, content);
         return name;
     }
-    // Shows the page for a package, which gets further languages.
+    // Shows the page for a package with additional languages.
     void openIn(const QString &file, const QStringList &languages) {
         showWindow();
         QVERIFY(m_window->openFile(file));
@@ -421,7 +421,7 @@ private:
         }
         return false;
     }
-    // Imports a file, and returns what is said about it.
+    // Imports a file and returns the message that is shown.
     QString import(const QString &file, bool asks = false) {
         QString said;
         const std::function<void(QFileDialog *)> give = [&](QFileDialog *dialog) {

@@ -17,7 +17,9 @@ using namespace Editor;
 using Tano::FieldPath;
 using Zel::PackageModel::Edit;
 
-/// How what is typed reaches the package, is refused, and is undone.
+Q_DECLARE_METATYPE(std::function<void()>)
+
+/// Tests how typed text reaches the package, is refused, and is undone.
 class TestEditorTyping : public QObject, private EditorTest {
     Q_OBJECT
 
@@ -26,7 +28,7 @@ private Q_SLOTS:
     void init() { showWindow(); }
     void cleanup() { closeWindow(); }
 
-    // In a package without behaviors too, whose list has nothing to select.
+    // Also in a package without behaviors, whose list has no selection.
     void aRunIsOneStep() {
         m_window->document().edit({appended(path("supportedLanguages"), QStringLiteral("en_US"))});
         const int before = stack()->count();
@@ -71,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(description->toPlainText(), QStringLiteral("one\n"));
     }
 
-    // A cell that is left with Escape is as it was, however often the user paused.
+    // Leaving a cell with Escape restores it, however often the user paused.
     void escapeTakesAllBack() {
         QVERIFY(m_window->openFile(copyOf("small")));
         const QByteArray before = manifest();
@@ -90,7 +92,7 @@ private Q_SLOTS:
         const QByteArray before = manifest();
         m_window->showPage(3);
         line("Find a behavior")->setFocus();
-        type(QStringLiteral("stories/b")); // and a behavior that the filter does not match any more
+        type(QStringLiteral("stories/b")); // this behavior no longer matches the filter
         field("&Path:")->setFocus();
         const auto *behavior = m_window->document().package()->behavior(field("&Path:")->text());
         replaceText(QStringLiteral("fable"));
@@ -121,13 +123,13 @@ private Q_SLOTS:
                                            << "U+000B";
         QTest::newRow("path that is taken") << 3 << "&Path:"
                                             << "goodbye"
-                                            << "'goodbye' is taken.";
+                                            << "'goodbye' is already in use.";
         QTest::newRow("path") << 3 << "&Path:" << QString() << "A behavior needs a path.";
         QTest::newRow("cell") << 2 << "Robots"
                               << "3.x"
                               << "'3.x' is not a version";
     }
-    // The package keeps what it had before the run, and the reason is there to be read.
+    // The package is unchanged by the run, and the reason is shown.
     void refusedTexts() {
         QFETCH(int, page);
         QFETCH(QString, label);
@@ -160,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(m_window->rect().contains(
             QRect(shown->mapTo(m_window.get(), QPoint()), shown->size())));
 
-        // Undo drops it, and only it.
+        // Undo discards the refused text and nothing else.
         press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(!note());
         QVERIFY(line(focus())->text() != text);
@@ -270,7 +272,7 @@ private Q_SLOTS:
                  QStringLiteral("half-ty"));
     }
 
-    // The text goes nowhere, and the user learns why.
+    // The text is not added, and the reason is shown.
     void refusedAdditions() {
         startAddition("half-ty");
         press(Qt::Key_Return);
@@ -309,7 +311,7 @@ private Q_SLOTS:
                  before + QStringList({QStringLiteral("one"), QStringLiteral("two"),
                                        QStringLiteral("three")}));
         QCOMPARE(stack()->count(), 1);
-        QCOMPARE(line("A new tag")->text(), before.first()); // is there already
+        QCOMPARE(line("A new tag")->text(), before.first()); // already exists
         QVERIFY(note());
 
         press(Qt::Key_A, Qt::ControlModifier);
@@ -348,7 +350,7 @@ private Q_SLOTS:
         row("services[noise-meter].execStart", 5, "Services", "bin/noise-meter --window 5s");
         row("services[noise-meter]", 5, "Services", "noise-meter");
     }
-    // Whatever is shown, an edit that is undone is shown with its page, entry, language and tab.
+    // Undoing an edit shows its page, entry, language and tab, whatever is shown before.
     void undoShowsTheField() {
         QFETCH(QString, at);
         QFETCH(int, page);
@@ -368,7 +370,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->findChild<QListWidget *>()->currentRow(), page);
     }
 
-    // The cursor stays where the text changes, in the editor of a cell too.
+    // The cursor stays at the position of the change, also in the editor of a cell.
     void undoKeepsTheCursor() {
         QVERIFY(m_window->openFile(copyOf("small")));
         QLineEdit *author = field("&Author:");
@@ -420,7 +422,7 @@ private:
         return qobject_cast<const QComboBox *>(widget)->currentText();
     }
 
-    // Opens the editor of a cell, with all of its text selected.
+    // Opens the editor of a cell with its text selected.
     QTableView *openCell(int page, const char *table, int row, int column) {
         m_window->showPage(page);
         auto *shown = view<QTableView>(table);
@@ -429,7 +431,7 @@ private:
         press(Qt::Key_F2);
         return shown;
     }
-    // Types the text of a new tag of the first behavior of a package, in English.
+    // Types a new English tag for the package's first behavior.
     void startAddition(const char *text) {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         m_window->showPage(3);
@@ -441,7 +443,7 @@ private:
         QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
         press(Qt::Key_V, Qt::ControlModifier);
     }
-    // The reason that is shown; null for none.
+    // The visible refusal, or null.
     FieldNote *note() const { return visible<FieldNote>(); }
     QComboBox *combo(const char *accessibleName) const {
         for (QComboBox *each : m_window->findChildren<QComboBox *>()) {
@@ -458,8 +460,6 @@ private:
         return nullptr;
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void()>)
 
 QTEST_MAIN(TestEditorTyping)
 #include "tst_editor_typing.moc"

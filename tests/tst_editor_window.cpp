@@ -16,6 +16,7 @@
 #include <QCommandLinkButton>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
@@ -23,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSplitter>
 #include <QTableView>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -92,6 +94,16 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(golden.arg(QLatin1String(QTest::currentDataTag())), stops.toUtf8());
     }
 
+    // The bar of docks that share their place follows their pages.
+    void tabKeyReachesTheBarOfDocks() {
+        QVERIFY(m_window->openFile(sample("small")));
+        press(Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(m_window->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly));
+        QCoreApplication::processEvents();
+        COMPARE_WITH_GOLDEN(QStringLiteral(ZEL_TEST_DATA "/editor/tab-order/docks.txt"),
+                            walk().toUtf8());
+    }
+
     void mnemonicsAreUnique_data() {
         QTest::addColumn<QString>("locale");
         for (const char *locale : {"en_US", "fr_FR", "ja_JP"})
@@ -111,18 +123,17 @@ private Q_SLOTS:
                 texts += label->buddy() ? label->text() : QString();
             for (const auto *button : shownPage()->findChildren<QAbstractButton *>())
                 texts += button->text();
-            QMap<QString, QString> textOf;
-            for (const QString &text : std::as_const(texts)) {
-                const QString key = QKeySequence::mnemonic(text).toString();
-                QVERIFY2(key.isEmpty() || !textOf.contains(key),
-                         qPrintable(QString::number(page) + key + u' ' + text + u' ' +
-                                    textOf.value(key)));
-                textOf.insert(key, text);
-            }
+            QCOMPARE(sharedMnemonics(texts), QString());
         }
+        m_window->showField(QStringLiteral("behaviors"));
+        QStringList edit;
+        for (const QAction *action : m_window->menuBar()->actions().at(1)->menu()->actions())
+            edit += action->text();
+        QVERIFY(edit.size() > 12); // with the actions of the list
+        QCOMPARE(sharedMnemonics(edit), QString());
     }
 
-    // Adds an entry with a button, types its name, and removes it with the Delete key.
+    // Adds an entry with a button, types its name, and deletes it with the Delete key.
     void newEntriesAreReadyForTyping_data() {
         QTest::addColumn<int>("page");
         QTest::addColumn<QString>("add");
@@ -164,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(manifest(), before);
     }
 
-    // In the editor of a cell, the key removes a letter.
+    // While a cell is edited, the key deletes a letter.
     void deletesLettersWhileTyping() {
         m_window->showPage(5);
         QTest::mouseClick(shownPage()->findChild<QPushButton *>(), Qt::LeftButton);
@@ -195,19 +206,19 @@ private Q_SLOTS:
         QVERIFY(contrast(box) > 3);
     }
 
-    // An issue of the package as a whole, such as that of its icon, marks no field.
+    // An issue of the whole package, such as that of its icon, marks no field.
     void marksFieldsAtFaultOnly() {
         const QString fileName = copyOf("small");
         writeTo(QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png")), "no picture");
         QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("icon.png is not read")));
+                             QRegularExpression(QStringLiteral("Ignoring .*icon.png")));
         QVERIFY(m_window->openFile(fileName));
         QCOMPARE(problemCount(), 1);
         const auto *languages = view<QTableView>("Languages and texts")->model();
         QVERIFY(languages->index(0, 0).data(Qt::DecorationRole).isNull());
     }
 
-    // The icons and marks that are shown already change their colors.
+    // Icons and marks that are already visible change their colors.
     void followsThePalette() {
         const QIcon icon = iconOf(Symbol::Add);
         const QImage before = icon.pixmap(32).toImage();
@@ -304,7 +315,7 @@ private Q_SLOTS:
                  !chooser.code().isEmpty());
     }
 
-    // A language with all that is in it, also one that has nothing but texts.
+    // Removes a language with all contents, also one that only has texts.
     void removesLanguages() {
         QVERIFY(m_window->openFile(copyOf("small")));
         m_window->document().edit(
@@ -355,16 +366,23 @@ private Q_SLOTS:
         m_window->resize(700, 600);
         m_window->showPage(4);
         dock("history")->hide();
+        auto *column = problems()->header();
+        column->resizeSection(2, 222);
+        auto *splitter = shownPage()->findChild<QSplitter *>();
+        splitter->setSizes({150, splitter->width() - 150});
+        const QList<int> sizes = splitter->sizes();
         QVERIFY(m_window->close());
         showWindow();
         m_window->restore();
         QCOMPARE(m_window->size(), QSize(700, 600));
+        QCOMPARE(shownPage()->findChild<QSplitter *>()->sizes(), sizes);
+        QCOMPARE(problems()->header()->sectionSize(2), 222);
         QVERIFY(dock("history")->isHidden());
         QVERIFY(!dock("problems")->isHidden());
         QVERIFY(field("&Topic:")->isVisible());
     }
 
-    // Also after the screen that it was on is gone.
+    // Works even if the window's screen was disconnected.
     void fitsTheScreen() {
         m_window->setGeometry(5000, 4000, 3000, 2500);
         QVERIFY(m_window->close());
@@ -423,7 +441,7 @@ private Q_SLOTS:
                  QStringLiteral("The file is beside the manifest."));
     }
 
-    // Qt's own dialogs, and the names of languages.
+    // Covers Qt's own dialogs and the names of languages.
     void speaksOneLanguage_data() {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("cancel");
@@ -457,7 +475,7 @@ private:
 
     using Answering = std::function<void(QDialog *)>;
 
-    // Each answers the next modal dialog.
+    // Each function handles the next modal dialog.
     void answerInTurn(std::vector<Answering> answers) {
         m_answers = std::move(answers);
         QTimer::singleShot(0, this, &TestEditorWindow::answerNext);
@@ -475,7 +493,7 @@ private:
         return
             [fileName](QDialog *dialog) { choose(fileName)(qobject_cast<QFileDialog *>(dialog)); };
     }
-    // Keeps the texts of the box.
+    // Records the texts of the box.
     static Answering pressButton(QStringList &shown, QMessageBox::ButtonRole role) {
         return [&shown, role](QDialog *dialog) {
             auto *box = qobject_cast<QMessageBox *>(dialog);
@@ -493,7 +511,7 @@ private:
         return m_window->findChild<QDockWidget *>(QLatin1String(name));
     }
 
-    // Presses Tab until the focus is where it was; returns a line for each stop.
+    // Presses Tab until the focus returns to its start; returns a line for each stop.
     QString walk() {
         auto *start = view<QListWidget>("Pages");
         start->setFocus();
@@ -511,7 +529,19 @@ private:
         return stops + QStringLiteral("does not come back\n");
     }
 
-    // Of the lightest and the darkest pixel, as WCAG counts it.
+    static QString sharedMnemonics(const QStringList &texts) {
+        QString shared;
+        QMap<QString, QString> textOf;
+        for (const QString &text : texts) {
+            const QString key = QKeySequence::mnemonic(text).toString();
+            if (!key.isEmpty() && textOf.contains(key))
+                shared += text + u'/' + textOf.value(key) + u' ';
+            textOf.insert(key, text);
+        }
+        return shared;
+    }
+
+    // The WCAG contrast between the lightest and the darkest pixel.
     static double contrast(QWidget &widget) {
         const QImage image = widget.grab().toImage();
         double lightest = 0;

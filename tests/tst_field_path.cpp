@@ -9,7 +9,7 @@ using Tano::FieldPath;
 
 namespace {
 
-// The parts of a path: "field", "[key]" and "[+]" for the end of a list, one a line.
+// The parts of a path, one per line: "field", "[key]", and "[+]" for the end of a list.
 QString partsOf(const FieldPath &path) {
     QString parts;
     for (const auto &step : path.steps()) {
@@ -124,7 +124,7 @@ private Q_SLOTS:
 
     void indexes_data() {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("index"); // -1 for none
+        QTest::addColumn<int>("index"); // -1 if absent
         QTest::newRow("0") << "0" << 0;
         QTest::newRow("greatest") << "2147483647" << std::numeric_limits<int>::max();
         for (const char *text : {"", "00", "01", "-1", "+1", " 1", "1 ", "2147483648", "x", "+"})

@@ -10,8 +10,8 @@ using namespace Zel;
 
 namespace {
 
-// In order, a line each: "signal tagRemoved(int idx)", "private bool removeTag(int idx)". The forms
-// that default arguments add are left out.
+// The declarations in order, one per line: "signal tagRemoved(int idx)", "private bool
+// removeTag(int idx)". Omits the overloads generated for default arguments.
 QStringList declarations(const QMetaObject &meta) {
     QStringList result;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
@@ -39,8 +39,8 @@ QStringList declarations(const QMetaObject &meta) {
 
 } // namespace
 
-/// What each class declares to Qt's meta-object system is what the file of its name in
-/// data/interface says: editors connect by these names, and the order is part of the interface.
+/// Compares what each class declares to Qt's meta-object system with the file of its name in
+/// data/interface: editors connect by these names, and the order is part of the interface.
 class TestInterfaces : public QObject {
     Q_OBJECT
 

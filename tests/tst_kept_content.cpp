@@ -43,7 +43,7 @@ PackageInfo readPackage(const std::string &rest) {
     return read("<package format=\"1\" uid=\"u\" version=\"1\"" + rest);
 }
 
-// A row for each manifest that can be read.
+// Adds a row for each valid manifest.
 void addManifests() {
     QTest::addColumn<QString>("path");
     QDirIterator files(dataPath("manifest/valid"), {QStringLiteral("*.xml")}, QDir::Files,
@@ -149,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(Tano::withoutComment(package, absent), package);
     }
 
-    // Where the comments for all fields go, and for fields that are absent.
+    // Adds comments for all fields, including absent ones.
     void commentsAreAdded() {
         const PackageInfo package = loaded(dataPath("fields/package.xml"));
         QFile fields(dataPath("fields/package.txt"));

@@ -77,12 +77,12 @@ private Q_SLOTS:
             uiNames.insert(language.uiName());
         }
         QVERIFY(known.size() > 40);
-        QCOMPARE(uiNames.size(), int(known.size())); // the user can tell them apart
+        QCOMPARE(uiNames.size(), int(known.size())); // the user can distinguish them
     }
 
     void names_data() { addRowsOf("base/languages.json"); }
 
-    // Nothing is known of a code that is in no table.
+    // Unknown codes have no names.
     void names() {
         QFETCH(const QString, code);
         QFETCH(const QString, name);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(codes(Language::knownLanguages()), before);
     }
 
-    // A code that only texts use is forgotten with them, until an application registers it.
+    // A code used only by texts is dropped with them, unless an application registers it.
     void registrationOutlivesUse() {
         RobotLanguage inUse = Language::languageInUse(QStringLiteral("qac"));
         Language::addPartialLanguage(
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(robotLanguage(QStringLiteral("qad")).nuanceCode(), QStringLiteral("x"));
     }
 
-    // The table drops unused languages as it grows; those in use stay the same descriptors.
+    // The table drops unused languages as it grows; those in use keep their descriptors.
     void manyLanguages() {
         const RobotLanguage kept = Language::languageInUse(QStringLiteral("kept"));
         const QStringList before = codes(Language::knownLanguages());

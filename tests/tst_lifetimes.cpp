@@ -46,7 +46,7 @@ Tano::PackageInfo fullRecord() {
     return record;
 }
 
-// What differs between the caches of a package and those of a new one with the same record.
+// The differences between the caches of a package and those of a new one with the same record.
 QString disagreement(const PackageInfoModel &package) {
     const PackageInfoModel fresh(package.packageInfo());
     if (!(fresh.packageInfo() == package.packageInfo()))
@@ -236,7 +236,7 @@ void TestLifetimes::wholeChangesSurviveEdits_data() {
     }
 }
 
-// An observer edits at each of the first notifications; record and caches agree afterwards.
+// An observer edits at each of the first notifications; afterwards record and caches agree.
 void TestLifetimes::wholeChangesSurviveEdits() {
     QFETCH(Edit, change);
     QFETCH(Edit, edit);
@@ -255,7 +255,7 @@ void TestLifetimes::wholeChangesSurviveEdits() {
         change(package);
         QCOMPARE(disagreement(package), QString());
         const QByteArray tag = QTest::currentDataTag();
-        if (tag == "load, sync" || tag == "load, trim") // all that was loaded is described
+        if (tag == "load, sync" || tag == "load, trim") // uses all languages for descriptions
             QCOMPARE(package.saveToManifestContent(), m_manifest);
     }
 }
@@ -363,11 +363,12 @@ void TestLifetimes::argumentsInTheModel_data() {
     row("start command", service(&ServiceInfoModel::setExecStart));
 }
 
-// The first receiver drops the text that the argument refers to; the second one reads it.
+// The first receiver removes the text that the argument refers to; the second one reads the
+// argument.
 void TestLifetimes::argumentsInTheModel() {
     QFETCH(Setter, set);
     PackageInfoModel package(fullRecord());
-    const QString expected(package.names().front().first.constData()); // a copy of its own
+    const QString expected(package.names().front().first.constData()); // a deep copy
     const auto clear = [&](auto &&...) { package.clearNames(); };
     QStringList received;
     const auto receive = [&](const QMetaMethod &notification, void **arguments) {
@@ -491,7 +492,7 @@ void TestLifetimes::movingToAnotherPackage() {
     QCOMPARE(dialogRemoved.count() + serviceRemoved.count(), 2);
     to.dialogs().at(0)->setTypeVersion(text("2"));
     QCOMPARE(disagreement(from) + disagreement(to), QString());
-    to.removeBehavior(child); // can leave again
+    to.removeBehavior(child); // can be removed again
     QVERIFY(to.behaviors().isEmpty());
 }
 

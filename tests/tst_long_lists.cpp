@@ -15,7 +15,7 @@ using namespace Zel;
 
 namespace {
 
-// Of blocks from operator new: nodes of maps, vectors, and texts of the records beyond 15 bytes.
+// Counts calls of operator new: nodes of maps, vectors, and the records' texts beyond 15 bytes.
 std::atomic<long> allocations{0};
 
 } // namespace
@@ -56,8 +56,8 @@ QString longText(int number) {
     return text("a text that has a block of its own %1").arg(number);
 }
 
-// Supports `count` languages, and has a behavior with a trigger sentence in each and `count` in the
-// first, and a dialog and a requirement for each.
+// Supports `count` languages; has a behavior with one trigger sentence in each and `count` in the
+// first, and `count` dialogs and requirements.
 Tano::PackageInfo packageOf(int count) {
     Tano::PackageInfo package;
     Tano::BehaviorInfo behavior;
@@ -91,7 +91,7 @@ private Q_SLOTS:
     void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    // Additions, removals and look-ups in any order, with reads of the whole list now and then.
+    // Additions, removals and lookups in random order, with occasional reads of the whole list.
     void languagesInOrder() {
         std::mt19937 random(1);
         PackageInfoModel package;
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(!isKnown(text("load1")) && !isKnown(text("shared")));
     }
 
-    // Four times the entries take about four times the blocks, not sixteen times.
+    // Four times the entries need about four times the allocations, not sixteen times.
     void allocationsAreLinear_data() {
         QTest::addColumn<Operation>("operation");
         const auto row = [](const char *name, Operation operation) {
@@ -204,7 +204,7 @@ private Q_SLOTS:
             operation(package, count);
             return allocations - before;
         };
-        taken(10); // whatever is made once
+        taken(10); // allocates what is created only once
         const long few = taken(100);
         const long many = taken(400);
         QVERIFY2(many < 6 * few + 100, qPrintable(text("%1, %2").arg(few).arg(many)));

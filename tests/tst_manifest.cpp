@@ -35,7 +35,7 @@ QByteArray testData(const char *name) {
     return contentOf(pathOf(name));
 }
 
-// A row for each manifest in a folder of the test data.
+// Adds a row for each manifest in a folder of the test data.
 void addFiles(const char *folder) {
     const QDir dir(pathOf(folder));
     const auto names = dir.entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name);
@@ -74,7 +74,7 @@ private Q_SLOTS:
         addFiles("valid/noncanonical");
     }
 
-    // Those that are in another form have the canonical one beside them.
+    // Manifests in another form have the canonical one beside them.
     void savedInCanonicalForm() {
         QFETCH(QString, path);
         QFile file(path);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         row("delete and C1", "\x7F\u0080\u009F\u2028");
     }
 
-    // In every field that holds text, as element and as attribute.
+    // In all text fields, as elements and attributes.
     void hardTextsSurvive() {
         QFETCH(QString, text);
         QString references;
@@ -241,9 +241,9 @@ private Q_SLOTS:
         QTest::addColumn<std::string>("text");
         QTest::addColumn<QString>("reason");
         const QString control =
-            QStringLiteral("holds the control character %1, which XML cannot hold.");
+            QStringLiteral("contains the control character %1, which XML cannot represent.");
         const QString byte =
-            QStringLiteral("holds the byte %1, which starts no character that XML can hold.");
+            QStringLiteral("contains the byte %1, which does not start a valid XML character.");
         const auto row = [](const char *name, const std::string &text, const QString &reason,
                             const char *code) {
             QTest::newRow(name) << text << reason.arg(QLatin1String(code));
@@ -314,7 +314,7 @@ private Q_SLOTS:
         }
     }
 
-    // Each line of the file holds the position of a field, "2:3 author".
+    // Each line of the file is the position of a field, "2:3 author".
     void fieldsHavePositions() {
         ManifestReader reader(ManifestReader::Positions::Keep);
         PackageInfo package;
@@ -335,7 +335,7 @@ private Q_SLOTS:
         QCOMPARE(without.position(Tano::FieldPath()).line, std::uint64_t(0));
     }
 
-    // Read in pieces, whose ends lie anywhere, and with every kind of line end.
+    // Reads in pieces with arbitrary boundaries, and with every kind of line end.
     void positionsCountCharacters() {
         for (const char *lineEnd : {"\n", "\r\n", "\r"}) {
             std::string content = "<package format=\"1\" uid=\"u\" version=\"1\">";
@@ -374,7 +374,7 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(pathOf("unknown.txt"), nodes);
     }
 
-    // A behavior is saved below another root element than the one that declares its prefixes.
+    // Saves a behavior below another root element than the one that declares its prefixes.
     void prefixesFollowTheirRecords() {
         const auto package = [](const char *declaration, const char *content) {
             return loaded("<package format=\"1\" uid=\"u\" version=\"1\"" +
@@ -430,7 +430,7 @@ private Q_SLOTS:
                         "No such file or directory"));
         const QString dangling = dir.filePath(QStringLiteral("dangling"));
         QVERIFY(QFile::link(dir.filePath(QStringLiteral("nowhere")), dangling));
-        QVERIFY(refuses(dangling, "it is a link to a file that is not there"));
+        QVERIFY(refuses(dangling, "it is a link to a missing file"));
     }
 
     void linksAndOpenFilesAreWrittenThrough() {
@@ -464,7 +464,7 @@ private Q_SLOTS:
         QTemporaryDir dir;
         const QString large = dir.filePath(QStringLiteral("large.xml"));
         QVERIFY(QFile(large).open(QIODevice::WriteOnly));
-        QVERIFY(QFile::resize(large, qint64(3) << 30)); // takes no room on the disk
+        QVERIFY(QFile::resize(large, qint64(3) << 30)); // sparse, needs no disk space
         const QString missing = QStringLiteral("/no/such/manifest.xml");
         for (const auto &[path, reason] :
              {std::pair(missing, "opened: No such file or directory"),

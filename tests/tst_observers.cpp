@@ -11,7 +11,7 @@ namespace {
 
 std::string firstFault;
 
-// Counts the notifications of one object, and deletes another upon one of them.
+// Counts the notifications of one object, and deletes another at one of them.
 class Deleter : public QObject {
 public:
     Deleter(QObject *heard, QObject *victim, int notification)
@@ -87,7 +87,7 @@ private Q_SLOTS:
             QTest::newRow(deletions().at(row).name) << int(row);
     }
 
-    // Whoever hears any notification of an operation may delete the object that sends it.
+    // A receiver of any notification may delete the emitter.
     void deletesWithin() {
         QFETCH(const int, row);
         const Deletion &deletion = deletions().at(std::size_t(row));
@@ -114,7 +114,7 @@ private Q_SLOTS:
             QTest::addRow("seed %u", seed) << seed;
     }
 
-    // Observers do anything that an input decides.
+    // Observers do whatever the input decides.
     void random() {
         QFETCH(const unsigned, seed);
         std::mt19937 generator(seed);

@@ -27,7 +27,7 @@ Tano::PackageService service(const char *name) {
     return {name, {}, false, {}};
 }
 
-// The paths of the record's behaviors.
+// The paths of the behaviors in the record.
 QStringList recorded(const PackageInfoModel &model) {
     QStringList paths;
     for (const Tano::BehaviorInfo &info : model.packageInfo().behaviors())
@@ -104,7 +104,7 @@ void TestPackageChildren::lookingUpWhileChangesWait() {
     QCOMPARE(found("x"), 1);
 }
 
-// Between two neighbors, the positions of the look-up run out after 32 insertions.
+// Between two neighbors, the lookup's labels run out after 32 insertions.
 void TestPackageChildren::lookingUpAfterManyInsertions() {
     PackageInfoModel model;
     model.addBehavior(behavior("last"));
@@ -156,7 +156,7 @@ void TestPackageChildren::receiversMayEdit() {
     QCOMPARE(recorded(model), QStringList());
 
     model.addBehavior(text("b"));
-    QVERIFY(model.removeBehavior(text("b"))); // added again meanwhile, deleted all the same
+    QVERIFY(model.removeBehavior(text("b"))); // added again meanwhile, but still deleted
     QVERIFY(model.behaviors().isEmpty());
 }
 

@@ -32,7 +32,7 @@ class TestPackageCoverage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // A line for each language; the last one is for a language that the package does not mention.
+    // One line per language; the last one is for an unknown language.
     void counts() {
         PackageInfoModel package;
         QVERIFY(package.loadFromManifestContent(testData(text("coverage/package.xml"))));

@@ -19,7 +19,7 @@ using Tano::FieldPath;
 
 namespace {
 
-// What differs between the caches of a package and those of a new one with the same record.
+// The differences between the caches of a package and those of a new one with the same record.
 QByteArray cacheDifference(const PackageInfoModel &package) {
     const PackageInfoModel fresh(package.packageInfo());
     const auto lines = [](const PackageInfoModel &of) {
@@ -28,7 +28,7 @@ QByteArray cacheDifference(const PackageInfoModel &package) {
     };
     const QSet<QString> live = lines(package);
     const QSet<QString> made = lines(fresh);
-    // A new model makes every supported language a description language.
+    // A new model uses every supported language for descriptions.
     QStringList differing = ((live - made) + (made - live)).values();
     for (const RobotLanguage &language : package.supportedLanguages())
         differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language: "
@@ -107,22 +107,22 @@ void TestPackageEdits::refused_data() {
             << int(action) << text(at) << QString::fromUtf8(value) << text(error);
     };
     row(A::Set, "autor", "x", "autor: There is no field 'autor'; did you mean 'author'?");
-    row(A::Set, "version", "1.0", "version: The value is of another type.");
-    row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value is of another type.");
+    row(A::Set, "version", "1.0", "version: The value has the wrong type.");
+    row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value has the wrong type.");
     row(A::Set, "behaviors", "x", "behaviors: The field does not allow this change.");
     row(A::Set, "author", "a\x01",
-        "author: The text holds the character U+0001, which a manifest "
-        "cannot hold.");
+        "author: The text contains the character U+0001, which a manifest "
+        "cannot represent.");
     row(A::Set, "behaviors[odd\\]\\\\path].path", "greet",
-        "behaviors[odd\\]\\\\path].path: 'greet' is taken.");
+        "behaviors[odd\\]\\\\path].path: 'greet' is already in use.");
     row(A::Set, "supportedLanguages[en_US]", "de_DE",
-        "supportedLanguages[en_US]: The value is of another type.");
-    row(A::Insert, "supportedLanguages", "en_US", "supportedLanguages: 'en_US' is there already.");
+        "supportedLanguages[en_US]: The value has the wrong type.");
+    row(A::Insert, "supportedLanguages", "en_US", "supportedLanguages: 'en_US' already exists.");
     row(A::Insert, "behaviors[greet].permissions", "camera",
-        "behaviors[greet].permissions: 'camera' is there already.");
+        "behaviors[greet].permissions: 'camera' already exists.");
     row(A::Insert, "author", "x", "author: The field does not allow this change.");
     row(A::Remove, "author", "", "author: The field does not allow this change.");
-    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: There is none.");
+    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: It does not exist.");
     row(A::Move, "dialogs[talk]", "", "dialogs[talk]: The list has no such index.");
     row(A::Move, "names[en_US]", "", "names[en_US]: The field does not allow this change.");
 }
@@ -158,10 +158,7 @@ void TestPackageEdits::allOrNone() {
 }
 
 void TestPackageEdits::inversesRestoreEverything_data() {
-    QTest::addColumn<unsigned>("seed");
-    const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-    for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 40); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    addSeeds(40);
 }
 
 void TestPackageEdits::inversesRestoreEverything() {
@@ -201,7 +198,7 @@ void TestPackageEdits::inversesRestoreEverything() {
 void TestPackageEdits::differences() {
     QFETCH(unsigned, seed);
     RandomEdits random(seed);
-    // Differences give a repeated permission once.
+    // Differences contain a repeated permission only once.
     QCOMPARE(error({Edit::Action::Remove, path("behaviors[greet][1].permissions[0]")}), QString());
     PackageInfoModel target;
     QVERIFY(target.loadFromManifestContent(bytes()));
@@ -392,7 +389,7 @@ void TestPackageEdits::runsThatEnd() {
             command->startRun();
         stack.push(command);
     };
-    // A text that was absent, and an entry that is renamed.
+    // An absent text, and a renamed entry.
     for (const char *field : {"names[de_DE]", "behaviors[odd\\]\\\\path].path"}) {
         push({{Edit::Action::Set, path(field), text("a")}});
         push({{Edit::Action::Set, top()->inverse().front().path, text("ab")}});
@@ -406,7 +403,7 @@ void TestPackageEdits::runsThatEnd() {
         }
         QCOMPARE(bytes(), before);
     }
-    // An item that is inserted.
+    // An inserted item.
     const auto list = path("behaviors[greet].tags[nl_NL]");
     push({{Edit::Action::Insert, list, text("a")}});
     push({{Edit::Action::Set, path("behaviors[greet].tags[nl_NL][0]"), text("ab")}});
@@ -453,7 +450,7 @@ void TestPackageEdits::failedCommands() {
     QCOMPARE(bytes(), before);
     m_package.reset();
     stack.redo();
-    QCOMPARE(command->error(), text("There is no package to be edited."));
+    QCOMPARE(command->error(), text("There is no package to edit."));
 }
 
 QTEST_GUILESS_MAIN(TestPackageEdits)

@@ -144,7 +144,7 @@ void TestPackageInfoModel::requirementValues() {
     const BrioRequirement brio{{2, 1}, {3}};
     QVERIFY(brio != (BrioRequirement{{3}, {2, 1}}));
     QVERIFY(brio != (BrioRequirement{{2, 1}, {3, 0}}));
-    for (int index : {-1, 0}) { // there are none
+    for (int index : {-1, 0}) { // the list is empty
         QVERIFY(PackageInfoModel().robotRequirement(index) == RobotRequirement());
         QVERIFY(PackageInfoModel().brioRequirement(index) == BrioRequirement());
     }

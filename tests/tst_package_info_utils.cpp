@@ -14,12 +14,12 @@ namespace {
 
 const QDir checkData(text(ZEL_TEST_DATA "/checks"));
 
-// The content of a golden file, one line each.
+// The lines of a golden file.
 QByteArray golden(const QStringList &lines) {
     return lines.isEmpty() ? QByteArray() : QString(lines.join(u'\n') % u'\n').toUtf8();
 }
 
-// A package without faults but for its languages and behaviors.
+// Loads a package whose only faults concern languages and behaviors.
 bool load(PackageInfoModel &package, const QString &content) {
     const QString requirements = text(R"(<robotRequirement model="TERN"/>
                                          <brioRequirement minVersion="2.1"/>)");
@@ -41,7 +41,7 @@ QStringList findings(const PackageInfoModel &package) {
     return lines;
 }
 
-// What the checks that list languages find.
+// The findings of the checks that list languages.
 QStringList missingLanguages(const PackageInfoModel &package) {
     RobotLanguages inDefault;
     RobotLanguages others;
@@ -61,7 +61,7 @@ QStringList missingLanguages(const PackageInfoModel &package) {
     return lines;
 }
 
-// The messages of the single checks, which are all errors.
+// The messages of the single checks, all of which are errors.
 QStringList singleMessages(const PackageInfoModel &package) {
     QStringList messages;
     for (const auto check :

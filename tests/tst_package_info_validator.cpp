@@ -45,7 +45,7 @@ void TestPackageInfoValidator::removedBehaviorsAreHeardNoMore() {
     validator.activate();
     QVERIFY(validator.isActive());
     SignalLog log(validator);
-    // A removed one lives on for a while, and stays listed.
+    // A removed behavior lives on for a while and stays in the list.
     connect(&package, &PackageInfoModel::behaviorRemoved, this, [&](BehaviorInfoModel *removed) {
         removed->setUserRequestable(true);
         QCOMPARE(validator.behaviorInErrors().count(removed), 1);
@@ -100,14 +100,14 @@ void TestPackageInfoValidator::packageGoesFirst() {
 
 namespace {
 
-// What a listener knows who has only ever heard the notifications.
+// The state known to a listener that only receives notifications.
 struct Heard {
     bool uid = false;
     bool robot = false;
     bool brio = false;
     bool errors = false;
     bool warnings = false;
-    QStringList missing; // languages of names and descriptions
+    QStringList missing; // languages without names and descriptions
     std::map<const BehaviorInfoModel *, RobotLanguages> triggers;
 
     void listen(PackageInfoValidator &validator) {
@@ -135,7 +135,7 @@ struct Heard {
     }
 };
 
-// One random edit of anything that a check reads, and of some that none does.
+// One random edit of something that a check reads, or that no check reads.
 void editAtRandom(PackageInfoModel &package, PackageInfoValidator &validator) {
     static const std::array<const char *, 4> codes{"en_US", "fr_FR", "ja_JP", "xx_YY"};
     static const std::array<const char *, 4> texts{"", "", "tea", "Tea time"};
@@ -205,11 +205,11 @@ void editAtRandom(PackageInfoModel &package, PackageInfoValidator &validator) {
             package.removeBehavior(behavior);
         return;
     }
-    // A change of the supported languages, and a new behavior, leave the sentences unchecked.
+    // Changing supported languages and adding behaviors do not trigger the check of sentences.
     validator.validateBehaviorTriggerSentences();
 }
 
-// What the notifications have told equals what the checks say now.
+// The state according to the notifications equals the current results of the checks.
 void expectFresh(const PackageInfoModel &package, const PackageInfoValidator &validator,
                  const Heard &heard) {
     QStringList messages;
@@ -231,19 +231,19 @@ void expectFresh(const PackageInfoModel &package, const PackageInfoValidator &va
     for (const BehaviorInfoModel *behavior : behaviors) {
         RobotLanguages missing;
         PackageModel::validateTriggerSentences(&package, behavior, missing);
-        const auto told = heard.triggers.find(behavior);
-        RC_ASSERT(told != heard.triggers.end() && told->second == missing);
+        const auto announced = heard.triggers.find(behavior);
+        RC_ASSERT(announced != heard.triggers.end() && announced->second == missing);
         RC_ASSERT(listed.contains(behavior) == !missing.empty());
     }
 }
 
-// The issues, with those that differ in their language only taken together, are the messages.
+// The messages are the issues, joined where they differ only in their language.
 void expectIssuesAsMessages(const PackageInfoModel &package) {
-    std::array<QStringList, 2> told; // warnings, errors
-    std::array<QString, 2> last;     // the beginning of the message that a language is added to
+    std::array<QStringList, 2> announced; // warnings, errors
+    std::array<QString, 2> last;          // the start of the message to which a language is added
     const auto rules = PackageModel::rules();
     auto issues = PackageModel::issues(&package);
-    // Those of further rules follow.
+    // Issues of further rules come last.
     const auto isFurther = [&](const auto &issue) {
         const auto last = std::find_if(rules.begin(), rules.end(), [](const auto &rule) {
             return rule.id == text("trigger-sentences-missing");
@@ -257,20 +257,20 @@ void expectIssuesAsMessages(const PackageInfoModel &package) {
         const auto colon = issue.text.lastIndexOf(text(" for: "));
         const QString beginning = colon < 0 ? QString() : issue.text.left(colon);
         const QString language = issue.text.mid(colon + 6);
-        if (colon >= 0 && last.at(kind) == beginning && !told.at(kind).isEmpty())
-            told.at(kind).last() +=
-                QLatin1String(language.isEmpty() || told.at(kind).last().endsWith(u' ') ? ""
-                                                                                        : ", ") %
+        if (colon >= 0 && last.at(kind) == beginning && !announced.at(kind).isEmpty())
+            announced.at(kind).last() +=
+                QLatin1String(
+                    language.isEmpty() || announced.at(kind).last().endsWith(u' ') ? "" : ", ") %
                 language;
         else
-            told.at(kind).append(issue.text);
+            announced.at(kind).append(issue.text);
         last.at(kind) = beginning;
     }
     QStringList errors;
     QStringList warnings;
     RC_ASSERT(PackageModel::validate(&package, errors, warnings) == issues.isEmpty());
-    RC_ASSERT(told.at(0) == warnings);
-    RC_ASSERT(told.at(1) == errors);
+    RC_ASSERT(announced.at(0) == warnings);
+    RC_ASSERT(announced.at(1) == errors);
 }
 
 } // namespace

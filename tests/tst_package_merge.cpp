@@ -24,7 +24,7 @@ Tano::PackageInfo recordOf(const QString &file) {
     return record;
 }
 
-// As a manifest holds it, in which an empty text is no other than an absent one.
+// The record after saving and loading, which turns empty texts into absent ones.
 Tano::PackageInfo reloaded(const Tano::PackageInfo &record) {
     Tano::PackageInfo read;
     if (!read.loadFromManifestContent(record.saveToManifestContent()))
@@ -32,7 +32,7 @@ Tano::PackageInfo reloaded(const Tano::PackageInfo &record) {
     return read;
 }
 
-// What the edits of theirs change in ours, with conflicts and new comments.
+// The changes that the merge makes to ours, with conflicts and new comments.
 QString story(const QString &oursEdits, const QString &theirsEdits) {
     const PackageInfoModel base(recordOf(text("fields/package.xml")));
     PackageInfoModel ours(base);
@@ -54,13 +54,13 @@ QString story(const QString &oursEdits, const QString &theirsEdits) {
     return lines;
 }
 
-// What may be edited on one side only, so that the other side's edits have nothing to do with it: a
-// field of the package or, if lists of entries keep their entries, one of an entry.
+// A part of the package that can be edited on one side without affecting the other side's edits: a
+// field of the package or, if lists of entries keep their entries, of an entry.
 std::string regionOf(const Tano::FieldPath &path, bool isOfEntries) {
     const auto &steps = path.steps();
     const std::string &first = steps.front().field;
     if (first == "supportedLanguages" || first == "descriptionLanguages" || first == "dialogs")
-        return "languages"; // which come and go together
+        return "languages"; // related to each other
     if (first != "behaviors" && first != "services")
         return first;
     if (!isOfEntries)
@@ -95,13 +95,13 @@ private:
 
 void TestPackageMerge::initTestCase() {
     PackageInfoModel package(recordOf(text("fields/package.xml")));
-    // Differences give a repeated permission once.
+    // Differences contain a repeated permission only once.
     QCOMPARE(apply(&package, editsOf(text("remove behaviors[greet][1].permissions[0]"))).error,
              QString());
     m_base = package.packageInfo();
 }
 
-// Lines "ours EDIT" and "theirs EDIT" make a case, which its outcome follows.
+// A case consists of lines "ours EDIT" and "theirs EDIT", followed by its outcome.
 void TestPackageMerge::cases() {
     const QString file = text(ZEL_TEST_DATA "/merge/cases.txt");
     QString all;
@@ -142,10 +142,7 @@ void TestPackageMerge::sameSides() {
 }
 
 void TestPackageMerge::differentFields_data() {
-    QTest::addColumn<unsigned>("seed");
-    const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-    for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 60); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    addSeeds(60);
 }
 
 void TestPackageMerge::differentFields() {
@@ -185,7 +182,7 @@ void TestPackageMerge::anyFields() {
     const Merged merged = merge(m_base, ours.packageInfo(), theirs.packageInfo());
     QCOMPARE(merged.error, QString());
     const PackageInfoModel package(merged.record);
-    // Sides that were saved before have no empty texts; comments may have another place.
+    // Sides that were saved have no empty texts; comments may move.
     const Merged ofSaved =
         merge(m_base, reloaded(ours.packageInfo()), reloaded(theirs.packageInfo()));
     QCOMPARE(reloaded(ofSaved.record), ofSaved.record);
@@ -201,7 +198,7 @@ void TestPackageMerge::anyFields() {
                      (conflict.ours.isEmpty() || value(&package, conflict.path)),
                  conflict.path.toString().c_str());
 
-    // What neither side touched stays. Indexes change with insertions, as do those of equal paths.
+    // Untouched fields are unchanged. Indexes shift with insertions, as do those of equal paths.
     static const QRegularExpression index(text("\\[[0-9]+\\]|\\[greet\\]"));
     const PackageInfoModel base(m_base);
     for (const Field &field : fields(&base)) {
@@ -213,7 +210,7 @@ void TestPackageMerge::anyFields() {
     }
 }
 
-// A record may hold a text that no manifest holds.
+// A record may contain a text that a manifest cannot hold.
 void TestPackageMerge::refused() {
     Tano::PackageInfo ours = m_base;
     ours.setAuthor("B");
@@ -221,8 +218,8 @@ void TestPackageMerge::refused() {
     theirs.setName("a\x01", "en_US");
     const Merged merged = merge(m_base, ours, theirs);
     QCOMPARE(merged.error,
-             text("names[en_US]: The text holds the character U+0001, which a manifest cannot "
-                  "hold."));
+             text("names[en_US]: The text contains the character U+0001, which a manifest cannot "
+                  "represent."));
     QCOMPARE(merged.record, ours);
 }
 

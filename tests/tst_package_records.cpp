@@ -53,7 +53,7 @@ Tano::PackageData &editable(PackageInfo &package) {
     return Tano::RecordAccess::edit(package);
 }
 
-// How many members have no change that `==` notices, those in tables and the extras.
+// The number of members whose changes `==` must notice: those in tables and the extras.
 template<typename Record, typename... Member>
 int ignoredMembers(Member... member) {
     const auto isIgnored = [](auto wanted) {
@@ -69,7 +69,8 @@ int ignoredMembers(Extras... extras) {
                       Tano::membersOf<Data>());
 }
 
-// Elements of the format, one a line below their parent: how often, their attributes and content.
+// Lists the elements of the format, indented below their parents, with occurrence, attributes and
+// content.
 
 QString attributeText(const QString &name, Tano::AttributeKind kind) {
     static const QStringList marks{QString(), QStringLiteral("=flag"), QStringLiteral("!"),
@@ -145,7 +146,7 @@ private:
         qFatal("the schema has no %s %s", qPrintable(tag), qPrintable(name));
     }
 
-    // The elements in a group or type, which repeat where their sequence does.
+    // The elements in a group or type; `repeats` applies if their sequence does.
     void addElements(const Xml &in, bool repeats, int level, QStringList &lines) const {
         for (const Xml &child : in.children) {
             const bool isGroup = child.tag == QLatin1String("group") && !child["ref"].isEmpty();
@@ -189,8 +190,8 @@ private:
     Xml m_root;
 };
 
-// The names that the document gives for an element, in its order: those in the first column of its
-// table, each followed by those that its description mentions.
+// The names documented for an element, in order: those in the first column of its table, each
+// followed by the names in its description.
 QStringList documentedNames(const QString &document, const QString &element) {
     static const QRegularExpression name(QStringLiteral("`([^`]+)`"));
     static const QStringList values{QStringLiteral("1"), QStringLiteral("true"),
@@ -211,7 +212,7 @@ QStringList documentedNames(const QString &document, const QString &element) {
     return names;
 }
 
-// The same by the rules. Records with elements of their own have a table of their own.
+// The names according to the rules. Records with child elements have a table of their own.
 QStringList ruledNames(const Tano::ElementRule &rule) {
     QStringList names;
     for (const Tano::AttributeRule &attribute : rule.attributes)

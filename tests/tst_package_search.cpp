@@ -143,7 +143,7 @@ private Q_SLOTS:
         QTEST(paths, "paths");
     }
 
-    // Renames come last, since other edits have the old names in their paths.
+    // Renames come last, since the paths of other edits contain the old names.
     void replaceEverywhere() {
         const auto pattern =
             searchPattern(QStringLiteral("coffee|team"), optionsOf(QStringLiteral("r")));

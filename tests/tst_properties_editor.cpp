@@ -24,7 +24,7 @@ private Q_SLOTS:
     void init() { showWindow(); }
     void cleanup() { closeWindow(); }
 
-    // The whole way: every problem mended from the dock, undone, done again, saved and validated.
+    // The whole workflow: fixes every problem from the dock, undoes, redoes, saves and validates.
     void correctEverything() {
         const QString fileName = copyOf(ZEL_TEST_DATA "/editor/faulty");
         QVERIFY(m_window->openFile(fileName));
@@ -79,7 +79,7 @@ private Q_SLOTS:
         (*fixAll)->trigger();
         QVERIFY(problemCount() < found);
         QCOMPARE(stack()->count(), 1);
-        (*fixAll)->trigger(); // nothing is left
+        (*fixAll)->trigger(); // no problems remain
         QCOMPARE(stack()->count(), 1);
         stack()->undo();
         QCOMPARE(problemCount(), found);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QTEST(!m_window->isVisible(), "isClosed");
     }
 
-    // Saving a new package asks for a file; when that is cancelled, so is what came before.
+    // Saving a new package asks for a file; canceling that also cancels closing.
     void closingWithoutAFile() {
         field("&Author:")->setFocus();
         type(QStringLiteral("typed"));
@@ -204,6 +204,10 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
         button->setFocus();
         press(Qt::Key_S, Qt::ControlModifier);
+        m_window->showPage(3);
+        stack()->undo();
+        QVERIFY(button->isVisible()); // shows the change
+        stack()->redo();
         const QString icon = QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png"));
         QVERIFY(QFile::exists(icon));
         press(Qt::Key_Z, Qt::ControlModifier);
@@ -211,7 +215,8 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(icon));
     }
 
-    // Manifest and icon are saved both or not at all, and a failure is not another program's edit.
+    // Manifest and icon are saved together or not at all, and a failure does not count as a
+    // conflict.
     void refusesALinkedIcon() {
         const QString fileName = copyOf("small");
         const QString icon = QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png"));
@@ -238,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(contentOf(icon).startsWith("\x89PNG"));
         QVERIFY(contentOf(fileName).contains("typed"));
         writeTo(fileName, "another program's");
-        QVERIFY(!m_window->document().save(fileName)); // without a look at the disk before
+        QVERIFY(!m_window->document().save(fileName)); // had no earlier check of the disk
         QCOMPARE(contentOf(fileName), QByteArray("another program's"));
     }
 
@@ -372,7 +377,7 @@ private Q_SLOTS:
         robots->setCurrentIndex(robots->model()->index(0, 1));
         type(QStringLiteral("3.0"));
         press(Qt::Key_Return);
-        QCoreApplication::processEvents(); // the editor closes on its way back
+        QCoreApplication::processEvents(); // the editor closes asynchronously
         robots->setCurrentIndex(robots->model()->index(0, 2));
         type(QStringLiteral("1.4"));
         const QWidget *editor = QApplication::focusWidget();
@@ -425,7 +430,7 @@ private Q_SLOTS:
             {appended(Tano::FieldPath().field("supportedLanguages"), QStringLiteral("en_US"))},
             QStringLiteral("Add language"));
         QVERIFY(answer.isGiven());
-        QCOMPARE(answer.text, QStringLiteral("'en_US' is there already."));
+        QCOMPARE(answer.text, QStringLiteral("'en_US' already exists."));
     }
 
     void editsTheListsOfABehavior() {
@@ -449,7 +454,7 @@ private Q_SLOTS:
         replaceText(QStringLiteral("hello"));
         press(Qt::Key_Return);
         QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
-        QCoreApplication::processEvents(); // the editor closes on its way back
+        QCoreApplication::processEvents(); // the editor closes asynchronously
         press(Qt::Key_F2);
         replaceText(QStringLiteral("never"));
         press(Qt::Key_Escape);
@@ -481,7 +486,7 @@ private Q_SLOTS:
         press(Qt::Key_Space);
         QVERIFY(m_window->document().package()->services().at(2)->isAutoRun());
         QCOMPARE(stack()->count(), 4);
-        // The history goes back as well as the keys do.
+        // Undo works from the history view as well as by keyboard.
         auto *history = m_window->findChild<QUndoView *>();
         QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
                           history->visualRect(history->model()->index(0, 0)).center());
@@ -525,7 +530,7 @@ private Q_SLOTS:
         QVERIFY2(shown.contains(expected), qPrintable(shown));
     }
 
-    // A behavior that comes back is shown.
+    // Shows a behavior that reappears.
     void showsTheBehaviorThatComesAndGoes() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         m_window->showPage(3);
@@ -574,7 +579,7 @@ private Q_SLOTS:
         QVERIFY(m_window->minimumSizeHint().width() <= 1024);
         QVERIFY(m_window->minimumSizeHint().height() <= 700);
         QVERIFY(m_window->findChild<QListWidget *>()->geometry().left() > 512);
-        // Nothing on a page needs to be scrolled into view sideways.
+        // No page needs horizontal scrolling.
         for (int page = 0; page < 6; ++page) {
             m_window->showPage(page);
             QCoreApplication::processEvents();
@@ -584,7 +589,7 @@ private Q_SLOTS:
         }
     }
 
-    // Whoever uses the keyboard or a screen reader finds every field named.
+    // Every field has an accessible name, for keyboard and screen reader users.
     void fieldsAreNamed() {
         for (const auto *edit : m_window->findChildren<QWidget *>()) {
             if (!(edit->focusPolicy() & Qt::TabFocus) || qobject_cast<const QScrollArea *>(edit) ||
@@ -600,7 +605,7 @@ private Q_SLOTS:
     }
 
 private:
-    // The labels and tool tips below a widget that would show the value of a package as markup.
+    // The labels and tool tips below a widget that would interpret a package's value as markup.
     QStringList markupOf(const QWidget *root) {
         QStringList found;
         const auto take = [&](const QString &text) {
@@ -636,7 +641,7 @@ private:
         QTest::mouseDClick(problems()->viewport(), Qt::LeftButton, {}, point);
     }
 
-    // Mends the field that has the focus.
+    // Fixes the field with the focus.
     void correct(const Tano::FieldPath &path) {
         const QString field = fieldName(path, 1);
         if (field == QLatin1String("model")) {
@@ -653,7 +658,7 @@ private:
             if (fieldName(path) == QLatin1String("behaviors"))
                 press(Qt::Key_Return);
         }
-        QCoreApplication::processEvents(); // an editor of a cell closes on its way back
+        QCoreApplication::processEvents(); // the cell's editor closes asynchronously
     }
 
     int m_escaped = 0;

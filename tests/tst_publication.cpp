@@ -15,7 +15,7 @@ RobotLanguage language(const char *code) {
     return robotLanguage(QString::fromUtf8(code));
 }
 
-// What the two malformed scripts of source.xml are reported with.
+// The reports about the two malformed scripts of source.xml.
 const QString openParagraph =
     QStringLiteral("genPlainTextValues: Could not generate plain text value properly: Line 1, "
                    "column 12: The script ends while <p> is open.");
@@ -38,7 +38,7 @@ std::vector<Tano::BehaviorInfo> recordsOf(const QVector<BehaviorInfoModel *> &be
     return records;
 }
 
-// What the caches hold, as "en_US:Tea" each.
+// The values in a cache, like "en_US:Tea".
 QString printed(const Language::LocalizedStrings &values) {
     QStringList texts;
     for (const auto &[text, itsLanguage] : values)
@@ -56,8 +56,8 @@ private:
     WarningGuard m_warnings;
 
 private Q_SLOTS:
-    // It supports English, French and a script variant, is also described in German, and holds
-    // texts in Dutch, which it does not list.
+    // The package supports English, French and a script variant, has German descriptions, and
+    // contains texts in Dutch, which it does not list.
     void init() {
         m_warnings.watch();
         QVERIFY(m_package.loadFromManifestContent(contentOf("source.xml")));
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(pour->languagesToLoadingResponses().size(), std::size_t(1));
     }
 
-    // A receiver adds sentences in a language before and in one after the one that is converted.
+    // A receiver adds sentences in languages before and after the one being converted.
     void listsAddedMeanwhile() {
         Tano::PackageInfo record;
         Tano::BehaviorInfo info;
@@ -125,7 +125,7 @@ private Q_SLOTS:
                  QStringLiteral("en_US:Pour & drink"));
     }
 
-    // An insertion and a change with blocked signals wait for the next change; trimming is one.
+    // An insertion and a change with blocked signals wait for the next change, such as trimming.
     void recordAndModelsAgree() {
         const auto behaviors = m_package.behaviors();
         behaviors.at(0)->insertTag(QStringLiteral("hot"), language("en_US"), 0);
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QVERIFY(!m_package.hasLanguageDescription(variant));
     }
 
-    // Plain texts by then, they replace the scripts; lists of scripts grow by them.
+    // Texts that are already plain replace the scripts; lists of scripts are extended by them.
     void generatesAgain() {
         m_package.genPlainTextFromScript();
         m_package.genPlainTextFromScript();

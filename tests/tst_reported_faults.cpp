@@ -1,5 +1,5 @@
-// No fault goes unnoticed: a manifest with one fault that the schema rejects is refused by the
-// reader or has a finding more than the manifest without the fault. The exceptions are a table
+// Detects unnoticed faults: a manifest with one fault that the schema rejects must be rejected by
+// the reader or have one more finding than without the fault. Exceptions are listed in a table
 // below.
 
 #include "text.h"
@@ -31,7 +31,7 @@ QStringList misspellings(const QString &name) {
             QString(text("x") % name)};
 }
 
-// Visits a tree with each of the faults that one change makes.
+// Visits all variants of a tree with a single fault.
 class Faults {
 public:
     Faults(const Element &root, Visit visit)
@@ -133,7 +133,7 @@ struct Mutant {
     const std::map<QString, int> *before; // the findings without the fault
 };
 
-// What the schema rejects although it is no fault.
+// A change that the schema rejects although it is valid.
 struct Exception {
     const char *reason;
     const char *fault; // a regular expression
@@ -187,7 +187,7 @@ private Q_SLOTS:
     }
 
     void oneFault() {
-        // One of so many; 1 for a run of minutes with all of them.
+        // Tests one of so many; 1 tests all, which takes minutes.
         const int wanted = qEnvironmentVariableIntValue("ZEL_FAULT_STEP");
         const int step = wanted > 0 ? wanted : 19;
         const QDir dir(m_dir.filePath(text("mutants")));

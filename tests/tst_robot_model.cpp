@@ -136,7 +136,7 @@ private Q_SLOTS:
 
         const QFileInfoList others = RobotModel::modelFilesInfoList({});
         QCOMPARE(others.at(0).fileName(), QStringLiteral("z.json"));
-        QVERIFY(others.size() > 5); // the shipped ones too
+        QVERIFY(others.size() > 5); // includes the shipped robots
 
         setDataPath("~/missing:~/one:~/two");
         QCOMPARE(RobotModel::modelFilesInfoList({}),
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(RobotModel::modelFilesInfoList({}).isEmpty());
     }
 
-    // The table is made once in a process, so that all of it is told here.
+    // The table is created once per process, so all cases are in one function.
     void prettyRobotNames() {
         made("data/robots/1.json", description("wren", "W1", "Wren"));
         made("data/robots/2.json", description("wren", "w2", "Other"));

@@ -1,4 +1,4 @@
-// Saving while the calls of the C library that it makes fail, one at a time.
+// Saves files while calls of the C library fail, one at a time.
 
 #include <tano/package_info.h>
 #include <tano/save_file.h>
@@ -22,16 +22,16 @@
 
 namespace {
 
-/// Makes one call fail: the one of that name and number, counted from 1. On a disk that fills up it
-/// is a write that takes half of its bytes, and those after it that fail.
+/// Makes one call fail, given by name and number, counted from 1. A full disk is simulated by a
+/// write that takes half of its bytes, after which further writes fail.
 struct Fault {
     std::string call;
     int number = 0;
     bool fillsUp = false;
-    std::function<void()> instead = {};   // is called, and the call succeeds
-    std::map<std::string, int> seen = {}; // how often each was called
+    std::function<void()> instead = {};   // called in place of failing
+    std::map<std::string, int> seen = {}; // the number of calls by name
     bool isArmed = false;
-    int error = 0; // instead of the usual one
+    int error = 0; // overrides the usual error
 };
 
 Fault fault;
@@ -56,7 +56,7 @@ auto failOrCall(Function *function, const char *name, int error, Arguments... ar
 
 } // namespace
 
-// They replace those of the C library.
+// Replacements for functions of the C library.
 #pragma GCC visibility push(default)
 #define FAILING(result, name, error, parameters, qualifier, ...)                                   \
     extern "C" result name parameters qualifier {                                                  \
@@ -119,7 +119,7 @@ private:
     struct NamedWay {
         const char *name;
         Way way;
-        int syncs; // of file, folder and, where it is overwritten, target
+        int syncs; // of file, folder and, if it is overwritten, target
     };
     static constexpr NamedWay ways[] = {{"replaced", Way::Replaced, 2},
                                         {"in place", Way::InPlace, 3},
@@ -172,7 +172,7 @@ private:
     QStringList files() const { return QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden); }
 
 private Q_SLOTS:
-    // A row for every call that saving makes, and one more for a write at which the disk is full.
+    // A row for every call made by a save, and one for a full disk at each write.
     void saves_data() {
         QTest::addColumn<Way>("way");
         QTest::addColumn<QString>("call");
@@ -196,8 +196,8 @@ private Q_SLOTS:
         }
     }
 
-    // All or nothing, and a sentence unless it was saved. A disk that fills up while a file is
-    // overwritten leaves the new content beside it.
+    // A save succeeds, or changes nothing and returns a sentence. If the disk fills up during an
+    // overwrite, the new content is left beside the file.
     void saves() {
         QFETCH(Way, way);
         QFETCH(QString, call);
@@ -227,7 +227,7 @@ private Q_SLOTS:
         if (way == Way::Two)
             QCOMPARE(contentOf(m_second), result ? "none" : m_old);
 
-        QVERIFY(save(way)); // nothing is in the way
+        QVERIFY(save(way)); // without faults
         QCOMPARE(contentOf(m_path), m_new);
         QStringList after{QStringLiteral("manifest.xml")};
         if (way == Way::InPlace)
@@ -235,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(files(), after);
     }
 
-    // One file can be mounted into a folder; then it cannot be replaced.
+    // A file that is a mount point cannot be replaced.
     void mountedFilesAreOverwritten() {
         makeFiles(Way::Replaced);
         fault.isArmed = true;
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 1);
     }
 
-    // An edit that comes while the copy is synced is not lost.
+    // An edit by another program while the copy is synced is not lost.
     void lateEditsAreNoticed() {
         makeFiles(Way::Replaced);
         Fault late{"fsync", 1, false, [this] {

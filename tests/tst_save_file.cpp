@@ -1,4 +1,4 @@
-// What saving preserves, what it leaves behind, and how it gets along with other programs.
+// What saving preserves, what it leaves behind, and how it interacts with other programs.
 
 #include <tano/input_file.h>
 #include <tano/save_file.h>
@@ -29,8 +29,8 @@ constexpr uid_t somebody = 65534;
 constexpr const char *accessList = "system.posix_acl_access";
 constexpr const char *defaultList = "system.posix_acl_default";
 
-// An access control list as the system stores it: its version, then tag, permissions and user of
-// each entry. It lets user 1234 read; the mask is what a mode shows as the group's permissions.
+// An access control list as stored by the system: its version, then tag, permissions and user of
+// each entry. It lets user 1234 read; mode shows the mask as the group's permissions.
 const std::string readerList = [] {
     std::string list("\2\0\0\0", 4);
     const auto add = [&](short tag, short permissions, int user) {
@@ -51,7 +51,7 @@ std::string contentOf(const QString &path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
 }
 
-// All that saving must preserve.
+// Everything that saving must preserve.
 QString attributesOf(const QString &path) {
     struct stat status = {};
     if (lstat(qPrintable(path), &status) != 0)
@@ -71,7 +71,7 @@ QString attributesOf(const QString &path) {
     return all;
 }
 
-// Runs an action in a process of its own, as another user if that is one; returns the error.
+// Runs an action in a child process, optionally as another user; returns the error.
 std::string inChild(const std::function<SaveResult()> &action, uid_t user) {
     int ends[2];
     if (pipe(ends) != 0)
@@ -91,8 +91,8 @@ std::string inChild(const std::function<SaveResult()> &action, uid_t user) {
     return status == 0 ? std::string(text, std::size_t(size)) : "it did not end by itself";
 }
 
-// Runs an action in a process of its own that is killed at a system call, counted from 0: before
-// and after one are two. Returns whether it came that far.
+// Runs an action in a child process that is killed before or after a system call: number 2n and 2n
+// + 1. Returns whether it was reached.
 bool killedAt(int number, const std::function<void()> &action) {
     const pid_t child = fork();
     if (child == 0) {
@@ -136,7 +136,7 @@ private:
     bool setAttribute(const QString &path, const char *name, const std::string &value) const {
         return setxattr(qPrintable(path), name, value.data(), value.size(), 0) == 0;
     }
-    // Puts the file into the state that a row describes; returns why that is not possible here.
+    // Puts the file into the state of a row; returns the reason if that is impossible here.
     QString arrange(const QString &how) {
         const QString linked = m_dir->filePath(QStringLiteral("linked"));
         const QByteArray path = m_path.toLocal8Bit();
@@ -168,7 +168,7 @@ private Q_SLOTS:
     void attributesStay_data() {
         QTest::addColumn<QString>("how");
         QTest::addColumn<int>("mode");
-        QTest::addColumn<bool>("asRoot"); // else as somebody, to whom the file may not belong
+        QTest::addColumn<bool>("asRoot"); // otherwise as a user who may not own the file
         QTest::addColumn<QString>("reason");
         for (const int mode : {0600, 0644, 0664, 0755, 04750, 02775})
             QTest::addRow("mode %o", unsigned(mode)) << QString() << mode << true << QString();
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QCOMPARE(files().size(), how == QLatin1String("hard link") ? 2 : 1);
     }
 
-    // A new file gets the permissions that any program would give it.
+    // A new file gets the default permissions.
     void newFiles() {
         const mode_t before = umask(027);
         const QString path = m_dir->filePath(QStringLiteral("new"));
@@ -254,7 +254,7 @@ private Q_SLOTS:
         QVERIFY(Tano::saveFile({path, "new", FileFingerprint()}));
     }
 
-    // Each process adds lines, and tries again if another one was faster.
+    // Each process adds lines, and retries if another one was faster.
     void manyWriters() {
         constexpr int writers = 4;
         constexpr int lines = 20;
@@ -282,7 +282,7 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 1);
     }
 
-    // Only the copies of this file whose process is gone.
+    // Removes only copies of this file whose process has ended.
     void removesStaleCopies() {
         const auto make = [this](const char *name) {
             const QString path = m_dir->filePath(QLatin1String(name));
@@ -312,8 +312,8 @@ private Q_SLOTS:
             QTest::newRow(how) << QString::fromLatin1(how);
     }
 
-    // Whenever that is, the file or its copy is complete, nobody gets to read more, and the next
-    // save removes what is left.
+    // Whenever the process is killed, the file or its copy is complete, access is never extended,
+    // and the next save removes leftovers.
     void killed() {
         QFETCH(QString, how);
         if (!mayTrace())
@@ -352,7 +352,7 @@ private Q_SLOTS:
         umask(mask);
     }
 
-    // The process is not killed by the limit's signal, and the old content is there.
+    // The limit's signal does not kill the process, and the old content is restored.
     void sizeLimit() {
         const std::string large(100000, 'x');
         const auto limited = [](const std::function<SaveResult()> &action) {
@@ -383,7 +383,7 @@ private Q_SLOTS:
             if (!file.open(mode))
                 return QStringLiteral("not open");
             if (file.isReadable())
-                static_cast<void>(file.peek(2)); // fills a buffer
+                static_cast<void>(file.peek(2)); // fills the buffer
             const auto result = Tano::saveToOpenFile(file, "much longer");
             return result ? QString::number(file.pos())
                           : QString::fromStdString(result.error).section(QStringLiteral(": "), 1);
@@ -399,7 +399,7 @@ private Q_SLOTS:
         }
     }
 
-    // What has no end is read up to the limit.
+    // Endless input is read up to the limit.
     void input() {
         int ends[2];
         QCOMPARE(pipe(ends), 0);

@@ -1,5 +1,5 @@
-// The reader and the schema agree: both judge mutants of valid manifests, the schema through
-// xmllint. The documented exceptions are those of isException().
+// Compares the reader with the schema, which xmllint applies, on mutants of valid manifests.
+// Documented exceptions are in isException().
 
 #include "xml_tree.h"
 
@@ -59,7 +59,7 @@ private:
             children.erase(at);
             children.insert(children.begin() + std::ptrdiff_t(below(children.size() + 1)), child);
             break;
-        default: { // another parent, except one within the child
+        default: { // another parent, except a descendant of the child
             Element &other = *m_parents[below(std::size_t(m_parents.size()))];
             other.children.push_back(child);
             break;
@@ -121,7 +121,8 @@ private:
         }
     }
 
-    // Not twice, which no parser accepts. For xmllint, unlike the reader, a namespace is a URI.
+    // Replaces an existing attribute, since parsers reject duplicates. For xmllint, unlike the
+    // reader, a namespace is a URI.
     static void setAttribute(Element &element, const QString &name, const QString &given) {
         const QString value = name.startsWith(QLatin1String("xmlns")) ? given.trimmed() : given;
         for (auto &attribute : element.attributes) {
@@ -137,7 +138,7 @@ private:
     std::vector<Element *> m_parents;
 };
 
-// A manifest, what the reader makes of it, and the canonical form of an accepted one.
+// A manifest, the reader's result, and the canonical form if it was accepted.
 struct Judged {
     QString path;
     QString canonicalPath;
@@ -159,7 +160,7 @@ Judged judgedByReader(const QString &path, const QByteArray &content) {
     return judged;
 }
 
-// The schema rejects what only a newer version knows, and other orders than the canonical one.
+// The schema rejects content of newer versions, and any order but the canonical one.
 bool isException(const Judged &judged, bool isCanonicalValid) {
     return judged.isAccepted && (judged.hasUnknownNodes || isCanonicalValid);
 }
@@ -175,7 +176,7 @@ private Q_SLOTS:
         std::vector<Element> seeds;
         for (const QFileInfo &file :
              data.entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name)) {
-            // What only a newer schema knows, and the limits, which no schema knows.
+            // Content of newer schemas, and the limits, which a schema cannot express.
             static const QRegularExpression others(QStringLiteral("^(newer|most|deepest)"));
             if (!others.match(file.fileName()).hasMatch())
                 seeds.push_back(treeOf(file.filePath()));

@@ -30,7 +30,7 @@ class TestSpeechScript : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Texts that are no scripts, what each element does, and what is wrong with malformed ones.
+    // Texts that are not scripts, the effect of each element, and errors in malformed scripts.
     void pairs_data() { addRowsOf("speech-script/pairs.json"); }
     void pairs() {
         QFETCH(QString, script);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         }
     }
 
-    // What the page about scripts says of each element.
+    // The statements about each element in the documentation.
     void documented() {
         QFETCH(QString, script);
         QTEST(converted(script.toStdString()), "expected");
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTEST(converted(script.toStdString()), "expected");
     }
 
-    // Pieces that break off anywhere, where the script is read a part at a time.
+    // Truncated scripts, read in parts.
     void tenMegabytes() {
         const std::string script =
             repeated("Ä<emphasis>é</emphasis> &amp; <one-of><item>x</item><item>y</item></one-of>"

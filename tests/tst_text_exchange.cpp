@@ -54,7 +54,7 @@ QStringList linesOf(const PackageInfoModel *package) {
     return lines;
 }
 
-// Those lines of a package that another one does not have.
+// The lines of a package that are not in `known`.
 QStringList newLines(const PackageInfoModel *package, const QStringList &known) {
     QStringList lines = linesOf(package);
     for (const QString &line : known)
@@ -90,7 +90,7 @@ private:
         }
     }
 
-    // Calls `visit` for each pair of languages of a manifest, the default one as a source.
+    // Calls `visit` for each pair of languages of a manifest, with the default one as source.
     template<typename Visit>
     static void visitLanguages(const QString &file, Visit visit) {
         QFile manifest(file);
@@ -124,7 +124,7 @@ private Q_SLOTS:
             });
     }
 
-    // The texts are removed but for empty ones, and come back; then all of them change.
+    // Importing restores all removed texts but empty ones; then changes all texts.
     void importRestoresTexts_data() { addManifests(); }
     void importRestoresTexts() {
         QFETCH(QString, file);
@@ -223,7 +223,7 @@ private Q_SLOTS:
             QCOMPARE(parseXliff(inBody(text(other).arg(filler))).error, QString());
     }
 
-    // What tools add is passed over; the text within inline elements counts.
+    // Ignores content added by tools, but includes text within inline elements.
     void otherContentOfTools() {
         const auto units = unitsOf(inBody(text(
             "<group><trans-unit id='1' restype='x-gettext-domain-header'><source>x</source>"
@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(units.front().target, text("<p>C"));
     }
 
-    // The texts of all owners are those of the package.
+    // The texts of all owners make up the texts of the package.
     void textsByOwner() {
         const PackageInfoModel package(m_record);
         auto texts = ownTexts(package, text("fr_FR"), text("en_US"));
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QVERIFY(!isSpeechScript(*Tano::FieldPath::parse("author"), text("<p/>")));
     }
 
-    // A file that is cut off anywhere, or garbled, is read as a whole or not at all.
+    // A truncated or garbled file is read completely or not at all.
     void garbledFiles() {
         const QByteArray xliff = exported(m_record, text("de_DE"), text("en_US"));
         const auto units = unitsOf(xliff).size();
@@ -307,8 +307,9 @@ private Q_SLOTS:
         QCOMPARE(error, text("The language is the source language too."));
         package.behaviors().front()->setName(QString(QChar(7)), language("en_US"));
         QVERIFY(exportXliff(&package, {text("de_DE"), text("en_US")}, &error).isEmpty());
-        QCOMPARE(error, text("behaviors[greet].names[de_DE]: The text holds the character U+0007, "
-                             "which a manifest cannot hold."));
+        QCOMPARE(error,
+                 text("behaviors[greet].names[de_DE]: The text contains the character U+0007, "
+                      "which a manifest cannot represent."));
         QVERIFY(!importTexts(static_cast<PackageInfoModel *>(nullptr), {}).error.isEmpty());
     }
 

@@ -48,7 +48,7 @@ Tano::PackageService recordOf(const ServiceInfoModel &child) {
     return child.toPackageService();
 }
 
-// Whether the package's record holds the records of these children, whole.
+// Whether the package's record contains the complete records of these children.
 template<typename Children, typename Records>
 bool areRecorded(const Children &children, const Records &records) {
     return std::equal(
@@ -56,7 +56,7 @@ bool areRecorded(const Children &children, const Records &records) {
         [](const auto *child, const auto &record) { return recordOf(*child) == record; });
 }
 
-// All that a receiver can ask a package for: the record, and what its models keep beside it.
+// Everything that a receiver can query: the package's record and the models' caches.
 QStringList seenOf(const PackageInfoModel &package) {
     const Tano::PackageInfo &record = package.packageInfo();
     QStringList seen = QString::fromUtf8(package.saveToManifestContent()).split(u'\n');
@@ -94,7 +94,7 @@ QStringList seenOf(const PackageInfoModel &package) {
     return seen;
 }
 
-// The lines to take out and to put in, with the longest common sequence in between.
+// The removed and added lines, according to the longest common subsequence.
 QStringList difference(const QStringList &before, const QStringList &after) {
     const int rows = int(before.size());
     const int columns = int(after.size());
@@ -123,10 +123,10 @@ QStringList difference(const QStringList &before, const QStringList &after) {
     return result;
 }
 
-/// Two packages, and a validator of the first one, on which the steps of a file are taken.
+/// Two packages, and a validator of the first one, to which a file's steps are applied.
 class Transcript {
 public:
-    /// The lines of the file as they have to be for the steps that it holds.
+    /// The expected contents of a file with these steps.
     QStringList play(const QStringList &file) {
         QStringList played;
         for (const QString &line : file) {
@@ -151,7 +151,7 @@ private:
             m_log.append({QLatin1String("= ") % result});
     }
 
-    // What a receiver sees changed since it last looked.
+    // The changes that a receiver sees since the last call.
     QStringList changes(const QString &indentation) {
         if (!m_isFollowed)
             return {};
@@ -232,7 +232,7 @@ private:
         return argument.endsWith(u']') || argument == QLatin1String("null");
     }
 
-    // The value of an argument of that type; null where it is not one.
+    // The value of an argument of this type, null if it is invalid.
     Value parsed(const QByteArray &type, const QString &argument) {
         const QString inner = argument.mid(1, argument.size() - 2);
         if (argument.startsWith(u'"'))
@@ -279,7 +279,7 @@ private:
         return {};
     }
 
-    // Calls the first slot or signal of that name which takes these arguments.
+    // Calls the first slot or signal with this name that accepts these arguments.
     QString call(const QString &step) {
         const int bracket = int(step.indexOf(u'('));
         const int dot = int(step.lastIndexOf(u'.', bracket));
@@ -318,7 +318,7 @@ private:
 
 } // namespace
 
-/// A transcript tells what steps bring about, and what those who are told of it see then:
+/// A transcript shows the effects of steps, and what receivers of notifications see:
 ///
 ///     > follow package
 ///     > watch package
@@ -328,9 +328,9 @@ private:
 ///       + behaviors: tea
 ///     = true
 ///
-/// A step is one of Transcript::act(), or a call of any slot or signal. Below it stand the
-/// notifications of what is watched, each with what has changed in the package by then, what
-/// changes after the last of them, and the result.
+/// A step is one of those in Transcript::act(), or a call of any slot or signal. It is followed by
+/// the notifications of watched objects, each with the changes to the package so far, the changes
+/// after the last of them, and the result.
 class TestTranscripts : public QObject {
     Q_OBJECT
 

@@ -66,8 +66,8 @@ void TestTranslations::placeholders_data() {
         QTest::newRow(qPrintable(name)) << folder.filePath(name);
 }
 
-// A placeholder that a translation lacks would leave its argument out, and one too many would be
-// shown to the user.
+// A missing placeholder in a translation would drop its argument; an additional one would be shown
+// to the user.
 void TestTranslations::placeholders() {
     QFETCH(QString, path);
     QFile file(path);

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The output, each line of the messages after "2> ", and a status other than 0 after "=> ".
+// The output, with "2> " before each line of the messages, and "=> " before a status other than 0.
 QByteArray printed(const Outcome &outcome) {
     QByteArray lines = outcome.out;
     if (!lines.isEmpty() && !lines.endsWith('\n'))
@@ -55,7 +55,7 @@ private:
 private Q_SLOTS:
     void init() { resetFiles(m_dir.path()); }
 
-    // Files of lines for a shell, "$ zel-package ...", each followed by the printed() outcome.
+    // Files of shell commands, "$ zel-package ...", each followed by the printed() outcome.
     void shellLines_data() {
         QTest::addColumn<QString>("path");
         const auto files = QDir(testData("zel-package/shell")).entryInfoList(QDir::Files);
@@ -82,9 +82,10 @@ private Q_SLOTS:
     // outcome. A comment "run: LINE" prepares, and "file: NAME" makes a file of the next block.
     void documents_data() {
         QTest::addColumn<QString>("path");
-        const auto files = QDir(QStringLiteral(ZEL_SOURCE_DIR "/docs"))
-                               .entryInfoList({QStringLiteral("*.md")}, QDir::Files);
-        for (const QFileInfo &file : files) {
+        QFileInfoList files = QDir(QStringLiteral(ZEL_SOURCE_DIR "/docs"))
+                                  .entryInfoList({QStringLiteral("*.md")}, QDir::Files);
+        files.append(QFileInfo(QStringLiteral(ZEL_SOURCE_DIR "/README.md")));
+        for (const QFileInfo &file : std::as_const(files)) {
             if (contentOf(file.filePath()).contains("```console"))
                 QTest::newRow(qPrintable(file.baseName())) << file.filePath();
         }
@@ -117,7 +118,7 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(path, actual.toUtf8());
     }
 
-    // The manual page and the completion know what the help offers.
+    // The manual page and the completions cover everything in the help.
     void helpIsComplete() {
         const QByteArray manual =
             contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/zel-package.1")).replace("\\-", "-");
@@ -152,7 +153,7 @@ private Q_SLOTS:
         }
     }
 
-    // Nothing that garbles a terminal is in the output, and nothing is lost.
+    // The output contains all of the text, and nothing that garbles a terminal.
     void showJsonOfHardText() {
         const QString path = testData("manifest/valid/hard-text.xml");
         const Outcome outcome =

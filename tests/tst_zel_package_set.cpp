@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// What "set" shows instead of writing a file, which is what patch(1) applies.
+// Tests the difference that "set" prints with --dry-run, for patch(1).
 class TestZelPackageSet : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private Q_SLOTS:
             if (!file.fileName().startsWith(QLatin1String("newer-")))
                 QTest::newRow(qPrintable(file.fileName())) << contentOf(file.filePath());
         }
-        // More differences than the search goes into.
+        // More differences than the search handles.
         const QByteArray large = contentOf(
             QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/ten-languages/manifest.xml"));
         QTest::newRow("every line") << QByteArray(large).replace("\n", "\r\n");
@@ -44,7 +44,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.status, 0);
     }
 
-    // As diff -u lays it out: contexts that touch make one hunk, those that do not make two.
+    // Hunks are laid out as by diff -u: those with touching contexts are joined.
     void diffLayout() {
         const QByteArray head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
         const QByteArray package = "<package format=\"1\" uid=\"u\" version=\"1\">\n";

@@ -45,7 +45,7 @@ QStringList valuesIn(const QJsonValue &list, const char *key) {
     return values;
 }
 
-// The lines with the replacements of a fix, which ascend.
+// Applies the replacements of a fix, which are in ascending order.
 QByteArray withReplacements(QByteArrayList lines, const QJsonValue &fix) {
     const QJsonArray replacements =
         at(fix, QStringLiteral("artifactChanges.0.replacements")).toArray();
@@ -71,7 +71,7 @@ class TestZelPackageValidate : public QObject {
 private:
     QTemporaryDir m_dir;
 
-    // Runs a command among good.xml, warned.xml (two warnings), wrong.xml (an error) and
+    // Runs a command in a folder with good.xml, warned.xml (two warnings), wrong.xml (an error) and
     // broken.xml.
     Outcome run(const QStringList &arguments, const QByteArray &input = {}) const {
         return runProgram(arguments, m_dir.path(), input);
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void options_data() { addRowsOf("zel-package/validate-options.json"); }
 
-    // Findings, messages and the exit status are the same in every format.
+    // Checks findings, messages and the exit status in every format.
     void options() {
         QFETCH(QString, arguments);
         QFETCH(QStringList, ids);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QTEST(uri, "uri");
     }
 
-    // Each fix gives a manifest in the canonical form without the finding.
+    // Each fix results in a canonical manifest without the finding.
     void sarifFixes() {
         write(path("f.xml"),
               contentOf(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/faulty/manifest.xml")));
@@ -179,7 +179,7 @@ private Q_SLOTS:
         }
     }
 
-    // Of 102 x 101 findings of one rule, 10,000 are listed in every format.
+    // Of 102 x 101 findings of one rule, every format lists 10,000.
     void manyFindings() {
         Tano::PackageInfo record;
         for (int i = 0; i < 102; ++i) {
@@ -224,7 +224,7 @@ private Q_SLOTS:
                  colored.constData());
     }
 
-    // Over many files, on a terminal, and gone in the end.
+    // Shown for many files on a terminal, and removed at the end.
     void progress() {
         QStringList arguments{QStringLiteral("validate")};
         for (int i = 0; i < 100; ++i)

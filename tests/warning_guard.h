@@ -5,18 +5,18 @@
 
 #include <utility>
 
-/// Collects the warnings that a test function writes. A test class has one as a member, calls
-/// watch() in init(), and expects take() to be empty in cleanup().
+/// Collects the warnings of a test function. A test class has a member of this type, calls watch()
+/// in init(), and expects take() to be empty in cleanup().
 class WarningGuard {
 public:
-    /// Starts to collect. Qt Test installs its own message handler after the test class has been
-    /// constructed, so that this is no task for the constructor.
+    /// Starts collecting. Not done by the constructor, since Qt Test installs its own message
+    /// handler after the test class is constructed.
     void watch() {
         if (const QtMessageHandler handler = qInstallMessageHandler(collect); handler != collect)
             s_next = handler;
     }
 
-    /// The warnings since the last call, or a complaint if they are not collected.
+    /// The warnings since the last call, or an error message if they were not collected.
     QStringList take() {
         if (const QtMessageHandler handler = qInstallMessageHandler(collect); handler != collect) {
             qInstallMessageHandler(handler);

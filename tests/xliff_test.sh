@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Usage: xliff_test.sh PROGRAM MANIFEST WORK-DIR LCONVERT XLIFF2PO PO2XLIFF
 #
-# Exports the texts of a package in each of its languages, converts them to PO and back with two
-# independent tools, and imports them: untouched, which changes nothing, with one translation, and
-# with the names of all behaviors in German, which changes nothing else.
+# Exports a package's texts in each language, converts them to PO and back with two independent
+# tools, and imports them: unchanged, with one changed translation, and with the German names of all
+# behaviors, checking that nothing else changes.
 
 set -euo pipefail
 

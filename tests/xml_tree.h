@@ -11,7 +11,7 @@
 #include <deque>
 #include <vector>
 
-/// XML as a tree that tests change, and the schema's opinion on what they write.
+/// XML as a mutable tree, and validation of its output against the schema.
 namespace XmlTree {
 
 struct Element {
@@ -79,7 +79,7 @@ inline void write(const QString &path, const QByteArray &content) {
         qFatal("cannot write %s", qPrintable(path));
 }
 
-// What xmllint says of the files.
+// The output of xmllint for the files.
 inline QString outputOfXmllint(const QStringList &files) {
     QProcess xmllint;
     xmllint.setProcessChannelMode(QProcess::MergedChannels);
@@ -92,7 +92,7 @@ inline QString outputOfXmllint(const QStringList &files) {
     return QString::fromUtf8(xmllint.readAll());
 }
 
-// The files that conform to the schema, of those in the folder.
+// The files in the folder that are valid according to the schema.
 inline QSet<QString> acceptedBySchema(const QDir &dir) {
     constexpr int mostArguments = 10000;
     QStringList files;
@@ -107,7 +107,7 @@ inline QSet<QString> acceptedBySchema(const QDir &dir) {
     if (!files.isEmpty())
         output += outputOfXmllint(files);
     QSet<QString> accepted;
-    QSet<QString> misnamed; // xmllint goes on after a violation of Namespaces in XML
+    QSet<QString> misnamed; // xmllint continues after a violation of Namespaces in XML
     for (const QString &line : output.split(QLatin1Char('\n'))) {
         const QString validates = QStringLiteral(" validates");
         if (line.contains(QLatin1String(": namespace error :")))

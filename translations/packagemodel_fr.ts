@@ -228,7 +228,7 @@
 <context>
     <name>Zel::PackageModel</name>
     <message>
-        <source>The UID names the package on the robot and in every list of packages. It has 1 to 50 characters, each a lower-case letter from a to z, a digit, an underscore or a hyphen, and at least one of them is not a digit.</source>
+        <source>The UID identifies the package on the robot and in lists of packages. It has 1 to 50 characters: lower-case letters from a to z, digits, underscores and hyphens, but not only digits.</source>
         <translation>L&apos;UID désigne le paquet sur le robot et dans toutes les listes de paquets. Il a de 1 à 50 caractères : lettres minuscules de a à z, chiffres, traits de soulignement et traits d&apos;union, dont au moins un n&apos;est pas un chiffre.</translation>
     </message>
     <message>
@@ -236,7 +236,7 @@
         <translation>Écrivez un UID comme my-app_2.</translation>
     </message>
     <message>
-        <source>A package says on which robots it runs, so that it is offered only to those. Without a robot requirement it is offered to none.</source>
+        <source>A package is only offered to robots that meet one of its robot requirements. Without a robot requirement, it is offered to none.</source>
         <translation>Un paquet indique les robots sur lesquels il fonctionne, afin de n&apos;être proposé qu&apos;à ceux-ci. Sans exigence sur le robot, il n&apos;est proposé à aucun.</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Ajoutez une exigence avec un modèle ou une famille de robots.</translation>
     </message>
     <message>
-        <source>A robot requirement whose model is empty does not say which robot is meant, and its version ranges mean nothing.</source>
+        <source>A robot requirement without a model does not specify a robot, so its version ranges have no effect.</source>
         <translation>Une exigence dont le modèle est vide ne dit pas de quel robot il s&apos;agit, et ses intervalles de versions n&apos;ont pas de sens.</translation>
     </message>
     <message>
@@ -252,79 +252,79 @@
         <translation>Choisissez un modèle ou une famille de robots pour l&apos;exigence, ou retirez-la.</translation>
     </message>
     <message>
-        <source>The highest accepted body version is less than the lowest, so that no robot can meet the requirement.</source>
+        <source>The maximum body version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>La version de corps la plus haute acceptée est inférieure à la plus basse : aucun robot ne peut satisfaire l&apos;exigence.</translation>
     </message>
     <message>
-        <source>Raise or clear the maximum, or lower the minimum. An empty maximum means that there is no upper bound.</source>
+        <source>Raise or clear the maximum, or lower the minimum. An empty maximum means no upper bound.</source>
         <translation>Augmentez ou videz le maximum, ou diminuez le minimum. Un maximum vide signifie qu&apos;il n&apos;y a pas de borne supérieure.</translation>
     </message>
     <message>
-        <source>The highest accepted head version is less than the lowest, so that no robot can meet the requirement.</source>
+        <source>The maximum head version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>La version de tête la plus haute acceptée est inférieure à la plus basse : aucun robot ne peut satisfaire l&apos;exigence.</translation>
     </message>
     <message>
-        <source>A package says which versions of the Brio middleware it runs on, so that it is not installed where it cannot start.</source>
+        <source>A package declares the versions of the Brio middleware that it runs on, so that it is not installed where it cannot start.</source>
         <translation>Un paquet indique les versions de l&apos;intergiciel Brio sur lesquelles il fonctionne, afin de ne pas être installé là où il ne peut pas démarrer.</translation>
     </message>
     <message>
-        <source>Add a Brio requirement with the lowest version that the package was tried on.</source>
+        <source>Add a Brio requirement with the lowest version that the package was tested with.</source>
         <translation>Ajoutez une exigence Brio avec la plus basse version sur laquelle le paquet a été essayé.</translation>
     </message>
     <message>
-        <source>A Brio requirement has a lowest version; only the highest may be left open. Requirements after the first one without a minimum are not checked.</source>
+        <source>A Brio requirement needs a minimum version; only the maximum is optional. Requirements after the first one without a minimum are not checked.</source>
         <translation>Une exigence Brio a une version minimale ; seule la maximale peut rester ouverte. Les exigences qui suivent la première sans minimum ne sont pas vérifiées.</translation>
     </message>
     <message>
-        <source>Set the minimal version of the requirement.</source>
+        <source>Set the minimum version of the requirement.</source>
         <translation>Indiquez la version minimale de l&apos;exigence.</translation>
     </message>
     <message>
-        <source>The maximal Brio version is less than the minimal one, so that no robot can meet the requirement.</source>
+        <source>The maximum Brio version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>La version maximale de Brio est inférieure à la version minimale : aucun robot ne peut satisfaire l&apos;exigence.</translation>
     </message>
     <message>
-        <source>The package supports the default language and has no name in it. That name also replaces those that are missing in other languages; without it, users see the UID.</source>
+        <source>The package supports the default language but has no name in it. This name also replaces missing ones in other languages; without it, users see the UID.</source>
         <translation>Le paquet prend en charge la langue par défaut et n&apos;y a pas de nom. Ce nom remplace aussi ceux qui manquent dans d&apos;autres langues ; sans lui, l&apos;utilisateur voit l&apos;UID.</translation>
     </message>
     <message>
-        <source>Write a name in the default language.</source>
+        <source>Add a name in the default language.</source>
         <translation>Écrivez un nom dans la langue par défaut.</translation>
     </message>
     <message>
-        <source>The package supports a language and has no name in it. Users of that language see the name in the default language, or the UID.</source>
+        <source>The package supports a language but has no name in it. Users of this language see the name in the default language, or the UID.</source>
         <translation>Le paquet prend en charge une langue et n&apos;y a pas de nom. Les utilisateurs de cette langue voient le nom dans la langue par défaut, ou l&apos;UID.</translation>
     </message>
     <message>
-        <source>Write a name in the language, or stop supporting it.</source>
+        <source>Add a name in this language, or stop supporting it.</source>
         <translation>Écrivez un nom dans cette langue, ou cessez de la prendre en charge.</translation>
     </message>
     <message>
-        <source>The package supports a language and has no description in it. Users of that language see the description in the default language, or none.</source>
+        <source>The package supports a language but has no description in it. Users of this language see the description in the default language, or none.</source>
         <translation>Le paquet prend en charge une langue et n&apos;y a pas de description. Les utilisateurs de cette langue voient la description dans la langue par défaut, ou aucune.</translation>
     </message>
     <message>
-        <source>Write a description in the language, or stop supporting it.</source>
+        <source>Add a description in this language, or stop supporting it.</source>
         <translation>Écrivez une description dans cette langue, ou cessez de la prendre en charge.</translation>
     </message>
     <message>
-        <source>A behavior that can be started by a sentence in one language can be started so in every language that the package supports; otherwise it is out of reach for some users.</source>
+        <source>A behavior with trigger sentences in one language needs them in every supported language; otherwise some users cannot start it by voice.</source>
         <translation>Un comportement qui peut être lancé par une phrase dans une langue doit pouvoir l&apos;être dans toutes les langues prises en charge par le paquet ; sinon il est hors de portée de certains utilisateurs.</translation>
     </message>
     <message>
-        <source>Write at least one trigger sentence in the language, or remove those in all languages.</source>
+        <source>Add at least one trigger sentence in this language, or remove those in all languages.</source>
         <translation>Écrivez au moins une phrase de déclenchement dans cette langue, ou retirez celles de toutes les langues.</translation>
     </message>
     <message>
-        <source>The value is of another type.</source>
+        <source>The value has the wrong type.</source>
         <translation>La valeur est d&apos;un autre type.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is there already.</source>
+        <source>&apos;%1&apos; already exists.</source>
         <translation>« %1 » est déjà présent.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is taken.</source>
+        <source>&apos;%1&apos; is already in use.</source>
         <translation>« %1 » est déjà pris.</translation>
     </message>
     <message>
@@ -460,11 +460,11 @@
         <translation>%1 : %2</translation>
     </message>
     <message>
-        <source>The text holds half of a surrogate pair, which a manifest cannot hold.</source>
+        <source>The text contains half of a surrogate pair, which a manifest cannot represent.</source>
         <translation>Le texte contient une demi-paire de substitution, qu&apos;un manifeste ne peut pas contenir.</translation>
     </message>
     <message>
-        <source>The text holds the character U+%1, which a manifest cannot hold.</source>
+        <source>The text contains the character U+%1, which a manifest cannot represent.</source>
         <translation>Le texte contient le caractère U+%1, qu&apos;un manifeste ne peut pas contenir.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>La liste n&apos;a pas cet indice.</translation>
     </message>
     <message>
-        <source>There is no package to be edited.</source>
+        <source>There is no package to edit.</source>
         <translation>Il n&apos;y a pas de paquet à modifier.</translation>
     </message>
     <message>
@@ -508,7 +508,7 @@
         <translation>Ce n&apos;est pas du JSON à la %1 : %2.</translation>
     </message>
     <message>
-        <source>The format %1 is not known.</source>
+        <source>Format %1 is not supported.</source>
         <translation>Le format %1 est inconnu.</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation> ; les champs sont %1.</translation>
     </message>
     <message>
-        <source>There is none.</source>
+        <source>It does not exist.</source>
         <translation>Il n&apos;y en a pas.</translation>
     </message>
     <message>
@@ -556,7 +556,7 @@
         <translation>&apos;%1&apos; n&apos;est ni true ni false.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <source>&apos;%1&apos; is not a version, that is, numbers separated by dots as in 2.1.</source>
         <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
     </message>
     <message>
@@ -632,47 +632,47 @@
         <translation>Script vocal mal formé (ligne %1, colonne %2) : %3</translation>
     </message>
     <message>
-        <source>A text with markup is a speech script. Of a malformed one no plain text can be made, so that publishing leaves the markup in it and users read the tags.</source>
+        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so publishing keeps its markup and users see the tags.</source>
         <translation>Un texte avec des balises est un script vocal. D&apos;un script mal formé, on ne peut pas tirer de texte brut : la publication y laisse les balises et les utilisateurs les lisent.</translation>
     </message>
     <message>
-        <source>Correct the markup, or write &amp;lt; for a &lt; that is no tag.</source>
+        <source>Correct the markup, or write &amp;lt; for a &lt; that does not start a tag.</source>
         <translation>Corrigez les balises, ou écrivez &amp;lt; pour un &lt; qui n&apos;est pas une balise.</translation>
     </message>
     <message>
-        <source>Another behavior has the path &apos;%1&apos;, too.</source>
+        <source>Another behavior also has the path &apos;%1&apos;.</source>
         <translation>Un autre comportement a aussi le chemin &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>A behavior is started by its path; of several with the same path, only the first is found.</source>
+        <source>A behavior is started by its path; if several have the same path, only the first is found.</source>
         <translation>Un comportement est lancé par son chemin ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
     </message>
     <message>
-        <source>Give each behavior a path of its own, or remove one of them.</source>
+        <source>Give each behavior a unique path, or remove one of them.</source>
         <translation>Donnez à chaque comportement son propre chemin, ou supprimez l&apos;un d&apos;eux.</translation>
     </message>
     <message>
-        <source>Another dialog has the topic name &apos;%1&apos;, too.</source>
+        <source>Another dialog also has the topic name &apos;%1&apos;.</source>
         <translation>Un autre dialogue a aussi le nom de sujet &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>A dialog is found by its topic name; of several with the same name, only the first is found.</source>
+        <source>A dialog is identified by its topic name; if several have the same name, only the first is found.</source>
         <translation>Un dialogue est trouvé par son nom de sujet ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
     </message>
     <message>
-        <source>Give each dialog a topic name of its own, or remove one of them.</source>
+        <source>Give each dialog a unique topic name, or remove one of them.</source>
         <translation>Donnez à chaque dialogue son propre nom de sujet, ou supprimez l&apos;un d&apos;eux.</translation>
     </message>
     <message>
-        <source>Another service has the name &apos;%1&apos;, too.</source>
+        <source>Another service also has the name &apos;%1&apos;.</source>
         <translation>Un autre service a aussi le nom &apos;%1&apos;.</translation>
     </message>
     <message>
-        <source>A service is found by its name; of several with the same name, only the first is found.</source>
+        <source>A service is identified by its name; if several have the same name, only the first is found.</source>
         <translation>Un service est trouvé par son nom ; de plusieurs qui ont le même, seul le premier est trouvé.</translation>
     </message>
     <message>
-        <source>Give each service a name of its own, or remove one of them.</source>
+        <source>Give each service a unique name, or remove one of them.</source>
         <translation>Donnez à chaque service son propre nom, ou supprimez l&apos;un d&apos;eux.</translation>
     </message>
     <message>
@@ -680,31 +680,31 @@
         <translation>La permission &apos;%1&apos; est donnée deux fois.</translation>
     </message>
     <message>
-        <source>A permission that is listed again grants nothing more.</source>
+        <source>Listing a permission again has no effect.</source>
         <translation>Une permission répétée n&apos;accorde rien de plus.</translation>
     </message>
     <message>
-        <source>Remove the second one.</source>
+        <source>Remove the duplicate.</source>
         <translation>Supprimez la seconde.</translation>
     </message>
     <message>
-        <source>%1: It is empty.</source>
+        <source>%1 is empty.</source>
         <translation>%1 : c&apos;est vide.</translation>
     </message>
     <message>
-        <source>Behaviors, dialogs, services, permissions and properties are found by their names; one without a name cannot be used.</source>
+        <source>Behaviors, dialogs, services, permissions and properties are identified by their names; an entry without a name cannot be used.</source>
         <translation>Comportements, dialogues, services, permissions et propriétés sont trouvés par leur nom ; sans nom, on ne peut pas s&apos;en servir.</translation>
     </message>
     <message>
-        <source>Write a name, or remove the entry.</source>
+        <source>Enter a name, or remove the entry.</source>
         <translation>Écrivez un nom, ou supprimez l&apos;entrée.</translation>
     </message>
     <message>
-        <source>There is no nature &apos;%1&apos;%2</source>
+        <source>Unknown nature &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de nature &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>The nature says how a behavior shares the robot with others: &apos;interactive&apos; or &apos;solitary&apos;, or nothing.</source>
+        <source>The nature defines how a behavior shares the robot with others: &apos;interactive&apos;, &apos;solitary&apos;, or empty.</source>
         <translation>La nature dit comment un comportement partage le robot avec d&apos;autres : &apos;interactive&apos;, &apos;solitary&apos; ou rien.</translation>
     </message>
     <message>
@@ -712,23 +712,23 @@
         <translation>Choisissez l&apos;une des deux, ou effacez la nature.</translation>
     </message>
     <message>
-        <source>There is no language &apos;%1&apos; among those that are known%2</source>
+        <source>Unknown language &apos;%1&apos;%2</source>
         <translation>La langue &apos;%1&apos; n&apos;est pas parmi celles qui sont connues%2</translation>
     </message>
     <message>
-        <source>The code is none of those that &apos;zel-package languages&apos; lists, so that its users will not be found.</source>
+        <source>&apos;zel-package languages&apos; does not list this code, so the package will not be offered to users of the language.</source>
         <translation>Le code n&apos;est pas de ceux que &apos;zel-package languages&apos; énumère : ses utilisateurs ne seront pas trouvés.</translation>
     </message>
     <message>
-        <source>Correct the code, which is that of a language and a country, as in fr_FR.</source>
+        <source>Correct the code, which consists of a language and a country, as in fr_FR.</source>
         <translation>Corrigez le code, celui d&apos;une langue et d&apos;un pays, comme fr_FR.</translation>
     </message>
     <message>
-        <source>There is no robot &apos;%1&apos; among those that are known%2</source>
+        <source>Unknown robot &apos;%1&apos;%2</source>
         <translation>Le robot &apos;%1&apos; n&apos;est pas parmi ceux qui sont connus%2</translation>
     </message>
     <message>
-        <source>The model is none of those that &apos;zel-package robots&apos; lists, so that no robot may meet the requirement.</source>
+        <source>&apos;zel-package robots&apos; does not list this model, so possibly no robot meets the requirement.</source>
         <translation>Le modèle n&apos;est pas de ceux que &apos;zel-package robots&apos; énumère : peut-être aucun robot ne satisfait l&apos;exigence.</translation>
     </message>
     <message>
@@ -740,7 +740,7 @@
         <translation>&apos;%1&apos; n&apos;est pas une version.</translation>
     </message>
     <message>
-        <source>A version has decimal fields with dots between them. One of another form counts as none.</source>
+        <source>A version consists of decimal numbers separated by dots. Any other value counts as no version.</source>
         <translation>Une version a des nombres séparés par des points. Sous une autre forme, elle compte pour rien.</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@
         <translation>&apos;%1&apos; n&apos;est pas une date.</translation>
     </message>
     <message>
-        <source>Dates are written as ISO 8601 has them, the year first, so that all programs read them alike.</source>
+        <source>Dates are in the ISO 8601 format, with the year first, so that all programs read them alike.</source>
         <translation>Les dates s&apos;écrivent selon ISO 8601, l&apos;année d&apos;abord, pour que tous les programmes les lisent de même.</translation>
     </message>
     <message>
@@ -760,11 +760,11 @@
         <translation>Écrivez une date comme 2026-09-14.</translation>
     </message>
     <message>
-        <source>There is a text in %1, which the package does not list.</source>
+        <source>The package has a text in %1, but does not list the language.</source>
         <translation>Il y a un texte en %1, langue que le paquet n&apos;énumère pas.</translation>
     </message>
     <message>
-        <source>The package neither supports nor is described in the language, so that the text is not used, and publishing drops it.</source>
+        <source>The package neither supports the language nor has descriptions in it, so the text is not used, and publishing removes it.</source>
         <translation>Le paquet ne prend pas en charge cette langue et n&apos;y est pas décrit : le texte ne sert pas, et la publication l&apos;écarte.</translation>
     </message>
     <message>
@@ -772,15 +772,15 @@
         <translation>Ajoutez la langue au paquet, ou supprimez le texte.</translation>
     </message>
     <message>
-        <source>There is only white space in the text.</source>
+        <source>The text is only white space.</source>
         <translation>Le texte n&apos;a que des espaces.</translation>
     </message>
     <message>
-        <source>Users would see an empty name, and the robot would say or wait for nothing.</source>
+        <source>Users would see an empty name, and the robot would say nothing or wait for nothing.</source>
         <translation>Les utilisateurs verraient un nom vide, et le robot ne dirait ou n&apos;attendrait rien.</translation>
     </message>
     <message>
-        <source>Write a text, or remove it.</source>
+        <source>Enter a text, or remove it.</source>
         <translation>Écrivez un texte, ou supprimez-le.</translation>
     </message>
     <message>
@@ -788,7 +788,7 @@
         <translation>Il n&apos;y a pas de fichier de sujet &apos;%1&apos; à côté du manifeste.</translation>
     </message>
     <message>
-        <source>A dialog speaks a language by the topic file that it names. The path is relative to the manifest&apos;s folder.</source>
+        <source>A dialog has one topic file per language. The path is relative to the manifest&apos;s folder.</source>
         <translation>Un dialogue parle une langue par le fichier de sujet qu&apos;il nomme. Le chemin est relatif au dossier du manifeste.</translation>
     </message>
     <message>
@@ -800,7 +800,7 @@
         <translation>Le fichier icon.png à côté du manifeste n&apos;est pas une image PNG.</translation>
     </message>
     <message>
-        <source>The icon of a package is the PNG image icon.png beside its manifest. Without one, users see the default icon.</source>
+        <source>The icon of a package is the PNG image icon.png beside its manifest. Without it, users see the default icon.</source>
         <translation>L&apos;icône d&apos;un paquet est l&apos;image PNG icon.png à côté de son manifeste. Sans elle, les utilisateurs voient l&apos;icône par défaut.</translation>
     </message>
     <message>
@@ -812,11 +812,11 @@
         <translation>Aucune langue prise en charge n&apos;est définie.</translation>
     </message>
     <message>
-        <source>A package is offered to the users of the languages that it supports, so that this one is offered to none.</source>
+        <source>A package is offered to users of the languages that it supports; this one is offered to nobody.</source>
         <translation>Un paquet est proposé aux utilisateurs des langues qu&apos;il prend en charge ; celui-ci ne l&apos;est à personne.</translation>
     </message>
     <message>
-        <source>Add the languages that the package speaks.</source>
+        <source>Add the languages that the package supports.</source>
         <translation>Ajoutez les langues que parle le paquet.</translation>
     </message>
     <message>
@@ -916,7 +916,7 @@
         <translation>Corriger les noms d&apos;éléments et d&apos;attributs</translation>
     </message>
     <message>
-        <source>Keep the present values and remove the comments</source>
+        <source>Keep the current values and remove the comments</source>
         <translation>Garder les valeurs présentes et supprimer les commentaires</translation>
     </message>
     <message>
@@ -924,11 +924,11 @@
         <translation>Élément inconnu &lt;%1&gt;%2</translation>
     </message>
     <message>
-        <source>The format has no such element here. It is kept, and otherwise ignored.</source>
+        <source>The format has no such element here. It is preserved but ignored.</source>
         <translation>Le format n&apos;a pas un tel élément ici. Il est gardé, et sinon ignoré.</translation>
     </message>
     <message>
-        <source>Correct the name. Additions of other tools belong in a namespace of their own.</source>
+        <source>Correct the name. Extensions by other tools should use their own namespace.</source>
         <translation>Corrigez le nom. Les ajouts d&apos;autres outils ont leur place dans leur propre espace de noms.</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>Attribut inconnu &apos;%1&apos; de &lt;%3&gt;%2</translation>
     </message>
     <message>
-        <source>The format has no such attribute here. It is kept, and otherwise ignored.</source>
+        <source>The format has no such attribute here. It is preserved but ignored.</source>
         <translation>Le format n&apos;a pas un tel attribut ici. Il est gardé, et sinon ignoré.</translation>
     </message>
     <message>
@@ -944,7 +944,7 @@
         <translation>Conflit de fusion non résolu.</translation>
     </message>
     <message>
-        <source>Both sides of a merge changed the field. The manifest has one of the values, and a comment before it has both.</source>
+        <source>Both sides of a merge changed the field. The manifest contains one of the values, and a comment before it shows both.</source>
         <translation>Les deux côtés d&apos;une fusion ont changé le champ. Le manifeste a l&apos;une des valeurs, et un commentaire devant elle a les deux.</translation>
     </message>
     <message>
@@ -1064,7 +1064,7 @@
         <translation>%1&#xa0;: %2 devient %3</translation>
     </message>
     <message>
-        <source>%1 moved to place %2</source>
+        <source>%1 moved to position %2</source>
         <translation>%1&#xa0;: déplacement à la place %2</translation>
     </message>
     <message>

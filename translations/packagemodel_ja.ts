@@ -228,7 +228,7 @@
 <context>
     <name>Zel::PackageModel</name>
     <message>
-        <source>The UID names the package on the robot and in every list of packages. It has 1 to 50 characters, each a lower-case letter from a to z, a digit, an underscore or a hyphen, and at least one of them is not a digit.</source>
+        <source>The UID identifies the package on the robot and in lists of packages. It has 1 to 50 characters: lower-case letters from a to z, digits, underscores and hyphens, but not only digits.</source>
         <translation>UID は、ロボット上およびすべてのパッケージ一覧でパッケージを表す名前です。a から z の小文字、数字、アンダースコア、ハイフンからなる 1 ～ 50 文字で、少なくとも 1 文字は数字以外です。</translation>
     </message>
     <message>
@@ -236,7 +236,7 @@
         <translation>my-app_2 のような UID を入力してください。</translation>
     </message>
     <message>
-        <source>A package says on which robots it runs, so that it is offered only to those. Without a robot requirement it is offered to none.</source>
+        <source>A package is only offered to robots that meet one of its robot requirements. Without a robot requirement, it is offered to none.</source>
         <translation>パッケージは、対応するロボットにだけ提供されるように、どのロボットで動作するかを示します。ロボットの要件がなければ、どのロボットにも提供されません。</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>ロボットのモデルまたはファミリーを指定した要件を追加してください。</translation>
     </message>
     <message>
-        <source>A robot requirement whose model is empty does not say which robot is meant, and its version ranges mean nothing.</source>
+        <source>A robot requirement without a model does not specify a robot, so its version ranges have no effect.</source>
         <translation>モデルが空の要件は対象のロボットを示さず、そのバージョン範囲は意味を持ちません。</translation>
     </message>
     <message>
@@ -252,79 +252,79 @@
         <translation>要件のロボットのモデルまたはファミリーを選ぶか、要件を削除してください。</translation>
     </message>
     <message>
-        <source>The highest accepted body version is less than the lowest, so that no robot can meet the requirement.</source>
+        <source>The maximum body version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>受け入れるボディの最大バージョンが最小バージョンより小さいため、どのロボットも要件を満たせません。</translation>
     </message>
     <message>
-        <source>Raise or clear the maximum, or lower the minimum. An empty maximum means that there is no upper bound.</source>
+        <source>Raise or clear the maximum, or lower the minimum. An empty maximum means no upper bound.</source>
         <translation>最大値を上げるか空にするか、最小値を下げてください。最大値が空の場合、上限はありません。</translation>
     </message>
     <message>
-        <source>The highest accepted head version is less than the lowest, so that no robot can meet the requirement.</source>
+        <source>The maximum head version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>受け入れるヘッドの最大バージョンが最小バージョンより小さいため、どのロボットも要件を満たせません。</translation>
     </message>
     <message>
-        <source>A package says which versions of the Brio middleware it runs on, so that it is not installed where it cannot start.</source>
+        <source>A package declares the versions of the Brio middleware that it runs on, so that it is not installed where it cannot start.</source>
         <translation>パッケージは、起動できない環境にインストールされないように、ミドルウェア Brio のどのバージョンで動作するかを示します。</translation>
     </message>
     <message>
-        <source>Add a Brio requirement with the lowest version that the package was tried on.</source>
+        <source>Add a Brio requirement with the lowest version that the package was tested with.</source>
         <translation>パッケージの動作を確認した最も低いバージョンで Brio の要件を追加してください。</translation>
     </message>
     <message>
-        <source>A Brio requirement has a lowest version; only the highest may be left open. Requirements after the first one without a minimum are not checked.</source>
+        <source>A Brio requirement needs a minimum version; only the maximum is optional. Requirements after the first one without a minimum are not checked.</source>
         <translation>Brio の要件には最小バージョンが必要で、省略できるのは最大バージョンだけです。最小バージョンのない最初の要件より後の要件は検査されません。</translation>
     </message>
     <message>
-        <source>Set the minimal version of the requirement.</source>
+        <source>Set the minimum version of the requirement.</source>
         <translation>要件の最小バージョンを設定してください。</translation>
     </message>
     <message>
-        <source>The maximal Brio version is less than the minimal one, so that no robot can meet the requirement.</source>
+        <source>The maximum Brio version is lower than the minimum, so no robot can meet the requirement.</source>
         <translation>Brio の最大バージョンが最小バージョンより小さいため、どのロボットも要件を満たせません。</translation>
     </message>
     <message>
-        <source>The package supports the default language and has no name in it. That name also replaces those that are missing in other languages; without it, users see the UID.</source>
+        <source>The package supports the default language but has no name in it. This name also replaces missing ones in other languages; without it, users see the UID.</source>
         <translation>パッケージは既定の言語に対応していますが、その言語の名前がありません。この名前は、他の言語で欠けている名前の代わりにもなります。ない場合、ユーザーには UID が表示されます。</translation>
     </message>
     <message>
-        <source>Write a name in the default language.</source>
+        <source>Add a name in the default language.</source>
         <translation>既定の言語で名前を入力してください。</translation>
     </message>
     <message>
-        <source>The package supports a language and has no name in it. Users of that language see the name in the default language, or the UID.</source>
+        <source>The package supports a language but has no name in it. Users of this language see the name in the default language, or the UID.</source>
         <translation>パッケージが対応している言語の名前がありません。その言語のユーザーには、既定の言語の名前または UID が表示されます。</translation>
     </message>
     <message>
-        <source>Write a name in the language, or stop supporting it.</source>
+        <source>Add a name in this language, or stop supporting it.</source>
         <translation>その言語で名前を入力するか、その言語への対応をやめてください。</translation>
     </message>
     <message>
-        <source>The package supports a language and has no description in it. Users of that language see the description in the default language, or none.</source>
+        <source>The package supports a language but has no description in it. Users of this language see the description in the default language, or none.</source>
         <translation>パッケージが対応している言語の説明がありません。その言語のユーザーには、既定の言語の説明が表示されるか、何も表示されません。</translation>
     </message>
     <message>
-        <source>Write a description in the language, or stop supporting it.</source>
+        <source>Add a description in this language, or stop supporting it.</source>
         <translation>その言語で説明を入力するか、その言語への対応をやめてください。</translation>
     </message>
     <message>
-        <source>A behavior that can be started by a sentence in one language can be started so in every language that the package supports; otherwise it is out of reach for some users.</source>
+        <source>A behavior with trigger sentences in one language needs them in every supported language; otherwise some users cannot start it by voice.</source>
         <translation>ある言語の文で開始できるビヘイビアは、パッケージが対応するすべての言語で同じように開始できる必要があります。そうでないと、一部のユーザーが利用できません。</translation>
     </message>
     <message>
-        <source>Write at least one trigger sentence in the language, or remove those in all languages.</source>
+        <source>Add at least one trigger sentence in this language, or remove those in all languages.</source>
         <translation>その言語でトリガー文を少なくとも 1 つ入力するか、すべての言語のトリガー文を削除してください。</translation>
     </message>
     <message>
-        <source>The value is of another type.</source>
+        <source>The value has the wrong type.</source>
         <translation>値の種類が違います。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is there already.</source>
+        <source>&apos;%1&apos; already exists.</source>
         <translation>「%1」は既にあります。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is taken.</source>
+        <source>&apos;%1&apos; is already in use.</source>
         <translation>「%1」は既に使われています。</translation>
     </message>
     <message>
@@ -460,11 +460,11 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>The text holds half of a surrogate pair, which a manifest cannot hold.</source>
+        <source>The text contains half of a surrogate pair, which a manifest cannot represent.</source>
         <translation>テキストに、マニフェストに保存できない不完全なサロゲートペアが含まれています。</translation>
     </message>
     <message>
-        <source>The text holds the character U+%1, which a manifest cannot hold.</source>
+        <source>The text contains the character U+%1, which a manifest cannot represent.</source>
         <translation>テキストに、マニフェストに保存できない文字 U+%1 が含まれています。</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>リストにその番号はありません。</translation>
     </message>
     <message>
-        <source>There is no package to be edited.</source>
+        <source>There is no package to edit.</source>
         <translation>編集するパッケージがありません。</translation>
     </message>
     <message>
@@ -508,7 +508,7 @@
         <translation>%1 で JSON になっていません: %2。</translation>
     </message>
     <message>
-        <source>The format %1 is not known.</source>
+        <source>Format %1 is not supported.</source>
         <translation>形式 %1 は不明です。</translation>
     </message>
     <message>
@@ -544,7 +544,7 @@
         <translation>。フィールドは %1 です。</translation>
     </message>
     <message>
-        <source>There is none.</source>
+        <source>It does not exist.</source>
         <translation>ありません。</translation>
     </message>
     <message>
@@ -556,7 +556,7 @@
         <translation>&apos;%1&apos; は true でも false でもありません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a version: numbers with dots between them, as in 2.1.</source>
+        <source>&apos;%1&apos; is not a version, that is, numbers separated by dots as in 2.1.</source>
         <translation>&apos;%1&apos; はバージョンではありません。2.1 のように数字を点で区切ります。</translation>
     </message>
     <message>
@@ -632,47 +632,47 @@
         <translation>音声スクリプトの形式が正しくありません (%1 行 %2 列): %3</translation>
     </message>
     <message>
-        <source>A text with markup is a speech script. Of a malformed one no plain text can be made, so that publishing leaves the markup in it and users read the tags.</source>
+        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so publishing keeps its markup and users see the tags.</source>
         <translation>マークアップのあるテキストは音声スクリプトです。形式が正しくないとプレーンテキストを作れず、公開してもタグが残り、利用者に見えてしまいます。</translation>
     </message>
     <message>
-        <source>Correct the markup, or write &amp;lt; for a &lt; that is no tag.</source>
+        <source>Correct the markup, or write &amp;lt; for a &lt; that does not start a tag.</source>
         <translation>マークアップを直すか、タグでない &lt; は &amp;lt; と書いてください。</translation>
     </message>
     <message>
-        <source>Another behavior has the path &apos;%1&apos;, too.</source>
+        <source>Another behavior also has the path &apos;%1&apos;.</source>
         <translation>パス &apos;%1&apos; のビヘイビアーがほかにもあります。</translation>
     </message>
     <message>
-        <source>A behavior is started by its path; of several with the same path, only the first is found.</source>
+        <source>A behavior is started by its path; if several have the same path, only the first is found.</source>
         <translation>ビヘイビアーはパスで起動されます。同じパスが複数あると最初のものしか見つかりません。</translation>
     </message>
     <message>
-        <source>Give each behavior a path of its own, or remove one of them.</source>
+        <source>Give each behavior a unique path, or remove one of them.</source>
         <translation>ビヘイビアーごとに別のパスを付けるか、どれかを削除してください。</translation>
     </message>
     <message>
-        <source>Another dialog has the topic name &apos;%1&apos;, too.</source>
+        <source>Another dialog also has the topic name &apos;%1&apos;.</source>
         <translation>トピック名 &apos;%1&apos; のダイアログがほかにもあります。</translation>
     </message>
     <message>
-        <source>A dialog is found by its topic name; of several with the same name, only the first is found.</source>
+        <source>A dialog is identified by its topic name; if several have the same name, only the first is found.</source>
         <translation>ダイアログはトピック名で見つけられます。同じ名前が複数あると最初のものしか見つかりません。</translation>
     </message>
     <message>
-        <source>Give each dialog a topic name of its own, or remove one of them.</source>
+        <source>Give each dialog a unique topic name, or remove one of them.</source>
         <translation>ダイアログごとに別のトピック名を付けるか、どれかを削除してください。</translation>
     </message>
     <message>
-        <source>Another service has the name &apos;%1&apos;, too.</source>
+        <source>Another service also has the name &apos;%1&apos;.</source>
         <translation>名前 &apos;%1&apos; のサービスがほかにもあります。</translation>
     </message>
     <message>
-        <source>A service is found by its name; of several with the same name, only the first is found.</source>
+        <source>A service is identified by its name; if several have the same name, only the first is found.</source>
         <translation>サービスは名前で見つけられます。同じ名前が複数あると最初のものしか見つかりません。</translation>
     </message>
     <message>
-        <source>Give each service a name of its own, or remove one of them.</source>
+        <source>Give each service a unique name, or remove one of them.</source>
         <translation>サービスごとに別の名前を付けるか、どれかを削除してください。</translation>
     </message>
     <message>
@@ -680,31 +680,31 @@
         <translation>権限 &apos;%1&apos; が二度書かれています。</translation>
     </message>
     <message>
-        <source>A permission that is listed again grants nothing more.</source>
+        <source>Listing a permission again has no effect.</source>
         <translation>同じ権限を繰り返しても、許可は増えません。</translation>
     </message>
     <message>
-        <source>Remove the second one.</source>
+        <source>Remove the duplicate.</source>
         <translation>二つ目を削除してください。</translation>
     </message>
     <message>
-        <source>%1: It is empty.</source>
+        <source>%1 is empty.</source>
         <translation>%1: 空です。</translation>
     </message>
     <message>
-        <source>Behaviors, dialogs, services, permissions and properties are found by their names; one without a name cannot be used.</source>
+        <source>Behaviors, dialogs, services, permissions and properties are identified by their names; an entry without a name cannot be used.</source>
         <translation>ビヘイビアー、ダイアログ、サービス、権限、プロパティは名前で見つけられます。名前がないと使えません。</translation>
     </message>
     <message>
-        <source>Write a name, or remove the entry.</source>
+        <source>Enter a name, or remove the entry.</source>
         <translation>名前を書くか、項目を削除してください。</translation>
     </message>
     <message>
-        <source>There is no nature &apos;%1&apos;%2</source>
+        <source>Unknown nature &apos;%1&apos;%2</source>
         <translation>性質 &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>The nature says how a behavior shares the robot with others: &apos;interactive&apos; or &apos;solitary&apos;, or nothing.</source>
+        <source>The nature defines how a behavior shares the robot with others: &apos;interactive&apos;, &apos;solitary&apos;, or empty.</source>
         <translation>性質は、ビヘイビアーがほかとロボットをどう共有するかを表します。&apos;interactive&apos;、&apos;solitary&apos;、または空です。</translation>
     </message>
     <message>
@@ -712,23 +712,23 @@
         <translation>どちらかを選ぶか、性質を消去してください。</translation>
     </message>
     <message>
-        <source>There is no language &apos;%1&apos; among those that are known%2</source>
+        <source>Unknown language &apos;%1&apos;%2</source>
         <translation>言語 &apos;%1&apos; は既知の言語にありません%2</translation>
     </message>
     <message>
-        <source>The code is none of those that &apos;zel-package languages&apos; lists, so that its users will not be found.</source>
+        <source>&apos;zel-package languages&apos; does not list this code, so the package will not be offered to users of the language.</source>
         <translation>このコードは &apos;zel-package languages&apos; の一覧にないので、その利用者を見つけられません。</translation>
     </message>
     <message>
-        <source>Correct the code, which is that of a language and a country, as in fr_FR.</source>
+        <source>Correct the code, which consists of a language and a country, as in fr_FR.</source>
         <translation>fr_FR のような言語と国のコードに直してください。</translation>
     </message>
     <message>
-        <source>There is no robot &apos;%1&apos; among those that are known%2</source>
+        <source>Unknown robot &apos;%1&apos;%2</source>
         <translation>ロボット &apos;%1&apos; は既知のロボットにありません%2</translation>
     </message>
     <message>
-        <source>The model is none of those that &apos;zel-package robots&apos; lists, so that no robot may meet the requirement.</source>
+        <source>&apos;zel-package robots&apos; does not list this model, so possibly no robot meets the requirement.</source>
         <translation>このモデルは &apos;zel-package robots&apos; の一覧にないので、要件を満たすロボットがないかもしれません。</translation>
     </message>
     <message>
@@ -740,7 +740,7 @@
         <translation>&apos;%1&apos; はバージョンではありません。</translation>
     </message>
     <message>
-        <source>A version has decimal fields with dots between them. One of another form counts as none.</source>
+        <source>A version consists of decimal numbers separated by dots. Any other value counts as no version.</source>
         <translation>バージョンは点で区切った数字です。ほかの形のものは、ないものとみなされます。</translation>
     </message>
     <message>
@@ -752,7 +752,7 @@
         <translation>&apos;%1&apos; は日付ではありません。</translation>
     </message>
     <message>
-        <source>Dates are written as ISO 8601 has them, the year first, so that all programs read them alike.</source>
+        <source>Dates are in the ISO 8601 format, with the year first, so that all programs read them alike.</source>
         <translation>日付は、どのプログラムでも同じに読めるよう、ISO 8601 に従って年から書きます。</translation>
     </message>
     <message>
@@ -760,11 +760,11 @@
         <translation>2026-09-14 のような日付を書いてください。</translation>
     </message>
     <message>
-        <source>There is a text in %1, which the package does not list.</source>
+        <source>The package has a text in %1, but does not list the language.</source>
         <translation>パッケージの言語にない %1 のテキストがあります。</translation>
     </message>
     <message>
-        <source>The package neither supports nor is described in the language, so that the text is not used, and publishing drops it.</source>
+        <source>The package neither supports the language nor has descriptions in it, so the text is not used, and publishing removes it.</source>
         <translation>パッケージはその言語に対応しておらず、説明もその言語にないので、テキストは使われず、公開時に削られます。</translation>
     </message>
     <message>
@@ -772,15 +772,15 @@
         <translation>言語をパッケージに加えるか、テキストを削除してください。</translation>
     </message>
     <message>
-        <source>There is only white space in the text.</source>
+        <source>The text is only white space.</source>
         <translation>テキストが空白だけです。</translation>
     </message>
     <message>
-        <source>Users would see an empty name, and the robot would say or wait for nothing.</source>
+        <source>Users would see an empty name, and the robot would say nothing or wait for nothing.</source>
         <translation>利用者には空の名前が見え、ロボットは何も言わず、何も待ちません。</translation>
     </message>
     <message>
-        <source>Write a text, or remove it.</source>
+        <source>Enter a text, or remove it.</source>
         <translation>テキストを書くか、削除してください。</translation>
     </message>
     <message>
@@ -788,7 +788,7 @@
         <translation>マニフェストの隣にトピックファイル &apos;%1&apos; がありません。</translation>
     </message>
     <message>
-        <source>A dialog speaks a language by the topic file that it names. The path is relative to the manifest&apos;s folder.</source>
+        <source>A dialog has one topic file per language. The path is relative to the manifest&apos;s folder.</source>
         <translation>ダイアログは、指定したトピックファイルによってその言語で話します。パスはマニフェストのフォルダーからの相対パスです。</translation>
     </message>
     <message>
@@ -800,7 +800,7 @@
         <translation>マニフェストの隣の icon.png は PNG 画像ではありません。</translation>
     </message>
     <message>
-        <source>The icon of a package is the PNG image icon.png beside its manifest. Without one, users see the default icon.</source>
+        <source>The icon of a package is the PNG image icon.png beside its manifest. Without it, users see the default icon.</source>
         <translation>パッケージのアイコンは、マニフェストの隣の PNG 画像 icon.png です。なければ既定のアイコンが表示されます。</translation>
     </message>
     <message>
@@ -812,11 +812,11 @@
         <translation>対応言語が定義されていません。</translation>
     </message>
     <message>
-        <source>A package is offered to the users of the languages that it supports, so that this one is offered to none.</source>
+        <source>A package is offered to users of the languages that it supports; this one is offered to nobody.</source>
         <translation>パッケージは対応言語の利用者に提供されます。これは誰にも提供されません。</translation>
     </message>
     <message>
-        <source>Add the languages that the package speaks.</source>
+        <source>Add the languages that the package supports.</source>
         <translation>パッケージが話す言語を加えてください。</translation>
     </message>
     <message>
@@ -916,7 +916,7 @@
         <translation>要素と属性の名前を直す</translation>
     </message>
     <message>
-        <source>Keep the present values and remove the comments</source>
+        <source>Keep the current values and remove the comments</source>
         <translation>現在の値を残してコメントを削除</translation>
     </message>
     <message>
@@ -924,11 +924,11 @@
         <translation>不明な要素 &lt;%1&gt;%2</translation>
     </message>
     <message>
-        <source>The format has no such element here. It is kept, and otherwise ignored.</source>
+        <source>The format has no such element here. It is preserved but ignored.</source>
         <translation>この場所にそのような要素は形式にありません。残されますが、無視されます。</translation>
     </message>
     <message>
-        <source>Correct the name. Additions of other tools belong in a namespace of their own.</source>
+        <source>Correct the name. Extensions by other tools should use their own namespace.</source>
         <translation>名前を直してください。ほかのツールの追加物は、それ専用の名前空間に置きます。</translation>
     </message>
     <message>
@@ -936,7 +936,7 @@
         <translation>&lt;%3&gt; の不明な属性 &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>The format has no such attribute here. It is kept, and otherwise ignored.</source>
+        <source>The format has no such attribute here. It is preserved but ignored.</source>
         <translation>この場所にそのような属性は形式にありません。残されますが、無視されます。</translation>
     </message>
     <message>
@@ -944,7 +944,7 @@
         <translation>マージの競合が解決されていません。</translation>
     </message>
     <message>
-        <source>Both sides of a merge changed the field. The manifest has one of the values, and a comment before it has both.</source>
+        <source>Both sides of a merge changed the field. The manifest contains one of the values, and a comment before it shows both.</source>
         <translation>マージの両側がこのフィールドを変更しました。マニフェストには一方の値があり、その前のコメントに両方があります。</translation>
     </message>
     <message>
@@ -1064,7 +1064,7 @@
         <translation>%1を%2から%3に変更</translation>
     </message>
     <message>
-        <source>%1 moved to place %2</source>
+        <source>%1 moved to position %2</source>
         <translation>%1を%2番目に移動</translation>
     </message>
     <message>

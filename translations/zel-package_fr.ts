@@ -35,7 +35,7 @@
         <translation>Une déclaration de type de document n&apos;est pas permise.</translation>
     </message>
     <message>
-        <source>An &quot;&amp;&quot; begins a reference here; the character itself is written &amp;amp;.</source>
+        <source>An &quot;&amp;&quot; starts a reference here; write &amp;amp; for the character itself.</source>
         <translation>Un «&#xa0;&amp;&#xa0;» commence ici une référence ; le caractère lui-même s&apos;écrit &amp;amp;.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
         <translation>Ces octets ne sont pas de l&apos;UTF-8 valide, ou codent un caractère que XML n&apos;autorise pas.</translation>
     </message>
     <message>
-        <source>A &quot;&lt;&quot; begins a tag here; the character itself is written &amp;lt;.</source>
+        <source>A &quot;&lt;&quot; starts a tag here; write &amp;lt; for the character itself.</source>
         <translation>Un «&#xa0;&lt;&#xa0;» commence ici une balise ; le caractère lui-même s&apos;écrit &amp;lt;.</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>Le script s&apos;arrête au milieu d&apos;une section CDATA.</translation>
     </message>
     <message>
-        <source>The end tag does not belong to the element that is open.</source>
+        <source>The end tag does not match the open element.</source>
         <translation>La balise de fin ne correspond pas à l&apos;élément ouvert.</translation>
     </message>
     <message>
@@ -95,11 +95,11 @@
         <translation>L&apos;entité n&apos;est pas définie ; seules &amp;amp;, &amp;lt;, &amp;gt;, &amp;quot; et &amp;apos; le sont.</translation>
     </message>
     <message>
-        <source>The text is not XML: it does not begin with a tag.</source>
+        <source>The text is not XML: it does not start with a tag.</source>
         <translation>Le texte n&apos;est pas du XML : il ne commence pas par une balise.</translation>
     </message>
     <message>
-        <source>The reference is to a character that XML does not allow.</source>
+        <source>The reference denotes a character that XML does not allow.</source>
         <translation>La référence désigne un caractère que XML n&apos;autorise pas.</translation>
     </message>
     <message>
@@ -107,7 +107,7 @@
         <translation>Il y a du contenu après la fin de l&apos;élément racine.</translation>
     </message>
     <message>
-        <source>The XML declaration is not at the very beginning.</source>
+        <source>The XML declaration must be at the very start.</source>
         <translation>La déclaration XML n&apos;est pas au tout début.</translation>
     </message>
     <message>
@@ -139,7 +139,7 @@
         <translation>L&apos;élément racine est &lt;%1&gt; au lieu de &lt;package&gt;.</translation>
     </message>
     <message>
-        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest is in none.</source>
+        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest has no namespace.</source>
         <translation>L&apos;élément racine &lt;package&gt; est dans l&apos;espace de noms «&#xa0;%1&#xa0;» ; un manifeste n&apos;en a pas.</translation>
     </message>
     <message>
@@ -195,19 +195,19 @@
         <translation>L&apos;élément &lt;%1&gt; a plus de %2 attributs.</translation>
     </message>
     <message>
-        <source>The field %1 holds the control character %2, which XML cannot hold.</source>
+        <source>The field %1 contains the control character %2, which XML cannot represent.</source>
         <translation>Le champ %1 contient le caractère de contrôle %2, que XML ne peut pas contenir.</translation>
     </message>
     <message>
-        <source>The package holds the control character %1, which XML cannot hold.</source>
+        <source>The package contains the control character %1, which XML cannot represent.</source>
         <translation>Le paquet contient le caractère de contrôle %1, que XML ne peut pas contenir.</translation>
     </message>
     <message>
-        <source>The field %1 holds the byte %2, which starts no character that XML can hold.</source>
+        <source>The field %1 contains the byte %2, which does not start a valid XML character.</source>
         <translation>Le champ %1 contient l&apos;octet %2, qui ne commence aucun caractère que XML peut contenir.</translation>
     </message>
     <message>
-        <source>The package holds the byte %1, which starts no character that XML can hold.</source>
+        <source>The package contains the byte %1, which does not start a valid XML character.</source>
         <translation>Le paquet contient l&apos;octet %1, qui ne commence aucun caractère que XML peut contenir.</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@
         <translation>La répétition «&#xa0;%1&#xa0;» est mal formée ; c&apos;est un nombre, ou un intervalle tel que 0-1 ou 1-.</translation>
     </message>
     <message>
-        <source>There is text beside the alternatives of &lt;one-of&gt;; each of them is an &lt;item&gt;.</source>
+        <source>There is text between the alternatives of &lt;one-of&gt;; each must be an &lt;item&gt;.</source>
         <translation>Il y a du texte à côté des choix de &lt;one-of&gt; ; chacun d&apos;eux est un &lt;item&gt;.</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>c&apos;est un lien symbolique</translation>
     </message>
     <message>
-        <source>it is a link to a file that is not there</source>
+        <source>it is a link to a missing file</source>
         <translation>c&apos;est un lien vers un fichier qui n&apos;existe pas</translation>
     </message>
     <message>
@@ -310,7 +310,7 @@
 <context>
     <name>zel-package</name>
     <message>
-        <source>Standard output cannot be written: %1.</source>
+        <source>Cannot write to standard output: %1.</source>
         <translation>La sortie standard ne peut pas être écrite : %1.</translation>
     </message>
     <message>
@@ -358,7 +358,7 @@
         <translation>sujets</translation>
     </message>
     <message>
-        <source>The package is only described in this language.</source>
+        <source>The package only has descriptions in this language.</source>
         <translation>Le paquet est seulement décrit dans cette langue.</translation>
     </message>
     <message>
@@ -382,11 +382,11 @@
         <translation>Entrée standard.</translation>
     </message>
     <message>
-        <source>Write no manifest; print the names of the files that are not in the canonical form.</source>
+        <source>Write nothing; print the names of files that are not in canonical form.</source>
         <translation>N&apos;écrire aucun manifeste ; afficher les noms des fichiers qui n&apos;ont pas la forme canonique.</translation>
     </message>
     <message>
-        <source>Rewrite manifests in the canonical form</source>
+        <source>Rewrite manifests in canonical form</source>
         <translation>Réécrire des manifestes sous forme canonique</translation>
     </message>
     <message>
@@ -410,7 +410,7 @@
         <translation>Énumérer les langues connues</translation>
     </message>
     <message>
-        <source>The package&apos;s identifier: at most 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, not digits alone.</source>
+        <source>The package&apos;s identifier: up to 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, but not only digits.</source>
         <translation>L&apos;identifiant du paquet : 50 caractères au plus parmi a-z, 0-9, &apos;_&apos; et &apos;-&apos;, pas seulement des chiffres.</translation>
     </message>
     <message>
@@ -418,7 +418,7 @@
         <translation>Le nom du paquet, dans la première langue.</translation>
     </message>
     <message>
-        <source>A language that the package runs in, for example fr_FR; may be given several times. %1 when none is given.</source>
+        <source>A language that the package supports, such as fr_FR; may be repeated. The default is %1.</source>
         <translation>Une langue dans laquelle le paquet fonctionne, par exemple fr_FR ; peut être donnée plusieurs fois. %1 si aucune n&apos;est donnée.</translation>
     </message>
     <message>
@@ -446,7 +446,7 @@
         <translation>Montrer cette aide.</translation>
     </message>
     <message>
-        <source>There is no option &apos;%1&apos;%2</source>
+        <source>Unknown option &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas d&apos;option &apos;%1&apos;%2</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation> ; &apos;%1 --help&apos; énumère les options.</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;%2</source>
+        <source>Unknown command &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de commande &apos;%1&apos;%2</translation>
     </message>
     <message>
@@ -470,19 +470,19 @@
         <translation> ; vouliez-vous dire &apos;%1&apos; ?</translation>
     </message>
     <message>
-        <source>There is no rule &apos;%1&apos;%2</source>
+        <source>Unknown rule &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de règle &apos;%1&apos;%2</translation>
     </message>
     <message>
-        <source>Show every text in this language; &apos;!&apos; marks those that are missing.</source>
+        <source>Show every text in this language; &apos;!&apos; marks missing ones.</source>
         <translation>Montrer tous les textes dans cette langue ; &apos;!&apos; marque ceux qui manquent.</translation>
     </message>
     <message>
-        <source>The form of the output: text or json.</source>
+        <source>The output format: text or json.</source>
         <translation>La forme de la sortie : text ou json.</translation>
     </message>
     <message>
-        <source>There is no format &apos;%1&apos;%2</source>
+        <source>Unknown format &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de format &apos;%1&apos;%2</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>, illisibles : %1</translation>
     </message>
     <message>
-        <source>Write nothing; print what would change, as a unified diff.</source>
+        <source>Write nothing; print the changes as a unified diff.</source>
         <translation>Ne rien écrire ; afficher ce qui changerait, sous forme de diff unifié.</translation>
     </message>
     <message>
@@ -666,7 +666,7 @@
         <translation>&apos;%1&apos; n&apos;est pas de la forme CHAMP=VALEUR, comme author=Ines ou names[en_US]=Tea.</translation>
     </message>
     <message>
-        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <source>Write to this file; the default, also &apos;-&apos;, is standard output.</source>
         <translation>Écrire dans ce fichier ; sur la sortie standard s&apos;il n&apos;est pas donné, ou pour &apos;-&apos;.</translation>
     </message>
     <message>
@@ -690,11 +690,11 @@
         <translation>Pour chaque règle, seuls les %1 premiers problèmes sont indiqués.</translation>
     </message>
     <message>
-        <source>There is none, so nothing is removed.</source>
+        <source>It does not exist, so nothing is removed.</source>
         <translation>Il n&apos;y en a pas, donc rien n&apos;est supprimé.</translation>
     </message>
     <message>
-        <source>This is an entry: an empty VALUE removes it; a field of it is set as in &apos;%1.FIELD=VALUE&apos;.</source>
+        <source>This is an entry: an empty VALUE removes it, and &apos;%1.FIELD=VALUE&apos; sets one of its fields.</source>
         <translation>C&apos;est une entrée : une VALUE vide la supprime ; un de ses champs s&apos;écrit &apos;%1.FIELD=VALUE&apos;.</translation>
     </message>
     <message>
@@ -751,11 +751,11 @@
         <translation>[--format text|json]</translation>
     </message>
     <message>
-        <source>Lists the known languages: the code in manifests, the name, the code of the speech engine if it has a voice, and the name in the language itself. Manifests may use other languages too.</source>
+        <source>Lists the known languages: the code used in manifests, the name, the code of the speech engine if it has a voice, and the native name. Manifests may also use other languages.</source>
         <translation>Affiche les langues connues : le code dans les manifestes, le nom, le code du moteur vocal s&apos;il a une voix, et le nom dans la langue elle-même. Les manifestes peuvent utiliser d&apos;autres langues.</translation>
     </message>
     <message>
-        <source>Lists the robots that a package may require, families and models, with the model that a robot requirement names; it is empty for any robot. Manifests may require other robots too.</source>
+        <source>Lists the robot families and models that a package may require, with the model to use in a robot requirement; it is empty for any robot. Manifests may also require other robots.</source>
         <translation>Affiche les robots qu&apos;un paquet peut exiger, familles et modèles, avec le modèle que nomme une exigence de robot ; il est vide pour n&apos;importe quel robot. Les manifestes peuvent exiger d&apos;autres robots.</translation>
     </message>
     <message>
@@ -767,7 +767,7 @@
         <translation>FICHIER... [--check [--format text|json]]</translation>
     </message>
     <message>
-        <source>Rewrites each FILE in the canonical form, and preserves comments, unknown elements and unknown attributes. A file already in that form is left unchanged. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <source>Rewrites each FILE in canonical form, preserving comments, unknown elements and unknown attributes. Files already in canonical form are left unchanged. &apos;-&apos; reads standard input and writes to standard output.</source>
         <translation>Réécrit chaque FICHIER dans la forme canonique et conserve les commentaires, les éléments inconnus et les attributs inconnus. Un fichier déjà dans cette forme n&apos;est pas modifié. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard.</translation>
     </message>
     <message>
@@ -787,7 +787,7 @@
         <translation>Créer un manifeste</translation>
     </message>
     <message>
-        <source>Creates FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
+        <source>Creates FILE, the manifest of a new package with version 1.0.0. Never overwrites an existing file. &apos;-&apos; writes to standard output.</source>
         <translation>Crée FICHIER, le manifeste d&apos;un nouveau paquet en version 1.0.0. Un fichier existant n&apos;est jamais écrasé. &apos;-&apos; écrit sur la sortie standard.</translation>
     </message>
     <message>
@@ -803,7 +803,7 @@
         <translation>--format json écrit sur la sortie standard et exige --output.</translation>
     </message>
     <message>
-        <source>This manifest has been published before; the scripts beside its texts are dropped.</source>
+        <source>This manifest was published before; the scripts stored beside its texts are dropped.</source>
         <translation>Ce manifeste a déjà été publié ; les scripts conservés à côté de ses textes sont supprimés.</translation>
     </message>
     <message>
@@ -815,7 +815,7 @@
         <translation>FICHIER [-o SORTIE] [--format text|json]</translation>
     </message>
     <message>
-        <source>Writes the manifest in FILE for publication: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
+        <source>Writes the manifest in FILE for publication: removes texts in languages that the package no longer offers, and replaces speech scripts by plain text, keeping the scripts in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
         <translation>Écrit le manifeste de FICHIER pour la publication : sans les textes dans des langues que le paquet ne propose plus, et avec du texte simple à la place des scripts de parole, conservés dans une variante à usage privé de leur langue. Si un texte est un script mal formé, le signale et n&apos;écrit rien. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
@@ -843,7 +843,7 @@
         <translation>Il faut une langue, comme dans %1[en_US].</translation>
     </message>
     <message>
-        <source>First apply the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <source>First apply the edits in this JSON file (see schema/edits.schema.json); &apos;-&apos; is standard input.</source>
         <translation>Appliquer d&apos;abord les modifications de ce fichier JSON, que décrit schema/edits.schema.json ; &apos;-&apos; est l&apos;entrée standard.</translation>
     </message>
     <message>
@@ -855,7 +855,7 @@
         <translation>&apos;-&apos; ne peut être donné qu&apos;une fois.</translation>
     </message>
     <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so that commands can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text or removes an entry or item: behaviors[greet]=. The key [+] adds to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds at an index, counted from 0: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding an existing entry or removing a missing one changes nothing, so commands can be repeated. If one field is wrong, no file is changed. Files are rewritten in canonical form without losing content. &apos;-&apos; reads standard input and writes to standard output; give a file whose name contains &apos;=&apos; with its folder, as in ./a=b.xml.</source>
         <translation>Modifie des champs, nommés comme dans &apos;show --format json&apos; : author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. Une VALUE vide efface un texte et supprime une entrée ou un élément : behaviors[greet]=. La clé [+] en ajoute à une liste : supportedLanguages[+]=fr_FR, behaviors[+].path=greet ; &apos;@INDEX&apos; l&apos;ajoute à un index, à partir de 0 : supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; déplace une entrée : behaviors[greet]@0. Ajouter une entrée présente ou supprimer une entrée absente ne change rien, si bien que les commandes peuvent être répétées. Tous les champs de tous les fichiers sont modifiés ou, si l&apos;un d&apos;eux est faux, aucun. Les fichiers sont réécrits sous la forme canonique sans rien perdre. &apos;-&apos; lit l&apos;entrée standard et écrit sur la sortie standard ; un fichier dont le nom contient &apos;=&apos; est donné avec son dossier, comme ./a=b.xml.</translation>
     </message>
     <message>
@@ -867,7 +867,7 @@
         <translation>Afficher un manifeste</translation>
     </message>
     <message>
-        <source>Shows every field of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
+        <source>Shows all fields of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language or, for names, by the uid or path. &apos;-&apos; reads standard input.</source>
         <translation>Affiche tous les champs du manifeste dans FICHIER et l&apos;avancement de sa traduction. Un texte manquant est remplacé comme dans une application : par le texte dans la langue par défaut, puis, pour un nom, par l&apos;uid ou le chemin. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
@@ -883,7 +883,7 @@
         <translation>[ID] [--format text|json]</translation>
     </message>
     <message>
-        <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
+        <source>Explains the purpose of the rule ID of &apos;validate&apos; and how to correct its findings; without an ID, lists all rules.</source>
         <translation>Explique à quoi sert la règle ID de &apos;validate&apos; et comment corriger ce qu&apos;elle signale ; sans ID, affiche toutes les règles.</translation>
     </message>
     <message>
@@ -911,11 +911,11 @@
         <translation>La langue vers laquelle traduire.</translation>
     </message>
     <message>
-        <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
+        <source>The language to translate from; by default %1 or, if the package does not support it, its first language.</source>
         <translation>La langue à partir de laquelle traduire ; par défaut %1 ou, si le paquet ne fonctionne pas dans cette langue, sa première langue.</translation>
     </message>
     <message>
-        <source>Write only the texts that are not translated.</source>
+        <source>Write only untranslated texts.</source>
         <translation>N&apos;écrire que les textes qui ne sont pas traduits.</translation>
     </message>
     <message>
@@ -923,7 +923,7 @@
         <translation>Il manque l&apos;option --language CODE.</translation>
     </message>
     <message>
-        <source>Write texts for translators</source>
+        <source>Export texts for translators</source>
         <translation>Écrire des textes pour les traducteurs</translation>
     </message>
     <message>
@@ -931,11 +931,11 @@
         <translation>FICHIER --language CODE [--source CODE] [--missing] [-o SORTIE]</translation>
     </message>
     <message>
-        <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
+        <source>Writes the texts of a manifest as XLIFF 1.2 for translation tools: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
         <translation>Écrit les textes d&apos;un manifeste en XLIFF 1.2, que lisent les outils de traduction : noms, descriptions, étiquettes, phrases de déclenchement et réponses de chargement. &apos;texts import&apos; les relit. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>Import also where the source text has changed since the export.</source>
+        <source>Also import texts whose source has changed since the export.</source>
         <translation>Importer aussi là où le texte source a changé depuis l&apos;exportation.</translation>
     </message>
     <message>
@@ -943,7 +943,7 @@
         <translation>Textes : importés %1, inchangés %2, non traduits %3, ignorés %4.</translation>
     </message>
     <message>
-        <source>Take texts from translators</source>
+        <source>Import texts from translators</source>
         <translation>Reprendre les textes des traducteurs</translation>
     </message>
     <message>
@@ -951,7 +951,7 @@
         <translation>FICHIER XLIFF... [--dry-run] [--force]</translation>
     </message>
     <message>
-        <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
+        <source>Imports translations from XLIFF files written by &apos;texts export&apos; into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior was removed or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; reads standard input; as FILE, it also writes to standard output.</source>
         <translation>Met dans le manifeste FICHIER les traductions des fichiers XLIFF que &apos;texts export&apos; a écrits. Les listes s&apos;allongent selon le traducteur, et une nouvelle langue devient une langue de description. Les textes dont le comportement a disparu ou dont la source a changé sont signalés et ignorés. Si un texte est un script vocal mal formé, rien n&apos;est importé. Le code de sortie est 1 si un texte est ignoré. &apos;-&apos; lit l&apos;entrée standard ; comme FICHIER, il écrit sur la sortie standard.</translation>
     </message>
     <message>
@@ -959,7 +959,7 @@
         <translation>comportement</translation>
     </message>
     <message>
-        <source>Show how far packages are translated</source>
+        <source>Show how much of packages is translated</source>
         <translation>Montrer l&apos;avancement de la traduction</translation>
     </message>
     <message>
@@ -967,7 +967,7 @@
         <translation>FICHIER... [--format text|json]</translation>
     </message>
     <message>
-        <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
+        <source>Counts translated and required texts by language and by behavior. A list counts as one text. &apos;-&apos; reads standard input.</source>
         <translation>Compte, par langue et par comportement, les textes traduits parmi ceux qui sont nécessaires. Une liste compte une fois. &apos;-&apos; lit l&apos;entrée standard.</translation>
     </message>
     <message>
@@ -979,7 +979,7 @@
         <translation>Le fichier n&apos;est pas une référence au format 1, telle que --write-baseline l&apos;écrit.</translation>
     </message>
     <message>
-        <source>There is no setting &apos;%1&apos;%2</source>
+        <source>Unknown setting &apos;%1&apos;%2</source>
         <translation>Il n&apos;y a pas de réglage &apos;%1&apos;%2</translation>
     </message>
     <message>
@@ -987,7 +987,7 @@
         <translation> ; c&apos;est l&apos;un de %1.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a list of tables, [[%1]].</source>
+        <source>&apos;%1&apos; must be a list of tables, [[%1]].</source>
         <translation>&apos;%1&apos; doit être une liste de tables, [[%1]].</translation>
     </message>
     <message>
@@ -995,7 +995,7 @@
         <translation>L&apos;exception n&apos;a pas de &apos;path&apos;.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a table.</source>
+        <source>&apos;%1&apos; must be a table.</source>
         <translation>&apos;%1&apos; doit être une table.</translation>
     </message>
     <message>
@@ -1003,7 +1003,7 @@
         <translation>&apos;%1&apos; ne peut pas être &quot;%2&quot;%3</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a text in quotes.</source>
+        <source>&apos;%1&apos; must be a string in quotes.</source>
         <translation>&apos;%1&apos; doit être un texte entre guillemets.</translation>
     </message>
     <message>
@@ -1011,19 +1011,19 @@
         <translation>La configuration n&apos;est pas du TOML valide : %1.</translation>
     </message>
     <message>
-        <source>There is no manifest.xml in the folder.</source>
+        <source>The folder contains no manifest.xml.</source>
         <translation>Il n&apos;y a pas de manifest.xml dans le dossier.</translation>
     </message>
     <message>
-        <source>The baseline lists &apos;%1&apos; here, which is not found any more.</source>
+        <source>The baseline lists &apos;%1&apos;, which is no longer found here.</source>
         <translation>La référence mentionne ici &apos;%1&apos;, qui n&apos;est plus constaté.</translation>
     </message>
     <message>
-        <source>A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back.</source>
+        <source>A baseline lists known findings, which are not reported. An outdated entry would hide the same finding if it came back.</source>
         <translation>Une référence énumère les constats connus, qui ne sont pas signalés. Une entrée dont le constat a disparu cacherait ce constat s&apos;il revenait.</translation>
     </message>
     <message>
-        <source>Write the baseline again with --write-baseline.</source>
+        <source>Update the baseline with --write-baseline.</source>
         <translation>Réécrivez la référence avec --write-baseline.</translation>
     </message>
     <message>
@@ -1031,7 +1031,7 @@
         <translation>Le commentaire ignore &apos;%1&apos;, qui n&apos;est pas constaté ici.</translation>
     </message>
     <message>
-        <source>A comment &apos;zel-package: ignore&apos; applies to the element that follows it. Where its rules find nothing, it would hide findings that come later.</source>
+        <source>A comment &apos;zel-package: ignore&apos; applies to the element after it. If its rules find nothing, it would hide later findings.</source>
         <translation>Un commentaire &apos;zel-package: ignore&apos; porte sur l&apos;élément qui le suit. Si ses règles n&apos;y constatent rien, il cacherait des constats ultérieurs.</translation>
     </message>
     <message>
@@ -1039,15 +1039,15 @@
         <translation>Retirez la règle du commentaire, ou le commentaire.</translation>
     </message>
     <message>
-        <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so that it has no effect.</source>
+        <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so it has no effect.</source>
         <translation>Un commentaire &apos;zel-package: ignore&apos; nomme une règle qui n&apos;existe pas et reste donc sans effet.</translation>
     </message>
     <message>
-        <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
+        <source>Use the id of a rule; &apos;zel-package explain&apos; lists them.</source>
         <translation>Écrivez l&apos;identifiant d&apos;une règle ; &apos;zel-package explain&apos; les affiche.</translation>
     </message>
     <message>
-        <source>Correct the file at the line and column that are given, then check it again.</source>
+        <source>Correct the file at the reported line and column, then check it again.</source>
         <translation>Corrigez le fichier à la ligne et à la colonne indiquées, puis vérifiez-le de nouveau.</translation>
     </message>
     <message>
@@ -1067,7 +1067,7 @@
         <translation>FICHIER|DOSSIER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FICHIER] [--baseline FICHIER] [--write-baseline FICHIER] [--stdin-name NOM] [--quiet] [--color auto|always|never] [--explain]</translation>
     </message>
     <message>
-        <source>Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field has the place of the element that should hold it. A FOLDER means every manifest.xml in it and below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
+        <source>Prints the findings in each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field is reported at the element that should contain it. A FOLDER means every manifest.xml in or below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
         <translation>Affiche les constats de chaque manifeste par ligne, sous la forme FICHIER:LIGNE:COLONNE: error: texte [id] ; un champ absent a la place de l&apos;élément qui devrait le contenir. Un DOSSIER désigne chaque manifest.xml qu&apos;il contient, sous-dossiers compris. &apos;zel-package explain ID&apos; explique une règle. &apos;-&apos; lit l&apos;entrée standard ; avec --fix, le manifeste va sur la sortie standard et les constats sur la sortie d&apos;erreur.</translation>
     </message>
     <message>
@@ -1075,23 +1075,23 @@
         <translation>&apos;--%1&apos; ne peut pas être &apos;%2&apos;%3</translation>
     </message>
     <message>
-        <source>The form of the output: text (the default), json, sarif or github.</source>
+        <source>The output format: text (the default), json, sarif or github.</source>
         <translation>La forme de la sortie : text (par défaut), json, sarif ou github.</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error (the default), warning or note.</source>
+        <source>The lowest severity that sets the exit status to 1: error (the default), warning or note.</source>
         <translation>La plus faible gravité qui donne le code de retour 1 : error (par défaut), warning ou note.</translation>
     </message>
     <message>
-        <source>Leave out the findings of these rules; IDs are joined by commas, and the option may be given several times.</source>
+        <source>Do not report findings of these rules; separate IDs by commas, or repeat the option.</source>
         <translation>Omettre les constats de ces règles ; les ID sont séparés par des virgules, et l&apos;option peut être donnée plusieurs fois.</translation>
     </message>
     <message>
-        <source>Make the safe fixes, and report the findings that remain.</source>
+        <source>Apply the safe fixes, and report the remaining findings.</source>
         <translation>Faire les corrections sûres et signaler les constats restants.</translation>
     </message>
     <message>
-        <source>Also make the fixes that may change the meaning.</source>
+        <source>Also apply fixes that may change the meaning.</source>
         <translation>Faire aussi les corrections qui peuvent changer le sens.</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@
         <translation>Utiliser cette configuration au lieu du .zel-package.toml le plus proche.</translation>
     </message>
     <message>
-        <source>Leave out the findings that this file lists.</source>
+        <source>Do not report the findings listed in this file.</source>
         <translation>Omettre les constats que ce fichier énumère.</translation>
     </message>
     <message>
@@ -1115,7 +1115,7 @@
         <translation>Le nom du manifeste lu sur l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>Print only findings that make the exit status 1, and no summary.</source>
+        <source>Print only findings that set the exit status to 1, and no summary.</source>
         <translation>N&apos;afficher que les constats qui donnent le code de retour 1, et aucun résumé.</translation>
     </message>
     <message>
@@ -1123,11 +1123,11 @@
         <translation>Utiliser la couleur : auto (par défaut, dans un terminal), always ou never.</translation>
     </message>
     <message>
-        <source>Explain, at the end, each rule with findings.</source>
+        <source>Explain each rule with findings at the end.</source>
         <translation>Expliquer, à la fin, chaque règle qui a des constats.</translation>
     </message>
     <message>
-        <source>&apos;--%1&apos; needs &apos;-&apos;, standard input, as a FILE.</source>
+        <source>&apos;--%1&apos; requires standard input, &apos;-&apos;, as a FILE.</source>
         <translation>&apos;--%1&apos; exige &apos;-&apos;, l&apos;entrée standard, comme FICHIER.</translation>
     </message>
     <message>
@@ -1147,15 +1147,15 @@
         <translation>A B [--format text|json]</translation>
     </message>
     <message>
-        <source>Prints the changes that lead from the manifest in A to that in B, a line for each. With --format json, prints them as edits, which &apos;set A --edits&apos; applies. The exit status is 0 for equal manifests, 1 for different ones and 2 for an error. &apos;-&apos; for one of them reads standard input.</source>
+        <source>Prints the changes from manifest A to manifest B, one per line. With --format json, prints them as edits for &apos;set A --edits&apos;. The exit status is 0 if the manifests are equal, 1 if they differ, and 2 after an error. One of them may be &apos;-&apos; for standard input.</source>
         <translation>Affiche les modifications qui mènent du manifeste A au manifeste B, une par ligne. Avec --format json, les affiche comme des éditions que &apos;set A --edits&apos; applique. Le code de sortie est 0 pour des manifestes égaux, 1 pour des manifestes différents et 2 pour une erreur. &apos;-&apos; pour l&apos;un d&apos;eux lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>Write to this file rather than OURS; &apos;-&apos; is standard output.</source>
+        <source>Write to this file instead of OURS; &apos;-&apos; is standard output.</source>
         <translation>Écrire dans ce fichier plutôt que dans OURS ; &apos;-&apos; est la sortie standard.</translation>
     </message>
     <message>
-        <source>It has conflict markers of git; resolve these conflicts first.</source>
+        <source>The file contains conflict markers of git; resolve these conflicts first.</source>
         <translation>Il contient des marques de conflit de git ; résolvez d&apos;abord ces conflits.</translation>
     </message>
     <message>
@@ -1175,11 +1175,11 @@
         <translation>Fusionner les modifications de deux manifestes champ par champ</translation>
     </message>
     <message>
-        <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
+        <source>Merges the changes from BASE to THEIRS into OURS, field by field. If both sides changed a field differently, the value in OURS is kept, and a comment before the field shows both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after a merge with conflicts, and 2 after an error, which leaves OURS unchanged. An empty file is a manifest without fields. One of the files may be &apos;-&apos; for standard input.</source>
         <translation>Fusionne dans OURS, champ par champ, les modifications qui mènent de BASE à THEIRS. Quand les deux côtés ont changé un champ différemment, OURS reste, et un commentaire devant le champ contient les deux valeurs ; &apos;validate&apos; le signale jusqu&apos;à sa suppression. Le code de sortie est 0 après une fusion sans conflit, 1 après une fusion avec conflits, et 2 pour une erreur, qui laisse OURS inchangé. Un fichier vide est un manifeste sans aucun champ. &apos;-&apos; pour l&apos;un des fichiers lit l&apos;entrée standard.</translation>
     </message>
     <message>
-        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <source>The file is not well-formed XML in UTF-8, or has content that is not allowed at this position. Nothing else in it is checked, and the exit status is 2.</source>
         <translation>Le fichier n&apos;est pas du XML bien formé en UTF-8, ou a un contenu qu&apos;un manifeste ne peut pas avoir à cet endroit. Rien d&apos;autre n&apos;y est vérifié, et le code de sortie est 2.</translation>
     </message>
     <message>
@@ -1187,7 +1187,7 @@
         <translation>  Par exemple :</translation>
     </message>
     <message>
-        <source>Call the manifest PATH in messages: git merges copies, and passes the path as %P.</source>
+        <source>Use PATH for the manifest in messages: git merges copies, and passes the path as %P.</source>
         <translation>Appeler le manifeste PATH dans les messages : git fusionne des copies et transmet le chemin par %P.</translation>
     </message>
     <message>
@@ -1203,7 +1203,7 @@
         <translation>BASE OURS THEIRS [-o OUT] [--path PATH]</translation>
     </message>
     <message>
-        <source>The baseline lists findings in &apos;%1&apos;, which does not exist any more.</source>
+        <source>The baseline lists findings in &apos;%1&apos;, which no longer exists.</source>
         <translation>La référence mentionne des constats dans &apos;%1&apos;, qui n&apos;existe plus.</translation>
     </message>
 </context>

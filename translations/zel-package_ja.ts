@@ -35,7 +35,7 @@
         <translation>文書型宣言は使えません。</translation>
     </message>
     <message>
-        <source>An &quot;&amp;&quot; begins a reference here; the character itself is written &amp;amp;.</source>
+        <source>An &quot;&amp;&quot; starts a reference here; write &amp;amp; for the character itself.</source>
         <translation>ここでは「&amp;」が参照の始まりになります。文字そのものは &amp;amp; と書きます。</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
         <translation>ここのバイト列は正しい UTF-8 ではないか、XML で使えない文字を表しています。</translation>
     </message>
     <message>
-        <source>A &quot;&lt;&quot; begins a tag here; the character itself is written &amp;lt;.</source>
+        <source>A &quot;&lt;&quot; starts a tag here; write &amp;lt; for the character itself.</source>
         <translation>ここでは「&lt;」がタグの始まりになります。文字そのものは &amp;lt; と書きます。</translation>
     </message>
     <message>
@@ -83,7 +83,7 @@
         <translation>スクリプトが CDATA セクションの途中で終わっています。</translation>
     </message>
     <message>
-        <source>The end tag does not belong to the element that is open.</source>
+        <source>The end tag does not match the open element.</source>
         <translation>終了タグが開いている要素と一致しません。</translation>
     </message>
     <message>
@@ -95,11 +95,11 @@
         <translation>この実体は定義されていません。使えるのは &amp;amp;、&amp;lt;、&amp;gt;、&amp;quot;、&amp;apos; だけです。</translation>
     </message>
     <message>
-        <source>The text is not XML: it does not begin with a tag.</source>
+        <source>The text is not XML: it does not start with a tag.</source>
         <translation>テキストは XML ではありません。タグで始まっていません。</translation>
     </message>
     <message>
-        <source>The reference is to a character that XML does not allow.</source>
+        <source>The reference denotes a character that XML does not allow.</source>
         <translation>参照先の文字は XML では使えません。</translation>
     </message>
     <message>
@@ -107,7 +107,7 @@
         <translation>ルート要素の終わりの後に内容があります。</translation>
     </message>
     <message>
-        <source>The XML declaration is not at the very beginning.</source>
+        <source>The XML declaration must be at the very start.</source>
         <translation>XML 宣言が先頭にありません。</translation>
     </message>
     <message>
@@ -139,7 +139,7 @@
         <translation>ルート要素が &lt;package&gt; ではなく &lt;%1&gt; です。</translation>
     </message>
     <message>
-        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest is in none.</source>
+        <source>The root element &lt;package&gt; is in the namespace &quot;%1&quot;; a manifest has no namespace.</source>
         <translation>ルート要素 &lt;package&gt; が名前空間「%1」にあります。マニフェストは名前空間に属しません。</translation>
     </message>
     <message>
@@ -195,19 +195,19 @@
         <translation>要素 &lt;%1&gt; の属性が %2 個を超えています。</translation>
     </message>
     <message>
-        <source>The field %1 holds the control character %2, which XML cannot hold.</source>
+        <source>The field %1 contains the control character %2, which XML cannot represent.</source>
         <translation>フィールド %1 に、XML に書けない制御文字 %2 が含まれています。</translation>
     </message>
     <message>
-        <source>The package holds the control character %1, which XML cannot hold.</source>
+        <source>The package contains the control character %1, which XML cannot represent.</source>
         <translation>パッケージに、XML に書けない制御文字 %1 が含まれています。</translation>
     </message>
     <message>
-        <source>The field %1 holds the byte %2, which starts no character that XML can hold.</source>
+        <source>The field %1 contains the byte %2, which does not start a valid XML character.</source>
         <translation>フィールド %1 に、XML に書ける文字の始まりではないバイト %2 が含まれています。</translation>
     </message>
     <message>
-        <source>The package holds the byte %1, which starts no character that XML can hold.</source>
+        <source>The package contains the byte %1, which does not start a valid XML character.</source>
         <translation>パッケージに、XML に書ける文字の始まりではないバイト %1 が含まれています。</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@
         <translation>繰り返し「%1」の形式が正しくありません。数、または 0-1 や 1- のような範囲です。</translation>
     </message>
     <message>
-        <source>There is text beside the alternatives of &lt;one-of&gt;; each of them is an &lt;item&gt;.</source>
+        <source>There is text between the alternatives of &lt;one-of&gt;; each must be an &lt;item&gt;.</source>
         <translation>&lt;one-of&gt; の選択肢の外にテキストがあります。選択肢はそれぞれ &lt;item&gt; です。</translation>
     </message>
     <message>
@@ -275,7 +275,7 @@
         <translation>シンボリックリンクです</translation>
     </message>
     <message>
-        <source>it is a link to a file that is not there</source>
+        <source>it is a link to a missing file</source>
         <translation>リンク先のファイルがありません</translation>
     </message>
     <message>
@@ -310,7 +310,7 @@
 <context>
     <name>zel-package</name>
     <message>
-        <source>Standard output cannot be written: %1.</source>
+        <source>Cannot write to standard output: %1.</source>
         <translation>標準出力に書き込めません: %1</translation>
     </message>
     <message>
@@ -358,7 +358,7 @@
         <translation>トピック</translation>
     </message>
     <message>
-        <source>The package is only described in this language.</source>
+        <source>The package only has descriptions in this language.</source>
         <translation>パッケージはこの言語では説明のみ提供されます。</translation>
     </message>
     <message>
@@ -382,11 +382,11 @@
         <translation>標準入力。</translation>
     </message>
     <message>
-        <source>Write no manifest; print the names of the files that are not in the canonical form.</source>
+        <source>Write nothing; print the names of files that are not in canonical form.</source>
         <translation>マニフェストを書き込まず、正規形でないファイルの名前を表示する。</translation>
     </message>
     <message>
-        <source>Rewrite manifests in the canonical form</source>
+        <source>Rewrite manifests in canonical form</source>
         <translation>マニフェストを正規形に書き直す</translation>
     </message>
     <message>
@@ -410,7 +410,7 @@
         <translation>既知の言語を一覧にする</translation>
     </message>
     <message>
-        <source>The package&apos;s identifier: at most 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, not digits alone.</source>
+        <source>The package&apos;s identifier: up to 50 of a-z, 0-9, &apos;_&apos; and &apos;-&apos;, but not only digits.</source>
         <translation>パッケージの識別子。a-z、0-9、&apos;_&apos;、&apos;-&apos; からなる 50 文字以内で、数字だけのものは使えません。</translation>
     </message>
     <message>
@@ -418,7 +418,7 @@
         <translation>最初の言語でのパッケージの名前。</translation>
     </message>
     <message>
-        <source>A language that the package runs in, for example fr_FR; may be given several times. %1 when none is given.</source>
+        <source>A language that the package supports, such as fr_FR; may be repeated. The default is %1.</source>
         <translation>パッケージが対応する言語。例: fr_FR。複数回指定できます。指定がない場合は %1。</translation>
     </message>
     <message>
@@ -446,7 +446,7 @@
         <translation>このヘルプを表示する。</translation>
     </message>
     <message>
-        <source>There is no option &apos;%1&apos;%2</source>
+        <source>Unknown option &apos;%1&apos;%2</source>
         <translation>オプション &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
@@ -454,7 +454,7 @@
         <translation>。オプションの一覧は &apos;%1 --help&apos; で表示できます。</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;%2</source>
+        <source>Unknown command &apos;%1&apos;%2</source>
         <translation>コマンド &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
@@ -470,19 +470,19 @@
         <translation>。&apos;%1&apos; のことですか?</translation>
     </message>
     <message>
-        <source>There is no rule &apos;%1&apos;%2</source>
+        <source>Unknown rule &apos;%1&apos;%2</source>
         <translation>規則 &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
-        <source>Show every text in this language; &apos;!&apos; marks those that are missing.</source>
+        <source>Show every text in this language; &apos;!&apos; marks missing ones.</source>
         <translation>すべてのテキストをこの言語で表示する。&apos;!&apos; は欠けているものを示します。</translation>
     </message>
     <message>
-        <source>The form of the output: text or json.</source>
+        <source>The output format: text or json.</source>
         <translation>出力の形式: text または json。</translation>
     </message>
     <message>
-        <source>There is no format &apos;%1&apos;%2</source>
+        <source>Unknown format &apos;%1&apos;%2</source>
         <translation>形式 &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>、読み込み不可: %1</translation>
     </message>
     <message>
-        <source>Write nothing; print what would change, as a unified diff.</source>
+        <source>Write nothing; print the changes as a unified diff.</source>
         <translation>何も書き込まず、変更点を unified diff 形式で表示する。</translation>
     </message>
     <message>
@@ -666,7 +666,7 @@
         <translation>&apos;%1&apos; は フィールド=値 の形ではありません。例: author=Ines、names[en_US]=Tea。</translation>
     </message>
     <message>
-        <source>Write to this file; to standard output when none is given, or &apos;-&apos;.</source>
+        <source>Write to this file; the default, also &apos;-&apos;, is standard output.</source>
         <translation>このファイルに書き込む。指定がないか &apos;-&apos; の場合は標準出力。</translation>
     </message>
     <message>
@@ -690,11 +690,11 @@
         <translation>各規則につき、最初の%1件だけを表示します。</translation>
     </message>
     <message>
-        <source>There is none, so nothing is removed.</source>
+        <source>It does not exist, so nothing is removed.</source>
         <translation>ないので、何も削除しません。</translation>
     </message>
     <message>
-        <source>This is an entry: an empty VALUE removes it; a field of it is set as in &apos;%1.FIELD=VALUE&apos;.</source>
+        <source>This is an entry: an empty VALUE removes it, and &apos;%1.FIELD=VALUE&apos; sets one of its fields.</source>
         <translation>これは項目です。空の VALUE で削除し、そのフィールドは &apos;%1.FIELD=VALUE&apos; と設定します。</translation>
     </message>
     <message>
@@ -751,11 +751,11 @@
         <translation>[--format text|json]</translation>
     </message>
     <message>
-        <source>Lists the known languages: the code in manifests, the name, the code of the speech engine if it has a voice, and the name in the language itself. Manifests may use other languages too.</source>
+        <source>Lists the known languages: the code used in manifests, the name, the code of the speech engine if it has a voice, and the native name. Manifests may also use other languages.</source>
         <translation>既知の言語を一覧表示します。マニフェストでのコード、名前、音声があれば音声エンジンのコード、その言語での名前です。マニフェストではほかの言語も使えます。</translation>
     </message>
     <message>
-        <source>Lists the robots that a package may require, families and models, with the model that a robot requirement names; it is empty for any robot. Manifests may require other robots too.</source>
+        <source>Lists the robot families and models that a package may require, with the model to use in a robot requirement; it is empty for any robot. Manifests may also require other robots.</source>
         <translation>パッケージが必要とできるロボットのシリーズと機種を、ロボット要件に書くモデルとともに一覧表示します。どのロボットでもよい場合、モデルは空です。マニフェストではほかのロボットも指定できます。</translation>
     </message>
     <message>
@@ -767,7 +767,7 @@
         <translation>FILE... [--check [--format text|json]]</translation>
     </message>
     <message>
-        <source>Rewrites each FILE in the canonical form, and preserves comments, unknown elements and unknown attributes. A file already in that form is left unchanged. &apos;-&apos; takes standard input and writes to standard output.</source>
+        <source>Rewrites each FILE in canonical form, preserving comments, unknown elements and unknown attributes. Files already in canonical form are left unchanged. &apos;-&apos; reads standard input and writes to standard output.</source>
         <translation>各 FILE を正準形に書き直します。コメント、未知の要素、未知の属性は保たれます。すでに正準形のファイルは変更しません。&apos;-&apos; は標準入力から読み、標準出力に書きます。</translation>
     </message>
     <message>
@@ -787,7 +787,7 @@
         <translation>マニフェストを作成する</translation>
     </message>
     <message>
-        <source>Creates FILE, the manifest of a new package of version 1.0.0. A file that exists is never overwritten. &apos;-&apos; writes to standard output.</source>
+        <source>Creates FILE, the manifest of a new package with version 1.0.0. Never overwrites an existing file. &apos;-&apos; writes to standard output.</source>
         <translation>バージョン 1.0.0 の新しいパッケージのマニフェスト FILE を作成します。既存のファイルは上書きしません。&apos;-&apos; は標準出力に書きます。</translation>
     </message>
     <message>
@@ -803,7 +803,7 @@
         <translation>--format json は標準出力に書くため、--output が必要です。</translation>
     </message>
     <message>
-        <source>This manifest has been published before; the scripts beside its texts are dropped.</source>
+        <source>This manifest was published before; the scripts stored beside its texts are dropped.</source>
         <translation>このマニフェストはすでに公開用です。テキストに添えられたスクリプトは取り除かれます。</translation>
     </message>
     <message>
@@ -815,7 +815,7 @@
         <translation>FILE [-o OUT] [--format text|json]</translation>
     </message>
     <message>
-        <source>Writes the manifest in FILE for publication: without texts in languages that the package no longer offers, and with plain text in place of speech scripts, which are kept in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
+        <source>Writes the manifest in FILE for publication: removes texts in languages that the package no longer offers, and replaces speech scripts by plain text, keeping the scripts in a private-use variant of their language. If a text is a malformed script, reports it and writes nothing. &apos;-&apos; reads standard input.</source>
         <translation>FILE のマニフェストを公開用に書き出します。パッケージが提供しなくなった言語のテキストは除き、発話スクリプトはプレーンテキストに置き換えて、元のスクリプトはその言語の私用の変種に残します。形式の正しくないスクリプトがあれば、それを報告して何も書きません。&apos;-&apos; は標準入力から読みます。</translation>
     </message>
     <message>
@@ -843,7 +843,7 @@
         <translation>%1[en_US] のように言語が必要です。</translation>
     </message>
     <message>
-        <source>First apply the edits in this JSON file, which schema/edits.schema.json describes; &apos;-&apos; is standard input.</source>
+        <source>First apply the edits in this JSON file (see schema/edits.schema.json); &apos;-&apos; is standard input.</source>
         <translation>まずこの JSON ファイルの編集を適用します。形式は schema/edits.schema.json にあります。&apos;-&apos; は標準入力です。</translation>
     </message>
     <message>
@@ -855,7 +855,7 @@
         <translation>&apos;-&apos; は 1 回だけ指定できます。</translation>
     </message>
     <message>
-        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds it at an index, from 0 on: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so that commands can be repeated. Either all fields of all files are set or, where one is wrong, none. Files are rewritten in the canonical form with nothing lost. &apos;-&apos; takes standard input and writes to standard output; a file whose name has a &apos;=&apos; is given with its folder, as in ./a=b.xml.</source>
+        <source>Sets fields, named as in &apos;show --format json&apos;: author=Ines, names[fr_FR]=Goûter, robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty VALUE clears a text or removes an entry or item: behaviors[greet]=. The key [+] adds to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; &apos;@INDEX&apos; adds at an index, counted from 0: supportedLanguages[+]@0=fr_FR. &apos;ENTRY@INDEX&apos; moves an entry: behaviors[greet]@0. Adding an existing entry or removing a missing one changes nothing, so commands can be repeated. If one field is wrong, no file is changed. Files are rewritten in canonical form without losing content. &apos;-&apos; reads standard input and writes to standard output; give a file whose name contains &apos;=&apos; with its folder, as in ./a=b.xml.</source>
         <translation>&apos;show --format json&apos; と同じ名前のフィールドを設定します: author=Ines、names[fr_FR]=Goûter、robotRequirements[0].maxBodyVersion=3.1、behaviors[greet].tags[en_US][0]=hello。空の VALUE はテキストを消し、項目を削除します: behaviors[greet]=。キー [+] はリストに追加します: supportedLanguages[+]=fr_FR、behaviors[+].path=greet。&apos;@INDEX&apos; は 0 から数えた位置に追加します: supportedLanguages[+]@0=fr_FR。&apos;ENTRY@INDEX&apos; は項目を移動します: behaviors[greet]@0。すでにある項目の追加とない項目の削除は何も変えないので、コマンドは繰り返せます。すべてのファイルのすべてのフィールドを設定し、一つでも誤りがあれば何も設定しません。ファイルは正準形に書き直され、何も失われません。&apos;-&apos; は標準入力を読み、標準出力に書きます。名前に &apos;=&apos; を含むファイルは ./a=b.xml のようにフォルダーと共に指定します。</translation>
     </message>
     <message>
@@ -867,7 +867,7 @@
         <translation>マニフェストを表示する</translation>
     </message>
     <message>
-        <source>Shows every field of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language, then, for a name, by the uid or the path. &apos;-&apos; reads standard input.</source>
+        <source>Shows all fields of the manifest in FILE, and how much of it is translated. A missing text is replaced as in an application: by the text in the default language or, for names, by the uid or path. &apos;-&apos; reads standard input.</source>
         <translation>FILE のマニフェストのすべてのフィールドと、翻訳の進み具合を表示します。ないテキストは、アプリケーションと同じく既定の言語のテキストで、名前の場合はさらに uid またはパスで補います。&apos;-&apos; は標準入力から読みます。</translation>
     </message>
     <message>
@@ -883,7 +883,7 @@
         <translation>[ID] [--format text|json]</translation>
     </message>
     <message>
-        <source>Explains what the rule ID of &apos;validate&apos; is for and how to correct its findings; without an ID, lists all rules.</source>
+        <source>Explains the purpose of the rule ID of &apos;validate&apos; and how to correct its findings; without an ID, lists all rules.</source>
         <translation>&apos;validate&apos; の規則 ID の目的と、指摘された点の直し方を説明します。ID がなければ、すべての規則を一覧表示します。</translation>
     </message>
     <message>
@@ -911,11 +911,11 @@
         <translation>翻訳先の言語。</translation>
     </message>
     <message>
-        <source>The language to translate from; by default %1 or, if the package does not run in it, its first language.</source>
+        <source>The language to translate from; by default %1 or, if the package does not support it, its first language.</source>
         <translation>翻訳元の言語。省略すると %1、パッケージがその言語で動作しなければ最初の言語。</translation>
     </message>
     <message>
-        <source>Write only the texts that are not translated.</source>
+        <source>Write only untranslated texts.</source>
         <translation>翻訳されていないテキストだけを書き出します。</translation>
     </message>
     <message>
@@ -923,7 +923,7 @@
         <translation>オプション --language CODE がありません。</translation>
     </message>
     <message>
-        <source>Write texts for translators</source>
+        <source>Export texts for translators</source>
         <translation>翻訳者のためにテキストを書き出す</translation>
     </message>
     <message>
@@ -931,11 +931,11 @@
         <translation>FILE --language CODE [--source CODE] [--missing] [-o OUT]</translation>
     </message>
     <message>
-        <source>Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
+        <source>Writes the texts of a manifest as XLIFF 1.2 for translation tools: names, descriptions, tags, trigger sentences and loading responses. &apos;texts import&apos; reads it back. &apos;-&apos; reads standard input.</source>
         <translation>マニフェストのテキスト(名前、説明、タグ、トリガー文、読み込み中の応答)を、翻訳ツールが読める XLIFF 1.2 として書き出します。&apos;texts import&apos; で読み戻します。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
-        <source>Import also where the source text has changed since the export.</source>
+        <source>Also import texts whose source has changed since the export.</source>
         <translation>書き出しのあとで原文が変わったテキストも取り込みます。</translation>
     </message>
     <message>
@@ -943,7 +943,7 @@
         <translation>テキスト: 取り込み %1、変更なし %2、未翻訳 %3、スキップ %4。</translation>
     </message>
     <message>
-        <source>Take texts from translators</source>
+        <source>Import texts from translators</source>
         <translation>翻訳者からのテキストを取り込む</translation>
     </message>
     <message>
@@ -951,7 +951,7 @@
         <translation>FILE XLIFF... [--dry-run] [--force]</translation>
     </message>
     <message>
-        <source>Puts the translations in XLIFF files, which &apos;texts export&apos; has written, into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior is gone or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; takes standard input; as FILE, it writes to standard output.</source>
+        <source>Imports translations from XLIFF files written by &apos;texts export&apos; into the manifest in FILE. Lists grow to the translator&apos;s length, and a new language becomes a description language. Texts whose behavior was removed or whose source has changed are reported and skipped. If a text is a malformed speech script, nothing is imported. The exit status is 1 if a text is skipped. &apos;-&apos; reads standard input; as FILE, it also writes to standard output.</source>
         <translation>&apos;texts export&apos; が書き出した XLIFF ファイルの翻訳を、FILE のマニフェストに取り込みます。リストは翻訳者の長さまで伸び、新しい言語は説明の言語になります。ビヘイビアがなくなったテキストと原文が変わったテキストは、報告してスキップします。テキストが正しくない音声スクリプトであれば、何も取り込みません。スキップしたテキストがあると終了ステータスは 1 です。&apos;-&apos; は標準入力を読みます。FILE であれば標準出力に書きます。</translation>
     </message>
     <message>
@@ -959,7 +959,7 @@
         <translation>ビヘイビア</translation>
     </message>
     <message>
-        <source>Show how far packages are translated</source>
+        <source>Show how much of packages is translated</source>
         <translation>翻訳の進み具合を表示する</translation>
     </message>
     <message>
@@ -967,7 +967,7 @@
         <translation>FILE... [--format text|json]</translation>
     </message>
     <message>
-        <source>Counts the texts that are translated, of those that are needed, by language and by behavior. A list counts once. &apos;-&apos; reads standard input.</source>
+        <source>Counts translated and required texts by language and by behavior. A list counts as one text. &apos;-&apos; reads standard input.</source>
         <translation>必要なテキストのうち翻訳されたものを、言語別とビヘイビア別に数えます。リストは 1 つと数えます。&apos;-&apos; は標準入力を読みます。</translation>
     </message>
     <message>
@@ -979,7 +979,7 @@
         <translation>このファイルは、--write-baseline が書き出す形式 1 の基準ファイルではありません。</translation>
     </message>
     <message>
-        <source>There is no setting &apos;%1&apos;%2</source>
+        <source>Unknown setting &apos;%1&apos;%2</source>
         <translation>設定 &apos;%1&apos; はありません%2</translation>
     </message>
     <message>
@@ -987,7 +987,7 @@
         <translation>。次のいずれかです: %1。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a list of tables, [[%1]].</source>
+        <source>&apos;%1&apos; must be a list of tables, [[%1]].</source>
         <translation>&apos;%1&apos; はテーブルのリスト [[%1]] でなければなりません。</translation>
     </message>
     <message>
@@ -995,7 +995,7 @@
         <translation>この override には &apos;path&apos; がありません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a table.</source>
+        <source>&apos;%1&apos; must be a table.</source>
         <translation>&apos;%1&apos; はテーブルでなければなりません。</translation>
     </message>
     <message>
@@ -1003,7 +1003,7 @@
         <translation>&apos;%1&apos; を &quot;%2&quot; にすることはできません%3</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has to be a text in quotes.</source>
+        <source>&apos;%1&apos; must be a string in quotes.</source>
         <translation>&apos;%1&apos; は引用符で囲んだ文字列でなければなりません。</translation>
     </message>
     <message>
@@ -1011,19 +1011,19 @@
         <translation>設定ファイルは有効な TOML ではありません: %1。</translation>
     </message>
     <message>
-        <source>There is no manifest.xml in the folder.</source>
+        <source>The folder contains no manifest.xml.</source>
         <translation>このフォルダーに manifest.xml はありません。</translation>
     </message>
     <message>
-        <source>The baseline lists &apos;%1&apos; here, which is not found any more.</source>
+        <source>The baseline lists &apos;%1&apos;, which is no longer found here.</source>
         <translation>基準ファイルはここに &apos;%1&apos; を挙げていますが、もう検出されません。</translation>
     </message>
     <message>
-        <source>A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back.</source>
+        <source>A baseline lists known findings, which are not reported. An outdated entry would hide the same finding if it came back.</source>
         <translation>基準ファイルは既知の検出結果を挙げ、それらは報告されません。検出結果がなくなった項目は、同じ問題が再び現れたときにそれを隠してしまいます。</translation>
     </message>
     <message>
-        <source>Write the baseline again with --write-baseline.</source>
+        <source>Update the baseline with --write-baseline.</source>
         <translation>--write-baseline で基準ファイルを書き直してください。</translation>
     </message>
     <message>
@@ -1031,7 +1031,7 @@
         <translation>コメントは &apos;%1&apos; を無視しますが、ここでは検出されません。</translation>
     </message>
     <message>
-        <source>A comment &apos;zel-package: ignore&apos; applies to the element that follows it. Where its rules find nothing, it would hide findings that come later.</source>
+        <source>A comment &apos;zel-package: ignore&apos; applies to the element after it. If its rules find nothing, it would hide later findings.</source>
         <translation>コメント &apos;zel-package: ignore&apos; は、それに続く要素に適用されます。その規則が何も検出しない場合、後で生じる問題を隠してしまいます。</translation>
     </message>
     <message>
@@ -1039,15 +1039,15 @@
         <translation>コメントからその規則を取り除くか、コメントを削除してください。</translation>
     </message>
     <message>
-        <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so that it has no effect.</source>
+        <source>A comment &apos;zel-package: ignore&apos; names a rule that does not exist, so it has no effect.</source>
         <translation>コメント &apos;zel-package: ignore&apos; が存在しない規則を挙げているため、効果がありません。</translation>
     </message>
     <message>
-        <source>Write the id of a rule; &apos;zel-package explain&apos; lists them.</source>
+        <source>Use the id of a rule; &apos;zel-package explain&apos; lists them.</source>
         <translation>規則の ID を書いてください。&apos;zel-package explain&apos; で一覧できます。</translation>
     </message>
     <message>
-        <source>Correct the file at the line and column that are given, then check it again.</source>
+        <source>Correct the file at the reported line and column, then check it again.</source>
         <translation>示された行と列でファイルを修正し、もう一度検査してください。</translation>
     </message>
     <message>
@@ -1067,7 +1067,7 @@
         <translation>FILE|FOLDER... [--format text|json|sarif|github] [--fail-on error|warning|note] [--ignore ID[,ID]...]... [--fix] [--unsafe-fixes] [--diff] [--config FILE] [--baseline FILE] [--write-baseline FILE] [--stdin-name NAME] [--quiet] [--color auto|always|never] [--explain]</translation>
     </message>
     <message>
-        <source>Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field has the place of the element that should hold it. A FOLDER means every manifest.xml in it and below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
+        <source>Prints the findings in each manifest by line, as FILE:LINE:COLUMN: error: text [id]; a missing field is reported at the element that should contain it. A FOLDER means every manifest.xml in or below it. &apos;zel-package explain ID&apos; explains a rule. &apos;-&apos; reads standard input; with --fix, the manifest goes to standard output and the findings to standard error.</source>
         <translation>各マニフェストの検出結果を行順に FILE:LINE:COLUMN: error: 本文 [id] の形で表示します。欠けているフィールドの位置は、それを含むべき要素の位置です。FOLDER は、その中とその下にあるすべての manifest.xml を意味します。&apos;zel-package explain ID&apos; が規則を説明します。&apos;-&apos; は標準入力を読み、--fix を付けるとマニフェストは標準出力へ、検出結果は標準エラーへ出力されます。</translation>
     </message>
     <message>
@@ -1075,23 +1075,23 @@
         <translation>&apos;--%1&apos; を &apos;%2&apos; にすることはできません%3</translation>
     </message>
     <message>
-        <source>The form of the output: text (the default), json, sarif or github.</source>
+        <source>The output format: text (the default), json, sarif or github.</source>
         <translation>出力の形式: text (既定)、json、sarif または github。</translation>
     </message>
     <message>
-        <source>The least severity that makes the exit status 1: error (the default), warning or note.</source>
+        <source>The lowest severity that sets the exit status to 1: error (the default), warning or note.</source>
         <translation>終了ステータスを 1 にする最低の重大度: error (既定)、warning または note。</translation>
     </message>
     <message>
-        <source>Leave out the findings of these rules; IDs are joined by commas, and the option may be given several times.</source>
+        <source>Do not report findings of these rules; separate IDs by commas, or repeat the option.</source>
         <translation>これらの規則の検出結果を省きます。ID はコンマで区切り、このオプションは複数回指定できます。</translation>
     </message>
     <message>
-        <source>Make the safe fixes, and report the findings that remain.</source>
+        <source>Apply the safe fixes, and report the remaining findings.</source>
         <translation>安全な修正を行い、残った検出結果を報告します。</translation>
     </message>
     <message>
-        <source>Also make the fixes that may change the meaning.</source>
+        <source>Also apply fixes that may change the meaning.</source>
         <translation>意味を変えうる修正も行います。</translation>
     </message>
     <message>
@@ -1103,7 +1103,7 @@
         <translation>最も近い .zel-package.toml の代わりに、この設定ファイルを使います。</translation>
     </message>
     <message>
-        <source>Leave out the findings that this file lists.</source>
+        <source>Do not report the findings listed in this file.</source>
         <translation>このファイルが挙げる検出結果を省きます。</translation>
     </message>
     <message>
@@ -1115,7 +1115,7 @@
         <translation>標準入力から読むマニフェストの名前。</translation>
     </message>
     <message>
-        <source>Print only findings that make the exit status 1, and no summary.</source>
+        <source>Print only findings that set the exit status to 1, and no summary.</source>
         <translation>終了ステータスを 1 にする検出結果だけを表示し、要約は表示しません。</translation>
     </message>
     <message>
@@ -1123,11 +1123,11 @@
         <translation>色を使うかどうか: auto (既定、端末で)、always または never。</translation>
     </message>
     <message>
-        <source>Explain, at the end, each rule with findings.</source>
+        <source>Explain each rule with findings at the end.</source>
         <translation>最後に、検出結果のある各規則を説明します。</translation>
     </message>
     <message>
-        <source>&apos;--%1&apos; needs &apos;-&apos;, standard input, as a FILE.</source>
+        <source>&apos;--%1&apos; requires standard input, &apos;-&apos;, as a FILE.</source>
         <translation>&apos;--%1&apos; には、FILE として標準入力の &apos;-&apos; が必要です。</translation>
     </message>
     <message>
@@ -1147,15 +1147,15 @@
         <translation>A B [--format text|json]</translation>
     </message>
     <message>
-        <source>Prints the changes that lead from the manifest in A to that in B, a line for each. With --format json, prints them as edits, which &apos;set A --edits&apos; applies. The exit status is 0 for equal manifests, 1 for different ones and 2 for an error. &apos;-&apos; for one of them reads standard input.</source>
+        <source>Prints the changes from manifest A to manifest B, one per line. With --format json, prints them as edits for &apos;set A --edits&apos;. The exit status is 0 if the manifests are equal, 1 if they differ, and 2 after an error. One of them may be &apos;-&apos; for standard input.</source>
         <translation>A のマニフェストを B のものにする変更を 1 行に一つずつ表示します。--format json では、&apos;set A --edits&apos; が適用する編集として表示します。終了ステータスは、等しければ 0、異なれば 1、エラーなら 2 です。一方に &apos;-&apos; を指定すると標準入力から読みます。</translation>
     </message>
     <message>
-        <source>Write to this file rather than OURS; &apos;-&apos; is standard output.</source>
+        <source>Write to this file instead of OURS; &apos;-&apos; is standard output.</source>
         <translation>OURS ではなくこのファイルに書く。&apos;-&apos; は標準出力。</translation>
     </message>
     <message>
-        <source>It has conflict markers of git; resolve these conflicts first.</source>
+        <source>The file contains conflict markers of git; resolve these conflicts first.</source>
         <translation>git の競合マーカーがあります。先にその競合を解決してください。</translation>
     </message>
     <message>
@@ -1175,11 +1175,11 @@
         <translation>二つのマニフェストの変更をフィールドごとにマージする</translation>
     </message>
     <message>
-        <source>Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both sides changed a field differently, OURS stays, and a comment before the field holds both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS unchanged. An empty file is a manifest without any field. &apos;-&apos; for one of the files reads standard input.</source>
+        <source>Merges the changes from BASE to THEIRS into OURS, field by field. If both sides changed a field differently, the value in OURS is kept, and a comment before the field shows both values; &apos;validate&apos; reports it until it is removed. The exit status is 0 after a merge without conflicts, 1 after a merge with conflicts, and 2 after an error, which leaves OURS unchanged. An empty file is a manifest without fields. One of the files may be &apos;-&apos; for standard input.</source>
         <translation>BASE から THEIRS への変更を、フィールドごとに OURS にマージします。両側が同じフィールドを異なる値に変更した場合は OURS を残し、フィールドの前のコメントに両方の値を書きます。&apos;validate&apos; はそのコメントが削除されるまで報告します。終了ステータスは、競合なしでマージすれば 0、競合があれば 1、エラーなら 2 で、エラーの場合 OURS は変わりません。空のファイルはフィールドのないマニフェストです。いずれかに &apos;-&apos; を指定すると標準入力から読みます。</translation>
     </message>
     <message>
-        <source>The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2.</source>
+        <source>The file is not well-formed XML in UTF-8, or has content that is not allowed at this position. Nothing else in it is checked, and the exit status is 2.</source>
         <translation>ファイルが整形式の UTF-8 の XML でないか、その場所に置けない内容があります。ほかは検査されず、終了コードは 2 です。</translation>
     </message>
     <message>
@@ -1187,7 +1187,7 @@
         <translation>  例:</translation>
     </message>
     <message>
-        <source>Call the manifest PATH in messages: git merges copies, and passes the path as %P.</source>
+        <source>Use PATH for the manifest in messages: git merges copies, and passes the path as %P.</source>
         <translation>メッセージの中でマニフェストを PATH と呼びます。git はコピーをマージし、パスを %P で渡します。</translation>
     </message>
     <message>
@@ -1203,7 +1203,7 @@
         <translation>BASE OURS THEIRS [-o OUT] [--path PATH]</translation>
     </message>
     <message>
-        <source>The baseline lists findings in &apos;%1&apos;, which does not exist any more.</source>
+        <source>The baseline lists findings in &apos;%1&apos;, which no longer exists.</source>
         <translation>基準ファイルは &apos;%1&apos; の検出結果を挙げていますが、このファイルはもう存在しません。</translation>
     </message>
 </context>

@@ -19,7 +19,7 @@
 
 namespace {
 
-// A file opened later must not become standard output because that was closed.
+// If standard output is closed, a file opened later must not take its place.
 void keepStandardStreamsTaken() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(stream, F_GETFD) == -1)
@@ -27,8 +27,8 @@ void keepStandardStreamsTaken() {
     }
 }
 
-// File names, arguments and character widths are taken in the character set of the locale, which is
-// UTF-8 while this lives. Qt asks for it once.
+// While it exists, file names, arguments and character widths use UTF-8 instead of the locale's
+// character set. Qt reads the locale only once.
 class Utf8Locale {
 public:
     Utf8Locale() {
@@ -53,7 +53,7 @@ private:
     QByteArray m_value;
 };
 
-// Messages of Qt and of the libraries may name files.
+// Messages may contain file names, so they are made printable.
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
     const QString line = ZelPackage::printable(qFormatLogMessage(type, context, message));
     std::fprintf(stderr, "%s\n", line.toUtf8().constData());
@@ -63,13 +63,13 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
 
 int main(int argc, char **argv) {
     keepStandardStreamsTaken();
-    // Freed blocks are joined at once, which halves the time to free a large package.
+    // Merging freed blocks immediately halves the time to free a large package.
     mallopt(M_MXFAST, 0);
-    const QString language = QLocale::system().uiLanguages().value(0); // before that may be hidden
-    // Whoever reads the output may close it. The parent may have had this signal ignored.
+    const QString language = QLocale::system().uiLanguages().value(0); // before it is hidden
+    // The reader of the output may close it. The parent may have set this signal to be ignored.
     std::signal(SIGPIPE, SIG_DFL);
 
-    // Qt would replace what is not UTF-8.
+    // Qt would replace invalid UTF-8.
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments += ZelPackage::nativeText(argv[i]);

@@ -28,7 +28,7 @@ QString titled(const QString &title, const LabeledList &fields, const Console &c
     return console.styled(title, Style::Heading) % u'\n' % fields.toText(console, 2);
 }
 
-// "Usage: ...", broken between arguments.
+// "Usage: ...", wrapped between arguments.
 QString usageLines(const QString &usage, const Console &console) {
     static const QRegularExpression gap(QStringLiteral(R"( (?![^\[]*\]))"));
     QStringList lines{QCoreApplication::translate("zel-package", "Usage: %1").arg(QString())};
@@ -50,7 +50,7 @@ QString usageOf(const ProgramCommand &command) {
     return *command.usage ? usage % u' ' % translated(command.usage) : usage;
 }
 
-// Commands whose names begin with the same word, or all of them.
+// Commands that share their first word, or all commands.
 struct CommandGroup {
     const char *name;
     const char *description;
@@ -115,14 +115,14 @@ void reportUnknownOption(const QString &option, const QList<QCommandLineOption> 
         known += QStringLiteral("--") % each.names().constLast();
     const bool isShortened = !option.startsWith(QLatin1String("--")) && option.size() > 2;
     console.printMessage(
-        QCoreApplication::translate("zel-package", "There is no option '%1'%2")
+        QCoreApplication::translate("zel-package", "Unknown option '%1'%2")
             .arg(option, suggestion(isShortened ? u'-' % option : option, known,
                                     QCoreApplication::translate("zel-package",
                                                                 "; '%1 --help' lists the options.")
                                         .arg(helpOf))));
 }
 
-// Parses arguments into options and others; `program` is named in messages.
+// Splits arguments into options and positional ones; messages name `program`.
 bool parse(const QStringList &arguments, const QList<QCommandLineOption> &options,
            const QString &program, QCommandLineParser &parser, Console &console) {
     parser.addOptions(options);
@@ -136,7 +136,7 @@ bool parse(const QStringList &arguments, const QList<QCommandLineOption> &option
     return isParsed;
 }
 
-// Those of QCommandLineParser::errorText() that can occur.
+// The errors of QCommandLineParser::errorText() that can occur.
 [[maybe_unused]] constexpr std::array parserSentences{
     QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
     QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'.")};
@@ -167,7 +167,7 @@ bool namesFile(const QCommandLineOption &option) {
            option.valueName() == QLatin1String("OUT");
 }
 
-// All but the names of files has to be text.
+// Everything but file names must be valid UTF-8.
 bool checkTexts(const ProgramCommand &command, const QList<QCommandLineOption> &options,
                 const QCommandLineParser &parser, Console &console) {
     QStringList texts = parser.positionalArguments().mid(command.fileArguments);
@@ -196,7 +196,7 @@ ExitStatus runCommand(const ProgramCommand &command, const QStringList &argument
     return isFine ? command.run(parser, console) : Failure;
 }
 
-// Runs the program with an option in place of a command.
+// Runs the program with an option instead of a command.
 ExitStatus runOption(const CommandGroup &group, const QStringList &arguments, Console &console) {
     QCommandLineParser parser;
     const QCommandLineOption help = helpOption();
@@ -221,7 +221,7 @@ void reportUnknownCommand(const CommandGroup &group, const QString &name, Consol
     const QString hint =
         QCoreApplication::translate("zel-package", "; '%1 --help' lists the commands.")
             .arg(group.program());
-    console.printMessage(QCoreApplication::translate("zel-package", "There is no command '%1'%2")
+    console.printMessage(QCoreApplication::translate("zel-package", "Unknown command '%1'%2")
                              .arg(group.start() % name,
                                   suggestion(name, commandWords(QLatin1String(group.name)), hint)));
 }

@@ -9,21 +9,21 @@
 
 namespace ZelPackage {
 
-/// One command of the program. The name of a command in a group has two words: "texts export". The
-/// texts are translated in the context "zel-package".
+/// One command of the program. Grouped commands have names of two words: "texts export". Texts are
+/// translated in the context "zel-package".
 struct ProgramCommand {
     static constexpr int anyNumber = 1'000'000;
 
     const char *name;
-    const char *summary;     ///< a line for the list of commands
+    const char *summary;     ///< one line for the list of commands
     const char *usage;       ///< the arguments
-    const char *description; ///< what it does, in a paragraph
-    int minArguments;        ///< arguments that are no options
+    const char *description; ///< a paragraph about its effect
+    int minArguments;        ///< the number of positional arguments
     int maxArguments;
     QList<QCommandLineOption> (*options)();
-    /// `arguments` has its options and the right number of arguments.
+    /// `arguments` has been checked against options and the number of arguments.
     ExitStatus (*run)(const QCommandLineParser &arguments, Console &console);
-    /// How many of the first arguments are names of files, which may have any bytes.
+    /// The number of leading arguments that are file names and may have any bytes.
     int fileArguments = anyNumber;
 };
 
@@ -43,14 +43,14 @@ extern const ProgramCommand textsImportCommand;
 extern const ProgramCommand textsStatusCommand;
 extern const ProgramCommand validateCommand;
 
-/// All commands, in the order of the help.
+/// All commands, in the order in which the help lists them.
 QVector<const ProgramCommand *> programCommands();
 
-/// The command with a name; null for none.
+/// The command with this name, or null.
 const ProgramCommand *commandNamed(const QString &name);
 
-/// The words that a name continues with after a group: "export" after "texts". Without a group, the
-/// first words of all names.
+/// The words that may follow a group: "export" after "texts". Without a group, the first words of
+/// all names.
 QStringList commandWords(const QString &group = {});
 
 /// Runs the program: general options, or a command with its arguments.

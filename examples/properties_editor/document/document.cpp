@@ -1,6 +1,7 @@
 #include "document.h"
 
 #include "field_edits.h"
+#include "problem_report.h"
 
 #include <packagemodel/edit_session.h>
 
@@ -64,8 +65,10 @@ Document::Document(QObject *parent)
     connect(&m_pause, &QTimer::timeout, this, &Document::closeRun);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Document::checkDisk);
     watchPackage();
-    m_template = QByteArray::fromStdString(m_package->packageInfo().saveToManifestContent());
-    refreshIssues();
+    m_package->syncRecord();
+    m_saved = m_package->packageInfo();
+    m_template = QByteArray::fromStdString(m_saved.saveToManifestContent());
+    trackIssues();
 }
 
 Document::~Document() {
@@ -112,7 +115,8 @@ bool Document::save(const QString &fileName) {
         return false;
     }
     const QString path = QFileInfo(fileName).absoluteFilePath();
-    if (path == m_fileName)
+    const bool isElsewhere = path != m_fileName;
+    if (!isElsewhere)
         manifest.expected = m_seenOnDisk;
     const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
     const bool isReplayable = m_undoStack.index() == 0 || loadsAsItIs(*m_package, *manifest.bytes);
@@ -129,6 +133,8 @@ bool Document::save(const QString &fileName) {
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(written);
     m_undoStack.setClean();
+    if (isElsewhere)
+        trackIssues(); // the files that the package names may not be there
     Q_EMIT fileNameChanged();
     return true;
 }
@@ -251,7 +257,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     watchPackage();
     m_languages.reset();
     m_coverages.reset();
-    refreshIssues();
+    trackIssues();
     Q_EMIT packageReplaced();
     Q_EMIT fileNameChanged();
     finishEdit();
@@ -281,22 +287,21 @@ LanguageCoverage Document::coverage(const QString &languageCode) const {
     return found == m_coverages->end() ? LanguageCoverage() : *found;
 }
 
-void Document::refreshIssues() {
-    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
-    const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
-    const auto isSame = [](const Issue &a, const Issue &b) {
-        return a.id == b.id && a.path == b.path && a.text == b.text;
-    };
-    if (std::equal(issues.begin(), issues.end(), m_issues.begin(), m_issues.end(), isSame))
-        return;
-    m_issues = issues;
+// Checks the whole package, and its files.
+void Document::trackIssues() {
+    m_tracker = std::make_unique<Zel::PackageModel::IssueTracker>(m_package.get(),
+                                                                  issueOptions(m_fileName));
+    indexIssues();
+}
+
+void Document::indexIssues() {
     m_issueByPath.clear();
     m_behaviorSeverity.clear();
     const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {
         if (isWorse)
             entry = candidate;
     };
-    for (const Issue &issue : std::as_const(m_issues)) {
+    for (const Issue &issue : issues()) {
         const bool isError = issue.severity == Severity::Error;
         const bool isFirst = !m_issueByPath.contains(issue.path);
         keepWorst(m_issueByPath[issue.path], issue,

@@ -48,6 +48,10 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
         return toolTipOf(issue.plainText());
     case PathRole:
         return issue.path;
+    case RuleRole:
+        return issue.id;
+    case SeverityRole:
+        return int(issue.severity);
     default:
         return {};
     }

@@ -70,7 +70,7 @@ std::string CopyBeside::create(mode_t mode) {
         if (!m_file)
             return systemReason();
         m_path = std::move(path);
-        // Before it was locked, another program may have taken it for a stale one.
+        // Another process may have removed it as stale before it was locked.
         static_cast<void>(waitForLock(file()));
         if (isLinked(file()))
             return {};

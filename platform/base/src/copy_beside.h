@@ -7,8 +7,8 @@
 
 namespace Tano {
 
-/// The file beside a target that holds the new content while the target is saved. It is locked as
-/// long as this exists, and removed with it.
+/// A temporary file beside the target that holds the new content during a save. It stays locked
+/// while this object exists; the destructor removes it.
 class CopyBeside {
 public:
     explicit CopyBeside(std::string target);
@@ -16,29 +16,28 @@ public:
     CopyBeside(const CopyBeside &) = delete;
     CopyBeside &operator=(const CopyBeside &) = delete;
 
-    /// Creates it, open for reading and writing; returns why that failed.
+    /// Creates the file, open for reading and writing; on failure, returns the reason.
     [[nodiscard]] std::string create(mode_t mode);
-    /// Renames it to the target, which is then not replaced if `isNew`. Returns an error number, 0
-    /// after a success.
+    /// Renames the file to the target. If `isNew`, an existing target is not replaced. Returns an
+    /// errno value, 0 on success.
     [[nodiscard]] int moveToTarget(bool isNew);
-    /// Leaves it there.
+    /// Disowns the file, so that the destructor does not remove it.
     void keep() { m_path.clear(); }
 
     int file() const { return m_file.number(); }
     const std::string &path() const { return m_path; }
 
-    /// Removes those of the same target whose process has ended.
+    /// Removes the copies of the same target left behind by processes that have ended.
     void removeStale() const;
 
 private:
     std::string prefix() const;
 
     std::string m_target;
-    std::string m_path; // empty where there is none to remove
+    std::string m_path; // empty if there is nothing to remove
     FileDescriptor m_file;
 };
 
-/// The folder of a file.
 std::string folderOf(const std::string &path);
 
 } // namespace Tano

@@ -13,7 +13,7 @@ namespace {
 
 using ExtendedAttributes = std::map<std::string, std::string>;
 
-// Calls a function of the system that first says how much room it needs.
+// Calls a system function twice: for the required buffer size, then for the value.
 template<typename Call>
 std::optional<std::string> answerOf(Call call) {
     for (;;) {
@@ -26,7 +26,7 @@ std::optional<std::string> answerOf(Call call) {
             answer.resize(std::size_t(size));
             return answer;
         }
-        if (errno != ERANGE) // it has grown
+        if (errno != ERANGE) // the value has grown in between
             return {};
     }
 }

@@ -2,9 +2,9 @@
 
 namespace Tano {
 
-/// Gives the open file `to`, which only its owner can read, the owner, group, extended attributes
-/// (the access control list is one) and mode of `from`. Returns false where one of them cannot be
-/// set; then no one can read `to` who cannot read `from`.
+/// Copies owner, group, extended attributes (including the access control list) and mode from the
+/// open file `from` to `to`, which only its owner can read. Returns false if one of them cannot be
+/// set; `to` is then readable by nobody who cannot read `from`.
 [[nodiscard]] bool copyAttributes(int from, int to);
 
 } // namespace Tano

@@ -5,7 +5,7 @@
 
 namespace Tano {
 
-/// Owns a file descriptor, which may be none.
+/// Owns a file descriptor; may be empty.
 class FileDescriptor {
 public:
     explicit FileDescriptor(int number = -1)

@@ -11,8 +11,8 @@ namespace {
 constexpr int attempts = 100;
 constexpr std::chrono::milliseconds pause(20);
 
-// These locks belong to the opening of the file, unlike the older ones, which a process loses when
-// it closes any descriptor of the file; and they do not get in the way of flock(1).
+// Open file description locks: unlike process locks, they survive closing another descriptor of the
+// file; and they do not interfere with flock(1).
 Lock lock(int file, short type) {
     struct flock whole = {};
     whole.l_type = type;

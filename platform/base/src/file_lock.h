@@ -4,11 +4,11 @@ namespace Tano {
 
 enum class Lock { Taken, Busy, Unsupported };
 
-/// Locks a file that is open for writing against every other opening of it, until it is closed.
-/// Waits up to two seconds for others.
+/// Locks a file open for writing against all other openings until it is closed. Waits up to two
+/// seconds for a conflicting lock.
 [[nodiscard]] Lock waitForLock(int file);
 
-/// Locks a file that is open for reading against waitForLock(), unless another opening has it.
+/// Takes a read lock, which conflicts with waitForLock(), without waiting.
 [[nodiscard]] Lock tryReadLock(int file);
 
 } // namespace Tano

@@ -4,8 +4,8 @@
 
 namespace Tano {
 
-/// A path in UTF-8 in the encoding of the file system; bytes that are not UTF-8 are the name
-/// itself.
+/// The path, given in UTF-8, in the file system's encoding. A path that is not valid UTF-8 is
+/// returned unchanged.
 std::string nativeName(const std::string &path);
 
 } // namespace Tano

@@ -44,13 +44,13 @@ std::string FileSave::resolve() {
     const std::unique_ptr<char, decltype(&std::free)> resolved(
         ::realpath(m_target.c_str(), nullptr), &std::free);
     if (!resolved)
-        return errno == ENOENT ? "it is a link to a file that is not there" : systemReason();
+        return errno == ENOENT ? "it is a link to a missing file" : systemReason();
     m_target = resolved.get();
     return {};
 }
 
-// Opens and locks the file, unless it is new. Whoever waited for the lock may have got that of a
-// file which was replaced meanwhile.
+// Opens and locks the file, unless it is new. The file may be replaced while this waits for the
+// lock; then the lock is on the wrong file and the loop starts over.
 std::string FileSave::openTarget() {
     do {
         struct stat status = {};
@@ -77,7 +77,7 @@ bool FileSave::isStillThere() const {
            isSameFile(opened, present);
 }
 
-// A folder that may not be read cannot be synced.
+// A folder without read permission cannot be opened, and so not be synced.
 std::string FileSave::openFolder() {
     m_folder =
         FileDescriptor(::open(folderOf(m_target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -94,7 +94,7 @@ std::string FileSave::writeCopy() {
     return m_file.bytes ? copyBeside(*m_file.bytes) : std::string();
 }
 
-// Attributes come after the bytes, since writing takes some of them away.
+// Attributes are copied after the bytes, since writing resets some of them.
 std::string FileSave::copyBeside(const std::string &bytes) {
     std::string reason = m_copy->create(m_opened ? 0600 : 0666);
     if (reason.empty())
@@ -151,7 +151,7 @@ std::string FileSave::syncFolder() {
     return m_folder ? syncToDisk(m_folder.number()) : std::string();
 }
 
-// The old file is open still, also where it was replaced or removed.
+// The old file is still open, even if it was replaced or removed.
 std::string FileSave::rollBack() {
     if (!m_isChanged)
         return {};

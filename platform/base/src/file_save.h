@@ -11,19 +11,20 @@
 
 namespace Tano {
 
-/// Saving one file, in steps, so that several can be saved together. Steps return why they failed.
+/// Saves one file in steps, so that several files can be saved together. Each step returns an error
+/// message, empty on success.
 class FileSave {
 public:
     /// `file` must outlive this.
     explicit FileSave(const FileToSave &file);
 
-    /// All that may fail and that no one notices.
+    /// Does everything that can fail without changing the target.
     [[nodiscard]] std::string prepare();
     /// Changes the file on disk.
     [[nodiscard]] std::string commit();
-    /// Gives the file its old content again if commit() has changed it.
+    /// Restores the old content if commit() has changed the file.
     [[nodiscard]] std::string rollBack();
-    /// Removes the copy, and those that killed processes have left.
+    /// Removes the temporary copy and those left by killed processes.
     void finish();
 
     const std::string &path() const { return m_file.path; }
@@ -43,11 +44,11 @@ private:
     std::string syncFolder();
 
     const FileToSave &m_file;
-    std::string m_target; // as the system names it, links followed
+    std::string m_target; // canonical, with links resolved
     FileDescriptor m_opened;
     FileDescriptor m_folder;
     std::unique_ptr<CopyBeside> m_copy;
-    std::optional<std::string> m_old; // while the file is overwritten
+    std::optional<std::string> m_old; // set while the file is overwritten in place
     bool m_isInPlace = false;
     bool m_isChanged = false;
     bool m_hasConflict = false;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t pieceSize = std::size_t(1) << 20;
 
-// So that a full disk is noticed before the first byte is overwritten.
+// Reserves space, so that a full disk is noticed before the first byte is overwritten.
 bool reserve(int file, std::size_t size) {
     if (size == 0 || ::fallocate(file, FALLOC_FL_KEEP_SIZE, 0, off_t(size)) == 0)
         return true;

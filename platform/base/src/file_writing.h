@@ -6,13 +6,13 @@
 
 namespace Tano {
 
-// Functions that return a text return why they failed; the empty text after a success.
+// Functions that return a string return an error message, empty on success.
 
-/// The text of an error number, by default of the last one.
+/// The message of an error number, by default of errno.
 std::string systemReason();
 std::string systemReason(int error);
 
-/// The whole content of an open file; nothing where it cannot be read.
+/// The content of an open file, nullopt if it cannot be read.
 std::optional<std::string> contentOf(int file);
 
 /// Writes the bytes at the beginning of an open file.
@@ -21,16 +21,15 @@ std::optional<std::string> contentOf(int file);
 /// Makes the bytes the content of an open file and syncs it.
 [[nodiscard]] std::string replaceContent(int file, const std::string &bytes);
 
-/// The same, but after a failure, the file gets its old content again. If that fails too, or there
-/// is no `old`, `isDamaged` is set.
+/// Like replaceContent(), but restores `old` on failure. Sets `isDamaged` if that fails too or
+/// there is no `old`.
 [[nodiscard]] std::string overwrite(int file, const std::string &bytes,
                                     const std::optional<std::string> &old, bool &isDamaged);
 
-/// Syncs a file or folder. A file system that cannot sync it does not count as a failure.
+/// Syncs a file or folder to disk. A file system without support for it is not an error.
 [[nodiscard]] std::string syncToDisk(int file);
 
-/// As long as it exists, writing beyond the limit of a file's size is an error and does not end the
-/// process.
+/// While it exists, exceeding the file size limit is an error instead of ending the process.
 class FileSizeSignalBlock {
 public:
     FileSizeSignalBlock();

@@ -15,7 +15,7 @@ namespace {
 std::string whyNotInput(int descriptor) {
     struct stat status = {};
     if (descriptor < 0 || ::fstat(descriptor, &status) != 0)
-        return {}; // not a file of the system, for example one of Qt's resources
+        return {}; // not on disk, for example a Qt resource
     if (S_ISDIR(status.st_mode))
         return std::generic_category().message(EISDIR);
     if (S_ISBLK(status.st_mode) || (S_ISCHR(status.st_mode) && ::isatty(descriptor) == 0))

@@ -13,8 +13,8 @@
 namespace Tano::log {
 namespace {
 
-/// The one QLoggingCategory of each name. It is never destroyed, so that destructors of static
-/// objects can still write.
+/// One QLoggingCategory per name. Never destroyed, so that destructors of static objects can still
+/// log.
 class Categories {
 public:
     static Categories &instance() {
@@ -30,7 +30,7 @@ public:
         }
         const std::unique_lock lock(m_mutex);
         const auto it = m_categories.try_emplace(name).first;
-        // QLoggingCategory keeps the pointer, so it gets that of the copied name.
+        // QLoggingCategory keeps the pointer, so it gets the one to the copied name.
         if (!it->second)
             it->second.emplace(it->first.c_str(), QtInfoMsg);
         return *it->second;
@@ -46,7 +46,7 @@ struct Severity {
     QDebug (QMessageLogger::*stream)(const QLoggingCategory &category) const;
 };
 
-// In the order of Level. Qt's own fatal messages end the program, which no line of ours may do.
+// In the order of Level. Qt's own fatal messages abort the program, which ours must not.
 constexpr std::array<Severity, 6> severities = {{
     {QtCriticalMsg, &QMessageLogger::critical},
     {QtCriticalMsg, &QMessageLogger::critical},
@@ -56,7 +56,7 @@ constexpr std::array<Severity, 6> severities = {{
     {QtDebugMsg, &QMessageLogger::debug},
 }};
 
-/// Null for Silent and for what is no level.
+/// Null for Silent and for invalid levels.
 const Severity *severityOf(Level level) {
     const int index = static_cast<int>(level) - static_cast<int>(Level::Fatal);
     const bool exists = index >= 0 && index < static_cast<int>(severities.size());

@@ -13,8 +13,8 @@
 namespace Tano::path {
 namespace {
 
-/// The directory over the data of all applications in the tree that this library, or the program
-/// that it is built into, was loaded from, or the empty text.
+/// The parent of the data directories in the tree from which this library (or the program that it
+/// is linked into) was loaded; empty if unknown.
 QString besideLibrary() {
     static const char addressInLibrary = 0;
     Dl_info info{};
@@ -23,19 +23,18 @@ QString besideLibrary() {
             0 ||
         !info.dli_fname)
         return {};
-    if (loaded && *loaded->l_name == 0) // the program itself, whose name may be told in any way
+    if (loaded && *loaded->l_name == 0) // the program itself, whose name may be arbitrary
         return QDir::cleanPath(
             QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path() %
             QLatin1String("/" ZEL_DATADIR_FROM_BINDIR));
-    // Canonical, because "..", taken from a linked library directory, leads elsewhere.
+    // Canonical, because ".." below a symlinked library directory leads elsewhere.
     const QString directory = QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
     if (directory.isEmpty())
         return {};
     return QDir::cleanPath(directory % QLatin1String("/" ZEL_DATADIR_FROM_LIBDIR));
 }
 
-/// The relative path in its shortest form, or the empty text for one that does not name something
-/// inside the directory that it is relative to.
+/// The normalized relative path, empty if it leads outside its base directory.
 QString insidePath(const std::string &relativePath) {
     const QString path = QDir::cleanPath(QString::fromStdString(relativePath));
     const bool leadsOut = path == QLatin1String("..") || path.startsWith(QLatin1String("../"));
@@ -51,9 +50,9 @@ QStringList environmentEntries(const QString &application) {
         .split(QDir::listSeparator(), Qt::SkipEmptyParts);
 }
 
-/// The directories that may exist, those searched first in front.
+/// The candidate directories in search order.
 QStringList candidates(const QString &application, bool excludeUser) {
-    // Found once: a library path that is relative is so to the first working directory.
+    // Computed once: a relative library path refers to the initial working directory.
     static const QString beside = besideLibrary();
 
     QStringList roots = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
@@ -68,7 +67,7 @@ QStringList candidates(const QString &application, bool excludeUser) {
     return directories;
 }
 
-/// The directories among `paths`, each once.
+/// The existing directories among `paths`, without duplicates.
 QStringList existing(const QStringList &paths) {
     QStringList directories;
     for (const QString &path : paths) {
@@ -79,7 +78,7 @@ QStringList existing(const QStringList &paths) {
     return directories;
 }
 
-/// As dataDirectories().
+/// Implements dataDirectories().
 QStringList directoriesOf(const std::string &application, bool excludeUser) {
     const QString name = insidePath(application);
     return name.isEmpty() ? QStringList() : existing(candidates(name, excludeUser));

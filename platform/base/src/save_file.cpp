@@ -25,7 +25,7 @@ std::string sentence(const std::string &path, const std::string &reason) {
 
 using FileSaves = std::vector<std::unique_ptr<FileSave>>;
 
-// Runs a step of each until one fails.
+// Runs a step of each save until one fails.
 SaveResult runEach(const FileSaves &saves, std::string (FileSave::*step)()) {
     for (const auto &save : saves) {
         const std::string reason = (save.get()->*step)();
@@ -46,7 +46,7 @@ std::string writeThroughQt(QFile &file, const std::string &bytes) {
     return file.flush() ? std::string() : file.errorString().toStdString();
 }
 
-// A file that is open for writing only has been emptied, or is to be overwritten, by the caller.
+// A file opened write-only was truncated by the caller, or is to be overwritten.
 std::string writeInPlace(QFile &file, const std::string &bytes) {
     if (!file.flush() || !file.seek(0))
         return file.errorString().toStdString();

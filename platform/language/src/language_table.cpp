@@ -22,7 +22,7 @@ QString territoryName(const QLocale &locale) {
 #endif
 }
 
-/// A row gives the texts that Qt's locale data lack or tell differently from version to version.
+/// A row only has the texts that Qt's locale data lack or that vary between Qt versions.
 RobotLanguage languageOf(const QJsonObject &row) {
     const auto text = [&row](const char *key, const QString &fallback = {}) {
         return row.value(QLatin1String(key)).toString(fallback);
@@ -126,7 +126,7 @@ void LanguageTable::append(const RobotLanguage &language, bool isLent) {
     m_entries.push_back({language, isLent});
 }
 
-// Waits until the table has doubled, so that each registration pays for a constant share of it.
+// Waits until the table has doubled, which keeps the amortized cost per registration constant.
 void LanguageTable::forgetUnused() {
     const auto isUnknown = [](const Entry &entry) { return !entry.isKnown(); };
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isUnknown), m_entries.end());

@@ -8,8 +8,8 @@
 
 namespace Zel {
 
-/// The languages that can be looked up: the built-in ones, the partial ones registered since, and
-/// those known only while a descriptor of them is in use.
+/// The known languages: built-in ones, partial ones registered since, and temporary ones that are
+/// known only while a descriptor of them is in use.
 class LanguageTable {
 public:
     /// The process's table, built on first use.
@@ -18,17 +18,17 @@ public:
     /// In the order of knownLanguages().
     RobotLanguages languages() const;
 
-    /// Those that the tool comes with, in ascending order of their codes.
+    /// The built-in languages, ordered by code.
     RobotLanguages builtInLanguages() const;
 
-    /// The language with an empty code if there is none with this code.
+    /// The language with this code, or one with an empty code.
     RobotLanguage find(const QString &isoCode) const;
 
-    /// Keeps the language for good. Does nothing for an empty code; a code that is known already
-    /// keeps its descriptor.
+    /// Registers the language permanently. Ignores an empty code and codes that are already known.
     void add(const RobotLanguage &language);
 
-    /// find(), or a new partial language that the table forgets once nobody else has a copy of it.
+    /// Like find(), but creates a partial language if needed, which the table drops once no copies
+    /// of it remain.
     RobotLanguage findOrLend(const QString &isoCode);
 
     const RobotLanguage &defaultLanguage() const { return m_default; }
@@ -47,10 +47,10 @@ private:
     void append(const RobotLanguage &language, bool isLent);
     void forgetUnused();
 
-    std::vector<Entry> m_entries; // in the order of their registration
+    std::vector<Entry> m_entries; // in order of registration
     QHash<QString, std::size_t> m_indexes;
-    std::size_t m_builtIn = 0;  // how many of them, from the first on, are built in
-    std::size_t m_forgetAt = 0; // the number of entries at which unused ones are dropped next
+    std::size_t m_builtIn = 0;  // the number of built-in entries, which come first
+    std::size_t m_forgetAt = 0; // the number of entries at which unused ones are dropped
     RobotLanguage m_default;
 };
 

@@ -11,7 +11,7 @@ namespace {
 const std::string interactive = "interactive";
 const std::string solitary = "solitary";
 
-// The operations that the four kinds of lists have in common.
+// Operations shared by the four kinds of lists.
 
 using Lists = TextListMap BehaviorData::*;
 
@@ -25,7 +25,7 @@ void insertInto(BehaviorInfo &record, Lists lists, const std::string &value, con
     list.insert(list.begin() + std::clamp(index, 0, int(list.size())), value);
 }
 
-// Where the wanted occurrence of a value stands; -1 where there is none.
+// The index of the given occurrence of a value, -1 if there is none.
 int indexOf(const BehaviorInfo &record, Lists lists, const std::string &value,
             const std::string &key, int occurrence) {
     const auto &list = listOf(RecordAccess::data(record).*lists, key);

@@ -11,9 +11,8 @@ namespace {
 
 constexpr int gone = -1;
 
-// The present index of each original entry of a list, `gone` for a removed one. Entries are found
-// by their distinguishing texts; one that is left over directly behind the same neighbor as before
-// was changed in place.
+// The current index of each original entry, `gone` for removed ones. Entries are matched by key; an
+// unmatched entry directly after the same neighbor counts as changed in place.
 std::vector<int> currentIndexes(const std::vector<std::string> &original,
                                 const std::vector<std::string> &current) {
     std::unordered_map<std::string_view, int> firstFree;
@@ -49,8 +48,8 @@ std::vector<int> currentIndexes(const std::vector<std::string> &original,
     return indexes;
 }
 
-// The present indexes of the original entries of a list, and for each of them the index of the
-// first one at or after it that is left.
+// The current indexes of a list's original entries, and for each the index of the first remaining
+// entry at or after it.
 struct CurrentList {
     std::vector<int> indexes;
     std::vector<int> anchors;

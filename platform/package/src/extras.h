@@ -21,48 +21,47 @@ struct Namespace {
     std::string uri;
 };
 
-/// The content of one element beyond the record's fields. Most elements have none.
+/// The content of an element beyond the record's fields. Most elements have none.
 struct Extras {
     /// Comments, processing instructions and unknown elements before a child. Within a text, the
-    /// position's index is a byte offset.
+    /// index is a byte offset.
     struct Kept {
         Position before;
         std::string xml; // pieces, each followed by a NUL
     };
     struct Child {
-        Position position; // with the index -1 for a hidden one
+        Position position; // index -1 if hidden
         ExtrasPointer extras;
     };
-    /// One list of children of the same kind: the kind, and the key that they share.
+    /// A list of children: their kind and shared key.
     using ListId = std::pair<Element, std::string>;
     using Lists = std::map<ListId, std::vector<std::string>>;
 
-    std::string attributes;      // unknown ones in file order, as they are written: ` a="b"`
+    std::string attributes;      // unknown attributes in file order, as written: ` a="b"`
     std::vector<Kept> kept;      // in file order
-    std::vector<Child> children; // those without a record of their own, in ascending order
-    /// The distinguishing text of each entry of the lists when they were read; finds the children
-    /// of these extras again after the list has been edited. Null for none.
+    std::vector<Child> children; // children without a record, in ascending order
+    /// The keys of each list's entries when the file was read, used to find the children of these
+    /// extras after the list was edited. Null if unused.
     std::shared_ptr<const Lists> lists;
-    /// Of the root element, the prefixes that it declares; of a behavior or dialog, those that it
-    /// uses of the root element, declared again where it is saved below another root.
+    /// Root element: the prefixes that it declares. Behaviors and dialogs: the prefixes of the root
+    /// element that they use, redeclared when they are saved below another root.
     std::vector<std::shared_ptr<const Namespace>> namespaces;
 };
 
-/// Returns the distinguishing texts of a list's present entries.
+/// Returns the keys of a list's current entries.
 using ListKeys = std::function<std::vector<std::string>(const Extras::ListId &)>;
 
-/// Remembers in `extras` the present entries of every list that it refers to.
+/// Stores the keys of every list that `extras` refers to.
 void rememberLists(Extras &extras, const ListKeys &listKeys);
 
-/// Removes the content kept within the children of a kind whose keys are rejected.
+/// Removes the extras of the children of a kind whose keys are rejected.
 void dropChildren(ExtrasPointer &extras, Element element,
                   const std::function<bool(const std::string &key)> &isDropped);
 
-/// Hides the content kept within the child of a kind and key, which is removed, or shows it again,
-/// so that undoing the removal restores it.
+/// Hides or shows the extras of a removed child, so that undoing the removal restores them.
 void hideChild(ExtrasPointer &extras, Element element, const std::string &key, bool isHidden);
 
-/// Calls `visit` with each of the pieces of kept content.
+/// Calls `visit` for each piece of kept content.
 template<typename Visit>
 void forEachPiece(std::string_view xml, Visit &&visit) {
     for (std::size_t start = 0; start < xml.size();) {
@@ -72,13 +71,13 @@ void forEachPiece(std::string_view xml, Visit &&visit) {
     }
 }
 
-/// Walks the extras of an element while its children are written in the canonical order.
+/// Walks the extras of an element while its children are written in canonical order.
 class ExtrasWalk {
 public:
     ExtrasWalk(const Extras *extras, const ListKeys &listKeys);
 
-    /// Calls `write(piece)` for all content before the child at `element`, `key`, `index` that has
-    /// not been written yet.
+    /// Calls `write(piece)` for all content before the child at `element`, `key`, `index` that is
+    /// not written yet.
     template<typename Write>
     void before(Element element, std::string_view key, int index, Write &&write) {
         const Place place{element, key, index};
@@ -86,14 +85,14 @@ public:
             forEachPiece(*m_kept[m_next].second, write);
     }
 
-    /// The extras of the child there; null for none.
+    /// The extras of the child, null if it has none.
     const Extras *child(Element element, std::string_view key, int index) const;
 
     /// The keys of the children of a kind that have extras.
     std::vector<const std::string *> childKeys(Element element) const;
 
 private:
-    std::vector<std::pair<Position, const std::string *>> m_kept; // in the canonical order
+    std::vector<std::pair<Position, const std::string *>> m_kept; // in canonical order
     std::size_t m_next = 0;
     std::vector<std::pair<Position, const Extras *>> m_children; // in ascending order
 };

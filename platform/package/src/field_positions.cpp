@@ -11,7 +11,7 @@ namespace {
 
 constexpr FieldPositions::NodeId noNode = std::numeric_limits<FieldPositions::NodeId>::max();
 
-// More than the longest text, the name in a tag; the offsets of all pieces fit into 32 bits.
+// Larger than the longest text, a name in a tag; the offsets of all pieces fit into 32 bits.
 constexpr std::size_t pieceSize = std::size_t(1) << 20;
 static_assert(ManifestReader::maxTagLength <= pieceSize);
 static_assert(ManifestReader::maxFileSize <= std::size_t(1) << 31);
@@ -20,7 +20,7 @@ std::uint32_t bounded(std::uint64_t count) {
     return std::uint32_t(std::min<std::uint64_t>(count, std::numeric_limits<std::uint32_t>::max()));
 }
 
-// The child of an element that a step may name; Element::None for none.
+// The child element that a path step may name, or Element::None.
 Element childWithField(Element parent, std::string_view field) {
     for (const Element child : ruleOf(parent).children) {
         if (ruleOf(child).field == field)
@@ -114,7 +114,7 @@ FieldPositions::Siblings FieldPositions::siblings(NodeId parent, Element element
     return {m_index.data() + (first - m_index.begin()), int(last - first)};
 }
 
-// The block of texts that holds, or would hold, the text that a step names.
+// The text block that holds, or would hold, the text that a step names.
 FieldPositions::NodeId FieldPositions::block(NodeId parent, const FieldPath::Step &step) const {
     if (step.selectors.empty())
         return noNode;
@@ -127,7 +127,7 @@ FieldPositions::NodeId FieldPositions::block(NodeId parent, const FieldPath::Ste
     return noNode;
 }
 
-// The child of a kind that a step selects, apart from its first `used` selectors.
+// The child of a kind that a step selects, ignoring its first `used` selectors.
 FieldPositions::NodeId FieldPositions::entry(NodeId parent, Element element,
                                              const FieldPath::Step &step, std::size_t used) const {
     const ElementRule &rule = ruleOf(element);

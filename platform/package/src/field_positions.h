@@ -13,28 +13,28 @@
 
 namespace Tano {
 
-/// Sets the index of each node: how many equal ones precede it.
+/// Sets the index of each node: the number of equal nodes before it.
 void countEqual(std::vector<UnknownNode> &nodes);
 
 /// The positions of a manifest's elements and of its unknown elements and attributes.
 ///
-/// Reading appends one small node per element; the index that paths are looked up in is built when
-/// the first position is asked for, and the children of an element are sorted when one of them is.
+/// Reading appends one small node per element. The lookup index is built on the first lookup, and
+/// the children of an element are sorted when one of them is first looked up.
 class FieldPositions {
 public:
     using NodeId = std::uint32_t;
 
-    /// Adds an element below `parent`, which is ignored for the first one, the root.
+    /// Adds an element below `parent`; the first one is the root, for which `parent` is ignored.
     NodeId add(NodeId parent, Element element, const std::string &key, SourcePosition position);
     void addUnknown(NodeId parent, UnknownNode::Kind kind, const std::string &name,
                     SourcePosition position);
 
-    /// The position of a field, else of the nearest element around it.
+    /// The position of a field, or of the nearest enclosing element.
     SourcePosition find(const FieldPath &path) const;
     std::vector<UnknownNode> unknownNodes() const;
 
 private:
-    // Texts in pieces of bounded size, which growing does not move, referred to by their offsets.
+    // Texts in fixed-size chunks, addressed by offset, so that growing moves nothing.
     class TextPieces {
     public:
         std::uint32_t add(std::string_view text);
@@ -61,7 +61,7 @@ private:
         std::uint32_t column;
         UnknownNode::Kind kind;
     };
-    // The equal siblings of a node: of the same kind, with the same key.
+    // Siblings of the same kind with the same key.
     struct Siblings {
         const NodeId *first = nullptr;
         int count = 0;
@@ -79,14 +79,14 @@ private:
                  std::size_t used) const;
     FieldPath pathOf(NodeId node) const;
 
-    // Deques do not move their contents when they grow, which would take twice the memory.
+    // Deques grow without moving their contents, which would double the peak memory.
     std::deque<Node> m_nodes;
     std::deque<Unknown> m_unknown;
     TextPieces m_texts;
-    // Made when the first position is asked for.
+    // Built on the first lookup.
     mutable std::vector<NodeId> m_index;  // ordered by parent
-    mutable std::vector<NodeId> m_ends;   // in the index, of the children of each node
-    mutable std::vector<bool> m_isSorted; // whether the children of a node are, by kind and key
+    mutable std::vector<NodeId> m_ends;   // per node, the end of its children in m_index
+    mutable std::vector<bool> m_isSorted; // whether the children of a node are sorted
 };
 
 } // namespace Tano

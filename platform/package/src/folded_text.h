@@ -6,22 +6,20 @@
 
 namespace Tano {
 
-/// A line of text made of pieces. White space within it, however much, is one space, and there is
-/// none at its ends.
+/// A line of text built from pieces, with runs of white space collapsed to one space and trimmed.
 class FoldedText {
 public:
-    /// A state to go back to.
+    /// A state to rewind to.
     struct Mark {
         std::size_t size = 0;
         int gap = 0;
     };
 
-    /// Appends a piece, which may end within a word.
+    /// Appends a piece, which may end in the middle of a word.
     void append(std::string_view piece);
 
-    /// Keeps what is there and what comes apart, with a space unless punctuation does that already:
-    /// there is none before a mark such as a comma, nor beside the marks of Chinese and Japanese,
-    /// which are as wide as a letter.
+    /// Separates the text so far from the following one by a space, except before punctuation such
+    /// as a comma and beside Chinese and Japanese punctuation, which is full-width.
     void separate() {
         if (m_gap == NoGap)
             m_gap = Separator;
@@ -29,7 +27,7 @@ public:
 
     std::size_t size() const { return m_text.size(); }
     Mark mark() const { return {m_text.size(), m_gap}; }
-    /// Takes back all that was appended since `mark`.
+    /// Removes everything appended since `mark`.
     void rewind(const Mark &mark) {
         m_text.resize(mark.size);
         m_gap = mark.gap;
@@ -41,7 +39,7 @@ private:
     enum Gap { NoGap, Separator, WhiteSpace };
 
     std::string m_text;
-    int m_gap = NoGap; // between m_text and what comes
+    int m_gap = NoGap; // between m_text and the next piece
 };
 
 } // namespace Tano

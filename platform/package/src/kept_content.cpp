@@ -22,7 +22,7 @@ public:
         KeptComment comment;
         std::size_t offset;
         std::size_t size;
-        std::size_t depth; // of the open elements around it
+        std::size_t depth; // the number of open elements around it
     };
 
     void elementStarts(Element element, const std::string &key, int index,
@@ -31,7 +31,7 @@ public:
         if (!isTextsBlock(element))
             placeBeforePath(0);
     }
-    // Comments before a block without a text precede the field after the block.
+    // Comments before a text block without a text precede the field after the block.
     void elementEnds() override {
         placeBeforePath(isTextsBlock(element()) ? depth() : 0);
         PathObserver::elementEnds();
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    // Of the comments that wait for the next field, those at least as deep.
+    // Assigns the next path to the pending comments at `fromDepth` or deeper.
     void placeBeforePath(std::size_t fromDepth) {
         if (m_unplaced.empty())
             return;
@@ -65,11 +65,11 @@ private:
     }
 
     std::vector<Found> m_found;
-    std::vector<std::size_t> m_unplaced; // the shallowest first
+    std::vector<std::size_t> m_unplaced; // shallowest first
 };
 
-// Whether the start tag of an element puts it into a namespace. The default namespace around a kept
-// element is none; otherwise the element around it would be kept, too.
+// Whether the start tag of an element puts it into a namespace. No default namespace is in effect
+// around a kept element, otherwise the enclosing element would be kept, too.
 bool isInNamespace(std::string_view element) {
     using Tag = std::pair<ExpatHandle, bool>;
     Tag tag(ExpatHandle(XML_ParserCreate("UTF-8"), &XML_ParserFree), false);
@@ -88,7 +88,7 @@ bool isInNamespace(std::string_view element) {
 
 class NodeFinder : public PathObserver {
 public:
-    // The names of a node: of an attribute, or in the start tag and end tag of an element.
+    // The offsets of a node's name: one for an attribute, start and end tag for an element.
     using Offsets = std::vector<std::size_t>;
 
     void keptAttributes(std::string_view attributes, std::size_t offset) override {
@@ -110,7 +110,7 @@ public:
             std::move(names));
     }
 
-    // In the same order.
+    // Parallel to offsets().
     std::vector<UnknownNode> takeNodes() {
         countEqual(m_nodes);
         return std::move(m_nodes);
@@ -130,7 +130,7 @@ private:
     std::vector<Offsets> m_offsets;
 };
 
-// Whether a path is the same as another one, or below it: `a[0]` and `a[0].b` are below `a`.
+// Whether a path equals `outer` or lies below it: `a[0]` and `a[0].b` are below `a`.
 bool isWithin(const FieldPath &path, const FieldPath &outer) {
     const auto &steps = path.steps();
     const auto &outerSteps = outer.steps();
@@ -156,7 +156,7 @@ public:
             m_offsets.emplace(path(), offset);
     }
 
-    // The element of a field, or the one that withComment() uses for it.
+    // The element of a field, or the one that withComment() uses in its place.
     std::size_t offsetOf(FieldPath path) const {
         for (;; path = path.parent()) {
             const auto first = m_offsets.lower_bound(path);
@@ -172,7 +172,7 @@ private:
     std::map<FieldPath, std::size_t> m_offsets;
 };
 
-// With what XML does not allow in a comment taken apart.
+// Separates adjacent hyphens, which XML does not allow in comments.
 std::string commentOf(const std::string &text) {
     std::string xml(commentStart);
     const std::size_t start = xml.size();
@@ -186,7 +186,7 @@ std::string commentOf(const std::string &text) {
     return xml += commentEnd;
 }
 
-// The child of an element, or of a block of texts in it, that a step of a path names.
+// The child that a path step names, looked up in the element and in its text blocks.
 Element elementOfField(Element parent, std::string_view field) {
     for (const Element child : ruleOf(parent).children) {
         if (ruleOf(child).field == field)
@@ -198,7 +198,7 @@ Element elementOfField(Element parent, std::string_view field) {
     return Element::None;
 }
 
-// The element around a node.
+// The parent element of a node.
 Element parentOf(const UnknownNode &node) {
     Element parent = Element::Package;
     for (const FieldPath::Step &step : node.parentPath.steps()) {

@@ -8,7 +8,7 @@
 namespace Tano {
 namespace {
 
-// An element by its name, its path and, of a block of texts, its language.
+// Identifies an element by name, path and, for a text block, language.
 using Place = std::tuple<std::string, FieldPath, std::string>;
 
 Place placeOf(const KeptNode &node) {
@@ -44,7 +44,7 @@ public:
 
     std::vector<Found> &found() { return m_found; }
 
-    // The offsets of the start tags. A block that is left out has the offset of what comes next.
+    // The offsets of the start tags. An omitted block gets the offset of the next element.
     std::map<Place, std::size_t> starts(const std::string &manifest) const {
         std::map<Place, std::size_t> starts;
         for (const auto &[offset, place] : m_starts) {
@@ -72,13 +72,12 @@ private:
     std::map<std::size_t, Place> m_starts;
 };
 
-// The nodes that one element gets.
+// The nodes added to one element.
 struct Gained {
     std::string attributes;
     std::string elements;
 };
 
-// The offset of the `>` of a start tag.
 std::size_t endOfTag(const std::string &manifest, std::size_t tag) {
     char quote = 0;
     std::size_t end = tag;
@@ -115,7 +114,7 @@ public:
         }
     }
 
-    // Returns the nodes whose parent is absent.
+    // Returns the nodes whose parent does not exist.
     std::vector<KeptNode> add(const std::vector<KeptNode> &nodes) {
         std::vector<KeptNode> left;
         std::map<std::size_t, Gained> gained;

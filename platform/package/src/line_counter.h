@@ -6,11 +6,11 @@
 
 namespace Tano {
 
-/// Counts lines and columns as expat does, which would do it for every byte of the input: a line
-/// ends with LF, CR or both; a column is a character.
+/// Counts lines and columns like expat, which would do it for every byte of the input. Lines end
+/// with LF, CR or both; columns are characters.
 class LineCounter {
 public:
-    /// Advances over the next bytes, which end at the start of a character.
+    /// Advances over the next bytes, which must end at a character boundary.
     void advance(std::string_view bytes) {
         if (bytes.find('\r') != std::string_view::npos || m_endedInReturn)
             advanceSlowly(bytes);
@@ -18,7 +18,7 @@ public:
             advanceByLines(bytes);
     }
 
-    /// The position behind the bytes, counted from 1.
+    /// The position after the bytes so far, counted from 1.
     SourcePosition position() const { return {m_line, m_column}; }
 
 private:

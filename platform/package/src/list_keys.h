@@ -7,7 +7,7 @@
 
 namespace Tano {
 
-/// The key of a record; an empty text where it has none.
+/// The key of a record, empty if it has none.
 template<typename Data>
 const std::string &keyOf(const Data &data) {
     constexpr int key = keyAttributeOf<Data>();
@@ -19,8 +19,7 @@ const std::string &keyOf(const Data &data) {
     }
 }
 
-/// The text that distinguishes a record from the others of its list: its key or, without one, all
-/// of its fields.
+/// Distinguishes a record within its list: its key or, without one, all of its fields.
 template<typename Data>
 std::string distinguishingText(const Data &data) {
     if constexpr (keyAttributeOf<Data>() >= 0) {
@@ -33,7 +32,7 @@ std::string distinguishingText(const Data &data) {
     }
 }
 
-/// The distinguishing texts of a list of an owner. `language` is that of a block of texts.
+/// The keys of a list. `language` is that of its text block.
 template<typename Owner, typename Data>
 std::vector<std::string> listKeys(const Data &data, const std::string &language,
                                   const Extras::ListId &id) {

@@ -55,7 +55,7 @@ std::string ManifestAttributes::read(const ElementRule &rule, const char **attri
         }
     }
 
-    // All that are required come before what is wrong with a value.
+    // Missing attributes are reported before invalid values.
     for (std::size_t i = 0; i < known; ++i) {
         if (rule.attributes[i].isRequired() && !isPresent(i))
             return "The element " + tagged(rule.name) + " lacks the attribute " +

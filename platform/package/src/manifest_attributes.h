@@ -8,15 +8,15 @@
 
 namespace Tano {
 
-/// The attributes of the element that starts, by its rule.
+/// The attributes of the current element, checked against its rule.
 class ManifestAttributes {
 public:
-    /// Takes expat's list. Returns why the rule refuses it, in a sentence; empty after a success.
+    /// Takes expat's list. Returns an error message, empty on success.
     std::string read(const ElementRule &rule, const char **attributes);
 
-    /// Of the attributes of the rule; empty for absent ones.
+    /// The values of the rule's attributes; absent ones are empty.
     RecordBuilder::Values &values() { return m_values; }
-    /// The value that distinguishes the element from its siblings; empty for none.
+    /// The value that distinguishes the element from its siblings, empty if there is none.
     const std::string &key(const ElementRule &rule) const;
     bool hasUnknown() const { return m_hasUnknown; }
     static bool isKnown(const ElementRule &rule, std::string_view name);

@@ -11,10 +11,11 @@
 
 namespace Tano {
 
-/// The elements of a manifest, and the places around them that kept content may precede.
+/// The elements of a manifest, and pseudo-elements for the positions around them that kept content
+/// may precede.
 ///
-/// The elements below the root are numbered by the tables of fields (record_fields.h), those of one
-/// parent in a row. Within a parent, elements are written in the order of their numbers.
+/// Elements below the root are numbered by the field tables (record_fields.h), those of one parent
+/// contiguously. Within a parent, elements are written in the order of their numbers.
 enum class Element : std::uint8_t {
     Prolog, ///< before the root element
     Package,
@@ -25,14 +26,14 @@ enum class Element : std::uint8_t {
     Epilog, ///< after the root element
 };
 
-/// What an element holds.
+/// The content of an element.
 enum class Content : std::uint8_t { Elements, Text, Nothing };
 
-/// How often an element may stand in its parent.
+/// How often an element may occur in its parent.
 enum class Occurs : std::uint8_t { Once, OncePerKey, AnyTimes };
 
-/// The role of an attribute. A key distinguishes the element from its siblings; a flag
-/// is "true" or "false"; the format is the version of the format.
+/// The role of an attribute. A key distinguishes the element from its siblings; a flag is "true" or
+/// "false"; the format is the format's version.
 enum class AttributeKind : std::uint8_t { Optional, Flag, Required, Key, Format };
 
 struct AttributeRule {
@@ -69,26 +70,25 @@ private:
 /// The rules of one element.
 struct ElementRule {
     std::string_view name;
-    std::string_view field; ///< its word in the path of a field; empty for a block of texts
+    std::string_view field; ///< its name in field paths; empty for a text block
     Content content = Content::Nothing;
     Occurs occurs = Occurs::Once;
     Rows<AttributeRule> attributes;
-    int keyAttribute = -1; ///< which attribute distinguishes its siblings; -1 for none
-    bool sortedByKey =
-        false;             ///< whether it is written by ascending key, else in the author's order
-    bool isRecord = false; ///< whether it becomes a record that keeps extras of its own
+    int keyAttribute = -1;    ///< index of the attribute that distinguishes siblings, or -1
+    bool sortedByKey = false; ///< written by ascending key instead of in the author's order
+    bool isRecord = false;    ///< whether it becomes a record with its own extras
     Rows<Element> children;
 };
 
-/// The rule of an element below Element::None; the rules of all elements lie in a row.
+/// The rule of an element below Element::None; the rules of all elements are contiguous.
 const ElementRule &ruleOf(Element element);
 
-/// The index of a rule's child that has a name; the number of children for none. The search starts
-/// at `likely`, since siblings mostly come in the order of writing.
+/// The index of the child with this name, or the number of children if there is none. Starts
+/// searching at `likely`, since siblings are usually in canonical order.
 std::size_t childNamed(const ElementRule &rule, std::string_view name, std::size_t likely);
 
-/// The place of an element among its siblings: those of one kind are ordered by their key (a
-/// language, a purpose, a name), then by their index.
+/// The place of an element among its siblings, which are ordered by kind, then by key (a language,
+/// a purpose, a name), then by index.
 struct Place {
     Element element = Element::End;
     std::string_view key = {};
@@ -97,7 +97,7 @@ struct Place {
 
 bool operator<(const Place &a, const Place &b);
 
-/// A place that owns its key, which many positions share.
+/// A place with a shared key.
 struct Position {
     Element element = Element::End;
     int index = 0;
@@ -111,19 +111,19 @@ inline bool operator<(const Position &a, const Position &b) {
     return a.place() < b.place();
 }
 
-/// Whether an element is a block of the texts of one language, which is no field of its own.
+/// Whether an element is the text block of one language, which is not itself a field.
 bool isTextsBlock(Element element);
 
-/// Whether an element is an entry of the package, found by its key and then by its index among the
-/// entries with the same key.
+/// Whether an element is an entry of the package, looked up by key and then by index among the
+/// entries with this key.
 bool isEntry(Element element);
 
-/// Appends the field of an element; `texts` is the language of the block of texts around it, if
-/// any, and `index` counts the siblings with the same key.
+/// Appends the field of an element. `texts` is the language of the enclosing text block, if any;
+/// `index` counts the siblings with the same key.
 void appendField(FieldPath &path, Element element, std::string_view key, int index,
                  std::string_view texts);
 
-/// The sentence, without its middle where a long key or name makes it too long to be read.
+/// Cuts the middle of a sentence that a long key or name makes too long to read.
 std::string shortened(std::string sentence);
 
 inline constexpr std::string_view formatVersion = "1";

@@ -15,7 +15,7 @@ ManifestParser &parserAt(void *self) {
     return *static_cast<ManifestParser *>(self);
 }
 
-// Line ends as an XML processor passes them on, so that kept text has one kind of them.
+// Normalizes line ends like an XML processor, so that kept text has only one kind.
 void normalizeLineEnds(std::string &text) {
     if (text.find('\r') == std::string::npos)
         return;
@@ -30,7 +30,7 @@ void normalizeLineEnds(std::string &text) {
     text = std::move(normalized);
 }
 
-// The parser below would read UTF-16 whatever encoding it is told.
+// expat detects UTF-16 regardless of the encoding that it is given.
 bool looksLikeUtf16(std::string_view bytes) {
     using namespace std::string_view_literals;
     const std::string_view start = bytes.substr(0, 2);
@@ -182,7 +182,7 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
             return fail("The root element is " + tagged(name) + " instead of <package>.");
         if (isForeign)
             return fail("The root element <package> is in the namespace " +
-                        quoted(m_namespaces.defaultNamespace()) + "; a manifest is in none.");
+                        quoted(m_namespaces.defaultNamespace()) + "; a manifest has no namespace.");
         openFrame(Element::Package, attributes);
         return;
     }
@@ -202,7 +202,7 @@ void ManifestParser::start(std::string_view name, const XML_Char **attributes) {
     startUnknown(name, attributes);
 }
 
-// An element that is kept as raw text, or one within it.
+// Starts an unknown element, or one within it, which is kept as raw text.
 void ManifestParser::startUnknown(std::string_view name, const XML_Char **attributes) {
     const auto use = [this](const XmlNamespaces::Binding &binding) {
         if (m_open > 1)
@@ -256,8 +256,8 @@ void ManifestParser::text(std::string_view text) {
         fail("Text is not allowed in " + tagged(top().rule->name) + '.');
 }
 
-// Comments, processing instructions and unknown elements wait for the child that follows them.
-// Those at one place share an entry.
+// Comments, processing instructions and unknown elements are pending until the next child. Those at
+// the same position share an entry.
 void ManifestParser::keepRaw(std::string xml) {
     normalizeLineEnds(xml);
     xml += '\0';
@@ -334,7 +334,7 @@ bool ManifestParser::keepAttributes(Frame &frame, const XML_Char **attributes) {
     return true;
 }
 
-// A behavior or dialog knows the prefixes that it uses of the root element.
+// A behavior or dialog records the prefixes of the root element that it uses.
 void ManifestParser::useNamespace(Frame &record, const XmlNamespaces::Binding &binding) {
     constexpr int rootDepth = 1;
     if (!record.rule->isRecord || binding.depth != rootDepth)
@@ -417,8 +417,8 @@ void ManifestParser::notePositions(Frame &frame, const XML_Char **attributes) {
     }
 }
 
-// Counts lines up to an offset. The bytes that the parser has not passed lie before the room for
-// the next ones.
+// Counts lines up to an offset. The bytes that the parser has not consumed yet end at the buffer
+// for the next ones.
 SourcePosition ManifestParser::countLines(std::uint64_t offset) {
     if (offset > m_linesCounted) {
         const char *end = m_room + (std::int64_t(offset) - std::int64_t(m_fed));

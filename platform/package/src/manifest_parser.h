@@ -17,51 +17,51 @@
 
 namespace Tano {
 
-/// Why and where a manifest was refused; the message is empty while all is well.
+/// Why and where a manifest was rejected; the message is empty on success.
 struct ManifestFailure {
     std::string message;
     SourcePosition position;
 };
 
-/// Builds the record of a package from the bytes of its manifest, in one piece or as they arrive.
+/// Builds a package's record from the bytes of its manifest, passed in one or more pieces.
 ///
-/// The elements that are open stand on a stack of frames, so neither the parser nor the C++ stack
-/// grows with the input; whatever the format does not know is captured as raw text.
+/// Open elements are kept on an explicit stack of frames, so neither the parser nor the C++ stack
+/// grows with the input. Content unknown to the format is captured as raw text.
 class ManifestParser {
 public:
     explicit ManifestParser(bool keepFieldPositions);
     ManifestParser(const ManifestParser &) = delete;
     ManifestParser &operator=(const ManifestParser &) = delete;
 
-    /// Room for the next bytes, at most maxPiece of them; null once the manifest is refused.
+    /// A buffer for the next bytes, at most maxPiece of them; null after a rejection.
     ///
-    /// A manifest that comes in one piece is read a sixth faster: expat counts the lines of each
-    /// piece that is not the last one, asked for or not.
+    /// A manifest in one piece is read a sixth faster: expat counts the lines of every piece but
+    /// the last.
     char *room(std::size_t size);
-    /// Takes the bytes that were put there; returns false once the manifest is refused.
+    /// Parses the bytes written to the buffer; returns false after a rejection.
     bool feed(std::size_t size, bool isLast);
 
     static constexpr std::size_t maxPiece = std::size_t(64) << 20;
 
     const ManifestFailure &failure() const { return m_failure; }
-    /// The record, once all has been fed without a failure.
+    /// The record, once all bytes were fed successfully.
     [[nodiscard]] std::shared_ptr<PackageData> takePackage();
     FieldPositions takeFieldPositions() { return std::move(m_positions); }
 
 private:
-    // An open element that the format knows.
+    // An open element known to the format.
     struct Frame {
         Element element = Element::Package;
         const ElementRule *rule = nullptr; // of the element
         std::string key;                   // the value of its key attribute
-        int index = 0;                     // among those of its kind (and key) in the parent
+        int index = 0;                     // among the siblings of its kind (and key)
         static_assert(mostChildren <= 32);
-        std::uint32_t seen = 0;   // which children have occurred, a bit for each
-        std::size_t child = 0;    // the last one, by its index in the rule
-        std::size_t unplaced = 0; // from here on, extras->kept wait for the next child
+        std::uint32_t seen = 0;   // a bit for each child that has occurred
+        std::size_t child = 0;    // the last child, as an index in the rule
+        std::size_t unplaced = 0; // the first entry of extras->kept that waits for the next child
         SeenKeys keys;            // of the children that may not repeat
         std::shared_ptr<Extras> extras;
-        FieldPositions::NodeId node = 0; // while positions are kept
+        FieldPositions::NodeId node = 0; // if positions are kept
 
         Extras &ownExtras() {
             if (!extras)
@@ -115,12 +115,12 @@ private:
     ExpatHandle m_parser;
     ManifestFailure m_failure;
     char *m_room = nullptr;
-    std::uint64_t m_fed = 0; // before m_room
+    std::uint64_t m_fed = 0; // the bytes before m_room
     bool m_isEmpty = true;
-    const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by their numbers
+    const ElementRule *m_rules = &ruleOf(Element::Prolog); // of all elements, by number
     bool m_keepsPositions;
     FieldPositions m_positions;
-    LineCounter m_lines; // while positions are kept
+    LineCounter m_lines; // used if positions are kept
     std::uint64_t m_linesCounted = 0;
     XmlNamespaces m_namespaces;
 
@@ -135,7 +135,7 @@ private:
 
     RecordBuilder m_builder;
     std::shared_ptr<Extras> m_packageExtras;
-    std::vector<Extras::Kept> m_outside; // the root element
+    std::vector<Extras::Kept> m_outside; // content outside the root element
 };
 
 } // namespace Tano

@@ -14,13 +14,13 @@ namespace Tano {
 namespace {
 
 constexpr std::size_t streamPiece = std::size_t(64) << 10;
-// Programs that keep positions keep the record and have more to do, so that memory counts for more
-// than the last sixth of the time.
+// Programs that keep positions also keep the record, so memory matters more to them than the last
+// sixth of the time.
 constexpr std::size_t savingPiece = std::size_t(1) << 20;
 constexpr std::size_t smallPiece = std::size_t(8) << 10;
 
-// Where the bytes of a manifest come from. read() gives what is there, fewer bytes than wanted at
-// the end, and a negative count where reading failed.
+// Sources of a manifest's bytes. read() returns the number of bytes read: fewer than requested at
+// the end, negative on errors.
 
 class ContentSource {
 public:
@@ -68,9 +68,9 @@ private:
     InputFile m_input;
 };
 
-// How many bytes to ask a source for: where its end is known, one more than should be left, so that
-// fewer come there. A short manifest takes little time but, in expat's buffer, room for twice its
-// size, so it comes in pieces.
+// How many bytes to request from a source: one more than the remaining ones if the size is known,
+// so that the short count marks the end. A short manifest takes little time, but expat's buffer
+// needs twice its size, so it is read in pieces.
 template<typename Source>
 std::size_t pieceOf(const Source &source, std::size_t maxPiece) {
     if (source.isSequential())
@@ -80,7 +80,7 @@ std::size_t pieceOf(const Source &source, std::size_t maxPiece) {
     return std::min(std::size_t(left) + 1, longest);
 }
 
-// Feeds a parser until the end or a failure; returns the failure.
+// Feeds a parser until the end or a failure, which is returned.
 template<typename Source>
 ManifestFailure feedAll(ManifestParser &parser, Source &source, std::size_t maxPiece) {
     bool isLast = false;
@@ -112,7 +112,7 @@ struct ManifestReader::State {
         const bool isLong = !source.isSequential() && source.left() > qint64(hopelessLag);
         auto parser = std::make_unique<ManifestParser>(keepPositions);
         failure = feedAll(*parser, source, keepPositions ? savingPiece : ManifestParser::maxPiece);
-        // In small pieces, a tag without end is refused for that, not for what stands in it later.
+        // Read in small pieces, an unterminated tag is reported as such, and not for its contents.
         if (!failure.message.empty() && isLong && source.rewind()) {
             parser = std::make_unique<ManifestParser>(keepPositions);
             failure = feedAll(*parser, source, streamPiece);

@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
-// The rules of the elements, made from the tables of fields, and the limits that follow from them.
+// The rules of the elements, generated from the field tables, and the limits that follow from them.
 
 namespace Tano {
 
-/// The rule of the elements of a record.
+/// The rule of the element that holds a record.
 template<typename Data>
 constexpr ElementRule recordRule(std::string_view name, std::string_view field) {
     return {name,
@@ -59,7 +59,7 @@ constexpr void addRules(ElementRules &rules, OwnerList<Owner...> /*owners*/) {
      ...);
 }
 
-/// The rules of all elements, by their numbers.
+/// The rules of all elements, indexed by number.
 constexpr ElementRules makeRules() {
     ElementRules rules{};
     ElementRule &root = rules[std::size_t(Element::Package)];
@@ -69,7 +69,7 @@ constexpr ElementRules makeRules() {
     return rules;
 }
 
-/// The size of the longest list that the rule of an element has.
+/// The longest of these lists in any rule.
 template<typename Row>
 constexpr std::size_t longestList(Rows<Row> ElementRule::*list) {
     std::size_t longest = 0;
@@ -78,7 +78,7 @@ constexpr std::size_t longestList(Rows<Row> ElementRule::*list) {
     return longest;
 }
 
-/// How many elements of the format there may be within each other, from one on.
+/// The maximum nesting depth of known elements, starting from an element.
 constexpr std::size_t depthFrom(const ElementRules &rules, Element element) {
     std::size_t deepest = 0;
     for (const Element child : rules[std::size_t(element)].children)

@@ -15,7 +15,7 @@ namespace {
 
 const std::string noKey;
 
-// An element that is being written: where it stands, and what is kept in it.
+// An element being written: its position and its kept content.
 struct Node {
     const Node *parent;
     Element element;
@@ -30,7 +30,7 @@ public:
         : m_observer(observer) {}
 
     WrittenManifest package(const PackageData &package);
-    // An entry alone.
+    // Writes a single entry.
     template<typename Data>
     WrittenManifest record(Element kind, const Data &data) {
         owner<Data>({nullptr, kind, noKey, 0, data.extras.get()}, data);
@@ -38,18 +38,18 @@ public:
     }
 
 private:
-    // What is kept before or after the root element.
+    // Writes the content kept before or after the root element.
     void outside(const Extras *extras, Element place);
-    // The element of a record, or of its texts in the language that is the node's key: its
-    // attributes, and its children in the order of their rows. Without children, it is <x/>.
+    // Writes the element of a record, or of its texts in the language that is the node's key:
+    // attributes, then children in row order. Without children, it becomes <x/>.
     template<typename Owner, typename Data>
     void owner(const Node &node, const Data &data);
 
-    // What is between the tags of an element that holds elements, and its end tag.
+    // Writes the content and end tag of an element.
     template<typename WriteChildren>
     void content(const Node &node, ExtrasWalk &walk, WriteChildren &&writeChildren);
 
-    // The children that a row describes.
+    // Writes the children that a row describes.
     template<typename Owner, typename Data, typename Value>
     void children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
                   const ElementRow<Data, Value> &row);
@@ -64,13 +64,13 @@ private:
     void textsByKey(const Node &parent, ExtrasWalk &walk, Element kind, const TextMap &texts,
                     bool keepsEmptyTexts);
     void text(const Node &node, const std::string &text);
-    // The text elements of a list, one each.
+    // Writes one text element per list item.
     void list(const Node &parent, ExtrasWalk &walk, Element kind, const std::string &key,
               const std::vector<std::string> &values);
-    // The text element of a field, left out while it is empty and nothing is kept in it.
+    // Writes the text element of a field unless it is empty and has no kept content.
     void field(const Node &parent, ExtrasWalk &walk, Element kind, const std::string &key,
                const std::string &value);
-    // `values` holds one for each attribute of the rule.
+    // `values` has one value per attribute of the rule.
     void openTag(const Node &node, const std::string_view *values);
     void namespaces(const Node &node);
     void closeTag(const Node &node, std::size_t contentStart, bool onItsOwnLine);
@@ -91,7 +91,7 @@ private:
     }
 
     WriteObserver *m_observer;
-    const PackageData *m_package = nullptr; // null while an entry alone is written
+    const PackageData *m_package = nullptr; // null when a single entry is written
     std::string m_out;
     std::string m_error;
     std::size_t m_level = 0;
@@ -123,7 +123,7 @@ void addKeys(Keys &keys, const Map &map) {
         keys.push_back(&entry.first);
 }
 
-// In ascending order, each once.
+// Sorted, without duplicates.
 Keys merged(Keys keys) {
     std::sort(keys.begin(), keys.end(), [](auto *a, auto *b) { return *a < *b; });
     keys.erase(std::unique(keys.begin(), keys.end(), [](auto *a, auto *b) { return *a == *b; }),
@@ -167,7 +167,7 @@ void Writer::owner(const Node &node, const Data &data) {
     }
     ExtrasWalk walk(node.extras,
                     [&](const Extras::ListId &id) { return listKeys<Owner>(data, node.key, id); });
-    walk.before(Element::Prolog, noKey, 0, [](std::string_view) {}); // which is written already
+    walk.before(Element::Prolog, noKey, 0, [](std::string_view) {}); // already written
     content(node, walk, [&] {
         forEachElement<Owner>(
             [&](Element kind, const auto &row) { children<Owner>(node, walk, kind, data, row); });
@@ -209,7 +209,7 @@ void Writer::children(const Node &parent, ExtrasWalk &walk, Element kind, const 
     }
 }
 
-// The blocks of all languages that have texts, or in whose block something is kept.
+// The text blocks of all languages that have texts or kept content.
 template<typename Owner, typename Data>
 void Writer::children(const Node &parent, ExtrasWalk &walk, Element kind, const Data &data,
                       const TextsRow<Data> & /*row*/) {
@@ -221,7 +221,7 @@ void Writer::children(const Node &parent, ExtrasWalk &walk, Element kind, const 
         const std::size_t start = m_out.size();
         const Extras *extras = walk.child(kind, *language, 0);
         owner<Texts<Data>>({&parent, kind, *language, 0, extras}, data);
-        // A block in which all texts turned out empty says nothing.
+        // Omits a block in which all texts turned out to be empty.
         const bool isOneLine = m_out.find('\n', start + 1) == std::string::npos;
         if (!extras && isOneLine)
             m_out.resize(start);
@@ -277,7 +277,7 @@ void Writer::text(const Node &node, const std::string &text) {
     std::size_t done = 0;
     if (node.extras) {
         for (const Extras::Kept &kept : node.extras->kept) {
-            // The text may have been edited: stay within it, and before a whole character.
+            // The text may have been edited: clamp the offset to it, and to a character boundary.
             std::size_t at = std::max(done, std::min(std::size_t(kept.before.index), text.size()));
             while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U)
                 ++at;
@@ -390,10 +390,10 @@ void Writer::escaped(const Node &node, std::string_view text, EscapeFor where) {
     if (bad == std::string::npos)
         return;
     const auto byte = static_cast<unsigned char>(text[bad]);
-    fail(node, byte < 0x20
-                   ? "holds the control character " + hexadecimal(byte) + ", which XML cannot hold"
-                   : "holds the byte " + hexadecimal(byte) +
-                         ", which starts no character that XML can hold");
+    fail(node, byte < 0x20 ? "contains the control character " + hexadecimal(byte) +
+                                 ", which XML cannot represent"
+                           : "contains the byte " + hexadecimal(byte) +
+                                 ", which does not start a valid XML character");
 }
 
 void Writer::fail(const Node &node, std::string reason) {
@@ -404,7 +404,7 @@ void Writer::fail(const Node &node, std::string reason) {
                         std::move(reason) + '.');
 }
 
-// The index of a node among the entries with the same key.
+// The index of a node among the siblings with the same key.
 int Writer::indexOf(const Node &node) const {
     if (!m_package || !isEntry(node.element))
         return node.index;

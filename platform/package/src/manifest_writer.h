@@ -8,13 +8,13 @@
 
 namespace Tano {
 
-/// The result of writing: the text, or why there is none.
+/// The written text, or the reason why it cannot be written.
 struct WrittenManifest {
     std::string text;
-    std::string error; ///< a sentence that names the field; empty after a success
+    std::string error; ///< a sentence that names the field; empty on success
 };
 
-/// Follows the writing of a manifest, in order. Offsets are into its text.
+/// Observes the writing of a manifest, in document order. Offsets are positions in its text.
 class WriteObserver {
 public:
     WriteObserver() = default;
@@ -22,13 +22,13 @@ public:
     WriteObserver &operator=(const WriteObserver &) = delete;
     virtual ~WriteObserver() = default;
 
-    /// An element starts in a line of its own, whose line break is at `offset`. `index` counts the
-    /// entries of the same list, whatever their keys. A block of texts may start and end although
-    /// it is left out afterwards, since it turned out empty.
+    /// An element starts on its own line; `offset` is the position of the preceding line break.
+    /// `index` counts the entries of its list, whatever their keys. A text block may be reported
+    /// and then omitted because it turned out to be empty.
     virtual void elementStarts(Element element, const std::string &key, int index,
                                std::size_t offset) = 0;
     virtual void elementEnds() = 0;
-    /// The unknown attributes of the element that starts: Extras::attributes.
+    /// The unknown attributes of the current element: Extras::attributes.
     virtual void keptAttributes(std::string_view /*attributes*/, std::size_t /*offset*/) {}
     /// A piece of the kept content of the innermost element.
     virtual void keptPiece(std::string_view /*xml*/, std::size_t /*offset*/) {}
@@ -37,15 +37,15 @@ public:
 /// Writes the canonical manifest of a package. `observer` may be null.
 WrittenManifest writeManifest(const PackageData &package, WriteObserver *observer = nullptr);
 
-// One entry alone, as it stands in a manifest.
+// A single entry, as written in a manifest.
 WrittenManifest writeElement(const BehaviorData &behavior);
 WrittenManifest writeElement(const DialogData &dialog);
 inline WrittenManifest writeElement(const PackageData &package) {
     return writeManifest(package);
 }
 
-/// Whether two records agree in their fields and their extras. The extras agree when
-/// both are written alike.
+/// Whether two records have the same fields and the same extras, that is, extras that are written
+/// identically.
 template<typename Data>
 bool sameContent(const Data &a, const Data &b) {
     return equalFields(a, b) &&

@@ -21,7 +21,7 @@ void addOnce(PackageInfo &record, UniqueTexts PackageData::*list, const std::str
 
 void removeOnce(PackageInfo &record, UniqueTexts PackageData::*list, const std::string &value) {
     if ((RecordAccess::data(record).*list).contains(value))
-        (RecordAccess::edit(record).*list).remove(std::string(value)); // which may be in the list
+        (RecordAccess::edit(record).*list).remove(std::string(value)); // may be in the list
 }
 
 template<typename Entry>
@@ -69,8 +69,7 @@ bool removeText(PackageInfo &record, TextMap PackageData::*texts, const std::str
            (RecordAccess::edit(record).*texts).erase(code) != 0;
 }
 
-// Both are in ascending order, and most maps hold all of the keys: the next one is mostly the one
-// that is wanted.
+// Both are sorted, and most maps hold all of the keys, so the next key is usually the wanted one.
 template<typename Map>
 void addKeys(std::set<std::string> &keys, const Map &map) {
     auto next = keys.begin();
@@ -81,7 +80,7 @@ void addKeys(std::set<std::string> &keys, const Map &map) {
     }
 }
 
-// The languages of a record's lists of codes and of its texts, of its entries also.
+// Adds the languages of a record's language lists, of its texts, and of its entries.
 template<typename Data>
 void addLanguages(std::set<std::string> &codes, const Data &data) {
     forEachElement<Data>([&](Element /*child*/, const auto &row) {

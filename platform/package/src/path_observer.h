@@ -16,7 +16,7 @@
 
 namespace Tano {
 
-/// Knows the path of the innermost element that is being written.
+/// Tracks the path of the innermost element being written.
 class PathObserver : public WriteObserver {
 public:
     void elementStarts(Element element, const std::string &key, int index,
@@ -27,17 +27,17 @@ public:
     void elementEnds() override { m_open.pop_back(); }
 
 protected:
-    // How many elements are open.
+    // The number of open elements.
     std::size_t depth() const { return m_open.size(); }
     Element element() const { return m_open.back().element; }
-    // Of the block of texts that is the innermost element; empty for another one.
+    // The language of the innermost element if it is a text block, else empty.
     std::string_view language() const {
         return isTextsBlock(element()) ? m_open.back().key : std::string_view();
     }
 
     FieldPath path() const {
         FieldPath path;
-        std::string_view language; // of the block of texts around the element
+        std::string_view language; // of the enclosing text block
         for (const Open &open : m_open) {
             if (open.element != Element::Package)
                 appendField(path, open.element, open.key, open.index, language);
@@ -67,8 +67,8 @@ inline std::optional<PackageInfo> read(const std::string &manifest) {
     return package;
 }
 
-/// Whether content that `isLooked` accepts is kept anywhere in an element: without any, the
-// manifest need not be written to look for it.
+/// Whether an element has kept content that `isLooked` accepts. Without any, searching needs no
+/// written manifest.
 template<typename IsLooked>
 bool keeps(const ExtrasPointer &extras, IsLooked isLooked) {
     if (!extras)
@@ -96,7 +96,7 @@ bool keeps(const PackageInfo &package, IsLooked isLooked) {
            anyOf(package.dialogs());
 }
 
-/// Whether a piece of kept content is an element, or means attributes.
+/// Whether a piece of kept content is an element, or stands for attributes.
 inline bool isElement(std::string_view piece) {
     return piece.size() > 1 && piece[0] == '<' && piece[1] != '!' && piece[1] != '?';
 }

@@ -50,7 +50,7 @@ constexpr Visits<Visit> makeVisits(OwnerList<Owner...> /*owners*/) {
     return visits;
 }
 
-// Calls `visit` with the ChildRow of an element below the root, found in a table.
+// Calls `visit` with the ChildRow of an element below the root.
 template<typename Visit>
 void visitChild(Element element, Visit visit) {
     static constexpr Visits<Visit> visits = makeVisits<Visit>(Owners());
@@ -68,7 +68,7 @@ void store(Data &data, const AttributeRow<Data, bool> &row, std::string &value) 
     data.*row.member = value == yes;
 }
 
-// The data of a new record, which has none yet.
+// Creates the data of a new record.
 template<typename Record>
 DataOf<Record> &makeData(Record &record) {
     if constexpr (std::is_same_v<DataOf<Record>, Record>)
@@ -126,7 +126,7 @@ void RecordBuilder::text(Element element, const std::string &key, const std::str
     });
 }
 
-// The stored lists take no more room than they need.
+// Releases the spare capacity of the stored lists.
 void RecordBuilder::endTexts(Element block) {
     const auto storeList = [this](auto child) {
         using C = decltype(child);

@@ -14,7 +14,7 @@
 
 namespace Tano {
 
-/// Takes the element at `from` out and inserts it so that its new index is `to`.
+/// Moves the element at `from` so that its new index is `to`.
 template<typename Element>
 void moveWithin(std::vector<Element> &list, int from, int to) {
     const auto first = list.begin() + std::min(from, to);
@@ -22,14 +22,14 @@ void moveWithin(std::vector<Element> &list, int from, int to) {
     std::rotate(first, from < to ? first + 1 : last - 1, last);
 }
 
-/// A list of texts, each of which occurs once, in the order of their addition. Removals from a long
-/// list are applied when it is read, so that emptying it text by text takes linear time.
+/// A list of distinct texts in insertion order. Removals from a long list are deferred until it is
+/// read, so that emptying it text by text takes linear time.
 class UniqueTexts {
 public:
     operator const std::vector<std::string> &() const { return texts(); } // NOLINT: it is a list
 
     std::size_t size() const { return texts().size(); }
-    /// For texts that are known to be new.
+    /// The text must be new.
     void append(const std::string &text) {
         if (m_removed.count(text) != 0)
             static_cast<void>(texts());
@@ -44,7 +44,7 @@ public:
             m_known.insert(m_texts.begin(), m_texts.end());
         return m_known.count(text) != 0;
     }
-    /// The same before the text at an index, which is clamped to the list.
+    /// Inserts a new text before an index, which is clamped to the list.
     void insert(int index, const std::string &text) {
         static_cast<void>(texts());
         if (isIndexed())
@@ -55,7 +55,7 @@ public:
         static_cast<void>(list.texts());
         Tano::moveWithin(list.m_texts, from, to);
     }
-    /// For a text that is known to be there.
+    /// The text must be in the list.
     void remove(const std::string &text) {
         if (isIndexed()) {
             m_known.erase(text);
@@ -131,10 +131,10 @@ struct PackageData {
     ExtrasPointer extras;
 };
 
-/// The way from a record to its data and back, for the sources of this library.
+/// Converts between records and their data, for this library's sources.
 class RecordAccess {
 public:
-    /// The data of a record, which is a shared default where the record has none of its own.
+    /// The data of a record, or a shared default if it has none.
     template<typename Record>
     static const auto &data(const Record &record) {
         using Data = typename decltype(record.m_data)::element_type;
@@ -142,7 +142,7 @@ public:
         return record.m_data ? *record.m_data : empty;
     }
 
-    /// The data of a record, made its own, to be changed.
+    /// The data of a record for modification, detached first.
     template<typename Record>
     static auto &edit(Record &record) {
         using Data = typename decltype(record.m_data)::element_type;
@@ -164,21 +164,21 @@ public:
     }
 };
 
-/// The text under `key`; a shared empty text where there is none.
+/// The text for `key`, or a shared empty text.
 inline const std::string &textOf(const TextMap &texts, const std::string &key) {
     static const std::string empty;
     const auto it = texts.find(key);
     return it == texts.end() ? empty : it->second;
 }
 
-/// The list under `key`; a shared empty list where there is none.
+/// The list for `key`, or a shared empty list.
 inline const std::vector<std::string> &listOf(const TextListMap &lists, const std::string &key) {
     static const std::vector<std::string> empty;
     const auto it = lists.find(key);
     return it == lists.end() ? empty : it->second;
 }
 
-/// The keys to keep, in a form for many look-ups. Refers to the list that it was made of.
+/// A set of keys for fast lookup. Refers to the list that it was built from.
 class KeySet {
 public:
     explicit KeySet(const std::vector<std::string> &keys)
@@ -195,7 +195,7 @@ private:
     std::vector<std::string_view> m_keys;
 };
 
-/// Erases all but the entries of those keys.
+/// Erases the entries of all other keys.
 template<typename Map>
 void keepOnly(Map &map, const KeySet &keys) {
     for (auto it = map.begin(); it != map.end();)

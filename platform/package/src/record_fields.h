@@ -9,9 +9,9 @@
 #include <type_traits>
 #include <utility>
 
-// The fields of the records and the elements and attributes that hold them in a manifest, each
-// described by one row. The rules of the format, the parser, the writer and the comparison of
-// records are made from these tables; rows are in the order of writing.
+// The fields of the records and the elements and attributes that hold them in a manifest, one row
+// each. The format's rules, the parser, the writer and the comparison of records are generated from
+// these tables. Rows are in canonical order.
 
 namespace Tano {
 
@@ -22,20 +22,20 @@ inline constexpr std::string_view no = "false";
 template<typename Data>
 struct Texts;
 
-/// The rows of an owner: a record, or the texts of one.
+/// The rows of an owner, which is a record or its texts.
 template<typename Owner>
 inline constexpr auto attributesOf = std::tuple<>();
 template<typename Owner>
 inline constexpr auto elementsOf = std::tuple<>();
 
-/// The first attribute of the root element, which is no field.
+/// The first attribute of the root element, which is not a field.
 struct FormatRow {
     AttributeRule rule{"format", AttributeKind::Format};
 
     static constexpr auto members() { return std::tuple<>(); }
 };
 
-/// A text or a flag in an attribute.
+/// A text or a flag, stored in an attribute.
 template<typename Data, typename Value>
 struct AttributeRow {
     AttributeRule rule;
@@ -44,20 +44,20 @@ struct AttributeRow {
     constexpr auto members() const { return std::tuple(member); }
 };
 
-/// One child element, or any number of them. The type of the member says which:
+/// One child element or a list of them, depending on the type of the member:
 ///
 /// - a text, a list of texts, a list of entries, or a list of codes, each in the attribute `key`;
 /// - a text or a list of texts for each value of the attribute `key`;
-/// - in a block of texts, the text or list of texts in the language of the block.
+/// - in a text block, the text or list of texts in the language of the block.
 template<typename Data, typename MemberValue>
 struct ElementRow {
     using Value = MemberValue;
 
     std::string_view name;
-    std::string_view field; // its word in paths
+    std::string_view field; // its name in paths
     Value Data::*member;
     Rows<AttributeRule> key = {};
-    bool keepsEmptyTexts = false; // else an empty text is no text
+    bool keepsEmptyTexts = false; // whether an empty text counts as a text
 
     constexpr auto members() const { return std::tuple(member); }
 };
@@ -65,7 +65,7 @@ struct ElementRow {
 template<typename Owner>
 constexpr auto membersOf();
 
-/// The blocks of texts, one for each language.
+/// The text blocks, one per language.
 template<typename Data>
 struct TextsRow {
     using Value = Texts<Data>;
@@ -90,7 +90,7 @@ constexpr ElementRow<Data, std::string> element(std::string_view name, std::stri
     return element(name, name, member);
 }
 
-// An empty text is a value, too, and not the same as none.
+// Marks a row whose empty texts are values, distinct from absent ones.
 template<typename Row>
 constexpr Row withEmptyTexts(Row row) {
     row.keepsEmptyTexts = true;
@@ -194,9 +194,9 @@ inline constexpr auto elementsOf<PackageService> = std::tuple{
     withEmptyTexts(element("property", "properties", &PackageService::properties, byName)),
 };
 
-// What is made from the tables.
+// Generated from the tables.
 
-/// The owners that have child elements, in the order of their children's numbers.
+/// The owners with child elements, in the order of their children's numbers.
 template<typename... Owner>
 struct OwnerList {};
 using Owners = OwnerList<PackageData, Texts<PackageData>, BehaviorData, Texts<BehaviorData>,
@@ -206,7 +206,7 @@ template<typename Owner>
 inline constexpr std::size_t childCount =
     std::tuple_size_v<std::decay_t<decltype(elementsOf<Owner>)>>;
 
-/// The number of an owner's first child element; for no owner, the number after all of them.
+/// The number of an owner's first child element, or one past the last number if there is no owner.
 template<typename Owner, typename... All>
 constexpr std::size_t numberOfFirstChild(OwnerList<All...> /*all*/) {
     auto number = std::size_t(Element::FirstField);
@@ -216,7 +216,7 @@ constexpr std::size_t numberOfFirstChild(OwnerList<All...> /*all*/) {
     return number;
 }
 
-/// One more than the greatest number of an element of the format.
+/// One past the greatest number of a known element.
 inline constexpr std::size_t elementCount = numberOfFirstChild<void>(Owners());
 static_assert(elementCount <= std::size_t(Element::None));
 
@@ -282,7 +282,7 @@ inline constexpr bool isTexts = false;
 template<typename Data>
 inline constexpr bool isTexts<Texts<Data>> = true;
 
-/// The child element of an owner that has an equal row.
+/// The child element of an owner with an equal row.
 template<typename Owner, typename Row>
 constexpr Element elementWith(const Row &wanted) {
     Element found = Element::None;
@@ -298,13 +298,13 @@ constexpr Element elementOf(Value Data::*member) {
     return elementWith<Data>(element("", "", member));
 }
 
-/// The element of the blocks of texts of a record.
+/// The element of a record's text blocks.
 template<typename Data>
 constexpr Element textsOf() {
     return elementWith<Data>(TextsRow<Data>());
 }
 
-/// Keeps the texts of a record in the description languages, and its lists of texts in the
+/// Drops the texts of a record outside the description languages, and its text lists outside the
 /// supported ones.
 template<typename Data>
 void trimTexts(Data &data, const KeySet &descriptionCodes, const KeySet &supportedCodes) {
@@ -318,7 +318,7 @@ void trimTexts(Data &data, const KeySet &descriptionCodes, const KeySet &support
     });
 }
 
-/// Which attribute is the key of a record; -1 for none.
+/// The index of a record's key attribute, -1 if it has none.
 template<typename Data>
 constexpr int keyAttributeOf() {
     int key = -1;

@@ -10,10 +10,9 @@
 
 namespace Tano {
 
-/// The keys of the children of an element that may stand once each.
+/// The keys of an element's children that may occur only once each.
 ///
-/// Keys that come in ascending order, as they are written, cost a comparison; any other order costs
-/// a look-up.
+/// Ascending keys, as the writer produces them, cost one comparison; others cost a lookup.
 class SeenKeys {
 public:
     void clear() {
@@ -21,7 +20,7 @@ public:
         m_others.clear();
     }
 
-    /// Returns false when the key is there already.
+    /// Returns false if the key is a duplicate.
     bool add(Element element, const std::string &key) {
         Key added(element, key);
         const bool isNext = m_ascending.empty() || m_ascending.back() < added;
@@ -39,7 +38,7 @@ private:
     using Key = std::pair<Element, std::string>;
 
     std::vector<Key> m_ascending;
-    std::set<Key> m_others; // those that came when a greater one was there
+    std::set<Key> m_others; // keys smaller than the greatest one at their insertion
 };
 
 } // namespace Tano

@@ -8,10 +8,10 @@
 
 namespace Tano {
 
-// What an element gives to the plain text.
+// What an element contributes to the plain text.
 enum class Gives { Text, Nothing, FirstAlternative, Description };
 
-// Whether what stands before and after an element is kept apart.
+// When the text before and after an element is separated by a space.
 enum class Apart { Never, Always, WhenEmpty };
 
 struct ScriptElement {
@@ -50,7 +50,7 @@ constexpr std::array<ScriptElement, 23> elements{{
 }};
 constexpr ScriptElement foreignElement{{}, Gives::Text, Apart::WhenEmpty};
 
-// The root element that stands around the script, which need not have one.
+// A script need not have a root element, so it is wrapped in this one.
 constexpr std::string_view enclosingTag = "<script>";
 
 constexpr const char *endWithoutStart = "The end tag has no start tag.";
@@ -67,7 +67,7 @@ bool startsWith(std::string_view text, std::string_view start) {
     return text.substr(0, start.size()) == start;
 }
 
-// Any byte of a character beyond ASCII counts; a parser judges it later.
+// Any byte of a non-ASCII character counts; the parser validates it later.
 bool startsName(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
            static_cast<unsigned char>(c) >= 0x80;
@@ -77,7 +77,7 @@ std::string_view nameAt(std::string_view text) {
     return text.substr(0, text.find_first_of(" \t\r\n/<>"));
 }
 
-// The XML declaration at the very beginning; empty where there is none.
+// The XML declaration at the start, empty if there is none.
 std::string_view declarationOf(std::string_view script) {
     constexpr std::string_view start = "<?xml";
     if (!startsWith(script, start) || !isWhiteSpace(script.substr(start.size(), 1)))
@@ -85,7 +85,7 @@ std::string_view declarationOf(std::string_view script) {
     return script.substr(0, std::min(script.find("?>"), script.size() - 2) + 2);
 }
 
-// The number that the text begins with, which is taken off it.
+// Consumes the number at the start of the text.
 std::optional<std::uint64_t> takeNumber(std::string_view &text) {
     std::uint64_t number = 0;
     const auto [next, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -95,8 +95,8 @@ std::optional<std::uint64_t> takeNumber(std::string_view &text) {
     return number;
 }
 
-// How often at most, by a repeat of the form "n", "m-n" or "m-" (SRGS 1.0, section 2.5); nothing
-// for a malformed one.
+// The maximum of a repeat of the form "n", "m-n" or "m-" (SRGS 1.0, section 2.5); nullopt if it is
+// malformed.
 std::optional<std::uint64_t> mostOf(std::string_view repeat) {
     const auto least = takeNumber(repeat);
     auto most = least;
@@ -187,7 +187,7 @@ void SpeechScriptReader::onText(void *self, const XML_Char *text, int size) {
     static_cast<SpeechScriptReader *>(self)->text({text, std::size_t(size)});
 }
 
-// Whether nothing is read of an element that stands here.
+// Whether an element is skipped at this position.
 bool SpeechScriptReader::isSilentHere(std::string_view name) const {
     if (m_open.empty())
         return false;
@@ -200,7 +200,7 @@ void SpeechScriptReader::start(std::string_view name, const XML_Char **attribute
     if (!m_failure.empty())
         return;
     if (!std::exchange(m_isInside, true))
-        return; // the enclosing tag
+        return; // the wrapping element
     if (std::string sentence = exceededBound(m_parser.get(), name, int(m_open.size()) + 1);
         !sentence.empty())
         return fail(std::move(sentence));
@@ -254,13 +254,13 @@ void SpeechScriptReader::text(std::string_view text) {
     const Frame &frame = m_open.back();
     if (frame.element->gives == Gives::FirstAlternative) {
         if (!isWhiteSpace(text))
-            fail("There is text beside the alternatives of <one-of>; each of them is an <item>.");
+            fail("There is text between the alternatives of <one-of>; each must be an <item>.");
     } else if (!frame.isSilent && !frame.isSettled) {
         m_text.append(text);
     }
 }
 
-// How far into the script the parser is, which reads the enclosing tag too.
+// The parser's offset in the script, without the wrapping start tag.
 std::size_t SpeechScriptReader::offset() const {
     const XML_Index index = XML_GetCurrentByteIndex(m_parser.get());
     const std::size_t read = index < 0 ? 0 : std::size_t(index);
@@ -279,9 +279,9 @@ void SpeechScriptReader::fail(std::string sentence) {
 
 void SpeechScriptReader::failFromExpat() {
     constexpr std::string_view doctype = "<!DOCTYPE";
-    constexpr std::size_t doctypeLead = 2; // the parser stumbles over what follows "<!"
+    constexpr std::size_t doctypeLead = 2; // the parser reports the error after "<!"
 
-    // The enclosing element is open still, so that a complete script seems to lack its end.
+    // The wrapping element is still open, so a complete script appears to lack its end.
     const XML_Error error = XML_GetErrorCode(m_parser.get());
     const bool isEnd = error == XML_ERROR_NO_ELEMENTS;
     if (isEnd && m_open.empty())

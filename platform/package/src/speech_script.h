@@ -10,21 +10,21 @@
 
 namespace Tano {
 
-/// Whether a text holds a tag, a comment or another piece of markup. Where nothing follows that
-/// could end it, a "<" only begins a tag when the name of one of the known elements follows.
+/// Whether a text contains a tag, a comment or other markup. An unterminated "<" only counts as a
+/// tag if the name of a known element follows.
 bool isSpeechScript(std::string_view text);
 
 struct ScriptElement;
 
-/// Makes the plain text of one script.
+/// Extracts the plain text of one script.
 class SpeechScriptReader {
 public:
-    /// `script` has to live as long as the reader.
+    /// `script` must outlive the reader.
     explicit SpeechScriptReader(std::string_view script);
     SpeechScriptReader(const SpeechScriptReader &) = delete;
     SpeechScriptReader &operator=(const SpeechScriptReader &) = delete;
 
-    /// Returns false, and sets errorString(), for a script that is malformed.
+    /// On a malformed script, returns false and sets errorString().
     [[nodiscard]] bool read();
     std::string errorString() const;
     std::string takePlainText() { return m_text.take(); }
@@ -35,9 +35,9 @@ private:
         const ScriptElement *element;
         std::string name;
         FoldedText::Mark start;
-        bool isAmidSilence; // whether nothing that stands here is read
-        bool isSilent;      // whether nothing in it is read
-        bool isSettled;     // a desc, or an alternative, stands for the rest
+        bool isAmidSilence; // whether the content at this position is skipped
+        bool isSilent;      // whether all of its content is skipped
+        bool isSettled;     // a desc or an alternative has replaced the rest
     };
 
     static void onStart(void *self, const XML_Char *name, const XML_Char **attributes);
@@ -58,7 +58,7 @@ private:
     std::size_t m_declarationSize;
     ExpatHandle m_parser;
     std::uint64_t m_fed = 0;
-    bool m_isInside = false; // the enclosing element has started
+    bool m_isInside = false; // the wrapping element has started
     std::vector<Frame> m_open;
     FoldedText m_text;
     std::string m_failure;

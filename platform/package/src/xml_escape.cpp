@@ -24,8 +24,8 @@ constexpr std::array<Class, 256> makeClasses() {
 
 constexpr auto classes = makeClasses();
 
-// How many bytes the character takes that starts at `at`; 0 where it is not a character of UTF-8
-// (RFC 3629), or one outside the Char production of XML 1.0.
+// The length of the character at `at`; 0 if it is not valid UTF-8 (RFC 3629) or outside the Char
+// production of XML 1.0.
 std::size_t multiByteLength(std::string_view text, std::size_t at) {
     const auto byte = [&](std::size_t i) {
         return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0U;
@@ -74,7 +74,7 @@ std::string_view escapeOf(char c) {
 } // namespace
 
 std::size_t appendEscaped(std::string &out, std::string_view text, EscapeFor where) {
-    std::size_t start = 0; // of what stands for itself and has not been appended
+    std::size_t start = 0; // of the pending characters that need no escaping
     for (std::size_t i = 0; i < text.size();) {
         const Class kind = classes[static_cast<unsigned char>(text[i])];
         const bool standsForItself =

@@ -10,13 +10,13 @@ namespace {
 constexpr std::string_view xmlUri = "http://www.w3.org/XML/1998/namespace";
 constexpr std::string_view xmlnsUri = "http://www.w3.org/2000/xmlns/";
 
-// The prefix that a declaration binds; empty for the default namespace.
+// The prefix that a declaration binds, empty for the default namespace.
 std::string_view boundPrefix(std::string_view attribute) {
     const std::size_t colon = attribute.find(':');
     return colon == std::string_view::npos ? std::string_view() : attribute.substr(colon + 1);
 }
 
-// Whether a text may begin the part of a name after a colon, which the parser takes for a letter.
+// Whether a text may start the local part of a name; the parser accepts any letter after a colon.
 bool startsName(std::string_view text) {
     constexpr std::string_view continuesOnly = "-.0123456789";
     return !text.empty() && continuesOnly.find(text[0]) == std::string_view::npos;

@@ -11,11 +11,11 @@
 
 namespace Tano {
 
-/// The namespace declarations in scope while a document is read, and the rules of Namespaces in XML
-/// 1.0 that the XML parser does not check.
+/// The namespace declarations in scope, and the rules of Namespaces in XML 1.0 that the XML parser
+/// does not check.
 class XmlNamespaces {
 public:
-    /// A declaration in scope; `depth` is that of its element, counted from 1.
+    /// A declaration in scope; `depth` is the depth of its element, counted from 1.
     struct Binding {
         int depth;
         const std::string *uri; // equal URIs have equal pointers
@@ -29,27 +29,27 @@ public:
                (attribute.size() == word.size() || attribute[word.size()] == ':');
     }
 
-    /// Enters the declarations among the attributes, names and values in turn up to a null, of an
-    /// element. Returns a sentence about a bad one; empty for none.
+    /// Adds the declarations in an element's attributes, given as a null-terminated list of
+    /// alternating names and values. Returns a sentence about an invalid one, else an empty text.
     std::string declare(int depth, const char *const *attributes);
-    /// Leaves the declarations of the element at `depth`.
+    /// Removes the declarations of the element at `depth`.
     void leave(int depth);
     bool hasDeclarationsAt(int depth) const {
         return !m_declared.empty() && m_declared.back().depth == depth;
     }
 
-    /// The default namespace; empty for none.
+    /// The default namespace, empty if there is none.
     const std::string &defaultNamespace() const;
 
     /// The prefixes in scope.
     std::vector<std::shared_ptr<const Namespace>> declared() const;
 
-    /// Checks the name of an element, and calls `use` with the binding of its prefix.
+    /// Checks the name of an element and calls `use` with the binding of its prefix.
     template<typename Use>
     std::string checkElement(std::string_view name, Use &&use) const {
         return checkName(name, [&](const Binding &binding, std::string_view) { use(binding); });
     }
-    /// Checks the names of all attributes of an element, and calls `use` with the bindings of their
+    /// Checks the attribute names of an element and calls `use` with the bindings of their
     /// prefixes.
     template<typename Use>
     std::string checkAttributes(const char *const *attributes, Use &&use) const {

@@ -4,7 +4,7 @@ namespace Tano {
 namespace {
 
 constexpr const char *bareAmpersand =
-    "An \"&\" begins a reference here; the character itself is written &amp;.";
+    "An \"&\" starts a reference here; write &amp; for the character itself.";
 
 bool isAtAmpersand(XML_Parser parser) {
     int offset = 0;
@@ -28,7 +28,7 @@ std::string describeBadByte(XML_Parser parser) {
     if (previous == '&')
         return bareAmpersand;
     if (previous == '<')
-        return "A \"<\" begins a tag here; the character itself is written &lt;.";
+        return "A \"<\" starts a tag here; write &lt; for the character itself.";
     if (isWhiteSpace({context + offset, hasByte ? 1U : 0U}))
         return "The text is not well-formed XML.";
     if (byte < 0x20)
@@ -69,19 +69,19 @@ std::string describeXmlError(XML_Parser parser, std::string_view noun) {
     case XML_ERROR_UNCLOSED_CDATA_SECTION:
         return ends + "CDATA section.";
     case XML_ERROR_TAG_MISMATCH:
-        return "The end tag does not belong to the element that is open.";
+        return "The end tag does not match the open element.";
     case XML_ERROR_DUPLICATE_ATTRIBUTE:
         return "An attribute occurs twice on one element.";
     case XML_ERROR_UNDEFINED_ENTITY:
         return "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are.";
     case XML_ERROR_SYNTAX:
-        return "The text is not XML: it does not begin with a tag.";
+        return "The text is not XML: it does not start with a tag.";
     case XML_ERROR_BAD_CHAR_REF:
-        return "The reference is to a character that XML does not allow.";
+        return "The reference denotes a character that XML does not allow.";
     case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
         return "There is content after the end of the root element.";
     case XML_ERROR_MISPLACED_XML_PI:
-        return "The XML declaration is not at the very beginning.";
+        return "The XML declaration must be at the very start.";
     case XML_ERROR_INVALID_TOKEN:
         return describeBadByte(parser);
     default:

@@ -12,7 +12,7 @@ struct Kind {
     std::string model;
 };
 
-// By value; a deque leaves the texts where they are while it grows.
+// Indexed by value; a deque never moves its elements while it grows.
 std::deque<Kind> &kinds() {
     static std::deque<Kind> all;
     return all;

@@ -6,7 +6,7 @@
 
 namespace Mel {
 
-/// The kind of that type and model, which gets its value here where it has none yet.
+/// The kind for a type and model, registered on first use.
 Model::ROBOT_MODEL robotKind(const QString &type, const QString &model);
 
 } // namespace Mel

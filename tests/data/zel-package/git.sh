@@ -1,13 +1,13 @@
-# For lines of a shell that try merges in a git repository.
+# For shell tests that merge in a git repository.
 
 export GIT_CONFIG_GLOBAL=/dev/null GIT_CONFIG_SYSTEM=/dev/null
 export GIT_AUTHOR_NAME=A GIT_AUTHOR_EMAIL=a@example.org
 export GIT_COMMITTER_NAME=A GIT_COMMITTER_EMAIL=a@example.org
 
-# repository DRIVER OURS THEIRS: makes a new repository with two branches, whose edits of the
-# manifest are words, and goes there. The driver is in use if DRIVER is "with".
+# repository DRIVER OURS THEIRS: creates and enters a repository with two branches, which make the
+# given edits of the manifest. Uses the merge driver if DRIVER is "with".
 repository() {
-    set -f # the edits have brackets
+    set -f # the edits contain brackets
     rm -rf repository && git init -q -b ours repository && cd repository || exit
     cp "$FILES/good.xml" manifest.xml
     if [ "$1" = with ]; then
@@ -19,7 +19,7 @@ repository() {
     zel-package set manifest.xml $2 && git commit -qam ours || exit
 }
 
-# merges OURS THEIRS: how git merges the branches with and without the driver.
+# merges OURS THEIRS: merges the branches with and without the driver.
 merges() {
     for driver in without with; do
         (repository $driver "$1" "$2"

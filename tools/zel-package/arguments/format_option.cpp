@@ -15,14 +15,14 @@ const QLatin1String jsonFormat("json");
 
 QCommandLineOption formatOption() {
     return {optionName,
-            QCoreApplication::translate("zel-package", "The form of the output: text or json."),
+            QCoreApplication::translate("zel-package", "The output format: text or json."),
             QStringLiteral("FORMAT"), textFormat};
 }
 
 std::optional<OutputFormat> formatOf(const QCommandLineParser &arguments, Console &console) {
     const QString format = arguments.value(optionName);
     if (!checkWord(format, {textFormat, jsonFormat},
-                   QCoreApplication::translate("zel-package", "There is no format '%1'%2"),
+                   QCoreApplication::translate("zel-package", "Unknown format '%1'%2"),
                    QCoreApplication::translate("zel-package", "; it is either text or json."),
                    console))
         return {};

@@ -11,10 +11,10 @@ namespace ZelPackage {
 
 enum class OutputFormat { Text, Json };
 
-/// The option --format of commands that print text or JSON.
+/// The --format option of commands that print text or JSON.
 QCommandLineOption formatOption();
 
-/// What --format asks for; nothing once a wrong value has been reported.
+/// The requested format; nullopt after reporting an invalid value.
 std::optional<OutputFormat> formatOf(const QCommandLineParser &arguments, Console &console);
 
 } // namespace ZelPackage

@@ -19,8 +19,7 @@ bool looksLikeCode(const QString &text) {
     return form.match(text).hasMatch();
 }
 
-// Codes of the languages that are called so, in English or in the language itself; else the code
-// that looks most like the text.
+// The codes of the languages with this English or native name, else the most similar code.
 QStringList nearCodes(const QString &text) {
     QStringList named;
     QStringList codes;

@@ -10,13 +10,13 @@
 
 namespace ZelPackage {
 
-/// The language that an argument names by its code. A code that the table of languages does not
-/// have is taken too, if it is built as a code is (ISO 639 language, then optionally ISO 15924
-/// script and ISO 3166-1 territory, then a private-use part as in BCP 47). `message` then says so,
-/// and for any other text says what is wrong; it is empty for a known code.
+/// The language with this code. Codes that are not in the table of languages are accepted if they
+/// are well-formed (an ISO 639 language, then optionally an ISO 15924 script, an ISO 3166-1
+/// territory and a BCP 47 private-use part). `message` reports unknown or malformed codes and is
+/// empty for known ones.
 std::optional<Zel::RobotLanguage> languageArgument(const QString &code, QString &message);
 
-/// The same, with the message written to standard error.
+/// The same, but prints the message to standard error.
 std::optional<Zel::RobotLanguage> languageArgument(const QString &code, Console &console);
 
 } // namespace ZelPackage

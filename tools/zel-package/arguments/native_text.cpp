@@ -7,7 +7,7 @@ namespace {
 
 constexpr ushort byteBase = 0xDC00;
 
-// A high surrogate makes a low one half of a character.
+// After a high surrogate, a low one is half of a character.
 bool isByte(const QString &text, int at) {
     const ushort code = text.at(at).unicode();
     return code >= byteBase + 0x80 && code <= byteBase + 0xFF &&
@@ -20,7 +20,7 @@ int sequenceLength(uchar lead) {
     return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
-// The letter in front keeps a byte order mark.
+// The letter in front protects a byte order mark.
 QString decoded(const QByteArray &bytes) {
     return QString::fromUtf8(QByteArray('x' + bytes)).mid(1);
 }

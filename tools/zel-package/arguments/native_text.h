@@ -7,18 +7,18 @@
 
 namespace ZelPackage {
 
-/// Arguments and file names as text, without losing bytes that are not UTF-8: each such byte, say
-/// 0xFF, is the single surrogate U+DCFF, which no Unicode text has. nativeBytes(nativeText(bytes))
-/// is `bytes`.
+/// Represents arguments and file names as text, even if they are not valid UTF-8: each invalid
+/// byte, say 0xFF, becomes the lone surrogate U+DCFF, which no valid Unicode text contains.
+/// nativeBytes() is the inverse.
 QString nativeText(const QByteArray &bytes);
 
-/// The bytes of a text in UTF-8; those that nativeText() has kept are themselves again.
+/// The text as UTF-8, with the bytes escaped by nativeText() restored.
 std::string nativeBytes(const QString &text);
 
-/// Whether the text has bytes that are not UTF-8.
+/// Whether the text contains bytes that are not UTF-8.
 bool hasForeignBytes(const QString &text);
 
-/// The text with each such byte shown as in "<FF>".
+/// The text with each such byte shown as "<FF>".
 QString withVisibleBytes(const QString &text);
 
 } // namespace ZelPackage

@@ -9,8 +9,8 @@
 
 namespace ZelPackage {
 
-/// The first argument that has the form of an option but is none of `options`, without its value.
-/// QCommandLineParser takes "-check" for five options of one letter, of which it knows "-h".
+/// The first argument that looks like an option but is not one of `options`, without its value.
+/// QCommandLineParser splits "-check" into five single-letter options, of which it knows "-h".
 std::optional<QString> unknownOption(const QStringList &arguments,
                                      const QList<QCommandLineOption> &options);
 

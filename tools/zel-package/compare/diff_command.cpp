@@ -73,12 +73,11 @@ const ProgramCommand diffCommand{
     "diff",
     QT_TRANSLATE_NOOP("zel-package", "Compare two manifests by field"),
     QT_TRANSLATE_NOOP("zel-package", "A B [--format text|json]"),
-    QT_TRANSLATE_NOOP(
-        "zel-package",
-        "Prints the changes that lead from the manifest in A to that in B, a line for each. With "
-        "--format json, prints them as edits, which 'set A --edits' applies. The exit status is 0 "
-        "for equal manifests, 1 for different ones and 2 for an error. '-' for one of them reads "
-        "standard input."),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Prints the changes from manifest A to manifest B, one per line. With "
+                      "--format json, prints them as edits for 'set A --edits'. The exit status is "
+                      "0 if the manifests are equal, 1 if they differ, and 2 after an error. One "
+                      "of them may be '-' for standard input."),
     2,
     2,
     options,

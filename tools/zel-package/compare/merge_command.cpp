@@ -21,18 +21,18 @@ using Zel::PackageModel::MergeConflict;
 const QLatin1String pathOption("path");
 
 QList<QCommandLineOption> options() {
-    return {{{QStringLiteral("o"), outputOptionName},
-             QCoreApplication::translate(
-                 "zel-package", "Write to this file rather than OURS; '-' is standard output."),
-             QStringLiteral("OUT")},
-            {pathOption,
-             QCoreApplication::translate("zel-package",
-                                         "Call the manifest PATH in messages: git merges copies, "
-                                         "and passes the path as %P."),
-             QStringLiteral("PATH")}};
+    return {
+        {{QStringLiteral("o"), outputOptionName},
+         QCoreApplication::translate("zel-package",
+                                     "Write to this file instead of OURS; '-' is standard output."),
+         QStringLiteral("OUT")},
+        {pathOption,
+         QCoreApplication::translate("zel-package", "Use PATH for the manifest in messages: git "
+                                                    "merges copies, and passes the path as %P."),
+         QStringLiteral("PATH")}};
 }
 
-// A version of the manifest, and its name in messages.
+// A version of the manifest and its name in messages.
 struct Side {
     QString file;
     QString name;
@@ -62,13 +62,13 @@ bool hasLineWith(const std::string &content, const std::string &start) {
            content.find('\n' + start) != std::string::npos;
 }
 
-// A failed merge of git leaves such lines in a file.
+// Whether git left conflict markers after a failed merge.
 bool hasConflictMarkers(const std::string &content) {
     return hasLineWith(content, "<<<<<<< ") && hasLineWith(content, ">>>>>>> ");
 }
 
-// A side of the merge. An empty file is a package without anything: git passes one as the base of
-// files that both branches have added.
+// Reads a side of the merge. An empty file means an empty package: git passes one as the base of
+// files added in both branches.
 std::optional<Manifest> readSide(const Side &side, Console &console) {
     ManifestTrouble trouble;
     const auto content = readContent(side.file, trouble.text);
@@ -76,7 +76,8 @@ std::optional<Manifest> readSide(const Side &side, Console &console) {
         return Manifest();
     if (content && hasConflictMarkers(*content))
         trouble.text = QCoreApplication::translate(
-            "zel-package", "It has conflict markers of git; resolve these conflicts first.");
+            "zel-package",
+            "The file contains conflict markers of git; resolve these conflicts first.");
     if (content && trouble.text.isEmpty()) {
         if (auto manifest = manifestOf(*content, trouble))
             return manifest;
@@ -103,7 +104,7 @@ void report(const QString &file, const QVector<MergeConflict> &conflicts, Consol
                                        inWords(conflict));
 }
 
-// Writes the result to OURS unless another program has changed it since.
+// Writes the result to OURS, unless the file was changed in the meantime.
 bool saveOurs(const QString &file, const Manifest &ours, const std::string &content,
               Console &console) {
     if (content == ours.content)
@@ -157,12 +158,12 @@ const ProgramCommand mergeCommand{
     QT_TRANSLATE_NOOP("zel-package", "BASE OURS THEIRS [-o OUT] [--path PATH]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Merges the changes that lead from BASE to THEIRS into OURS, field by field. Where both "
-        "sides changed a field differently, OURS stays, and a comment before the field holds both "
+        "Merges the changes from BASE to THEIRS into OURS, field by field. If both sides changed a "
+        "field differently, the value in OURS is kept, and a comment before the field shows both "
         "values; 'validate' reports it until it is removed. The exit status is 0 after a merge "
-        "without conflicts, 1 after one with conflicts, and 2 for an error, which leaves OURS "
-        "unchanged. An empty file is a manifest without any field. '-' for one of the files reads "
-        "standard input."),
+        "without conflicts, 1 after a merge with conflicts, and 2 after an error, which leaves "
+        "OURS unchanged. An empty file is a manifest without fields. One of the files may be '-' "
+        "for standard input."),
     3,
     3,
     options,

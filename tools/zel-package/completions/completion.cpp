@@ -29,7 +29,7 @@ QStringList after(const QString &start, const QStringList &words) {
     return result;
 }
 
-// The words of "text|json" behind an option in the usage.
+// The alternatives in "text|json", which follows an option in the usage.
 QStringList alternatives(const ProgramCommand &command, const QString &option) {
     const QRegularExpression form(u'-' % QRegularExpression::escape(option) %
                                   QStringLiteral(R"( ([a-z]+(\|[a-z]+)+))"));
@@ -48,7 +48,7 @@ QStringList valuesOf(const ProgramCommand &command, const QCommandLineOption &op
     return after(typed.left(typed.lastIndexOf(u',') + 1), ids);
 }
 
-// The option with a value that a word is, by "--name" or "-n"; null for none.
+// The option, with a value, that a word names as "--name" or "-n"; null if there is none.
 const QCommandLineOption *optionOf(const QString &word, const QList<QCommandLineOption> &options) {
     const QString name = word.mid(word.startsWith(QLatin1String("--")) ? 2 : 1);
     const auto it = std::find_if(options.begin(), options.end(), [&](const auto &option) {
@@ -64,7 +64,8 @@ QStringList labels(const QList<QCommandLineOption> &options) {
     return result;
 }
 
-// By the placeholder in the usage, for example the second of "FILE FIELD... [--option]".
+// Completes an argument from its placeholder in the usage, such as the second of "FILE FIELD...
+// [--option]".
 QStringList arguments(const ProgramCommand &command, const QStringList &before,
                       const QString &typed) {
     const QStringList usage =

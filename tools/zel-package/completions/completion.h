@@ -4,10 +4,9 @@
 
 namespace ZelPackage {
 
-/// What the last of the words can be completed to, for the scripts beside this file. `words` are
-/// the arguments of the program as far as they are typed, the last of them maybe empty. Each
-/// candidate begins with it; one that ends with "=", "[", "." or "," is to be continued. None where
-/// only the name of a file fits.
+/// Completes the last of the words, for the scripts beside this file. `words` are the program's
+/// arguments so far, the last of which may be empty. Each candidate starts with it; candidates that
+/// end with "=", "[", "." or "," need more input. Empty if only a file name fits.
 QStringList completions(const QStringList &words);
 
 } // namespace ZelPackage

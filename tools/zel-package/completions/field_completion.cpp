@@ -14,13 +14,13 @@ namespace {
 using Tano::FieldPath;
 using Zel::PackageModel::FieldKind;
 
-// One candidate a line: none may hold a line feed.
+// Candidates are printed one per line, so they cannot contain a line feed.
 bool isPrintable(const QString &text) {
     const auto codes = text.toUcs4();
     return std::none_of(codes.begin(), codes.end(), isUnprintable);
 }
 
-// "behaviors[+]." or "supportedLanguages[+]=" behind a list.
+// "behaviors[+]." or "supportedLanguages[+]=", offered after a list.
 QString additionTo(const FieldPath &list) {
     const FieldPath end = FieldPath(list).end();
     const auto form = Zel::PackageModel::formOf(end);

@@ -1,12 +1,13 @@
 # bash completion for zel-package                                          -*- shell-script -*-
 
-# Neither what is typed nor what the program prints is ever expanded: "compgen -W" would run it.
+# Never expands user input or the program's output: "compgen -W" would execute it.
 _zel_package() {
     local line=${COMP_LINE:0:COMP_POINT} word i
     local -a words=()
     COMPREPLY=()
 
-    # Bash splits words at "=" and ":"; join what no space separates. The last one ends at the cursor.
+    # Bash splits words at "=" and ":"; join the parts not separated by spaces. The last word ends
+    # at the cursor.
     for ((i = 0; i <= COMP_CWORD; i++)); do
         if ((i == 0)) || [[ $line == [[:space:]]* ]]; then
             line=${line#"${line%%[![:space:]]*}"}
@@ -18,7 +19,7 @@ _zel_package() {
         line=${line#"$word"}
     done
 
-    # One level of quotes off.
+    # Remove one level of quotes.
     local quote=
     for i in "${!words[@]}"; do
         quote=
@@ -32,7 +33,7 @@ _zel_package() {
         esac
     done
 
-    # Of a word with "=", bash replaces what follows the last one.
+    # In a word with "=", bash only replaces the part after the last one.
     local current=${words[-1]} done=
     [[ $COMP_WORDBREAKS == *=* && $current == *[=:]* && -z $quote ]] && done=${current%"${current##*[=:]}"}
     while IFS= read -r word; do
@@ -41,4 +42,4 @@ _zel_package() {
         [[ -z $quote && $word == *[!A-Za-z0-9_.,=@+:/[\]-]* ]] && printf -v word %q "$word"
         COMPREPLY+=("$word")
     done < <("${words[0]}" --complete "${words[@]:1}" 2>/dev/null)
-} && complete -o default -F _zel_package zel-package # where there are no words: names of files
+} && complete -o default -F _zel_package zel-package # without words: file names

@@ -6,6 +6,6 @@ function __zel_package_complete
     $words[1] --complete $words[2..-1] "$current" 2>/dev/null
 end
 
-# Names of files only where there are no words.
+# File names only if there are no words.
 complete --command zel-package --condition 'test -n "$(__zel_package_complete)"' --no-files
 complete --command zel-package --arguments '(__zel_package_complete)'

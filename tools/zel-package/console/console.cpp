@@ -17,7 +17,7 @@ namespace {
 constexpr int defaultWidth = 80;
 constexpr int smallestWidth = 40;
 
-// 0 for an unknown one.
+// The terminal's width, 0 if unknown.
 int outputWidth(int stream) {
     bool isNumber = false;
     const int columns = qEnvironmentVariableIntValue("COLUMNS", &isNumber);
@@ -29,7 +29,7 @@ int outputWidth(int stream) {
     return std::max(smallestWidth, int(size.ws_col));
 }
 
-// Whether it knows more than to write one character after another.
+// Whether the terminal supports escape sequences.
 bool isCapableTerminal(int stream) {
     return isatty(stream) && qgetenv("TERM") != "dumb";
 }
@@ -61,7 +61,7 @@ Console::Console(int results)
     , m_canShowProgress(isCapableTerminal(STDERR_FILENO)) {
     if (!m_output.open(results, QIODevice::WriteOnly))
         m_writeError = m_output.errorString();
-    // Where standard error cannot be opened there is nowhere left to say so.
+    // If standard error cannot be opened, there is no way to report that.
     static_cast<void>(m_messages.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered));
 }
 
@@ -86,7 +86,7 @@ QString Console::shown(const QString &text, const QString &kept) const {
 void Console::write(const std::string &bytes) {
     removeProgress();
     const auto size = qint64(bytes.size());
-    // A short write does not say why it is; the next one does.
+    // A short write gives no reason; the next one fails with it.
     for (qint64 done = 0; done < size && m_writeError.isEmpty();) {
         const qint64 written = m_output.write(bytes.data() + done, size - done);
         if (written <= 0)
@@ -96,7 +96,7 @@ void Console::write(const std::string &bytes) {
 }
 
 void Console::printMessage(const QString &message) {
-    // What was printed before stands before it, should both go to the same place.
+    // Keeps the order of results and messages if both streams have the same target.
     removeProgress();
     flush();
     m_messages.write((QStringLiteral("zel-package: ") % printable(message) % u'\n').toUtf8());
@@ -141,9 +141,8 @@ bool Console::finish() {
     flush();
     if (m_writeError.isEmpty())
         return true;
-    printMessage(
-        QCoreApplication::translate("zel-package", "Standard output cannot be written: %1.")
-            .arg(m_writeError));
+    printMessage(QCoreApplication::translate("zel-package", "Cannot write to standard output: %1.")
+                     .arg(m_writeError));
     return false;
 }
 

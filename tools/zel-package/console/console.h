@@ -10,60 +10,61 @@
 
 namespace ZelPackage {
 
-/// How a command ends, as the program's exit status; of several, the greatest counts.
+/// The result of a command and the program's exit status; the greatest one wins.
 enum ExitStatus { Fine = 0, Findings = 1, Failure = 2 };
 
-/// How a text stands out on a terminal.
+/// How a text is highlighted on a terminal.
 enum class Style { Plain, Heading, Faint, Good, Caution, Bad };
 
-/// Standard output, which takes the results, and standard error, which takes summaries and
-/// troubles. Both are written in UTF-8, whatever the locale.
+/// Standard output for results, and standard error for summaries and errors. Both are written in
+/// UTF-8, whatever the locale.
 class Console {
 public:
     enum class Color { Auto, Always, Never };
 
-    /// With STDERR_FILENO, results go to standard error too.
+    /// With STDERR_FILENO, results go to standard error as well.
     explicit Console(int results = STDOUT_FILENO);
 
-    /// Whether styled() has an effect; by default, as the terminal and the environment have it.
+    /// Overrides whether styled() has an effect; by default, that depends on terminal and
+    /// environment.
     void setColor(Color color);
     /// Whether results go to a terminal.
     bool isTerminal() const { return m_isTerminal; }
 
-    /// Writes to standard output, the bytes of nativeText() as they were. A failure shows in
-    /// finish().
+    /// Writes to standard output, restoring the bytes escaped by nativeText(). finish() reports
+    /// errors.
     void print(const QString &text);
-    /// Writes content in UTF-8; on a terminal it is printable, apart from tabs and line feeds.
+    /// Writes UTF-8 content; on a terminal, escapes control characters except tabs and line feeds.
     void printBytes(const std::string &bytes);
 
-    /// A file name or a part of a file as standard output gets it: printable on a terminal, apart
-    /// from the characters in `kept`; unchanged elsewhere, for programs that read it.
+    /// A file name, or part of a file, for standard output: made printable on a terminal, except
+    /// for the characters in `kept`; unchanged elsewhere, for programs that read it.
     QString shown(const QString &text, const QString &kept = {}) const;
 
-    // To standard error, as "zel-package: FILE:LINE:COLUMN: message". Control characters are
+    // Write to standard error as "zel-package: FILE:LINE:COLUMN: message", with control characters
     // escaped.
 
     void printMessage(const QString &message);
     void printMessage(const QString &file, const QString &message);
     void printMessage(const QString &file, Tano::SourcePosition position, const QString &message);
 
-    /// Shows how far the work has got, in a line on the terminal that gives way to whatever is
-    /// written next; an empty text removes it. Does nothing where standard error is no terminal.
+    /// Shows the progress in a line on the terminal, which the next output replaces; an empty text
+    /// removes it. Does nothing unless standard error is a terminal.
     void showProgress(const QString &text);
 
-    /// Writes out what is held back. Returns false, once it has told why, when not everything that
-    /// was printed has been written.
+    /// Flushes the output. If not everything could be written, reports the reason and returns
+    /// false.
     [[nodiscard]] bool finish();
 
-    /// The columns of standard output, at least 40: those of the variable COLUMNS or else of the
-    /// terminal; 80 where there is neither.
+    /// The width of standard output in columns, at least 40: from COLUMNS, else of the terminal,
+    /// else 80.
     int width() const;
-    /// The same for tables, which other programs read line by line: unlimited where there is
-    /// neither.
+    /// Like width() for tables, which other programs read line by line: unlimited without COLUMNS
+    /// and terminal.
     int tableWidth() const;
 
-    /// The text as it looks in a style; itself where standard output is no terminal, and
-    /// where the environment sets NO_COLOR (no-color.org).
+    /// Applies a style; returns the text unchanged unless standard output is a terminal, or if
+    /// NO_COLOR is set (no-color.org).
     QString styled(const QString &text, Style style) const;
 
 private:
@@ -74,7 +75,7 @@ private:
     QFile m_output;
     QFile m_messages;
     QString m_writeError;
-    int m_width; // 0 for an unknown one
+    int m_width; // 0 if unknown
     bool m_isTerminal;
     bool m_isColored;
     bool m_canShowProgress;

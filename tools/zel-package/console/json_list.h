@@ -7,7 +7,7 @@
 
 namespace ZelPackage {
 
-/// Writes a list of JSON objects, each at once and on a line of its own.
+/// Writes a list of JSON objects incrementally, one per line.
 class JsonList {
 public:
     explicit JsonList(Console &console)
@@ -24,7 +24,7 @@ private:
     bool m_isEmpty = true;
 };
 
-/// Writes a form that is one list: {"format": 1, "NAME": [...]}.
+/// Writes a document with a single list: {"format": 1, "NAME": [...]}.
 class JsonListForm {
 public:
     JsonListForm(QLatin1String name, Console &console)

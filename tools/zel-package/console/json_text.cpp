@@ -12,7 +12,7 @@ QString printableJson(const QByteArray &bytes) {
     const QString json = QString::fromUtf8(bytes);
     QString result;
     result.reserve(json.size());
-    // Such characters occur only within texts; a line feed only between them.
+    // Such characters only occur within strings, line feeds only between them.
     for (const QChar character : json) {
         if (character != u'\n' && isUnprintable(character.unicode()))
             result += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QChar(u'0'));

@@ -6,11 +6,11 @@
 
 namespace ZelPackage {
 
-/// JSON text in UTF-8 as it is printed: what would garble a terminal is escaped, which JSON by
-/// itself does only in part.
+/// JSON as printable UTF-8: escapes characters that could garble a terminal, which JSON requires
+/// only for some of them.
 QString printableJson(const QByteArray &json);
 
-/// The object as printable JSON text.
+/// The object as printable JSON.
 QString jsonText(const QJsonObject &object, QJsonDocument::JsonFormat format);
 
 } // namespace ZelPackage

@@ -59,7 +59,7 @@ QString LabeledList::toText(const Console &console, int indent, int labelWidth) 
             isMarked ? console.styled(QStringLiteral("!"), Style::Caution) : QStringLiteral(" ");
         label += QString(indent - 1, u' ') % console.styled(field.label, Style::Faint);
         const int labelSpace = textColumn - indent - displayWidth(field.label);
-        // A label too long for its column gets a line of its own.
+        // A label that does not fit into its column gets a separate line.
         label += labelSpace < gap ? u'\n' % QString(textColumn, u' ') : QString(labelSpace, u' ');
 
         QString margin = label;

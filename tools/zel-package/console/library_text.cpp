@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char *context = "Tano";
 
-// Where several match, the first counts. %1, %2... come in this order.
+// The first match counts. %1, %2... occur in this order.
 constexpr std::array sentences{
     // Reading XML.
     QT_TRANSLATE_NOOP("Tano", "There is not enough memory for the manifest."),
@@ -22,11 +22,11 @@ constexpr std::array sentences{
     QT_TRANSLATE_NOOP("Tano", "The encoding \"%1\" is not supported; a manifest is UTF-8."),
     QT_TRANSLATE_NOOP("Tano", "A document type declaration is not allowed."),
     QT_TRANSLATE_NOOP("Tano",
-                      "An \"&\" begins a reference here; the character itself is written &amp;."),
+                      "An \"&\" starts a reference here; write &amp; for the character itself."),
     QT_TRANSLATE_NOOP("Tano", "A NUL byte is not allowed."),
     QT_TRANSLATE_NOOP("Tano", "The bytes here are not valid UTF-8, or encode a character that "
                               "XML does not allow."),
-    QT_TRANSLATE_NOOP("Tano", "A \"<\" begins a tag here; the character itself is written &lt;."),
+    QT_TRANSLATE_NOOP("Tano", "A \"<\" starts a tag here; write &lt; for the character itself."),
     QT_TRANSLATE_NOOP("Tano", "The text is not well-formed XML."),
     QT_TRANSLATE_NOOP("Tano", "The text is not well-formed XML: %1."),
     QT_TRANSLATE_NOOP("Tano", "A control character is not allowed."),
@@ -35,14 +35,14 @@ constexpr std::array sentences{
     QT_TRANSLATE_NOOP("Tano", "The manifest ends in the middle of a CDATA section."),
     QT_TRANSLATE_NOOP("Tano", "The script ends in the middle of a tag or character."),
     QT_TRANSLATE_NOOP("Tano", "The script ends in the middle of a CDATA section."),
-    QT_TRANSLATE_NOOP("Tano", "The end tag does not belong to the element that is open."),
+    QT_TRANSLATE_NOOP("Tano", "The end tag does not match the open element."),
     QT_TRANSLATE_NOOP("Tano", "An attribute occurs twice on one element."),
     QT_TRANSLATE_NOOP("Tano",
                       "The entity is not defined; only &amp;, &lt;, &gt;, &quot; and &apos; are."),
-    QT_TRANSLATE_NOOP("Tano", "The text is not XML: it does not begin with a tag."),
-    QT_TRANSLATE_NOOP("Tano", "The reference is to a character that XML does not allow."),
+    QT_TRANSLATE_NOOP("Tano", "The text is not XML: it does not start with a tag."),
+    QT_TRANSLATE_NOOP("Tano", "The reference denotes a character that XML does not allow."),
     QT_TRANSLATE_NOOP("Tano", "There is content after the end of the root element."),
-    QT_TRANSLATE_NOOP("Tano", "The XML declaration is not at the very beginning."),
+    QT_TRANSLATE_NOOP("Tano", "The XML declaration must be at the very start."),
     QT_TRANSLATE_NOOP("Tano", "The name of a processing instruction, \"%1\", cannot contain a "
                               "colon."),
     QT_TRANSLATE_NOOP("Tano",
@@ -53,8 +53,9 @@ constexpr std::array sentences{
     QT_TRANSLATE_NOOP("Tano", "The attribute \"%1\" occurs twice in the same namespace."),
     // Reading manifests.
     QT_TRANSLATE_NOOP("Tano", "The root element is <%1> instead of <package>."),
-    QT_TRANSLATE_NOOP("Tano", "The root element <package> is in the namespace \"%1\"; a manifest "
-                              "is in none."),
+    QT_TRANSLATE_NOOP(
+        "Tano",
+        "The root element <package> is in the namespace \"%1\"; a manifest has no namespace."),
     QT_TRANSLATE_NOOP("Tano", "Text is not allowed in <%1>."),
     QT_TRANSLATE_NOOP("Tano", "The element %1 occurs twice in %2."),
     QT_TRANSLATE_NOOP("Tano", "The manifest is empty."),
@@ -71,13 +72,14 @@ constexpr std::array sentences{
     QT_TRANSLATE_NOOP("Tano", "More than %1 elements are nested."),
     QT_TRANSLATE_NOOP("Tano", "The element <%1> has more than %2 attributes."),
     // Writing manifests.
-    QT_TRANSLATE_NOOP("Tano", "The field %1 holds the control character %2, which XML cannot "
-                              "hold."),
-    QT_TRANSLATE_NOOP("Tano", "The package holds the control character %1, which XML cannot hold."),
-    QT_TRANSLATE_NOOP("Tano", "The field %1 holds the byte %2, which starts no character that XML "
-                              "can hold."),
-    QT_TRANSLATE_NOOP("Tano", "The package holds the byte %1, which starts no character that XML "
-                              "can hold."),
+    QT_TRANSLATE_NOOP(
+        "Tano", "The field %1 contains the control character %2, which XML cannot represent."),
+    QT_TRANSLATE_NOOP("Tano",
+                      "The package contains the control character %1, which XML cannot represent."),
+    QT_TRANSLATE_NOOP(
+        "Tano", "The field %1 contains the byte %2, which does not start a valid XML character."),
+    QT_TRANSLATE_NOOP(
+        "Tano", "The package contains the byte %1, which does not start a valid XML character."),
     QT_TRANSLATE_NOOP("Tano", "The field %1 cannot be saved: its key is longer than 4 KiB."),
     QT_TRANSLATE_NOOP("Tano", "The field %1 is too long to be saved: a tag holds at most 1 MiB."),
     QT_TRANSLATE_NOOP("Tano", "The package is too long to be saved: a tag holds at most 1 MiB."),
@@ -93,15 +95,15 @@ constexpr std::array sentences{
                               "root."),
     QT_TRANSLATE_NOOP("Tano", "The repeat \"%1\" is malformed; it is a number, or a range such as "
                               "0-1 or 1-."),
-    QT_TRANSLATE_NOOP("Tano", "There is text beside the alternatives of <one-of>; each of them is "
-                              "an <item>."),
+    QT_TRANSLATE_NOOP(
+        "Tano", "There is text between the alternatives of <one-of>; each must be an <item>."),
     QT_TRANSLATE_NOOP("Tano", "The script ends while %1 is open."),
     // Files.
     QT_TRANSLATE_NOOP("Tano", "The file \"%1\" cannot be saved: %2. The old content of \"%3\" is "
                               "lost: %4."),
     QT_TRANSLATE_NOOP("Tano", "The file \"%1\" cannot be saved: %2."),
     QT_TRANSLATE_NOOP("Tano", "it is a symbolic link"),
-    QT_TRANSLATE_NOOP("Tano", "it is a link to a file that is not there"),
+    QT_TRANSLATE_NOOP("Tano", "it is a link to a missing file"),
     QT_TRANSLATE_NOOP("Tano", "it is not a regular file"),
     QT_TRANSLATE_NOOP("Tano", "another program has locked it"),
     QT_TRANSLATE_NOOP("Tano", "another program has changed it since it was read"),
@@ -137,9 +139,9 @@ QString translatedText(const QString &text) {
             continue;
         QString result = QCoreApplication::translate(context, pattern.source);
         QStringList arguments = match.capturedTexts().mid(1);
-        for (QString &argument : arguments) // it may be a reason
+        for (QString &argument : arguments) // may be a reason
             argument = translatedText(argument);
-        // QString::arg() would take a "%1" in an argument for a placeholder.
+        // QString::arg() would treat a "%1" in an argument as a placeholder.
         static const QRegularExpression placeholder(QStringLiteral("%([1-9])"));
         QString filled;
         int done = 0;

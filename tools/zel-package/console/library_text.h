@@ -6,11 +6,11 @@
 
 namespace ZelPackage {
 
-/// A sentence of the libraries below the model, which are in English, in the language of the
-/// application. One without a translation is itself.
+/// Translates an English message of the libraries below the model. Returns it unchanged if there is
+/// no translation.
 QString translatedSentence(const std::string &sentence);
 
-/// A reason that such a sentence ends with, for example "it is a device", as a sentence.
+/// Translates the reason at the end of such a message, for example "it is a device", as a sentence.
 QString reasonSentence(const std::string &reason);
 
 } // namespace ZelPackage

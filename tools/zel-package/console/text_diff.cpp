@@ -29,7 +29,7 @@ bool isChange(const ScriptLine &line) {
     return line.change != Change::None;
 }
 
-// Each line with its line feed, so that a last line without one differs from one with it.
+// The lines with their line feeds, so that a missing one at the end counts as a difference.
 Lines linesOf(std::string_view text) {
     Lines lines;
     while (!text.empty()) {
@@ -40,9 +40,9 @@ Lines linesOf(std::string_view text) {
     return lines;
 }
 
-// The shortest way from one list of lines to another (E. W. Myers, "An O(ND) Difference Algorithm
-// and Its Variations", 1986): the farthest points that are reached with 0, 1, 2... differences, one
-// on each diagonal, are kept, and the way is found from the end back.
+// Computes the shortest edit script (E. W. Myers, "An O(ND) Difference Algorithm and Its
+// Variations", 1986). Keeps the farthest points reached with 0, 1, 2... differences on each
+// diagonal, and traces the path back from the end.
 class ShortestScript {
 public:
     ShortestScript(const Lines &before, const Lines &after)
@@ -63,12 +63,12 @@ public:
     }
 
 private:
-    // How far into the old text, on the diagonals -d, -d + 2 ... d.
+    // The positions in the old text, on the diagonals -d, -d + 2 ... d.
     using Round = std::vector<int>;
 
     int newPosition(int oldPosition, int diagonal) const { return oldPosition - diagonal; }
 
-    // Whether a diagonal is best reached by adding a line, from the one above it.
+    // Whether a diagonal is reached from the one above, by adding a line.
     static bool isAddition(const Round &last, int d, int diagonal) {
         const auto at = std::size_t((diagonal + d) / 2);
         return diagonal == -d || (diagonal != d && last[at - 1] < last[at]);
@@ -127,7 +127,7 @@ private:
     std::vector<Round> m_farthest;
 };
 
-// What is the same at both ends stays out of the search.
+// Common lines at both ends need no search.
 Script editScript(Lines before, Lines after) {
     const auto prefix =
         std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first -
@@ -153,8 +153,8 @@ Script editScript(Lines before, Lines after) {
     return head;
 }
 
-// The end of the hunk whose first change is at `change`: further changes belong to it as long as
-// their contexts touch.
+// The end of the hunk that starts at `change`, which includes further changes while their contexts
+// touch.
 std::size_t endOfHunk(const Script &script, std::size_t change) {
     std::size_t lastChange = change;
     for (std::size_t i = change; i < script.size() && i - lastChange <= 2 * contextLines + 1; ++i) {
@@ -168,13 +168,13 @@ QString printed(char mark, std::string_view line, Style style, const Console &co
     const bool isEnded = !line.empty() && line.back() == '\n';
     if (isEnded)
         line.remove_suffix(1);
-    // Behind the mark, so that a byte order mark is kept.
+    // After the mark, so that a byte order mark is kept.
     const QString text = QString::fromStdString(mark + std::string(line));
     return console.styled(console.shown(text, QStringLiteral("\t")), style) %
            (isEnded ? QStringLiteral("\n") : QStringLiteral("\n\\ No newline at end of file\n"));
 }
 
-// Of lines that change at the same place, those that go stand before those that come.
+// Removed lines precede the lines that replace them.
 QString printed(Script::const_iterator begin, Script::const_iterator end, const Console &console) {
     QString text;
     while (begin != end) {
@@ -193,7 +193,8 @@ QString printed(Script::const_iterator begin, Script::const_iterator end, const 
     return text;
 }
 
-// "12,7": the first line, counted from 1, or the one before where there are none, and how many.
+// "12,7": the first line, counted from 1, and the number of lines. If there are none, the line
+// before.
 QString range(std::ptrdiff_t first, std::ptrdiff_t count) {
     const QString start = QString::number(count == 0 ? first - 1 : first);
     return count == 1 ? start : start % u',' % QString::number(count);
@@ -213,7 +214,7 @@ QString unifiedDiff(const QString &name, const std::string &before, const std::s
     QString text;
     std::ptrdiff_t oldLine = 1;
     std::ptrdiff_t newLine = 1;
-    std::size_t end = 0; // of the last hunk
+    std::size_t end = 0; // of the previous hunk
     for (std::size_t change = 0; change < script.size(); ++change) {
         if (change < end || !isChange(script[change]))
             continue;

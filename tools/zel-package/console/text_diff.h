@@ -9,21 +9,21 @@
 
 namespace ZelPackage {
 
-/// The changes that lead from one UTF-8 text to another, in the unified format with three lines of
-/// context, which POSIX diff -u writes and patch reads; empty when there are none. `name`, as in
-/// patchNames(), is that of both texts. On a terminal it is styled, and lines are shown by
-/// Console::shown(); elsewhere the lines are unchanged, so that patch can apply them.
+/// The difference of two UTF-8 texts in the unified format with three lines of context, as POSIX
+/// diff -u writes and patch reads; empty if they are equal. Both texts have the name `name`, see
+/// patchNames(). On a terminal, output is styled and made printable by Console::shown(); elsewhere
+/// lines are unchanged, so that patch can apply them.
 QString unifiedDiff(const QString &name, const std::string &before, const std::string &after,
                     const Console &console);
 
-/// Lines of a text that give way to others.
+/// A range of lines and its replacement.
 struct LineChange {
-    int firstLine;     ///< counted from 1; for an insertion, the line that follows it
-    int count;         ///< of the lines that are replaced
-    std::string lines; ///< the new ones, each with its line feed
+    int firstLine;     ///< counted from 1; for an insertion, the following line
+    int count;         ///< the number of replaced lines
+    std::string lines; ///< the replacement, with line feeds
 };
 
-/// The changes that lead from one text to another, from the first line to the last.
+/// The changes between two texts, from the first line to the last.
 std::vector<LineChange> lineChanges(const std::string &before, const std::string &after);
 
 } // namespace ZelPackage

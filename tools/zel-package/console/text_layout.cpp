@@ -16,21 +16,21 @@ struct Range {
     uint last;
 };
 
-// What Unicode calls ignorable, and other categories than that of formats include.
+// Default-ignorable characters outside the format category (Cf).
 constexpr std::array invisible{Range{0x034F, 0x034F},  Range{0x115F, 0x1160}, Range{0x17B4, 0x17B5},
                                Range{0x180B, 0x180F},  Range{0x2065, 0x2065}, Range{0x3164, 0x3164},
                                Range{0xFE00, 0xFE0F},  Range{0xFFA0, 0xFFA0}, Range{0xFFF0, 0xFFF8},
                                Range{0xE0000, 0xE0FFF}};
 
-// Joiners and variation selectors change the shape of emoji and of letters of some scripts. After
-// others they only hide.
+// Joiners and variation selectors shape emoji and the letters of some scripts. After other
+// characters, they are only invisible.
 bool shapes(uint code, uint base) {
     constexpr uint firstShaped = 0x0600; // beyond the alphabets without joining letters
     return base >= firstShaped &&
            (code == 0x200C || code == 0x200D || code == 0xFE0E || code == 0xFE0F);
 }
 
-// The parts of a text between the boundaries of one type; together they are the text.
+// Splits a text at all boundaries of one type.
 QStringList partsOf(const QString &text, QTextBoundaryFinder::BoundaryType type) {
     QStringList parts;
     QTextBoundaryFinder finder(type, text);
@@ -42,7 +42,7 @@ QStringList partsOf(const QString &text, QTextBoundaryFinder::BoundaryType type)
     return parts;
 }
 
-// Fills lines with parts as long as they fit, a part's trailing spaces set aside.
+// Fills lines with parts while they fit, ignoring trailing spaces.
 class LineFiller {
 public:
     explicit LineFiller(int width)
@@ -75,7 +75,7 @@ private:
     int m_lineWidth = 0;
 };
 
-// QString::fromUcs4() would leave out a byte order mark.
+// QString::fromUcs4() would drop a byte order mark.
 QString characterOf(uint code) {
     if (!QChar::requiresSurrogates(code))
         return QChar(ushort(code));
@@ -128,8 +128,7 @@ QString printableExcept(const QString &kept, const QString &text) {
 int displayWidth(const QString &text) {
     int width = 0;
     const auto characters = text.toUcs4();
-    // Negative for what the C library does not know yet, which a terminal most likely shows in one
-    // column.
+    // Negative for characters that the C library does not know, most of which take one column.
     for (const uint character : characters) {
         const int columns = wcwidth(wchar_t(character));
         width += columns < 0 ? 1 : columns;

@@ -3,31 +3,30 @@
 #include <QString>
 #include <QStringList>
 
-/// Text on a terminal, measured in columns: 2 for a wide character (East Asian, emoji), none for a
-/// combining one.
+/// Lays out text on a terminal, measured in columns: 2 for a wide character (East Asian, emoji), 0
+/// for a combining one.
 namespace ZelPackage {
 
-/// Whether a character is invisible or would control the terminal or the direction of writing.
+/// Whether a character is invisible, or would control the terminal or the writing direction.
 bool isUnprintable(uint code);
 
-/// The text with each character that isUnprintable() replaced as in "<U+202E>", apart from joiners
-/// and variation selectors where emoji and scripts need them, and each byte that is not UTF-8 as in
-/// "<FF>".
+/// The text with isUnprintable() characters shown as "<U+202E>", except for joiners and variation
+/// selectors that emoji and scripts need, and with bytes that are not UTF-8 shown as "<FF>".
 QString printable(const QString &text);
-/// The same, apart from the characters in `kept` as well.
+/// Like printable(), except for the characters in `kept`.
 QString printableExcept(const QString &kept, const QString &text);
 
-/// How many columns the text takes.
+/// The width of the text in columns.
 int displayWidth(const QString &text);
 
-/// The text up to its last character that is no white space.
+/// The text without trailing white space.
 QString withoutSpacesAtEnd(const QString &text);
 
-/// The text followed by spaces up to `width` columns.
+/// The text, padded with spaces to `width` columns.
 QString padded(const QString &text, int width);
 
-/// The text, made printable, in lines of at most `width` columns; broken where its script allows
-/// it, within a word only where that is longer than a line. A line feed starts a new line.
+/// The text, made printable and wrapped to `width` columns. Breaks where the script allows it,
+/// within a word only if it is longer than a line. A line feed starts a new line.
 QStringList wrapped(const QString &text, int width);
 
 } // namespace ZelPackage

@@ -8,7 +8,7 @@
 
 namespace ZelPackage {
 
-/// A table in columns that line up, two spaces apart, under their titles.
+/// A table with aligned columns, two spaces apart, below their titles.
 class TextTable {
 public:
     enum class Align { Left, Center, Right };
@@ -16,7 +16,7 @@ public:
     struct Column {
         QString title;
         Align align = Align::Left;
-        QString group = {}; ///< stands above neighboring columns of the same group
+        QString group = {}; ///< shown above neighboring columns of the same group
     };
 
     /// One line of printable text.
@@ -28,14 +28,14 @@ public:
 
     explicit TextTable(std::vector<Column> columns);
 
-    /// A row has at most as many cells as the table has columns.
+    /// A row must not have more cells than the table has columns.
     void addRow(const Row &row);
 
-    /// How many columns of the terminal the table takes.
+    /// The width of the table in columns of the terminal.
     int width() const;
-    /// The lines of the table, each after `indent` spaces and with a line feed. Where the output is
-    /// too narrow, the last column is wrapped or, where that is not enough, each row becomes a list
-    /// of its titled cells.
+    /// The lines of the table, each indented by `indent` spaces and ended by a line feed. If the
+    /// output is too narrow, wraps the last column or, if that is not enough, shows each row as a
+    /// list of titled cells.
     QString toText(const Console &console, int indent) const;
 
 private:

@@ -29,7 +29,7 @@ void printJson(Console &console) {
 }
 
 void printTable(Console &console) {
-    // The native names come last, where writing from right to left moves no other column.
+    // Native names are in the last column, where right-to-left text cannot shift other columns.
     TextTable table({{QCoreApplication::translate("zel-package", "code")},
                      {QCoreApplication::translate("zel-package", "name")},
                      {QCoreApplication::translate("zel-package", "speech")},
@@ -57,10 +57,10 @@ const ProgramCommand languagesCommand{
     "languages",
     QT_TRANSLATE_NOOP("zel-package", "List the known languages"),
     QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the known languages: the code in manifests, the name, the code of the "
-                      "speech engine if it has a voice, and the name in the language itself. "
-                      "Manifests may use other languages too."),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Lists the known languages: the code used in manifests, the name, the code of the speech "
+        "engine if it has a voice, and the native name. Manifests may also use other languages."),
     0,
     0,
     options,

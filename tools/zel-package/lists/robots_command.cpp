@@ -45,10 +45,10 @@ const ProgramCommand robotsCommand{
     "robots",
     QT_TRANSLATE_NOOP("zel-package", "List the known robots"),
     QT_TRANSLATE_NOOP("zel-package", "[--format text|json]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Lists the robots that a package may require, families and models, with the "
-                      "model that a robot requirement names; it is empty for any robot. Manifests "
-                      "may require other robots too."),
+    QT_TRANSLATE_NOOP(
+        "zel-package",
+        "Lists the robot families and models that a package may require, with the model to use in "
+        "a robot requirement; it is empty for any robot. Manifests may also require other robots."),
     0,
     0,
     options,

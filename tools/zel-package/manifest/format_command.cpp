@@ -16,17 +16,17 @@ const QLatin1String checkOption("check");
 
 QList<QCommandLineOption> options() {
     return {{checkOption,
-             QCoreApplication::translate("zel-package",
-                                         "Write no manifest; print the names of the files that are "
-                                         "not in the canonical form.")},
+             QCoreApplication::translate(
+                 "zel-package",
+                 "Write nothing; print the names of files that are not in canonical form.")},
             formatOption()};
 }
 
-// The state of a file before or after formatting.
+// A file before or after formatting.
 struct Formatted {
     enum State { Canonical, Different, Malformed, Unreadable };
     State state = Canonical;
-    ManifestTrouble trouble = {}; // of the last two
+    ManifestTrouble trouble = {}; // if malformed or unreadable
 };
 
 constexpr std::array stateWords{"canonical", "different", "malformed", "unreadable"};
@@ -119,13 +119,12 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand formatCommand{
     "format",
-    QT_TRANSLATE_NOOP("zel-package", "Rewrite manifests in the canonical form"),
+    QT_TRANSLATE_NOOP("zel-package", "Rewrite manifests in canonical form"),
     QT_TRANSLATE_NOOP("zel-package", "FILE... [--check [--format text|json]]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Rewrites each FILE in the canonical form, and preserves comments, unknown "
-                      "elements and unknown attributes. A file already in that form is left "
-                      "unchanged. '-' takes standard input and writes to standard "
-                      "output."),
+                      "Rewrites each FILE in canonical form, preserving comments, unknown elements "
+                      "and unknown attributes. Files already in canonical form are left unchanged. "
+                      "'-' reads standard input and writes to standard output."),
     1,
     ProgramCommand::anyNumber,
     options,

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t pieceSize = std::size_t(64) << 10;
 
-// Returns why that failed.
+// Returns the reason on failure.
 std::string openSource(QFile &input, const QString &file) {
     const auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (isStandardStream(file))
@@ -32,7 +32,7 @@ std::string openSource(QFile &input, const QString &file) {
                : input.errorString().toStdString();
 }
 
-// Nothing where reading failed.
+// Returns nullopt on a read error.
 std::optional<std::string> readAll(Tano::InputFile &input) {
     std::string content;
     if (!input.isSequential() && input.error().empty())

@@ -11,41 +11,40 @@
 
 namespace ZelPackage {
 
-/// Whether an argument means standard input or output rather than a file: "-".
+/// Whether an argument is "-", which means standard input or output.
 bool isStandardStream(const QString &file);
 
-/// Reads the manifest in `file`, "-" for standard input, without its bytes. Returns false if it is
-/// malformed, which `reader` describes, or if the file cannot be read: then `trouble` is the
-/// reason.
+/// Reads the manifest in `file`, "-" for standard input, without keeping its bytes. Returns false
+/// if it is malformed, as described by `reader`, or cannot be read for the reason in `trouble`.
 [[nodiscard]] bool readPackage(const QString &file, Tano::ManifestReader &reader,
                                Tano::PackageInfo &package, QString &trouble);
 
-/// A manifest as it was read, and its bytes.
+/// A manifest and its bytes.
 struct Manifest {
     Tano::PackageInfo package;
     std::string content;
 };
 
-/// The bytes of `file`, "-" for standard input; where they cannot be read, `trouble` says why.
+/// The bytes of `file`, "-" for standard input; if they cannot be read, sets `trouble`.
 [[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &trouble);
 
-/// Why a manifest could not be read.
+/// The reason why a manifest could not be read.
 struct ManifestTrouble {
-    Tano::SourcePosition position; ///< in a malformed manifest; line 0 for an unreadable file
+    Tano::SourcePosition position; ///< line 0 if the file is unreadable
     QString text;
 };
 
-/// The manifest that content is; nothing for any other.
+/// Parses a manifest; returns nullopt if it is malformed.
 [[nodiscard]] std::optional<Manifest> manifestOf(std::string content, ManifestTrouble &trouble);
 
 /// Reads the manifest in `file`, "-" for standard input.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble);
 
-/// The same; a failure is reported.
+/// The same, but reports errors.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);
 
-/// Saves a package to the file that a manifest was read from, unless another program has changed it
-/// since. After a failure, package.errorString() explains it.
+/// Saves a package to the file from which the manifest was read, unless the file was changed in the
+/// meantime. On failure, package.errorString() has the reason.
 [[nodiscard]] bool saveIfUnchanged(const QString &file, const Manifest &read,
                                    const Tano::PackageInfo &package);
 

@@ -18,17 +18,16 @@ const QLatin1String languageOption("language");
 QList<QCommandLineOption> options() {
     return {
         {uidOption,
-         QCoreApplication::translate("zel-package",
-                                     "The package's identifier: at most 50 of a-z, 0-9, '_' "
-                                     "and '-', not digits alone."),
+         QCoreApplication::translate(
+             "zel-package",
+             "The package's identifier: up to 50 of a-z, 0-9, '_' and '-', but not only digits."),
          QStringLiteral("UID")},
         {nameOption,
          QCoreApplication::translate("zel-package", "The package's name, in the first language."),
          QStringLiteral("TEXT")},
         {languageOption,
-         QCoreApplication::translate("zel-package",
-                                     "A language that the package runs in, for example fr_FR; "
-                                     "may be given several times. %1 when none is given.")
+         QCoreApplication::translate("zel-package", "A language that the package supports, such as "
+                                                    "fr_FR; may be repeated. The default is %1.")
              .arg(Zel::Language::defaultLanguage().isoCode()),
          QStringLiteral("CODE")}};
 }
@@ -77,7 +76,7 @@ bool checkUid(const Zel::PackageInfoModel &package, Console &console) {
     return false;
 }
 
-// To standard error, since the manifest may go to standard output.
+// Uses standard error, since the manifest may go to standard output.
 void reportCreated(const Zel::PackageInfoModel &package, const QString &file, Console &console) {
     QStringList fields;
     const auto issues = Zel::PackageModel::issues(&package);
@@ -124,8 +123,8 @@ const ProgramCommand newCommand{
     QT_TRANSLATE_NOOP("zel-package", "Create a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE --uid UID [--name TEXT] [--language CODE]..."),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Creates FILE, the manifest of a new package of version 1.0.0. A file that "
-                      "exists is never overwritten. '-' writes to standard output."),
+                      "Creates FILE, the manifest of a new package with version 1.0.0. Never "
+                      "overwrites an existing file. '-' writes to standard output."),
     1,
     1,
     options,

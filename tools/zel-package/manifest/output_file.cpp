@@ -41,7 +41,7 @@ QString systemSentence() {
     return reasonSentence(std::generic_category().message(errno));
 }
 
-// Closes the file.
+// Also closes the file.
 QString writeAll(int opened, const std::string &content) {
     QFile file;
     const auto size = qint64(content.size());
@@ -91,9 +91,8 @@ QString writeToSpecialFile(const QString &file, const std::string &content) {
 
 QCommandLineOption outputOption() {
     return {{QStringLiteral("o"), outputOptionName},
-            QCoreApplication::translate("zel-package",
-                                        "Write to this file; to standard output when none is "
-                                        "given, or '-'."),
+            QCoreApplication::translate(
+                "zel-package", "Write to this file; the default, also '-', is standard output."),
             QStringLiteral("OUT"),
             QStringLiteral("-")};
 }

@@ -11,30 +11,29 @@ namespace ZelPackage {
 
 inline const QLatin1String outputOptionName("output");
 
-/// The option -o, --output of commands that write a file.
+/// The -o, --output option of commands that write a file.
 QCommandLineOption outputOption();
 
-/// Whether an output is another file than an input; reports one that is the same.
+/// Whether output and input are different files; reports it if they are not.
 [[nodiscard]] bool checkIsOther(const QString &file, const QString &output, Console &console);
 
-/// Writes content to an output, "-" for standard output. Reports a failure and returns false.
+/// Writes content to an output, "-" for standard output. On failure, reports it and returns false.
 [[nodiscard]] bool writeOutput(const QString &output, const std::string &content, Console &console);
 
-/// Whether an input and an output, "-" for the standard streams, are one regular file, also through
-/// links.
+/// Whether an input and an output, "-" for the standard streams, are the same regular file,
+/// possibly through links.
 bool isSameFile(const QString &input, const QString &output);
 
-/// Whether an output is what standard output goes to, as /dev/stdout is.
+/// Whether an output refers to standard output, as /dev/stdout does.
 bool isStandardOutput(const QString &output);
 
-/// Whether an output exists and is a pipe, a device or another file that cannot be replaced.
+/// Whether an output is a pipe, a device or another existing file that cannot be replaced.
 bool isSpecialFile(const QString &output);
 
-/// Creates a file with this content; one that exists is left alone. Returns why that failed, as a
-/// sentence.
+/// Creates a file with this content unless it exists. On failure, returns the reason as a sentence.
 [[nodiscard]] QString createFile(const QString &file, const std::string &content);
 
-/// Writes content to a special file. Returns why that failed, as a sentence.
+/// Writes content to a special file. On failure, returns the reason as a sentence.
 [[nodiscard]] QString writeToSpecialFile(const QString &file, const std::string &content);
 
 } // namespace ZelPackage

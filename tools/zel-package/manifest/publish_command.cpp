@@ -37,7 +37,7 @@ bool holdsScriptVariants(const Tano::PackageInfo &package) {
     });
 }
 
-// A text that is a malformed speech script.
+// A text with a malformed speech script.
 struct MalformedScript {
     QString field;
     Tano::SourcePosition position; // of the field in the manifest
@@ -77,7 +77,7 @@ QJsonObject toJson(const QString &file, const MalformedScript &script) {
             {QStringLiteral("text"), script.text}};
 }
 
-// The texts of which no plain text can be made.
+// The texts that cannot be converted to plain text.
 std::vector<MalformedScript> malformedScripts(const Zel::PackageInfoModel &package,
                                               const std::string &content) {
     std::vector<MalformedScript> scripts;
@@ -86,7 +86,7 @@ std::vector<MalformedScript> malformedScripts(const Zel::PackageInfoModel &packa
         return scripts;
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
     Tano::PackageInfo record;
-    static_cast<void>(reader.readContent(content, record)); // it has been read before
+    static_cast<void>(reader.readContent(content, record)); // was read successfully before
     for (const Zel::PackageModel::ScriptError &error : errors)
         scripts.push_back(malformedScript(error, reader));
     return scripts;
@@ -129,8 +129,8 @@ ExitStatus publish(const QString &file, const Manifest &manifest, const QString 
     if (holdsScriptVariants(manifest.package))
         console.printMessage(
             file, QCoreApplication::translate("zel-package",
-                                              "This manifest has been published before; the "
-                                              "scripts beside its texts are dropped."));
+                                              "This manifest was published before; the scripts "
+                                              "stored beside its texts are dropped."));
     package.genPlainTextFromScript();
     package.syncRecord();
     if (!writeManifest(package.packageInfo(), file, output, console))
@@ -158,11 +158,10 @@ const ProgramCommand publishCommand{
     QT_TRANSLATE_NOOP("zel-package", "FILE [-o OUT] [--format text|json]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Writes the manifest in FILE for publication: without texts in languages "
-        "that the package no longer offers, and with plain text in place of speech "
-        "scripts, which are kept in a private-use variant of their language. If a text "
-        "is a malformed script, reports it and writes nothing. '-' reads standard "
-        "input."),
+        "Writes the manifest in FILE for publication: removes texts in languages that the package "
+        "no longer offers, and replaces speech scripts by plain text, keeping the scripts in a "
+        "private-use variant of their language. If a text is a malformed script, reports it and "
+        "writes nothing. '-' reads standard input."),
     1,
     1,
     options,

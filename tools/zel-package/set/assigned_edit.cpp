@@ -21,7 +21,8 @@ QString text(const char *source) {
     return QCoreApplication::translate("zel-package", source);
 }
 
-// Where an assignment adds an entry: "[+]" after the path of a list, then maybe one of its fields.
+// An assignment that adds an entry: "[+]" after a list, optionally followed by a field of the
+// entry.
 struct Addition {
     FieldPath list;
     std::optional<std::string> field;
@@ -40,7 +41,7 @@ std::optional<Addition> additionOf(const FieldPath &path) {
     return {};
 }
 
-// The version of a package has three fields.
+// Warns that versions of packages are limited to three numbers.
 QString remarkOnVersion(Zel::SoftwareVersion version) {
     if (version.fieldsCount() <= 3)
         return {};
@@ -72,7 +73,7 @@ private:
     const Zel::PackageInfoModel &m_package;
 };
 
-// A language is named by a key, or is itself the entry that is added.
+// A language is given as a key, or as the entry to add.
 bool Resolver::checkLanguage(const FieldForm &form, bool isAddition, QString &message) const {
     const auto &selectors = m_assignment.path.steps().back().selectors;
     if (!form.selectors.startsWith(QLatin1String("[CODE]")) || selectors.empty())
@@ -111,8 +112,9 @@ AssignedEdit Resolver::remove() const {
     const FieldPath &path = m_assignment.path;
     if (has(path) || path.steps().back().selectors.back().toIndex())
         return {Edit{Edit::Action::Remove, path}};
-    return {
-        {}, {}, text(QT_TRANSLATE_NOOP("zel-package", "There is none, so nothing is removed."))};
+    return {{},
+            {},
+            text(QT_TRANSLATE_NOOP("zel-package", "It does not exist, so nothing is removed."))};
 }
 
 AssignedEdit Resolver::set(const FieldForm &form) const {
@@ -125,10 +127,8 @@ AssignedEdit Resolver::set(const FieldForm &form) const {
     AssignedEdit result;
     if (form.kind > FieldKind::Version)
         result.error =
-            text(QT_TRANSLATE_NOOP(
-                     "zel-package",
-                     "This is an entry: an empty VALUE removes it; a field of it is set as "
-                     "in '%1.FIELD=VALUE'."))
+            text(QT_TRANSLATE_NOOP("zel-package", "This is an entry: an empty VALUE removes it, "
+                                                  "and '%1.FIELD=VALUE' sets one of its fields."))
                 .arg(m_assignment.field);
     else if (const auto parsed = Zel::PackageModel::parsedValue(form.kind, value, &result.error))
         result.edit = Edit{Edit::Action::Set, m_assignment.path, parsed};

@@ -6,16 +6,16 @@
 
 namespace ZelPackage {
 
-/// What an assignment comes to in a package.
+/// The effect of an assignment on a package.
 struct AssignedEdit {
-    /// Nothing if the package is already as the assignment wants it.
+    /// nullopt if the package already has the assigned value.
     std::optional<Zel::PackageModel::Edit> edit = {};
-    QString error = {};  ///< why it cannot be done; empty otherwise
-    QString remark = {}; ///< to be reported; empty for none
+    QString error = {};  ///< the reason if the assignment is impossible, else empty
+    QString remark = {}; ///< a note to report; may be empty
 };
 
-/// The edit of a package that an assignment means. Adding what the package has and removing what it
-/// lacks changes nothing, so that a command can be repeated.
+/// Converts an assignment to an edit. Adding an existing item or removing a missing one has no
+/// effect, so that commands can be repeated.
 AssignedEdit assignedEdit(const Assignment &assignment, const Zel::PackageInfoModel &package);
 
 } // namespace ZelPackage

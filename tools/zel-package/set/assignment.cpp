@@ -5,7 +5,7 @@
 namespace ZelPackage {
 namespace {
 
-// Splits "FIELD@2" into both; an '@' that no index follows is a fault.
+// Splits "FIELD@2" at the '@'; nullopt if no index follows.
 std::optional<Assignment> parsePlace(const std::string &text) {
     Assignment assignment{Zel::fromUtf8(text), {}, {}, {}};
     const std::size_t sign = Tano::FieldPath::find(text, '@');

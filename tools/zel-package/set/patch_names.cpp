@@ -25,7 +25,7 @@ bool needsQuotes(const QString &name) {
                        [](char byte) { return isControl(byte) || byte == '"' || byte == '\\'; });
 }
 
-// With the escapes of C; octal ones for bytes beyond ASCII.
+// Quotes with C escapes; bytes beyond ASCII become octal.
 QString quoted(const QString &name) {
     constexpr std::array<std::pair<char, char>, 9> escapes{{{'\a', 'a'},
                                                             {'\b', 'b'},
@@ -63,7 +63,7 @@ bool isOutside(const fs::path &relative) {
 } // namespace
 
 QStringList patchNames(const QStringList &files) {
-    std::error_code error; // a file that is not there is reported when it is read
+    std::error_code error; // missing files are reported when they are read
     const fs::path here = fs::canonical(".", error);
     std::vector<fs::path> paths;
     bool areBelow = true;

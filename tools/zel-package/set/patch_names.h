@@ -4,12 +4,13 @@
 
 namespace ZelPackage {
 
-/// The names of files as a difference in the unified format gives them, so that GNU patch finds the
-/// files: relative to the working directory or, if one of the files is not below it, all relative
-/// to the root directory ("patch -p0 -d /"), since patch refuses absolute names and "..".
-/// Symbolic links, which it refuses too, are followed.
+/// File names for a difference in the unified format that GNU patch accepts: relative to the
+/// working directory or, if one of the files is outside, all relative to the root directory ("patch
+/// -p0 -d /"), since patch refuses absolute names and "..". Symbolic links, which it refuses too,
+/// are resolved.
 ///
-/// As git and GNU diff do, names with control characters, quotation marks, backslashes or bytes
+/// Like git and GNU diff, quotes names with control characters, quotation marks, backslashes or
+/// invalid UTF-8 as in C, and appends a tab to names with spaces.
 /// that are not UTF-8 are quoted as in C, and a tab follows a name with spaces.
 QStringList patchNames(const QStringList &files);
 

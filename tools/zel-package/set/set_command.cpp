@@ -32,24 +32,22 @@ const QLatin1String editsOption("edits");
 QList<QCommandLineOption> options() {
     return {{dryRunOption,
              QCoreApplication::translate("zel-package",
-                                         "Write nothing; print what would change, as a unified "
-                                         "diff.")},
+                                         "Write nothing; print the changes as a unified diff.")},
             {editsOption,
              QCoreApplication::translate("zel-package",
-                                         "First apply the edits in this JSON file, which "
-                                         "schema/edits.schema.json describes; '-' is standard "
-                                         "input."),
+                                         "First apply the edits in this JSON file (see "
+                                         "schema/edits.schema.json); '-' is standard input."),
              QStringLiteral("FILE")}};
 }
 
-// What the arguments ask for.
+// The parsed arguments.
 struct Request {
     QStringList files;
     std::vector<Assignment> assignments;
-    Edits edits; // of the JSON file
+    Edits edits; // from the JSON file
 };
 
-// The files come first; returns false once it has reported what is wrong.
+// Reads the arguments, files first; on errors, reports them and returns false.
 bool readArguments(const QStringList &arguments, Request &request, Console &console) {
     bool isFine = true;
     for (const QString &argument : arguments) {
@@ -104,7 +102,7 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
     return trouble.isEmpty();
 }
 
-// One manifest on its way through the edits.
+// Applies edits to one manifest.
 class FileEdit {
 public:
     FileEdit(const QString &file, const Manifest &manifest, Console &console)
@@ -113,9 +111,9 @@ public:
         , m_written(manifest.package)
         , m_editor(manifest.package) {}
 
-    /// Makes the edits, each on the result of those before it; reports every wrong one.
+    /// Applies the edits in turn; reports each invalid one.
     bool apply(const Request &request);
-    /// What the edited fields are at fault for that they were not before.
+    /// Reports the findings in edited fields that are new.
     void reportNewFindings();
     Tano::PackageInfo record() const { return m_editor.record(); }
 
@@ -134,7 +132,7 @@ private:
     QSet<QString> m_edited; // the paths
 };
 
-// What is wrong with the edited fields of a package.
+// The findings in the edited fields of a package.
 QVector<FileEdit::Finding> FileEdit::findingsOn(const Zel::PackageInfoModel &package) const {
     using namespace Zel::PackageModel;
     constexpr int mostOfARule = 10000;
@@ -179,7 +177,7 @@ bool FileEdit::apply(const Edits &edits) {
     return true;
 }
 
-// The topics of dialogs go with a supported language.
+// Removing a supported language also removes the dialogs' topics in it.
 void FileEdit::reportLostTopics(const Edit &edit, const Edits &inverse) {
     if (edit.action != Edit::Action::Remove)
         return;
@@ -209,7 +207,7 @@ void FileEdit::reportNewFindings() {
     }
 }
 
-// The bytes of an edited manifest; nothing once the fault has been reported.
+// The bytes of an edited manifest; nullopt after reporting an error.
 std::optional<std::string> editedContent(const QString &file, const Manifest &manifest,
                                          const Request &request, Console &console) {
     FileEdit edit(file, manifest, console);
@@ -279,14 +277,14 @@ const ProgramCommand setCommand{
         "zel-package",
         "Sets fields, named as in 'show --format json': author=Ines, names[fr_FR]=Goûter, "
         "robotRequirements[0].maxBodyVersion=3.1, behaviors[greet].tags[en_US][0]=hello. An empty "
-        "VALUE clears a text and removes an entry or an item: behaviors[greet]=. The key [+] adds "
-        "one to a list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds it at "
-        "an index, from 0 on: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
-        "behaviors[greet]@0. Adding a present entry or removing an absent one changes nothing, so "
-        "that commands can be repeated. Either all fields of all files are set or, where one is "
-        "wrong, none. Files are rewritten in the canonical form with nothing lost. '-' takes "
-        "standard input and writes to standard output; a file whose name has a '=' is given with "
-        "its folder, as in ./a=b.xml."),
+        "VALUE clears a text or removes an entry or item: behaviors[greet]=. The key [+] adds to a "
+        "list: supportedLanguages[+]=fr_FR, behaviors[+].path=greet; '@INDEX' adds at an index, "
+        "counted from 0: supportedLanguages[+]@0=fr_FR. 'ENTRY@INDEX' moves an entry: "
+        "behaviors[greet]@0. Adding an existing entry or removing a missing one changes nothing, "
+        "so commands can be repeated. If one field is wrong, no file is changed. Files are "
+        "rewritten in canonical form without losing content. '-' reads standard input and writes "
+        "to standard output; give a file whose name contains '=' with its folder, as in "
+        "./a=b.xml."),
     1,
     ProgramCommand::anyNumber,
     options,

@@ -25,14 +25,14 @@ Cell markOf(bool isPresent) {
                      : Cell{QStringLiteral("✗"), Style::Caution};
 }
 
-// The texts of a language that does not need them count only where there are some.
+// Texts in a language that does not need them are counted only if there are any.
 Cell cellOf(Count count, bool isExpected) {
     if (isExpected)
         return countCell(count);
     return count.present == 0 ? Cell{} : Cell{countCell(count).text, Style::Faint};
 }
 
-// The part of a column that the bar ends in is drawn in eighths.
+// The end of the bar is drawn with a precision of an eighth of a column.
 QString barOf(int percent, int width) {
     static const QString eighths = QStringLiteral("░▏▎▍▌▋▊▉");
     const int length = percent * width * 8 / 100;
@@ -53,7 +53,7 @@ Cell totalOf(const LanguageCoverage &coverage, int barWidth) {
             percent == 100 ? Style::Good : Style::Caution};
 }
 
-// A sign after the code of a language that the package does not run in.
+// The mark after the code of a language that the package does not support.
 QString signOf(const LanguageCoverage &coverage) {
     if (coverage.isSupported)
         return {};
@@ -139,7 +139,7 @@ QString coverageTable(const std::vector<LanguageCoverage> &coverages, const Cons
     if (std::any_of(coverages.begin(), coverages.end(), isDescribedOnly))
         text += noteOn(QStringLiteral("°"),
                        QCoreApplication::translate(
-                           "zel-package", "The package is only described in this language."),
+                           "zel-package", "The package only has descriptions in this language."),
                        console, indent);
     if (std::any_of(coverages.begin(), coverages.end(), isUnlisted))
         text += noteOn(

@@ -9,11 +9,11 @@
 
 namespace ZelPackage {
 
-/// A count as "3/4"; a dash if there is nothing to translate.
+/// A count like "3/4", or a dash if there is nothing to translate.
 TextTable::Cell countCell(Zel::PackageModel::Count count);
 
-/// The coverage of languages as a table, a line for each, as wide as the terminal allows, and notes
-/// on the languages that do not run.
+/// A table with the coverage of each language, as wide as the terminal allows, and notes on
+/// languages that are not supported.
 QString coverageTable(const std::vector<Zel::PackageModel::LanguageCoverage> &coverages,
                       const Console &console, int indent);
 

@@ -27,7 +27,7 @@ bool startsWith(const FieldPath &path, const FieldPath &start) {
     return part == start;
 }
 
-// The value of a field, or a line "FIELD=VALUE" for each field of an entry or a list.
+// The value of a single field, or a line "FIELD=VALUE" per field of an entry or a list.
 QString linesOf(const FieldPath &path, const QVector<Field> &fields) {
     QString lines;
     for (const Field &field : fields) {
@@ -48,7 +48,7 @@ ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
     if (path && !path->isEmpty()) {
         const QString lines = linesOf(*path, fields);
         console.print(lines);
-        // A list may be empty.
+        // An empty list exists although it has no lines.
         if (!lines.isEmpty() || Zel::PackageModel::value(&package, *path))
             return Fine;
         reason.clear();

@@ -16,9 +16,8 @@ const QLatin1String languageOption("language");
 
 QList<QCommandLineOption> options() {
     return {{languageOption,
-             QCoreApplication::translate("zel-package",
-                                         "Show every text in this language; '!' marks those that "
-                                         "are missing."),
+             QCoreApplication::translate(
+                 "zel-package", "Show every text in this language; '!' marks missing ones."),
              QStringLiteral("CODE")},
             formatOption()};
 }
@@ -35,7 +34,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const auto manifest = readManifest(arguments.positionalArguments().constFirst(), console);
     if (!manifest)
         return Failure;
-    // The languages that the manifest mentions are known from here on.
+    // The model registers the languages in the manifest.
     const Zel::PackageInfoModel package(manifest->package);
 
     std::optional<Zel::RobotLanguage> language;
@@ -58,12 +57,10 @@ const ProgramCommand showCommand{
     "show",
     QT_TRANSLATE_NOOP("zel-package", "Show a manifest"),
     QT_TRANSLATE_NOOP("zel-package", "FILE [--language CODE] [--format text|json]"),
-    QT_TRANSLATE_NOOP(
-        "zel-package",
-        "Shows every field of the manifest in FILE, and how much of it is translated. "
-        "A missing text is replaced as in an application: by the text in the "
-        "default language, then, for a name, by the uid or the path. '-' reads "
-        "standard input."),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Shows all fields of the manifest in FILE, and how much of it is translated. "
+                      "A missing text is replaced as in an application: by the text in the default "
+                      "language or, for names, by the uid or path. '-' reads standard input."),
     1,
     1,
     options,

@@ -27,7 +27,7 @@ QString heading(const QString &title, const Console &console) {
     return u'\n' % console.styled(printable(title), Style::Heading) % u'\n';
 }
 
-// One behavior, dialog or service.
+// A behavior, dialog or service.
 struct Entry {
     QString title;
     LabeledList fields;
@@ -48,7 +48,7 @@ QString entriesSection(const QString &title, const std::vector<Entry> &entries,
     return heading(title, console) % texts.join(u'\n');
 }
 
-// Those of the languages in whose script variant (PackageModel::k_sa) the package has something.
+// The languages in whose script variant (PackageModel::k_sa) the package has texts.
 Zel::RobotLanguages scriptLanguagesOf(const Zel::PackageInfoModel &package) {
     Zel::RobotLanguages languages;
     const std::set<std::string> codes = package.packageInfo().languageCodes();
@@ -79,7 +79,7 @@ void addMissing(LabeledList &fields, const QString &label, const RobotLanguage &
         QCoreApplication::translate("zel-package", "missing in %1").arg(language.isoCode()));
 }
 
-// A language that the package is only described in needs no lists and no topics.
+// Languages for descriptions only need no lists and no topics.
 bool isSpokenIn(const RobotLanguage &language, const Zel::PackageInfoModel &package) {
     return package.hasLanguageSupport(language) || !package.hasLanguageDescription(language);
 }
@@ -198,8 +198,8 @@ QString coverageSection(const std::optional<RobotLanguage> &language,
            coverageTable(coverages, console, indent);
 }
 
-// A list that exists in another language only is missing, where one is expected; nothing stands in
-// for it.
+// A list that only exists in another language is reported as missing if it is expected; there is no
+// fallback.
 void addList(LabeledList &fields, const QString &label,
              const Zel::Language::LocalizedStringLists &lists, const RobotLanguage &language,
              bool isExpected, const QString &separator) {

@@ -12,9 +12,9 @@ class PackageInfoModel;
 
 namespace ZelPackage {
 
-/// All of a package for people to read. With a language, every text in that one; without, the
-/// package's names and descriptions in all of its languages, and the behaviors in the default
-/// language or, where the package does not have it, in its first.
+/// Formats a whole package for people. With a language, all texts are in it. Without one, names and
+/// descriptions of the package are in all languages, and behaviors in the default language or, if
+/// the package does not have it, in its first language.
 QString textOf(const Zel::PackageInfoModel &package,
                const std::optional<Zel::RobotLanguage> &language, const Console &console);
 

@@ -7,15 +7,14 @@
 
 namespace ZelPackage {
 
-/// A text as an application shows it in a language, with what is to be said where it stands in for
-/// a missing one.
+/// A text as an application shows it in a language, with a remark if it is a fallback.
 struct ShownText {
     QString text;
-    QString remark; ///< empty where the text is in the language
+    QString remark; ///< empty if the text is in the language
 };
 
-/// The text in `language`, else the one in the default language, else `identifier`, which
-/// `identifierRemark` describes. `textIn` gives the text in a language.
+/// The text in `language`, else in the default language, else `identifier` with `identifierRemark`.
+/// `textIn` returns the text in a language.
 template<typename TextIn>
 ShownText shownText(TextIn textIn, const Zel::RobotLanguage &language,
                     const QString &identifier = {}, const QString &identifierRemark = {}) {

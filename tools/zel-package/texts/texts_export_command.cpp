@@ -23,12 +23,12 @@ QList<QCommandLineOption> options() {
              QStringLiteral("CODE")},
             {sourceOption,
              QCoreApplication::translate("zel-package",
-                                         "The language to translate from; by default %1 or, if "
-                                         "the package does not run in it, its first language.")
+                                         "The language to translate from; by default %1 or, if the "
+                                         "package does not support it, its first language.")
                  .arg(Zel::Language::defaultLanguage().isoCode()),
              QStringLiteral("CODE")},
-            {missingOption, QCoreApplication::translate(
-                                "zel-package", "Write only the texts that are not translated.")},
+            {missingOption,
+             QCoreApplication::translate("zel-package", "Write only untranslated texts.")},
             outputOption()};
 }
 
@@ -69,7 +69,7 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     if (!checkIsOther(file, arguments.value(outputOptionName), console))
         return Failure;
     const auto manifest = readManifest(file, console);
-    // The languages that the manifest mentions are known while the model exists.
+    // The languages in the manifest are known while the model exists.
     const bool isDone =
         manifest && exportTexts(file, Zel::PackageInfoModel(manifest->package), arguments, console);
     return isDone ? Fine : Failure;
@@ -79,13 +79,12 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand textsExportCommand{
     "texts export",
-    QT_TRANSLATE_NOOP("zel-package", "Write texts for translators"),
+    QT_TRANSLATE_NOOP("zel-package", "Export texts for translators"),
     QT_TRANSLATE_NOOP("zel-package", "FILE --language CODE [--source CODE] [--missing] [-o OUT]"),
-    QT_TRANSLATE_NOOP(
-        "zel-package",
-        "Writes the texts of a manifest as XLIFF 1.2, which translation tools read: names, "
-        "descriptions, tags, trigger sentences and loading responses. 'texts import' reads it "
-        "back. '-' reads standard input."),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Writes the texts of a manifest as XLIFF 1.2 for translation tools: names, "
+                      "descriptions, tags, trigger sentences and loading responses. 'texts import' "
+                      "reads it back. '-' reads standard input."),
     1,
     1,
     options,

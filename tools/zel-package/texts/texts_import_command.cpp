@@ -25,18 +25,18 @@ const QLatin1String dryRunOption("dry-run");
 const QLatin1String forceOption("force");
 
 QList<QCommandLineOption> options() {
-    return {{dryRunOption, QCoreApplication::translate(
-                               "zel-package", "Write nothing; print what would change, as a "
-                                              "unified diff.")},
-            {forceOption, QCoreApplication::translate(
-                              "zel-package", "Import also where the source text has changed since "
-                                             "the export.")}};
+    return {{dryRunOption,
+             QCoreApplication::translate("zel-package",
+                                         "Write nothing; print the changes as a unified diff.")},
+            {forceOption,
+             QCoreApplication::translate(
+                 "zel-package", "Also import texts whose source has changed since the export.")}};
 }
 
-// The units of all files, in their order.
+// The units of all files, in file order.
 struct Units {
     QVector<TextUnit> units;
-    QStringList files; // of each unit
+    QStringList files; // the file of each unit
 };
 
 bool readUnits(const QString &file, Units &all, Console &console) {
@@ -70,7 +70,7 @@ int countOf(const TextImport &import, TextOutcome outcome) {
                              [&](const auto &unit) { return unit.outcome == outcome; }));
 }
 
-// Returns whether every text could be imported.
+// Returns whether all texts were imported.
 bool report(const QString &manifest, const TextImport &import, const Units &given,
             Console &console) {
     bool isFine = true;
@@ -154,16 +154,16 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand textsImportCommand{
     "texts import",
-    QT_TRANSLATE_NOOP("zel-package", "Take texts from translators"),
+    QT_TRANSLATE_NOOP("zel-package", "Import texts from translators"),
     QT_TRANSLATE_NOOP("zel-package", "FILE XLIFF... [--dry-run] [--force]"),
     QT_TRANSLATE_NOOP(
         "zel-package",
-        "Puts the translations in XLIFF files, which 'texts export' has written, into the "
-        "manifest in FILE. Lists grow to the translator's length, and a new language becomes a "
-        "description language. Texts whose behavior is gone or whose source has changed are "
-        "reported and skipped. If a text is a malformed speech script, nothing is imported. The "
-        "exit status is 1 if a text is skipped. '-' takes standard input; as FILE, it writes to "
-        "standard output."),
+        "Imports translations from XLIFF files written by 'texts export' into the manifest in "
+        "FILE. Lists grow to the translator's length, and a new language becomes a description "
+        "language. Texts whose behavior was removed or whose source has changed are reported and "
+        "skipped. If a text is a malformed speech script, nothing is imported. The exit status is "
+        "1 if a text is skipped. '-' reads standard input; as FILE, it also writes to standard "
+        "output."),
     2,
     ProgramCommand::anyNumber,
     options,

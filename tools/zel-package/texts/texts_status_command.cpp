@@ -25,7 +25,7 @@ QList<QCommandLineOption> options() {
     return {formatOption()};
 }
 
-// How far one manifest is translated.
+// The translation progress of one manifest.
 struct TranslationStatus {
     explicit TranslationStatus(const Zel::PackageInfoModel &package)
         : languages(Zel::PackageModel::coverages(&package))
@@ -129,12 +129,11 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
 
 const ProgramCommand textsStatusCommand{
     "texts status",
-    QT_TRANSLATE_NOOP("zel-package", "Show how far packages are translated"),
+    QT_TRANSLATE_NOOP("zel-package", "Show how much of packages is translated"),
     QT_TRANSLATE_NOOP("zel-package", "FILE... [--format text|json]"),
-    QT_TRANSLATE_NOOP(
-        "zel-package",
-        "Counts the texts that are translated, of those that are needed, by language and by "
-        "behavior. A list counts once. '-' reads standard input."),
+    QT_TRANSLATE_NOOP("zel-package",
+                      "Counts translated and required texts by language and by behavior. A list "
+                      "counts as one text. '-' reads standard input."),
     1,
     ProgramCommand::anyNumber,
     options,

@@ -30,7 +30,7 @@ Tano::SourcePosition positionOf(const QByteArray &text, int offset) {
             std::uint64_t(QString::fromUtf8(before.mid(lineStart)).toUcs4().size() + 1)};
 }
 
-// Whether an object has these members and no other.
+// Whether an object has exactly these members.
 bool hasMembers(const QJsonObject &object, QStringList names) {
     names.sort();
     return object.keys() == names;

@@ -12,11 +12,11 @@
 
 namespace ZelPackage {
 
-/// Known findings, which are not reported: how many of them each field of each manifest has, so
-/// that lines may move.
+/// Known findings, which are not reported. Stores the number of findings per field and manifest
+/// instead of lines, which may move.
 ///
-/// As a file it is JSON, which schema/baseline.schema.json describes; manifests are named relative
-/// to its folder.
+/// The file is JSON as described by schema/baseline.schema.json; manifests are named relative to
+/// its folder.
 class Baseline {
 public:
     struct Entry {
@@ -25,21 +25,21 @@ public:
         int count;
     };
 
-    /// An empty baseline for the file of that name.
+    /// An empty baseline to be stored in this file.
     explicit Baseline(const QString &file);
 
-    /// Adds the findings that the file lists. Returns false if it cannot be read, and sets `error`
-    /// and, in a malformed file, its position.
+    /// Adds the findings in the file. On failure, returns false and sets `error` and, for a
+    /// malformed file, its position.
     [[nodiscard]] bool read(QString &error, Tano::SourcePosition &position);
-    /// Writes the file; returns the reason if that fails.
+    /// Writes the file; on failure, returns the reason.
     [[nodiscard]] QString write() const;
 
     void add(const QString &manifest, const QString &rule, const QString &field);
-    /// Removes one such finding; returns false if there is none.
+    /// Removes one matching finding; returns false if there is none.
     bool take(const QString &manifest, const QString &rule, const QString &field);
-    /// The findings of a manifest that are left.
+    /// The remaining findings of a manifest.
     std::vector<Entry> left(const QString &manifest) const;
-    /// The manifests with findings left that do not exist, named as in the file.
+    /// Manifests with remaining findings that do not exist, as named in the file.
     QStringList missingManifests() const;
 
     int size() const;

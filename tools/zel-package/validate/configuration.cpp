@@ -67,7 +67,7 @@ private:
                 read(name, value);
             else
                 add(key.source(),
-                    QCoreApplication::translate("zel-package", "There is no setting '%1'%2")
+                    QCoreApplication::translate("zel-package", "Unknown setting '%1'%2")
                         .arg(name, suggestion(name, known,
                                               QCoreApplication::translate("zel-package",
                                                                           "; it is one of %1.")
@@ -78,9 +78,9 @@ private:
     void readOverrides(const QString &key, const toml::node &value) {
         const toml::array *list = value.as_array();
         if (!list || !list->is_homogeneous(toml::node_type::table)) {
-            add(value.source(), QCoreApplication::translate(
-                                    "zel-package", "'%1' has to be a list of tables, [[%1]].")
-                                    .arg(key));
+            add(value.source(),
+                QCoreApplication::translate("zel-package", "'%1' must be a list of tables, [[%1]].")
+                    .arg(key));
             return;
         }
         for (const toml::node &entry : *list)
@@ -108,7 +108,7 @@ private:
         const toml::table *table = value.as_table();
         if (!table) {
             add(value.source(),
-                QCoreApplication::translate("zel-package", "'%1' has to be a table.").arg(key));
+                QCoreApplication::translate("zel-package", "'%1' must be a table.").arg(key));
             return {};
         }
         RuleSeverities severities;
@@ -126,7 +126,7 @@ private:
         return severities;
     }
 
-    // Nothing for "off", and for what is no severity.
+    // nullopt for "off" and for invalid severities.
     std::optional<Severity> severityIn(const QString &key, const toml::node &value,
                                        const QStringList &words) {
         const auto given = value.value<std::string_view>();
@@ -147,7 +147,7 @@ private:
 
     void addWrongType(const toml::node &value, const QString &key) {
         add(value.source(),
-            QCoreApplication::translate("zel-package", "'%1' has to be a text in quotes.")
+            QCoreApplication::translate("zel-package", "'%1' must be a string in quotes.")
                 .arg(key));
     }
 

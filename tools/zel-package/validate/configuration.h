@@ -33,33 +33,33 @@ struct Configuration {
     QString folder; ///< absolute
     std::optional<Zel::PackageModel::Severity> failOn = {};
     RuleSeverities rules = {};
-    std::vector<Override> overrides = {}; ///< the last one that matches counts
+    std::vector<Override> overrides = {}; ///< the last match wins
 
-    /// The settings for a manifest; a name without a folder is taken from the working directory.
+    /// The settings for a manifest. A relative name refers to the working directory.
     RuleSettings settingsFor(const QString &file) const;
 };
 
-/// Something that is wrong in a configuration file.
+/// An error in a configuration file.
 struct ConfigurationError {
-    Tano::SourcePosition position; ///< line 0 for the file as a whole
+    Tano::SourcePosition position; ///< line 0 if it concerns the whole file
     QString text;
 };
 
-/// Parses the content of a configuration file, and appends what is wrong to `errors`.
+/// Parses a configuration file and appends errors to `errors`.
 Configuration parseConfiguration(const std::string &content, const QString &folder,
                                  std::vector<ConfigurationError> &errors);
 
-/// Finds the configurations of manifests: the nearest file `.zel-package.toml` in the folder of the
-/// manifest or above it. Each folder is searched, and each file read, once.
+/// Finds the configuration of a manifest: the nearest `.zel-package.toml` in its folder or above.
+/// Each folder is searched once, and each file read once.
 class Configurations {
 public:
     using Report = std::function<void(const QString &file, const ConfigurationError &error)>;
 
-    /// `report` gets each error; what is wrong in a file has no effect.
+    /// `report` receives each error; invalid settings are ignored.
     explicit Configurations(Report report)
         : m_report(std::move(report)) {}
 
-    /// Takes this file for all manifests; returns false if it has errors.
+    /// Uses this file for all manifests; returns false if it has errors.
     [[nodiscard]] bool use(const QString &file);
 
     /// The configuration for manifests in a folder.
@@ -72,7 +72,7 @@ private:
     Pointer find(const QString &folder);
 
     Report m_report;
-    Pointer m_used; // null to search
+    Pointer m_used; // null if folders are searched
     QHash<QString, Pointer> m_byFolder;
 };
 

@@ -19,7 +19,7 @@ QString tableOf(const QVector<Rule> &rules, const Console &console) {
                      {QCoreApplication::translate("zel-package", "severity")},
                      {QCoreApplication::translate("zel-package", "message")}});
     for (const Rule &rule : rules)
-        table.addRow({{rule.id}, {wordOf(rule.severity)}, {messageForm(rule)}});
+        table.addRow({{rule.id}, {severityWord(rule.severity)}, {messageForm(rule)}});
     return table.toText(console, 0);
 }
 
@@ -58,9 +58,8 @@ const ProgramCommand explainCommand{
     "explain",
     QT_TRANSLATE_NOOP("zel-package", "Explain the rules of 'validate'"),
     QT_TRANSLATE_NOOP("zel-package", "[ID] [--format text|json]"),
-    QT_TRANSLATE_NOOP("zel-package",
-                      "Explains what the rule ID of 'validate' is for and how to correct its "
-                      "findings; without an ID, lists all rules."),
+    QT_TRANSLATE_NOOP("zel-package", "Explains the purpose of the rule ID of 'validate' and how to "
+                                     "correct its findings; without an ID, lists all rules."),
     0,
     1,
     options,

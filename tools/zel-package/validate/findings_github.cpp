@@ -32,7 +32,7 @@ QString escapedProperty(const QString &text) {
         .replace(u',', QLatin1String("%2C"));
 }
 
-// Workflow commands of GitHub Actions, which show findings beside the lines of a change.
+// Writes workflow commands, which GitHub Actions shows beside the changed lines.
 class GithubWriter : public FindingsWriter {
 public:
     explicit GithubWriter(Console &console)

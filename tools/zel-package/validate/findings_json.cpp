@@ -25,8 +25,8 @@ QJsonArray jsonOf(const QVector<Fix> &fixes) {
     return list;
 }
 
-// {"format": 1, "findings": [...], "unreadable": [...], "rules": [...], "summary": {...}}, the
-// rules only where they are to be explained; schema/validation.schema.json.
+// {"format": 1, "findings": [...], "unreadable": [...], "rules": [...], "summary": {...}}, with the
+// rules only on request; see schema/validation.schema.json.
 class JsonWriter : public FindingsWriter {
 public:
     explicit JsonWriter(Console &console)
@@ -46,7 +46,7 @@ public:
                             {QStringLiteral("line"), qint64(finding.position.line)},
                             {QStringLiteral("column"), qint64(finding.position.column)},
                             {QStringLiteral("id"), finding.ruleId},
-                            {QStringLiteral("severity"), wordOf(finding.severity)},
+                            {QStringLiteral("severity"), severityWord(finding.severity)},
                             {QStringLiteral("field"), finding.field},
                             {QStringLiteral("text"), finding.text},
                             {QStringLiteral("fixes"), jsonOf(finding.fixes)}});
@@ -87,7 +87,7 @@ private:
 
     Console &m_console;
     JsonList m_findings;
-    QVector<QJsonObject> m_unreadable; // at most as many as there are arguments
+    QVector<QJsonObject> m_unreadable; // at most one per argument
 };
 
 } // namespace

@@ -23,13 +23,13 @@ QJsonObject textObject(const QString &text) {
     return {{QStringLiteral("text"), text}};
 }
 
-// Braces stand for placeholders.
+// Escapes braces, which delimit placeholders.
 QJsonObject messageObject(const QString &text) {
     return textObject(
         QString(text).replace(u'{', QStringLiteral("{{")).replace(u'}', QStringLiteral("}}")));
 }
 
-// RFC 3986; relative to the base below if the file is below the working directory.
+// Files below the working directory have URIs (RFC 3986) relative to this base.
 constexpr QLatin1String baseId("%SRCROOT%");
 
 QString encoded(const QString &path) {
@@ -59,7 +59,7 @@ QJsonObject ruleObject(const Rule &rule) {
             {QStringLiteral("fullDescription"), messageObject(rule.explanation)},
             {QStringLiteral("help"), textObject(rule.remedy)},
             {QStringLiteral("defaultConfiguration"),
-             QJsonObject{{QStringLiteral("level"), wordOf(rule.severity)}}}};
+             QJsonObject{{QStringLiteral("level"), severityWord(rule.severity)}}}};
 }
 
 QJsonObject toolObject(const QVector<Rule> &rules) {
@@ -90,7 +90,7 @@ QJsonObject locationObject(const QString &file, const ManifestFinding &finding) 
     return location;
 }
 
-// Whole lines are replaced, up to the start of the line behind them.
+// Replaces whole lines, up to the start of the following one.
 QJsonObject replacementObject(const LineChange &change) {
     const QJsonObject region{{QStringLiteral("startLine"), change.firstLine},
                              {QStringLiteral("startColumn"), 1},
@@ -121,8 +121,7 @@ public:
     bool needsFixes() const override { return true; }
     std::size_t neededContent() const override { return FixChanges::longestManifest; }
 
-    // The members of an object may have any order; the results precede what is known only after
-    // them.
+    // Members of an object may have any order, so results precede what is only known at the end.
     void begin() override {
         const QString root = QDir::currentPath();
         const QJsonObject base{
@@ -153,7 +152,7 @@ public:
     }
 
     void finish(const Report &report) override {
-        // A malformed manifest is a result; a file that could not be read makes the run incomplete.
+        // A malformed manifest is a result; an unreadable file makes the run incomplete.
         QJsonObject invocation{{QStringLiteral("executionSuccessful"), report.unreadable == 0},
                                {QStringLiteral("exitCode"), int(report.status)}};
         if (!m_notifications.isEmpty())
@@ -168,10 +167,10 @@ private:
         QJsonObject result{
             {QStringLiteral("ruleId"), finding.ruleId},
             {QStringLiteral("ruleIndex"), int(m_ruleIds.indexOf(finding.ruleId))},
-            {QStringLiteral("level"), wordOf(finding.severity)},
+            {QStringLiteral("level"), severityWord(finding.severity)},
             {QStringLiteral("message"), messageObject(finding.text)},
             {QStringLiteral("locations"), QJsonArray{locationObject(file, finding)}}};
-        // The same finding, wherever its line moves to.
+        // Identifies the finding even if its line moves.
         if (!finding.field.isEmpty())
             result[QStringLiteral("partialFingerprints")] =
                 QJsonObject{{QStringLiteral("ruleAndField/v1"),
@@ -199,7 +198,7 @@ private:
     QVector<Rule> m_rules;
     QStringList m_ruleIds;
     JsonList m_results;
-    QJsonArray m_notifications; // at most as many as there are arguments
+    QJsonArray m_notifications; // at most one per argument
 };
 
 } // namespace

@@ -9,21 +9,22 @@
 
 namespace ZelPackage {
 
-/// The result of a run over some manifests.
+/// The result of checking manifests.
 struct Report {
     int files = 0;
-    int errors = 0; ///< malformed manifests among them
+    int errors = 0; ///< includes malformed manifests
     int warnings = 0;
     int notes = 0;
     int malformed = 0;
     int unreadable = 0;
-    int truncated = 0; ///< with more findings of a rule than are listed
+    int truncated = 0; ///< manifests for which not all findings of a rule are listed
     int fixed = 0;
     ExitStatus status = Fine;
     QVector<Zel::PackageModel::Rule> explained; ///< the rules to explain, if any
 };
 
-/// Writes findings in one format, manifest by manifest, so that many manifests take up no memory.
+/// Writes findings in one format, manifest by manifest, so that memory use does not grow with their
+/// number.
 class FindingsWriter {
 public:
     FindingsWriter() = default;
@@ -31,16 +32,16 @@ public:
     FindingsWriter(const FindingsWriter &) = delete;
     FindingsWriter &operator=(const FindingsWriter &) = delete;
 
-    /// Whether findings are to have their fixes.
+    /// Whether findings must include their fixes.
     virtual bool needsFixes() const { return false; }
-    /// The size in bytes up to which the content of a manifest is to be there.
+    /// The maximum size in bytes of manifests whose content must be provided.
     virtual std::size_t neededContent() const { return 0; }
 
     virtual void begin() {}
     virtual void write(const CheckedManifest &manifest) = 0;
-    /// A file that could not be read or written, and the reason. Standard error has it too.
+    /// Reports a file that could not be read or written; also printed to standard error.
     virtual void writeTrouble(const QString & /*file*/, const QString & /*trouble*/) {}
-    /// A file with more findings than are listed. Standard error has the note too.
+    /// Reports a file with more findings than listed; also printed to standard error.
     virtual void writeTruncated(const QString & /*file*/, const QString & /*note*/) {}
     virtual void finish(const Report & /*report*/) {}
 };

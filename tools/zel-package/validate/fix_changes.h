@@ -7,22 +7,21 @@
 
 namespace ZelPackage {
 
-/// The lines that fixes change in a manifest.
+/// Computes the lines that fixes change in a manifest.
 ///
-/// Each fix is made and saved on its own, which takes time in proportion to the manifest. There are
-/// no changes for manifests that are longer than longestManifest, or in which fixes would change
-/// other lines too because they are not in the canonical form; nor for the further fixes of a
-/// manifest once those before them took `budget` bytes.
+/// Each fix is applied and saved separately, which takes time in proportion to the manifest.
+/// Returns no changes for manifests longer than longestManifest or not in canonical form, whose
+/// other lines would change too, nor after `budget` bytes were spent on earlier fixes.
 class FixChanges {
 public:
     static constexpr std::size_t longestManifest = std::size_t(1) << 20;
     static constexpr std::size_t budget = longestManifest * 32;
 
-    /// `manifest` has its record and content, and must outlive this.
+    /// `manifest` must have record and content, and outlive this object.
     explicit FixChanges(const CheckedManifest &manifest)
         : m_manifest(manifest) {}
 
-    /// Empty if there are none to show.
+    /// Empty if there are none.
     std::vector<LineChange> of(const Zel::PackageModel::Fix &fix);
 
 private:

@@ -11,22 +11,22 @@
 
 namespace ZelPackage {
 
-/// One thing that is wrong with a manifest.
+/// A fault in a manifest.
 struct ManifestFinding {
     Tano::SourcePosition position;
     QString ruleId;
     Zel::PackageModel::Severity severity;
-    QString field; ///< as a path, for example "names[fr_FR]"; empty for the manifest as a whole
-    QString text;  ///< plain
+    QString field; ///< a path such as "names[fr_FR]"; empty for the whole manifest
+    QString text;  ///< without markup
     QVector<Zel::PackageModel::Fix> fixes = {}; ///< if the writer needs them
 };
 
 /// A manifest and its findings.
 struct CheckedManifest {
-    QString file; ///< as it was given; the name of one from standard input
+    QString file; ///< as given by the user; a substitute for standard input
     Tano::PackageInfo record = {};
-    std::string content = {};                   ///< the bytes, if the writer needs them
-    std::vector<ManifestFinding> findings = {}; ///< by line and column
+    std::string content = {};                   ///< the bytes, if needed by the writer
+    std::vector<ManifestFinding> findings = {}; ///< sorted by line and column
 };
 
 } // namespace ZelPackage

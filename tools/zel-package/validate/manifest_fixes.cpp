@@ -7,8 +7,8 @@
 
 namespace ZelPackage {
 
-// The edits are found on a copy, since the editor has to see them to take back what only its model
-// has completed.
+// Finds the edits on a copy: the record editor must apply them itself, to undo what only the model
+// adds.
 FixedManifest fixedManifest(const Tano::PackageInfo &record, Zel::PackageModel::FixChoice choice,
                             const Zel::PackageModel::IssueOptions &options) {
     Zel::PackageInfoModel copy(record);

@@ -7,14 +7,14 @@
 
 namespace ZelPackage {
 
-/// A manifest after its fixes.
+/// A manifest after fixing.
 struct FixedManifest {
-    std::string content;           ///< empty if there was nothing to fix, or after an error
-    Tano::PackageInfo record = {}; ///< the same
-    QString error = {};            ///< why it cannot be saved
+    std::string content;           ///< empty if nothing was fixed, or on error
+    Tano::PackageInfo record = {}; ///< the same as a record
+    QString error = {};            ///< the reason if it cannot be saved
 };
 
-/// Fixes a package; what no fix concerns is left as it was written. Fixing the result again changes
+/// Fixes a package without changing the spelling of anything else. Fixing the result again changes
 /// nothing.
 FixedManifest fixedManifest(const Tano::PackageInfo &record, Zel::PackageModel::FixChoice choice,
                             const Zel::PackageModel::IssueOptions &options);

@@ -23,7 +23,7 @@ void collect(const fs::path &folder, const Report &report, QStringList &files) {
     std::error_code error;
     for (auto entry = fs::directory_iterator(folder, error);
          !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        std::error_code ignored; // of an entry that is gone meanwhile
+        std::error_code ignored; // the entry may be gone
         if (fs::is_directory(entry->symlink_status(ignored)))
             collect(entry->path(), report, files);
         else if (entry->path().filename() == "manifest.xml" && !entry->is_directory(ignored))
@@ -38,7 +38,7 @@ void collect(const fs::path &folder, const Report &report, QStringList &files) {
 QStringList manifestsOf(const QStringList &arguments, const Report &report) {
     QStringList all;
     for (const QString &argument : arguments) {
-        std::error_code ignored; // of a file that is not there
+        std::error_code ignored; // the file may not exist
         if (!fs::is_directory(nativeBytes(argument), ignored)) {
             all += argument;
             continue;
@@ -54,8 +54,8 @@ QStringList manifestsOf(const QStringList &arguments, const Report &report) {
             files);
         files.sort();
         if (files.isEmpty() && isFine)
-            report(argument, QCoreApplication::translate(
-                                 "zel-package", "There is no manifest.xml in the folder."));
+            report(argument, QCoreApplication::translate("zel-package",
+                                                         "The folder contains no manifest.xml."));
         all += files;
     }
     return all;

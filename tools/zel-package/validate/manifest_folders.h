@@ -7,10 +7,10 @@
 
 namespace ZelPackage {
 
-/// The manifests that arguments mean: a folder is every file manifest.xml in it and below it, in
-/// ascending order; links to folders are not followed. Anything else is itself.
+/// Expands arguments to manifests: a folder yields every manifest.xml in and below it, sorted,
+/// without following links to folders. Other arguments are returned unchanged.
 ///
-/// `report` gets each folder that cannot be read or has no manifest, and why.
+/// `report` receives folders that cannot be read or have no manifest, with the reason.
 QStringList
 manifestsOf(const QStringList &arguments,
             const std::function<void(const QString &folder, const QString &trouble)> &report);

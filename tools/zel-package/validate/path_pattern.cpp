@@ -6,8 +6,8 @@
 
 namespace ZelPackage {
 
-// Where the names after a `**` do not match, it takes one name more. Only the last one needs that:
-// those before it matched as few names as they could.
+// If the names after a `**` do not match, backtracks and lets it match one more name. Only the last
+// `**` needs this, since earlier ones matched as few names as possible.
 bool matchesPath(const QString &pattern, const QString &path) {
     const QStringList wanted = pattern.split(u'/');
     const QStringList names = path.split(u'/');

@@ -4,8 +4,8 @@
 
 namespace ZelPackage {
 
-/// Whether a path matches a pattern: `*`, `?` and `[...]` as in POSIX fnmatch() within the name of
-/// a file or folder, and `**` for any number of folders, as in `third-party/**`.
+/// Whether a path matches a pattern: `*`, `?` and `[...]` match within a name as in POSIX
+/// fnmatch(), `**` matches any number of folders, as in `third-party/**`.
 bool matchesPath(const QString &pattern, const QString &path);
 
 } // namespace ZelPackage

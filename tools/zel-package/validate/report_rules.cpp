@@ -16,7 +16,7 @@ using Zel::PackageModel::Severity;
 
 namespace {
 
-const QLatin1String lessThan("&lt;"); // the one entity that messages have
+const QLatin1String lessThan("&lt;"); // the only entity in messages
 
 QString indented(const QString &text, const Console &console) {
     QString result;
@@ -56,24 +56,24 @@ struct OwnRule {
 // clang-format off
 const std::array ownRules{
     OwnRule{baselineUnusedRuleId, Severity::Note,
-     QT_TRANSLATE_NOOP("zel-package", "The baseline lists '%1' here, which is not found any more."),
-     QT_TRANSLATE_NOOP("zel-package", "A baseline lists known findings, which are not reported. An entry whose finding is gone would hide the same finding if it came back."),
-     QT_TRANSLATE_NOOP("zel-package", "Write the baseline again with --write-baseline."),
+     QT_TRANSLATE_NOOP("zel-package", "The baseline lists '%1', which is no longer found here."),
+     QT_TRANSLATE_NOOP("zel-package", "A baseline lists known findings, which are not reported. An outdated entry would hide the same finding if it came back."),
+     QT_TRANSLATE_NOOP("zel-package", "Update the baseline with --write-baseline."),
      "{\"count\":1,\"field\":\"date\",\"file\":\"manifest.xml\",\"rule\":\"date-invalid\"}"},
     OwnRule{ignoreUnusedRuleId, Severity::Note,
      QT_TRANSLATE_NOOP("zel-package", "The comment ignores '%1', which is not found here."),
-     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' applies to the element that follows it. Where its rules find nothing, it would hide findings that come later."),
+     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' applies to the element after it. If its rules find nothing, it would hide later findings."),
      QT_TRANSLATE_NOOP("zel-package", "Remove the rule from the comment, or the comment."),
      "<!-- zel-package: ignore nature-unknown -->\n<behavior path=\"greet\" nature=\"solitary\"/>"},
     OwnRule{ignoreUnknownRuleId, Severity::Warning,
-     QT_TRANSLATE_NOOP("zel-package", "There is no rule '%1'%2"),
-     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' names a rule that does not exist, so that it has no effect."),
-     QT_TRANSLATE_NOOP("zel-package", "Write the id of a rule; 'zel-package explain' lists them."),
+     QT_TRANSLATE_NOOP("zel-package", "Unknown rule '%1'%2"),
+     QT_TRANSLATE_NOOP("zel-package", "A comment 'zel-package: ignore' names a rule that does not exist, so it has no effect."),
+     QT_TRANSLATE_NOOP("zel-package", "Use the id of a rule; 'zel-package explain' lists them."),
      "<!-- zel-package: ignore nature -->\n<behavior path=\"greet\" nature=\"solo\"/>"},
     OwnRule{malformedRuleId, Severity::Error,
      QT_TRANSLATE_NOOP("zel-package", "The manifest is malformed."),
-     QT_TRANSLATE_NOOP("zel-package", "The file is not well-formed XML in UTF-8, or has content that a manifest cannot have at that place. Nothing else in it is checked, and the exit status is 2."),
-     QT_TRANSLATE_NOOP("zel-package", "Correct the file at the line and column that are given, then check it again."),
+     QT_TRANSLATE_NOOP("zel-package", "The file is not well-formed XML in UTF-8, or has content that is not allowed at this position. Nothing else in it is checked, and the exit status is 2."),
+     QT_TRANSLATE_NOOP("zel-package", "Correct the file at the reported line and column, then check it again."),
      "<author>Smith & Sons</author>"},
 };
 // clang-format on
@@ -106,25 +106,14 @@ QStringList idsOf(const QVector<Rule> &rules) {
     return ids;
 }
 
-QLatin1String wordOf(Severity severity) {
-    switch (severity) {
-    case Severity::Note:
-        return QLatin1String("note");
-    case Severity::Warning:
-        return QLatin1String("warning");
-    case Severity::Error:
-        break;
-    }
-    return QLatin1String("error");
-}
-
 QStringList severityWords() {
-    return {wordOf(Severity::Error), wordOf(Severity::Warning), wordOf(Severity::Note)};
+    return {severityWord(Severity::Error), severityWord(Severity::Warning),
+            severityWord(Severity::Note)};
 }
 
 std::optional<Severity> severityOf(const QString &word) {
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        if (word == wordOf(severity))
+        if (word == severityWord(severity))
             return severity;
     }
     return {};
@@ -147,14 +136,14 @@ QString messageForm(const Rule &rule) {
 
 QString explanationOf(const Rule &rule, const Console &console) {
     return console.styled(rule.id, Style::Heading) % u' ' %
-           console.styled(u'(' % wordOf(rule.severity) % u')', Style::Faint) % u'\n' %
+           console.styled(u'(' % severityWord(rule.severity) % u')', Style::Faint) % u'\n' %
            indented(messageForm(rule), console) % u'\n' % indented(rule.explanation, console) %
            u'\n' % indented(rule.remedy, console) % exampleOf(rule);
 }
 
 QJsonObject ruleJson(const Rule &rule) {
     QJsonObject object{{QStringLiteral("id"), rule.id},
-                       {QStringLiteral("severity"), wordOf(rule.severity)},
+                       {QStringLiteral("severity"), severityWord(rule.severity)},
                        {QStringLiteral("message"), messageForm(rule)},
                        {QStringLiteral("explanation"), rule.explanation},
                        {QStringLiteral("remedy"), rule.remedy}};
@@ -170,7 +159,7 @@ QString unknownRule(const QString &id, const QStringList &known) {
             ? QCoreApplication::translate("zel-package", "; 'zel-package explain' lists the rules.")
             : QCoreApplication::translate("zel-package", "; did you mean '%1'?")
                   .arg(near.join(QStringLiteral("', '")));
-    return QCoreApplication::translate("zel-package", "There is no rule '%1'%2").arg(id, hint);
+    return QCoreApplication::translate("zel-package", "Unknown rule '%1'%2").arg(id, hint);
 }
 
 } // namespace ZelPackage

@@ -2,7 +2,7 @@
 
 #include "console/console.h"
 
-#include <packagemodel/package_issues.h>
+#include <packagemodel/issue_report.h>
 
 #include <QJsonObject>
 #include <QString>
@@ -13,40 +13,39 @@
 
 namespace ZelPackage {
 
-// The rules that are the program's own.
+// Rules defined by the program itself.
 
-extern const QLatin1String malformedRuleId; ///< of manifests that cannot be read as such
+extern const QLatin1String malformedRuleId; ///< for manifests that cannot be parsed
 extern const QLatin1String baselineUnusedRuleId;
 extern const QLatin1String ignoreUnusedRuleId;
 extern const QLatin1String ignoreUnknownRuleId;
 
-/// All rules that findings are reported under: the model's and, behind them, the program's own.
+/// All rules that may be reported: those of the model, then the program's.
 QVector<Zel::PackageModel::Rule> reportRules();
 
 QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
 
-/// The ids of the rules that can be ignored and given another severity.
+/// The ids of rules that can be ignored or given another severity.
 QStringList changeableRuleIds();
 
-/// "error", "warning" or "note", in every language.
-QLatin1String wordOf(Zel::PackageModel::Severity severity);
+/// "error", "warning" and "note", in every language.
 QStringList severityWords();
-/// The severity of a word; nothing for another word.
+/// The severity with this name, or nullopt.
 std::optional<Zel::PackageModel::Severity> severityOf(const QString &word);
 
-/// The message of one of the program's own rules, its placeholders not yet filled.
+/// The message of one of the program's rules, with placeholders.
 QString messageOf(QLatin1String ownRule);
 
-/// The rule's message as plain text, "…" where it names something.
+/// The rule's message as plain text, with "…" for placeholders.
 QString messageForm(const Zel::PackageModel::Rule &rule);
 
-/// The message, explanation, remedy and example of a rule, in lines of the width of the terminal.
+/// The message, explanation, remedy and example of a rule, wrapped to the terminal's width.
 QString explanationOf(const Zel::PackageModel::Rule &rule, const Console &console);
 
-/// A rule as "rules" of schema/rules.schema.json has it.
+/// A rule as described by "rules" in schema/rules.schema.json.
 QJsonObject ruleJson(const Zel::PackageModel::Rule &rule);
 
-/// The sentence that there is no such rule, with the nearest ones.
+/// The error for an unknown rule, with suggestions.
 QString unknownRule(const QString &id, const QStringList &known);
 
 } // namespace ZelPackage

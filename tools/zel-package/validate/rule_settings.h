@@ -9,10 +9,10 @@
 
 namespace ZelPackage {
 
-/// The severities that rules are given, by id; none for a rule that is off.
+/// The configured severities by rule id; nullopt if a rule is off.
 using RuleSeverities = QHash<QString, std::optional<Zel::PackageModel::Severity>>;
 
-/// How the findings of one manifest are treated.
+/// How to treat the findings of one manifest.
 struct RuleSettings {
     RuleSeverities severities;
     Zel::PackageModel::Severity failOn = Zel::PackageModel::Severity::Error;
@@ -27,7 +27,7 @@ struct RuleSettings {
         return severities.value(rule).value_or(otherwise);
     }
 
-    /// Gives the rules of `others` the severities that they have there.
+    /// Overrides the severities by those of `others`.
     void add(const RuleSeverities &others) {
         for (auto it = others.constBegin(); it != others.constEnd(); ++it)
             severities[it.key()] = it.value();

@@ -11,13 +11,13 @@ bool continuesCharacter(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-// As it is shown: tabs as one space, so that widths add up; the rest printable.
+// Makes a part printable and shows tabs as one space, so that widths add up.
 QString shownPart(std::string_view bytes) {
     QString text = QString::fromUtf8(bytes.data(), int(bytes.size()));
     return printable(text.replace(u'\t', u' '));
 }
 
-// The characters at the start, or the end, of a text that fit into `width` columns.
+// The longest prefix or suffix of a text that fits into `width` columns.
 QString fitted(const QString &text, int width, bool atStart) {
     if (displayWidth(text) <= width)
         return text;
@@ -31,7 +31,7 @@ QString fitted(const QString &text, int width, bool atStart) {
 
 } // namespace
 
-// Moves over one character or line end; returns false at the end of the content.
+// Advances by one character or line end; returns false at the end of the content.
 bool SourceExcerpt::advance() {
     if (m_offset >= m_content.size())
         return false;
@@ -67,7 +67,7 @@ QString SourceExcerpt::at(Tano::SourcePosition position, Style caretStyle, const
     const QString margin = QStringLiteral(" | ");
     const int width = console.width() - int(number.size() + margin.size());
 
-    // A character has at most four bytes, and none is shown narrower than it is long here.
+    // A character has at most four bytes, and takes at least one column here.
     const std::size_t most = std::size_t(width) * 4;
     const std::size_t start = std::max(m_lineStart, m_offset - std::min(m_offset, most));
     std::size_t begin = start;

@@ -10,7 +10,7 @@
 
 namespace ZelPackage {
 
-/// Shows places of a manifest on a terminal: the line, and a caret below the column.
+/// Shows positions in a manifest on a terminal: the line, with a caret below the column.
 ///
 /// ```
 ///   18 |   <brioRequirement minVersion="2.5" maxVersion="2.4"/>
@@ -18,12 +18,12 @@ namespace ZelPackage {
 /// ```
 class SourceExcerpt {
 public:
-    /// `content`, in UTF-8, must outlive the excerpts.
+    /// `content` is UTF-8 and must outlive this object.
     explicit SourceExcerpt(std::string_view content)
         : m_content(content) {}
 
-    /// The two lines for a place, of at most the width of the console: of a long line, the part
-    /// around the column. Fastest for ascending positions. Empty for a place beyond the content.
+    /// The two lines for a position, cut to the width of the console around the column. Fastest for
+    /// ascending positions. Empty for a position beyond the content.
     QString at(Tano::SourcePosition position, Style caretStyle, const Console &console);
 
 private:
@@ -31,7 +31,7 @@ private:
     bool advance();
 
     std::string_view m_content;
-    // The place up to which lines and characters are counted.
+    // The position up to which lines and characters have been counted.
     std::size_t m_lineStart = 0;
     std::size_t m_offset = 0;
     Tano::SourcePosition m_position{1, 1};

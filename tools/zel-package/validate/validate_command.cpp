@@ -11,7 +11,7 @@ namespace {
 
 void checkAll(const QStringList &files, bool showsDiff, Validation &validation, Console &console) {
     const QStringList names = showsDiff ? patchNames(files) : files;
-    constexpr int fewFiles = 100; // which take no time to speak of
+    constexpr int fewFiles = 100; // few enough to need no progress
     const int step = std::max(1, int(files.size()) / 100);
     for (int i = 0; i < files.size(); ++i) {
         if (files.size() > fewFiles && i % step == 0)
@@ -23,7 +23,7 @@ void checkAll(const QStringList &files, bool showsDiff, Validation &validation, 
     console.showProgress({});
 }
 
-// Empty where nothing was found.
+// Empty if there are no findings.
 QString summaryOf(const Report &report, bool isDryRun) {
     if (report.errors + report.warnings + report.notes + report.unreadable + report.fixed == 0)
         return {};
@@ -89,11 +89,11 @@ const ProgramCommand validateCommand{
                       "[--write-baseline FILE] [--stdin-name NAME] [--quiet] "
                       "[--color auto|always|never] [--explain]"),
     QT_TRANSLATE_NOOP("zel-package",
-                      "Prints the findings of each manifest by line, as FILE:LINE:COLUMN: error: "
-                      "text [id]; a missing field has the place of the element that should hold "
-                      "it. A FOLDER means every manifest.xml in it and below it. 'zel-package "
-                      "explain ID' explains a rule. '-' reads standard input; with --fix, the "
-                      "manifest goes to standard output and the findings to standard error."),
+                      "Prints the findings in each manifest by line, as FILE:LINE:COLUMN: error: "
+                      "text [id]; a missing field is reported at the element that should contain "
+                      "it. A FOLDER means every manifest.xml in or below it. 'zel-package explain "
+                      "ID' explains a rule. '-' reads standard input; with --fix, the manifest "
+                      "goes to standard output and the findings to standard error."),
     1,
     ProgramCommand::anyNumber,
     validateOptions,

@@ -47,8 +47,7 @@ constexpr std::array severities{Choice<Severity>{"error", Severity::Error},
                                 Choice<Severity>{"warning", Severity::Warning},
                                 Choice<Severity>{"note", Severity::Note}};
 
-// The value of an option, the first choice where it is not given; nothing once an unknown word has
-// been reported.
+// The value of an option, by default the first choice; nullopt after reporting an unknown word.
 template<typename Choices>
 auto chosen(const QCommandLineParser &arguments, QLatin1String option, const Choices &choices,
             Console &console) {
@@ -114,25 +113,24 @@ QList<QCommandLineOption> validateOptions() {
     return {
         option(formatOption,
                QCoreApplication::translate(
-                   "zel-package", "The form of the output: text (the default), json, sarif or "
-                                  "github."),
+                   "zel-package", "The output format: text (the default), json, sarif or github."),
                QStringLiteral("FORMAT")),
         option(failOnOption,
                QCoreApplication::translate("zel-package",
-                                           "The least severity that makes the exit status 1: error "
-                                           "(the default), warning or note."),
+                                           "The lowest severity that sets the exit status to 1: "
+                                           "error (the default), warning or note."),
                QStringLiteral("SEVERITY")),
         option(ignoreOption,
                QCoreApplication::translate("zel-package",
-                                           "Leave out the findings of these rules; IDs are joined "
-                                           "by commas, and the option may be given several times."),
+                                           "Do not report findings of these rules; separate IDs by "
+                                           "commas, or repeat the option."),
                QStringLiteral("ID,...")),
         option(fixOption,
-               QCoreApplication::translate("zel-package", "Make the safe fixes, and report the "
-                                                          "findings that remain.")),
+               QCoreApplication::translate(
+                   "zel-package", "Apply the safe fixes, and report the remaining findings.")),
         option(unsafeFixesOption,
                QCoreApplication::translate("zel-package",
-                                           "Also make the fixes that may change the meaning.")),
+                                           "Also apply fixes that may change the meaning.")),
         option(diffOption, QCoreApplication::translate(
                                "zel-package", "Write nothing; print the fixes as a unified diff.")),
         option(configOption,
@@ -142,7 +140,7 @@ QList<QCommandLineOption> validateOptions() {
                QStringLiteral("FILE")),
         option(baselineOption,
                QCoreApplication::translate("zel-package",
-                                           "Leave out the findings that this file lists."),
+                                           "Do not report the findings listed in this file."),
                QStringLiteral("FILE")),
         option(
             writeBaselineOption,
@@ -153,16 +151,16 @@ QList<QCommandLineOption> validateOptions() {
                                            "The name of the manifest from standard input."),
                QStringLiteral("NAME")),
         option(quietOption,
-               QCoreApplication::translate("zel-package",
-                                           "Print only findings that make the exit status 1, and "
-                                           "no summary.")),
+               QCoreApplication::translate(
+                   "zel-package",
+                   "Print only findings that set the exit status to 1, and no summary.")),
         option(colorOption,
                QCoreApplication::translate("zel-package",
                                            "Whether to use color: auto (the default, on a "
                                            "terminal), always or never."),
                QStringLiteral("WHEN")),
         option(explainOption, QCoreApplication::translate(
-                                  "zel-package", "Explain, at the end, each rule with findings."))};
+                                  "zel-package", "Explain each rule with findings at the end."))};
 }
 
 std::optional<ValidateRequest> validateRequest(const QCommandLineParser &arguments,
@@ -176,7 +174,7 @@ std::optional<ValidateRequest> validateRequest(const QCommandLineParser &argumen
     const QStringList files = arguments.positionalArguments();
     if (arguments.isSet(stdinNameOption) && !hasStream(files)) {
         console.printMessage(QCoreApplication::translate(
-                                 "zel-package", "'--%1' needs '-', standard input, as a FILE.")
+                                 "zel-package", "'--%1' requires standard input, '-', as a FILE.")
                                  .arg(stdinNameOption));
         return {};
     }

@@ -12,29 +12,29 @@
 
 namespace ZelPackage {
 
-/// What the arguments of `zel-package validate` ask for.
+/// The parsed arguments of `zel-package validate`.
 struct ValidateRequest {
     QStringList arguments; ///< files and folders
     std::unique_ptr<FindingsWriter> (*makeWriter)(Console &console);
     Console::Color color;
     std::optional<Zel::PackageModel::Severity> failOn;
-    QSet<QString> ignored; ///< the ids of rules
+    QSet<QString> ignored; ///< rule ids
     bool isQuiet;
     bool explains;
     std::optional<Zel::PackageModel::FixChoice> fixes;
     bool showsDiff;
-    QString stdinName; // of the following, each empty for none
+    QString stdinName; // this and the following are empty if not given
     QString configuration;
     QString baseline;
     QString newBaseline;
 
-    /// Whether standard output is for manifests or differences, so that findings go elsewhere.
+    /// Whether manifests or differences use standard output, so that findings must go elsewhere.
     bool printsManifests() const;
 };
 
 QList<QCommandLineOption> validateOptions();
 
-/// Returns nothing once the first mistake has been reported.
+/// Returns nullopt after reporting the first mistake.
 std::optional<ValidateRequest> validateRequest(const QCommandLineParser &arguments,
                                                Console &console);
 

@@ -10,25 +10,24 @@
 
 namespace ZelPackage {
 
-/// Checks manifests one after another, fixes them if that is asked for, and counts the findings.
+/// Checks manifests one by one, optionally fixes them, and counts the findings.
 class Validation {
 public:
-    /// Findings go to `writer`, everything else that is reported to `messages`, and fixed manifests
-    /// from standard input and differences to `output`.
+    /// Findings go to `writer`, all other reports to `messages`, and fixed manifests from standard
+    /// input and differences to `output`.
     Validation(const ValidateRequest &request, FindingsWriter &writer, Console &messages,
                Console &output);
 
-    /// Reads the configuration and the baseline that are named; returns false once an error has
-    /// been reported.
+    /// Reads the given configuration and baseline; returns false after reporting an error.
     [[nodiscard]] bool prepare();
 
-    /// `patchName` is the name of the file in differences; see patchNames().
+    /// `patchName` is the file's name in differences, see patchNames().
     void check(const QString &file, const QString &patchName);
-    /// A file or folder that could not be worked on.
+    /// Reports a file or folder that could not be processed.
     void reportTrouble(const QString &file, const QString &trouble,
                        Tano::SourcePosition position = {});
 
-    /// Writes the baseline that is asked for, and returns the result.
+    /// Writes the requested baseline and returns the result.
     Report finish();
 
 private:
@@ -57,7 +56,7 @@ private:
     Report m_report;
     bool m_hasTrouble = false;
     bool m_hasFailed = false;
-    QSet<QString> m_found; // the ids of rules
+    QSet<QString> m_found; // rule ids
 };
 
 } // namespace ZelPackage

@@ -95,7 +95,7 @@ bool BehaviorSetStringCommand::mergeWith(const QUndoCommand *incoming) {
             !m_edit.takeOver(newer.m_edit))
             return false;
         if (newer.model() == model())
-            setBehaviorPath(newer.behaviorPath()); // its step may have changed it
+            setBehaviorPath(newer.behaviorPath()); // that step may have changed it
         return true;
     });
 }
@@ -120,7 +120,7 @@ void BehaviorPathCommand::setValue(const QString &value) {
     if (!behavior)
         return;
     behavior->setPath(value);
-    // The model's answer, since it may not be able to hold just any text.
+    // Reads the path back: the model may be unable to represent the text.
     setBehaviorPath(behavior ? behavior->path() : value);
 }
 

@@ -22,15 +22,15 @@ struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
     static const TextField nameField;
     static const TextField descriptionField;
 
-    /// One kind of list: the operations of the record behind it, its cache, and the notifications
-    /// that it sends. `Key` is what such lists are kept by: a language, or a purpose.
+    /// One kind of list: the record's operations, the cache, and the notifications. `Key` is a
+    /// language or a purpose.
     template<typename Key>
     struct ListKind {
         Tano::BehaviorList list;
         void (Tano::BehaviorInfo::*add)(const std::string &value, const std::string &key);
         void (Tano::BehaviorInfo::*insert)(const std::string &value, const std::string &key,
                                            int index);
-        CachedLists Data::*cache; // null for conditions, which have none
+        CachedLists Data::*cache; // null for conditions, which are not cached
         void (BehaviorInfoModel::*added)(const QString &value, const Key &key);
         void (BehaviorInfoModel::*inserted)(const QString &value, const Key &key, int index);
         void (BehaviorInfoModel::*updated)(int index, const QString &value, const Key &key);
@@ -56,11 +56,11 @@ struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
                     int index) const;
     QString valueAt(const ListKind<QString> &kind, const QString &purpose, int index) const;
 
-    /// contains(), in constant time when long lists are added to one value after another.
+    /// Like contains(), but in constant time while values are appended to a long list.
     template<typename Key>
     bool holds(const ListKind<Key> &kind, const Key &key, const QString &value);
 
-    /// Drops what the package does not offer. The codes are those of the languages.
+    /// Drops what the package does not support. The codes are those of the languages.
     void trim(const ByLanguage<RobotLanguage> &descriptionLanguages,
               const ByLanguage<RobotLanguage> &supportedLanguages,
               const std::set<std::string> &descriptionCodes,
@@ -89,13 +89,13 @@ private:
     template<typename Key>
     void noteChanged(const ListKind<Key> &kind, const Key &key);
 
-    /// The values of the list that was added to last. Empty until a second one is added.
+    /// The values of the list that was added to last. Empty until a second value is added.
     struct AddedTo {
         Tano::BehaviorList list;
         std::string key;
         QSet<QString> values;
     };
-    std::unique_ptr<AddedTo> m_addedTo; // null after any other change of that list
+    std::unique_ptr<AddedTo> m_addedTo; // reset by any other change of that list
 };
 
 } // namespace Zel

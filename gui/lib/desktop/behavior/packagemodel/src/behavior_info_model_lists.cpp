@@ -29,7 +29,7 @@ const std::vector<std::string> &recordList(const Tano::BehaviorInfo &record,
     return found == record.lists(kind).end() ? empty : found->second;
 }
 
-// Conditions have no cache to edit.
+// Edits the cache; conditions have none.
 template<typename Key, typename Data, typename Kind, typename Edit>
 void editCache(Data &data, const Kind &kind, Edit edit) {
     if constexpr (std::is_same_v<Key, RobotLanguage>)
@@ -160,7 +160,7 @@ bool BehaviorInfoModel::Data::insert(const ListKind<Key> &kind, const QString &n
     (edit().*kind.insert)(toUtf8(value), recordKey(key), index);
     editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).insert(place, value); });
     noteChanged(kind, key);
-    // A condition that UTF-8 cannot hold is not found again.
+    // A condition that UTF-8 cannot represent cannot be found again.
     Q_EMIT(model->*kind.inserted)(value, key, valueAt(kind, key, place) == value ? place : -1);
     return true;
 }

@@ -11,7 +11,7 @@
 namespace Zel {
 namespace {
 
-// One kind of list of a behavior: the model's operations on it.
+// The model's operations on one kind of list.
 template<typename Key>
 struct CommandList {
     QStringList (BehaviorInfoModel::*list)(const Key &key) const;
@@ -55,7 +55,7 @@ QString itemAt(const BehaviorInfoModel *behavior, const CommandList<Key> &kind, 
 template<typename Key>
 void setItem(BehaviorInfoModel *behavior, const CommandList<Key> &kind, const Key &key, int index,
              const QString &value) {
-    callOn(behavior, kind.update, index, value, key); // refuses an index outside the list
+    callOn(behavior, kind.update, index, value, key); // ignores an index outside the list
 }
 
 // Receivers of the addition may remove the behavior.

@@ -8,7 +8,7 @@
 
 namespace Zel {
 
-/// Calls `visit` for each behavior with its path as a field.
+/// Calls `visit` for each behavior with its field path.
 template<typename Visit>
 void visitBehaviors(const PackageInfoModel &package, Visit visit) {
     QHash<QString, int> counts;

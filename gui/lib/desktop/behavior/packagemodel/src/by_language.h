@@ -21,12 +21,13 @@ const RobotLanguage &languageOf(const std::pair<Value, RobotLanguage> &entry) {
     return entry.second;
 }
 
-/// Entries in order, each with a language: a list of languages, or what a model caches for them.
-/// Where several have the same language, look-ups and removals mean the first.
+/// An ordered list of entries that each have a language: languages themselves, or values that a
+/// model caches for them. If several entries have the same language, lookups and removals refer to
+/// the first.
 ///
-/// Adding, finding and removing an entry take constant time on average, so that a package with many
-/// languages is loaded, compared and cleared in linear time. Removals are applied when the entries
-/// are read the next time. Short lists, the usual ones, are searched and need no index.
+/// Adding, finding and removing an entry take amortized constant time, so that a package with many
+/// languages is loaded, compared and cleared in linear time. Removals are deferred until the
+/// entries are read. Short lists, the usual case, are searched without an index.
 template<typename Entry>
 class ByLanguage {
 public:
@@ -58,7 +59,7 @@ public:
 
     bool contains(const RobotLanguage &language) const { return find(language) != nullptr; }
 
-    /// The entry of the language; null for none. Valid until the entries change.
+    /// The entry of a language, null if there is none. Valid until the entries change.
     const Entry *find(const RobotLanguage &language) const {
         const std::size_t position = positionOf(language);
         return position < m_entries.size() ? &m_entries[position] : nullptr;
@@ -67,7 +68,7 @@ public:
         return const_cast<Entry *>(std::as_const(*this).find(language));
     }
 
-    /// Differs from an earlier one if entries were added or removed since then.
+    /// Changes whenever entries are added or removed.
     std::uint64_t revision() const { return m_revision; }
 
     Entry &append(Entry entry) {
@@ -92,7 +93,7 @@ public:
         m_index.reset();
     }
 
-    /// Takes the entry at `from` out and inserts it so that its new index is `to`.
+    /// Moves the entry at `from` so that its new index is `to`.
     void move(int from, int to) {
         static_cast<void>(entries());
         ++m_revision;
@@ -102,7 +103,7 @@ public:
         std::rotate(first, from < to ? first + 1 : last - 1, last);
     }
 
-    /// Removes the entries for which `isForeign(language)` is true.
+    /// Removes the entries whose language `isForeign` accepts.
     template<typename Predicate>
     void removeIf(Predicate isForeign) {
         entries();
@@ -131,12 +132,12 @@ private:
                 positions.insert(language.isoCode(), position);
         }
 
-        QHash<QString, std::size_t> positions; // of the entries by ISO code
-        std::vector<std::size_t> removed;      // entries that are still in the vector
+        QHash<QString, std::size_t> positions; // by ISO code
+        std::vector<std::size_t> removed;      // removed entries that are still in the vector
         bool hasDuplicates = false;
     };
 
-    // The number of entries where there is none of the language.
+    // The index of a language's entry, or the number of entries.
     std::size_t positionOf(const RobotLanguage &language) const {
         if (!m_index && m_entries.size() <= longestSearched) {
             const auto found =
@@ -171,7 +172,7 @@ private:
 
     mutable Entries m_entries;
     std::uint64_t m_revision = 0;
-    mutable std::unique_ptr<Index> m_index; // null for short lists and until the first look-up
+    mutable std::unique_ptr<Index> m_index; // null for short lists and until the first lookup
 };
 
 } // namespace Zel

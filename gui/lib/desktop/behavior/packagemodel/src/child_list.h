@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -17,9 +18,9 @@
 
 namespace Zel {
 
-/// One kind of children: the operations of the package's record on their list, what a child is
-/// looked up by, the package's notifications, and the child's notifications upon which the record
-/// is brought up to date.
+/// One kind of children: the operations on their list in the package's record, their lookup key,
+/// the package's notifications, and the child's notifications after which the record is
+/// synchronized.
 template<typename Child>
 struct ChildKind;
 
@@ -36,7 +37,7 @@ struct ChildKind<BehaviorInfoModel> {
     static constexpr auto added = &PackageInfoModel::behaviorAdded;
     static constexpr auto removed = &PackageInfoModel::behaviorRemoved;
     static constexpr auto moved = &PackageInfoModel::behaviorMoved;
-    // The insertions are left out on purpose: they wait for the next change.
+    // Insertions are omitted deliberately: they wait for the next change.
     static constexpr auto changes = std::make_tuple(
         &BehaviorInfoModel::behaviorDescriptionUpdated, &BehaviorInfoModel::behaviorNameUpdated,
         &BehaviorInfoModel::categoryAdded, &BehaviorInfoModel::categoryRemoved,
@@ -87,7 +88,7 @@ struct ChildKind<ServiceInfoModel> {
         &ServiceInfoModel::autoRunChanged, &ServiceInfoModel::servicePropertyChanged);
 };
 
-/// For going through children while receivers of notifications may delete some.
+/// For iterating while receivers of notifications may delete children.
 template<typename Child>
 std::vector<QPointer<Child>> guarded(const QVector<Child *> &children) {
     return {children.begin(), children.end()};
@@ -96,11 +97,11 @@ std::vector<QPointer<Child>> guarded(const QVector<Child *> &children) {
 template<typename Child>
 class ChildList;
 
-/// Children by the key that they are looked up by; of those with the same key, in their order.
+/// Children by key, in list order among equal keys.
 template<typename Child>
 using ChildIndex = std::map<std::pair<std::string, std::uint64_t>, Child *>;
 
-/// The data of every child model: its record, and the package's list that contains it.
+/// The data shared by all child models: the record, and the package's list that contains the child.
 template<typename Child>
 class ChildData {
 public:
@@ -118,9 +119,10 @@ public:
 
     const Record &record() const { return m_record; }
 
-    /// The record, to be changed except for its key. Marks the package's copy as out of date,
-    /// whether or not a notification follows.
+    /// The record, for changes except of its key. Marks the package's copy as stale, whether or not
+    /// a notification follows.
     Record &edit() {
+        m_revision = nextRevision();
         if (m_list && !m_stale) {
             m_stale = true;
             m_list->noteChange(m_child);
@@ -128,16 +130,16 @@ public:
         return m_record;
     }
 
-    /// The record, to be changed including its key.
+    /// The record, for changes including its key.
     Record &editKey() {
         if (m_list && m_indexEntry)
             m_list->noteKeyChange(m_child);
         return edit();
     }
 
-    /// Changes the record in place, where a copy of it would be costly: the package's copy is
-    /// dropped meanwhile and then replaced. Only for a change that is announced right away, upon
-    /// which the package replaces its copy anyway.
+    /// Changes the record in place where detaching would be costly: the package's copy is dropped
+    /// first and replaced afterwards. Only for changes that are announced immediately, when the
+    /// package replaces its copy anyway.
     template<typename Change>
     void editAnnounced(Change change) {
         const bool isAnnounced = m_list && !m_child->signalsBlocked();
@@ -149,10 +151,13 @@ public:
             m_list->replaceRecord(index, m_record);
     }
 
-    /// The list that contains the child; null when it has no package.
+    /// Of the record; no other record has or will have the same, even at the same address.
+    std::uint64_t revision() const { return m_revision; }
+
+    /// The list that contains the child; null if it has no package.
     ChildList<Child> *childList() const { return m_list; }
 
-    /// Whether the child is being announced as removed: then no package may take it.
+    /// Whether the child's removal is being announced; no package may add it meanwhile.
     bool isLeaving() const { return m_leaving; }
 
 private:
@@ -164,16 +169,22 @@ private:
         m_stale = false;
     }
 
+    static std::uint64_t nextRevision() {
+        static std::atomic<std::uint64_t> last{0};
+        return ++last;
+    }
+
     Child *m_child;
     Record m_record;
+    std::uint64_t m_revision = nextRevision();
     ChildList<Child> *m_list = nullptr;
     std::uint64_t m_label = 0; // ascending along the list, with gaps
     std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;
-    bool m_stale = false; // listed for the next resync
+    bool m_stale = false; // queued for the next resync
     bool m_leaving = false;
 };
 
-/// Lets the lists reach into the models.
+/// Gives the lists access to the models' data.
 class ChildAccess {
 public:
     template<typename Child>
@@ -182,10 +193,10 @@ public:
     }
 };
 
-/// The ordered children of one kind, and the record's list that mirrors them.
+/// The ordered children of one kind, mirrored by a list in the record.
 ///
 /// resync() has the effect of clearing the record's list and appending every child's record in
-/// order, but touches only the entries that differ: the package calls it for every single change.
+/// order, but touches only the entries that differ, since the package calls it for every change.
 template<typename Child>
 class ChildList {
 public:
@@ -207,7 +218,7 @@ public:
 
     void reserve(int count) { m_children.reserve(count); }
 
-    /// Appends a child that is in no list, and tracks its changes.
+    /// Appends a child that is in no list and tracks its changes.
     void append(Child *child) {
         auto &data = ChildAccess::data(*child);
         data.m_list = this;
@@ -222,7 +233,7 @@ public:
             Kind::changes);
     }
 
-    /// Takes a child out and inserts it so that its new index is `to`, in the record too.
+    /// Moves a child so that its new index is `to`, also in the record.
     void move(int from, int to) {
         Child *child = m_children.at(from);
         auto &data = ChildAccess::data(*child);
@@ -237,17 +248,16 @@ public:
         }
     }
 
-    /// Marks the child as about to be announced as removed; returns false if it has been announced
-    /// already, or is in no list or another one.
+    /// Marks the child as being removed. Returns false if it already is, or is not in this list.
     bool startLeaving(const Child &child) {
         return contains(child) && !std::exchange(ChildAccess::data(child).m_leaving, true);
     }
 
-    /// Lets a child that was announced as removed join another list.
+    /// Allows a removed child to join another list.
     static void endLeaving(const Child &child) { ChildAccess::data(child).m_leaving = false; }
 
-    /// Takes a child out of the list, stops listening to it and brings the record up to date,
-    /// without notification.
+    /// Removes a child from the list, stops tracking it and updates the record, without
+    /// notification.
     Child *takeAt(int index) {
         Child *child = m_children.at(index);
         stopTracking(child);
@@ -257,8 +267,8 @@ public:
         return child;
     }
 
-    /// Stops listening to a child that leaves without being deleted. The application's connections
-    /// stay.
+    /// Stops tracking a child that leaves without being deleted. Keeps the application's
+    /// connections.
     void stopTracking(Child *child) {
         std::apply(
             [&](auto... changes) {
@@ -267,7 +277,7 @@ public:
             Kind::changes);
     }
 
-    /// Empties the list for good; the record is left alone.
+    /// Empties the list permanently; the record is not changed.
     QVector<Child *> close() {
         for (Child *child : std::as_const(m_children)) {
             stopTracking(child);
@@ -280,17 +290,17 @@ public:
         setOutOfStep();
         return std::exchange(m_children, {});
     }
-    /// Whether the package is being destroyed, so that it takes no more children.
+    /// Whether the package is being destroyed and accepts no more children.
     bool isClosed() const { return m_isClosed; }
 
-    /// The index of a child, found by its address, so that it may be a dangling pointer; the number
-    /// of children if there is none.
+    /// The index of a child, compared by address, so that the pointer may dangle; the number of
+    /// children if it is not in the list.
     int indexOf(const Child *child) const {
         const auto found = std::find(m_children.cbegin(), m_children.cend(), child);
         return static_cast<int>(found - m_children.cbegin());
     }
 
-    /// The first child whose key is `key`, or begins with it and a NUL; null for none.
+    /// The first child whose key is `key`, or starts with it and a NUL; null if there is none.
     Child *find(const std::string &key) {
         if (!m_isIndexed) {
             m_isIndexed = true;
@@ -309,7 +319,7 @@ public:
         return found;
     }
 
-    /// All children with a key, in their order.
+    /// All children with a key, in list order.
     std::vector<Child *> findAll(const std::string &key) {
         std::vector<Child *> found;
         if (!find(key))
@@ -340,7 +350,7 @@ public:
         return std::invoke(Kind::key, ChildAccess::data(child).record());
     }
 
-    /// The part of the key that a look-up compares: up to its first NUL.
+    /// The part of the key that lookups compare: up to its first NUL.
     static std::string foundKeyOf(const Child &child) {
         const std::string &key = keyOf(child);
         return key.substr(0, key.find('\0'));
@@ -356,7 +366,7 @@ public:
         dropFromIndex(ChildAccess::data(*child));
     }
 
-    /// The index of a child's record in the record's list; -1 if it is not there.
+    /// The index of a child's record in the record's list, -1 if it is not there.
     int mirroredIndexOf(const Child &child) const {
         const int index = m_mirrored > 0 ? placeOf(child) : 0;
         return index < m_mirrored ? index : -1;
@@ -365,10 +375,10 @@ public:
         (m_record.*Kind::replace)(index, record);
     }
 
-    /// Notes that the record's list no longer mirrors the children.
+    /// Marks the record's list as no longer mirroring the children.
     void setOutOfStep() { m_mirrored = outOfStep; }
 
-    /// Whether the record's list holds the records of the children.
+    /// Whether the record's list equals the records of the children.
     bool isMirrored() const {
         const auto &records = (m_record.*Kind::records)();
         return std::equal(records.begin(), records.end(), m_children.begin(), m_children.end(),
@@ -381,8 +391,8 @@ public:
         resync();
     }
 
-    /// The same after an assignment: a list that lags behind the copied children still lags, as in
-    /// the package that they were copied from, unless observers have changed the children.
+    /// The same after an assignment: a list that lagged behind the children in the source package
+    /// also lags behind the copies, unless observers have changed them.
     void settle(const std::vector<Record> &copied) {
         const bool areCopies = std::equal(copied.begin(), copied.end(), m_children.begin(),
                                           m_children.end(), &isRecordOf);
@@ -418,7 +428,7 @@ private:
         return record == ChildAccess::data(*child).record();
     }
 
-    // Labels the child at an index by its neighbors; all anew where there is no gap between them.
+    // Labels the child at an index between its neighbors' labels; relabels all if there is no gap.
     void setLabelAt(int index) {
         const std::uint64_t before = index == 0 ? 0 : labelOf(*m_children.at(index - 1));
         const bool isLast = index + 1 == m_children.size();
@@ -472,12 +482,12 @@ private:
     Tano::PackageInfo &m_record;
     ResyncSlot m_resyncSlot;
     QVector<Child *> m_children;
-    std::vector<Child *> m_stale;     // their records changed since the last resync
-    std::vector<Child *> m_unindexed; // their keys changed since the last resync
-    ChildIndex<Child> m_index;        // of all others, from the first look-up on
+    std::vector<Child *> m_stale;     // changed since the last resync
+    std::vector<Child *> m_unindexed; // with a key that changed since the last resync
+    ChildIndex<Child> m_index;        // the other children; built by the first lookup
     bool m_isIndexed = false;
     bool m_isClosed = false;
-    int m_mirrored = outOfStep; // how many children, from the first on, the record's list mirrors
+    int m_mirrored = outOfStep; // the length of the prefix that the record's list mirrors
 };
 
 } // namespace Zel

@@ -1,7 +1,7 @@
 #pragma once
 
-/// The ids of the commands that merge; all other commands have -1. Families share values
-/// deliberately: the type test in mergeWith() keeps them apart. No command has the id 4.
+/// The ids of commands that merge; all others have -1. Some families share an id deliberately:
+/// mergeWith() also compares types. No command has the id 4.
 namespace Zel::CommandId {
 
 constexpr int behaviorPath = 0;

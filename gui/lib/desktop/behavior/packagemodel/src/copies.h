@@ -2,8 +2,8 @@
 
 namespace Zel {
 
-/// A copy of what a change or a receiver of a notification may alter or remove meanwhile: callers
-/// pass what lies in our lists, and receivers edit what we go through.
+/// Copies a value that a receiver of a notification may change or delete: callers pass references
+/// into our lists, and receivers edit lists that we iterate over.
 template<typename Value>
 Value copyOf(const Value &value) {
     return value;

@@ -38,7 +38,7 @@ bool DialogInfoModelCommand::mergeWith(const QUndoCommand *incoming) {
         if (newer.m_madeFor != dialogName() || newer.id() != id() || !m_edit.takeOver(newer.m_edit))
             return false;
         if (newer.model() == model())
-            setDialogName(newer.dialogName()); // its step may have changed it
+            setDialogName(newer.dialogName()); // that step may have changed it
         return true;
     });
 }
@@ -66,7 +66,7 @@ void DialogInfoModelNameCommand::setValue(const QString &value) {
     if (!dialog)
         return;
     dialog->setTopicName(value);
-    // The model's answer, since it may not be able to hold just any text.
+    // Reads the name back: the model may be unable to represent the text.
     setDialogName(dialog ? dialog->topicName() : value);
 }
 

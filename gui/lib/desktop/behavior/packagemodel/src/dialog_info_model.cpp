@@ -22,7 +22,7 @@ DialogInfoModel::DialogInfoModel(const DialogInfoModel &other)
     : QObject(other.parent())
     , m_data(std::make_unique<Data>(this, other.m_data->record())) {
     m_data->topics = other.m_data->topics;
-    // While topicRemoved() is delivered, only the original still has the path.
+    // While topicRemoved() is emitted, only the original still has the path.
     const auto &recorded = m_data->record().topics();
     m_data->topics.removeIf(
         [&](const RobotLanguage &language) { return recorded.count(codeOf(language)) == 0; });

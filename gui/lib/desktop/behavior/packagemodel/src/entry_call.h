@@ -4,8 +4,7 @@
 
 namespace Zel {
 
-/// Calls an operation of an entry of a package; where the entry is not there, does nothing and
-/// returns an empty value.
+/// Calls an operation of a package's entry. Without such an entry, returns an empty value.
 template<typename Entry, typename Operation, typename... Arguments>
 auto callOn(Entry *entry, Operation operation, const Arguments &...arguments) {
     using Result = std::invoke_result_t<Operation, Entry *, const Arguments &...>;

@@ -11,7 +11,7 @@ namespace {
 constexpr int largestExtent = 10042; // pixels
 
 QByteArray digestOf(const QImage &image) {
-    // Indexed pixels mean nothing without their colors, and lines end in padding.
+    // Indexed pixels depend on the color table, and scan lines are padded.
     if (image.depth() < 16)
         return digestOf(image.convertToFormat(QImage::Format_ARGB32));
     QCryptographicHash hash(QCryptographicHash::Sha1);
@@ -22,8 +22,8 @@ QByteArray digestOf(const QImage &image) {
     return hash.result();
 }
 
-// QIcon renders at the device pixel ratio of the application where it may: 1.6 GB instead of 400 MB
-// at a ratio of 2, and another image after the window has moved to another screen.
+// Renders at a device pixel ratio of 1. QIcon would use that of the application: 1.6 GB instead of
+// 400 MB at a ratio of 2, and a different image after the window moves to another screen.
 QPixmap rendered(const QIcon &icon) {
     const QSize size(largestExtent, largestExtent);
 #if QT_VERSION_MAJOR < 6

@@ -8,8 +8,8 @@ class QIcon;
 
 namespace Zel {
 
-/// What an icon looks like, for telling whether another one looks the same. It stands in for the
-/// rendered image, which takes 400 MiB for a vector icon.
+/// Identifies the appearance of an icon. Replaces the rendered image, which takes 400 MiB for a
+/// vector icon.
 struct IconFingerprint {
     QImage::Format format = QImage::Format_Invalid;
     QSize size;
@@ -18,8 +18,8 @@ struct IconFingerprint {
 
 bool operator==(const IconFingerprint &a, const IconFingerprint &b);
 
-/// Renders the icon, as large as it goes, to take its fingerprint; a null icon is not rendered.
-/// Needs a QGuiApplication.
+/// Renders the icon at its largest size to compute the fingerprint; a null icon is not rendered.
+/// Requires a QGuiApplication.
 IconFingerprint fingerprint(const QIcon &icon);
 
 } // namespace Zel

@@ -1,5 +1,5 @@
-// The entry points of package_icon.cpp that other sources need, moc's included: it refers to every
-// slot. Nothing here may use QtGui.
+// The entry points of package_icon.cpp for other sources, including moc's, which refers to every
+// slot. Must not use QtGui.
 
 #include "package_icon.h"
 

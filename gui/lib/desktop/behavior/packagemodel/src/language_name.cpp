@@ -11,7 +11,7 @@ QString languageName(const RobotLanguage &language) {
     const QString shown = translationLanguage();
     if (shown == QLatin1String("en-US") || language.name().isEmpty())
         return language.uiName();
-    // Qt has the names of languages in English and in themselves only.
+    // Qt only has the English and native names of languages.
     std::array<UChar, 200> name{};
     UErrorCode status = U_ZERO_ERROR;
     const auto length =

@@ -14,14 +14,14 @@
 #include <string>
 #include <utility>
 
-/// Between the language codes of the records and the language descriptors of the models.
+/// Converts between the language codes of records and the language descriptors of models.
 namespace Zel {
 
-/// The language of a code. An unknown code becomes a partial language that is known while it is in
-/// use, so that its texts are kept and shown.
+/// The language of a code. An unknown code becomes a partial language while it is in use, so that
+/// its texts are kept and shown.
 RobotLanguage languageFromCode(const std::string &code);
 RobotLanguages languagesFromCodes(const std::vector<std::string> &codes);
-/// The key under which the records keep what belongs to a language.
+/// The records' key for a language.
 std::string codeOf(const RobotLanguage &language);
 std::set<std::string> codesOf(const RobotLanguages &languages);
 
@@ -32,7 +32,7 @@ Language::LocalizedStrings textsFromRecord(const Tano::TextMap &texts);
 Language::LocalizedStringLists listsFromRecord(const Tano::TextListMap &lists);
 QStringList listFromRecord(const std::vector<std::string> &list);
 
-/// The cached value of a language; the null text, or the empty list, if there is none.
+/// The cached value of a language, or an empty value.
 template<typename Value>
 Value valueFor(const ByLanguage<std::pair<Value, RobotLanguage>> &values,
                const RobotLanguage &language) {
@@ -40,7 +40,7 @@ Value valueFor(const ByLanguage<std::pair<Value, RobotLanguage>> &values,
     return entry ? entry->first : Value();
 }
 
-/// The cached value of a language, added if there is none.
+/// The cached value of a language, added if needed.
 template<typename Value>
 Value &madeValue(ByLanguage<std::pair<Value, RobotLanguage>> &values,
                  const RobotLanguage &language) {
@@ -48,14 +48,14 @@ Value &madeValue(ByLanguage<std::pair<Value, RobotLanguage>> &values,
     return entry ? entry->first : values.append({Value(), language}).first;
 }
 
-/// Erases what is cached for other languages.
+/// Drops the cached values of other languages.
 template<typename Values>
 void keepOnly(const ByLanguage<RobotLanguage> &languages, Values &values) {
     values.removeIf([&](const RobotLanguage &language) { return !languages.contains(language); });
 }
 
-/// One kind of text per language: the operations of the record behind it, the cache, and the
-/// notification that its setter sends.
+/// One kind of text per language: the record's operations, the cache, and the setter's
+/// notification.
 template<typename Model, typename Data, typename Record>
 struct LocalizedField {
     const Tano::TextMap &(Record::*texts)() const;
@@ -66,7 +66,7 @@ struct LocalizedField {
     void (Model::*updated)(const QString &text, const RobotLanguage &language);
 };
 
-/// Sets a text, unless the record has the very same one.
+/// Sets a text unless the record already has it.
 template<typename Model, typename Data, typename Record>
 void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record> &field,
              const QString &newText, const RobotLanguage &inLanguage) {
@@ -81,7 +81,7 @@ void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record>
     Q_EMIT(model->*field.updated)(text, language);
 }
 
-/// Removes a text, announced as an update to the empty one; returns false if there is none.
+/// Removes a text, announced as a change to the empty text. Returns false if there is none.
 template<typename Model, typename Data, typename Record>
 bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Record> &field,
                 const RobotLanguage &inLanguage) {

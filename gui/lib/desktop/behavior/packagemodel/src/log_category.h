@@ -2,7 +2,7 @@
 
 namespace Zel {
 
-/// What this library writes to the log stands in this category.
+/// The logging category of this library.
 inline constexpr const char *logCategory = "PackageModel.Package";
 
 } // namespace Zel

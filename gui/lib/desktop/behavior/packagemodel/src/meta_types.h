@@ -2,8 +2,8 @@
 
 namespace Zel {
 
-/// Makes the types in the notifications known to Qt's meta-type system by the names under which
-/// the notifications are declared, which is how string-based and queued connections look for them.
+/// Registers the types in notifications with Qt's meta-type system under the names used in their
+/// declarations, which string-based and queued connections look up.
 void registerMetaTypes();
 
 } // namespace Zel

@@ -8,8 +8,7 @@
 namespace Zel {
 namespace {
 
-// How many single characters to insert, delete, replace or swap with their neighbor lead from one
-// text to the other.
+// The number of single characters to insert, delete, replace or swap with a neighbor.
 int editDistance(const QString &a, const QString &b) {
     const int columns = int(b.size()) + 1;
     std::vector<int> beforeLast(std::size_t(columns), 0);
@@ -31,12 +30,12 @@ int editDistance(const QString &a, const QString &b) {
     return last.back();
 }
 
-// Up to how many slips a word is taken for a mistyped one.
+// The largest distance at which a word counts as misspelled.
 int mostSlips(const QString &given) {
     return std::max(1, int(given.size()) / 3);
 }
 
-// Whether characters have only been left out.
+// Whether `given` is `word` with characters left out.
 bool isShortened(const QString &given, const QString &word) {
     auto next = given.begin();
     for (const QChar character : word) {

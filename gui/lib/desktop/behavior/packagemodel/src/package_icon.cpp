@@ -26,7 +26,7 @@ namespace Zel {
 
 struct PackageIcon {
     QIcon icon;
-    std::optional<IconFingerprint> fingerprint; // taken when first needed
+    std::optional<IconFingerprint> fingerprint; // computed on demand
 };
 
 namespace {
@@ -57,11 +57,11 @@ void set(const QIcon &newIcon, std::shared_ptr<PackageIcon> &shared, PackageInfo
     Q_EMIT package.iconUpdated(icon);
 }
 
-// Why an icon file is not read; empty if it is read, or does not exist.
+// The reason why an icon file is rejected, empty if it was read or does not exist.
 using Rejection = QString;
 
-// Opens a file that may be hostile: opening a named pipe must not wait for a writer, and what was
-// opened is what is checked.
+// Opens a possibly hostile file: opening a named pipe must not block, and the checks apply to the
+// opened file.
 Rejection openRegularFile(const QString &path, QFile &file) {
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -79,7 +79,7 @@ Rejection openRegularFile(const QString &path, QFile &file) {
     return {};
 }
 
-// The dimensions are in the first bytes; the pixels are decoded only if they are few.
+// Checks the dimensions in the header before decoding any pixels.
 Rejection readPng(QFile &file, QImage &image) {
     QImageReader reader(&file, "png");
     reader.setAutoDetectImageFormat(false);
@@ -106,7 +106,7 @@ void readBeside(const QFile &manifest, PackageInfoModel &package) {
         rejection = readPng(file, image);
     if (!rejection.isEmpty())
         Tano::log::write(logCategory, Tano::log::Level::Warning, "loadFromManifestFile",
-                         QStringLiteral("%1 is not read: %2.").arg(path, rejection));
+                         QStringLiteral("Ignoring %1: %2.").arg(path, rejection));
     if (rejection.isEmpty() && !image.isNull())
         package.setIcon(QIcon(QPixmap::fromImage(image)));
 }

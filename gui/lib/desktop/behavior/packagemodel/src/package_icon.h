@@ -10,8 +10,8 @@ namespace Zel {
 class PackageInfoModel;
 struct PackageIcon;
 
-// package_icon.cpp alone uses QtGui. The other sources reach it through `iconFunctions`, so that a
-// program that links the library's objects from an archive loads QtGui only if it needs icons.
+// Only package_icon.cpp uses QtGui. Other sources reach it through `iconFunctions`, so that a
+// program linked with the static library loads QtGui only if it needs icons.
 
 struct IconFunctions {
     void (*set)(const QIcon &newIcon, std::shared_ptr<PackageIcon> &current,
@@ -20,12 +20,12 @@ struct IconFunctions {
     void (*copy)(const PackageInfoModel &from, PackageInfoModel &to);
 };
 
-/// Installed by the object that defines PackageInfoModel::icon() and defaultIcon(); null in a
-/// program that calls neither and links from an archive.
+/// Set by the object file that defines PackageInfoModel::icon() and defaultIcon(); null in a
+/// statically linked program that calls neither.
 extern const IconFunctions *iconFunctions;
 
-/// Reads "icon.png" beside a manifest as the icon of the package, if it exists, is acceptable, and
-/// there is a QGuiApplication. Logs a file that is rejected.
+/// Loads "icon.png" beside a manifest as the package's icon if it exists, is acceptable, and there
+/// is a QGuiApplication. Logs a rejected file.
 void readIconBeside(const QFile &manifest, PackageInfoModel &package);
 
 void copyIcon(const PackageInfoModel &from, PackageInfoModel &to);

@@ -16,11 +16,12 @@ namespace Zel {
 
 struct PackageIcon;
 
-/// The requirements of one kind, and whether the record's list mirrors them.
+/// The requirements of one kind.
 template<typename Requirement>
 struct RequirementList {
     QVector<Requirement> items;
-    bool isMirrored = false; // a list that was loaded may hold versions written in another way
+    bool isMirrored =
+        false; // whether the record's list equals them; a loaded one may spell versions differently
 };
 
 struct PackageInfoModel::Data {
@@ -32,7 +33,7 @@ struct PackageInfoModel::Data {
     void editAnnounced(Change change) {
         change(m_record);
     }
-    /// Notes that the record was replaced, so that its lists mirror nothing here any more.
+    /// Marks the record's lists as out of sync after the record was replaced.
     void setOutOfStep();
 
     using LocalizedTextField = LocalizedField<PackageInfoModel, Data, Tano::PackageInfo>;
@@ -59,14 +60,14 @@ struct PackageInfoModel::Data {
     ChildList<BehaviorInfoModel> behaviors;
     ChildList<DialogInfoModel> dialogs;
     ChildList<ServiceInfoModel> services;
-    std::shared_ptr<PackageIcon> icon; // null before the first one is set
-    std::uint64_t wholeChanges = 0;    // loads and assignments so far
+    std::shared_ptr<PackageIcon> icon; // null until the first one is set
+    std::uint64_t wholeChanges = 0;    // the number of loads and assignments
 
 private:
     Tano::PackageInfo m_record;
 };
 
-/// The package's children of a kind.
+/// The package's children of one kind.
 template<typename Child>
 ChildList<Child> &childrenOf(const PackageInfoModel &package) {
     auto &data = ChildAccess::data(package);

@@ -33,7 +33,7 @@ int clampedTo(const RobotLanguages &languages, int index) {
 }
 
 // While a removal is announced to the dialogs' receivers, the record lacks a language that the
-// cache still has: where the record's list has it all, its indexes are those of the cache.
+// cache still has; only if the record's list is complete do the indexes agree.
 template<typename Data, typename List>
 void moveInRecord(Data &data, const List &list, const RobotLanguage &moved, int from, int to) {
     const std::vector<std::string> codes = (data.record().*list.codes)();
@@ -204,8 +204,8 @@ void PackageInfoModel::removeSupportedLanguage(const RobotLanguage &language) {
             dialog->removeTopic(removed);
     }
     if (!living || m_data->wholeChanges != wholeChanges || !hasLanguageSupport(removed))
-        return; // a receiver has loaded something else, or removed it, which was announced
-    m_data->edit().removeSupportedLanguage(codeOf(removed)); // a receiver may have toggled it
+        return; // a receiver has loaded another package, or removed the language itself
+    m_data->edit().removeSupportedLanguage(codeOf(removed)); // a receiver may have changed it
     m_data->supportedLanguages.remove(removed);
     Q_EMIT languageRemoved(removed);
 }

@@ -12,7 +12,7 @@
 namespace Zel {
 namespace {
 
-// Copies of the children of one kind, and their records when they were copied.
+// Copies of the children of one kind and of their records.
 template<typename Child>
 struct ChildCopies {
     template<typename Copy>
@@ -28,7 +28,7 @@ struct ChildCopies {
     std::vector<typename ChildKind<Child>::Record> records;
 };
 
-// A package as it is when its assignment starts: receivers may change it meanwhile, or delete it.
+// The source package at the start of the assignment; receivers may change or delete it meanwhile.
 struct Snapshot {
     explicit Snapshot(const PackageInfoModel &package)
         : source(&package)
@@ -45,7 +45,7 @@ struct Snapshot {
         , services(package.services(),
                    [](auto &child) { return new ServiceInfoModel(child, nullptr); }) {}
 
-    QPointer<const PackageInfoModel> source; // of the icon
+    QPointer<const PackageInfoModel> source; // for the icon
     Tano::PackageInfo record;
     SoftwareVersion version;
     Language::LocalizedStrings names;
@@ -68,12 +68,12 @@ public:
 
     const Snapshot &source() const { return m_from; }
 
-    // All steps until the requirements; each announces what it changes.
+    // All steps before the requirements; each announces its changes.
     void copyFields();
     void copyChildren();
     void copyDescriptions() { copyTexts(m_from.descriptions, &PackageInfoModel::setDescription); }
 
-    // Takes a step for each value, as long as the assignment is current.
+    // Runs a step for each value while the assignment is current.
     template<typename Values, typename Step>
     void forEach(Values &&values, Step step) {
         for (auto &value : values) {
@@ -92,7 +92,7 @@ private:
                    void (PackageInfoModel::*set)(const QString &, const RobotLanguage &)) {
         forEach(texts, [&](const auto &text) { (m_to.*set)(text.first, text.second); });
     }
-    // Removes the languages of a list, then adds those of the other package.
+    // Replaces a list of languages by that of the other package.
     void replaceLanguages(const RobotLanguages &(PackageInfoModel::*current)() const,
                           void (PackageInfoModel::*remove)(const RobotLanguage &),
                           const RobotLanguages &added,
@@ -158,8 +158,8 @@ void PackageAssignment::copyChildren() {
     addCopies<ServiceInfoModel>(m_from.services, &Package::addService);
 }
 
-// Makes a cache agree with the record; of the texts that the record lacks, only `kept` stay. An
-// empty text is as good as none.
+// Makes a cache agree with the record, except that the texts in `kept` stay. An empty text equals
+// an absent one.
 void reconcile(CachedTexts &cache, const Tano::TextMap &record, const CachedTexts &kept = {}) {
     CachedTexts texts;
     for (const auto &[text, language] : cache.entries()) {
@@ -200,8 +200,8 @@ void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &
     if (!change.isCurrent())
         return;
 
-    // Edits by receivers end here, except those of the children, which others may refer to.
-    const Tano::PackageInfo &record = source.record; // its caches may lag while it is being loaded
+    // Discards edits by receivers, except of the children, which others may refer to.
+    const Tano::PackageInfo &record = source.record; // the caches of a package being loaded may lag
     m_data->edit() = record;
     m_data->version = SoftwareVersionUtils::fromString(fromUtf8(record.version()));
     m_data->version.setFieldsCount(3);
@@ -218,7 +218,7 @@ void PackageInfoModel::assign(const PackageInfoModel &other, const WholeChange &
 }
 
 PackageInfoModel &PackageInfoModel::operator=(const PackageInfoModel &other) {
-    // A package in destruction would not take the copied children.
+    // A package being destroyed accepts no children.
     if (this != &other && !m_data->behaviors.isClosed())
         assign(other, WholeChange(this, m_data->wholeChanges));
     return *this;

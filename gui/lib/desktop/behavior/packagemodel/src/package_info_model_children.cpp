@@ -18,7 +18,7 @@ void adopt(PackageInfoModel *package, QObject *child) {
     child->setParent(package);
 }
 
-// Adds a child that has the package for its parent already.
+// Adds a child whose parent is already the package.
 template<typename Child>
 void addOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     if (list.isClosed()) {
@@ -52,8 +52,8 @@ void insertOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child, 
     move(package, list, list.indexOf(child), std::clamp(index, 0, std::max(size - 1, 0)));
 }
 
-// Has the package of a child give it up: brings its record up to date and announces the removal.
-// Returns false if an observer deleted the child or one of the packages.
+// Releases a child from its package: updates the record and announces the removal. Returns false if
+// an observer deleted the child or one of the packages.
 template<typename Child>
 bool release(const QPointer<Child> &child, const QPointer<PackageInfoModel> &newPackage) {
     ChildList<Child> *list = ChildAccess::data(*child).childList();
@@ -78,7 +78,7 @@ void add(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     addOwn(package, list, child);
 }
 
-// Receivers may delete the child themselves.
+// Announces the removal and deletes the child, unless receivers have deleted it.
 template<typename Child>
 void announceAndDelete(PackageInfoModel *package, const QPointer<Child> &child) {
     Q_EMIT(package->*ChildKind<Child>::removed)(child.data());
@@ -99,12 +99,12 @@ bool remove(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     return remove(package, list, list.indexOf(child));
 }
 
-// Receivers may add, remove and clear children meanwhile, or delete the package; what they add
-// stays.
+// Receivers may add, remove and clear children meanwhile, or delete the package; children that they
+// add are kept.
 template<typename Child>
 void clear(PackageInfoModel *package, ChildList<Child> &list) {
     const QPointer<PackageInfoModel> living(package);
-    list.setOutOfStep(); // so that the record's list is left alone
+    list.setOutOfStep(); // leaves the record's list unchanged
     for (const QPointer<Child> &child : guarded(list.children())) {
         if (!living)
             return;
@@ -113,15 +113,14 @@ void clear(PackageInfoModel *package, ChildList<Child> &list) {
     }
 }
 
-// Looks for bytes, which spares decoding every record; the answer is that of comparing the decoded
-// texts.
+// Compares encoded keys, which avoids decoding every record but gives the same result.
 template<typename Child>
 Child *find(ChildList<Child> &list, const QString &key) {
     if (!key.isValidUtf16() || key.contains(QChar::Null))
-        return nullptr; // nothing decodes to this
+        return nullptr; // no bytes decode to this
     if (!key.contains(QChar::ReplacementCharacter))
         return list.find(toUtf8(key));
-    // Malformed bytes of any kind decode to this.
+    // Any malformed bytes decode to this.
     const auto &children = list.children();
     const auto found = std::find_if(children.begin(), children.end(), [&](const Child *child) {
         return fromUtf8(ChildList<Child>::keyOf(*child)) == key;
@@ -160,7 +159,7 @@ void PackageInfoModel::createBehaviorInfoModels() {
 }
 
 void PackageInfoModel::createBehaviors(const Tano::PackageInfo &record) {
-    const Tano::PackageInfo original = copyOf(record); // receivers may change it
+    const Tano::PackageInfo original = copyOf(record); // receivers may change the argument
     const QPointer<PackageInfoModel> living(this);
     clearBehaviors();
     if (!living || m_data->behaviors.isClosed())

@@ -48,7 +48,7 @@ PackageInfoModel::PackageInfoModel(const PackageInfoModel &other)
     *this = other;
 }
 
-// The children go first, so that receivers of their destroyed() notification may still query the
+// Deletes the children first, so that receivers of their destroyed() signal can still query the
 // package.
 PackageInfoModel::~PackageInfoModel() {
     const auto behaviors = guarded(m_data->behaviors.close());
@@ -65,14 +65,14 @@ PackageInfoModel::~PackageInfoModel() {
     deleteAll(services);
 }
 
-// Receivers may edit the package, and so its record, at each notification: `loaded` stays whole.
+// `loaded` is a copy, since receivers may edit the package and its record at each notification.
 bool PackageInfoModel::initFromPackage(const Tano::PackageInfo &loaded, const WholeChange &change) {
     readVersionFromPackage();
     if (!change.isCurrent())
         return false;
     appendRequirements(loaded);
 
-    RobotLanguages mentioned; // in use, and thereby known, before the caches hold them
+    RobotLanguages mentioned; // keeps these languages alive until the caches hold them
     for (const std::string &code : loaded.languageCodes())
         mentioned.push_back(languageFromCode(code));
 
@@ -143,7 +143,7 @@ bool PackageInfoModel::loadFromManifestFile(QFile &file) {
 }
 
 bool PackageInfoModel::loadFromManifestContent(const QByteArray &content) {
-    // Copied first, since receivers may change the content. It need not end in a NUL.
+    // Copied, since receivers may change the content, which need not be null-terminated.
     const auto length = qstrnlen(content.constData(), uint(content.size()));
     const std::string bytes(content.constData(), length);
     const auto read = [&](Tano::PackageInfo &record) {

@@ -17,8 +17,7 @@
 namespace Zel {
 namespace {
 
-// A kind of text that may be a script, with one per language: its word in the path of a field, and
-// how the model gives and takes it.
+// A kind of text that may be a script, one per language: its field name and the model's accessors.
 template<typename Model>
 struct ScriptText {
     const char *field;
@@ -32,7 +31,7 @@ constexpr std::array scriptTexts{
     ScriptText<Model>{"descriptions", &Model::descriptions, &Model::setDescription},
 };
 
-// The same for lists of them.
+// The same for lists of texts.
 struct ScriptList {
     const char *field;
     const Language::LocalizedStringLists &(BehaviorInfoModel::*lists)() const;
@@ -55,7 +54,7 @@ bool isXScrpolLanguage(const RobotLanguage &language) {
     return language.isoCode().endsWith(PackageModel::k_sa.text());
 }
 
-// The supported languages whose texts are scripts, and the place of each among them.
+// The supported languages whose texts are scripts, with their order.
 class LanguageOrder {
 public:
     explicit LanguageOrder(const RobotLanguages &languages)
@@ -68,7 +67,7 @@ public:
     }
 
     const RobotLanguage &at(int place) const { return m_languages[std::size_t(place)]; }
-    /// -1 for a language that is not among them.
+    /// The position of a language, -1 if it is not included.
     int placeOf(const RobotLanguage &language) const {
         return m_places.value(language.isoCode(), -1);
     }
@@ -78,14 +77,14 @@ private:
     QHash<QString, int> m_places;
 };
 
-// Goes through the supported languages in which a behavior has lists, in their order, as if it
-// looked into all of them in turn: also into lists that receivers of notifications add meanwhile.
+// Iterates over the supported languages in which a behavior has lists, in order, including lists
+// that receivers add meanwhile.
 class SpokenLanguages {
 public:
     explicit SpokenLanguages(const LanguageOrder &order)
         : m_order(order) {}
 
-    // The next language; null when there is none, and once the behavior is gone.
+    // The next language; null at the end, or once the behavior was deleted.
     const RobotLanguage *next(const BehaviorInfoModel *behavior) {
         if (!behavior)
             return nullptr;
@@ -104,7 +103,7 @@ private:
         RobotLanguage last;
     };
 
-    // New entries come last, unless a receiver has removed some.
+    // New entries are last, unless a receiver has removed some.
     void note(const Language::LocalizedStringLists &lists, Seen &seen) {
         if (seen.count > lists.size() ||
             (seen.count > 0 && lists[seen.count - 1].second != seen.last))
@@ -131,7 +130,7 @@ RobotLanguage makeXScrpolLanguage(const RobotLanguage &lang) {
             lang.version()};
 }
 
-// Keeps the script in the variant of its language, then puts its plain text in its place.
+// Stores the script in the variant of its language, then replaces it by its plain text.
 template<typename Keep, typename Replace>
 void generate(const QString &script, const RobotLanguage &language, const char *operation,
               Keep keep, Replace replace) {
@@ -212,7 +211,7 @@ private:
     template<typename Path>
     void check(const QString &text, Path path) {
         if (!text.contains(u'<'))
-            return; // plain
+            return; // already plain
         if (const PackageModel::PlainText plain = PackageModel::plainTextOf(text);
             !plain.error.isEmpty())
             m_errors.append({fromUtf8(path().toString()), plain.error});
@@ -232,14 +231,13 @@ void PackageInfoModel::trimExtraInfo() {
     for (BehaviorInfoModel *behavior : m_data->behaviors.children())
         ChildAccess::data(*behavior).trim(m_data->descriptionLanguages, m_data->supportedLanguages,
                                           described, supported);
-    // No notification asks for this. All of them may have changed, so that making the record's list
-    // anew is the shorter way.
+    // Synchronizes without a notification. All records may have changed, so rebuilding the list is
+    // faster.
     m_data->behaviors.setOutOfStep();
     m_data->behaviors.resync();
 }
 
-// Receivers of the notifications may remove behaviors, change the lists that are gone through, and
-// delete the package.
+// Receivers may remove behaviors, change the lists being iterated, and delete the package.
 void PackageInfoModel::genPlainTextFromScript() {
     const QPointer<PackageInfoModel> living(this);
     genPlainTextValues(living);

@@ -10,8 +10,7 @@
 namespace Zel {
 namespace {
 
-// One kind of requirements: the operations of the record on their list, the conversion to it, and
-// the notifications.
+// One kind of requirements: the record's operations, the conversion, and the notifications.
 template<typename Requirement>
 struct RequirementKind;
 

@@ -26,14 +26,14 @@ Findings triggerSentenceFindings(const PackageInfoModel *package,
     return findings;
 }
 
-// Whether two findings differ in their language only.
+// Whether two findings differ only in their language.
 bool haveOneMessage(const Finding &a, const Finding &b) {
     return speaksOfLanguages(a.rule) && speaksOfLanguages(b.rule) &&
            std::strcmp(ruleRow(a.rule).message, ruleRow(b.rule).message) == 0 &&
            a.arguments == b.arguments;
 }
 
-// A message for each finding, and one for a run of findings that differ only in their language.
+// Appends one message per finding, combining consecutive findings that differ only in language.
 void appendMessages(const Findings &findings, QStringList &errors, QStringList &warnings) {
     for (auto first = findings.begin(); first != findings.end();) {
         RobotLanguages languages{first->language};
@@ -46,7 +46,7 @@ void appendMessages(const Findings &findings, QStringList &errors, QStringList &
     }
 }
 
-// Runs one check for its messages, all of which are errors.
+// Runs one check whose messages are all errors.
 bool validateAlone(Check check, const PackageInfoModel *package, QStringList &errors) {
     errors.clear();
     if (!package)
@@ -56,7 +56,7 @@ bool validateAlone(Check check, const PackageInfoModel *package, QStringList &er
     return errors.isEmpty();
 }
 
-// A text in a language, else in the default language, else none.
+// A text in a language, else in the default language, else empty.
 template<typename TextIn>
 QString withFallback(TextIn &&textIn, const RobotLanguage &language) {
     const QString text = textIn(language);

@@ -11,7 +11,7 @@
 namespace Zel {
 namespace {
 
-// Adds a kind to a set or takes it out; returns whether that turned the set empty or no longer so.
+// Inserts or removes a kind; returns whether the set became empty or non-empty.
 template<typename Kind>
 bool turns(std::set<Kind> &kinds, Kind kind, bool set) {
     const bool wasEmpty = kinds.empty();
@@ -22,7 +22,7 @@ bool turns(std::set<Kind> &kinds, Kind kind, bool set) {
     return kinds.empty() != wasEmpty;
 }
 
-// Runs a check of the package whose messages say everything, and announces its outcome.
+// Runs a check of the package and announces the result.
 void runCheck(PackageInfoValidator *validator, const PackageInfoModel *package,
               bool (*check)(const PackageInfoModel *, QStringList &), PackageError error,
               void (PackageInfoValidator::*announce)(bool) const) {
@@ -182,7 +182,7 @@ void PackageInfoValidator::validateTriggerSentences(const BehaviorInfoModel *beh
 void PackageInfoValidator::validateBehaviorTriggerSentences() {
     if (!m_package)
         return;
-    // Receivers may remove behaviors meanwhile, and delete the validator.
+    // Receivers may remove behaviors, and delete the validator.
     const QPointer<PackageInfoValidator> living(this);
     const auto behaviors = m_package->behaviors();
     std::vector<QPointer<const BehaviorInfoModel>> guarded(behaviors.begin(), behaviors.end());
@@ -193,7 +193,7 @@ void PackageInfoValidator::validateBehaviorTriggerSentences() {
 }
 
 void PackageInfoValidator::onBehaviorAdded(const BehaviorInfoModel *addedBehavior) {
-    // A receiver before this one may have deleted it.
+    // An earlier receiver may have deleted it.
     if (m_package && isChild(*m_package, addedBehavior))
         listenTo(addedBehavior);
 }
@@ -211,7 +211,7 @@ void PackageInfoValidator::listenTo(const BehaviorInfoModel *behavior) {
 }
 
 void PackageInfoValidator::onBehaviorRemoved(const BehaviorInfoModel *removedBehavior) {
-    // A receiver before this one may have deleted it.
+    // An earlier receiver may have deleted it.
     if (const auto behavior = m_heard.take(removedBehavior))
         disconnect(behavior, nullptr, this, nullptr);
 }

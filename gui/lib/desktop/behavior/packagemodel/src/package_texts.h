@@ -8,18 +8,17 @@
 
 namespace Zel {
 
-/// A plain text of a package: its names, the operations of the record behind it, and those of the
-/// model, which the setters, the commands and the table of fields are made from.
+/// A plain text of a package: its names, and the operations of record and model from which setters,
+/// commands and the field table are generated.
 struct PackageText {
-    const char *field; ///< in paths
+    const char *field; ///< in field paths
     const char *label; ///< for users
     const std::string &(Tano::PackageInfo::*recorded)() const;
     void (Tano::PackageInfo::*record)(const std::string &text);
     QString (PackageInfoModel::*text)() const;
     void (PackageInfoModel::*setText)(const QString &text);
     void (PackageInfoModel::*updated)(const QString &text);
-    const char
-        *word; ///< in the texts of PackageStringCommand; null for a text without that command
+    const char *word; ///< in the texts of PackageStringCommand; null if it has no command
 };
 
 inline constexpr PackageText uidText{"uid",
@@ -97,7 +96,7 @@ inline constexpr PackageText pathText{"path",
                                       &PackageInfoModel::pathUpdated,
                                       QT_TRANSLATE_NOOP("Zel::PackageStringCommand", "path")};
 
-/// All of them, in the order of the manifest.
+/// All plain texts, in manifest order.
 inline constexpr std::array packageTexts{&uidText,     &typeVersionText,  &installerText,
                                          &authorText,  &organizationText, &dateText,
                                          &channelText, &pathText};

@@ -33,7 +33,7 @@ bool isRangeValid(const SoftwareVersion &min, const SoftwareVersion &max) {
         if (min.versionField(i) != max.versionField(i))
             return min.versionField(i) < max.versionField(i);
     }
-    return true; // equal, or one continues the other
+    return true; // equal, or one extends the other
 }
 
 RobotRequirement fromTanoRobotRequirement(const Tano::RobotRequirement &record) {

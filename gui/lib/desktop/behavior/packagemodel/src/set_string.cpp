@@ -19,7 +19,7 @@ constexpr const char *plainContext = "Zel::PackageStringCommand";
 constexpr std::array plainTexts{&installerText,    &uidText,  &typeVersionText, &authorText,
                                 &organizationText, &dateText, &channelText,     &pathText};
 
-// One of the package's texts by language, and the word for it.
+// One of the package's localized texts and its name.
 struct LocalizedText {
     QString (PackageInfoModel::*text)(const RobotLanguage &language) const;
     void (PackageInfoModel::*setText)(const QString &text, const RobotLanguage &language);

@@ -7,14 +7,14 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-// The bytes that UTF-8 would give a surrogate if it had an encoding for one.
+// Appends a surrogate as if UTF-8 could encode it.
 void appendSurrogate(std::string &bytes, char16_t surrogate) {
     bytes += static_cast<char>(0xE0 | (surrogate >> 12));
     bytes += static_cast<char>(0x80 | ((surrogate >> 6) & 0x3F));
     bytes += static_cast<char>(0x80 | (surrogate & 0x3F));
 }
 
-// QString::toUtf8() would turn surrogates that stand alone into question marks.
+// QString::toUtf8() replaces lone surrogates by question marks.
 std::string encodeWithSurrogates(const QString &text) {
     std::string bytes;
     int done = 0;
@@ -36,7 +36,7 @@ std::string encodeWithSurrogates(const QString &text) {
 } // namespace
 
 QString fromUtf8(const std::string &text) {
-    // Qt drops one leading byte order mark, so give it one to drop.
+    // Qt drops one leading byte order mark; add another one for it to drop.
     if (text.rfind(byteOrderMark, 0) == 0)
         return QString::fromUtf8(std::string(byteOrderMark).append(text).c_str());
     return QString::fromUtf8(text.c_str());

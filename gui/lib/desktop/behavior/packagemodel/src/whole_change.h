@@ -8,8 +8,8 @@
 
 namespace Zel {
 
-/// A load or an assignment, which replaces the whole package in many announced steps. Receivers may
-/// start another one meanwhile, which supersedes this one, or delete the package.
+/// A load or an assignment, which replaces the whole package in many announced steps. Meanwhile,
+/// receivers may delete the package or start another one, which supersedes this one.
 class WholeChange {
 public:
     WholeChange(PackageInfoModel *package, std::uint64_t &counter)
@@ -17,7 +17,7 @@ public:
         , m_counter(counter)
         , m_number(++counter) {}
 
-    /// Whether to go on with the next step.
+    /// Whether to continue with the next step.
     bool isCurrent() const { return m_package && m_counter == m_number; }
 
 private:

@@ -26,7 +26,7 @@ bool isScriptVariant(const QString &code) {
     return code.endsWith(k_sa.text());
 }
 
-// The end of a message about an unknown word: the nearest known one, if any is near.
+// Suggests the nearest known word at the end of a message, if any is near.
 QString nearest(const QString &word, const QStringList &known) {
     const QString near = nearestWord(word, known);
     return near.isEmpty()
@@ -60,7 +60,7 @@ QString labelOf(const FieldPath &path) {
     return form ? form->label : QString();
 }
 
-// Entries are found by their keys, so each has one, and no other has the same.
+// Entries are looked up by key, so each needs a unique key.
 void checkKey(const QString &key, int occurrence, const FieldPath &path, RuleId duplicate,
               Findings &findings) {
     if (key.isEmpty())
@@ -156,7 +156,7 @@ void checkRobots(const CheckedPackage &checked, Findings &findings) {
     }
 }
 
-// The records have versions as they were written; a model takes those of another form for none.
+// Versions are checked in the record: a model drops malformed ones.
 void checkVersions(const CheckedPackage &checked, Findings &findings) {
     const auto check = [&](const std::string &text, const FieldPath &path) {
         bool isVersion = false;
@@ -200,7 +200,7 @@ bool isBlank(const QString &text) {
     return !text.isEmpty() && text.trimmed().isEmpty();
 }
 
-// Checks the texts of one owner, whose path is made when something is found.
+// Checks the texts of one owner. Its path is only built when something is found.
 template<typename Path>
 class TextCheck {
 public:
@@ -235,7 +235,7 @@ private:
         return m_path().field(field).key(toUtf8(language.isoCode()));
     }
 
-    // The script of a published text belongs to the text.
+    // The script of a published text counts as the text itself.
     void checkLanguage(const char *field, const RobotLanguage &language) {
         const QString &code = language.isoCode();
         const QString spoken =
@@ -286,7 +286,7 @@ void checkTopicFiles(const CheckedPackage &checked, Findings &findings) {
     }
 }
 
-// The signature of PNG (ISO/IEC 15948), and its first chunk, which is "IHDR".
+// Checks the PNG signature (ISO/IEC 15948) and that the first chunk is "IHDR".
 void checkIcon(const CheckedPackage &checked, Findings &findings) {
     if (checked.options.folder.isEmpty())
         return;

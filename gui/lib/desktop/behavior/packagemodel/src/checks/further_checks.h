@@ -11,7 +11,7 @@
 
 namespace Zel::PackageModel {
 
-/// A behavior, with its number among those that have the same path.
+/// A behavior and its index among those with the same path.
 struct BehaviorPlace {
     const BehaviorInfoModel *behavior;
     int occurrence;
@@ -19,36 +19,36 @@ struct BehaviorPlace {
     Tano::FieldPath path() const;
 };
 
-/// What the further checks look at.
+/// The input of the further checks.
 struct CheckedPackage {
     CheckedPackage(const PackageInfoModel &checked, const Tano::PackageInfo &checkedRecord,
                    const IssueOptions &checkedWith);
 
-    const PackageInfoModel &package; // possibly without the behaviors of the record
+    const PackageInfoModel &package; // may lack the behaviors of the record
     const Tano::PackageInfo &record;
     const IssueOptions &options;
-    QSet<QString> languages; // the codes of those that the package lists
+    QSet<QString> languages; // the codes of the package's languages
     std::vector<Tano::UnknownNode> unknownNodes;
     BehaviorScripts scripts;
 };
 
-/// The names that the format knows where an unknown node is.
+/// The known names at the position of an unknown node.
 QStringList namesBeside(const Tano::UnknownNode &node);
 
-/// The beginning of a comment that holds both sides of a merge.
+/// The start of a comment that holds both sides of a merge conflict.
 constexpr const char *conflictMark = "zel-package: conflict";
-/// Such comments.
+/// The comments that hold merge conflicts.
 std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record);
 
-/// A check beyond those of the messages: of the package without its behaviors, and of one behavior,
-/// which need not be in the package. Each appends what it finds; a null one finds nothing.
+/// A check without a message in the validator: of the package without its behaviors, and of one
+/// behavior, which need not belong to the package. Each appends its findings; both may be null.
 struct FurtherCheck {
     void (*ofPackage)(const CheckedPackage &checked, Findings &findings);
     void (*ofBehavior)(const CheckedPackage &checked, const BehaviorPlace &place,
                        Findings &findings);
 };
 
-/// In the order of their rules.
+/// In rule order.
 const std::vector<FurtherCheck> &furtherChecks();
 
 } // namespace Zel::PackageModel

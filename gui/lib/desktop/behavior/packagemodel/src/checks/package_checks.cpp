@@ -95,7 +95,7 @@ void checkNames(const PackageInfoModel &package, Findings &findings) {
                             {},
                             language});
     }
-    // The default language is named first.
+    // The default language comes first.
     std::stable_partition(findings.begin(), findings.end(), [](const Finding &finding) {
         return finding.rule != RuleId::NameMissing;
     });
@@ -155,7 +155,7 @@ RobotLanguages languagesOf(const Findings &findings, RuleId rule) {
 
 QString message(const Finding &finding, const RobotLanguages &languages) {
     QString text = ruleMessage(finding.rule);
-    // Of further rules, no value is taken for a placeholder.
+    // Values of further rules may contain "%1", so they are all inserted at once.
     const QStringList &values = finding.arguments;
     if (!hasMessage(finding.rule) && values.size() == 3)
         return text.arg(values.at(0), values.at(1), values.at(2));

@@ -35,7 +35,7 @@ FieldPath fieldNamed(const char *name) {
     return FieldPath().field(name);
 }
 
-// The list entry that a path leads into: behaviors[greet] of behaviors[greet].nature.
+// The list entry that contains a path: behaviors[greet] for behaviors[greet].nature.
 FieldPath entryOf(const FieldPath &path) {
     FieldPath entry = path;
     while (entry.steps().size() > 1)
@@ -74,7 +74,7 @@ QVector<Fix> fixMissingModel(const Finding &finding, const PackageInfoModel &) {
                     QT_TRANSLATE_NOOP("Zel::PackageModel", "Remove the requirement"), false)};
 }
 
-// The field at fault is a maximum that is less than its minimum.
+// The field at fault is a maximum below its minimum.
 QVector<Fix> fixRange(const Finding &finding, const PackageInfoModel &package) {
     const std::string field = finding.field.steps().back().field;
     const FieldPath minimum = FieldPath(entryOf(finding.field)).field("min" + field.substr(3));
@@ -104,7 +104,7 @@ Fix dropLanguage(const RobotLanguage &language) {
             {removing(fieldNamed("supportedLanguages").key(toUtf8(language.isoCode())))}};
 }
 
-// What a language lacks may be copied from the default language, else from the first that has it.
+// A missing text may be copied from the default language, else from the first language with one.
 template<typename Values>
 auto sourceOf(const Values &values) {
     const auto isFilled = [](const auto &entry) { return !entry.first.isEmpty(); };
@@ -149,7 +149,7 @@ QVector<Fix> fixMissingSentences(const Finding &finding, const PackageInfoModel 
     return fixes;
 }
 
-// The second entry gets the first free key.
+// Gives the second entry the first free key.
 QVector<Fix> fixDuplicateKey(const Finding &finding, const PackageInfoModel &package) {
     const auto &list = finding.field.steps().front().field;
     const QString key = fromUtf8(finding.field.steps().front().selectors.front().text);
@@ -166,7 +166,7 @@ QVector<Fix> fixDuplicateKey(const Finding &finding, const PackageInfoModel &pac
                     QT_TRANSLATE_NOOP("Zel::PackageModel", "Remove the entry"), false)};
 }
 
-// The permissions of a model are a set, so that only its record knows one that is there twice.
+// A model's permissions are a set, so only the record shows a duplicate.
 Edit withoutPermission(const FieldPath &path, const PackageInfoModel &package) {
     const FieldPath entry = entryOf(path);
     const int index = path.steps().back().selectors.back().toIndex().value_or(0);
@@ -196,7 +196,7 @@ QVector<Fix> fixEmptyKey(const Finding &finding, const PackageInfoModel &package
                     QT_TRANSLATE_NOOP("Zel::PackageModel", "Remove the entry"), false)};
 }
 
-// A word that is near to a known one is a mistyped one.
+// A word close to a known one is probably misspelled.
 QVector<Fix> fixWord(const FieldPath &path, const QString &word, const QStringList &known,
                      bool isSafe) {
     const QString near = nearestWord(word, known);
@@ -218,7 +218,7 @@ QVector<Fix> fixNature(const Finding &finding, const PackageInfoModel &package) 
 QVector<Fix> fixRobot(const Finding &finding, const PackageInfoModel &package) {
     QVector<Fix> fixes = fixWord(finding.field, textAt(package, finding.field),
                                  RobotRequirement::prettyRobotNames().keys(), false);
-    fixes.removeLast(); // a requirement without a model is another fault
+    fixes.removeLast(); // a requirement without a model would be another fault
     return fixes;
 }
 
@@ -249,7 +249,7 @@ QVector<Fix> fixVersion(const Finding &finding, const PackageInfoModel &) {
 }
 
 QVector<Fix> fixDate(const Finding &finding, const PackageInfoModel &package) {
-    // The year first leaves no doubt about the month.
+    // Formats with the year first are unambiguous.
     const std::array forms{std::pair("yyyy-M-d", true), std::pair("yyyy/M/d", true),
                            std::pair("yyyy.M.d", true), std::pair("d.M.yyyy", false),
                            std::pair("d/M/yyyy", false)};
@@ -354,7 +354,7 @@ MakeFixes fixesOfRule(RuleId rule) {
     case RuleId::SupportedLanguageMissing:
         return fixMissingSupport;
     default:
-        return nullptr; // only the author knows
+        return nullptr; // only the author can decide
     }
 }
 
@@ -364,7 +364,7 @@ namespace {
 
 using Renamed = std::vector<std::pair<Tano::UnknownNode, std::string>>;
 
-// All at once or, if that gives no valid manifest, those of a few that do.
+// Renames all nodes or, if that makes the manifest invalid, as many as possible.
 std::optional<Tano::PackageInfo> withAsManyRenamed(const Tano::PackageInfo &record,
                                                    const Renamed &renamed) {
     constexpr std::size_t few = 20;
@@ -413,7 +413,7 @@ const QVector<Fix> &FixMaker::resolutions() {
         return *m_resolutions;
     const auto record = std::get<Tano::PackageInfo>(*value(&m_package, {}));
     m_resolutions = {{text(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                             "Keep the present values and remove the comments")),
+                                             "Keep the current values and remove the comments")),
                       false,
                       {setting({}, Tano::withoutComments(record, conflicts(record)))}}};
     return *m_resolutions;
@@ -428,8 +428,8 @@ const Fix *chosenFix(const Issue &issue, FixChoice choice) {
     return fix == issue.fixes.end() ? nullptr : &*fix;
 }
 
-// Makes the fixes of one rule, from the last issue on, so that the removal of an entry leaves the
-// indexes of those before it alone. A fix that no longer applies waits for another round.
+// Fixes the issues of one rule, from the last to the first, so that removing an entry does not
+// shift the indexes of those before it. A fix that no longer applies is left to the next round.
 Edits fixRule(PackageInfoModel *package, FixChoice choice, const QVector<Issue> &found,
               const QString &id) {
     Edits made;
@@ -452,7 +452,7 @@ bool setsVersion(const Edits &edits) {
 
 } // namespace
 
-// A fix of one rule can settle what another has found, so each round makes those of one rule.
+// Fixing one rule can resolve issues of another, so each round fixes one rule.
 Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions &givenOptions) {
     constexpr int mostRounds = 1000;
     IssueOptions options = givenOptions;
@@ -461,7 +461,7 @@ Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions 
     bool isDone = false;
     for (int round = 0; round < mostRounds && !isDone; ++round) {
         QVector<Issue> found = issues(package, options);
-        // Content of misspelled elements counts from here on.
+        // Renaming misspelled elements comes first, since it makes their content count.
         std::stable_partition(found.begin(), found.end(), [](const Issue &issue) {
             return issue.id == QLatin1String(ruleRow(RuleId::ElementUnknown).id) ||
                    issue.id == QLatin1String(ruleRow(RuleId::AttributeUnknown).id);
@@ -475,7 +475,7 @@ Edits fixIssues(PackageInfoModel *package, FixChoice choice, const IssueOptions 
             const Edits edits = fixRule(package, choice, found, issue->id);
             isDone = edits.isEmpty();
             made += edits;
-            // From here on, the version is the one in the package.
+            // From here on, check the version in the package.
             if (setsVersion(edits))
                 options.written = nullptr;
         }

@@ -8,17 +8,17 @@
 
 namespace Zel::PackageModel {
 
-/// Makes fixes of what was found in a package, as long as the package is unchanged.
+/// Creates fixes for findings. The package must not change during its lifetime.
 class FixMaker {
 public:
     explicit FixMaker(const PackageInfoModel &package)
         : m_package(package) {}
 
-    /// The ways to correct it, the most likely first.
+    /// The ways to fix it, most likely first.
     QVector<Fix> fixesOf(const Finding &finding);
 
 private:
-    // Those that replace the package are made once for all findings of a rule.
+    // Fixes that replace the package are created once for all findings of a rule.
     const QVector<Fix> &renames();
     const QVector<Fix> &resolutions();
 

@@ -1,5 +1,6 @@
 #include <packagemodel/package_issues.h>
 
+#include "finding_issues.h"
 #include "further_checks.h"
 #include "package_fixes.h"
 
@@ -15,7 +16,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// Passes findings on as issues until the visitor has had enough.
+// Passes findings to the visitor as issues until it stops.
 class FindingVisit {
 public:
     FindingVisit(const PackageInfoModel &package,
@@ -27,7 +28,7 @@ public:
         , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
         , m_withFixes(options.withFixes) {}
 
-    // Returns false when the visitor stops.
+    // Returns false once the visitor stops.
     bool visit(const Findings &findings) {
         for (const Finding &finding : findings) {
             if (skips(finding.rule) || !isNamed(finding))
@@ -35,8 +36,7 @@ public:
             Issue issue = bareIssueOf(finding);
             if (m_filter && !m_filter(issue))
                 continue;
-            issue.text = message(finding, {finding.language});
-            issue.node = finding.node;
+            complete(issue, finding);
             if (m_withFixes)
                 issue.fixes = m_fixes.fixesOf(finding);
             const IssueVisit next = m_visit(issue);
@@ -58,17 +58,6 @@ public:
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
-    static Issue bareIssueOf(const Finding &finding) {
-        const RuleRow &row = ruleRow(finding.rule);
-        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()), {}};
-    }
-
-    // A message without a language would say nothing.
-    static bool isNamed(const Finding &finding) {
-        return finding.rule != RuleId::TriggerSentencesMissing ||
-               !finding.language.uiName().isEmpty();
-    }
-
     const PackageInfoModel &m_package;
     FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
@@ -85,7 +74,7 @@ std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behavior
     return places;
 }
 
-// By ascending path; behaviors with the same path keep their order.
+// Sorted by path; behaviors with the same path keep their order.
 std::vector<BehaviorPlace> inOrderOfMessages(std::vector<BehaviorPlace> behaviors) {
     std::vector<std::pair<QString, BehaviorPlace>> byPath;
     byPath.reserve(behaviors.size());
@@ -147,7 +136,7 @@ void visitIssues(const PackageInfoModel *package,
     }
 }
 
-// One behavior at a time has a model.
+// Creates a model for one behavior at a time, to bound memory.
 void visitIssues(const Tano::PackageInfo &record,
                  const std::function<IssueVisit(const Issue &issue)> &visit,
                  const IssueOptions &options) {

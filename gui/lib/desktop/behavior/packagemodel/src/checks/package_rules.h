@@ -4,7 +4,7 @@
 
 namespace Zel::PackageModel {
 
-/// The rules by the order of their table.
+/// The rules, in table order.
 enum class RuleId {
     UidInvalid,
     RobotRequirementsMissing,
@@ -17,7 +17,7 @@ enum class RuleId {
     NameMissingDefault,
     NameMissing,
     DescriptionMissing,
-    TriggerSentencesMissing, // the last one of the messages
+    TriggerSentencesMissing, // the last rule with a message in the validator
     ScriptMalformed,
     BehaviorPathDuplicate,
     TopicNameDuplicate,
@@ -39,24 +39,24 @@ enum class RuleId {
     MergeConflict,
 };
 
-/// Whether a rule is one of those that messages and live flags are made from.
+/// Whether the validator's messages and live flags use the rule.
 constexpr bool hasMessage(RuleId rule) {
     return rule <= RuleId::TriggerSentencesMissing;
 }
 
-/// A row of the table, in the source language.
+/// A row of the table, untranslated.
 struct RuleRow {
     const char *id;
     Severity severity;
     const char *message; // translated in the context "QObject" if hasMessage()
     const char *explanation;
     const char *remedy;
-    const char *example; // part of a manifest; null for none
+    const char *example; // a manifest fragment; may be null
 };
 
 const RuleRow &ruleRow(RuleId rule);
 
-/// The message of a rule in the language of the application, its placeholders not yet filled.
+/// The translated message of a rule, with its placeholders.
 QString ruleMessage(RuleId rule);
 
 } // namespace Zel::PackageModel

@@ -25,7 +25,7 @@ bool isFilled(const QStringList &texts) {
                        [](const QString &text) { return isFilled(text); });
 }
 
-// Counts the texts of entries, a language in each row.
+// Counts the texts of entries, one row per language.
 class Tally {
 public:
     Tally(const PackageInfoModel &package, const RobotLanguages &languages) {
@@ -41,7 +41,7 @@ public:
         }
     }
 
-    // Counts an entry, which is expected to have a text of that kind.
+    // Counts an entry that should have a text of this kind.
     template<typename Values>
     void add(Count LanguageCoverage::*kind, const Values &values) {
         ++(m_expected.*kind).expected;
@@ -52,7 +52,7 @@ public:
         }
     }
 
-    // The same if it has one in any language.
+    // Like add(), if the entry has a text in any language.
     template<typename Values>
     void addIfUsed(Count LanguageCoverage::*kind, const Values &values) {
         if (std::any_of(values.begin(), values.end(),
@@ -76,7 +76,7 @@ public:
 
 private:
     std::vector<LanguageCoverage> m_rows;
-    QHash<QString, std::size_t> m_indexes; // of the rows by ISO code
+    QHash<QString, std::size_t> m_indexes; // the rows by ISO code
     LanguageCoverage m_expected;
 };
 
@@ -100,7 +100,7 @@ std::vector<LanguageCoverage> coveragesIn(const PackageInfoModel &package,
     return tally.rows();
 }
 
-// What the behaviors and dialogs need.
+// The sum of the counts of behaviors and dialogs.
 Count entriesTotal(const LanguageCoverage &coverage) {
     Count sum;
     if (!coverage.isSupported && !coverage.isDescribed)

@@ -17,7 +17,7 @@ QString withValue(const QString &line, const QString &value) {
     return value.isEmpty() ? line : line % QStringLiteral(": ") % value;
 }
 
-// The fields of a requirement; nothing for a larger entry.
+// The fields of a requirement, empty for larger entries.
 QString fieldsOf(const FieldValue &entry) {
     const bool isRequirement = std::holds_alternative<RobotRequirement>(entry) ||
                                std::holds_alternative<BrioRequirement>(entry);
@@ -32,7 +32,7 @@ QString fieldsOf(const FieldValue &entry) {
     return fields.join(QStringLiteral(", "));
 }
 
-// What was added or removed, beyond the label of its path.
+// The added or removed value, if the label of its path does not say it.
 QString shownValue(const FieldPath &path, const FieldValue &value) {
     const auto *text = std::get_if<QString>(&value);
     if (!text)
@@ -76,7 +76,7 @@ QString setting(const Edit &edit, const std::optional<FieldValue> &old) {
         .arg(label(edit.path), shown.before, shown.after);
 }
 
-// The line of an edit, which is applied.
+// Describes an edit and applies it.
 QString changeLine(PackageInfoModel *package, const Edit &edit) {
     const auto old = value(package, edit.path);
     apply(package, edit);
@@ -88,7 +88,7 @@ QString changeLine(PackageInfoModel *package, const Edit &edit) {
     case Edit::Action::Remove:
         return removal(edit.path, *old);
     case Edit::Action::Move:
-        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to place %2"))
+        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to position %2"))
             .arg(label(edit.path), QString::number(edit.index + 1));
     }
     return {};

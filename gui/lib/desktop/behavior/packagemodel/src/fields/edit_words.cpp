@@ -9,7 +9,7 @@ namespace {
 
 using Tano::FieldPath;
 
-// The key of an entry that is inserted into a list; nothing if the list has no keys.
+// The key of an entry to insert, nullopt if the list has no keys.
 std::optional<std::string> keyOf(const FieldPath &list, const FieldValue &entry) {
     if (const auto *behavior = std::get_if<Tano::BehaviorInfo>(&entry))
         return behavior->path();
@@ -23,7 +23,7 @@ std::optional<std::string> keyOf(const FieldPath &list, const FieldValue &entry)
                                                                       : std::nullopt;
 }
 
-// "name of “greet”", but "UID".
+// Lower-cases the first letter: "name of “greet”", but "UID".
 QString inSentence(QString label) {
     if (label.size() > 1 && label.at(1).isLower())
         label[0] = label.at(0).toLower();

@@ -6,9 +6,9 @@
 
 namespace Zel::PackageModel {
 
-/// Puts edits into an object as its member "edits".
+/// Inserts edits as the member "edits" of an object.
 void insertEdits(QJsonObject &object, const Edits &edits);
-/// Takes the edits of an object; none if one of them is at fault, which is then its error.
+/// Takes the edits of an object. If one is invalid, sets the error and returns none.
 Edits takeEdits(JsonMembers &members);
 
 } // namespace Zel::PackageModel

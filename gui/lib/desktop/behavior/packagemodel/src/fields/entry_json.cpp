@@ -13,7 +13,7 @@ QString sentence(const char *text) {
     return QCoreApplication::translate("Zel::PackageModel", text);
 }
 
-// The list of a package whose entries have a kind.
+// The list of the package for entries of a kind.
 const FieldRow<PackageInfoModel> &listRowOf(FieldKind kind) {
     const auto &rows = packageFields();
     const auto row = std::find_if(rows.begin(), rows.end(),
@@ -22,7 +22,8 @@ const FieldRow<PackageInfoModel> &listRowOf(FieldKind kind) {
     return **row;
 }
 
-// A package with nothing but entries of one kind, which only the model can read and write.
+// An otherwise empty package with entries of one kind, since only the model can read and write
+// entries.
 class EntryPackage {
 public:
     explicit EntryPackage(FieldKind kind)
@@ -53,7 +54,7 @@ private:
     FieldPath m_path;
 };
 
-// The edits that give an empty entry the fields of a JSON object.
+// Creates the edits that set the fields of an empty entry from a JSON object.
 class EntryEdits {
 public:
     EntryEdits(const FieldPath &entry, const QJsonObject &object) {
@@ -151,7 +152,7 @@ std::optional<FieldValue> readValue(FieldKind kind, const QJsonValue &json, QStr
         return json.toBool();
     if (json.isString() && (kind == FieldKind::Text || kind == FieldKind::Version))
         return parsedValue(kind, json.toString(), &error);
-    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+    error = sentence(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value has the wrong type."));
     return {};
 }
 

@@ -8,9 +8,9 @@ namespace Zel::PackageModel {
 namespace {
 
 constexpr int longestExcerpt = 60;
-constexpr int shownBefore = 20; // of what two texts have in common
+constexpr int shownBefore = 20; // characters of the common prefix
 
-// The nearest boundary between characters, from an index backwards.
+// The last character boundary at or before an index.
 int boundaryAt(const QString &text, int index) {
     const bool isWithin = index > 0 && index < text.size() && text.at(index).isLowSurrogate();
     return isWithin ? index - 1 : index;

@@ -4,17 +4,17 @@
 
 namespace Zel::PackageModel {
 
-/// The index that the only selector of a path means; -1 for none of a list of that size.
+/// The index in a path's only selector; -1 if it is outside a list of this size.
 inline int indexIn(const Selectors &selectors, int size) {
     const auto index = selectors.size() == 1 ? selectors.front().toIndex() : std::nullopt;
     return index && *index < size ? *index : -1;
 }
 
 inline QString taken(const QString &value) {
-    return QCoreApplication::translate("Zel::PackageModel", "'%1' is there already.").arg(value);
+    return QCoreApplication::translate("Zel::PackageModel", "'%1' already exists.").arg(value);
 }
 
-/// A row whose path leads to a list itself, or to an item of it.
+/// A row whose paths lead to a list or to one of its items.
 template<typename Owner>
 class ListRow : public FieldRow<Owner> {
 public:
@@ -28,7 +28,7 @@ public:
 protected:
     virtual std::shared_ptr<FieldList> makeList(Owner &owner) const = 0;
 
-    /// The list, or an item of it if there are more selectors than those of the list itself.
+    /// The list, or an item of it if there are more selectors than the list itself has.
     static FieldTarget followList(std::shared_ptr<FieldList> list, const Walk &walk,
                                   std::size_t ownSelectors) {
         FieldTarget target{{}, std::move(list), walk.upTo(ownSelectors), -1};
@@ -41,7 +41,7 @@ protected:
     }
 };
 
-/// The texts of one list of a behavior: tags in a language, conditions for a purpose.
+/// One list of texts of a behavior: tags in a language, conditions for a purpose.
 template<typename Key>
 class BehaviorTexts : public FieldList {
 public:
@@ -72,7 +72,7 @@ public:
             insertNew(index, current.size(), text);
             return;
         }
-        // The lists may hold equal texts but take them by updates only.
+        // A list may hold equal texts, but only accepts them by update.
         QString placeholder = text;
         while (current.contains(placeholder))
             placeholder += u'~';
@@ -109,7 +109,7 @@ private:
     Key m_key;
 };
 
-/// Lists of texts of a behavior by language or purpose.
+/// A behavior's lists of texts by language or purpose.
 template<typename Key>
 class BehaviorTextsRow : public ListRow<BehaviorInfoModel> {
 public:
@@ -240,7 +240,7 @@ public:
     }
 
 private:
-    // The child with a key that so many others with the key precede; null for none.
+    // The child with a key that is preceded by `occurrence` others; null if there is none.
     const Child *childAt(const std::string &key, int occurrence) const {
         const auto alike = childrenOf<Child>(*m_package).findAll(toUtf8(fromUtf8(key)));
         return occurrence < int(alike.size()) ? alike[std::size_t(occurrence)] : nullptr;
@@ -347,7 +347,7 @@ private:
     const EntryKind<Child> &m_kind;
 };
 
-/// A requirement of a package by its index.
+/// A requirement of a package, by index.
 template<typename Requirement>
 struct RequirementPlace {
     PackageInfoModel &package;
@@ -362,7 +362,7 @@ struct RequirementOperations {
     bool (PackageInfoModel::*remove)(int index);
     bool (PackageInfoModel::*move)(int from, int to);
     const FieldTable<RequirementPlace<Requirement>> &(*table)();
-    const char *memberLabel; ///< of a field of a requirement: its label, and the number
+    const char *memberLabel; ///< of one field of a requirement: its label and the number
 };
 
 template<typename Requirement>

@@ -5,7 +5,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// What a word may have meant: the nearest of those that there are, else the first of them.
+// Suggests what a word may have meant: the nearest alternative, else the first ones.
 QString alternatives(const QString &word, const QStringList &words, const QString &listing) {
     constexpr int most = 8;
     const QString nearest = nearestWord(word, words);
@@ -44,7 +44,7 @@ QString noFieldNamed(const QString &name, const QStringList &names) {
                        QCoreApplication::translate("Zel::PackageModel", "; the fields are %1.")));
 }
 
-// The longest part of the path that leads to a list lacks the item that the path goes on with.
+// Finds the longest prefix of the path that leads to a list; that list lacks the next item.
 QString reasonOf(PackageInfoModel &package, const FieldPath &path) {
     QString error;
     if (!formOf(path, &error))
@@ -57,7 +57,7 @@ QString reasonOf(PackageInfoModel &package, const FieldPath &path) {
         if (target.list)
             return noItem(*target.list, fromUtf8(selectors.back().text));
     }
-    return QCoreApplication::translate("Zel::PackageModel", "There is none.");
+    return QCoreApplication::translate("Zel::PackageModel", "It does not exist.");
 }
 
 } // namespace Zel::PackageModel

@@ -26,13 +26,13 @@ inline RobotLanguage languageOfCode(const QString &code) {
     return known.isoCode().isEmpty() ? RobotLanguage(ISOCode(code), NuanceCode()) : known;
 }
 
-/// Keeps an owner for later: a model by a guarded pointer, a place in a list by value.
+/// Keeps a reference to an owner: a guarded pointer for models, a value for positions in lists.
 template<typename Owner, bool isModel = std::is_base_of_v<QObject, Owner>>
 class Kept {
 public:
     explicit Kept(Owner &owner)
         : m_owner(&owner) {}
-    /// Null once the owner is gone.
+    /// Null after the owner was deleted.
     Owner *get() const { return m_owner; }
 
 private:
@@ -50,7 +50,7 @@ private:
     std::shared_ptr<Owner> m_owner;
 };
 
-/// The steps of a path that are left to follow, with the path so far.
+/// The path so far and the steps left to follow.
 struct Walk {
     const FieldPath &path;
     std::size_t step = 0;
@@ -59,7 +59,7 @@ struct Walk {
     const Selectors &selectors() const { return path.steps()[step].selectors; }
     Walk next() const { return {path, step + 1}; }
     bool isLast() const { return step + 1 == path.steps().size(); }
-    /// The path up to this step, with the first `selectorCount` of its selectors.
+    /// The path up to this step, with its first `selectorCount` selectors.
     FieldPath upTo(std::size_t selectorCount) const {
         FieldPath result = path;
         while (result.steps().size() > step + 1 ||
@@ -69,22 +69,22 @@ struct Walk {
     }
 };
 
-/// The kind of a type that FieldValue holds.
+/// The FieldKind of a type that FieldValue holds.
 template<typename Value>
 constexpr FieldKind kindOf() {
     return static_cast<FieldKind>(FieldValue(Value()).index());
 }
 
-/// Each appends some of the fields of an owner.
+/// Each function appends some of an owner's fields.
 using FieldPortions = std::vector<std::function<void(QVector<Field> &fields)>>;
 
-/// One field of an owner: a package, or an entry of it. `Owner` is a model, or refers to a
+/// One field of an owner. `Owner` is the model of a package or of an entry, or refers to a
 /// requirement.
 template<typename Owner>
 class FieldRow {
 public:
-    /// `kind` is that of the value or of each entry, `selectors` is how one of several is selected:
-    /// "[CODE][N]". Of a list, the path without its last selector leads to the list.
+    /// `kind` is that of the value or of each entry. `selectors` shows how one of several values is
+    /// selected: "[CODE][N]". For a list, the path without its last selector leads to the list.
     FieldRow(const char *name, const FieldLabels &labels, FieldKind kind,
              const char *selectors = "", bool isList = false)
         : m_name(name)
@@ -101,16 +101,16 @@ public:
     bool isPlain() const { return *m_selectors == '\0'; }
     QString label() const { return inWords(m_labels.one); }
 
-    /// Appends the field, or all of a list, to `fields`; `base` is the path of the owner.
+    /// Appends the field, or all items of a list, to `fields`; `base` is the owner's path.
     virtual void list(Owner &owner, const FieldPath &base, QVector<Field> &fields) const = 0;
-    /// list() in portions, which are appended to `portions`. They may be asked for while `owner`
-    /// lives.
+    /// Like list(), but appends functions to `portions`, which may be called while `owner` lives.
     virtual void divide(Owner &owner, const FieldPath &base, FieldPortions &portions) const {
         portions.push_back(
             [this, &owner, base](QVector<Field> &fields) { list(owner, base, fields); });
     }
     virtual FieldTarget follow(Owner &owner, const Walk &walk) const = 0;
-    /// What a path leads to if the package has it; nothing for a malformed one, then sets `error`.
+    /// The form of the field at a path, nullopt if the package has none. Sets `error` for malformed
+    /// paths.
     virtual std::optional<FieldForm> form(const Walk &walk, QString &error) const {
         const std::string_view selectors(m_selectors);
         const auto all = std::size_t(std::count(selectors.begin(), selectors.end(), '['));
@@ -122,29 +122,29 @@ public:
                     .arg(QLatin1String(m_name), QLatin1String(m_selectors));
         return {};
     }
-    /// The field, an item of it, or a field of the item, in words; empty for a malformed path.
+    /// Describes the field, its item, or a field of that item; empty for malformed paths.
     virtual QString describe(const Walk &walk, const OfOwner &of) const {
         return fieldWords(m_labels, m_selectors, walk.selectors(), of);
     }
-    /// The whole field: a value, an array or an object by key.
+    /// The whole field: a value, an array, or an object by key.
     virtual QJsonValue toJson(Owner &owner) const {
         QJsonArray entries;
         visitEntries(owner, [&](const QJsonObject &entry) { entries.append(entry); });
         return entries;
     }
-    /// Of a list of entries that have fields: visits each as JSON. False for any other field.
+    /// If the field is a list of entries with fields, visits each as JSON; else returns false.
     virtual bool visitEntries(Owner &, const std::function<void(const QJsonObject &)> &) const {
         return false;
     }
-    /// The field that names such an entry in its list, null if it has an index instead.
+    /// The field that names such an entry in its list, null if entries are selected by index.
     virtual const char *keyName() const { return nullptr; }
     virtual FieldValue emptyEntry(const QString &key) const { return key; }
-    /// Of a list whose entries have keys: the entries of an owner, while it lives unchanged.
+    /// For a list of entries with keys, their summaries, valid while the owner is unchanged.
     virtual std::optional<EntrySummaries> summaries(Owner &) const { return {}; }
-    /// Appends the edits that turn the field of `from` into that of `to`; `base` is the path of the
-    /// owner when they are applied.
+    /// Appends the edits that turn the field of `from` into that of `to`; `base` is the owner's
+    /// path when they are applied.
     virtual void compare(Owner &from, Owner &to, const FieldPath &base, Edits &edits) const = 0;
-    /// Whether edits of the field change fields of later rows too.
+    /// Whether editing the field changes fields of later rows too.
     virtual bool changesOthers() const { return false; }
 
 protected:
@@ -216,7 +216,7 @@ QJsonObject objectOf(const FieldTable<Owner> &table, Owner &owner) {
     return object;
 }
 
-/// A field that holds one value: a text, a flag or a version.
+/// A field with a single value: a text, a flag or a version.
 template<typename Owner, typename Value>
 class CellRow : public FieldRow<Owner> {
 public:
@@ -257,7 +257,7 @@ private:
     Set m_set;
 };
 
-/// A field that names its owner among the entries of its kind.
+/// A field that identifies its owner among the entries of its kind.
 template<typename Child>
 class KeyRow : public CellRow<Child, QString> {
 public:
@@ -286,7 +286,8 @@ public:
         target.cell->refusal = [find = m_find, &owner, package](const QString &key) {
             const Child *taker = (package->*find)(key);
             return taker && taker != &owner
-                       ? QCoreApplication::translate("Zel::PackageModel", "'%1' is taken.").arg(key)
+                       ? QCoreApplication::translate("Zel::PackageModel", "'%1' is already in use.")
+                             .arg(key)
                        : QString();
         };
         target.cell->inverse = [get = m_get, record = m_record, &owner, package,
@@ -301,7 +302,7 @@ public:
         return target;
     }
     void compare(Child &, Child &, const FieldPath &, Edits &) const override {
-        // The list of entries renames them.
+        // Renames go through the list of entries.
     }
 
 private:
@@ -341,7 +342,7 @@ public:
         const Kept<Owner> kept(owner);
         const auto set = [this, kept, language, isAbsent = !current](const FieldValue &value) {
             const auto &text = std::get<QString>(value);
-            // The setters take an absent text for an empty one.
+            // The setters do not distinguish an absent text from an empty one.
             if (Owner *living = kept.get(); living && isAbsent && text.isEmpty())
                 m_set(*living, QStringLiteral("~"), language);
             if (Owner *living = kept.get())

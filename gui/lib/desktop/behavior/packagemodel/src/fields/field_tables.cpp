@@ -32,7 +32,7 @@ struct LanguageOperations {
     void (PackageInfoModel::*insert)(int index, const RobotLanguage &language);
     void (PackageInfoModel::*remove)(const RobotLanguage &language);
     bool (PackageInfoModel::*move)(int from, int to);
-    bool isSupported; // whose removal takes the topics of dialogs along
+    bool isSupported; // its removal drops the topics of dialogs
 };
 
 constexpr LanguageOperations supported{
@@ -51,7 +51,7 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(std::size_t(index)).isoCode(); }
-    /// By code, or else by index.
+    /// Finds by code, else by index.
     int find(const Selectors &selectors) const override {
         const int index = selectors.size() == 1 ? indexOf(fromUtf8(selectors.front().text)) : -1;
         return index < 0 ? indexIn(selectors, size()) : index;
@@ -145,7 +145,7 @@ public:
 
     int size() const override { return static_cast<int>(all().size()); }
     FieldValue at(int index) const override { return all().at(index); }
-    /// Permissions differ, so one may also be selected by its name.
+    /// Permissions are distinct, so they may also be selected by name.
     int find(const Selectors &selectors) const override {
         const int index = indexIn(selectors, size());
         return index < 0 && selectors.size() == 1 && !selectors.front().toIndex()
@@ -269,10 +269,11 @@ Edits LanguageItems::lostWith(int index) const {
                 edits.append({Edit::Action::Set, path, FieldValue(topic)});
         }
     }
-    return edits + gainedWith(at(index)); // a language that comes back is described
+    return edits +
+           gainedWith(at(index)); // a language that is added back becomes a description language
 }
 
-// A supported language becomes a description language too.
+// Adding a supported language also adds it to the description languages.
 Edits LanguageItems::gainedWith(const FieldValue &value) const {
     const QString code = std::get<QString>(value);
     if (!m_operations.isSupported || m_package->hasLanguageDescription(languageOfCode(code)))
@@ -289,7 +290,7 @@ const RequirementOperations<RobotRequirement> &operationsOf<RobotRequirement>();
 template<>
 const RequirementOperations<BrioRequirement> &operationsOf<BrioRequirement>();
 
-// A member of a requirement.
+// A field of a requirement.
 template<typename Requirement, typename Value>
 void addMember(FieldTable<RequirementPlace<Requirement>> &table, const char *name,
                const char *label, Value Requirement::*member) {

@@ -4,8 +4,8 @@
 
 namespace Zel::PackageModel {
 
-/// The fields of a package, in the order of its manifest. The one table that listing, reading and
-/// editing fields is derived from; those of its entries hang below it.
+/// The fields of a package, in manifest order, with those of its entries below. Listing, reading
+/// and editing fields derive from this table.
 const FieldTable<PackageInfoModel> &packageFields();
 
 } // namespace Zel::PackageModel

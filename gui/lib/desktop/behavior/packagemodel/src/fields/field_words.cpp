@@ -38,14 +38,14 @@ QString inWords(const char *source) {
 }
 
 QString misfit() {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value is of another type."));
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The value has the wrong type."));
 }
 
 QString refusalOfText(const QString &text) {
     if (!text.isValidUtf16())
-        return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel",
-                                         "The text holds half of a surrogate pair, which a "
-                                         "manifest cannot hold."));
+        return inWords(QT_TRANSLATE_NOOP(
+            "Zel::PackageModel",
+            "The text contains half of a surrogate pair, which a manifest cannot represent."));
     const auto isControl = [](QChar c) {
         return (c < u' ' && c != u'\t' && c != u'\n' && c != u'\r') || c == QChar(0xFFFE) ||
                c == QChar(0xFFFF);
@@ -53,8 +53,9 @@ QString refusalOfText(const QString &text) {
     const auto found = std::find_if(text.begin(), text.end(), isControl);
     if (found == text.end())
         return {};
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The text holds the character U+%1, "
-                                                          "which a manifest cannot hold."))
+    return inWords(QT_TRANSLATE_NOOP(
+                       "Zel::PackageModel",
+                       "The text contains the character U+%1, which a manifest cannot represent."))
         .arg(QString::number(found->unicode(), 16).toUpper().rightJustified(4, u'0'));
 }
 

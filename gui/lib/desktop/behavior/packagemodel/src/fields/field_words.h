@@ -4,9 +4,9 @@
 
 namespace Zel::PackageModel {
 
-/// The labels of a field: of one value or entry and, for a list, of all.
+/// The labels of a field: for one value or entry and, if it is a list, for all of it.
 struct FieldLabels {
-    // Implicit, since most fields have but one.
+    // Implicit, since most fields have only one label.
     FieldLabels(const char *ofOne, const char *ofAll = nullptr)
         : one(ofOne)
         , all(ofAll) {}
@@ -15,20 +15,21 @@ struct FieldLabels {
     const char *all;
 };
 
-/// Adds the owner of a field to its label: "Nature" becomes "Nature of “greet”".
+/// Adds the owner to a field's label: "Nature" becomes "Nature of “greet”".
 using OfOwner = std::function<QString(const QString &label)>;
 
-/// A text in the language of the application.
+/// Translates a text.
 QString inWords(const char *source);
-/// For a value that is not of the field's kind.
+/// The error for a value of the wrong kind.
 QString misfit();
-/// Why a manifest cannot hold a text; empty if it can.
+/// The reason why a manifest cannot hold a text, empty if it can.
 QString refusalOfText(const QString &text);
 
-/// The name of an entry by its selectors: "greet", or "greet (2)" for the second one with that key.
+/// The name of an entry from its selectors: "greet", or "greet (2)" for the second one with this
+/// key.
 QString entryName(const Selectors &selectors);
 
-/// A field, or an item of it, in words. `form` is how one of several is selected, "[CODE][N]", and
+/// Describes a field or one of its items. `form` shows how an item is selected, "[CODE][N]";
 /// `given` are the selectors of the path.
 QString fieldWords(const FieldLabels &labels, const char *form, const Selectors &given,
                    const OfOwner &of);

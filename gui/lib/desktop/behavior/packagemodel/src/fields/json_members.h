@@ -5,21 +5,21 @@
 
 namespace Zel::PackageModel {
 
-/// Takes the members of a JSON object one by one. The first member at fault is the error; members
-/// that nobody took are unknown.
+/// Takes the members of a JSON object one by one and keeps the first error. Members that were not
+/// taken are unknown.
 class JsonMembers {
 public:
-    /// The object of a document; a document that is not JSON, or of another format than the one
-    /// that this library writes, is an error.
+    /// The object of a document. Sets an error if the document is not JSON or has an unsupported
+    /// format version.
     static JsonMembers ofDocument(const QByteArray &json);
-    /// `place` precedes the names of members in errors.
+    /// Errors prefix member names with `place`.
     JsonMembers(const QJsonObject &object, const QString &place);
 
-    QString error; ///< one sentence that names the member; empty so far
+    QString error; ///< the first error, a sentence that names the member
 
-    /// A member that must exist. QJsonValue::Undefined takes any type.
+    /// Takes a required member. QJsonValue::Undefined accepts any type.
     QJsonValue take(QLatin1String name, QJsonValue::Type type);
-    /// A text that may be absent.
+    /// Takes an optional text.
     QString takeOptionalText(QLatin1String name);
     int takeNumber(QLatin1String name);
     void fail(const QString &name, const QString &reason);
@@ -32,8 +32,8 @@ private:
 
 extern const QLatin1String formatMember;
 
-/// JSON as text. Readers take a U+FEFF at the beginning of a text for a byte order mark, so it is
-/// escaped.
+/// Serializes JSON. Escapes a U+FEFF, which readers would drop at the start of a text as a byte
+/// order mark.
 QByteArray toText(const QJsonObject &object);
 
 } // namespace Zel::PackageModel

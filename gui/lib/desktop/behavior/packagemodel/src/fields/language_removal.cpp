@@ -19,7 +19,7 @@ Edits languageRemoval(const PackageInfoModel *package, const QString &languageCo
         if (isIn(field.path))
             edits.append({Edit::Action::Remove, field.path});
     }
-    // Items from the last to the first, and the languages themselves after what depends on them.
+    // Items go from the last to the first, and languages after what depends on them.
     std::reverse(edits.begin(), edits.end());
     return edits;
 }

@@ -16,7 +16,7 @@ namespace {
 
 using Tano::FieldPath;
 
-// For each name, how many equal ones precede it.
+// For each name, the number of equal ones before it.
 std::vector<int> occurrencesOf(const QStringList &names) {
     std::vector<int> occurrences;
     QHash<QString, int> counts;
@@ -25,7 +25,7 @@ std::vector<int> occurrencesOf(const QStringList &names) {
     return occurrences;
 }
 
-// The same name for each, so that occurrences are indexes.
+// The same name for all items, so that occurrences are indexes.
 QStringList sameNames(int count) {
     QStringList names;
     for (int i = 0; i < count; ++i)
@@ -33,7 +33,7 @@ QStringList sameNames(int count) {
     return names;
 }
 
-// Makes the edits of one list.
+// Builds the edits of one list.
 class ListEdits {
 public:
     ListEdits(const ListDifference &list, Edits &edits)
@@ -94,7 +94,7 @@ void ListEdits::insertAndChange() {
     }
 }
 
-// The keys that several entries have.
+// The keys shared by several entries.
 QSet<QString> ambiguousKeys(const QStringList &keys) {
     QSet<QString> all;
     QSet<QString> ambiguous;
@@ -106,7 +106,7 @@ QSet<QString> ambiguousKeys(const QStringList &keys) {
     return ambiguous;
 }
 
-// The texts that occur once. The edits remove the others, each with all its equals.
+// The texts that occur once; appends edits that remove the others, each with its duplicates.
 QStringList withoutRepeated(const QStringList &texts, const FieldPath &path, Edits &edits) {
     QHash<QString, int> counts;
     for (const QString &text : texts)
@@ -122,7 +122,7 @@ QStringList withoutRepeated(const QStringList &texts, const FieldPath &path, Edi
     return kept;
 }
 
-// A text for each entry.
+// A text per entry.
 template<typename MakeText>
 QStringList textsOf(const EntrySummaries &entries, MakeText makeText) {
     QStringList texts;
@@ -198,7 +198,7 @@ SequenceMatch matchEntries(const EntrySummaries &oldEntries, const EntrySummarie
     match.pairEqual(distinct(oldEntries), distinct(newEntries));
     match.pairEqual(oldEntries.keys, newEntries.keys);
 
-    // No content is empty, so that the entries without one are left out.
+    // An empty text means no content; such entries are left out.
     QSet<QString> taken(oldEntries.keys.begin(), oldEntries.keys.end());
     const auto renamable = textsOf(oldEntries, [&](int i) {
         return match.newIndex(i) == SequenceMatch::none ? contentOf(oldEntries.fields(i))

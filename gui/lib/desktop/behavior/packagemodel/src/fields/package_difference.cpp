@@ -7,7 +7,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// The rows only read the packages that they compare.
+// The rows do not change the packages that they compare.
 PackageInfoModel &readable(const PackageInfoModel &package) {
     return const_cast<PackageInfoModel &>(package);
 }

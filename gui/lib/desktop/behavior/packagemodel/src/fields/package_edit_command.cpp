@@ -7,14 +7,14 @@ namespace {
 
 using PackageModel::Edit;
 
-// Whether the edits are a single new text or version, which may be a part of a typed run.
+// Whether the edits set a single text or version, as typing does.
 bool isTyped(const PackageModel::Edits &edits, Edit::Action action = Edit::Action::Set) {
     return edits.size() == 1 && edits.front().action == action && edits.front().value &&
            (std::holds_alternative<QString>(*edits.front().value) ||
             std::holds_alternative<SoftwareVersion>(*edits.front().value));
 }
 
-// Whether they may begin a typed run, which the insertion of an item may do too.
+// Whether the edits may start a typed run; inserting an item may, too.
 bool beginRun(const PackageModel::Edits &edits) {
     return isTyped(edits) || isTyped(edits, Edit::Action::Insert);
 }
@@ -37,7 +37,7 @@ void PackageEditCommand::undo() {
 }
 
 void PackageEditCommand::redo() {
-    m_inverse.clear(); // so that a step that fails is not undone
+    m_inverse.clear(); // a failed step must not be undone
     step(m_inverse, m_edits);
 }
 
@@ -61,7 +61,7 @@ bool PackageEditCommand::mergeWith(const QUndoCommand *incoming) {
             setObsolete(true);
             return true;
         }
-        // An inverse that restores the whole package stays as it is.
+        // An inverse that restores the whole package needs no update.
         const bool isWhole = m_inverse.front().path.isEmpty();
         if (!isTyped(newer.m_edits) ||
             newer.m_edits.front().path != (isWhole ? m_edits : m_inverse).front().path)

@@ -48,7 +48,7 @@ QString removeRefusal(const FieldTarget &target) {
     if (target.cell && target.cell->remove)
         return target.cell->value
                    ? QString()
-                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is none."));
+                   : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "It does not exist."));
     return target.item < 0 ? notForThis() : QString();
 }
 
@@ -60,7 +60,7 @@ QString moveRefusal(const Edit &edit, const FieldTarget &target) {
                : inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "The list has no such index."));
 }
 
-// Why an edit of what its path leads to changes nothing; empty if it can be applied.
+// The reason why an edit cannot be applied to its target, empty if it can.
 QString refusalOf(PackageInfoModel &package, const Edit &edit, const FieldTarget &target) {
     if (!target.cell && !target.list)
         return reasonOf(package, edit.path);
@@ -77,7 +77,7 @@ QString refusalOf(PackageInfoModel &package, const Edit &edit, const FieldTarget
     return notForThis();
 }
 
-// The following apply an edit that is not refused, and return the edits that undo it.
+// These functions apply a valid edit and return the edits that undo it.
 
 Edits setCell(const Edit &edit, const FieldCell &cell) {
     Edit inverse{Edit::Action::Remove, edit.path};
@@ -140,8 +140,8 @@ Edits change(const Edit &edit, const FieldTarget &target) {
     return {};
 }
 
-// Whether the slots can restore what an edit changes. They write the versions of requirements in
-// their own way, and remove a permission that a manifest repeats as a whole.
+// Whether the slots can restore what an edit changes. They normalize the versions of requirements,
+// and remove all duplicates of a permission at once.
 bool isReversible(const PackageInfoModel &package, const FieldPath &path) {
     if (path.isEmpty())
         return true;
@@ -174,7 +174,7 @@ Applied applyOne(PackageInfoModel &package, const Edit &edit) {
     return {change(edit, target), {}};
 }
 QString noPackage() {
-    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
+    return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to edit."));
 }
 
 } // namespace
@@ -182,7 +182,7 @@ QString noPackage() {
 QString refusal(const PackageInfoModel *package, const Edit &edit) {
     if (!package)
         return noPackage();
-    auto &target = const_cast<PackageInfoModel &>(*package); // it is only looked at
+    auto &target = const_cast<PackageInfoModel &>(*package); // only inspected
     return refusalOf(target, edit, targetOf(target, edit.path));
 }
 
@@ -216,7 +216,7 @@ Applied apply(PackageInfoModel *package, const Edits &edits) {
         }
     }
     if (living)
-        living->syncRecord(); // insertions into the lists of a behavior wait for it
+        living->syncRecord(); // insertions into a behavior's lists are not synchronized yet
     return {inverse, error};
 }
 

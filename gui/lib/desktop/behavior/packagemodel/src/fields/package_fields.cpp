@@ -6,7 +6,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// The rows list and follow fields of a package that is only read here.
+// Rows take a mutable package, but listing and following fields does not change it.
 PackageInfoModel &unconst(const PackageInfoModel &package) {
     return const_cast<PackageInfoModel &>(package);
 }
@@ -16,7 +16,7 @@ PackageInfoModel &unconst(const PackageInfoModel &package) {
 FieldTarget targetOf(PackageInfoModel &package, const Tano::FieldPath &path) {
     if (!path.isEmpty())
         return followIn(packageFields(), package, {path, 0});
-    package.syncRecord(); // insertions into the lists of a behavior wait for it
+    package.syncRecord(); // insertions into a behavior's lists are not synchronized yet
     const auto set = [living = QPointer<PackageInfoModel>(&package)](const FieldValue &value) {
         if (living)
             replacePackage(*living, std::get<Tano::PackageInfo>(value));
@@ -38,9 +38,9 @@ QVector<Field> fields(const PackageInfoModel *package) {
 }
 
 struct FieldWalk::Data {
-    PackageInfoModel *package; // null without one
+    PackageInfoModel *package; // may be null
     std::size_t row = 0;
-    FieldPortions portions = {}; // of the row before
+    FieldPortions portions = {}; // of the previous row
     std::size_t portion = 0;
 };
 
@@ -156,7 +156,7 @@ std::optional<FieldValue> parsedValue(FieldKind kind, const QString &text, QStri
         else
             reason = QCoreApplication::translate(
                 "Zel::PackageModel",
-                "'%1' is not a version: numbers with dots between them, as in 2.1.");
+                "'%1' is not a version, that is, numbers separated by dots as in 2.1.");
     } else {
         reason =
             QCoreApplication::translate("Zel::PackageModel", "'%1' is no entry with its fields.");

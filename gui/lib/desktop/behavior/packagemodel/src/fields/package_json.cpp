@@ -12,7 +12,8 @@ QByteArray indented(const QByteArray &json, int depth) {
     return json.trimmed().replace("\n", lineBreak);
 }
 
-// A value is written as the only item of an array, as JSON documents are arrays or objects.
+// Serializes any value. JSON documents are arrays or objects, so a plain value is written as the
+// only item of an array, without the brackets.
 QByteArray textOf(const QJsonValue &value) {
     if (value.isObject())
         return QJsonDocument(value.toObject()).toJson();
@@ -28,7 +29,7 @@ void writeJson(const PackageInfoModel *package,
                const std::function<void(const QByteArray &)> &write) {
     if (!package)
         return;
-    auto &owner = const_cast<PackageInfoModel &>(*package); // the rows only read it
+    auto &owner = const_cast<PackageInfoModel &>(*package); // the rows do not change it
     write("{\n    \"format\": " + QByteArray::number(jsonFormat));
     for (const auto &row : packageFields()) {
         write(",\n    \"" + QByteArray(row->name()) + "\": ");

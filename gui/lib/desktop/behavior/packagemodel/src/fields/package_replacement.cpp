@@ -24,7 +24,7 @@ void adoptRecords(ChildList<Child> &list,
 void replacePackage(PackageInfoModel &package, const Tano::PackageInfo &record) {
     const QPointer<PackageInfoModel> living(&package);
     PackageInfoModel target(record);
-    // A new model describes the package in every supported language.
+    // A new model uses every supported language for descriptions.
     for (const RobotLanguage &language : RobotLanguages(target.descriptionLanguages())) {
         const auto &codes = record.descriptionLanguages();
         if (std::find(codes.begin(), codes.end(), toUtf8(language.isoCode())) == codes.end())

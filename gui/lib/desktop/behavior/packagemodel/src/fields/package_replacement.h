@@ -4,8 +4,8 @@
 
 namespace Zel::PackageModel {
 
-/// Makes a package equal to a record: what differs is edited through the slots, then comments,
-/// unknown content and the spelling of versions follow without notification.
+/// Makes a package equal to a record: edits differing fields through the slots, then copies
+/// comments, unknown content and the spelling of versions without notification.
 void replacePackage(PackageInfoModel &package, const Tano::PackageInfo &record);
 
 } // namespace Zel::PackageModel

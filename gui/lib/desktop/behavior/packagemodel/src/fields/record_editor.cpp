@@ -21,13 +21,13 @@ struct RecordEditor::Data {
         , isCompleted(package.packageInfo().descriptionLanguages() !=
                       record.descriptionLanguages()) {}
 
-    // What a whole package may change.
+    // State that an edit of the whole package may change.
     struct Before {
         std::string version;
         std::vector<std::string> descriptionLanguages;
     };
 
-    // Notes what an edit asks for. A whole package asks for what it has more than before.
+    // Records what an edit requests. An edit of the whole package requests what it adds.
     void note(const PackageModel::Edit &edit, const Before &before) {
         const auto *whole = edit.value ? std::get_if<Tano::PackageInfo>(&*edit.value) : nullptr;
         if (whole) {
@@ -44,7 +44,7 @@ struct RecordEditor::Data {
         if (step.field != "descriptionLanguages")
             return;
         if (edit.action == PackageModel::Edit::Action::Move)
-            isCompleted = false; // the order of all is asked for
+            isCompleted = false; // the order of all is given explicitly
         if (!step.selectors.empty())
             editedLanguages.insert(step.selectors.front().text);
         else if (const auto *code = edit.value ? std::get_if<QString>(&*edit.value) : nullptr)
@@ -53,9 +53,9 @@ struct RecordEditor::Data {
 
     Tano::PackageInfo written;
     PackageInfoModel package;
-    bool isCompleted; // the model has added description languages
+    bool isCompleted; // whether the model added description languages
     bool editsVersion = false;
-    std::set<std::string> editedLanguages; // the description languages that edits concern
+    std::set<std::string> editedLanguages; // description languages that edits refer to
 };
 
 RecordEditor::RecordEditor(const Tano::PackageInfo &record)
@@ -69,7 +69,7 @@ PackageInfoModel *RecordEditor::package() const {
 }
 
 PackageModel::Applied RecordEditor::apply(const PackageModel::Edits &edits) {
-    // Not the record itself, which the first edit would have to copy then.
+    // Not a copy of the record, which the first edit would then have to detach.
     const Tano::PackageInfo &record = m_data->package.packageInfo();
     const Data::Before before{record.version(), record.descriptionLanguages()};
     PackageModel::Applied applied = PackageModel::apply(&m_data->package, edits);

@@ -54,7 +54,7 @@ bool hasOddVersions(const Tano::PackageInfo &record) {
     });
 }
 
-// The requirement with the values of another, except those of one field.
+// `record` with all but one field taken from `others`.
 template<typename Requirement, typename Record>
 Record withOthers(Record record, const Record &others, const std::string &field) {
     for (const auto &[name, member] : SpellingKind<Requirement>::fields) {
@@ -64,7 +64,7 @@ Record withOthers(Record record, const Record &others, const std::string &field)
     return record;
 }
 
-// Makes the change of an edit in the requirements as they were written.
+// Repeats an edit in the requirements as originally written.
 template<typename Requirement, typename Records>
 void follow(const Edit &edit, const Records &after, Records &spelled) {
     const auto &steps = edit.path.steps();

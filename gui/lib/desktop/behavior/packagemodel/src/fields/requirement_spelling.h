@@ -4,12 +4,12 @@
 
 namespace Zel::PackageModel {
 
-/// Whether an edit leads into a list of requirements with versions that a model writes in another
-/// way: "1,2" or "x", for which it has no version, or "01".
+/// Whether an edit leads into a list of requirements whose versions a model writes differently:
+/// "1,2" or "x", which it treats as no version, or "01".
 bool hasOddVersions(const Tano::PackageInfo &record, const Tano::FieldPath &path);
 
-/// Gives the versions of requirements that an edit did not concern the spelling of `before` back,
-/// after the slots have written the requirements as a whole.
+/// Restores the spelling of versions that an edit did not concern, after the slots have rewritten
+/// all requirements.
 void restoreSpelling(PackageInfoModel &package, const Edit &edit, const Tano::PackageInfo &before);
 
 } // namespace Zel::PackageModel

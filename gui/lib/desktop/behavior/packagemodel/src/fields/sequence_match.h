@@ -6,8 +6,7 @@
 
 namespace Zel::PackageModel {
 
-/// Which items of an old sequence continue as which items of a new one. An item has at most one
-/// partner.
+/// Pairs items of an old sequence with items of a new one. An item has at most one partner.
 class SequenceMatch {
 public:
     static constexpr int none = -1;
@@ -16,15 +15,15 @@ public:
 
     int oldSize() const { return static_cast<int>(m_newIndexes.size()); }
     int newSize() const { return static_cast<int>(m_oldIndexes.size()); }
-    /// The new index of an old item; `none` without a partner.
+    /// The new index of an old item, or `none`.
     int newIndex(int oldIndex) const { return m_newIndexes[std::size_t(oldIndex)]; }
     int oldIndex(int newIndex) const { return m_oldIndexes[std::size_t(newIndex)]; }
 
-    /// Pairs two items, which are free.
+    /// Pairs two unpaired items.
     void pair(int oldIndex, int newIndex);
-    /// Pairs free items with equal texts: first from both ends on, then in order.
+    /// Pairs unpaired items with equal texts: from both ends, then in order.
     void pairEqual(const QStringList &oldTexts, const QStringList &newTexts);
-    /// Pairs free items whose predecessors are a pair, or which both come first.
+    /// Pairs unpaired items whose predecessors are paired, or which both come first.
     void pairReplaced();
 
 private:

@@ -9,7 +9,7 @@
 namespace Zel::PackageModel {
 namespace {
 
-// Counts the items at places in a row: a Fenwick tree.
+// Counts the items at consecutive places, as a Fenwick tree.
 class PlaceCounts {
 public:
     explicit PlaceCounts(int placeCount)
@@ -31,9 +31,9 @@ private:
     QHash<int, int> m_sums; // sparse, since there is one object per name
 };
 
-// Which elements belong to a longest increasing subsequence of different numbers.
+// Marks the elements of a longest increasing subsequence of distinct numbers.
 std::vector<bool> longestRun(const std::vector<int> &numbers) {
-    std::vector<int> ends; // of the runs of each length: the position of the lowest last number
+    std::vector<int> ends; // for each length, the position of the lowest last number
     std::vector<int> previous(numbers.size(), -1);
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         const auto end =
@@ -64,8 +64,8 @@ std::vector<int> pairedInOldOrder(const SequenceMatch &match) {
 
 } // namespace
 
-// The place i + 1 is where the old item i is; the place 0 precedes all. An item that moves goes to
-// the place of the last item before it that stays, behind those that went there already.
+// Place i + 1 is that of old item i; place 0 precedes all. A moved item goes to the place of the
+// last unmoved item before it, behind those that were moved there earlier.
 std::vector<SequenceMove> movesOf(const SequenceMatch &match, const QStringList &names) {
     const std::vector<int> items = pairedInOldOrder(match);
     std::vector<SequenceMove> moves;
@@ -83,7 +83,7 @@ std::vector<SequenceMove> movesOf(const SequenceMatch &match, const QStringList 
     for (int place = 1; place < placeCount; ++place)
         count(itemAt(place), place, 1);
 
-    std::vector<int> places(items.size()); // in the new order of their items
+    std::vector<int> places(items.size()); // in the items' new order
     std::iota(places.begin(), places.end(), 1);
     std::sort(places.begin(), places.end(), [&](int a, int b) { return itemAt(a) < itemAt(b); });
     const std::vector<bool> stays = longestRun(items);

@@ -4,14 +4,14 @@
 
 namespace Zel::PackageModel {
 
-/// The move of one item. The indexes hold when all earlier moves are done.
+/// The move of one item. Its indexes assume that all earlier moves are done.
 struct SequenceMove {
     int item;       ///< its index in the new sequence
-    int occurrence; ///< how many items with its name precede it
+    int occurrence; ///< the number of items with its name before it
     int to;         ///< its index after the move
 };
 
-/// The fewest moves that bring the paired items into their new order, as if there were no others.
+/// A minimal list of moves that brings the paired items into their new order, ignoring all others.
 /// `names` are those of the new items.
 std::vector<SequenceMove> movesOf(const SequenceMatch &match, const QStringList &names);
 

@@ -66,7 +66,7 @@ ListMatches EntryMerge::matchesOf(const Sides<EntrySummaries> &entries) {
     return matches;
 }
 
-// Theirs renames an entry unless ours has renamed it, too, or uses the new key for another one.
+// Their rename applies unless ours also renamed the entry or uses the new key for another one.
 QString EntryMerge::mergedKey(const MergedItem &item) const {
     if (!item.isIn(&MergedItem::ours))
         return theirsKey(item);
@@ -96,7 +96,7 @@ std::vector<FieldPath> pathsOf(const FieldPath &list, const QStringList &keys) {
     return paths;
 }
 
-// The entries of theirs that have another path.
+// Records which entries of theirs have another path in the merged package.
 void EntryMerge::notePlaces(const QStringList &keys) {
     const auto inTheirs = pathsOf(m_path, m_entries.theirs.keys);
     const auto merged = pathsOf(m_path, keys);
@@ -129,7 +129,7 @@ void EntryMerge::run() {
     reportEqualKeys(keys);
 }
 
-// Merges an entry that ours has.
+// Merges an entry that ours still has.
 void EntryMerge::mergeEntry(const MergedItem &item, int index, const FieldPath &path) {
     const bool isOld = item.isIn(&MergedItem::base);
     if (!item.isIn(&MergedItem::theirs)) {
@@ -154,7 +154,7 @@ void EntryMerge::mergeKey(const MergedItem &item, const FieldPath &path) {
                             {baseKey(item), oursKey(item), theirs});
 }
 
-// Whether ours has left an entry unchanged.
+// Whether ours left an entry unchanged, so that theirs can replace it.
 bool EntryMerge::canAdopt(const MergedItem &item) const {
     return item.isIn(&MergedItem::base) &&
            m_records.ours.at(item.ours) == m_records.base.at(item.base) &&
@@ -174,7 +174,7 @@ void EntryMerge::mergeContent(const MergedItem &item, const FieldPath &path) {
                 path, m_merge);
 }
 
-// What ours removed and theirs changed.
+// Reports entries that ours removed and theirs changed.
 void EntryMerge::reportRemoved() {
     for (int i = 0; i < m_records.base.size(); ++i) {
         const MergedItem item{i, m_matches.ours.newIndex(i), m_matches.theirs.newIndex(i)};
@@ -185,7 +185,7 @@ void EntryMerge::reportRemoved() {
     }
 }
 
-// Keys that the sides gave to different entries, one of them by renaming.
+// Reports keys that the sides gave to different entries, one of them by renaming.
 void EntryMerge::reportEqualKeys(const QStringList &keys) {
     QHash<QString, int> counts;
     for (const QString &key : keys)

@@ -6,7 +6,7 @@
 
 namespace Zel::PackageModel {
 
-/// Merges the behaviors, dialogs or services of three packages, which are only read.
+/// Merges the behaviors, dialogs or services of three packages, which are not changed.
 void mergeEntries(const FieldRow<PackageInfoModel> &row, const Sides<PackageInfoModel *> &packages,
                   FieldMerge &merge);
 

@@ -15,7 +15,7 @@ namespace {
 using Tano::FieldPath;
 using Values = Sides<QJsonValue>;
 
-// An entry without the members that are empty.
+// An entry without its empty members.
 QString filledContentOf(QJsonObject entry) {
     for (auto member = entry.begin(); member != entry.end();) {
         const bool isEmpty = *member == QJsonValue(QString()) ||
@@ -26,7 +26,7 @@ QString filledContentOf(QJsonObject entry) {
     return contentOf(entry);
 }
 
-// A value as a conflict shows it; null for none.
+// A value as shown in a conflict; null if there is none.
 QString shownText(const QJsonValue &value) {
     if (value.isString())
         return value.toString().isEmpty() ? QStringLiteral("") : value.toString();
@@ -35,7 +35,7 @@ QString shownText(const QJsonValue &value) {
     return value.isObject() ? filledContentOf(value.toObject()) : QString();
 }
 
-// What only equal items of a list share.
+// A text that only equal items share.
 QString textOf(const QJsonValue &item) {
     return item.isObject() ? contentOf(item.toObject()) : item.toString();
 }
@@ -47,7 +47,7 @@ QStringList textsOf(const QJsonArray &items) {
     return texts;
 }
 
-// The items of a list on three sides.
+// The values of an item on the three sides.
 Values valuesOf(const Sides<QJsonArray> &lists, const MergedItem &item) {
     const auto value = [](const QJsonArray &items, int index) {
         return index == SequenceMatch::none ? QJsonValue(QJsonValue::Undefined) : items.at(index);
@@ -56,7 +56,7 @@ Values valuesOf(const Sides<QJsonArray> &lists, const MergedItem &item) {
             value(lists.theirs, item.theirs)};
 }
 
-// Whether a list has each item only once: then a text is known by itself, not by its place.
+// Whether a list has no duplicates, so that its texts are identified by value instead of index.
 bool isSet(const FieldPath &path) {
     return path.steps().back().field == "permissions";
 }
@@ -87,10 +87,10 @@ void mergeCell(const Values &values, const FieldPath &path, FieldMerge &merge) {
             {Edit::Action::Set, path, valueFromJson(formOf(path)->kind, values.theirs)});
 }
 
-// Merges an item that ours has.
+// Merges an item that ours still has.
 void mergeItem(const Values &values, const FieldPath &path, FieldMerge &merge) {
     if (values.theirs.isUndefined() && values.base.isUndefined())
-        return; // ours added it
+        return; // added by ours
     if (values.theirs.isUndefined())
         merge.addConflict(path, values);
     else if (values.ours.isObject())
@@ -99,7 +99,7 @@ void mergeItem(const Values &values, const FieldPath &path, FieldMerge &merge) {
         mergeCell(values, path, merge);
 }
 
-// The items of theirs that have another index.
+// Records which items of theirs have another index in the merged list.
 void notePlaces(const std::vector<MergedItem> &items, const FieldPath &path, FieldMerge &merge) {
     for (int i = 0; i < int(items.size()); ++i) {
         const int inTheirs = items[std::size_t(i)].theirs;
@@ -108,7 +108,7 @@ void notePlaces(const std::vector<MergedItem> &items, const FieldPath &path, Fie
     }
 }
 
-// What ours removed and theirs changed.
+// Reports items that ours removed and theirs changed.
 void reportRemoved(const Sides<QJsonArray> &lists, const ListMatches &matches,
                    const FieldPath &path, FieldMerge &merge) {
     for (int i = 0; i < lists.base.size(); ++i) {
@@ -146,7 +146,7 @@ void mergeSet(const Sides<QJsonArray> &lists, const FieldPath &path, FieldMerge 
         appendTextSetEdits(texts.ours, merged, path, merge.edits);
 }
 
-// Texts by language that a manifest does not hold if they are empty.
+// Texts by language that a manifest omits if they are empty.
 constexpr const char *optionalTexts[]{"names", "descriptions"};
 
 bool hasEmptyText(const QJsonObject &texts) {

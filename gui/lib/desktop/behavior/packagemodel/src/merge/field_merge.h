@@ -13,34 +13,34 @@
 
 namespace Zel::PackageModel {
 
-/// What a merge makes of the fields that it has compared.
+/// The result of merging fields.
 struct FieldMerge {
-    /// An entry of the merged package that is that of theirs, comments and unknown content
-    /// included.
+    /// An entry adopted from theirs, including comments and unknown content.
     struct Adopted {
         int index; ///< in the merged list
         FieldValue record;
     };
 
-    Edits edits; ///< of ours
+    Edits edits; ///< to apply to ours
     QVector<MergeConflict> conflicts;
-    std::vector<Adopted> adopted = {}; ///< to be put in place when the edits are done
-    /// The items of theirs that have another place, by their paths in a merged parent.
+    std::vector<Adopted> adopted = {}; ///< to copy after the edits
+    /// The merged paths of items whose position differs from theirs, by their path in a merged
+    /// parent.
     std::map<Tano::FieldPath, Tano::FieldPath> places = {};
 
     void addConflict(const Tano::FieldPath &path, const Sides<QJsonValue> &values);
-    /// The path in the merged package of what has that path in theirs.
+    /// The merged path of what has the given path in theirs.
     Tano::FieldPath placeOf(const Tano::FieldPath &pathInTheirs) const;
 };
 
-/// The fields of an entry as a manifest holds them: an empty name or description is none.
+/// The fields of an entry as a manifest holds them: without empty names and descriptions.
 QJsonObject savedFields(QJsonObject owner);
 
-/// Merges a field. A text or a flag is a cell, an object holds cells or lists by key, and an array
-/// is a list of texts or requirements; an absent value is undefined.
+/// Merges a field. Texts and flags are cells, objects hold cells or lists by key, arrays are lists
+/// of texts or requirements; an absent value is undefined.
 void mergeValue(const Sides<QJsonValue> &values, const Tano::FieldPath &path, FieldMerge &merge);
 
-/// Merges the fields of an entry, which are the members of the objects.
+/// Merges the fields of an entry, given as members of objects.
 void mergeFields(const Sides<QJsonObject> &owners, const Tano::FieldPath &path, FieldMerge &merge);
 
 } // namespace Zel::PackageModel

@@ -20,8 +20,8 @@ using Tano::KeptNode;
 using Tano::PackageInfo;
 using Tano::UnknownNode;
 
-// How many comments with a text each side has. Comments are known by their texts alone, since what
-// comes behind one changes with the fields.
+// How often each comment occurs. Comments are identified by text alone, since what follows them
+// changes with the fields.
 using Counts = std::map<std::string, int>;
 
 Counts countsOf(const std::vector<KeptComment> &comments) {
@@ -31,7 +31,7 @@ Counts countsOf(const std::vector<KeptComment> &comments) {
     return counts;
 }
 
-// How many more comments with a text there have to be, or fewer if the number is negative.
+// How many more comments of each text are needed; negative if fewer.
 Counts missingOf(const Sides<std::vector<KeptComment>> &comments,
                  const std::vector<KeptComment> &merged) {
     const Sides<Counts> counts = mapped(comments, countsOf);
@@ -89,7 +89,7 @@ void mergeComments(const Sides<PackageInfo> &records, const FieldMerge &merge,
         merged = Tano::withComments(merged, added);
 }
 
-// The elements or attributes of one name in one element: what an author means by a node.
+// Unknown elements or attributes with one name in one element, which an author sees as a unit.
 using NodeGroup = std::tuple<FieldPath, std::string, std::string, UnknownNode::Kind, std::string>;
 using NodesByGroup = std::map<NodeGroup, std::vector<KeptNode>>;
 
@@ -100,7 +100,7 @@ NodesByGroup groupsOf(const std::vector<KeptNode> &nodes) {
     return groups;
 }
 
-// The nodes of a list that another one lacks, by their XML.
+// The nodes that the other list lacks, compared by their XML.
 std::vector<KeptNode> without(std::vector<KeptNode> nodes, const std::vector<KeptNode> &others) {
     for (const KeptNode &other : others) {
         const auto same = std::find_if(nodes.begin(), nodes.end(),
@@ -113,19 +113,19 @@ std::vector<KeptNode> without(std::vector<KeptNode> nodes, const std::vector<Kep
 
 constexpr std::string_view declarationStart = "xmlns:";
 
-// Whether a node is an attribute that declares a prefix.
+// Whether a node is a namespace declaration.
 bool isDeclaration(const KeptNode &node) {
     return node.name.compare(0, declarationStart.size(), declarationStart) == 0;
 }
 
-// Whether a node may use a prefix, judged by its text.
+// Whether a node may use a prefix, judged from its text.
 bool mayUse(const KeptNode &node, const std::string &prefix) {
     return node.xml.find('<' + prefix + ':') != std::string::npos ||
            node.xml.find(' ' + prefix + ':') != std::string::npos;
 }
 
-// What theirs changed in the unknown elements and attributes of a group. What it only removed
-// stays, since its whole parent may be gone.
+// Merges their changes to a group of unknown elements and attributes. What theirs only removed is
+// kept, since its whole parent may be gone.
 class NodeMerge {
 public:
     NodeMerge(const PackageInfo &base, const PackageInfo &merged, FieldMerge &merge)
@@ -157,8 +157,8 @@ public:
     }
 
 private:
-    // A new node takes the place of one that theirs has no more. Returns false if ours has changed
-    // that one, or has another attribute of the name.
+    // Lets a new node replace one that theirs no longer has. Returns false if ours has changed that
+    // one, or has another attribute of the same name.
     bool addNode(const KeptNode &node, const std::vector<KeptNode> &present,
                  std::vector<KeptNode> &gone) {
         const bool usesOtherNamespace =
@@ -193,7 +193,7 @@ private:
     NodesByGroup m_base;
     NodesByGroup m_merged;
     FieldMerge &m_merge;
-    std::vector<std::string> m_otherPrefixes; // that theirs declares for another namespace
+    std::vector<std::string> m_otherPrefixes; // bound to another namespace in theirs
     std::vector<KeptNode> m_removed;
     std::vector<KeptNode> m_added;
 };
@@ -212,7 +212,7 @@ void mergeNodes(const Sides<PackageInfo> &records, FieldMerge &merge, PackageInf
     nodes.finish(merged);
 }
 
-// A text in quotation marks, at most so long that a comment can hold two.
+// Quotes a text, shortened so that a comment can hold two.
 std::string quoted(const QString &text) {
     constexpr int mostCharacters = 50000;
     if (text.isNull())

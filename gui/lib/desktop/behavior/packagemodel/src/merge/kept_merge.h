@@ -4,8 +4,8 @@
 
 namespace Zel::PackageModel {
 
-/// Adds to and removes from the merged record the comments that theirs added and removed, and the
-/// elements and attributes beyond the format that theirs added or changed.
+/// Applies their added and removed comments, and their added or changed elements and attributes
+/// beyond the format, to the merged record.
 void mergeKeptContent(const Sides<Tano::PackageInfo> &records, FieldMerge &merge,
                       Tano::PackageInfo &merged);
 

@@ -19,7 +19,7 @@ SequenceMatch matchFrom(const QStringList &base, const QStringList &side, ItemId
     return match;
 }
 
-// Which items of a side it has moved.
+// Which items a side has moved.
 std::vector<bool> movedItems(const SequenceMatch &match) {
     QStringList names;
     for (int i = 0; i < match.newSize(); ++i)
@@ -30,8 +30,8 @@ std::vector<bool> movedItems(const SequenceMatch &match) {
     return moved;
 }
 
-// Makes the merged list: the order of ours, into which the items that theirs added or moved go
-// behind those that precede them in theirs.
+// Builds the merged order: that of ours, in which items that theirs added or moved follow their
+// predecessors in theirs.
 class MergedOrder {
 public:
     MergedOrder(const ListMatches &matches, const std::function<bool(const MergedItem &)> &stays)
@@ -77,13 +77,13 @@ private:
                 m_order.push_back(item);
         }
     }
-    // Whether both sides have an item in its place among the others.
+    // Whether neither side moved an item.
     bool isFixed(const MergedItem &item) const {
         return item.isIn(&MergedItem::ours) && item.isIn(&MergedItem::theirs) &&
                !m_movedByOurs[std::size_t(item.ours)];
     }
     void placeTheirs() {
-        int previous = none; // the last item that is fixed
+        int previous = none; // the last fixed item
         for (int i = 0; i < m_matches.theirs.newSize(); ++i) {
             const MergedItem item = itemOfTheirs(i);
             if (isPlacedByTheirs(item))
@@ -92,7 +92,7 @@ private:
                 previous = i;
         }
     }
-    // Items that only ours has precede those of theirs in the same place.
+    // Items only in ours precede items of theirs at the same position.
     std::vector<MergedItem> join() {
         std::vector<MergedItem> joined;
         const auto append = [&](const std::vector<MergedItem> &items) {
@@ -113,14 +113,14 @@ private:
     std::vector<bool> m_movedByOurs;
     std::vector<bool> m_movedByTheirs;
     std::vector<MergedItem> m_order;
-    QHash<int, std::vector<MergedItem>> m_behind; // by the index of an item of theirs
+    QHash<int, std::vector<MergedItem>> m_behind; // by index in theirs
 };
 
 } // namespace
 
 void matchAdded(ListMatches &matches, const QStringList &oursTexts,
                 const QStringList &theirsTexts) {
-    QHash<QString, std::vector<int>> free; // by text, the indexes of ours in descending order
+    QHash<QString, std::vector<int>> free; // by text, indexes in ours in descending order
     for (int i = int(oursTexts.size()) - 1; i >= 0; --i) {
         if (matches.ours.oldIndex(i) == none)
             free[oursTexts.at(i)].push_back(i);

@@ -9,7 +9,7 @@
 
 namespace Zel::PackageModel {
 
-/// The same thing of the three versions of a package that a merge compares.
+/// A value for each of the three packages in a merge.
 template<typename T>
 struct Sides {
     T base;
@@ -17,31 +17,31 @@ struct Sides {
     T theirs;
 };
 
-/// The function's result for each side.
+/// Applies the function to each side.
 template<typename T, typename Function>
 auto mapped(const Sides<T> &sides, Function function) -> Sides<decltype(function(sides.base))> {
     return {function(sides.base), function(sides.ours), function(sides.theirs)};
 }
 
-/// Which items of the lists of three sides are the same.
+/// Which items of the three lists correspond.
 struct ListMatches {
-    SequenceMatch ours;   ///< from those of the base
-    SequenceMatch theirs; ///< from those of the base
-    SequenceMatch added;  ///< from ours to theirs: what both sides added
+    SequenceMatch ours;   ///< from base to ours
+    SequenceMatch theirs; ///< from base to theirs
+    SequenceMatch added;  ///< from ours to theirs: items added by both
 };
 
-/// How items of texts are the same.
+/// How items are matched.
 enum class ItemIdentity {
-    Text, ///< by their text alone
-    Place ///< also where another text replaces them in their place
+    Text, ///< equal text only
+    Place ///< equal text, or a replacement at the same position
 };
 
 ListMatches matchTexts(const Sides<QStringList> &texts, ItemIdentity identity);
 
-/// Pairs what both sides added and has the same text on both.
+/// Pairs items that both sides added with the same text.
 void matchAdded(ListMatches &matches, const QStringList &oursTexts, const QStringList &theirsTexts);
 
-/// An item of a merged list, by its indexes on the sides that have it.
+/// An item of a merged list, by its index on each side that has it.
 struct MergedItem {
     int base = SequenceMatch::none;
     int ours = SequenceMatch::none;
@@ -50,15 +50,14 @@ struct MergedItem {
     bool isIn(int MergedItem::*side) const { return this->*side != SequenceMatch::none; }
 };
 
-/// The items of the merged list in order. An item that only theirs removed stays if `stays` says
-/// so.
+/// The merged items in order. `stays` decides whether an item that only theirs removed is kept.
 std::vector<MergedItem> mergedItems(const ListMatches &matches,
                                     const std::function<bool(const MergedItem &)> &stays);
 
-/// Which of the items of ours continue as which merged ones.
+/// Pairs the items of ours with merged ones.
 SequenceMatch matchOfOurs(const std::vector<MergedItem> &items, int oursSize);
 
-/// The merged list of texts that are what identifies them.
+/// The merged list of texts that identify themselves.
 QStringList mergedTexts(const Sides<QStringList> &texts);
 
 } // namespace Zel::PackageModel

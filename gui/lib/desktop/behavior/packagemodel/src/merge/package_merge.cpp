@@ -14,8 +14,8 @@ namespace {
 
 using Tano::PackageInfo;
 
-// A list of languages of a record. Editing it changes nothing else, unlike in a model, which
-// describes each supported language and drops the topics of others.
+// A list of languages in a record. Unlike in a model, editing it has no side effects on description
+// languages and topics.
 struct LanguageList {
     const std::vector<std::string> &(PackageInfo::*all)() const;
     void (PackageInfo::*insert)(int index, const std::string &code);
@@ -68,7 +68,7 @@ void adopt(const FieldMerge::Adopted &adopted, PackageInfo &record) {
         record.replaceService(adopted.index, *service);
 }
 
-// Merges all fields but the lists of languages.
+// Merges all fields except the lists of languages.
 FieldMerge mergePackages(const Sides<PackageInfoModel *> &packages) {
     FieldMerge merge;
     for (const auto &row : packageFields()) {

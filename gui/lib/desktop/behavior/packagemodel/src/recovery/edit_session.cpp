@@ -25,7 +25,7 @@ const QLatin1String lockSuffix(".lock");
 QString idOf(const QString &fileName) {
     if (fileName.isEmpty())
         return QStringLiteral("new-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const QFileInfo file(fileName); // which several links may name
+    const QFileInfo file(fileName); // may be reachable through several links
     const QString path = file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
     return QString::fromLatin1(manifestDigest(path.toUtf8()));
 }
@@ -35,7 +35,7 @@ void makePrivateFolder(const QString &folder) {
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-// A save preserves the mode of the file that it replaces.
+// Saving preserves the mode of the replaced file, so it is created private first.
 void makePrivateFile(const QString &fileName) {
     QFile file(fileName);
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
@@ -50,7 +50,7 @@ std::optional<UnsavedEdits> readUnsavedEdits(const QString &fileName) {
     if (parsed.error.isEmpty())
         return parsed.unsaved;
     Tano::log::write(logCategory, Tano::log::Level::Warning, "leftover",
-                     QStringLiteral("%1 is not read: %2").arg(fileName, parsed.error));
+                     QStringLiteral("Ignoring %1: %2").arg(fileName, parsed.error));
     return {};
 }
 
@@ -61,11 +61,11 @@ struct EditSession::Data {
         : base(QDir(folder).filePath(id))
         , lock(base + lockSuffix) {
         makePrivateFolder(folder);
-        lock.setStaleLockTime(0); // however long it takes, only the end of the process ends it
+        lock.setStaleLockTime(0); // only the end of the process makes it stale
         lock.tryLock(0);
     }
     QString editsFile() const { return base + editsSuffix; }
-    // Without a lock because the folder cannot be written, there is no one else either.
+    // If the folder is not writable, nobody else can lock it either.
     bool isOurs() const { return lock.isLocked() || lock.error() != QLockFile::LockFailedError; }
 
     QString base;
@@ -131,7 +131,7 @@ QVector<Leftover> leftovers(const QString &folder) {
     }
     const QStringList locks = idsOf(lockSuffix);
     for (const QString &id : locks)
-        EditSession::ofLeftover(folder, id); // removes the lock of a process that was killed
+        EditSession::ofLeftover(folder, id); // removes the lock of a killed process
     std::stable_sort(found.begin(), found.end(), [](const Leftover &a, const Leftover &b) {
         return a.unsaved.time > b.unsaved.time;
     });

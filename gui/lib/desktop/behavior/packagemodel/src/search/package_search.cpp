@@ -11,7 +11,7 @@ bool isSearched(const Field &field) {
     return field.kind == FieldKind::Text || field.kind == FieldKind::Version;
 }
 
-// What a match becomes: the captured texts are those that the match has in its field.
+// Expands the replacement of a match, using the text captured in its field.
 QString expanded(const TextMatch &match, const QRegularExpression &pattern, const QString &by,
                  const SearchOptions &options) {
     if (!options.isRegularExpression)
@@ -67,7 +67,7 @@ Replacement replaced(const PackageInfoModel *package, const TextMatches &matches
                      const SearchOptions &options) {
     Replacement result;
     Edits renames;
-    std::set<QPair<std::string, QString>> newNames; // with the lists that they are in
+    std::set<QPair<std::string, QString>> newNames; // together with their lists
     for (auto first = matches.begin(); first != matches.end();) {
         const auto last = std::find_if(
             first, matches.end(), [&](const TextMatch &each) { return each.path != first->path; });
@@ -92,7 +92,7 @@ Replacement replaced(const PackageInfoModel *package, const TextMatches &matches
         }
         first = last;
     }
-    // Of entries with one name, the second one's path changes with the first one's name.
+    // Renaming an entry shifts the paths of later ones with the same name, so start at the last.
     std::reverse(renames.begin(), renames.end());
     result.edits += renames;
     return result;

@@ -45,7 +45,7 @@ bool hasTarget(const TextUnit &unit) {
     return !unit.target.isEmpty() && !(unit.isUntranslated && unit.target == unit.source);
 }
 
-// Makes the edits for units, each on the result of those before it.
+// Creates the edits for units, each based on the result of the previous ones.
 class TextImporter {
 public:
     TextImporter(const PackageInfoModel &package, const QVector<TextUnit> &units, bool force)
@@ -78,15 +78,15 @@ private:
     const bool m_force;
     QHash<QString, QString> m_codes; // by language tag
     std::vector<std::optional<TextPlace>> m_places;
-    std::vector<QString> m_fields;       // the paths of the units
-    QHash<QString, int> m_last;          // the last unit with a target, by field
-    QHash<QString, QStringList> m_texts; // by field, with the edits
+    std::vector<QString> m_fields;       // of the units
+    QHash<QString, int> m_last;          // by field, the last unit with a target
+    QHash<QString, QStringList> m_texts; // by field, with the edits applied
     QSet<QString> m_described;
     Edits m_languages;
     Edits m_edits;
 };
 
-// A list grows from its start, whatever the order of its units.
+// Lists grow from their start, whatever the order of the units.
 std::vector<int> TextImporter::inOrder() const {
     std::vector<int> order(std::size_t(m_units.size()));
     std::iota(order.begin(), order.end(), 0);
@@ -185,7 +185,7 @@ TextImport importTo(const PackageInfoModel *package, const QVector<TextUnit> &un
     if (!package) {
         TextImport nothing;
         nothing.error =
-            inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to be edited."));
+            inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "There is no package to edit."));
         return nothing;
     }
     TextImport result = TextImporter(*package, units, options.force).result();

@@ -29,7 +29,7 @@ QStringList listed(const BehaviorInfoModel &behavior, const RobotLanguage &langu
 using P = PackageInfoModel;
 using B = BehaviorInfoModel;
 
-// How a kind reads the texts of an owner.
+// Reads the texts of a kind from an owner.
 template<typename Owner>
 using Texts = QStringList (*TextKind::*)(const Owner &owner, const RobotLanguage &language);
 
@@ -52,7 +52,7 @@ void appendTexts(const Owner &owner, Texts<Owner> textsOf, const Tano::FieldPath
     }
 }
 
-// One behavior: [PATH], or [PATH][N] for one of several with that path.
+// Whether a step selects one behavior: [PATH], or [PATH][N] for one of several with this path.
 bool isBehavior(const Tano::FieldPath::Step &step) {
     const auto &selectors = step.selectors;
     return step.field == "behaviors" && !selectors.empty() && !selectors.front().appends &&

@@ -13,11 +13,12 @@ namespace Zel::PackageModel {
 namespace {
 
 constexpr int maxSize = 256 << 20;
-constexpr int maxTag = 64 << 10; // QXmlStreamReader compares each attribute with all others
+constexpr int maxTag =
+    64 << 10; // QXmlStreamReader compares each attribute with all others, in quadratic time
 constexpr int maxDepth = 64;
 constexpr int maxAttributes = 64;
 
-// The elements that XLIFF has within others.
+// The child elements that XLIFF allows, by parent.
 constexpr const char *inXliff[]{"file"};
 constexpr const char *inFile[]{"header", "body"};
 constexpr const char *inBody[]{"group",         "trans-unit",  "bin-unit",  "note",
@@ -37,7 +38,7 @@ QString sentence(const char *source) {
     return inWords(source);
 }
 
-// The length of a tag that begins at `start`; `end` is where the next one does at the earliest.
+// The length of the tag at `start`; the next one begins at `end` at the earliest.
 int tagLength(const QByteArray &xliff, int start, int end) {
     char quote = '\0';
     int at = start + 1;
@@ -51,7 +52,7 @@ int tagLength(const QByteArray &xliff, int start, int end) {
     return at - start;
 }
 
-// Where a tag begins that is too long; -1 for none.
+// The offset of a tag that is too long, or -1.
 int tooLongTag(const QByteArray &xliff) {
     for (int start = int(xliff.indexOf('<')); start >= 0;) {
         const int next = int(xliff.indexOf('<', start + 1));
@@ -85,7 +86,7 @@ private:
     }
     void fail(const QString &reason) { m_xml.raiseError(reason); }
     void notAllowed();
-    // Of the last character that was read.
+    // The column of the last character read.
     qint64 column() const { return std::max<qint64>(m_xml.columnNumber(), 1); }
 
     void skip();
@@ -125,7 +126,7 @@ XliffParser::Token XliffParser::next() {
     return m_xml.hasError() ? Token::Invalid : token;
 }
 
-// Goes to the next element within the current one; false at the end of that.
+// Advances to the next child of the current element; returns false at its end.
 bool XliffParser::nextElement() {
     for (Token token = next(); token != Token::Invalid; token = next()) {
         if (token == Token::StartElement)
@@ -138,7 +139,7 @@ bool XliffParser::nextElement() {
     return false;
 }
 
-// The same without elements of other namespaces; any but those of these names is an error.
+// Like nextElement(), but skips other namespaces and rejects all names but these.
 template<typename Range>
 bool XliffParser::nextChild(const Range &names) {
     while (nextElement()) {
@@ -245,7 +246,7 @@ void XliffParser::readUnit() {
         addUnit(unit, names);
 }
 
-// A PO file has the path as the file that a text comes from, where ":" precedes a line.
+// A PO file stores the path as the text's source file, where ":" precedes a line number.
 void XliffParser::readLocation(QStringList &names) {
     QString location;
     while (nextChild(inContexts)) {
@@ -285,7 +286,7 @@ QString XliffParser::readText() {
     return text;
 }
 
-// What an element without content means in a text.
+// The text of an empty inline element.
 QString XliffParser::placeholderText() {
     if (!is("x") && !is("bx") && !is("ex"))
         return {};

@@ -15,7 +15,7 @@ QString pathText(const TranslatableText &text) {
     return fromUtf8(text.path.toString());
 }
 
-// Text with what a reader would normalize as a reference: a carriage return.
+// Writes text with carriage returns as references, since readers would normalize them.
 void writeText(QXmlStreamWriter &xml, const QString &text) {
     const auto lines = text.split(u'\r');
     for (int i = 0; i < lines.size(); ++i) {
@@ -80,7 +80,7 @@ QByteArray xliffOf(const QVector<TranslatableText> &texts, const XliffOptions &o
     return content;
 }
 
-// Why XLIFF cannot hold a text, its path or the manifest's name; empty if it can.
+// The reason why XLIFF cannot represent a text, its path or the manifest's name; empty if it can.
 QString troubleIn(const QVector<TranslatableText> &texts, const XliffOptions &options) {
     if (options.language == options.sourceLanguage)
         return inWords(
