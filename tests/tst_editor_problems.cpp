@@ -110,6 +110,7 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
 
         press(Qt::Key_F8);
+        problems()->clearSelection();
         const QString path = problems()->currentIndex().data(ProblemsModel::PathRole).toString();
         QTest::mouseClick(button("Ignore"), Qt::LeftButton);
         QVERIFY(!column(ProblemsModel::PathRole).contains(path));

@@ -112,6 +112,7 @@ private:
         const QString date = QStringLiteral("2026-09-04");
         QCOMPARE(m_window->document().package()->date(), date);
         QTRY_VERIFY(keptEdits(state).contains(date.toUtf8()));
+        m_directory.remove();
         std::raise(SIGKILL);
     }
 

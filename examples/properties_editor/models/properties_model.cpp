@@ -37,7 +37,7 @@ FieldPath PropertiesModel::fieldOf(const QModelIndex &index) const {
 }
 
 QVariant PropertiesModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service())
+    if (!index.isValid() || !checkIndex(index) || !service())
         return {};
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return markData(Mark::ofIssue(document().issueAt(field(index))), role);

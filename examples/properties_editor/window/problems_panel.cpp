@@ -137,6 +137,8 @@ const Issue *ProblemsPanel::issueOf(const QModelIndex &index) const {
 
 QVector<Issue> ProblemsPanel::selected() const {
     QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        rows.append(m_view->currentIndex());
     std::sort(rows.begin(), rows.end());
     QVector<Issue> issues;
     for (const QModelIndex &row : std::as_const(rows)) {

@@ -46,7 +46,7 @@ private:
     void ignoreSelected();
     void copySelected();
     void showMenu(const QPoint &place);
-    /// The selected problems in the order of the list.
+    /// The selected problems in the order of the list; the current one while none is selected.
     QVector<Zel::PackageModel::Issue> selected() const;
     /// The problem of a row; null for none.
     const Zel::PackageModel::Issue *issueOf(const QModelIndex &index) const;

@@ -14,6 +14,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace Zel::PackageModel {
 namespace {
@@ -197,12 +198,17 @@ std::optional<Tano::PackageInfo> ignoring(const Tano::PackageInfo &record, const
 } // namespace
 
 Edits ignoringEdits(const PackageInfoModel *package, const QVector<Issue> &issues) {
-    std::optional<Tano::PackageInfo> result;
-    for (const Issue &issue : package ? issues : QVector<Issue>()) {
-        if (auto changed = ignoring(result.value_or(package->packageInfo()), issue))
-            result = std::move(changed);
+    if (!package)
+        return {};
+    Tano::PackageInfo record = package->packageInfo();
+    bool isChanged = false;
+    for (const Issue &issue : issues) {
+        if (auto changed = ignoring(record, issue)) {
+            record = std::move(*changed);
+            isChanged = true;
+        }
     }
-    return result ? Edits{{Edit::Action::Set, {}, *result}} : Edits();
+    return isChanged ? Edits{{Edit::Action::Set, {}, record}} : Edits();
 }
 
 } // namespace Zel::PackageModel

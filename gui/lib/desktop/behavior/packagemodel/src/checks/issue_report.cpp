@@ -32,7 +32,7 @@ QLatin1String severityWord(Severity severity) {
     return QLatin1String("error");
 }
 
-struct IssuePlaces::Data {
+struct PACKAGEMODEL_NO_EXPORT IssuePlaces::Data {
     const Tano::ManifestReader &reader;
     std::map<NodeKey, Tano::SourcePosition> nodes = {};
 };

@@ -118,7 +118,7 @@ std::vector<std::string> commonInput(const PackageInfoModel &package) {
 
 } // namespace
 
-struct IssueTracker::Data {
+struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
     // What a behavior was like when it was checked last, and what was found.
     struct CheckedBehavior {
         const BehaviorInfoModel *model; // may be dangling
@@ -131,13 +131,14 @@ struct IssueTracker::Data {
     bool updateOrder();
     void updateOccurrences();
     bool updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior, bool isForced);
-    QVector<Issue> assembled() const;
+    QVector<Issue> assembled(const IssueFilter &filter) const;
 
     QPointer<const PackageInfoModel> package;
     IssueOptions options;
     std::vector<std::string> input;
     std::vector<SectionIssue> ofPackage;
     std::vector<CheckedBehavior> behaviors;
+    bool isFiltered = false;
     QVector<Issue> issues;
 };
 
@@ -182,7 +183,7 @@ bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBe
     return !areSame(behavior.issues, found);
 }
 
-QVector<Issue> IssueTracker::Data::assembled() const {
+QVector<Issue> IssueTracker::Data::assembled(const IssueFilter &filter) const {
     std::vector<const CheckedBehavior *> faulty;
     for (const CheckedBehavior &behavior : behaviors) {
         if (!behavior.issues.empty())
@@ -209,7 +210,6 @@ QVector<Issue> IssueTracker::Data::assembled() const {
         }
     }
 
-    const IssueFilter filter = options.filterFor ? options.filterFor(*package) : IssueFilter();
     QVector<Issue> all;
     for (const auto &section : sections) {
         for (const Issue *issue : section) {
@@ -256,9 +256,12 @@ bool IssueTracker::update() {
     isChanged |= !areSame(m_data->ofPackage, ofPackage);
 
     // A filter may depend on anything.
-    if (!isChanged && !m_data->options.filterFor)
+    const IssueFilter filter =
+        m_data->options.filterFor ? m_data->options.filterFor(package) : IssueFilter();
+    const bool wasFiltered = std::exchange(m_data->isFiltered, bool(filter));
+    if (!isChanged && !filter && !wasFiltered)
         return false;
-    const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled());
+    const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled(filter));
     return !areSame(before, m_data->issues);
 }
 
