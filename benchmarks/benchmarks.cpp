@@ -5,6 +5,8 @@
 #include "sample_package.h"
 
 #include <packagemodel/behavior_commands.h>
+#include <packagemodel/issue_tracker.h>
+#include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
 #include <packagemodel/package_info_validator.h>
@@ -94,6 +96,17 @@ void save(benchmark::State &state) {
     timeMaking(state, [&] { return package.saveToManifestContent(); });
 }
 MEASURE(save);
+
+void loadAndSave(benchmark::State &state) {
+    const std::string bytes = manifest(state).toStdString();
+    timeMaking(state, [&] {
+        Tano::PackageInfo package;
+        if (!package.loadFromManifestContent(bytes))
+            giveUp(package.errorString());
+        return package.saveToManifestContent();
+    });
+}
+MEASURE(loadAndSave);
 
 // The decoded content of a document, so that only writing is measured.
 struct Token {
@@ -260,6 +273,34 @@ void redoAndUndo(benchmark::State &state) {
     }
 }
 MEASURE(redoAndUndo);
+
+// Takes the first behavior out and puts it back; the latter is timed.
+void undoRemoval(benchmark::State &state) {
+    const auto package = modelOf(record(state));
+    const auto path = Tano::FieldPath().field("behaviors").entry(SamplePackage::path(0));
+    QUndoStack stack;
+    stack.push(new PackageEditCommand(package.get(), {{PackageModel::Edit::Action::Remove, path}}));
+    for (auto _ : state) {
+        stack.undo();
+        state.PauseTiming();
+        stack.redo();
+        state.ResumeTiming();
+    }
+}
+MEASURE(undoRemoval);
+
+// An edit of one text, with the list of issues brought up to date.
+void editWithIssues(benchmark::State &state) {
+    const NameEdit edit(state);
+    PackageModel::IssueTracker tracker(edit.package.get());
+    for (auto _ : state) {
+        edit.behavior->setName(edit.newName, edit.language);
+        benchmark::DoNotOptimize(tracker.update());
+        edit.behavior->setName(edit.oldName, edit.language);
+        benchmark::DoNotOptimize(tracker.update());
+    }
+}
+MEASURE(editWithIssues);
 
 void findChild(benchmark::State &state) {
     const auto package = modelOf(record(state));

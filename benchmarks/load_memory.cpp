@@ -1,6 +1,9 @@
 // Usage: load_memory FILE
 //
-// Loads a manifest and prints how much that raised the peaks of heap and resident memory, in bytes.
+// Loads a manifest and prints how much that raised the peaks of heap and resident memory, and how
+// much resident memory the models take beyond the records, in bytes.
+
+#include <packagemodel/package_info_model.h>
 
 #include <tano/package_info.h>
 
@@ -105,6 +108,10 @@ int main(int argc, char **argv) {
         return EXIT_FAILURE;
     }
     const std::size_t heap = peak - takenBefore;
-    std::cout << heap << ' ' << status("VmHWM") - residentBefore << '\n';
+    const std::size_t resident = status("VmHWM") - residentBefore;
+    malloc_trim(0); // so that the models cannot use what loading has given back
+    const std::size_t recordsOnly = status("VmRSS");
+    const Zel::PackageInfoModel models(package);
+    std::cout << heap << ' ' << resident << ' ' << status("VmRSS") - recordsOnly << '\n';
     return EXIT_SUCCESS;
 }

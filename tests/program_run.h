@@ -67,6 +67,7 @@ inline Outcome runShell(const QString &line, const QString &directory) {
     environment.insert(QStringLiteral("DATA"), QStringLiteral(ZEL_TEST_DATA));
     environment.insert(QStringLiteral("SOURCE"), QStringLiteral(ZEL_SOURCE_DIR));
     environment.insert(QStringLiteral("XMLLINT"), QStringLiteral(ZEL_XMLLINT));
+    environment.remove(QStringLiteral("MAKELEVEL")); // make prints it
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(directory);
     process.start(QStringLiteral("sh"), {QStringLiteral("-c"), line});

@@ -5,8 +5,18 @@
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
 
+#include <QTest>
+
 #include <optional>
 #include <random>
+
+/// Adds a row for each seed; as many as ZEL_EDIT_SEEDS says, for longer runs.
+inline void addSeeds(int usual) {
+    QTest::addColumn<unsigned>("seed");
+    const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS");
+    for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : usual); ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
 
 /// Random edits of a package's fields, and of its lists, which are found by dropping selectors.
 class RandomEdits {

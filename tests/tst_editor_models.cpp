@@ -295,12 +295,7 @@ private Q_SLOTS:
         QCOMPARE(document.undoStack()->count(), 0);
     }
 
-    void pendingEdits_data() {
-        QTest::addColumn<unsigned>("seed");
-        const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-        for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 16); ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-    }
+    void pendingEdits_data() { addSeeds(16); }
     // The pending edits turn the saved file into the current package.
     void pendingEdits() {
         QFETCH(unsigned, seed);

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
+#include <QMenuBar>
 #include <QTableView>
 
 #include <optional>
@@ -223,6 +224,31 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget()->contextMenuPolicy(), Qt::ActionsContextMenu);
     }
 
+    // The Edit menu has the actions of the list that has the focus, also while the menu bar has it.
+    void editMenu() {
+        const QMenu *edit = m_window->menuBar()->actions().at(1)->menu();
+        const auto names = [edit] {
+            QStringList names;
+            for (const QAction *action : edit->actions())
+                names += action->text().remove(u'&');
+            return names.join(u' ');
+        };
+        selectTwo(QStringLiteral("services"));
+        m_window->menuBar()->setFocus();
+        QVERIFY2(
+            names().endsWith(QStringLiteral("Cut Copy Paste Duplicate Delete  Move Up Move Down")),
+            qPrintable(names()));
+        for (QAction *action : edit->actions()) {
+            if (isSame(action->text(), "Move Down"))
+                action->trigger();
+        }
+        QCOMPARE(Editor::entryKey(entries(QStringLiteral("services")).at(1)),
+                 QStringLiteral("clock"));
+        m_window->showField(QStringLiteral("services[lamp]"));
+        press(Qt::Key_F2); // the cell has its own
+        QVERIFY2(!names().contains(QStringLiteral("Cut")), qPrintable(names()));
+    }
+
     void propertiesOfAService() {
         const QByteArray before = manifest();
         m_window->showField(QStringLiteral("services[clock].properties[nice]"));
@@ -239,6 +265,13 @@ private Q_SLOTS:
         m_window->showField(QStringLiteral("services[clock].properties[nice]"));
         press(Qt::Key_Delete);
         QCOMPARE(properties(), QStringLiteral("restart=always user="));
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboard()->text(), QStringLiteral("restart\talways\nuser\t"));
+        const int steps = stack()->count();
+        press(Qt::Key_Delete);
+        QCOMPARE(properties(), QString());
+        QCOMPARE(stack()->count(), steps + 1);
         while (stack()->canUndo())
             stack()->undo();
         QCOMPARE(manifest(), before);

@@ -16,6 +16,7 @@
 #include <QCommandLinkButton>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
@@ -23,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSplitter>
 #include <QTableView>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -92,6 +94,16 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(golden.arg(QLatin1String(QTest::currentDataTag())), stops.toUtf8());
     }
 
+    // The bar of docks that share their place follows their pages.
+    void tabKeyReachesTheBarOfDocks() {
+        QVERIFY(m_window->openFile(sample("small")));
+        press(Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(m_window->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly));
+        QCoreApplication::processEvents();
+        COMPARE_WITH_GOLDEN(QStringLiteral(ZEL_TEST_DATA "/editor/tab-order/docks.txt"),
+                            walk().toUtf8());
+    }
+
     void mnemonicsAreUnique_data() {
         QTest::addColumn<QString>("locale");
         for (const char *locale : {"en_US", "fr_FR", "ja_JP"})
@@ -111,15 +123,14 @@ private Q_SLOTS:
                 texts += label->buddy() ? label->text() : QString();
             for (const auto *button : shownPage()->findChildren<QAbstractButton *>())
                 texts += button->text();
-            QMap<QString, QString> textOf;
-            for (const QString &text : std::as_const(texts)) {
-                const QString key = QKeySequence::mnemonic(text).toString();
-                QVERIFY2(key.isEmpty() || !textOf.contains(key),
-                         qPrintable(QString::number(page) + key + u' ' + text + u' ' +
-                                    textOf.value(key)));
-                textOf.insert(key, text);
-            }
+            QCOMPARE(sharedMnemonics(texts), QString());
         }
+        m_window->showField(QStringLiteral("behaviors"));
+        QStringList edit;
+        for (const QAction *action : m_window->menuBar()->actions().at(1)->menu()->actions())
+            edit += action->text();
+        QVERIFY(edit.size() > 12); // with the actions of the list
+        QCOMPARE(sharedMnemonics(edit), QString());
     }
 
     // Adds an entry with a button, types its name, and deletes it with the Delete key.
@@ -355,10 +366,17 @@ private Q_SLOTS:
         m_window->resize(700, 600);
         m_window->showPage(4);
         dock("history")->hide();
+        auto *column = problems()->header();
+        column->resizeSection(2, 222);
+        auto *splitter = shownPage()->findChild<QSplitter *>();
+        splitter->setSizes({150, splitter->width() - 150});
+        const QList<int> sizes = splitter->sizes();
         QVERIFY(m_window->close());
         showWindow();
         m_window->restore();
         QCOMPARE(m_window->size(), QSize(700, 600));
+        QCOMPARE(shownPage()->findChild<QSplitter *>()->sizes(), sizes);
+        QCOMPARE(problems()->header()->sectionSize(2), 222);
         QVERIFY(dock("history")->isHidden());
         QVERIFY(!dock("problems")->isHidden());
         QVERIFY(field("&Topic:")->isVisible());
@@ -509,6 +527,18 @@ private:
                 return stops;
         }
         return stops + QStringLiteral("does not come back\n");
+    }
+
+    static QString sharedMnemonics(const QStringList &texts) {
+        QString shared;
+        QMap<QString, QString> textOf;
+        for (const QString &text : texts) {
+            const QString key = QKeySequence::mnemonic(text).toString();
+            if (!key.isEmpty() && textOf.contains(key))
+                shared += text + u'/' + textOf.value(key) + u' ';
+            textOf.insert(key, text);
+        }
+        return shared;
     }
 
     // The WCAG contrast between the lightest and the darkest pixel.

@@ -157,10 +157,7 @@ void TestPackageEdits::allOrNone() {
 }
 
 void TestPackageEdits::inversesRestoreEverything_data() {
-    QTest::addColumn<unsigned>("seed");
-    const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-    for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 40); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    addSeeds(40);
 }
 
 void TestPackageEdits::inversesRestoreEverything() {

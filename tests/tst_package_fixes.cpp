@@ -1,11 +1,17 @@
 #include "golden.h"
+#include "random_edits.h"
 #include "text.h"
 
+#include <packagemodel/ignore_comments.h>
+#include <packagemodel/issue_tracker.h>
 #include <packagemodel/package_info_model.h>
-#include <packagemodel/package_issues.h>
 #include <packagemodel/package_json.h>
 
+#include <tano/kept_content.h>
+
 #include <QDir>
+
+#include <memory>
 
 using namespace Zel;
 using namespace Zel::PackageModel;
@@ -109,6 +115,91 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/") % QFileInfo(file).dir().dirName() % u'-' %
                                 QFileInfo(file).baseName() % text(".txt"),
                             result);
+    }
+
+    // A tracker has the issues, and the fixes, that a check of the whole package finds.
+    void trackedIssues_data() { addSeeds(8); }
+
+    void trackedIssues() {
+        QFETCH(const unsigned, seed);
+        RandomEdits random(seed);
+        auto package = std::make_unique<PackageInfoModel>();
+        const char *sample = seed % 2 ? "faulty" : "ten-languages";
+        QVERIFY(package->loadFromManifestFile(text(ZEL_SOURCE_DIR "/examples/packages/") %
+                                              text(sample) % text("/manifest.xml")));
+        IssueOptions options;
+        if (seed % 3 == 0)
+            options.filterFor = [](const PackageInfoModel &) {
+                return [](const Issue &issue) { return issue.id != text("uid-invalid"); };
+            };
+        IssueTracker tracker(package.get(), options);
+        for (int i = 0; i < 60; ++i) {
+            const Edit edit = random.next(*package);
+            apply(package.get(), {edit});
+            const QByteArray before = listing(tracker.issues());
+            const bool isChanged = tracker.update();
+            QVector<Issue> expected = issues(package.get(), options);
+            for (Issue &issue : expected) {
+                if (i % 10 == 0)
+                    QCOMPARE(listing({tracked(tracker, issue)}), listing({issue}));
+                issue.fixes.clear();
+            }
+            QCOMPARE(listing(tracker.issues()), listing(expected));
+            QCOMPARE(isChanged, listing(tracker.issues()) != before);
+        }
+        package.reset();
+        tracker.update();
+        QVERIFY(tracker.issues().isEmpty());
+    }
+
+    // Each issue on its own, and all of them in turn.
+    void ignoredIssues_data() { manifests_data(); }
+
+    void ignoredIssues() {
+        QFETCH(QString, file);
+        QFile manifest(file);
+        PackageInfoModel package;
+        QVERIFY(package.loadFromManifestFile(manifest));
+        IssueOptions options{QFileInfo(file).path()};
+        options.filterFor = notIgnored;
+        const auto all = issues(&package, options);
+        const QByteArray before = package.saveToManifestContent();
+        const auto isThere = [&](const Issue &issue) {
+            const auto left = issues(&package, options);
+            return std::any_of(left.begin(), left.end(), [&](const Issue &each) {
+                return each.id == issue.id && each.path == issue.path;
+            });
+        };
+        QByteArray places;
+        for (const Issue &issue : all) {
+            const Edits edits = ignoringEdits(&package, {issue});
+            const auto read = editsFromJson(toJson(edits));
+            const Applied applied = apply(&package, read.edits);
+            QCOMPARE(applied.error + read.error, QString());
+            QVERIFY2(!isThere(issue), qPrintable(issue.id));
+            QVERIFY(ignoringEdits(&package, {issue}).isEmpty());
+            for (const Tano::KeptComment &comment : Tano::comments(package.packageInfo())) {
+                if (QByteArray::fromStdString(comment.text).contains(issue.id.toUtf8()))
+                    places += issue.path.toUtf8() + " [" + issue.id.toUtf8() + "] before '" +
+                              QByteArray::fromStdString(comment.before.toString()) + "'\n";
+            }
+            QCOMPARE(apply(&package, applied.inverse).error, QString());
+            QCOMPARE(package.saveToManifestContent(), before);
+        }
+        if (all.isEmpty())
+            return;
+        QCOMPARE(apply(&package, ignoringEdits(&package, all)).error, QString());
+        QCOMPARE(listing(issues(&package, options)), QByteArray());
+        COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/ignored-") %
+                                QFileInfo(file).dir().dirName() % text(".txt"),
+                            places + package.saveToManifestContent());
+    }
+
+private:
+    static Issue tracked(const IssueTracker &tracker, const Issue &issue) {
+        Issue found = issue;
+        found.fixes = tracker.fixes(issue);
+        return found;
     }
 };
 

@@ -5,6 +5,8 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
 
+#include <limits>
+
 using namespace Zel;
 using namespace Zel::PackageModel;
 
@@ -47,8 +49,13 @@ private Q_SLOTS:
         QVERIFY(edits.size() > 100);
         edits.append({Edit::Action::Set, *Tano::FieldPath::parse("author"),
                       QChar(QChar::ByteOrderMark) + text("x")});
+        // Beyond the list, as editors append; an index before it is that of the first entry.
+        const auto list = *Tano::FieldPath::parse("supportedLanguages");
+        for (const int index : {std::numeric_limits<int>::max(), -1})
+            edits.append({Edit::Action::Insert, list, text("eo"), index});
         const ParsedEdits parsed = editsFromJson(toJson(edits));
         QCOMPARE(parsed.error, QString());
+        edits.last().index = 0;
         QVERIFY(parsed.edits == edits);
     }
 

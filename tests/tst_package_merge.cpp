@@ -142,10 +142,7 @@ void TestPackageMerge::sameSides() {
 }
 
 void TestPackageMerge::differentFields_data() {
-    QTest::addColumn<unsigned>("seed");
-    const int wanted = qEnvironmentVariableIntValue("ZEL_EDIT_SEEDS"); // for longer runs
-    for (unsigned seed = 0; seed < unsigned(wanted > 0 ? wanted : 60); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+    addSeeds(60);
 }
 
 void TestPackageMerge::differentFields() {

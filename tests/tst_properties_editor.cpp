@@ -204,6 +204,10 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
         button->setFocus();
         press(Qt::Key_S, Qt::ControlModifier);
+        m_window->showPage(3);
+        stack()->undo();
+        QVERIFY(button->isVisible()); // shows the change
+        stack()->redo();
         const QString icon = QFileInfo(fileName).dir().filePath(QStringLiteral("icon.png"));
         QVERIFY(QFile::exists(icon));
         press(Qt::Key_Z, Qt::ControlModifier);

@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 // The output, with "2> " before each line of the messages, and "=> " before a status other than 0.
@@ -36,6 +38,16 @@ private:
     QTemporaryDir m_dir;
 
     Outcome run(const QStringList &arguments) const { return runProgram(arguments, m_dir.path()); }
+    // Each line that starts with "$ ", and what it prints.
+    QString printedLines(const QString &block) const {
+        QByteArray lines;
+        const QStringList blockLines = block.split(u'\n');
+        for (const QString &line : blockLines) {
+            if (line.startsWith(QLatin1String("$ ")))
+                lines += line.toUtf8() + '\n' + printed(runShell(line.mid(2), m_dir.path()));
+        }
+        return QString::fromUtf8(lines);
+    }
     QByteArray onTerminal(const QStringList &arguments, const char *noColor) const {
         return terminalOutput(arguments, m_dir.path(), noColor);
     }
@@ -66,24 +78,43 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(path, transcript);
     }
 
-    // The commands in docs/translating.md print the output shown there, in order.
-    void documentedTranslation() {
-        const QByteArray manual = contentOf(QStringLiteral(ZEL_SOURCE_DIR "/docs/translating.md"));
-        QVERIFY(QFile::copy(QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/small/manifest.xml"),
-                            m_dir.filePath(QStringLiteral("manifest.xml"))));
-        const QRegularExpression block(QStringLiteral("```console\n(.*?)```"),
-                                       QRegularExpression::DotMatchesEverythingOption);
-        QString expected;
-        QByteArray actual;
-        for (auto blocks = block.globalMatch(QString::fromUtf8(manual)); blocks.hasNext();)
-            expected += blocks.next().captured(1);
-        const QStringList lines = expected.split(u'\n');
-        for (const QString &line : lines) {
-            if (line.startsWith(QLatin1String("$ ")))
-                actual += line.toUtf8() + '\n' + printed(runShell(line.mid(2), m_dir.path()));
+    // In documents, each "$ " line of a block fenced with ```console is followed by its printed()
+    // outcome. A comment "run: LINE" prepares, and "file: NAME" makes a file of the next block.
+    void documents_data() {
+        QTest::addColumn<QString>("path");
+        const auto files = QDir(QStringLiteral(ZEL_SOURCE_DIR "/docs"))
+                               .entryInfoList({QStringLiteral("*.md")}, QDir::Files);
+        for (const QFileInfo &file : files) {
+            if (contentOf(file.filePath()).contains("```console"))
+                QTest::newRow(qPrintable(file.baseName())) << file.filePath();
         }
-        QVERIFY(!actual.isEmpty());
-        QCOMPARE(QString::fromUtf8(actual), expected);
+    }
+
+    void documents() {
+        QFETCH(QString, path);
+        const QRegularExpression part(
+            QStringLiteral("^<!-- (run|file): (.*) -->$|^```(\\w*)\n((?:.*\n)*?)```$"),
+            QRegularExpression::MultilineOption);
+        const QString document = QString::fromUtf8(contentOf(path));
+        QString actual;
+        QString fileName;
+        int end = 0;
+        for (auto parts = part.globalMatch(document); parts.hasNext();) {
+            const QRegularExpressionMatch match = parts.next();
+            if (match.captured(1) == QLatin1String("run"))
+                QCOMPARE(printed(runShell(match.captured(2), m_dir.path())), QByteArray());
+            else if (match.captured(1) == QLatin1String("file"))
+                fileName = match.captured(2);
+            else if (!fileName.isEmpty())
+                write(m_dir.filePath(std::exchange(fileName, {})), match.captured(4).toUtf8());
+            else if (match.captured(3) == QLatin1String("console")) {
+                actual += document.mid(end, int(match.capturedStart(4)) - end);
+                actual += printedLines(match.captured(4));
+                end = int(match.capturedEnd(4));
+            }
+        }
+        actual += document.mid(end);
+        COMPARE_WITH_GOLDEN(path, actual.toUtf8());
     }
 
     // The manual page and the completions cover everything in the help.

@@ -779,14 +779,14 @@ Version %1</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation>&amp;Rechercher…</translation>
+        <translation>Rec&amp;hercher…</translation>
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Rechercher le &amp;suivant</translation>
+        <translation>Rechercher le sui&amp;vant</translation>
     </message>
     <message>
-        <source>Find &amp;Previous</source>
+        <source>Find Pre&amp;vious</source>
         <translation>Rechercher le &amp;précédent</translation>
     </message>
 </context>
@@ -835,6 +835,17 @@ Version %1</translation>
     </message>
 </context>
 <context>
+    <name>Editor::ProblemDetails</name>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Writes a comment that turns off the rule here</source>
+        <translation>Écrit un commentaire qui désactive la règle ici</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ProblemsModel</name>
     <message>
         <source>Severity</source>
@@ -866,6 +877,38 @@ Version %1</translation>
     <message>
         <source>&amp;Show the field</source>
         <translation>&amp;Montrer le champ</translation>
+    </message>
+    <message>
+        <source>Filter problems</source>
+        <translation>Filtrer les problèmes</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Erreurs</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Avertissements</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>No problems, or the filter above hides them.</source>
+        <translation>Aucun problème, ou le filtre ci-dessus les masque.</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>&amp;Ignorer</translation>
+    </message>
+    <message>
+        <source>Ignore “%1”</source>
+        <translation>Ignorer « %1 »</translation>
+    </message>
+    <message>
+        <source>Ignore %1 problems</source>
+        <translation>Ignorer %1 problèmes</translation>
     </message>
 </context>
 <context>
@@ -1163,8 +1206,8 @@ Version %1</translation>
         <translation>C&amp;oller</translation>
     </message>
     <message>
-        <source>D&amp;uplicate</source>
-        <translation>Du&amp;pliquer</translation>
+        <source>Dup&amp;licate</source>
+        <translation>Dup&amp;liquer</translation>
     </message>
     <message>
         <source>&amp;Delete</source>

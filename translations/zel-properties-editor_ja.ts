@@ -786,8 +786,8 @@ Version %1</source>
         <translation>次を検索(&amp;N)</translation>
     </message>
     <message>
-        <source>Find &amp;Previous</source>
-        <translation>前を検索(&amp;P)</translation>
+        <source>Find Pre&amp;vious</source>
+        <translation>前を検索(&amp;V)</translation>
     </message>
 </context>
 <context>
@@ -835,6 +835,17 @@ Version %1</source>
     </message>
 </context>
 <context>
+    <name>Editor::ProblemDetails</name>
+    <message>
+        <source>Ignore</source>
+        <translation>無視</translation>
+    </message>
+    <message>
+        <source>Writes a comment that turns off the rule here</source>
+        <translation>この場所で規則を無効にするコメントを書き込みます</translation>
+    </message>
+</context>
+<context>
     <name>Editor::ProblemsModel</name>
     <message>
         <source>Severity</source>
@@ -866,6 +877,38 @@ Version %1</source>
     <message>
         <source>&amp;Show the field</source>
         <translation>フィールドを表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Filter problems</source>
+        <translation>問題を絞り込む</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>No problems, or the filter above hides them.</source>
+        <translation>問題はありません。または上の絞り込みで非表示になっています。</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>無視(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Ignore “%1”</source>
+        <translation>“%1” を無視</translation>
+    </message>
+    <message>
+        <source>Ignore %1 problems</source>
+        <translation>%1 件の問題を無視</translation>
     </message>
 </context>
 <context>
@@ -1163,8 +1206,8 @@ Version %1</source>
         <translation>貼り付け(&amp;P)</translation>
     </message>
     <message>
-        <source>D&amp;uplicate</source>
-        <translation>複製(&amp;U)</translation>
+        <source>Dup&amp;licate</source>
+        <translation>複製(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>

@@ -1,7 +1,5 @@
 #include "document.h"
 
-#include "field_edits.h"
-
 #include <packagemodel/edit_session.h>
 
 #include <tano/kept_content.h>
@@ -16,11 +14,7 @@
 namespace Editor {
 namespace {
 
-using Tano::FieldPath;
 using Zel::PackageInfoModel;
-using Zel::PackageModel::Issue;
-using Zel::PackageModel::LanguageCoverage;
-using Zel::PackageModel::Severity;
 
 qint64 keyOf(const QIcon &icon) {
     return icon.isNull() ? 0 : icon.cacheKey();
@@ -64,8 +58,10 @@ Document::Document(QObject *parent)
     connect(&m_pause, &QTimer::timeout, this, &Document::closeRun);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Document::checkDisk);
     watchPackage();
-    m_template = QByteArray::fromStdString(m_package->packageInfo().saveToManifestContent());
-    refreshIssues();
+    m_package->syncRecord();
+    m_saved = m_package->packageInfo();
+    m_template = QByteArray::fromStdString(m_saved.saveToManifestContent());
+    trackIssues();
 }
 
 Document::~Document() {
@@ -112,7 +108,8 @@ bool Document::save(const QString &fileName) {
         return false;
     }
     const QString path = QFileInfo(fileName).absoluteFilePath();
-    if (path == m_fileName)
+    const bool isElsewhere = path != m_fileName;
+    if (!isElsewhere)
         manifest.expected = m_seenOnDisk;
     const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
     const bool isReplayable = m_undoStack.index() == 0 || loadsAsItIs(*m_package, *manifest.bytes);
@@ -129,6 +126,8 @@ bool Document::save(const QString &fileName) {
     m_savedIcon = keyOf(m_package->icon());
     rememberDisk(written);
     m_undoStack.setClean();
+    if (isElsewhere)
+        trackIssues(); // the files that the package names may not be there
     Q_EMIT fileNameChanged();
     return true;
 }
@@ -251,7 +250,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     watchPackage();
     m_languages.reset();
     m_coverages.reset();
-    refreshIssues();
+    trackIssues();
     Q_EMIT packageReplaced();
     Q_EMIT fileNameChanged();
     finishEdit();
@@ -263,64 +262,6 @@ void Document::watchPackage() {
         m_package.get(), this, [this] { m_languages.reset(); }, &Package::languageAdded,
         &Package::languageRemoved, &Package::descriptionAdded, &Package::descriptionRemoved,
         &Package::nameUpdated, &Package::descriptionUpdated);
-}
-
-const Zel::RobotLanguages &Document::languages() const {
-    if (!m_languages)
-        m_languages = Zel::PackageModel::languages(m_package.get());
-    return *m_languages;
-}
-
-LanguageCoverage Document::coverage(const QString &languageCode) const {
-    if (!m_coverages)
-        m_coverages = Zel::PackageModel::coverages(m_package.get());
-    const auto found =
-        std::find_if(m_coverages->begin(), m_coverages->end(), [&](const LanguageCoverage &each) {
-            return each.language.isoCode() == languageCode;
-        });
-    return found == m_coverages->end() ? LanguageCoverage() : *found;
-}
-
-void Document::refreshIssues() {
-    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
-    const auto issues = Zel::PackageModel::issues(m_package.get(), {folder});
-    const auto isSame = [](const Issue &a, const Issue &b) {
-        return a.id == b.id && a.path == b.path && a.text == b.text;
-    };
-    if (std::equal(issues.begin(), issues.end(), m_issues.begin(), m_issues.end(), isSame))
-        return;
-    m_issues = issues;
-    m_issueByPath.clear();
-    m_behaviorSeverity.clear();
-    const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {
-        if (isWorse)
-            entry = candidate;
-    };
-    for (const Issue &issue : std::as_const(m_issues)) {
-        const bool isError = issue.severity == Severity::Error;
-        const bool isFirst = !m_issueByPath.contains(issue.path);
-        keepWorst(m_issueByPath[issue.path], issue,
-                  isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
-        const auto path = FieldPath::parse(Zel::toUtf8(issue.path));
-        if (path && fieldName(*path) == QLatin1String("behaviors")) {
-            const QString key = fieldKey(*path);
-            const bool isNew = !m_behaviorSeverity.contains(key);
-            keepWorst(m_behaviorSeverity[key], issue.severity, isNew || isError);
-        }
-    }
-    Q_EMIT issuesChanged();
-}
-
-std::optional<Issue> Document::issueAt(const FieldPath &path) const {
-    if (path.isEmpty())
-        return std::nullopt; // the issue of the package concerns no field
-    const auto found = m_issueByPath.constFind(Zel::fromUtf8(path.toString()));
-    return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
-}
-
-std::optional<Severity> Document::behaviorSeverity(const QString &behaviorPath) const {
-    const auto found = m_behaviorSeverity.constFind(behaviorPath);
-    return found == m_behaviorSeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
 }
 
 } // namespace Editor

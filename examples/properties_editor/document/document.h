@@ -1,9 +1,9 @@
 #pragma once
 
+#include <packagemodel/issue_tracker.h>
 #include <packagemodel/package_coverage.h>
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
-#include <packagemodel/package_issues.h>
 #include <packagemodel/package_merge.h>
 
 #include <tano/save_file.h>
@@ -101,7 +101,11 @@ public:
 
     // What is wrong, as it is right now.
 
-    const QVector<Zel::PackageModel::Issue> &issues() const { return m_issues; }
+    const QVector<Zel::PackageModel::Issue> &issues() const { return m_tracker->issues(); }
+    /// The ways to correct one of issues(), the most likely first.
+    QVector<Zel::PackageModel::Fix> fixes(const Zel::PackageModel::Issue &issue) const {
+        return m_tracker->fixes(issue);
+    }
     /// The worst issue of the field with that path.
     std::optional<Zel::PackageModel::Issue> issueAt(const Tano::FieldPath &path) const;
     /// The severity of the worst issue of a behavior.
@@ -133,7 +137,8 @@ private:
     Tano::FieldPath changedField(int indexBefore) const;
     QString refusalOf(const Zel::PackageModel::Edits &edits) const;
     void finishEdit();
-    void refreshIssues();
+    void trackIssues();
+    void indexIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);
 
@@ -146,7 +151,7 @@ private:
     bool m_isPushing = false;
     bool m_isReplacing = false;
 
-    QVector<Zel::PackageModel::Issue> m_issues;
+    std::unique_ptr<Zel::PackageModel::IssueTracker> m_tracker;
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
     QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
 

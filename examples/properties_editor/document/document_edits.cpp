@@ -124,9 +124,10 @@ const PackageEditCommand *Document::commandAt(int index) const {
 
 FieldPath Document::changedField(int indexBefore) const {
     const bool isUndo = m_stackIndex < indexBefore;
-    const PackageEditCommand *command = commandAt(isUndo ? m_stackIndex : m_stackIndex - 1);
-    if (!command)
-        return {};
+    const int index = isUndo ? m_stackIndex : m_stackIndex - 1;
+    const PackageEditCommand *command = commandAt(index);
+    if (!command) // no edit changes the icon
+        return m_undoStack.command(index) ? FieldPath().field("icon") : FieldPath();
     // What leads away from the present state has the paths of the present state. Edits that follow
     // from another one, such as that of a language, are not at this end.
     const Edits &edits = isUndo ? command->edits() : command->inverse();
@@ -163,7 +164,8 @@ void Document::finishEdit() {
     if (isStep)
         closeRun();
     m_coverages.reset();
-    refreshIssues();
+    if (m_tracker->update())
+        indexIssues();
     Q_EMIT edited();
     if (const auto field = isStep ? changedField(before) : FieldPath(); !field.isEmpty())
         Q_EMIT fieldChanged(Zel::fromUtf8(field.toString()));

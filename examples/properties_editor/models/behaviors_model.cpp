@@ -31,7 +31,7 @@ int BehaviorsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant BehaviorsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return {};
     const BehaviorInfoModel *behavior = m_behaviors.at(index.row());
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {

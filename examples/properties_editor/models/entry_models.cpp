@@ -27,7 +27,7 @@ int DialogsModel::columnCount(const QModelIndex &parent) const {
 
 QVariant DialogsModel::data(const QModelIndex &index, int role) const {
     const DialogInfoModel *dialog = package()->dialogs().value(index.row());
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog || role != Qt::DisplayRole)
+    if (!index.isValid() || !checkIndex(index) || !dialog || role != Qt::DisplayRole)
         return {};
     return dialog->topicName();
 }
@@ -59,7 +59,7 @@ int TopicsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant TopicsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !dialog())
+    if (!index.isValid() || !checkIndex(index) || !dialog())
         return {};
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return index.column() == 0 ? QVariant() : fileData(index, role);
@@ -138,7 +138,7 @@ FieldPath ServicesModel::fieldOf(const QModelIndex &index) const {
 
 QVariant ServicesModel::data(const QModelIndex &index, int role) const {
     const Zel::ServiceInfoModel *service = package()->services().value(index.row());
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service)
+    if (!index.isValid() || !checkIndex(index) || !service)
         return {};
     if (index.column() == AutoRun) {
         if (role != Qt::CheckStateRole)

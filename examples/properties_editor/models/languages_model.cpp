@@ -79,7 +79,7 @@ QVariant LanguagesModel::display(const QModelIndex &index) const {
 }
 
 QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return {};
     switch (role) {
     case Qt::DisplayRole:
@@ -105,7 +105,7 @@ QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
 }
 
 bool LanguagesModel::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return false;
     const auto column = Column(index.column());
     if (role != Qt::CheckStateRole || (column != Supported && column != Described))

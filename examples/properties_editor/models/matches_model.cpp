@@ -34,7 +34,7 @@ int MatchesModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant MatchesModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return {};
     const TextMatch &match = m_matches.at(index.row());
     switch (role) {

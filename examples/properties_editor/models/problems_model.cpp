@@ -28,8 +28,7 @@ int ProblemsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
-        index.row() >= document().issues().size())
+    if (!index.isValid() || !checkIndex(index) || index.row() >= document().issues().size())
         return {};
     const Issue &issue = document().issues().at(index.row());
     switch (role) {
@@ -48,6 +47,10 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
         return toolTipOf(issue.plainText());
     case PathRole:
         return issue.path;
+    case RuleRole:
+        return issue.id;
+    case SeverityRole:
+        return int(issue.severity);
     default:
         return {};
     }

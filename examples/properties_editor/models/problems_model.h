@@ -12,6 +12,9 @@ public:
     enum Column { Severity, Text, Field };
     /// The path of the field at fault.
     static constexpr int PathRole = Qt::UserRole;
+    /// The id of the rule.
+    static constexpr int RuleRole = Qt::UserRole + 1;
+    static constexpr int SeverityRole = Qt::UserRole + 2;
 
     explicit ProblemsModel(Document &document, QObject *parent = nullptr);
 

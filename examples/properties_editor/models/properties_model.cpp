@@ -37,7 +37,7 @@ FieldPath PropertiesModel::fieldOf(const QModelIndex &index) const {
 }
 
 QVariant PropertiesModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || !service())
+    if (!index.isValid() || !checkIndex(index) || !service())
         return {};
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return markData(Mark::ofIssue(document().issueAt(field(index))), role);
@@ -76,9 +76,11 @@ QString PropertiesModel::add() {
     return name;
 }
 
-void PropertiesModel::remove(int row) {
-    if (row >= 0 && row < rowCount())
-        document().edit({{Edit::Action::Remove, property(keys().at(row))}});
+void PropertiesModel::remove(const QVector<int> &rows) {
+    Zel::PackageModel::Edits edits;
+    for (const int row : rows)
+        edits.append({Edit::Action::Remove, property(keys().at(row))});
+    document().edit(edits);
 }
 
 Qt::ItemFlags PropertiesModel::extraFlags(const QModelIndex &) const {

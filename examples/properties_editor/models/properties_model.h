@@ -23,7 +23,7 @@ public:
 
     /// Adds an empty property and returns its name.
     QString add();
-    void remove(int row);
+    void remove(const QVector<int> &rows);
 
 protected:
     Tano::FieldPath fieldOf(const QModelIndex &index) const override;

@@ -55,7 +55,7 @@ FieldPath RequirementsModel::fieldOf(const QModelIndex &index) const {
 }
 
 QVariant RequirementsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid() || !checkIndex(index))
         return {};
     if (role != Qt::EditRole && role != Qt::DisplayRole)
         return markData(Mark::ofIssue(document().issueAt(field(index))), role);

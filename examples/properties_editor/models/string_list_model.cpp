@@ -28,8 +28,7 @@ int StringListModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant StringListModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) ||
-        (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid() || !checkIndex(index) || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return items().value(index.row());
 }

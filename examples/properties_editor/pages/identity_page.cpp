@@ -34,6 +34,7 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     addOthers(form);
 
     auto *icon = new IconButton(document, this);
+    m_icon = icon;
     auto *choose = new QPushButton(iconOf(Symbol::Open), tr("Choose &Icon…"), this);
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, icon, &IconButton::choose);
@@ -55,6 +56,13 @@ IdentityPage::IdentityPage(Document &document, QWidget *parent)
     layout->setSpacing(32);
     layout->addLayout(form, 1);
     layout->addLayout(iconLayout);
+}
+
+bool IdentityPage::showField(const FieldPath &path) {
+    if (path != FieldPath().field("icon"))
+        return Page::showField(path);
+    m_icon->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void IdentityPage::addText(QFormLayout *form, const QString &label, const QString &placeholder,

@@ -57,10 +57,7 @@ RequirementsPage::Part RequirementsPage::addPart(QVBoxLayout *layout, Requiremen
     auto *add = newListButton(texts.addition, true, this);
     connect(add, &QPushButton::clicked, model, [model, table] {
         model->add();
-        const QModelIndex cell = model->index(model->rowCount() - 1, 0);
-        table->setFocus();
-        selectAlone(table, cell);
-        table->edit(cell);
+        editAlone(table, model->index(model->rowCount() - 1, 0));
     });
     auto *remove = newListButton(texts.removal, false, this);
     auto *rows = new RowActions(table, document(), {[model] { return model->list(); }});

@@ -64,7 +64,8 @@ ReviewPage::ReviewPage(Document &document, QWidget *parent)
     connect(m_tabs, &QTabWidget::currentChanged, this, &ReviewPage::refresh);
     connect(&document, &Document::edited, this, schedule);
     connect(document.undoStack(), &QUndoStack::cleanChanged, this, schedule);
-    connect(qApp, &QApplication::focusChanged, this,
+    // A view that has the focus loses it while ~QWidget() deletes it, when the timer is gone.
+    connect(qApp, &QApplication::focusChanged, &m_timer,
             [this](const QWidget *old) { noteFocus(old); });
 }
 

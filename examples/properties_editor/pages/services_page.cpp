@@ -88,17 +88,16 @@ QWidget *ServicesPage::newProperties() {
     explainWhenEmpty(
         m_propertyTable,
         tr("Settings of the service that is selected above. “Add Property” adds one."));
-    m_propertyTable->setSelectionMode(QAbstractItemView::SingleSelection);
     QHeaderView *header = m_propertyTable->horizontalHeader();
     header->resizeSection(PropertiesModel::Name, 200);
     header->setSectionResizeMode(PropertiesModel::Value, QHeaderView::Stretch);
 
     m_addProperty = newListButton(tr("Add Pr&operty"), true, this);
     m_removeProperty = newListButton(tr("Re&move Property"), false, this);
-    removeWithDelete(m_propertyTable, m_removeProperty);
     connect(m_addProperty, &QPushButton::clicked, this, &ServicesPage::addProperty);
-    connect(m_removeProperty, &QPushButton::clicked, this,
-            [this] { m_properties->remove(m_propertyTable->currentIndex().row()); });
+    const auto removal = [this](const QVector<int> &rows) { m_properties->remove(rows); };
+    auto *rows = new RowActions(m_propertyTable, document(), {{}, false, removal, false});
+    connect(m_removeProperty, &QPushButton::clicked, rows, &RowActions::remove);
     return newTablePart(m_propertyTable, {m_addProperty, m_removeProperty});
 }
 
@@ -110,10 +109,7 @@ void ServicesPage::refresh() {
 
 void ServicesPage::addProperty() {
     const int row = int(m_properties->keys().indexOf(m_properties->add()));
-    const QModelIndex cell = m_properties->index(row, PropertiesModel::Name);
-    m_propertyTable->setFocus();
-    m_propertyTable->setCurrentIndex(cell);
-    m_propertyTable->edit(cell);
+    editAlone(m_propertyTable, m_properties->index(row, PropertiesModel::Name));
 }
 
 void ServicesPage::add() {
@@ -123,10 +119,7 @@ void ServicesPage::add() {
     Tano::PackageService service;
     service.name = Zel::toUtf8(name);
     document().edit({appended(FieldPath().field("services"), service)});
-    const QModelIndex cell = m_model->index(m_model->rowCount() - 1, ServicesModel::Name);
-    m_table->setFocus();
-    selectAlone(m_table, cell);
-    m_table->edit(cell);
+    editAlone(m_table, m_model->index(m_model->rowCount() - 1, ServicesModel::Name));
 }
 
 bool ServicesPage::showField(const FieldPath &path) {
@@ -137,8 +130,9 @@ bool ServicesPage::showField(const FieldPath &path) {
         selectAlone(m_table, m_model->index(row, m_model->columnOf(fieldName(path, 1))));
     const bool isProperty = fieldName(path, 1) == QLatin1String("properties");
     if (isProperty)
-        m_propertyTable->setCurrentIndex(m_properties->index(
-            int(m_properties->keys().indexOf(fieldKey(path, 1))), PropertiesModel::Value));
+        selectAlone(m_propertyTable,
+                    m_properties->index(int(m_properties->keys().indexOf(fieldKey(path, 1))),
+                                        PropertiesModel::Value));
     (isProperty ? m_propertyTable : m_table)->setFocus(Qt::OtherFocusReason);
     return true;
 }

@@ -61,6 +61,14 @@ void selectAlone(QAbstractItemView *view, const QModelIndex &index) {
     view->setSelectionMode(mode);
 }
 
+void editAlone(QAbstractItemView *view, const QModelIndex &cell) {
+    if (!cell.isValid())
+        return;
+    view->setFocus();
+    selectAlone(view, cell);
+    view->edit(cell);
+}
+
 RowActions::RowActions(QAbstractItemView *view, Document &document, RowList list)
     : QObject(view)
     , m_view(view)
@@ -74,10 +82,11 @@ RowActions::RowActions(QAbstractItemView *view, Document &document, RowList list
             add(tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut), &RowActions::cut);
     m_needRows +=
         add(tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy), &RowActions::copy);
-    add(tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &RowActions::paste);
+    if (m_list.hasEntries)
+        add(tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &RowActions::paste);
     if (hasAll)
         m_needRows +=
-            add(tr("D&uplicate"), {QKeySequence(Qt::CTRL | Qt::Key_D)}, &RowActions::duplicate);
+            add(tr("Dup&licate"), {QKeySequence(Qt::CTRL | Qt::Key_D)}, &RowActions::duplicate);
     m_needRows += add(tr("&Delete"), {QKeySequence(Qt::Key_Delete)}, &RowActions::remove);
     if (m_list.isOrdered) {
         addSeparator();
@@ -174,6 +183,13 @@ void RowActions::select(int first, int count) {
 }
 
 void RowActions::copy() {
+    if (!m_list.hasEntries) {
+        QStringList lines;
+        for (const int row : selectedRows())
+            lines.append(shownText(viewIndex(*m_view, row)));
+        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+        return;
+    }
     const QVector<FieldValue> all = entries();
     QVector<FieldValue> copied;
     QStringList lines;

@@ -19,6 +19,8 @@ class Document;
 
 /// Selects an item of a view and nothing else, whatever keys are held down.
 void selectAlone(QAbstractItemView *view, const QModelIndex &index);
+/// Selects a cell and opens its editor. Does nothing without one: its entry was refused.
+void editAlone(QAbstractItemView *view, const QModelIndex &cell);
 
 /// The list of a package whose entries are the rows of a view.
 struct RowList {
@@ -27,6 +29,8 @@ struct RowList {
     /// Removes rows whose entries are not all that goes with them, such as languages with their
     /// texts. Such rows are neither cut nor duplicated.
     std::function<void(const QVector<int> &rows)> removal = {};
+    /// False for rows that are only removed, and copied as text.
+    bool hasEntries = true;
 };
 
 /// Cut, copy, paste, duplicate, delete and move for the selected rows of a view, by shortcut,

@@ -32,6 +32,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QTreeView>
@@ -73,9 +74,11 @@ MainWindow::~MainWindow() {
         focus->clearFocus();
     m_document.closeRun();
     m_document.undoStack()->disconnect(this);
-    // They look at the document until they are gone.
-    while (auto *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
-        delete child;
+    // They look at the document until they are gone. The other children belong to the layout.
+    for (QDockWidget *dock : findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        delete dock;
+    delete centralWidget();
+    setStatusBar(nullptr);
 }
 
 void MainWindow::addPages() {
@@ -153,7 +156,7 @@ void MainWindow::addDocks() {
     QDockWidget *historyDock = addDock(tr("History"), "history", history);
 
     resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
-    resizeDocks({problems}, {150}, Qt::Vertical);
+    resizeDocks({problems}, {190}, Qt::Vertical);
     find->hide();
 }
 
@@ -285,6 +288,10 @@ bool MainWindow::event(QEvent *event) {
     // A file on a network drive may change without notice.
     if (event->type() == QEvent::WindowActivate)
         m_document.checkDisk();
+    // The tab bar of docks is made when the first two become tabs.
+    if (event->type() == QEvent::ChildPolished &&
+        qobject_cast<QTabBar *>(static_cast<QChildEvent *>(event)->child()))
+        setTabOrderOf(*this);
     return QMainWindow::event(event);
 }
 

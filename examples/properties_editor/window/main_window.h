@@ -46,6 +46,8 @@ public:
     void restore();
     /// Keeps unsaved edits in a folder until they are saved, and locks the open file there.
     void keepEditsIn(const QString &folder);
+    /// Null before keepEditsIn().
+    Recovery *recovery() const { return m_recovery.get(); }
     /// Offers to open the packages whose edits another window left there.
     void offerLeftovers();
 

@@ -3,6 +3,7 @@
 #include "color_scheme.h"
 #include "file_actions.h"
 #include "find_panel.h"
+#include "list_menu.h"
 #include "page_stack.h"
 #include "pages/page.h"
 #include "problems_panel.h"
@@ -26,6 +27,7 @@ void MainWindow::addMenus() {
     edit->addActions(undoing);
     edit->addSeparator();
     addFindActions(edit);
+    new ListMenu(edit);
 
     QMenu *problems = menuBar()->addMenu(tr("&Problems"));
     problems->addAction(tr("&Next Problem"), m_problemsPanel, &ProblemsPanel::showNext)
@@ -61,7 +63,7 @@ void MainWindow::addFindActions(QMenu *menu) {
         ->setShortcut(QKeySequence::Find);
     menu->addAction(tr("Find &Next"), m_findPanel, &FindPanel::showNext)
         ->setShortcut(QKeySequence::FindNext);
-    menu->addAction(tr("Find &Previous"), m_findPanel, &FindPanel::showPrevious)
+    menu->addAction(tr("Find Pre&vious"), m_findPanel, &FindPanel::showPrevious)
         ->setShortcut(QKeySequence::FindPrevious);
 }
 

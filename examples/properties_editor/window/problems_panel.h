@@ -4,17 +4,17 @@
 
 #include <QWidget>
 
-class QVBoxLayout;
-class QLabel;
-class QMenu;
-class QScrollArea;
+class QBoxLayout;
 class QTreeView;
 
 namespace Editor {
 
+class ProblemDetails;
+class ProblemFilter;
 class ProblemsModel;
 
-/// The problems of the package, and of the selected one its explanation, its remedy and its fixes.
+/// The problems of the package, filtered and sorted as the user wants, and the details of the
+/// current one.
 class ProblemsPanel : public QWidget {
     Q_OBJECT
 
@@ -36,18 +36,27 @@ Q_SIGNALS:
     void fieldWanted(const QString &path);
 
 private:
+    QBoxLayout *newFilterLine();
+    void setUpView();
+    void addActions();
+    void sort(int column, Qt::SortOrder order);
     void showBeside(int distance);
     void refresh();
+    void fix(const QString &title);
+    void ignoreSelected();
+    void copySelected();
     void showMenu(const QPoint &place);
-    void addFixes(QMenu &menu);
-    /// The problem that is selected; null for none.
-    const Zel::PackageModel::Issue *current() const;
+    /// The selected problems in the order of the list; the current one while none is selected.
+    QVector<Zel::PackageModel::Issue> selected() const;
+    /// The problem of a row; null for none.
+    const Zel::PackageModel::Issue *issueOf(const QModelIndex &index) const;
 
     Document &m_document;
+    ProblemFilter *m_filter;
     QTreeView *m_view;
-    QScrollArea *m_details;
-    QLabel *m_explanation;
-    QVBoxLayout *m_fixes;
+    ProblemDetails *m_details;
+    int m_sortedColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
 
 } // namespace Editor

@@ -73,8 +73,14 @@ void setTabOrderOf(QMainWindow &window) {
     Stops stops;
     stops.add(window.centralWidget());
     const auto docks = window.findChildren<QDockWidget *>();
-    for (QDockWidget *dock : docks)
-        stops.add(dock);
+    for (QDockWidget *dock : docks) {
+        if (!dock->isFloating())
+            stops.add(dock);
+    }
+    // Of docks that are tabs; below their pages.
+    const auto bars = window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QTabBar *bar : bars)
+        stops.add(bar);
     stops.add(window.statusBar());
     stops.apply();
 }

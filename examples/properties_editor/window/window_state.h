@@ -4,7 +4,8 @@ class QMainWindow;
 
 namespace Editor {
 
-// The place and the docks of the window, and the page that it shows, in the settings.
+// The place and the docks of the window, its splitters and columns, and the page that it shows, in
+// the settings.
 
 void saveWindowState(const QMainWindow &window, int page);
 /// Returns the page; -1 if nothing was saved. A window that would not be on a screen is moved and

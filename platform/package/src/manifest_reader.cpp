@@ -101,7 +101,7 @@ ManifestFailure feedAll(ManifestParser &parser, Source &source, std::size_t maxP
 
 } // namespace
 
-struct ManifestReader::State {
+struct TANO_PACKAGE_NO_EXPORT ManifestReader::State {
     Positions positions;
     ManifestFailure failure;
     FieldPositions fields;

@@ -19,7 +19,7 @@ QString tableOf(const QVector<Rule> &rules, const Console &console) {
                      {QCoreApplication::translate("zel-package", "severity")},
                      {QCoreApplication::translate("zel-package", "message")}});
     for (const Rule &rule : rules)
-        table.addRow({{rule.id}, {wordOf(rule.severity)}, {messageForm(rule)}});
+        table.addRow({{rule.id}, {severityWord(rule.severity)}, {messageForm(rule)}});
     return table.toText(console, 0);
 }
 

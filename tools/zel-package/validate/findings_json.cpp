@@ -46,7 +46,7 @@ public:
                             {QStringLiteral("line"), qint64(finding.position.line)},
                             {QStringLiteral("column"), qint64(finding.position.column)},
                             {QStringLiteral("id"), finding.ruleId},
-                            {QStringLiteral("severity"), wordOf(finding.severity)},
+                            {QStringLiteral("severity"), severityWord(finding.severity)},
                             {QStringLiteral("field"), finding.field},
                             {QStringLiteral("text"), finding.text},
                             {QStringLiteral("fixes"), jsonOf(finding.fixes)}});

@@ -59,7 +59,7 @@ QJsonObject ruleObject(const Rule &rule) {
             {QStringLiteral("fullDescription"), messageObject(rule.explanation)},
             {QStringLiteral("help"), textObject(rule.remedy)},
             {QStringLiteral("defaultConfiguration"),
-             QJsonObject{{QStringLiteral("level"), wordOf(rule.severity)}}}};
+             QJsonObject{{QStringLiteral("level"), severityWord(rule.severity)}}}};
 }
 
 QJsonObject toolObject(const QVector<Rule> &rules) {
@@ -167,7 +167,7 @@ private:
         QJsonObject result{
             {QStringLiteral("ruleId"), finding.ruleId},
             {QStringLiteral("ruleIndex"), int(m_ruleIds.indexOf(finding.ruleId))},
-            {QStringLiteral("level"), wordOf(finding.severity)},
+            {QStringLiteral("level"), severityWord(finding.severity)},
             {QStringLiteral("message"), messageObject(finding.text)},
             {QStringLiteral("locations"), QJsonArray{locationObject(file, finding)}}};
         // Identifies the finding even if its line moves.

@@ -38,12 +38,12 @@ public:
         SourceExcerpt source(manifest.content);
         for (const ManifestFinding &finding : manifest.findings) {
             const Style style = styleOf(finding.severity);
-            m_console.print(printable(manifest.file) % u':' %
-                            QString::number(finding.position.line) % u':' %
-                            QString::number(finding.position.column) % QStringLiteral(": ") %
-                            m_console.styled(wordOf(finding.severity), style) %
-                            QStringLiteral(": ") % printable(finding.text) % QStringLiteral(" ") %
-                            m_console.styled(u'[' % finding.ruleId % u']', Style::Faint) % u'\n');
+            m_console.print(Zel::PackageModel::reportLine(
+                                printable(manifest.file), finding.position,
+                                m_console.styled(severityWord(finding.severity), style),
+                                printable(finding.text),
+                                m_console.styled(u'[' % finding.ruleId % u']', Style::Faint)) %
+                            u'\n');
             if (!manifest.content.empty())
                 m_console.print(source.at(finding.position, style, m_console));
         }

@@ -106,25 +106,14 @@ QStringList idsOf(const QVector<Rule> &rules) {
     return ids;
 }
 
-QLatin1String wordOf(Severity severity) {
-    switch (severity) {
-    case Severity::Note:
-        return QLatin1String("note");
-    case Severity::Warning:
-        return QLatin1String("warning");
-    case Severity::Error:
-        break;
-    }
-    return QLatin1String("error");
-}
-
 QStringList severityWords() {
-    return {wordOf(Severity::Error), wordOf(Severity::Warning), wordOf(Severity::Note)};
+    return {severityWord(Severity::Error), severityWord(Severity::Warning),
+            severityWord(Severity::Note)};
 }
 
 std::optional<Severity> severityOf(const QString &word) {
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        if (word == wordOf(severity))
+        if (word == severityWord(severity))
             return severity;
     }
     return {};
@@ -147,14 +136,14 @@ QString messageForm(const Rule &rule) {
 
 QString explanationOf(const Rule &rule, const Console &console) {
     return console.styled(rule.id, Style::Heading) % u' ' %
-           console.styled(u'(' % wordOf(rule.severity) % u')', Style::Faint) % u'\n' %
+           console.styled(u'(' % severityWord(rule.severity) % u')', Style::Faint) % u'\n' %
            indented(messageForm(rule), console) % u'\n' % indented(rule.explanation, console) %
            u'\n' % indented(rule.remedy, console) % exampleOf(rule);
 }
 
 QJsonObject ruleJson(const Rule &rule) {
     QJsonObject object{{QStringLiteral("id"), rule.id},
-                       {QStringLiteral("severity"), wordOf(rule.severity)},
+                       {QStringLiteral("severity"), severityWord(rule.severity)},
                        {QStringLiteral("message"), messageForm(rule)},
                        {QStringLiteral("explanation"), rule.explanation},
                        {QStringLiteral("remedy"), rule.remedy}};

@@ -2,7 +2,7 @@
 
 #include "console/console.h"
 
-#include <packagemodel/package_issues.h>
+#include <packagemodel/issue_report.h>
 
 #include <QJsonObject>
 #include <QString>
@@ -28,8 +28,7 @@ QStringList idsOf(const QVector<Zel::PackageModel::Rule> &rules);
 /// The ids of rules that can be ignored or given another severity.
 QStringList changeableRuleIds();
 
-/// "error", "warning" or "note", untranslated.
-QLatin1String wordOf(Zel::PackageModel::Severity severity);
+/// "error", "warning" and "note", in every language.
 QStringList severityWords();
 /// The severity with this name, or nullopt.
 std::optional<Zel::PackageModel::Severity> severityOf(const QString &word);

@@ -2,23 +2,23 @@
 
 #include "console/library_text.h"
 #include "console/text_diff.h"
-#include "ignore_comments.h"
 #include "manifest/manifest_source.h"
 #include "manifest_fixes.h"
 #include "report_rules.h"
 
+#include <packagemodel/ignore_comments.h>
+#include <packagemodel/issue_report.h>
 #include <packagemodel/package_info_model.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <map>
-#include <tuple>
 
 namespace ZelPackage {
 namespace {
 
+using Zel::PackageModel::IgnoreComments;
 using Zel::PackageModel::Issue;
 using Zel::PackageModel::IssueOptions;
 using Zel::PackageModel::IssueVisit;
@@ -174,31 +174,28 @@ bool Validation::save(const Target &target, const std::string &content,
 
 namespace {
 
-// The positions of unknown elements and attributes.
-class NodePositions {
-public:
-    explicit NodePositions(const Tano::ManifestReader &reader)
-        : m_reader(reader) {}
-
-    Tano::SourcePosition of(const Tano::UnknownNode &node) {
-        if (m_positions.empty()) {
-            for (const Tano::UnknownNode &known : m_reader.unknownNodes())
-                m_positions.emplace(keyOf(known), known.position);
-        }
-        return m_positions[keyOf(node)];
+// The rules of comments that were not used and the ones that do not exist. They have no position;
+// their field is the one that follows the comment.
+std::vector<ManifestFinding> findingsOf(const IgnoreComments &comments) {
+    const QStringList known = changeableRuleIds();
+    std::vector<ManifestFinding> findings;
+    for (const IgnoreComments::Entry &entry : comments.entries()) {
+        const QString field = Zel::fromUtf8(entry.element.toString());
+        if (!known.contains(entry.rule))
+            findings.push_back({{},
+                                ignoreUnknownRuleId,
+                                Severity::Warning,
+                                field,
+                                unknownRule(entry.rule, known)});
+        else if (!entry.isUsed)
+            findings.push_back({{},
+                                ignoreUnusedRuleId,
+                                Severity::Note,
+                                field,
+                                messageOf(ignoreUnusedRuleId).arg(entry.rule)});
     }
-
-private:
-    using Key = std::tuple<Tano::FieldPath, std::string, std::string, bool, int>;
-
-    static Key keyOf(const Tano::UnknownNode &node) {
-        return {node.parentPath, node.parent, node.name,
-                node.kind == Tano::UnknownNode::Kind::Element, node.index};
-    }
-
-    const Tano::ManifestReader &m_reader;
-    std::map<Key, Tano::SourcePosition> m_positions;
-};
+    return findings;
+}
 
 } // namespace
 
@@ -211,7 +208,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
         manifest.findings.push_back(std::move(finding));
     };
     QHash<QString, int> counts;
-    NodePositions nodes(reader);
+    Zel::PackageModel::IssuePlaces places(reader);
     bool isTruncated = false;
     const auto visit = [&](const Issue &issue) {
         if (++counts[issue.id] > mostFindings) {
@@ -219,8 +216,8 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
             return IssueVisit::SkipRule;
         }
         if (!m_baseline || !m_baseline->take(target.name, issue.id, issue.path))
-            add({issue.node ? nodes.of(*issue.node) : Tano::SourcePosition(), issue.id,
-                 issue.severity, issue.path, issue.plainText(), issue.fixes});
+            add({places.of(issue), issue.id, issue.severity, issue.path, issue.plainText(),
+                 issue.fixes});
         return IssueVisit::Continue;
     };
     IgnoreComments ignored(manifest.record);
@@ -236,7 +233,7 @@ void Validation::collect(const Target &target, const Tano::ManifestReader &reade
         reportTruncated(target.name);
         return;
     }
-    auto unused = ignored.findings();
+    auto unused = findingsOf(ignored);
     const auto left = unusedEntries(target.name);
     unused.insert(unused.end(), left.begin(), left.end());
     for (const ManifestFinding &finding : unused) {

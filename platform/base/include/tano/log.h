@@ -6,8 +6,15 @@
 
 #include <utility>
 
-/// Diagnostics in named categories, on top of Qt's logging categories: users filter them as in any
-/// Qt program, for example with QT_LOGGING_RULES="PackageModel.Package.debug=true".
+/// Diagnostics in named categories, on top of Qt's logging categories.
+///
+/// Users filter them as in any Qt program, for example with
+/// `QT_LOGGING_RULES="PackageModel.Package.debug=true"`.
+///
+/// ```cpp
+/// Tano::log::error("Editor.Files", "open", QStringLiteral("no such file"));
+/// Tano::log::verbose("Editor.Files", "open", [&] { return package.name(english); });
+/// ```
 namespace Tano::log {
 
 /// Severity of a line, on a scale from 0 (nothing) to 6 (everything).
@@ -21,21 +28,21 @@ enum class Level {
     Debug = 6
 };
 
-/// Tells whether a line of this level in this category would be written. Verbose and debug lines
-/// are off unless a filter rule switches the category's debug messages on.
+/// Whether a line of this level in this category would be written. Verbose and debug lines are off
+/// unless a filter rule enables the category's debug messages.
 TANO_BASE_EXPORT bool isEnabled(const char *category, Level level);
 
-/// Writes "operation: message" in the category, if that is enabled at this level. No level ends
-/// the program.
+/// Writes "operation: message" if the category is enabled at this level. No level ends the program.
 TANO_BASE_EXPORT void write(const char *category, Level level, const char *operation,
                             const QString &message);
 
+/// Writes an error line.
 inline void error(const char *category, const char *operation, const QString &message) {
     write(category, Level::Error, operation, message);
 }
 
-/// Writes what `compose()` returns, a QString; `compose` is called only when verbose lines of the
-/// category are enabled.
+/// Writes the QString that `compose()` returns, and calls it only if verbose lines of the category
+/// are enabled.
 template<typename Compose>
 void verbose(const char *category, const char *operation, Compose &&compose) {
     if (isEnabled(category, Level::Verbose))

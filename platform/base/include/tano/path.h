@@ -6,29 +6,31 @@
 #include <string>
 #include <vector>
 
-/// Where an application's data files are. All paths are absolute and in UTF-8.
+/// Finds the data files of an application. All paths are absolute and in UTF-8.
+///
+/// ```cpp
+/// const std::string robots = Tano::path::findData("zentrix", "robots", false);
+/// ```
 namespace Tano::path {
 
-/// The directories that may hold data of `application`, those searched first in front; only
-/// directories that exist are listed.
+/// The existing directories that may hold data of `application`, in the order of the search:
 ///
-/// They are, in this order: the entries of the environment variable APPLICATION_DATA_PATH (the
-/// application's name in upper case, entries separated as in PATH; an entry is itself the data
-/// directory), the user's data directory, the system's data directories (both as
-/// QStandardPaths::GenericDataLocation has them), and the data beside this library, which are the
-/// installed data or, in a build tree, those of the source tree.
-///
-/// `excludeUser` leaves the user's own data directory out.
+/// 1. the entries of the environment variable APPLICATION_DATA_PATH (the application's name in
+///    upper case; entries are separated as in PATH, and each is a data directory itself),
+/// 2. the user's data directory, unless `excludeUser` is set,
+/// 3. the system's data directories (2 and 3 as in QStandardPaths::GenericDataLocation),
+/// 4. the data installed with this library or, in a build tree, the data of the source tree.
 TANO_BASE_EXPORT std::vector<std::string> dataDirectories(const std::string &application,
                                                           bool excludeUser);
 
-/// Those of the environment variable alone; nothing where it is not set, even to the empty text.
+/// The directories named by the environment variable alone; nullopt if it is not set. A variable
+/// that is set to the empty text names none.
 TANO_BASE_EXPORT std::optional<std::vector<std::string>>
 environmentDirectories(const std::string &application);
 
 /// The absolute path of the first file or folder named `relativePath` in dataDirectories(), or the
-/// empty text when there is none. A path that is absolute, or that leads out of the data directory
-/// with "..", is not found.
+/// empty text if there is none. Absolute paths, and paths that leave the data directory with "..",
+/// are never found.
 TANO_BASE_EXPORT std::string findData(const std::string &application,
                                       const std::string &relativePath, bool excludeUser);
 

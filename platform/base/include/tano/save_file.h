@@ -11,71 +11,87 @@ class QFile;
 
 namespace Tano {
 
-/// The content that a file had at one moment. A default fingerprint is that of no file at all.
+/// Identifies the content of a file at one moment. A default fingerprint means "no file".
 ///
-/// Two fingerprints are equal if the contents were: a file that another program rewrote with the
-/// same bytes has not changed, and an edit that keeps size and time does not go unnoticed.
+/// Fingerprints compare the content alone: rewriting a file with the same bytes does not change its
+/// fingerprint, while an edit that keeps size and time does.
 struct TANO_BASE_EXPORT FileFingerprint {
-    std::int64_t size = -1; // bytes
-    std::string digest;     // SHA-256, 32 bytes
+    std::int64_t size = -1; ///< in bytes; -1 for no file
+    std::string digest;     ///< SHA-256, 32 bytes
 
+    /// The fingerprint of a file with this content.
     static FileFingerprint ofContent(const std::string &content);
-    /// Reads the file at `path`, as in FileToSave; a file that cannot be read counts as none.
+    /// Reads the file at `path`, as in FileToSave; "no file" if it cannot be read.
     static FileFingerprint ofFile(const std::string &path);
 
+    /// @{
+    /// Compares size and digest.
     friend bool operator==(const FileFingerprint &a, const FileFingerprint &b) {
         return a.size == b.size && a.digest == b.digest;
     }
     friend bool operator!=(const FileFingerprint &a, const FileFingerprint &b) { return !(a == b); }
+    /// @}
 };
 
-/// A file to save, and on which conditions.
+/// A file to save, and the conditions for saving it.
 struct FileToSave {
+    /// How to treat a symbolic link.
     enum class Links { Follow, Refuse };
 
-    /// In UTF-8. Bytes that are not UTF-8 name the file that has exactly this name, since file
-    /// systems take any bytes.
+    /// The path in UTF-8. Since file systems accept any bytes, bytes that are not UTF-8 are used as
+    /// they are.
     std::string path;
-    /// The new content; without one, the file is removed if it exists.
+    /// The new content; if nullopt, the file is removed if it exists.
     std::optional<std::string> bytes = {};
-    /// If given, the file is saved only while it has this content.
+    /// If set, the file is saved only if it still has this content.
     std::optional<FileFingerprint> expected = {};
-    /// Whether a symbolic link at `path` is followed or makes the save fail; one is never removed.
+    /// Whether a symbolic link at `path` is followed or makes the save fail. A link is never
+    /// removed.
     Links links = Links::Follow;
 };
 
-/// How saving ended.
+/// The outcome of saving.
 struct SaveResult {
-    /// Why it failed, in one sentence that names the file; empty after a success.
+    /// Why it failed, in one sentence that names the file; empty on success.
     std::string error = {};
-    /// It failed because a file did not have the content that was expected.
+    /// Whether it failed because a file did not have the expected content.
     bool hasConflict = false;
 
+    /// Whether the file was saved.
     explicit operator bool() const { return error.empty(); }
 };
 
-/// Makes `bytes` the content of a file: at any moment, also after a crash, it has either the old
-/// content or the new one. A failure leaves it unchanged.
+/// Replaces the content of a file atomically: at any moment, even after a crash, the file has
+/// either the old content or the new one. A failure leaves it unchanged.
 ///
-/// The bytes are written to a file beside it, synced, and renamed over it. Mode, owner, group,
-/// access control list and extended attributes are preserved, and at no moment can anyone read the
-/// new content who cannot read the old one. Where a rename would change them, or would split hard
-/// links, the file is instead overwritten while the synced copy beside it remains.
+/// The bytes are written to a temporary file beside it, synced, and renamed over it. Mode, owner,
+/// group, access control list and extended attributes are preserved, and nobody who cannot read the
+/// old content can read the new one at any moment. Where a rename would change these attributes or
+/// split hard links, the file is overwritten instead, while the synced copy remains beside it.
 ///
-/// The file beside it is named ".NAME.saving-" and eight random characters. One that a killed
-/// process has left behind is removed by the next save of the same file that succeeds.
+/// The temporary file is named ".NAME.saving-" plus eight random characters. The next successful
+/// save of the same file removes one that a killed process has left.
 ///
-/// Only regular files are saved to, and only if they may be written. Programs that save with this
-/// function wait for each other; after two seconds it gives up.
+/// Only regular files that may be written are saved. Programs that call this function for the same
+/// file wait for each other, for at most two seconds.
+///
+/// ```cpp
+/// const std::string path = fileName.toStdString();
+/// const Tano::FileFingerprint opened = Tano::FileFingerprint::ofFile(path);
+/// // while a user edits the manifest
+/// const Tano::SaveResult saved = Tano::saveFile({path, manifest, opened});
+/// if (saved.hasConflict)
+///     showMessage(QStringLiteral("Another program has changed the file."));
+/// ```
 [[nodiscard]] TANO_BASE_EXPORT SaveResult saveFile(const FileToSave &file);
 
-/// Saves several files, all or none: if one fails, those that were saved before it get their old
-/// content again. A crash in between can leave some old and some new.
+/// Saves all of several files or none: if one fails, those saved before it get their old content
+/// back. A crash in between can leave some files old and others new.
 [[nodiscard]] TANO_BASE_EXPORT SaveResult saveFiles(const std::vector<FileToSave> &files);
 
-/// Makes `bytes` the content of a file that the caller has opened for writing, and leaves its
-/// position behind them. After a failure, it gets its old content again if it can be read. A pipe
-/// is written to from where it is; a file open for appending is refused.
+/// Replaces the content of a file that the caller has opened for writing; its position is then at
+/// the end. After a failure the old content is restored if the file can be read. Pipes are written
+/// to as they are; a file opened for appending is refused.
 [[nodiscard]] TANO_BASE_EXPORT SaveResult saveToOpenFile(QFile &file, const std::string &bytes);
 
 } // namespace Tano

@@ -4,8 +4,15 @@
 
 #include <QStringList>
 
-/// The languages that the tool knows, and the editing of lists that hold one entry per language.
-/// All of it belongs to the user-interface thread.
+/// The known languages, and editing of lists with one entry per language. For the user-interface
+/// thread only.
+///
+/// ```cpp
+/// Zel::Language::LocalizedStrings names;
+/// Zel::Language::setValue(names, QStringLiteral("Thé"), french);
+/// for (const auto &[text, language] : names)
+///     out << language.uiName() << ": " << text; // -> French (France): Thé
+/// ```
 namespace Zel::Language {
 
 /// One text per language, in the order in which the languages were added.
@@ -17,44 +24,43 @@ using LocalizedStringLists = std::vector<std::pair<QStringList, RobotLanguage>>;
 /// the order of their registration.
 ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
 
-/// Those that the tool comes with, in ascending order of their codes.
+/// The languages of the built-in table, in ascending order of their codes.
 ZEL_LANGUAGE_EXPORT RobotLanguages builtInLanguages();
 
-/// Registers a descriptor for good, so that later look-ups of its code find it. Ignores an empty
-/// code; a code that is known already keeps its descriptor.
+/// Registers a descriptor permanently, so that later lookups of its code find it. Empty and known
+/// codes are ignored.
 ZEL_LANGUAGE_EXPORT void addPartialLanguage(const RobotLanguage &language);
 
-/// The known language with that code, else a new partial one that is known as long as the returned
-/// descriptor or a copy of it exists. An empty code gives a descriptor whose code is empty.
+/// The known language with this code, or a new partial one that stays known as long as the returned
+/// descriptor or a copy of it exists. An empty code gives a descriptor with an empty code.
 ///
-/// The models get their languages from here. A package therefore makes the codes of its manifest
+/// The models get their languages from this function: a package makes the codes of its manifest
 /// known, and they are forgotten with the last package, command or list that uses them.
 ZEL_LANGUAGE_EXPORT RobotLanguage languageInUse(const QString &isoCode);
 
-/// The language that stands in where a text is missing: en_US until setDefaultLanguage(), which
-/// ignores a language whose code is empty.
+/// The language to fall back to when a text is missing; en_US until setDefaultLanguage().
 ZEL_LANGUAGE_EXPORT RobotLanguage defaultLanguage();
+/// Changes defaultLanguage(); ignores a language with an empty code.
 ZEL_LANGUAGE_EXPORT void setDefaultLanguage(const RobotLanguage &language);
 
-/// Erases the entry equal to `language`, if any.
+/// Removes `language` from the list, if present.
 ZEL_LANGUAGE_EXPORT void removeLanguage(RobotLanguages &languages, const RobotLanguage &language);
 
-/// Replaces the text of `language`, or appends the pair where the language has none.
+/// Replaces the text of `language`, or appends one.
 ZEL_LANGUAGE_EXPORT void setValue(LocalizedStrings &values, const QString &text,
                                   const RobotLanguage &language);
 
-/// Appends to the list of `language`, which is made where the language has none.
+/// Appends to the list of `language`, and creates the list if needed.
 ZEL_LANGUAGE_EXPORT void addValue(LocalizedStringLists &values, const QString &value,
                                   const RobotLanguage &language);
-/// Inserts before the item at `index`, which is clamped to the list; the list is made where the
-/// language has none.
+/// Inserts before the item at `index`, which is clamped to the list; creates the list if needed.
 ZEL_LANGUAGE_EXPORT void insertValue(LocalizedStringLists &values, int index, const QString &value,
                                      const RobotLanguage &language);
-/// Replaces the item at `index`; does nothing for an index outside the list.
+/// Replaces the item at `index`; does nothing for an index out of range.
 ZEL_LANGUAGE_EXPORT void updateValue(LocalizedStringLists &values, int index, const QString &value,
                                      const RobotLanguage &language);
 /// Removes the item at `index`, and the language's entry with its last item; does nothing for an
-/// index outside the list.
+/// index out of range.
 ZEL_LANGUAGE_EXPORT void removeValue(LocalizedStringLists &values, int index,
                                      const RobotLanguage &language);
 

@@ -20,21 +20,37 @@ namespace Tano {
 struct FileFingerprint;
 struct PackageData;
 
-/// The record of one application package: everything that its manifest holds. UTF-8 throughout;
-/// texts are keyed by language code.
+/// The record of one application package: the content of its manifest. All texts are UTF-8 and
+/// keyed by language code.
 ///
-/// It is an implicitly shared value: copying counts a reference, and a change detaches. What a
-/// manifest holds beyond the fields (comments, and elements and attributes that this version does
-/// not know) travels with the record and is saved again.
+/// An implicitly shared value: a copy increments a reference count, a change detaches. Comments,
+/// and elements and attributes that this version does not know, are kept in the record and saved
+/// again.
+///
+/// ```cpp
+/// Tano::PackageInfo record;
+/// QFile file(fileName);
+/// if (!record.loadFromManifestFile(file))
+///     showMessage(QString::fromStdString(record.errorString()));
+/// record.setAuthor("Ines");
+/// record.saveToManifestFile(fileName.toStdString());
+/// ```
 class TANO_PACKAGE_EXPORT PackageInfo {
 public:
+    /// @{
+    /// The UID, which identifies the package.
     const std::string &uuid() const;
     void setUuid(const std::string &uuid);
+    /// @}
 
-    /// The package's version, a dotted number.
+    /// @{
+    /// The version of the package, a dotted number.
     const std::string &version() const;
     void setVersion(const std::string &version);
+    /// @}
 
+    /// @{
+    /// One of the package's plain texts.
     const std::string &typeVersion() const;
     void setTypeVersion(const std::string &typeVersion);
 
@@ -55,114 +71,148 @@ public:
 
     const std::string &path() const;
     void setPath(const std::string &path);
+    /// @}
 
+    /// The names by language code.
     const TextMap &names() const;
-    /// The name in a language; empty when there is none.
+    /// The name in a language; empty if there is none.
     const std::string &name(const std::string &code) const;
+    /// Sets the name in a language; an empty one is kept as such.
     void setName(const std::string &name, const std::string &code);
     /// Returns false if there is no name in that language.
     bool removeName(const std::string &code);
+    /// Removes the names in all languages.
     void clearNames();
 
+    /// The descriptions by language code.
     const TextMap &descriptions() const;
-    /// The description in a language; empty when there is none.
+    /// The description in a language; empty if there is none.
     const std::string &description(const std::string &code) const;
+    /// Sets the description in a language; an empty one is kept as such.
     void setDescription(const std::string &description, const std::string &code);
     /// Returns false if there is no description in that language.
     bool removeDescription(const std::string &code);
 
-    // The lists below keep the author's order. `insert` clamps its index to the list; `replace`,
-    // `remove` and `move` return false, and change nothing, for an index outside the list. `move`
-    // takes an entry out and inserts it so that its new index is `to`.
-
-    /// The languages that the package runs in. Adding or inserting one that is there, or removing
-    /// one that is not, changes nothing.
+    /// The codes of the languages that the package runs in, in the author's order.
     const std::vector<std::string> &supportedLanguages() const;
+    /// @{
+    /// Edits the supported languages. Adding or inserting a language that is present, or removing
+    /// one that is absent, changes nothing. `insert` clamps its index to the list; `move` makes
+    /// `to` the new index of the language, and returns false if an index is out of range.
     void addSupportedLanguage(const std::string &code);
     void removeSupportedLanguage(const std::string &code);
     void insertSupportedLanguage(int index, const std::string &code);
     bool moveSupportedLanguage(int from, int to);
+    /// @}
 
-    /// The languages that the package is described in.
+    /// The codes of the languages that the package is described in, in the author's order.
     const std::vector<std::string> &descriptionLanguages() const;
+    /// @{
+    /// Edits the description languages, as for the supported ones.
     void addDescriptionLanguage(const std::string &code);
     void removeDescriptionLanguage(const std::string &code);
     void insertDescriptionLanguage(int index, const std::string &code);
     bool moveDescriptionLanguage(int from, int to);
+    /// @}
 
+    /// The robots that the package runs on, in the author's order.
     const std::vector<RobotRequirement> &robotRequirements() const;
+    /// @{
+    /// Edits a list. `insert` clamps its index to the list; `replace`, `remove` and `move` return
+    /// false and change nothing if an index is out of range. `move` makes `to` the new index of the
+    /// entry.
     void clearRobotRequirements();
     void addRobotRequirement(const RobotRequirement &requirement);
     bool replaceRobotRequirement(int index, const RobotRequirement &requirement);
     bool removeRobotRequirement(int index);
     void insertRobotRequirement(int index, const RobotRequirement &requirement);
     bool moveRobotRequirement(int from, int to);
+    /// @}
 
+    /// The versions of the middleware that the package runs on, in the author's order.
     const std::vector<BrioRequirement> &brioRequirements() const;
+    /// @{
+    /// Edits the Brio requirements, as for robot requirements.
     void clearBrioRequirements();
     void addBrioRequirement(const BrioRequirement &requirement);
     bool replaceBrioRequirement(int index, const BrioRequirement &requirement);
     bool removeBrioRequirement(int index);
     void insertBrioRequirement(int index, const BrioRequirement &requirement);
     bool moveBrioRequirement(int from, int to);
+    /// @}
 
+    /// The behaviors, in the author's order.
     const std::vector<BehaviorInfo> &behaviors() const;
+    /// @{
+    /// Edits the behaviors, as for robot requirements.
     void clearBehaviors();
     void addBehavior(const BehaviorInfo &behavior);
     bool replaceBehavior(int index, const BehaviorInfo &behavior);
     bool removeBehavior(int index);
     void insertBehavior(int index, const BehaviorInfo &behavior);
     bool moveBehavior(int from, int to);
+    /// @}
 
+    /// The dialogs, in the author's order.
     const std::vector<DialogInfo> &dialogs() const;
+    /// @{
+    /// Edits the dialogs, as for robot requirements.
     void clearDialogs();
     void addDialog(const DialogInfo &dialog);
     bool replaceDialog(int index, const DialogInfo &dialog);
     bool removeDialog(int index);
     void insertDialog(int index, const DialogInfo &dialog);
     bool moveDialog(int from, int to);
+    /// @}
 
+    /// The services, in the author's order.
     const std::vector<PackageService> &services() const;
+    /// @{
+    /// Edits the services, as for robot requirements.
     void clearServices();
     void addService(const PackageService &service);
     bool replaceService(int index, const PackageService &service);
     bool removeService(int index);
     void insertService(int index, const PackageService &service);
     bool moveService(int from, int to);
+    /// @}
 
-    /// Every language code that the record mentions, its behaviors and dialogs included.
+    /// All language codes in the record, including those in its behaviors and dialogs.
     std::set<std::string> languageCodes() const;
 
     /// Drops the names and descriptions in languages other than the description languages, those of
     /// the behaviors included, and the behaviors' tags, trigger sentences and loading responses in
-    /// languages other than the supported ones. What else a manifest holds within the texts of a
-    /// language goes with them.
+    /// languages other than the supported ones. Comments and unknown elements among the texts of a
+    /// dropped language are dropped too.
     void trimExtraInfo();
 
-    /// Reads the manifest in `file`: from its current position when it is open, else by opening it.
-    /// Returns false, keeps the record as it was and sets errorString() when that fails.
+    /// Reads a manifest, from the current position of `file` if it is open. On failure, returns
+    /// false, sets errorString() and leaves the record unchanged.
     bool loadFromManifestFile(QFile &file);
-    /// Reads a manifest from its text, with the same failures.
+    /// Reads a manifest from its text; failures as above.
     bool loadFromManifestContent(const std::string &content);
 
-    /// Saves to the file at `path`, all or nothing, as saveFile() does: after a failure, which
-    /// errorString() explains, an existing file is unchanged. Symbolic links are followed.
+    /// Saves to the file at `path` atomically, see saveFile(). On failure, returns false, sets
+    /// errorString() and leaves an existing file unchanged. Symbolic links are followed.
     bool saveToManifestFile(const std::string &path) const;
-    /// The same, but fails if the file no longer has the content that is `expected`, so that no
-    /// edit of another program is lost.
+    /// Like the above, but fails if the file does not have the `expected` content, so that no edit
+    /// of another program is lost.
     bool saveToManifestFile(const std::string &path, const FileFingerprint &expected) const;
-    /// The same for `file`; if the caller has opened it, it is written in place. One that is open
-    /// for appending is refused.
+    /// Saves to `file`, in place if the caller has opened it. A file opened for appending is
+    /// refused.
     bool saveToManifestFile(QFile &file) const;
-    /// The manifest's text; empty, with errorString() set, when a field holds what XML cannot.
+    /// The text of the manifest; empty, with errorString() set, if a field contains characters that
+    /// XML cannot represent.
     [[nodiscard]] std::string saveToManifestContent() const;
 
-    /// Why the last load or save of this object failed, in one sentence; empty when it succeeded.
+    /// Why the last load or save of this object failed, in one sentence; empty if it succeeded.
     const std::string &errorString() const;
 
-    /// True when both have the same content, what a manifest holds beyond the fields included.
+    /// @{
+    /// Compares the content, including comments and unknown elements and attributes.
     friend TANO_PACKAGE_EXPORT bool operator==(const PackageInfo &a, const PackageInfo &b);
     friend bool operator!=(const PackageInfo &a, const PackageInfo &b) { return !(a == b); }
+    /// @}
 
 private:
     friend class RecordAccess;
@@ -170,7 +220,7 @@ private:
     mutable std::string m_errorString;
 };
 
-/// Prints the record as its manifest, for people to read.
+/// Prints the manifest of the record, for debugging.
 TANO_PACKAGE_EXPORT std::ostream &operator<<(std::ostream &stream, const PackageInfo &package);
 
 } // namespace Tano

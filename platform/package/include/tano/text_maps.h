@@ -6,10 +6,9 @@
 
 namespace Tano {
 
-/// One UTF-8 text per key, in ascending order of the keys: a language code for most texts.
+/// One UTF-8 text per key, usually a language code, in ascending order of the keys.
 using TextMap = std::map<std::string, std::string>;
-/// One list of UTF-8 texts per key, in ascending order of the keys. A key stands here only while
-/// its list holds something.
+/// One list of UTF-8 texts per key, in ascending order of the keys. Empty lists have no key.
 using TextListMap = std::map<std::string, std::vector<std::string>>;
 
 } // namespace Tano

@@ -8,27 +8,34 @@
 
 namespace Mel {
 
-/// One model of robot, as its description tells.
+/// The description of one robot model.
+///
+/// ```cpp
+/// const QFileInfoList files = Zel::RobotModel::modelFilesInfoList({});
+/// const std::unique_ptr<Mel::Model> robot = Zel::RobotModel::model(files.at(0));
+/// robot->displayName(true); // -> Heron H1
+/// ```
 class ZEL_ROBOTMODEL_EXPORT Model {
 public:
-    /// The kind of a robot: its type, which is its family, and its model within that. No kind is
-    /// known beforehand; each gets its value when a description first speaks of it, and keeps it
-    /// until the process ends.
+    /// The kind of a robot: its type (its family) and its model within the family. Kinds are not
+    /// compiled in: each gets its value when a description first mentions it, for the lifetime of
+    /// the process.
     enum ROBOT_MODEL : int {};
 
-    /// The type of a kind, in UTF-8; empty for a value that is none.
+    /// The type of a kind, in UTF-8; empty for an unknown kind.
     static const std::string &robotTypeString(ROBOT_MODEL kind);
-    /// The model of a kind without its type, in UTF-8; empty for a value that is none.
+    /// The model of a kind without its type, in UTF-8; empty for an unknown kind.
     static const std::string &robotModelWithoutTypeString(ROBOT_MODEL kind);
 
     virtual ~Model();
     Model(const Model &) = delete;
     Model &operator=(const Model &) = delete;
 
-    /// What the makers call the model among themselves.
+    /// The internal name of the model.
     virtual QString name() const = 0;
+    /// The kind of the robot.
     virtual ROBOT_MODEL kind() const = 0;
-    /// What users know the model by: in full, or else by the short name of its family.
+    /// The name of the model for users: in full, or the short name of its family.
     virtual QString displayName(bool full) const = 0;
 
 protected:

@@ -7,18 +7,18 @@
 
 #include <memory>
 
-/// The robot models that are described in files: one JSON object a file, as docs/robot-models.md
-/// has it. All of it belongs to the user-interface thread.
+/// Reads descriptions of robot models from files with one JSON object each; docs/robot-models.md
+/// describes them. For the user-interface thread only.
 namespace Zel::RobotModel {
 
-/// The description files, "*.json", in `directory`, in ascending order of their names.
+/// The description files, `*.json`, in `directory`, in ascending order of their names.
 ///
-/// The empty text stands for the folder "robots" among the data of the application "zentrix": of
-/// the entries of ZENTRIX_DATA_PATH where that is set, even to nothing, else of all its data
-/// directories (Tano::path). A file hides those of the same name in later directories.
+/// An empty `directory` means the folder "robots" in the data directories of the application
+/// "zentrix" (Tano::path); if ZENTRIX_DATA_PATH is set, even to the empty text, in its entries
+/// only. A file hides those of the same name in later directories.
 ZEL_ROBOTMODEL_EXPORT QFileInfoList modelFilesInfoList(const QString &directory);
 
-/// The model that `file` describes; null when it cannot be read or is no description.
+/// The model that `file` describes; null if it cannot be read or is not a description.
 [[nodiscard]] ZEL_ROBOTMODEL_EXPORT std::unique_ptr<Mel::Model> model(const QFileInfo &file);
 
 } // namespace Zel::RobotModel

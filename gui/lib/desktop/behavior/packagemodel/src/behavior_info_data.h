@@ -14,7 +14,7 @@
 
 namespace Zel {
 
-struct BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
+struct PACKAGEMODEL_NO_EXPORT BehaviorInfoModel::Data : ChildData<BehaviorInfoModel> {
     Data(BehaviorInfoModel *behavior, const Tano::BehaviorInfo &info, PackageInfoModel *package);
     Data(BehaviorInfoModel *behavior, const Data &other);
 

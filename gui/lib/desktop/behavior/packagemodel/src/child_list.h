@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -121,6 +122,7 @@ public:
     /// The record, for changes except of its key. Marks the package's copy as stale, whether or not
     /// a notification follows.
     Record &edit() {
+        m_revision = nextRevision();
         if (m_list && !m_stale) {
             m_stale = true;
             m_list->noteChange(m_child);
@@ -149,7 +151,10 @@ public:
             m_list->replaceRecord(index, m_record);
     }
 
-    /// The list that contains the child, null if it has no package.
+    /// Of the record; no other record has or will have the same, even at the same address.
+    std::uint64_t revision() const { return m_revision; }
+
+    /// The list that contains the child; null if it has no package.
     ChildList<Child> *childList() const { return m_list; }
 
     /// Whether the child's removal is being announced; no package may add it meanwhile.
@@ -164,8 +169,14 @@ private:
         m_stale = false;
     }
 
+    static std::uint64_t nextRevision() {
+        static std::atomic<std::uint64_t> last{0};
+        return ++last;
+    }
+
     Child *m_child;
     Record m_record;
+    std::uint64_t m_revision = nextRevision();
     ChildList<Child> *m_list = nullptr;
     std::uint64_t m_label = 0; // ascending along the list, with gaps
     std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;

@@ -7,7 +7,7 @@
 
 namespace Zel {
 
-struct DialogInfoModel::Data : ChildData<DialogInfoModel> {
+struct PACKAGEMODEL_NO_EXPORT DialogInfoModel::Data : ChildData<DialogInfoModel> {
     using ChildData::ChildData;
 
     CachedTexts topics;

@@ -24,7 +24,7 @@ struct RequirementList {
         false; // whether the record's list equals them; a loaded one may spell versions differently
 };
 
-struct PackageInfoModel::Data {
+struct PACKAGEMODEL_NO_EXPORT PackageInfoModel::Data {
     explicit Data(PackageInfoModel *package, Tano::PackageInfo info = {});
 
     const Tano::PackageInfo &record() const { return m_record; }

@@ -6,7 +6,7 @@
 
 namespace Zel {
 
-struct ServiceInfoModel::Data : ChildData<ServiceInfoModel> {
+struct PACKAGEMODEL_NO_EXPORT ServiceInfoModel::Data : ChildData<ServiceInfoModel> {
     using ChildData::ChildData;
 };
 

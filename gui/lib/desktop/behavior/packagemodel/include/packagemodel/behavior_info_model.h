@@ -18,44 +18,54 @@ class PackageInfoModel;
 
 /// The observable model of one behavior of a package.
 ///
-/// It holds its record by value. A setter whose value is the current one does nothing; any other
-/// writes the record, updates what is derived from it, and notifies last.
+/// It holds its record by value. Setters do nothing if the value is unchanged; otherwise they write
+/// the record, update their cache and notify last. Texts and lists are kept per language,
+/// identified by its ISO code. A package owns the models added to it
+/// (PackageInfoModel::addBehavior()).
 ///
-/// Texts and lists are kept per language, found by the language's ISO code; a list keeps its order.
-/// Handed to a package, the model belongs to it (PackageInfoModel::addBehavior()).
+/// ```cpp
+/// package.addBehavior(QStringLiteral("greet"));
+/// BehaviorInfoModel *greet = package.behavior(QStringLiteral("greet"));
+/// greet->setNature(BehaviorInfoModel::natureInteractive());
+/// greet->addTriggerSentence(QStringLiteral("Hello"), english);
+/// ```
+///
+/// Insertions into its lists (insertTag() and its like) reach the package's record with
+/// PackageInfoModel::syncRecord() or the next change of a behavior.
 class PACKAGEMODEL_EXPORT BehaviorInfoModel : public QObject {
     Q_OBJECT
 
 public:
-    /// The nature of a behavior that has none: the null text.
+    /// No nature: the null text.
     static const QString &natureNone();
     /// The nature of a behavior that reacts to people.
     static const QString &natureInteractive();
-    /// The nature of a behavior that the robot runs on its own.
+    /// The nature of a behavior that the robot runs by itself.
     static const QString &natureSolitary();
 
-    /// The path as it is shown: the root behavior "." reads rootBehaviorPrettyPath(), any other
+    /// The path to show to users: rootBehaviorPrettyPath() for the root behavior ".", otherwise the
     /// path itself.
     static QString prettyPath(const QString &path);
     /// ". (root behavior)".
     static const QString &rootBehaviorPrettyPath();
 
-    /// A model of `info`. Its parent is `parent`, or `package` when that is null.
+    /// A model of a copy of `info`. Its QObject parent is `parent`, or `package` if that is null.
     explicit BehaviorInfoModel(const Tano::BehaviorInfo &info, PackageInfoModel *package = nullptr,
                                QObject *parent = nullptr);
-    /// A copy without a QObject parent, which keeps the parentPackage() of its source.
+    /// A copy without a QObject parent and with the same parentPackage().
     BehaviorInfoModel(const BehaviorInfoModel &other);
     ~BehaviorInfoModel() override;
     BehaviorInfoModel &operator=(const BehaviorInfoModel &) = delete;
 
-    /// The package that the behavior belongs to; null when there is none or it is gone.
+    /// The package of the behavior; null if it has none or the package was deleted.
     PackageInfoModel *parentPackage() const;
     /// Makes `package` the parentPackage() and the QObject parent. Does not notify.
     void setParentPackage(PackageInfoModel *package);
 
+    /// The record.
     Tano::BehaviorInfo toBehaviorInfo() const;
 
-    /// Where the behavior lies in the package; "." for the root behavior.
+    /// The path of the behavior in the package; "." for the root behavior.
     QString path() const;
     /// prettyPath() of path().
     QString prettyPath() const;
@@ -65,45 +75,59 @@ public:
     /// One of the natures above.
     QString nature() const;
 
-    /// The name in a language; the null text when there is none.
+    /// The name in a language; the null text if there is none.
     QString name(const RobotLanguage &lang) const;
+    /// The names in all languages.
     const Language::LocalizedStrings &names() const;
 
-    /// The description in a language; the null text when there is none.
+    /// The description in a language; the null text if there is none.
     QString description(const RobotLanguage &lang) const;
+    /// The descriptions in all languages.
     const Language::LocalizedStrings &descriptions() const;
 
+    /// The permissions that the behavior needs.
     QSet<QString> permissions() const;
     /// The permissions in the order of the record.
     QStringList permissionList() const;
+    /// Whether the behavior has this permission.
     bool hasPermission(const QString &permType) const;
 
-    /// Whether a user may ask for the behavior.
+    /// Whether users may request the behavior.
     bool isUserRequestable() const;
 
+    /// @{
+    /// The tags, in one language or in all.
     QStringList tags(const RobotLanguage &lang) const;
     const Language::LocalizedStringLists &languagesToTags() const;
+    /// @}
 
-    /// What a user may say to start the behavior.
+    /// @{
+    /// The sentences with which users start the behavior, in one language or in all.
     QStringList triggerSentences(const RobotLanguage &lang) const;
     const Language::LocalizedStringLists &languagesToTriggerSentences() const;
+    /// @}
 
-    /// What the robot may say while the behavior is loading.
+    /// @{
+    /// The sentences that the robot may say while the behavior is loading, in one language or in
+    /// all.
     QStringList loadingResponses(const RobotLanguage &lang) const;
     const Language::LocalizedStringLists &languagesToLoadingResponses() const;
+    /// @}
 
-    /// The conditions for a purpose, which is any text.
+    /// The conditions for a purpose, which can be any text.
     QStringList conditions(const QString &purpose) const;
     /// The purposes that have conditions, in ascending order.
     QStringList purposes() const;
 
-    /// Drops the names and descriptions in other languages than `descriptionLanguages`, and the
-    /// tags, trigger sentences and loading responses in other languages than `supportedLanguages`.
+    /// Drops the names and descriptions in languages other than `descriptionLanguages`, and the
+    /// tags, trigger sentences and loading responses in languages other than `supportedLanguages`.
     /// Does not notify.
     void trimExtraInfo(const RobotLanguages &descriptionLanguages,
                        const RobotLanguages &supportedLanguages);
 
 Q_SIGNALS:
+    /// @{
+    /// The value has changed.
     void userRequestableChanged(bool userRequestable);
     void permissionAdded(const QString &permType);
     void permissionRemoved(const QString &permType);
@@ -111,12 +135,18 @@ Q_SIGNALS:
     void natureUpdated(const QString &newNature);
     void behaviorNameUpdated(const QString &newName, const RobotLanguage &inLanguage);
     void behaviorDescriptionUpdated(const QString &newDesc, const RobotLanguage &inLanguage);
+    /// @}
 
-    // Behaviors have no categories yet; nothing sends these.
+    /// @{
+    /// Reserved for categories, which behaviors do not have yet; never sent.
     void categoryAdded(const QString &category);
     void categoryUpdated(int idx, const QString &newCategory);
     void categoryRemoved(int idx);
+    /// @}
 
+    /// @{
+    /// A list has changed. `Added` items are at the end; the package's record does not follow
+    /// `Inserted` items before PackageInfoModel::syncRecord().
     void tagAdded(const QString &tag, const RobotLanguage &inLanguage);
     void tagInserted(const QString &tag, const RobotLanguage &inLanguage, int idx);
     void tagUpdated(int idx, const QString &newTag, const RobotLanguage &inLanguage);
@@ -136,26 +166,31 @@ Q_SIGNALS:
     void conditionInserted(const QString &condition, const QString &purpose, int idx);
     void conditionUpdated(int conditionIdx, const QString &newCondition, const QString &purpose);
     void conditionRemoved(int conditionIdx, const QString &purpose);
+    /// @}
 
 public Q_SLOTS:
+    /// @{
+    /// Sets a value of the behavior.
     void setPath(const QString &path);
     void setNature(const QString &nature);
     void setName(const QString &name, const RobotLanguage &lang);
     void setDescription(const QString &desc, const RobotLanguage &lang);
     void setUserRequestable(bool userRequestable);
+    /// @}
 
-    /// Returns false when the permission is there already.
+    /// Adds a permission; returns false if the behavior has it already.
     bool addPermission(const QString &permType);
-    /// Returns false when there is no such permission.
+    /// Removes a permission; returns false if the behavior does not have it.
     bool removePermission(const QString &permType);
 
-    // Four kinds of lists with the same slots; each returns whether it changed the list.
-    //
-    // Adding and inserting refuse a value that the list has already, compared case-sensitively. An
-    // insertion clamps its index to the list and tells where the value ended up. Updating looks for
-    // no duplicate and notifies even when the value stays the same. Updating and removing refuse an
-    // index outside the list.
-
+    /// @{
+    /// Edits one of the four kinds of lists; returns whether the list changed.
+    ///
+    /// `add` and `insert` refuse a value that the list has already, compared case-sensitively.
+    /// `insert` clamps its index to the list and announces the actual position. The package's
+    /// record does not follow an insertion before PackageInfoModel::syncRecord(). `update` accepts
+    /// duplicates, and notifies even if the value is unchanged. `update` and `remove` refuse an
+    /// index out of range.
     bool addTag(const QString &tag, const RobotLanguage &lang);
     bool insertTag(const QString &tag, const RobotLanguage &lang, int idx);
     bool updateTag(int tagIdx, const QString &newTag, const RobotLanguage &lang);
@@ -175,13 +210,16 @@ public Q_SLOTS:
     bool insertCondition(const QString &condition, const QString &purpose, int idx);
     bool updateCondition(int conditionIdx, const QString &newCondition, const QString &purpose);
     bool removeCondition(int conditionIdx, const QString &purpose);
+    /// @}
 
-    /// Removes the name in a language, so that names() no longer lists it; announced as an update
-    /// to the empty text. Returns false if there is none.
+    /// @{
+    /// Removes the text in a language, which is announced as an update to the empty text. Returns
+    /// false if there is none.
     bool removeName(const RobotLanguage &lang);
-    /// The same for the description.
     bool removeDescription(const RobotLanguage &lang);
-    /// Adds a permission before the one at an index, which is clamped to the list.
+    /// @}
+    /// Adds a permission before the one at index `idx`, which is clamped to the list; returns false
+    /// if the behavior has it already.
     bool insertPermission(const QString &permType, int idx);
 
 private:

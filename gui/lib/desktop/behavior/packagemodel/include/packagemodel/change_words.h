@@ -4,16 +4,17 @@
 
 #include <functional>
 
-// Changes in words for people, in the language of the application. Values are plain text and may
-// hold any character, so that a terminal or rich text needs them escaped.
+/// @file
+/// Describes changes in the language of the application. Values are plain text with any characters:
+/// escape them for a terminal or rich text.
 
 namespace Zel::PackageModel {
 
-/// Passes on each edit of a package as one sentence without a period, such as
-/// `Name of “greet” in French changed from "Salut" to "Bonjour"`, and applies it.
+/// Applies each edit to the package after calling `visit` with its description: a sentence without
+/// a period, such as `Name of “greet” in French changed from "Salut" to "Bonjour"`.
 ///
-/// ```
-/// PackageInfoModel scratch(record);
+/// ```cpp
+/// PackageInfoModel scratch(opened);
 /// visitChanges(&scratch, edits(&opened, &edited), [&](const QString &line) { list += line; });
 /// ```
 PACKAGEMODEL_EXPORT void visitChanges(PackageInfoModel *package, const Edits &edits,
@@ -22,11 +23,12 @@ PACKAGEMODEL_EXPORT void visitChanges(PackageInfoModel *package, const Edits &ed
 /// A text in quotation marks, cut if it is long.
 PACKAGEMODEL_EXPORT QString excerpt(const QString &text);
 
-/// Two texts like that, each cut so that the first difference between them shows.
+/// Two texts in quotation marks, each cut so that it shows the first difference.
 struct Excerpts {
-    QString before;
-    QString after;
+    QString before; ///< of the first text
+    QString after;  ///< of the second text
 };
+/// Quotes and cuts two texts that differ.
 PACKAGEMODEL_EXPORT Excerpts excerpts(const QString &before, const QString &after);
 
 } // namespace Zel::PackageModel

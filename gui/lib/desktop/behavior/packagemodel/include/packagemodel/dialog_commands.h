@@ -6,62 +6,91 @@
 
 namespace Zel {
 
-/// The base of the commands that set one text of a dialog. Merges with later ones of the same id()
-/// for the same dialog name, whichever the package.
+/// The base of commands that set one text of a dialog. Merges with later commands with the same
+/// id() and dialog name, even of another package.
+///
+/// ```cpp
+/// stack.push(new DialogInfoModelNameCommand(&package, dialog, QStringLiteral("books"), true));
+/// ```
 class PACKAGEMODEL_EXPORT DialogInfoModelCommand : public DialogCommand, public MergeableCommand {
 public:
+    /// `isFinal` keeps later commands from merging into this one.
     DialogInfoModelCommand(PackageInfoModel *model, const QString &dialogName,
                            const QString &newValue, bool isFinal);
     ~DialogInfoModelCommand() override;
 
     void undo() override;
     void redo() override;
+    /// Merges a later command for the same text.
     bool mergeWith(const QUndoCommand *incoming) override;
     bool isFinalCommand() const override;
 
-    /// Sets the dialog's text; does nothing when the dialog is not there.
+    /// Sets the text of the dialog; does nothing if there is no such dialog.
     virtual void setValue(const QString &value) = 0;
 
 protected:
+    /// The text for redo().
     const QString &newValue() const { return m_edit.newValue; }
+    /// The text for undo().
     const QString &oldValue() const { return m_edit.oldValue; }
-    /// For the constructor of a subclass: what undo() writes, empty until then.
+    /// Sets the text for undo(), for constructors of subclasses. It is empty before.
     void setOldValue(const QString &oldValue) { m_edit.oldValue = oldValue; }
 
 private:
-    QString m_madeFor; // the dialog name when it was made
+    QString m_madeFor; // the dialog name at construction
     TextEdit m_edit;
 };
 
-/// Sets the topic name of a dialog, and finds the dialog under its new name from then on.
+/// Sets the topic name of a dialog, and finds the dialog by its new name from then on.
+///
+/// ```cpp
+/// stack.push(new DialogInfoModelNameCommand(&package, dialog, QStringLiteral("books"), true));
+/// ```
 class PACKAGEMODEL_EXPORT DialogInfoModelNameCommand : public DialogInfoModelCommand {
 public:
+    /// `isFinal` keeps later commands from merging into this one.
     DialogInfoModelNameCommand(PackageInfoModel *model, const QString &dialogName,
                                const QString &newName, bool isFinal);
 
+    /// The same for all commands of this class.
     int id() const override;
     void setValue(const QString &value) override;
 };
 
 /// Sets the type version of a dialog.
+///
+/// ```cpp
+/// const QString version = QStringLiteral("1.1");
+/// stack.push(new DialogInfoModelTypeVersionCommand(&package, dialog, version, true));
+/// ```
 class PACKAGEMODEL_EXPORT DialogInfoModelTypeVersionCommand : public DialogInfoModelCommand {
 public:
+    /// `isFinal` keeps later commands from merging into this one.
     DialogInfoModelTypeVersionCommand(PackageInfoModel *model, const QString &dialogName,
                                       const QString &newTypeVersion, bool isFinal);
 
+    /// The same for all commands of this class.
     int id() const override;
     void setValue(const QString &value) override;
 };
 
-/// Sets the path of a dialog's topic file in one language. Merges within the language; its text
-/// then tells the whole way from the first old path to the last new one.
+/// Sets the path of a dialog's topic file in one language. Merges within the language; the text of
+/// the step then names the first old path and the last new one.
+///
+/// ```cpp
+/// const QString file = QStringLiteral("dialogs/books_frf.top");
+/// stack.push(new DialogInfoModelTopicCommand(&package, dialog, french, file, true));
+/// ```
 class PACKAGEMODEL_EXPORT DialogInfoModelTopicCommand : public DialogInfoModelCommand {
 public:
+    /// `isFinal` keeps later commands from merging into this one.
     DialogInfoModelTopicCommand(PackageInfoModel *model, const QString &dialogName,
                                 const RobotLanguage &language, const QString &newTopicPath,
                                 bool isFinal);
 
+    /// The same for all commands of this class.
     int id() const override;
+    /// Merges a later command for the same text.
     bool mergeWith(const QUndoCommand *incoming) override;
     void setValue(const QString &value) override;
 
@@ -72,8 +101,13 @@ private:
 };
 
 /// Removes a dialog's topic file in one language.
+///
+/// ```cpp
+/// stack.push(new DialogInfoModelRemoveTopicCommand(&package, dialog, french));
+/// ```
 class PACKAGEMODEL_EXPORT DialogInfoModelRemoveTopicCommand : public DialogCommand {
 public:
+    /// Removes the topic file of `language`.
     DialogInfoModelRemoveTopicCommand(PackageInfoModel *model, const QString &dialogName,
                                       const RobotLanguage &language);
 

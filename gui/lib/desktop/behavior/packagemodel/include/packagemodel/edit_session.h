@@ -8,49 +8,47 @@
 
 namespace Zel::PackageModel {
 
-/// Edits that no file has yet, and the manifest that they apply to.
+/// Edits that are not saved yet, and the manifest that they apply to.
 struct UnsavedEdits {
     /// The absolute path of the manifest; empty for a package that was never saved.
     QString fileName;
-    /// The manifest that the edits apply to, for a package that was never saved; else empty.
+    /// The manifest that the edits apply to, if the package was never saved; otherwise empty.
     QByteArray manifest;
-    /// The SHA-256 digest of the manifest that the edits apply to, in hexadecimal digits. A file
-    /// with another one was changed since.
+    /// The SHA-256 digest of the manifest that the edits apply to, in hexadecimal digits. If the
+    /// file has a different one, it was changed since.
     QByteArray digest;
     QDateTime time; ///< when the last edit was kept; UTC, in seconds
-    Edits edits;
+    Edits edits;    ///< in order
 };
 
-/// As edits are, with the other members beside them: `{"format": 1, "manifest":
-/// "/.../manifest.xml", "sha256": "...", "time": "2026-11-21T12:00:00Z", "edits": [...]}`;
-/// schema/unsaved-edits.schema.json describes the form.
+/// Unsaved edits as JSON: `{"format": 1, "manifest": "/.../manifest.xml", "sha256": "...", "time":
+/// "2026-11-21T12:00:00Z", "edits": [...]}`; see schema/unsaved-edits.schema.json.
 PACKAGEMODEL_EXPORT QByteArray toJson(const UnsavedEdits &unsaved);
 
-/// Unsaved edits that were read, or why there are none.
+/// The outcome of reading unsaved edits.
 struct ParsedUnsavedEdits {
-    UnsavedEdits unsaved;
-    QString error; ///< one sentence that names the place; empty on success
+    UnsavedEdits unsaved; ///< empty on failure
+    QString error;        ///< one sentence with the position; empty on success
 };
 
 /// Reads what toJson() writes.
 PACKAGEMODEL_EXPORT ParsedUnsavedEdits unsavedEditsFromJson(const QByteArray &json);
 
-/// The digest of a manifest's bytes, as in UnsavedEdits.
+/// The digest of a manifest's bytes for UnsavedEdits.
 PACKAGEMODEL_EXPORT QByteArray manifestDigest(const QByteArray &manifest);
 
-/// The time during which an editor has a manifest open: a lock that other editors see, and a file
-/// that keeps the unsaved edits in case the editor ends without saving them.
+/// An editing session of one manifest: a lock that other editors respect, and a file that keeps the
+/// unsaved edits in case the editor crashes.
 ///
-/// Both are in a folder of the user, for example "zel-properties-editor" in $XDG_STATE_HOME; the
-/// folder is made when it is missing, and only the user may read the files in it. The lock ends
-/// with the process at the latest.
+/// Both are in a folder of the user, for example "zel-properties-editor" in $XDG_STATE_HOME. The
+/// folder is created if needed; only the user can read its files. The lock ends with the process.
 ///
-/// ```
-/// EditSession session(folder, fileName);
+/// ```cpp
+/// PackageModel::EditSession session(folder, fileName);
 /// if (const auto other = session.otherOwner())
-///     warnAboutSecondWindow(other->process);
+///     showMessage(QStringLiteral("%1 has it open").arg(other->application));
 /// else if (const auto lost = session.leftover())
-///     offer(*lost); // a PackageEditCommand applies lost->edits
+///     stack.push(new PackageEditCommand(&package, lost->edits)); // if the user wants them
 /// session.keep(unsaved); // a few seconds after an edit
 /// session.discard();     // after saving
 /// ```
@@ -58,29 +56,33 @@ class PACKAGEMODEL_EXPORT EditSession {
 public:
     /// The process that has the manifest open.
     struct Owner {
-        qint64 process;
-        QString host;
-        QString application;
+        qint64 process;      ///< its id
+        QString host;        ///< the name of the computer
+        QString application; ///< the name of the program
     };
 
-    /// Opens a manifest; without a file name, a package that was never saved.
+    /// Starts a session for a manifest or, without a file name, for a package that was never saved.
     explicit EditSession(const QString &folder, const QString &fileName = {});
-    /// Takes over what leftovers() found under that id.
+    /// Resumes a session that leftovers() found.
     static EditSession ofLeftover(const QString &folder, const QString &id);
+    /// @{
+    /// Moves the session, including its lock.
     EditSession(EditSession &&other) noexcept;
     EditSession &operator=(EditSession &&other) noexcept;
-    /// Ends the lock. Unsaved edits stay unless they were discarded.
+    /// @}
+    /// Releases the lock. Unsaved edits are kept on disk unless discard() was called.
     ~EditSession();
 
-    /// Who else has the manifest open. Nothing if this session owns it, or if no lock can be made.
+    /// The other process that has the manifest open; nullopt if there is none, or if the lock file
+    /// cannot be created.
     std::optional<Owner> otherOwner() const;
 
-    /// The unsaved edits that the file of this session has, for example those of an editor that
-    /// crashed. Nothing if there are none, or if somebody else has the manifest open.
+    /// The unsaved edits on disk for this manifest, for example those of an editor that crashed;
+    /// nullopt if there are none or another process has the manifest open.
     std::optional<UnsavedEdits> leftover() const;
 
-    /// Replaces the unsaved edits on disk, at once and completely. Returns why it failed, in one
-    /// sentence; empty on success. Somebody else's file is left alone, without an error.
+    /// Replaces the unsaved edits on disk atomically. Returns one sentence about a failure; empty
+    /// on success. Does nothing if another process has the manifest open.
     QString keep(const UnsavedEdits &unsaved);
 
     /// Removes the unsaved edits from disk.
@@ -93,14 +95,14 @@ private:
     std::unique_ptr<Data> m_data;
 };
 
-/// Unsaved edits of an editor that runs no more.
+/// Unsaved edits of an editor that is no longer running.
 struct Leftover {
-    QString id; ///< for EditSession::ofLeftover()
-    UnsavedEdits unsaved;
+    QString id;           ///< for EditSession::ofLeftover()
+    UnsavedEdits unsaved; ///< the edits on disk
 };
 
-/// All unsaved edits in a folder whose manifests no editor has open, the newest first. Files that
-/// cannot be read are left in place, and logged. Locks of processes that were killed are removed.
+/// All unsaved edits in a folder whose manifests no editor has open, newest first. Unreadable files
+/// are left in place and logged. Locks of killed processes are removed.
 PACKAGEMODEL_EXPORT QVector<Leftover> leftovers(const QString &folder);
 
 } // namespace Zel::PackageModel

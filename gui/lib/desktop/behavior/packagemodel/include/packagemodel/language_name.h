@@ -8,8 +8,7 @@
 
 namespace Zel::PackageModel {
 
-/// The name of a language in the language of the application's texts; its code where it has no
-/// name.
+/// The name of a language in the language of the application; its code if it has no name.
 PACKAGEMODEL_EXPORT QString languageName(const RobotLanguage &language);
 
 } // namespace Zel::PackageModel

@@ -5,16 +5,17 @@
 #include <QString>
 #include <QStringList>
 
-// For messages such as "did you mean 'author'?". Case is ignored; a slip is a character that was
-// inserted, left out, replaced or swapped with its neighbor, and a word may have one slip for every
-// three characters.
+/// @file
+/// Suggestions for messages such as "did you mean 'author'?". Case is ignored. A word may have one
+/// typo for every three characters: a character that is inserted, missing, replaced or swapped with
+/// its neighbor.
 
 namespace Zel {
 
-/// The word that a mistyped or shortened one most likely means; empty if none is near.
+/// The most likely intended word for a mistyped or abbreviated one; empty if none is close.
 PACKAGEMODEL_EXPORT QString nearestWord(const QString &given, const QStringList &words);
 
-/// All words that a mistyped or shortened one may mean, the likeliest first.
+/// All possible intended words for a mistyped or abbreviated one, the most likely first.
 PACKAGEMODEL_EXPORT QStringList nearWords(const QString &given, const QStringList &words);
 
 } // namespace Zel

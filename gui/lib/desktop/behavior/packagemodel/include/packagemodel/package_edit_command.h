@@ -8,36 +8,42 @@ namespace Zel {
 /// Applies edits of a package as one undo step.
 ///
 /// A command that sets or inserts one text or version merges with later ones that set the same
-/// field of the same package, until one of them is final or starts another run. A field that names
-/// its entry stays the same field when the entry is renamed. A run that ends at its old text, or
-/// that is followed by a command with its inverse(), becomes obsolete, so that the stack drops it.
-/// error() says why a step changed nothing.
+/// field of the same package, until one of them is final or starts another run. Renaming an entry
+/// does not end a run. If a run ends at its old text, or is followed by a command with its
+/// inverse(), it becomes obsolete and the stack drops it.
 ///
-/// ```
+/// ```cpp
+/// const auto path = *Tano::FieldPath::parse("names[fr_FR]");
+/// const PackageModel::Edit edit{PackageModel::Edit::Action::Set, path, QStringLiteral("Thé")};
 /// stack.push(new PackageEditCommand(&package, {edit}));
 /// ```
+///
+/// If an edit is refused, the step changes nothing and error() returns the reason.
 class PACKAGEMODEL_EXPORT PackageEditCommand : public PackageCommand, public MergeableCommand {
 public:
-    /// Without a text, the edits in words are the text of the step.
+    /// Without `text`, the step is named after its edits, see PackageModel::label(). `isFinal`
+    /// keeps later commands from merging into this one.
     PackageEditCommand(PackageInfoModel *model, const PackageModel::Edits &edits,
                        const QString &text = {}, bool isFinal = true);
     ~PackageEditCommand() override;
 
     void undo() override;
     void redo() override;
+    /// The same for all commands of this class.
     int id() const override;
+    /// Merges a later command for the same field.
     bool mergeWith(const QUndoCommand *incoming) override;
     bool isFinalCommand() const override;
 
-    /// Keeps the command from merging into an earlier one. To be called before it is pushed.
+    /// Keeps the command from merging into an earlier one. Call it before pushing the command.
     void startRun() { m_startsRun = true; }
 
-    /// What redo() applies.
+    /// The edits for redo().
     const PackageModel::Edits &edits() const { return m_edits; }
-    /// What undo() applies; empty before the first redo() and after one that failed.
+    /// The edits for undo(); empty before the first redo() and after a failed one.
     const PackageModel::Edits &inverse() const { return m_inverse; }
 
-    /// Why the last step changed nothing; empty if it did its work.
+    /// Why the last step changed nothing; empty if it succeeded.
     const QString &error() const { return m_error; }
 
 private:

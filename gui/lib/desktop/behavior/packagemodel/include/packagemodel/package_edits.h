@@ -9,65 +9,71 @@ namespace Zel::PackageModel {
 /// | action | path | value | index |
 /// |---|---|---|---|
 /// | Set | a field or an entry | the new value | |
-/// | Insert | a list, such as `behaviors` or `behaviors[greet].tags[en_US]` | the entry | where |
-/// | Remove | an entry, or a field that may be absent | | |
-/// | Move | an entry | | its new index |
+/// | Insert | a list, such as `behaviors` or `behaviors[greet].tags[en_US]` | the entry | the index
+/// | | Remove | an entry or an optional field | | | | Move | an entry | | its new index |
 ///
-/// Setting the empty path replaces the whole package: what differs is edited through the slots, and
-/// comments and unknown content follow. An index is clamped to the list by Insert. A language is
+/// Setting the empty path replaces the whole package: the differences are edited through the slots,
+/// and comments and unknown content follow. Insert clamps its index to the list. A language is
 /// inserted as its code.
 struct Edit {
+    /// The kind of a change.
     enum class Action { Set, Insert, Remove, Move };
 
-    Action action;
-    Tano::FieldPath path;
-    std::optional<FieldValue> value = {};
-    int index = 0;
+    Action action;                        ///< the kind of this change
+    Tano::FieldPath path;                 ///< the field, entry or list
+    std::optional<FieldValue> value = {}; ///< for Set and Insert
+    int index = 0;                        ///< for Insert and Move
 };
+/// Edits in their order: paths of later ones may depend on earlier ones.
 using Edits = QVector<Edit>;
 
+/// @{
+/// Compares all members.
 inline bool operator==(const Edit &a, const Edit &b) {
     return a.action == b.action && a.path == b.path && a.value == b.value && a.index == b.index;
 }
 inline bool operator!=(const Edit &a, const Edit &b) {
     return !(a == b);
 }
+/// @}
 
-/// The outcome of applying edits: the edits that undo them, or why nothing was changed.
+/// The outcome of applying edits: either the edits that undo them, or an error.
 struct Applied {
-    Edits inverse; ///< to be applied in this order
+    Edits inverse; ///< undoes the edits, applied in this order
     QString error; ///< one sentence in the language of the application; empty on success
 };
 
-/// Applies an edit through the public slots, which notify as for any other caller, or changes
+/// Applies an edit through the public slots, which notify as usual. If the edit is refused, changes
 /// nothing and returns the reason.
 ///
-/// Applying the inverse restores the manifest's bytes, including comments and unknown content, the
-/// order of languages, and the dialogs' topics that were removed with a language. Refused are paths
-/// that lead nowhere, values of another type, texts that a manifest cannot hold, an entry that a
-/// list has already, and a path, topic name or service name that another entry has.
+/// Applying the inverse restores the exact manifest, including comments and unknown content, the
+/// order of languages, and the dialogs' topics that were removed with a language. Refused are
+/// unknown paths, values of a wrong type, texts that a manifest cannot represent, duplicate entries
+/// of a list, and a path, topic name or service name that another entry has.
 ///
-/// ```
-/// const Applied applied = apply(&package, {Edit::Action::Set, path, QStringLiteral("Tea")});
+/// ```cpp
+/// const auto path = *Tano::FieldPath::parse("names[en_US]");
+/// const Applied applied = apply(&package, Edit{Edit::Action::Set, path, QStringLiteral("Tea")});
 /// if (!applied.error.isEmpty())
 ///     showMessage(applied.error);
+/// package.name(english); // -> Tea
 /// ```
 PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edit &edit);
 
-/// Applies all edits in their order, or none.
+/// Applies all edits in their order, or none of them.
 PACKAGEMODEL_EXPORT Applied apply(PackageInfoModel *package, const Edits &edits);
 
-/// The edits that remove all that a package has in a language: texts, topics, and the language from
-/// the lists of languages. They apply in their order and depend on none of each other.
+/// The edits that remove a language from a package: its texts, its topics and its entries in the
+/// lists of languages. They do not depend on each other.
 PACKAGEMODEL_EXPORT Edits languageRemoval(const PackageInfoModel *package,
                                           const QString &languageCode);
 
-/// Why apply() would refuse an edit, in one sentence without the path: for a form that checks a
-/// text while it is typed. Empty if it would apply the edit.
+/// Why apply() would refuse an edit, in one sentence without the path; empty if it would not. For
+/// forms that check a text while users type.
 PACKAGEMODEL_EXPORT QString refusal(const PackageInfoModel *package, const Edit &edit);
 
-/// Edits in words, in the language of the application, as the text of an undo step: "Set name of
-/// “greet” in French (France)". Of several edits, the first one and the number of the others.
+/// A description of edits in the language of the application, for the text of an undo step: "Set
+/// name of “greet” in French (France)". For several edits, the first one and the number of others.
 PACKAGEMODEL_EXPORT QString label(const Edits &edits);
 
 } // namespace Zel::PackageModel

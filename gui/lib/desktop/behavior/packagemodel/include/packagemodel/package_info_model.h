@@ -28,14 +28,25 @@ class WholeChange;
 
 /// The observable model of one application package.
 ///
-/// It wraps the package's record, packageInfo(), which is what gets saved. A setter whose value is
-/// the current one does nothing; any other writes the record, updates what is derived from it, and
-/// notifies last. All of it belongs to the user-interface thread, and notifications are
-/// synchronous.
+/// It wraps the package's record, packageInfo(), which is what gets saved. Setters do nothing if
+/// the value is unchanged; otherwise they write the record, update their cache and notify last. For
+/// the user-interface thread only; notifications are synchronous.
+///
+/// ```cpp
+/// PackageInfoModel package; // a fresh one for each file
+/// if (!package.loadFromManifestFile(fileName))
+///     showMessage(QString::fromStdString(package.packageInfo().errorString()));
+/// QObject::connect(&package, &PackageInfoModel::nameUpdated, &window, &QWidget::setWindowTitle);
+/// package.setName(QStringLiteral("Tea"), english);
+/// package.syncRecord();
+/// if (!package.saveToManifestFile(fileName))
+///     showMessage(QString::fromStdString(package.packageInfo().errorString()));
+/// ```
 ///
 /// The package owns the models of its behaviors, dialogs and services: they are its QObject
-/// children, and it deletes one after announcing its removal. When a child announces a change, the
-/// package brings the record's list up to date with its children.
+/// children, and it deletes a child after announcing its removal. Whenever a child announces a
+/// change, the package updates the corresponding list of its record. Insertions into the lists of a
+/// behavior are the exception; see syncRecord().
 ///
 /// Observers may edit, reload or delete the package, its children and themselves in every
 /// notification.
@@ -43,76 +54,90 @@ class PACKAGEMODEL_EXPORT PackageInfoModel : public QObject {
     Q_OBJECT
 
 public:
-    /// The icon of a package that has none of its own; empty when its file is not installed. Needs
-    /// a QGuiApplication.
+    /// The icon of packages without their own; empty if its file is not installed. Needs a
+    /// QGuiApplication.
     static QIcon defaultIcon();
 
     /// An empty package.
     explicit PackageInfoModel(QObject *parent = nullptr);
+    /// A model of a copy of `info`.
     explicit PackageInfoModel(const Tano::PackageInfo &info, QObject *parent = nullptr);
-    /// A copy, its children copied too, without a QObject parent.
+    /// A deep copy without a QObject parent.
     PackageInfoModel(const PackageInfoModel &other);
     ~PackageInfoModel() override;
 
-    /// Takes over everything from `other`, with copies of its children, through the setters, so
-    /// that observers hear every change. The requirements that were there leave without
-    /// notification. descriptions() keeps texts in languages in which `other` has none;
-    /// the record ends as an exact copy.
+    /// Copies everything from `other`, including its children, through the setters, so that
+    /// observers hear every change except the removal of the old requirements. The record becomes
+    /// an exact copy, but the cache behind descriptions() keeps texts in languages in which `other`
+    /// has none.
     ///
-    /// Of the edits that observers make meanwhile, those of the children stay and all others are
-    /// overwritten. An observer that assigns, clears or loads itself has the last word.
+    /// Edits that observers make meanwhile are overwritten, except for those of children. If an
+    /// observer assigns, clears or loads, its result wins.
     PackageInfoModel &operator=(const PackageInfoModel &other);
 
-    /// Resets to an empty package, by assignment.
+    /// Resets to an empty package by assigning one. As with every assignment, descriptions() still
+    /// returns the old texts afterwards, although the record has none.
     void clear();
 
-    // Reading and writing manifests. A load first resets the package as clear() does; if it fails,
-    // it returns false and the package stays reset. A success ends with loadedFromManifest(). A
-    // load also returns false if an observer of its notifications assigned, cleared or loaded
-    // something else. packageInfo().errorString() says why a load or a save failed.
-
     /// Reads a manifest and, if there is a QGuiApplication, the icon from "icon.png" beside it. An
-    /// icon that is not a PNG in a regular file of at most 16 MiB and 4096 x 4096 pixels is logged
-    /// and left out.
+    /// icon that is not a PNG in a regular file of at most 16 MiB and 4096 x 4096 pixels is ignored
+    /// and logged.
+    ///
+    /// Every load resets the package first, as clear() does. If it fails, it returns false and the
+    /// package stays reset, so open files into a fresh package to keep the current one.
+    /// packageInfo().errorString() explains the failure. A load also returns false if an observer
+    /// assigns, clears or loads meanwhile.
+    ///
+    /// Of the new content, a load announces only the version, the requirements, the dialogs, the
+    /// services and the icon; it does not send languageAdded(), nameUpdated() or behaviorAdded(),
+    /// for example. Observers read everything again on loadedFromManifest(), which ends a
+    /// successful load.
     [[nodiscard]] bool loadFromManifestFile(const QString &path);
-    /// The same for a file that is read from its current position when it is open.
+    /// Like the above, from the current position of `file` if it is open.
     [[nodiscard]] bool loadFromManifestFile(QFile &file);
-    /// Reads a manifest from its text, up to the first NUL.
+    /// Like the above, from the text of a manifest up to the first NUL, without an icon.
     [[nodiscard]] bool loadFromManifestContent(const QByteArray &content);
 
-    /// Writes the record. The icon is not saved.
+    /// Saves the record, but not the icon. Call syncRecord() before: texts inserted into the lists
+    /// of a behavior are otherwise missing. On failure, returns false and leaves an existing file
+    /// unchanged; packageInfo().errorString() explains it.
     [[nodiscard]] bool saveToManifestFile(const QString &path) const;
-    /// The same into a file, in place when it is open.
+    /// Saves the record to `file`, in place if it is open. Call syncRecord() before, as above.
     [[nodiscard]] bool saveToManifestFile(QFile &file) const;
-    /// The manifest's text; empty when a field holds what a manifest cannot.
+    /// The manifest of the record; empty if a field contains characters that XML cannot represent.
+    /// Call syncRecord() before, as above.
     [[nodiscard]] QByteArray saveToManifestContent() const;
 
-    /// Brings the record's behaviors, dialogs and services up to date with the children at once.
-    /// Only insertions into the lists of a behavior, and changes made while a child's signals were
-    /// blocked, wait for this or for the next change of a child of the same kind.
+    /// Updates the record's behaviors, dialogs and services from the children. Call this before
+    /// saving or reading the record.
+    ///
+    /// All other changes of children reach the record at once. Insertions into the lists of a
+    /// behavior (insertTag() and its like), and changes made while a child's signals are blocked,
+    /// wait for this function or for the next change of a child of the same kind.
     void syncRecord();
-
-    // Preparing a package for publication: first drop what it does not offer, then make its texts
-    // plain. The script variants' languages are no description languages, so that trimming again
-    // drops the scripts.
 
     /// Drops the package's and the behaviors' names and descriptions in languages other than the
     /// description languages, and the behaviors' tags, trigger sentences and loading responses in
     /// languages other than the supported ones. Does not notify.
+    ///
+    /// For publication, trim the package first, then call genPlainTextFromScript(). Trimming again
+    /// drops the scripts, since their languages are not description languages.
     void trimExtraInfo();
 
-    /// Makes plain text (Tano::PackageHelper::getHumanReadableText()) of the names and descriptions
-    /// of the package and its behaviors and, in the supported languages, of the trigger sentences
-    /// and loading responses. The text as it was is kept in the script variant of its language
-    /// (PackageModel::k_sa), which itself is left alone. Every change notifies.
+    /// Converts speech scripts to plain text (Tano::PackageHelper::getHumanReadableText()): names
+    /// and descriptions of the package and its behaviors in all languages, trigger sentences and
+    /// loading responses in the supported languages. The script is kept in the script variant of
+    /// the language (PackageModel::k_sa). Every change notifies.
     ///
-    /// A text that is a malformed script stays, and is told of in the log;
-    /// PackageModel::scriptErrors() lists them beforehand.
+    /// A malformed script is left unchanged and logged; PackageModel::scriptErrors() lists
+    /// malformed scripts beforehand.
     void genPlainTextFromScript();
 
-    /// The record, as it is saved.
+    /// The record, which is what gets saved; see syncRecord().
     const Tano::PackageInfo &packageInfo() const;
 
+    /// @{
+    /// One of the package's plain texts; empty if it is not set.
     QString installer() const;
     QString uid() const;
     QString typeVersion() const;
@@ -121,56 +146,70 @@ public:
     QString date() const;
     QString channel() const;
     QString path() const;
+    /// @}
 
-    /// Always of three fields.
+    /// The version of the package, which always has three fields.
     SoftwareVersion version() const;
 
     /// The languages that the package runs in, in the order of their addition.
     const RobotLanguages &supportedLanguages() const;
+    /// Whether the package runs in the language.
     bool hasLanguageSupport(const RobotLanguage &language) const;
     /// The languages that the package is described in.
     const RobotLanguages &descriptionLanguages() const;
+    /// Whether the package is described in the language.
     bool hasLanguageDescription(const RobotLanguage &language) const;
 
-    /// The name in a language; empty when there is none.
+    /// The name in a language; empty if there is none.
     QString name(const RobotLanguage &language) const;
+    /// The names in all languages.
     const Language::LocalizedStrings &names() const;
-    /// Whether there is a name in the language that is not empty.
+    /// Whether there is a non-empty name in the language.
     bool hasNameFor(const RobotLanguage &language) const;
 
-    /// The description in a language; empty when there is none.
+    /// The description in a language; empty if there is none.
     QString description(const RobotLanguage &language) const;
+    /// The descriptions in all languages. After clear() or an assignment, these include texts that
+    /// the record no longer has.
     const Language::LocalizedStrings &descriptions() const;
-    /// Whether there is a description in the language that is not empty.
+    /// Whether there is a non-empty description in the language.
     bool hasDescriptionFor(const RobotLanguage &language) const;
 
+    /// The robots that the package runs on.
     QVector<RobotRequirement> robotRequirements() const;
-    /// The requirement at `i`; a default one for an index outside the list.
+    /// The requirement at index `i`; a default one if out of range.
     RobotRequirement robotRequirement(int i) const;
+    /// The versions of the middleware that the package runs on.
     QVector<BrioRequirement> brioRequirements() const;
+    /// The requirement at index `i`; a default one if out of range.
     BrioRequirement brioRequirement(int i) const;
 
-    /// The icon, which is no part of the record.
+    /// The icon, which is not part of the record.
     QIcon icon() const;
 
-    /// The children, in the order of the record.
+    /// @{
+    /// The children in the order of the record; owned by the package.
     QVector<BehaviorInfoModel *> behaviors() const;
     QVector<DialogInfoModel *> dialogs() const;
     QVector<ServiceInfoModel *> services() const;
+    /// @}
 
-    /// The first behavior with that path; null when there is none.
+    /// The first behavior with this path; null if there is none.
     BehaviorInfoModel *behavior(const QString &path) const;
-    /// The first dialog with that topic name; null when there is none.
+    /// The first dialog with this topic name; null if there is none.
     DialogInfoModel *dialog(const QString &name) const;
-    /// The first service with that name; null when there is none.
+    /// The first service with this name; null if there is none.
     ServiceInfoModel *service(const QString &name) const;
 
-    /// Replaces the behavior models by one for each behavior of the record. Announces those that
-    /// go, not those that come.
+    /// Replaces the behavior models with one for each behavior of the record. Announces removals,
+    /// but not additions.
     void createBehaviorInfoModels();
 
 Q_SIGNALS:
+    /// A load has succeeded; everything may be different.
     void loadedFromManifest();
+    /// @{
+    /// The value has changed.
     void installerUpdated(const QString &newInstaller);
     void uidUpdated(const QString &newUuid);
     void versionUpdated(const SoftwareVersion &newVersion);
@@ -180,29 +219,47 @@ Q_SIGNALS:
     void dateUpdated(const QString &newDate);
     void channelUpdated(const QString &newChannel);
     void pathUpdated(const QString &newPath);
+    /// @}
+    /// @{
+    /// The supported languages have changed. Loads do not send languageAdded().
     void languageAdded(const RobotLanguage &language);
     void languageRemoved(const RobotLanguage &language);
+    /// @}
+    /// @{
+    /// The description languages have changed; the description itself may be absent.
     void descriptionRemoved(const RobotLanguage &language);
     void descriptionAdded(const RobotLanguage &language);
+    /// @}
+    /// The name in a language has changed; empty if it was removed.
     void nameUpdated(const QString &newName, const RobotLanguage &newLanguage);
+    /// All names were removed.
     void namesCleared();
+    /// The description in a language has changed; empty if it was removed.
     void descriptionUpdated(const QString &newDesc, const RobotLanguage &inLanguage);
+    /// @{
+    /// The requirements have changed. Additions are at the end of the list.
     void robotRequirementAdded(const RobotRequirement &newRobotReq);
     void robotRequirementUpdated(int robotReqIdx, const RobotRequirement &newRobotReq);
     void robotRequirementRemoved(int robotReqIdx);
     void brioRequirementAdded(const BrioRequirement &newBrioReq);
     void brioRequirementUpdated(int brioReqIdx, const BrioRequirement &newBrioReq);
     void brioRequirementRemoved(int brioReqIdx);
+    /// @}
+    /// @{
+    /// A child was added at the end of its list, or removed. A removed child is deleted after the
+    /// notification.
     void behaviorAdded(BehaviorInfoModel *addedBehavior);
-    /// Sent before the child is deleted, as are dialogRemoved() and serviceRemoved().
     void behaviorRemoved(BehaviorInfoModel *removedBehavior);
     void dialogAdded(DialogInfoModel *dialog);
     void dialogRemoved(DialogInfoModel *dialog);
     void serviceAdded(ServiceInfoModel *service);
     void serviceRemoved(ServiceInfoModel *service);
+    /// @}
+    /// The icon has changed.
     void iconUpdated(const QIcon &newIcon);
-    /// The entry that was at `from` is at `to`. An insertion is announced as an addition to the end
-    /// and a move.
+    /// @{
+    /// The entry at index `from` is now at `to`. An insertion is announced as an addition at the
+    /// end followed by a move.
     void behaviorMoved(BehaviorInfoModel *behavior, int from, int to);
     void dialogMoved(DialogInfoModel *dialog, int from, int to);
     void serviceMoved(ServiceInfoModel *service, int from, int to);
@@ -210,6 +267,7 @@ Q_SIGNALS:
     void descriptionMoved(const RobotLanguage &language, int from, int to);
     void robotRequirementMoved(int from, int to);
     void brioRequirementMoved(int from, int to);
+    /// @}
 
 private Q_SLOTS:
     void resyncBehaviors();
@@ -217,81 +275,105 @@ private Q_SLOTS:
     void resyncServices();
 
 public Q_SLOTS:
+    /// @{
+    /// Sets one of the package's plain texts.
     void setInstaller(const QString &installer);
     void setUid(const QString &uid);
-    /// Pads or truncates to three fields, and notifies even when nothing changes.
+    /// @}
+    /// Sets the version, padded or truncated to three fields. Notifies even if it is unchanged.
     void setVersion(const SoftwareVersion &newVersion);
+    /// @{
+    /// Sets one of the package's plain texts.
     void setTypeVersion(const QString &typeVersion);
     void setAuthor(const QString &author);
     void setOrganization(const QString &organization);
     void setDate(const QString &date);
     void setChannel(const QString &channel);
     void setPath(const QString &path);
+    /// @}
 
-    /// Makes the language a description language too.
+    /// Adds a supported language, which becomes a description language too.
     void addSupportedLanguage(const RobotLanguage &language);
-    /// Removes the language and the dialogs' topic files in it; the description language, the name
-    /// and the description stay.
+    /// Removes a supported language and the dialogs' topic files in it. The description language,
+    /// the name and the description are kept.
     void removeSupportedLanguage(const RobotLanguage &language);
+    /// Adds a description language.
     void addDescriptionLanguage(const RobotLanguage &language);
-    /// Removes the language; the description in it stays.
+    /// Removes a description language; the description in it is kept.
     void removeDescriptionLanguage(const RobotLanguage &language);
 
-    /// Any language will do, supported or not.
+    /// Sets the name in any language, supported or not.
     void setName(const QString &name, const RobotLanguage &language);
     /// Removes all names with one notification.
     void clearNames();
-    /// Any language will do; it does not become a description language.
+    /// Sets the description in any language, which does not become a description language.
     void setDescription(const QString &desc, const RobotLanguage &language);
 
-    // Requirements may be equal to one another. An update notifies even when the value stays the
-    // same; updating and removing return false for an index outside the list.
-
+    /// @{
+    /// Edits the requirements, which may be equal to one another. An update notifies even if the
+    /// value is unchanged; update and remove return false if the index is out of range.
     void addRobotRequirement(const RobotRequirement &robotReq = RobotRequirement());
     bool updateRobotRequirement(int robotReqIdx, const RobotRequirement &updatedRobotReq);
     bool removeRobotRequirement(int robotReqIdx);
     void addBrioRequirement(const BrioRequirement &brioReq = BrioRequirement());
     bool updateBrioRequirement(int brioReqIdx, const BrioRequirement &updatedBrioReq);
     bool removeBrioRequirement(int brioReqIdx);
+    /// @}
 
-    // Children. One added by pointer belongs to the package from then on; a package that it belongs
-    // to brings its record up to date and announces the removal first. Adding a child that is there
-    // already or is being removed, or a null pointer, does nothing. Removing returns false if there
-    // is no such child; the pointer may be dangling.
-
-    /// Adds an empty behavior; returns false when there is one with that path.
+    /// Adds an empty behavior; returns false if there is one with this path.
     bool addBehavior(const QString &behaviorPath);
+    /// @{
+    /// Adds a copy of a record, or a model, at the end. The package takes ownership of the model;
+    /// its previous package updates its record and announces the removal first. A null pointer, and
+    /// a child that is present already or is being removed, are ignored.
     void addBehavior(const Tano::BehaviorInfo &bi);
     void addBehavior(BehaviorInfoModel *bim);
+    /// @}
+    /// @{
+    /// Removes and deletes a child; returns false if there is no such child. The pointer may be
+    /// dangling.
     bool removeBehavior(const QString &behaviorPath);
     bool removeBehavior(BehaviorInfoModel *bim);
-    /// Removes all behaviors, each with its notification. The record keeps its list until the next
-    /// change of the behaviors.
+    /// @}
+    /// Removes all behaviors, each with its notification. The record does not change: it keeps its
+    /// list until syncRecord() or the next change of the behaviors.
     void clearBehaviors();
 
+    /// @{
+    /// Adds a dialog as addBehavior() adds a behavior.
     void addDialog(const Tano::DialogInfo &di);
     void addDialog(DialogInfoModel *dim);
-    /// Adds an empty dialog, unless there is one with that topic name.
+    /// @}
+    /// Adds an empty dialog, unless there is one with this topic name.
     void addDialog(const QString &topicName = QString());
+    /// @{
+    /// Removes a dialog as removeBehavior() removes a behavior.
     bool removeDialog(int dialogIndex);
     bool removeDialog(DialogInfoModel *dim);
+    /// @}
 
+    /// @{
+    /// Adds a service as addBehavior() adds a behavior.
     void addService(const Tano::PackageService &si);
     void addService(ServiceInfoModel *sim);
+    /// @}
+    /// @{
+    /// Removes a service as removeBehavior() removes a behavior.
     bool removeService(QString serviceName);
     bool removeService(ServiceInfoModel *sim);
-    /// Removes all services as clearBehaviors() does the behaviors.
+    /// @}
+    /// Removes all services. The record does not change, as with clearBehaviors().
     void clearServices();
 
-    /// Does nothing when the icon looks the same as the current one, at any size. Needs a
-    /// QGuiApplication to tell that of two different icons.
+    /// Sets the icon; does nothing if it looks the same as the current one at any size. Comparing
+    /// different icons needs a QGuiApplication.
     void setIcon(const QIcon &newIcon);
 
-    // Changes of the order. `insert` adds an entry and moves it to the index, which is clamped to
-    // the list. `move` takes an entry out and inserts it so that its new index is `to`; it returns
-    // false for an index outside the list, and notifies only if the index changes. Neither touches
-    // the other entries.
-
+    /// @{
+    /// Changes the order of a list. `insert` adds an entry and moves it to `index`, which is
+    /// clamped to the list. `move` makes `to` the new index of the entry; it returns false if an
+    /// index is out of range, and notifies only if the index changes. Other entries keep their
+    /// order.
     void insertBehavior(int index, const Tano::BehaviorInfo &bi);
     bool moveBehavior(int from, int to);
     void insertDialog(int index, const Tano::DialogInfo &di);
@@ -306,11 +388,12 @@ public Q_SLOTS:
     bool moveRobotRequirement(int from, int to);
     void insertBrioRequirement(int index, const BrioRequirement &brioReq);
     bool moveBrioRequirement(int from, int to);
+    /// @}
 
-    /// Removes the name in a language, so that names() no longer lists it; announced as an update
-    /// to the empty text. Returns false if there is none.
+    /// Removes the name in a language, which is announced as an update to the empty text. Returns
+    /// false if there is none.
     bool removeName(const RobotLanguage &language);
-    /// The same for the description; the description language stays.
+    /// Removes the description in a language likewise; the description language is kept.
     bool removeDescription(const RobotLanguage &language);
 
 private:
@@ -330,7 +413,7 @@ private:
     std::unique_ptr<Data> m_data;
 };
 
-/// Prints the record as its manifest, for people to read.
+/// Prints the manifest of the record, for debugging.
 PACKAGEMODEL_EXPORT std::ostream &operator<<(std::ostream &stream, const PackageInfoModel &package);
 
 } // namespace Zel

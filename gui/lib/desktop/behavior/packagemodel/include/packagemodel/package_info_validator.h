@@ -13,81 +13,91 @@
 
 namespace Zel {
 
-/// What can be wrong with the package itself so that it cannot be used.
+/// Errors of the package itself, which make it unusable.
 enum class PackageError {
-    InvalidUID = 0,
-    MissingDefaultName = 1, ///< no name in the default language, which is supported
-    InvalidRobotRequirements = 2,
-    InvalidBrioRequirements = 3,
+    InvalidUID = 0,               ///< see PackageModel::validatePackageUID()
+    MissingDefaultName = 1,       ///< no name in the default language, which is supported
+    InvalidRobotRequirements = 2, ///< see PackageModel::validateRobotRequirements()
+    InvalidBrioRequirements = 3,  ///< see PackageModel::validateBrioRequirements()
 };
 
-/// What is missing in the package so that some users see a stand-in.
+/// Missing texts of the package itself, which some users see replaced.
 enum class PackageWarning {
-    MissingNames = 0, ///< in supported languages other than the default one
-    MissingDescriptions = 1,
+    MissingNames = 0,        ///< in supported languages other than the default one
+    MissingDescriptions = 1, ///< in supported languages
 };
 
-/// What can be wrong with a behavior.
+/// Errors of a behavior.
 enum class BehaviorError {
-    MissingTriggerSentences = 0,
+    MissingTriggerSentences = 0, ///< see PackageModel::validateTriggerSentences()
 };
 
 /// Keeps the validity of a package up to date while it is edited.
 ///
-/// Between activate() and deactivate() it listens to the package and its behaviors and re-runs the
-/// one check that a change concerns. Each run announces its outcome, changed or not; the two
-/// summaries, packageHasErrorsChanged() and packageHasWarningsChanged(), are sent only when the set
-/// of errors or warnings becomes empty or ceases to be. PackageModel::validate() has the sentences.
+/// Between activate() and deactivate(), it listens to the package and its behaviors and repeats the
+/// one check that a change concerns. Each check announces its result, changed or not. The summaries
+/// packageHasErrorsChanged() and packageHasWarningsChanged() are sent only when the set of errors
+/// or warnings becomes empty or non-empty. PackageModel::validate() returns the messages.
 ///
-///     PackageInfoValidator validator(&package);
-///     connect(&validator, &PackageInfoValidator::packageHasErrorsChanged, saveAction,
-///             &QAction::setDisabled);
-///     validator.activate();
+/// ```cpp
+/// PackageInfoValidator validator(&package);
+/// QObject::connect(&validator, &PackageInfoValidator::packageHasErrorsChanged, publishAction,
+///                  &QAction::setDisabled);
+/// validator.activate();
+/// ```
 ///
-/// Two things differ from the messages on purpose: a missing name in the default language is an
-/// error here, and the errors of behaviors are not part of the summary.
+/// Two results differ from the messages on purpose: a missing name in the default language is an
+/// error here, and errors of behaviors are not part of the summary.
 ///
-/// The validator hears single edits only. After a load, clear(), an assignment or trimming, and
-/// after Language::setDefaultLanguage(), call validateAll(), and deactivate() and activate() again
-/// if the package was loaded: the models of loaded behaviors are new and come without notification.
+/// An active validator hears single edits only, not loads. After a load, call deactivate() and
+/// activate(), since the models of loaded behaviors are new and are not announced. After clear(),
+/// an assignment, trimming or Language::setDefaultLanguage(), call validateAll().
 ///
-/// The package is not owned. Once it is gone, the validator stays silent.
+/// The package is not owned. Once it is deleted, the validator is silent.
 class PACKAGEMODEL_EXPORT PackageInfoValidator : public QObject {
     Q_OBJECT
 
 public:
-    /// Checks nothing, and listens to nothing, until activate().
+    /// A validator that is not active yet.
     explicit PackageInfoValidator(const PackageInfoModel *package, QObject *parent = nullptr);
     ~PackageInfoValidator() override;
 
-    /// Starts to listen, and checks everything. A second call without deactivate() in between
-    /// connects once more, so that each change is checked twice.
+    /// Starts listening and checks everything. A second call without deactivate() connects again,
+    /// so that each change is checked twice.
     void activate();
-    /// Stops listening, and forgets the package's errors and warnings without notification; those
-    /// of the behaviors are kept.
+    /// Stops listening, and drops the package's errors and warnings without notification. Those of
+    /// behaviors are kept.
     void deactivate();
+    /// Whether the validator is listening.
     bool isActive() const { return m_active; }
 
     /// Runs every check.
     void validateAll();
 
-    /// The behaviors that have errors, in ascending order of their addresses. A behavior that was
-    /// removed while it had errors goes on being listed: look for it in the package before using
-    /// it. A behavior that was added is checked at its next change or at validateAll().
+    /// The behaviors with errors, in ascending order of their addresses. A behavior that had errors
+    /// when it was removed is still listed: look for it in the package before using the pointer. An
+    /// added behavior is checked when it changes or with validateAll().
     QList<const BehaviorInfoModel *> behaviorInErrors() const;
 
-    /// Adds a kind of error to those present, or takes it out.
+    /// @{
+    /// Adds a kind of error or warning, or removes it.
     void setPackageErrors(PackageError error, bool set);
     void setPackageWarnings(PackageWarning warning, bool set);
+    /// @}
 
-    /// The kinds of errors of the package itself at the last checks; those of behaviors are in
-    /// behaviorInErrors().
+    /// @{
+    /// The errors or warnings of the package itself, as of the last checks. behaviorInErrors()
+    /// lists the behaviors with errors.
     const std::set<PackageError> &packageErrors() const { return m_packageErrors; }
     const std::set<PackageWarning> &packageWarnings() const { return m_packageWarnings; }
     bool hasErrors() const { return !m_packageErrors.empty(); }
     bool hasWarnings() const { return !m_packageWarnings.empty(); }
+    /// @}
 
 Q_SIGNALS:
+    /// @{
+    /// The result of a check, sent whenever the check has run. Languages are in the order of the
+    /// package.
     void applicationUIDStateChanged(bool validState) const;
     void robotRequirementsStateChanged(bool validState) const;
     void brioRequirementsStateChanged(bool validState) const;
@@ -96,10 +106,16 @@ Q_SIGNALS:
     void applicationDescriptionsStateChanged(const RobotLanguages &missingLangs) const;
     void triggerSentencesStateChanged(const BehaviorInfoModel *bim,
                                       const RobotLanguages &missingLangs) const;
+    /// @}
+    /// @{
+    /// The package itself has its first error or warning, or no longer has any.
     void packageHasErrorsChanged(bool value);
     void packageHasWarningsChanged(bool value);
+    /// @}
 
 public Q_SLOTS:
+    /// @{
+    /// Runs one check and announces its result.
     void validateUID();
     void validateRobotRequirements();
     void validateBrioRequirements();
@@ -107,6 +123,7 @@ public Q_SLOTS:
     void validateApplicationDescriptions();
     void validateTriggerSentences(const BehaviorInfoModel *behaviorToShow);
     void validateBehaviorTriggerSentences();
+    /// @}
 
 private Q_SLOTS:
     void onBehaviorAdded(const BehaviorInfoModel *addedBehavior);

@@ -7,18 +7,20 @@
 
 #include <functional>
 
-// JSON (RFC 8259, UTF-8) of packages and edits. Members are named like the fields of paths, and
-// "format" numbers the form; schema/package.schema.json and schema/edits.schema.json describe both.
+/// @file
+/// Packages and edits as JSON (RFC 8259, UTF-8). Members are named like fields in paths, and
+/// "format" is the version of the form. See schema/package.schema.json and
+/// schema/edits.schema.json.
 
 namespace Zel::PackageModel {
 
-/// The number of the forms that this library writes, and the newest that it reads.
+/// The version of the forms that this library writes, and the newest that it reads.
 constexpr int jsonFormat = 1;
 
-/// Writes all fields of a package as one JSON object, in pieces, so that a large package takes
-/// little memory. Nothing for a null package.
+/// Writes all fields of a package as one JSON object, in pieces, so that large packages take little
+/// memory. Writes nothing for a null package.
 ///
-/// ```
+/// ```cpp
 /// writeJson(&package, [&](const QByteArray &piece) { file.write(piece); });
 /// ```
 PACKAGEMODEL_EXPORT void writeJson(const PackageInfoModel *package,
@@ -29,14 +31,14 @@ PACKAGEMODEL_EXPORT void writeJson(const PackageInfoModel *package,
 /// alone.
 PACKAGEMODEL_EXPORT QJsonValue toJson(const FieldValue &value);
 
-/// The value of a kind that toJson() wrote. An entry may lack any fields except the one that names
-/// it. Nothing for JSON of another form: then `error`, if given, says why in one sentence.
+/// Reads a value that toJson() wrote. An entry may lack any field except its key. For other JSON,
+/// returns nullopt and sets `error`, if given, to one sentence.
 PACKAGEMODEL_EXPORT std::optional<FieldValue> valueFromJson(FieldKind kind, const QJsonValue &json,
                                                             QString *error = nullptr);
 
 /// Edits as JSON:
 ///
-/// ```
+/// ```json
 /// {"format": 1, "edits": [
 ///     {"action": "set", "path": "names[fr_FR]", "value": "Thé"},
 ///     {"action": "insert", "path": "behaviors", "index": 0, "value": {"path": "greet"}},
@@ -47,14 +49,14 @@ PACKAGEMODEL_EXPORT std::optional<FieldValue> valueFromJson(FieldKind kind, cons
 /// Reading the result gives the same edits.
 PACKAGEMODEL_EXPORT QByteArray toJson(const Edits &edits);
 
-/// Edits that were read, or why there are none.
+/// The outcome of reading edits.
 struct ParsedEdits {
-    Edits edits;
-    QString error; ///< one sentence that names the place; empty on success
+    Edits edits;   ///< empty on failure
+    QString error; ///< one sentence with the position; empty on success
 };
 
-/// Reads what toJson() writes. Refused are unknown members and actions, values of another type and
-/// paths that no package has; whether a package has the fields shows when the edits are applied.
+/// Reads the output of toJson(). Refused are unknown members and actions, values of a wrong type,
+/// and paths that no package has. Whether a certain package has the fields is checked by apply().
 PACKAGEMODEL_EXPORT ParsedEdits editsFromJson(const QByteArray &json);
 
 } // namespace Zel::PackageModel

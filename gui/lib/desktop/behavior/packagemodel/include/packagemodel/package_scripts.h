@@ -11,26 +11,30 @@ class PackageInfoModel;
 
 namespace PackageModel {
 
-/// A speech script as a person would read it, or why it cannot be.
+/// The outcome of plainTextOf().
 struct PlainText {
-    QString text;
-    QString error; ///< what is wrong, with the place within the text; empty on success
+    QString text;  ///< the text that a person would read; empty on failure
+    QString error; ///< with the position in the script; empty on success
 };
 
-/// Makes plain text of a script; a text without markup is plain already.
+/// Converts a speech script to plain text; a text without markup is returned unchanged.
+///
+/// ```cpp
+/// const auto plain = PackageModel::plainTextOf(QStringLiteral("Tea <emphasis>time</emphasis>"));
+/// out << (plain.error.isEmpty() ? plain.text : plain.error); // -> Tea time
+/// ```
 PACKAGEMODEL_EXPORT PlainText plainTextOf(const QString &script);
 
-/// A text of which no plain text can be made, because it is a malformed speech script.
+/// A malformed speech script.
 struct ScriptError {
-    /// The field that holds it, for example "names[fr_FR]" or
-    /// "behaviors[greet].loadingResponses[ja_JP][0]".
+    /// The field, for example "names[fr_FR]" or "behaviors[greet].loadingResponses[ja_JP][0]".
     QString path;
-    /// What is wrong, with the place within the text: "Line 1, column 7: ...".
+    /// The error with its position in the text: "Line 1, column 7: ...".
     QString text;
 };
 
-/// The texts that PackageInfoModel::genPlainTextFromScript() would leave as they are, in the order
-/// in which it comes to them. An empty list for a null package.
+/// The malformed scripts that PackageInfoModel::genPlainTextFromScript() would leave unchanged, in
+/// the order of the conversion. Empty for a null package.
 PACKAGEMODEL_EXPORT QVector<ScriptError> scriptErrors(const PackageInfoModel *package);
 
 } // namespace PackageModel

@@ -6,46 +6,53 @@
 
 namespace Zel::PackageModel {
 
+/// Options of a search.
 struct SearchOptions {
-    bool matchesCase = false;
+    bool matchesCase = false;         ///< case-sensitive
     bool matchesWords = false;        ///< whole words only
     bool isRegularExpression = false; ///< Perl-compatible, as in QRegularExpression
 };
 
-/// What to search for: the text itself, unless it is a regular expression. An expression that is
-/// not valid gives a pattern that is not valid either, whose errorString() says why.
+/// The pattern that finds a text, or the text as a regular expression if the options say so. An
+/// invalid expression gives an invalid pattern, whose errorString() explains it.
 PACKAGEMODEL_EXPORT QRegularExpression searchPattern(const QString &text,
                                                      const SearchOptions &options = {});
 
-/// A place where a field's text matches.
+/// A match in the text of a field.
 struct TextMatch {
-    Tano::FieldPath path;
-    QString text; ///< of the whole field
-    int start;    ///< in UTF-16 code units
-    int length;
+    Tano::FieldPath path; ///< the field
+    QString text;         ///< of the whole field
+    int start;            ///< in UTF-16 code units
+    int length;           ///< in UTF-16 code units
 };
+/// Matches in the order of their fields.
 using TextMatches = QVector<TextMatch>;
 
-/// Where the texts and versions among some fields match, in their order. Matches that are empty do
-/// not count.
+/// All non-empty matches in the texts and versions among `fields`.
 ///
-/// ```
+/// ```cpp
 /// const auto found = matches(fields(&package), searchPattern(QStringLiteral("tea")));
 /// ```
 PACKAGEMODEL_EXPORT TextMatches matches(const QVector<Field> &fields,
                                         const QRegularExpression &pattern);
 
-/// The edits that replace matches of a pattern, for a PackageEditCommand; the matches may be some
-/// of those that matches() found.
+/// The outcome of replaced().
 struct Replacement {
-    Edits edits;
-    int count = 0;     ///< of matches that the edits replace
+    Edits edits;       ///< for a PackageEditCommand
+    int count = 0;     ///< the number of replaced matches
     TextMatches fixed; ///< matches in fields that cannot have the new text, such as languages
 };
 
-/// Replaces matches by a text. For a regular expression, `\1` to `\99` in it are captured texts.
-/// The edits of a behavior's path, a dialog's topic or a service's name follow the others, whose
-/// paths have the old name.
+/// The edits that replace all or some matches of a pattern with a text. For a regular expression,
+/// `\1` to `\99` in `by` are captured texts. Edits of paths, topic names and service names come
+/// last, since the paths of the others contain the old name.
+///
+/// ```cpp
+/// const auto pattern = searchPattern(QStringLiteral("tea"));
+/// const auto found = matches(fields(&package), pattern);
+/// const Replacement all = replaced(&package, found, pattern, QStringLiteral("coffee"));
+/// stack.push(new PackageEditCommand(&package, all.edits));
+/// ```
 PACKAGEMODEL_EXPORT Replacement replaced(const PackageInfoModel *package,
                                          const TextMatches &matches,
                                          const QRegularExpression &pattern, const QString &by,

@@ -8,32 +8,33 @@
 
 namespace Zel {
 
-/// Edits a record for a program that reads a manifest and writes it again.
+/// Edits the record of a manifest, for programs that read a manifest and write it again.
 ///
-/// A model completes the record that it is made from: the version gets three fields, and every
-/// supported language becomes a description language. The editor takes that back where no edit asks
-/// for it, so that a manifest keeps what its author wrote.
+/// A model completes its record: the version gets three fields, and every supported language
+/// becomes a description language. The editor reverts these changes unless an edit asks for them,
+/// so that a manifest keeps its author's wording.
 ///
-/// ```
+/// ```cpp
 /// RecordEditor editor(record);
-/// const auto applied = editor.apply(edits);
+/// const PackageModel::Applied applied = editor.apply(changes);
 /// if (applied.error.isEmpty())
-///     editor.record().saveToManifestFile(fileName);
+///     editor.record().saveToManifestFile(fileName.toStdString());
 /// ```
 class PACKAGEMODEL_EXPORT RecordEditor {
 public:
+    /// Edits a copy of `record`.
     explicit RecordEditor(const Tano::PackageInfo &record);
     ~RecordEditor();
     RecordEditor(const RecordEditor &) = delete;
     RecordEditor &operator=(const RecordEditor &) = delete;
 
-    /// The package to be edited by apply(); owned by the editor.
+    /// The package that apply() edits; owned by the editor.
     PackageInfoModel *package() const;
 
-    /// Applies all edits, or none; see PackageModel::apply().
+    /// Applies all edits or none; see PackageModel::apply().
     PackageModel::Applied apply(const PackageModel::Edits &edits);
 
-    /// The record with the edits that were applied.
+    /// The record with the applied edits.
     Tano::PackageInfo record() const;
 
 private:

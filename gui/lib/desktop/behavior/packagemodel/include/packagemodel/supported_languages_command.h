@@ -6,21 +6,37 @@
 
 namespace Zel {
 
-/// The base of the commands that add a language to the package or take one away. Doing and undoing
-/// are the same: a subclass switches the language, and sets the text of the command.
+/// The base of commands that add a language to a package or remove one. Redoing and undoing are the
+/// same operation, which a subclass implements; it also sets the text of the command.
+///
+/// ```cpp
+/// class SupportedLanguageCommand : public PackageLanguageCommand {
+/// public:
+///     using PackageLanguageCommand::PackageLanguageCommand;
+///     void switchLanguage() override {
+///         if (model()->hasLanguageSupport(language()))
+///             model()->removeSupportedLanguage(language());
+///         else
+///             model()->addSupportedLanguage(language());
+///     }
+/// };
+/// stack.push(new SupportedLanguageCommand(&package, french));
+/// ```
 class PACKAGEMODEL_EXPORT PackageLanguageCommand : public PackageCommand {
 public:
+    /// Adds or removes `language`.
     PackageLanguageCommand(PackageInfoModel *model, const RobotLanguage &language);
     ~PackageLanguageCommand() override;
 
     void undo() override;
     void redo() override;
 
-    /// Adds language() where the package lacks it, and removes it where the package has it, or any
-    /// other operation that undoes itself when it is run again.
+    /// Adds language() if the package lacks it, otherwise removes it; or any other operation that
+    /// reverts itself when it is called again.
     virtual void switchLanguage() = 0;
 
 protected:
+    /// The language to add or remove.
     const RobotLanguage &language() const { return m_language; }
 
 private:

@@ -8,24 +8,24 @@
 
 #include <string>
 
-/// The one bridge between the records, which hold UTF-8, and the models, which hold UTF-16.
+/// The models of packages, their commands, and the values that they use.
 namespace Zel {
 
-/// Decodes UTF-8, up to the first NUL byte. Bytes that are not UTF-8 become U+FFFD; a byte order
-/// mark is text and stays.
+/// Decodes UTF-8 text of a record, up to the first NUL byte. Invalid bytes become U+FFFD; a byte
+/// order mark is kept.
 PACKAGEMODEL_EXPORT QString fromUtf8(const std::string &text);
 
-/// Encodes as UTF-8, up to the first NUL character. A surrogate that stands alone becomes its three
-/// bytes: no valid UTF-8, so that saving the text reports it rather than losing it.
+/// Encodes text as UTF-8 for a record, up to the first NUL character. A lone surrogate becomes
+/// three bytes that are not valid UTF-8, so that saving reports it instead of losing it.
 PACKAGEMODEL_EXPORT std::string toUtf8(const QString &text);
 
 namespace PackageModel {
-/// Ends the private-use code (BCP 47) of a language's script variant, as in "en_US-x-scrpol".
+/// The suffix of the private-use code (BCP 47) of a language's script variant: "en_US-x-scrpol".
 inline const ISOCode k_sa{QStringLiteral("-x-scrpol")};
 } // namespace PackageModel
 
-/// Drops as many trailing characters as PackageModel::k_sa has, whatever they are; a code that is
-/// shorter than that stays whole. Meant for codes that end with the suffix.
+/// Drops as many trailing characters as PackageModel::k_sa has, without comparing them; a shorter
+/// code is returned unchanged. Use it for codes that end with the suffix.
 PACKAGEMODEL_EXPORT QString removeSuffix(const QString &code);
 
 } // namespace Zel

@@ -7,19 +7,19 @@
 
 namespace Zel {
 
-/// Makes the application speak the locale's language: installs a translator of the catalogue, owned
-/// by the application object, which has to exist. The library's own catalogue is "packagemodel";
-/// those of the programs are named after them.
+/// Installs a translator for a catalogue, owned by the application object, which must exist. The
+/// catalogue of the library is "packagemodel"; those of the programs have the names of the
+/// programs.
 ///
-/// The locale's languages are tried in the order of the user's preference, until one is found or
-/// the language of the source texts, English, comes first. Returns false, and changes nothing, when
-/// the texts stay as they are.
+/// The locale's languages are tried in the user's order of preference, until a translation is found
+/// or English, the language of the source texts, comes first. Returns false if no translator was
+/// installed.
 PACKAGEMODEL_EXPORT bool
 installTranslation(const QString &catalogue = QStringLiteral("packagemodel"),
                    const QLocale &locale = QLocale::system());
 
-/// The language of the application's texts as RFC 5646 writes it: that of the installed catalogue
-/// "packagemodel", else "en-US".
+/// The language tag (RFC 5646) of the application's texts: that of the installed catalogue
+/// "packagemodel", or "en-US".
 PACKAGEMODEL_EXPORT QString translationLanguage();
 
 } // namespace Zel

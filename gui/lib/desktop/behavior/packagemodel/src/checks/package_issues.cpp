@@ -1,5 +1,6 @@
 #include <packagemodel/package_issues.h>
 
+#include "finding_issues.h"
 #include "further_checks.h"
 #include "package_fixes.h"
 
@@ -35,8 +36,7 @@ public:
             Issue issue = bareIssueOf(finding);
             if (m_filter && !m_filter(issue))
                 continue;
-            issue.text = message(finding, {finding.language});
-            issue.node = finding.node;
+            complete(issue, finding);
             if (m_withFixes)
                 issue.fixes = m_fixes.fixesOf(finding);
             const IssueVisit next = m_visit(issue);
@@ -58,17 +58,6 @@ public:
     bool skips(RuleId rule) const { return m_skipped.count(rule) != 0; }
 
 private:
-    static Issue bareIssueOf(const Finding &finding) {
-        const RuleRow &row = ruleRow(finding.rule);
-        return {QLatin1String(row.id), row.severity, fromUtf8(pathOf(finding).toString()), {}};
-    }
-
-    // A message without its language is useless.
-    static bool isNamed(const Finding &finding) {
-        return finding.rule != RuleId::TriggerSentencesMissing ||
-               !finding.language.uiName().isEmpty();
-    }
-
     const PackageInfoModel &m_package;
     FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;

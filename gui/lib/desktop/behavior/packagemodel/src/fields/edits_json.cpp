@@ -40,7 +40,7 @@ QJsonObject toObject(const Edit &edit) {
     if (rowOf(edit).hasValue && edit.value)
         object.insert(valueMember, toJson(*edit.value));
     if (rowOf(edit).hasIndex)
-        object.insert(indexMember, edit.index);
+        object.insert(indexMember, std::max(0, edit.index));
     return object;
 }
 

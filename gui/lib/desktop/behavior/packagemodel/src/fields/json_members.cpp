@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QStringBuilder>
 
+#include <limits>
+
 namespace Zel::PackageModel {
 namespace {
 
@@ -61,7 +63,8 @@ QString JsonMembers::takeOptionalText(QLatin1String name) {
 
 int JsonMembers::takeNumber(QLatin1String name) {
     const double number = take(name, QJsonValue::Double).toDouble();
-    const bool isIndex = number >= 0 && number <= 1e9 && double(int(number)) == number;
+    const bool isIndex =
+        number >= 0 && number <= std::numeric_limits<int>::max() && double(int(number)) == number;
     if (error.isEmpty() && !isIndex)
         fail(name, inWords(QT_TRANSLATE_NOOP("Zel::PackageModel",
                                              "It must be a whole number, 0 or more.")));

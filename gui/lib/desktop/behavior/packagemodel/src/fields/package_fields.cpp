@@ -37,7 +37,7 @@ QVector<Field> fields(const PackageInfoModel *package) {
     return all;
 }
 
-struct FieldWalk::Data {
+struct PACKAGEMODEL_NO_EXPORT FieldWalk::Data {
     PackageInfoModel *package; // may be null
     std::size_t row = 0;
     FieldPortions portions = {}; // of the previous row

@@ -56,7 +56,7 @@ std::optional<UnsavedEdits> readUnsavedEdits(const QString &fileName) {
 
 } // namespace
 
-struct EditSession::Data {
+struct PACKAGEMODEL_NO_EXPORT EditSession::Data {
     Data(const QString &folder, const QString &id)
         : base(QDir(folder).filePath(id))
         , lock(base + lockSuffix) {

@@ -1,0 +1,72 @@
+#include "document.h"
+
+#include "field_edits.h"
+#include "problem_report.h"
+
+#include <algorithm>
+
+namespace Editor {
+
+using Tano::FieldPath;
+using Zel::PackageModel::Issue;
+using Zel::PackageModel::LanguageCoverage;
+using Zel::PackageModel::Severity;
+
+const Zel::RobotLanguages &Document::languages() const {
+    if (!m_languages)
+        m_languages = Zel::PackageModel::languages(m_package.get());
+    return *m_languages;
+}
+
+LanguageCoverage Document::coverage(const QString &languageCode) const {
+    if (!m_coverages)
+        m_coverages = Zel::PackageModel::coverages(m_package.get());
+    const auto found =
+        std::find_if(m_coverages->begin(), m_coverages->end(), [&](const LanguageCoverage &each) {
+            return each.language.isoCode() == languageCode;
+        });
+    return found == m_coverages->end() ? LanguageCoverage() : *found;
+}
+
+// Checks the whole package, and its files.
+void Document::trackIssues() {
+    m_tracker = std::make_unique<Zel::PackageModel::IssueTracker>(m_package.get(),
+                                                                  issueOptions(m_fileName));
+    indexIssues();
+}
+
+void Document::indexIssues() {
+    m_issueByPath.clear();
+    m_behaviorSeverity.clear();
+    const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {
+        if (isWorse)
+            entry = candidate;
+    };
+    for (const Issue &issue : issues()) {
+        const bool isError = issue.severity == Severity::Error;
+        const bool isFirst = !m_issueByPath.contains(issue.path);
+        keepWorst(m_issueByPath[issue.path], issue,
+                  isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
+        const auto path = FieldPath::parse(Zel::toUtf8(issue.path));
+        if (path && fieldName(*path) == QLatin1String("behaviors")) {
+            const QString key = fieldKey(*path);
+            const bool isNew = !m_behaviorSeverity.contains(key);
+            keepWorst(m_behaviorSeverity[key], issue.severity, isNew || isError);
+        }
+    }
+    Q_EMIT issuesChanged();
+}
+
+std::optional<Issue> Document::issueAt(const FieldPath &path) const {
+    if (path.isEmpty())
+        return std::nullopt; // the issue of the package concerns no field
+    const auto found = m_issueByPath.constFind(Zel::fromUtf8(path.toString()));
+    return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
+}
+
+std::optional<Severity> Document::behaviorSeverity(const QString &behaviorPath) const {
+    const auto found = m_behaviorSeverity.constFind(behaviorPath);
+    return found == m_behaviorSeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
+}
+
+} // namespace Editor

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "package_checks.h"
+
+#include <packagemodel/package_issues.h>
+
+namespace Zel::PackageModel {
+
+/// Whether a finding becomes an issue: a message about an unnamed language would say nothing.
+bool isNamed(const Finding &finding);
+
+/// The issue of a finding without its text, for filters.
+Issue bareIssueOf(const Finding &finding);
+
+/// Adds what a bare issue lacks, except for the fixes.
+void complete(Issue &issue, const Finding &finding);
+
+} // namespace Zel::PackageModel

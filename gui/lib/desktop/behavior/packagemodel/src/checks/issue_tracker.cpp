@@ -1,0 +1,304 @@
+#include <packagemodel/issue_tracker.h>
+
+#include "finding_issues.h"
+#include "further_checks.h"
+#include "package_fixes.h"
+#include "package_info_data.h"
+
+#include <QHash>
+#include <QPointer>
+
+#include <algorithm>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+
+namespace Zel::PackageModel {
+namespace {
+
+// Issues are listed by the check that makes them: those of the application, trigger sentences, and
+// the further checks.
+enum Section : int { Application, TriggerSentences, Further };
+
+struct SectionFinding {
+    int section;
+    Finding finding;
+};
+
+struct SectionIssue {
+    int section;
+    Issue issue;
+};
+
+bool isSame(const Issue &a, const Issue &b) {
+    const auto keyOf = [](const Issue &issue) {
+        return issue.node ? std::make_tuple(issue.node->kind, issue.node->name, issue.node->index)
+                          : std::make_tuple(Tano::UnknownNode::Kind::Element, std::string(), -1);
+    };
+    return a.id == b.id && a.path == b.path && a.text == b.text && keyOf(a) == keyOf(b);
+}
+
+bool isSame(const SectionIssue &a, const SectionIssue &b) {
+    return a.section == b.section && isSame(a.issue, b.issue);
+}
+
+template<typename List>
+bool areSame(const List &a, const List &b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const auto &left, const auto &right) { return isSame(left, right); });
+}
+
+std::vector<SectionIssue> issuesOf(const std::vector<SectionFinding> &findings) {
+    std::vector<SectionIssue> issues;
+    for (const auto &[section, finding] : findings) {
+        if (!isNamed(finding))
+            continue;
+        issues.push_back({section, bareIssueOf(finding)});
+        complete(issues.back().issue, finding);
+    }
+    return issues;
+}
+
+// Collects what checks append, with their section.
+class SectionedFindings {
+public:
+    template<typename Check>
+    void add(int section, Check check) {
+        Findings found;
+        check(found);
+        for (Finding &finding : found)
+            m_all.push_back({section, std::move(finding)});
+    }
+    std::vector<SectionFinding> take() { return std::move(m_all); }
+
+private:
+    std::vector<SectionFinding> m_all;
+};
+
+std::vector<SectionFinding> checkPackage(const CheckedPackage &checked) {
+    SectionedFindings findings;
+    for (const Check check : applicationChecks)
+        findings.add(Application, [&](Findings &found) { check(checked.package, found); });
+    int section = Further;
+    for (const FurtherCheck &check : furtherChecks()) {
+        if (check.ofPackage)
+            findings.add(section, [&](Findings &found) { check.ofPackage(checked, found); });
+        ++section;
+    }
+    return findings.take();
+}
+
+std::vector<SectionFinding> checkBehavior(const CheckedPackage &checked,
+                                          const BehaviorPlace &place) {
+    SectionedFindings findings;
+    findings.add(TriggerSentences, [&](Findings &found) {
+        checkTriggerSentences(checked.package, *place.behavior, place.occurrence, found);
+    });
+    int section = Further;
+    for (const FurtherCheck &check : furtherChecks()) {
+        if (check.ofBehavior)
+            findings.add(section,
+                         [&](Findings &found) { check.ofBehavior(checked, place, found); });
+        ++section;
+    }
+    return findings.take();
+}
+
+// What checks of a behavior depend on beyond the behavior and its place.
+std::vector<std::string> commonInput(const PackageInfoModel &package) {
+    std::vector<std::string> input;
+    for (const RobotLanguages &list :
+         {package.supportedLanguages(), package.descriptionLanguages()}) {
+        for (const RobotLanguage &language : list)
+            input.push_back(toUtf8(language.isoCode() + u' ' + language.uiName()));
+        input.emplace_back();
+    }
+    return input;
+}
+
+} // namespace
+
+struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
+    // What a behavior was like when it was checked last, and what was found.
+    struct CheckedBehavior {
+        const BehaviorInfoModel *model; // may be dangling
+        std::uint64_t revision = 0;
+        QString path = {};
+        int occurrence = 0;
+        std::vector<SectionIssue> issues = {};
+    };
+
+    bool updateOrder();
+    void updateOccurrences();
+    bool updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior, bool isForced);
+    QVector<Issue> assembled(const IssueFilter &filter) const;
+
+    QPointer<const PackageInfoModel> package;
+    IssueOptions options;
+    std::vector<std::string> input;
+    std::vector<SectionIssue> ofPackage;
+    std::vector<CheckedBehavior> behaviors;
+    bool isFiltered = false;
+    QVector<Issue> issues;
+};
+
+// Brings the list of behaviors up to date, keeping what was found in those that stay.
+bool IssueTracker::Data::updateOrder() {
+    const QVector<BehaviorInfoModel *> &present =
+        childrenOf<BehaviorInfoModel>(*package).children();
+    if (std::equal(present.begin(), present.end(), behaviors.begin(), behaviors.end(),
+                   [](const auto *model, const auto &old) { return model == old.model; }))
+        return false;
+    std::unordered_map<const BehaviorInfoModel *, CheckedBehavior *> known;
+    for (CheckedBehavior &behavior : behaviors)
+        known.emplace(behavior.model, &behavior);
+    std::vector<CheckedBehavior> ordered;
+    ordered.reserve(std::size_t(present.size()));
+    for (const BehaviorInfoModel *model : present) {
+        const auto old = known.find(model);
+        ordered.push_back(old == known.end() ? CheckedBehavior{model} : std::move(*old->second));
+    }
+    behaviors = std::move(ordered);
+    return true;
+}
+
+// Behaviors with the same path are counted; one whose number changes is checked again.
+void IssueTracker::Data::updateOccurrences() {
+    QHash<QString, int> counts;
+    counts.reserve(int(behaviors.size()));
+    for (CheckedBehavior &behavior : behaviors) {
+        const int occurrence = counts[behavior.path]++;
+        if (std::exchange(behavior.occurrence, occurrence) != occurrence)
+            behavior.revision = 0;
+    }
+}
+
+bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior,
+                                        bool isForced) {
+    const std::uint64_t revision = ChildAccess::data(*behavior.model).revision();
+    if (std::exchange(behavior.revision, revision) == revision && !isForced)
+        return false;
+    auto found = issuesOf(checkBehavior(checked, {behavior.model, behavior.occurrence}));
+    std::swap(behavior.issues, found);
+    return !areSame(behavior.issues, found);
+}
+
+QVector<Issue> IssueTracker::Data::assembled(const IssueFilter &filter) const {
+    std::vector<const CheckedBehavior *> faulty;
+    for (const CheckedBehavior &behavior : behaviors) {
+        if (!behavior.issues.empty())
+            faulty.push_back(&behavior);
+    }
+    std::vector<const CheckedBehavior *> byPath = faulty;
+    std::stable_sort(byPath.begin(), byPath.end(),
+                     [](const auto *a, const auto *b) { return a->path < b->path; });
+
+    std::vector<std::vector<const Issue *>> sections(Further + furtherChecks().size());
+    const auto add = [&](const std::vector<SectionIssue> &found) {
+        for (const auto &[section, issue] : found)
+            sections[std::size_t(section)].push_back(&issue);
+    };
+    add(ofPackage);
+    for (const CheckedBehavior *behavior : faulty)
+        add(behavior->issues);
+    auto &sentences = sections[TriggerSentences];
+    sentences.clear();
+    for (const CheckedBehavior *behavior : byPath) {
+        for (const auto &[section, issue] : behavior->issues) {
+            if (section == TriggerSentences)
+                sentences.push_back(&issue);
+        }
+    }
+
+    QVector<Issue> all;
+    for (const auto &section : sections) {
+        for (const Issue *issue : section) {
+            if (!filter || filter(*issue))
+                all.append(*issue);
+        }
+    }
+    return all;
+}
+
+IssueTracker::IssueTracker(const PackageInfoModel *package, const IssueOptions &options)
+    : m_data(std::make_unique<Data>()) {
+    m_data->package = package;
+    m_data->options = options;
+    update();
+}
+
+IssueTracker::~IssueTracker() = default;
+
+bool IssueTracker::update() {
+    if (!m_data->package) {
+        m_data->behaviors.clear();
+        return !std::exchange(m_data->issues, {}).isEmpty();
+    }
+    const PackageInfoModel &package = *m_data->package;
+    bool isChanged = m_data->updateOrder();
+    bool arePathsChanged = isChanged;
+    for (auto &behavior : m_data->behaviors) {
+        if (behavior.revision == ChildAccess::data(*behavior.model).revision())
+            continue;
+        const QString path = behavior.model->path();
+        arePathsChanged |= std::exchange(behavior.path, path) != path;
+    }
+    if (arePathsChanged)
+        m_data->updateOccurrences();
+
+    const CheckedPackage checked(package, package.packageInfo(), m_data->options);
+    auto input = commonInput(package);
+    const bool isForced = std::exchange(m_data->input, input) != input;
+    for (auto &behavior : m_data->behaviors)
+        isChanged |= m_data->updateBehavior(checked, behavior, isForced);
+    auto ofPackage = issuesOf(checkPackage(checked));
+    std::swap(m_data->ofPackage, ofPackage);
+    isChanged |= !areSame(m_data->ofPackage, ofPackage);
+
+    // A filter may depend on anything.
+    const IssueFilter filter =
+        m_data->options.filterFor ? m_data->options.filterFor(package) : IssueFilter();
+    const bool wasFiltered = std::exchange(m_data->isFiltered, bool(filter));
+    if (!isChanged && !filter && !wasFiltered)
+        return false;
+    const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled(filter));
+    return !areSame(before, m_data->issues);
+}
+
+const QVector<Issue> &IssueTracker::issues() const {
+    return m_data->issues;
+}
+
+QVector<Fix> IssueTracker::fixes(const Issue &issue) const {
+    if (!m_data->package)
+        return {};
+    const PackageInfoModel &package = *m_data->package;
+    const CheckedPackage checked(package, package.packageInfo(), m_data->options);
+    const auto fixesAmong =
+        [&](const std::vector<SectionFinding> &findings) -> std::optional<QVector<Fix>> {
+        for (const auto &[section, finding] : findings) {
+            Issue found = bareIssueOf(finding);
+            if (found.id != issue.id || found.path != issue.path)
+                continue;
+            complete(found, finding);
+            if (isSame(found, issue))
+                return FixMaker(package).fixesOf(finding);
+        }
+        return std::nullopt;
+    };
+    const auto path = Tano::FieldPath::parse(toUtf8(issue.path));
+    const auto &present = childrenOf<BehaviorInfoModel>(package).children();
+    const int count = qMin(int(present.size()), int(m_data->behaviors.size()));
+    for (int i = 0; path && !path->isEmpty() && i < count; ++i) {
+        const auto &behavior = m_data->behaviors[std::size_t(i)];
+        const BehaviorPlace place{behavior.model, behavior.occurrence};
+        if (behavior.model != present.at(i) ||
+            !(place.path().steps().front() == path->steps().front()))
+            continue;
+        if (const auto fixes = fixesAmong(checkBehavior(checked, place)))
+            return *fixes;
+    }
+    return fixesAmong(checkPackage(checked)).value_or(QVector<Fix>());
+}
+
+} // namespace Zel::PackageModel
