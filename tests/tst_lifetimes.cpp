@@ -114,6 +114,7 @@ private Q_SLOTS:
     void removedChildrenStayRemoved();
     void commandsOfTwoPackages();
     void movingToAnotherPackage();
+    void copiesOfAHalfLoadedPackage();
     void theLastLoadWins();
     void metaTypes();
 
@@ -353,6 +354,16 @@ void TestLifetimes::movingToAnotherPackage() {
     to.addBehavior(from.behaviors().at(0));
     QCOMPARE(to.behaviors().at(0)->parentPackage(), &to);
     QCOMPARE(disagreement(from) + disagreement(to), QString());
+}
+
+void TestLifetimes::copiesOfAHalfLoadedPackage() {
+    PackageInfoModel package;
+    const Observer observer(package, [&](auto &&...) {
+        PackageInfoModel copy(package);
+        copy.syncRecord();
+        QCOMPARE(disagreement(copy), QString());
+    });
+    QVERIFY(package.loadFromManifestContent(m_manifest));
 }
 
 void TestLifetimes::theLastLoadWins() {
