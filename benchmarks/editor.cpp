@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLineEdit>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -75,7 +76,9 @@ int main(int argc, char **argv) {
     Stopwatch watch;
     watch.measure("editorLoad", 3, [&] {
         Tano::PackageInfo record;
-        record.loadFromManifestFile(file.toStdString());
+        QFile manifest(file);
+        if (!record.loadFromManifestFile(manifest))
+            std::abort();
     });
     MainWindow window;
     window.keepEditsIn(folder.path());

@@ -13,8 +13,6 @@ private Q_SLOTS:
     void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
-    void startsFromTheRecord();
-    void unknownLanguagesAreRegistered();
     void copies();
     void paths_data();
     void paths();
@@ -25,49 +23,6 @@ private:
     const RobotLanguage m_english = language("en_US");
     const RobotLanguage m_french = language("fr_FR");
 };
-
-void TestBehaviorInfoModel::startsFromTheRecord() {
-    Tano::BehaviorInfo info;
-    info.setPath("caf\xC3\xA9/brew");
-    info.setNature(Tano::BehaviorInfo::natureSolitary());
-    info.setName("Brew", "en_US");
-    info.setName("Infuser", "fr_FR");
-    info.setDescription("Brews.", "en_US");
-    info.addTag("tea", "fr_FR");
-    info.addTag("pot", "fr_FR");
-    info.addTriggerSentence("brew", "en_US");
-    info.addLoadingResponse("wait", "en_US");
-    info.addCondition("isHot", "launch");
-    const BehaviorInfoModel model(info);
-    QCOMPARE(model.path(), text("café/brew"));
-    QCOMPARE(model.nature(), BehaviorInfoModel::natureSolitary());
-    QCOMPARE(model.name(m_french), text("Infuser"));
-    QCOMPARE(model.names().size(), size_t(2));
-    QCOMPARE(model.descriptions().size(), size_t(1));
-    QCOMPARE(model.description(m_english), text("Brews."));
-    QVERIFY(model.description(m_french).isNull());
-    QCOMPARE(model.tags(m_french), QStringList({text("tea"), text("pot")}));
-    QCOMPARE(model.tags(m_english), QStringList());
-    QCOMPARE(model.triggerSentences(m_english), QStringList(text("brew")));
-    QCOMPARE(model.loadingResponses(m_english), QStringList(text("wait")));
-    QCOMPARE(model.conditions(text("launch")), QStringList(text("isHot")));
-    QCOMPARE(model.toBehaviorInfo(), info);
-
-    const BehaviorInfoModel empty{Tano::BehaviorInfo()};
-    QCOMPARE(empty.nature(), BehaviorInfoModel::natureNone());
-    QVERIFY(BehaviorInfoModel::natureNone().isNull());
-    QVERIFY(!empty.isUserRequestable());
-}
-
-void TestBehaviorInfoModel::unknownLanguagesAreRegistered() {
-    Tano::BehaviorInfo info;
-    info.setName("Hello", "qb_QA");
-    info.addTag("greeting", "qb_QB");
-    const BehaviorInfoModel model(info);
-    QCOMPARE(model.name(RobotLanguage(ISOCode(text("qb_QA")), NuanceCode())), text("Hello"));
-    QCOMPARE(language("qb_QA").isoCode(), text("qb_QA"));
-    QCOMPARE(model.tags(language("qb_QB")), QStringList(text("greeting")));
-}
 
 void TestBehaviorInfoModel::copies() {
     auto package = std::make_unique<PackageInfoModel>();

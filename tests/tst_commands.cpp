@@ -110,7 +110,6 @@ private Q_SLOTS:
     void renamedToWhatCannotBeHeld();
     void topicTextOfARun();
     void argumentsInTexts();
-    void missingEntry();
     void switchNamesTheBehavior();
     void permissionsUndoBlindly();
     void listsByHand();
@@ -360,21 +359,6 @@ void TestCommands::argumentsInTexts() {
     QCOMPARE(shown("DialogInfoModelTypeVersionCommand"),
              text("Set dialog type version from %2 to 2"));
     QCOMPARE(shown("DialogInfoModelTopicCommand"), text("Set topic path from %3 to 2 (fr_FR)"));
-}
-
-void TestCommands::missingEntry() {
-    const Tano::PackageInfo before = m_package->packageInfo();
-    m_arguments.key = text("none");
-    for (const auto &each : commandClasses()) {
-        if (text(each.name) == QLatin1String("PackageLanguageCommand"))
-            continue; // covered by the editor's tests
-        m_arguments.model = text(each.name).startsWith(u'P') ? nullptr : m_package.get();
-        const auto command = made(text(each.name), m_arguments);
-        command->redo();
-        command->undo();
-        QVERIFY2(taken().isEmpty(), each.name);
-    }
-    QVERIFY(m_package->packageInfo() == before);
 }
 
 void TestCommands::switchNamesTheBehavior() {

@@ -5,6 +5,9 @@
 #include <packagemodel/change_words.h>
 #include <packagemodel/dialog_commands.h>
 #include <packagemodel/edit_session.h>
+#include <packagemodel/ignore_comments.h>
+#include <packagemodel/issue_report.h>
+#include <packagemodel/issue_tracker.h>
 #include <packagemodel/package_coverage.h>
 #include <packagemodel/package_difference.h>
 #include <packagemodel/package_edit_command.h>
@@ -98,6 +101,7 @@ public:
     }
 
     void showMessage(const QString &message) { QFAIL(qPrintable(message)); }
+    void showIssues(const QVector<Issue> &) {}
     void showConflict(const QString &, const QString &, const QString &) { QFAIL("conflict"); }
 
     template<typename Value>

@@ -62,10 +62,9 @@ private:
     }
 
     // The offscreen platform lacks some operations, views edit an item some time after a click,
-    // when it may be gone, and the library reports unusable icons.
+    // when it may be gone, and the library reports icons and scripts that it cannot use.
     static QRegularExpression unexpected() {
-        return QRegularExpression(
-            QStringLiteral("^(?!This plugin does not support|edit: |\\w+: Ignoring /)"));
+        return QRegularExpression(QStringLiteral("^(?!This plugin does not support|[a-z]\\w*: )"));
     }
 
     WarningGuard m_warnings;

@@ -35,24 +35,11 @@ class TestLanguage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void identityIsTheCode() {
-        const RobotLanguage known = robotLanguage(QStringLiteral("fr_FR"));
-        QVERIFY(known == partial("fr_FR"));
-        QVERIFY(known != partial("fr_fr"));
-        QVERIFY(RobotLanguage() == partial(""));
-        QVERIFY(RobotLanguage() != known);
-        QVERIFY(robotLanguage(ISOCode(QStringLiteral("fr_FR"))) == known);
-    }
-
     void values() {
         const RobotLanguage complete(ISOCode(QStringLiteral("c")), Name(QStringLiteral("n")),
                                      EnglishName(QStringLiteral("e")),
                                      NativeName(QStringLiteral("v")),
                                      NuanceCode(QStringLiteral("x")), SoftwareVersion{1, 2});
-        QCOMPARE(QStringList({complete.isoCode(), complete.name(), complete.englishName(),
-                              complete.nativeName(), complete.nuanceCode(), complete.uiName()}),
-                 QStringLiteral("c n e v x n").split(QLatin1Char(' ')));
-
         RobotLanguage copy = complete;
         copy.setVersion(SoftwareVersion{3});
         QVERIFY(copy.version() == SoftwareVersion{3});

@@ -52,7 +52,6 @@ private Q_SLOTS:
     void receiversMayEdit();
     void removalsAreAnnouncedOnce_data();
     void removalsAreAnnouncedOnce();
-    void childrenGoWithThePackage();
     void needsNoDisplay();
 
 private:
@@ -184,19 +183,6 @@ void TestPackageChildren::removalsAreAnnouncedOnce() {
                                                    behaviorRemoved(b)
                                                    behaviorRemoved(c))"));
     QVERIFY(model.behaviors().isEmpty());
-}
-
-void TestPackageChildren::childrenGoWithThePackage() {
-    auto model = std::make_unique<PackageInfoModel>();
-    model->addBehavior(text("a"));
-    model->addDialog(text("d"));
-    model->addService(service("s"));
-    const QPointer<QObject> behavior = model->behaviors().at(0);
-    const QPointer<QObject> dialog = model->dialogs().at(0);
-    const QPointer<QObject> service = model->services().at(0);
-    QCOMPARE(model->behaviors().at(0)->parentPackage(), model.get());
-    model.reset();
-    QVERIFY(!behavior && !dialog && !service);
 }
 
 void TestPackageChildren::needsNoDisplay() {

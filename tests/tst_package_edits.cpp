@@ -57,7 +57,6 @@ private Q_SLOTS:
     void repeatedPermissions();
     void otherModelsStay();
     void typedRuns();
-    void renamedRuns();
     void runsThatEnd();
     void textsOfSteps();
     void failedCommands();
@@ -358,23 +357,6 @@ void TestPackageEdits::typedRuns() {
     QCOMPARE(m_package->author(), text("A B"));
     stack.setIndex(3);
     QCOMPARE(m_package->author(), text("z"));
-}
-
-void TestPackageEdits::renamedRuns() {
-    QUndoStack stack;
-    const QByteArray before = bytes();
-    for (const auto &[from, to] : {std::pair("behaviors[odd\\]\\\\path].path", "a"),
-                                   {"behaviors[a].path", "ab"},
-                                   {"behaviors[ab].path", "abc"}}) {
-        const Edit edit{Edit::Action::Set, path(from), text(to)};
-        stack.push(new PackageEditCommand(m_package.get(), {edit}, text("Rename"), false));
-    }
-    QCOMPARE(stack.count(), 1);
-    QVERIFY(m_package->behavior(text("abc")));
-    stack.undo();
-    QCOMPARE(bytes(), before);
-    stack.redo();
-    QVERIFY(m_package->behavior(text("abc")));
 }
 
 void TestPackageEdits::runsThatEnd() {

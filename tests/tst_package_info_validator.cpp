@@ -29,9 +29,6 @@ private Q_SLOTS:
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
     void removedBehaviorsAreHeardNoMore();
-    void receiversMayRemoveBehaviors();
-    void summariesChangeAtTheEdgesOnly();
-    void packageGoesFirst();
     void flagsEqualAFreshRun();
 
 private:
@@ -53,49 +50,6 @@ void TestPackageInfoValidator::removedBehaviorsAreHeardNoMore() {
     package.removeBehavior(text("greet"));
     QCOMPARE(log.take(), QStringList());
     QCOMPARE(validator.behaviorInErrors().size(), 1);
-}
-
-void TestPackageInfoValidator::receiversMayRemoveBehaviors() {
-    PackageInfoModel package;
-    QVERIFY(package.loadFromManifestContent(faultyPackage));
-    PackageInfoValidator validator(&package);
-    SignalLog log(validator);
-    connect(&validator, &PackageInfoValidator::triggerSentencesStateChanged, this,
-            [&] { package.clearBehaviors(); });
-    validator.validateBehaviorTriggerSentences();
-    QCOMPARE(log.take(), lines("triggerSentencesStateChanged(greet, [fr_FR])"));
-}
-
-void TestPackageInfoValidator::summariesChangeAtTheEdgesOnly() {
-    PackageInfoModel package;
-    PackageInfoValidator validator(&package);
-    SignalLog log(validator);
-    validator.setPackageErrors(PackageError::InvalidUID, true);
-    validator.setPackageErrors(PackageError::InvalidUID, true);
-    validator.setPackageErrors(PackageError::InvalidBrioRequirements, true);
-    validator.setPackageErrors(PackageError::InvalidUID, false);
-    QCOMPARE(log.take(), lines("packageHasErrorsChanged(true)"));
-    validator.setPackageWarnings(PackageWarning::MissingDescriptions, true);
-    validator.setPackageErrors(PackageError::InvalidBrioRequirements, false);
-    validator.setPackageWarnings(PackageWarning::MissingNames, false);
-    QCOMPARE(log.take(), lines(R"(packageHasWarningsChanged(true)
-                                  packageHasErrorsChanged(false))"));
-    validator.setPackageWarnings(PackageWarning::MissingDescriptions, false);
-    QCOMPARE(log.take(), lines("packageHasWarningsChanged(false)"));
-}
-
-void TestPackageInfoValidator::packageGoesFirst() {
-    auto package = std::make_unique<PackageInfoModel>();
-    QVERIFY(package->loadFromManifestContent(faultyPackage));
-    PackageInfoValidator validator(package.get());
-    validator.activate();
-    package.reset();
-    SignalLog log(validator);
-    validator.validateTriggerSentences(nullptr);
-    validator.validateBehaviorTriggerSentences();
-    validator.deactivate();
-    validator.activate();
-    QCOMPARE(log.take(), QStringList());
 }
 
 namespace {

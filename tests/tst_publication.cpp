@@ -114,17 +114,6 @@ private Q_SLOTS:
         QCOMPARE(texts.join(u'|'), QStringLiteral("two<break/>2|one 1|two 2|two 2|two<break/>2"));
     }
 
-    void trimmedTextsStayAway() {
-        m_package.trimExtraInfo();
-        m_package.behaviors().at(1)->setNature(BehaviorInfoModel::natureSolitary());
-        m_package.behaviors().at(0)->addTag(QStringLiteral("hot"), language("en_US"));
-        m_package.addBehavior(QStringLiteral("new"));
-        QVERIFY(!m_package.saveToManifestContent().contains("nl_NL"));
-        m_package.createBehaviorInfoModels();
-        QCOMPARE(printed(m_package.behaviors().at(0)->names()),
-                 QStringLiteral("en_US:Pour & drink"));
-    }
-
     // An insertion and a change with blocked signals wait for the next change, such as trimming.
     void recordAndModelsAgree() {
         const auto behaviors = m_package.behaviors();
@@ -138,17 +127,6 @@ private Q_SLOTS:
         m_package.clearBehaviors();
         m_package.trimExtraInfo();
         QVERIFY(m_package.packageInfo().behaviors().empty());
-    }
-
-    void listedLanguagesCount() {
-        m_package.removeDescriptionLanguage(language("en_US"));
-        m_package.addDescriptionLanguage(language("nl_NL"));
-        m_package.trimExtraInfo();
-        const BehaviorInfoModel *pour = m_package.behaviors().at(0);
-        QCOMPARE(printed(m_package.names()),
-                 QStringLiteral("de_DE:Tee ja_JP-x-scrpol:<p> nl_NL:Thee"));
-        QCOMPARE(printed(pour->names()), QStringLiteral("nl_NL:Schenk"));
-        QCOMPARE(pour->triggerSentences(language("en_US")).size(), 2);
     }
 
     void generatesPlainText() {

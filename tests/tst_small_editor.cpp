@@ -1,6 +1,7 @@
 #include "small_editor.h"
 #include "text.h"
 
+#include <QDir>
 #include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -51,6 +52,18 @@ private Q_SLOTS:
         QCOMPARE(behaviors->item(0)->text(), text("Wave"));
         QCOMPARE(name->text(), text("Morning wave"));
         QCOMPARE(undo->text(), text("Undo"));
+    }
+
+    // docs/small-editor.md promises that.
+    void hasAtMost150Lines() {
+        int lines = 0;
+        const QDir folder(text(ZEL_SOURCE_DIR "/examples/small_editor"));
+        for (const char *name : {"main.cpp", "small_editor.cpp", "small_editor.h"}) {
+            QFile file(folder.filePath(text(name)));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            lines += int(file.readAll().count('\n'));
+        }
+        QVERIFY2(lines <= 150, qPrintable(QString::number(lines)));
     }
 
     // The picture of docs/small-editor.md, which ZEL_PICTURE=FILE draws.

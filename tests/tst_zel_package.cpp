@@ -82,9 +82,10 @@ private Q_SLOTS:
     // outcome. A comment "run: LINE" prepares, and "file: NAME" makes a file of the next block.
     void documents_data() {
         QTest::addColumn<QString>("path");
-        const auto files = QDir(QStringLiteral(ZEL_SOURCE_DIR "/docs"))
-                               .entryInfoList({QStringLiteral("*.md")}, QDir::Files);
-        for (const QFileInfo &file : files) {
+        QFileInfoList files = QDir(QStringLiteral(ZEL_SOURCE_DIR "/docs"))
+                                  .entryInfoList({QStringLiteral("*.md")}, QDir::Files);
+        files.append(QFileInfo(QStringLiteral(ZEL_SOURCE_DIR "/README.md")));
+        for (const QFileInfo &file : std::as_const(files)) {
             if (contentOf(file.filePath()).contains("```console"))
                 QTest::newRow(qPrintable(file.baseName())) << file.filePath();
         }

@@ -1,4 +1,4 @@
-// Draws the pictures of docs/images/ without a display, in the language of the locale:
+// Takes the screenshots in docs/images/ without a display, in the language of the locale:
 // editor_screenshots DIRECTORY SAMPLES.
 
 #include "window/application_setup.h"

@@ -6,14 +6,14 @@
 
 namespace Editor {
 
-/// What edits change in a package, for people.
+/// Changes to a package in words.
 struct ChangeList {
     QStringList lines;
-    QVector<Tano::FieldPath> paths; ///< of the fields that change, one for each line
-    QString error;                  ///< why the package does not take the edits; empty if it does
+    QVector<Tano::FieldPath> paths; ///< of the changed fields, one per line
+    QString error;                  ///< why the edits cannot be applied; else empty
 };
 
-/// The changes in the order of the manifest; what the edits take back themselves is not among them.
+/// The net changes of edits, in manifest order.
 ChangeList changesOf(const Zel::PackageInfoModel *package, const Zel::PackageModel::Edits &edits);
 /// The changes from one package to another.
 ChangeList changesBetween(const Zel::PackageInfoModel &from, const Zel::PackageInfoModel &to);

@@ -34,9 +34,8 @@ QPixmap largest(const QIcon &icon) {
     return icon.pixmap(size);
 }
 
-// Whether a load of the manifest that a package has written gives the same package for edits:
-// it places comments and unknown content by what is around them, and describes the package in
-// every supported language.
+// Whether loading the written manifest gives the same package for edits. Loading places comments
+// and unknown content by their neighbors, and uses every supported language for descriptions.
 bool loadsAsItIs(const PackageInfoModel &package, const std::string &manifest) {
     const auto has = [&](const char *part) { return manifest.find(part, 1) != std::string::npos; };
     const auto &supported = package.supportedLanguages();
@@ -66,11 +65,11 @@ Document::Document(QObject *parent)
 
 Document::~Document() {
     m_undoStack.disconnect(this);
-    m_undoStack.clear(); // the commands go before the package
+    m_undoStack.clear(); // delete the commands before the package
 }
 
 bool Document::open(const QString &fileName) {
-    // Taken first: an edit that comes while the file is read is noticed later.
+    // Taken before reading, so that a concurrent change is noticed later.
     const auto content = Tano::FileFingerprint::ofFile(Zel::toUtf8(fileName));
     auto package = std::make_unique<PackageInfoModel>();
     if (!package->loadFromManifestFile(fileName)) {
@@ -196,7 +195,7 @@ std::optional<QVector<Zel::PackageModel::MergeConflict>> Document::mergeWithFile
     }
     m_saved = theirs->packageInfo();
     rememberDisk(content);
-    m_undoStack.resetClean(); // no step leads to what the file has
+    m_undoStack.resetClean(); // no step leads to the file's contents
     edit({{Edit::Action::Set, {}, merged.record}}, tr("Merge with the file"));
     return merged.conflicts;
 }
@@ -208,7 +207,7 @@ Document::DiskState Document::checkDisk() {
     const DiskState state = present == Tano::FileFingerprint() ? DiskState::Vanished
                             : present == m_onDisk              ? DiskState::Same
                                                                : DiskState::Changed;
-    // One that was replaced is not watched any more.
+    // The watcher drops replaced files.
     if (state != DiskState::Vanished && !m_watcher.files().contains(m_fileName))
         m_watcher.addPath(m_fileName);
     const bool isNew = state != m_reported || present != m_seenOnDisk;
@@ -217,7 +216,7 @@ Document::DiskState Document::checkDisk() {
     if (!isNew)
         return state;
     if (state == DiskState::Vanished)
-        m_undoStack.resetClean(); // nothing on disk holds this any more
+        m_undoStack.resetClean(); // the file has no longer any of these states
     Q_EMIT fileDiffers(state);
     return state;
 }
@@ -241,7 +240,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_isReplacing = false;
     m_stackIndex = 0;
     m_isReplayable = true;
-    // Until everybody has heard, somebody may still look at the old one.
+    // Receivers of packageReplaced() may still use the old package.
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
     m_saved = m_package->packageInfo();

@@ -25,103 +25,100 @@ class PackageEditCommand;
 
 namespace Editor {
 
-/// The open package: its model, the file it came from, its undo stack, and what is wrong with it.
+/// The open package: its model, file, undo stack and issues.
 ///
-/// Every edit goes through type(), edit() or push(). When one is done, undone or redone, the issues
-/// are brought up to date first, then edited() is sent, and fieldChanged() after undo and redo.
+/// All edits go through type(), edit() or push(). After an edit, an undo or a redo, the issues are
+/// updated, then edited() is emitted, and after undo and redo fieldChanged().
 class Document : public QObject {
     Q_OBJECT
 
 public:
     enum class DiskState { Same, Changed, Vanished };
 
-    /// An empty package without a file.
+    /// Creates an empty package without a file.
     explicit Document(QObject *parent = nullptr);
     ~Document() override;
 
-    /// Replaced as a whole by what opens a package, so do not keep it beyond packageReplaced().
+    /// Replaced when another package is opened, so do not use it after packageReplaced().
     Zel::PackageInfoModel *package() const { return m_package.get(); }
     QUndoStack *undoStack() { return &m_undoStack; }
     bool isModified() const { return !m_undoStack.isClean(); }
 
-    // Files. What fails returns false, leaves everything as it was, and explains itself in
-    // errorString().
+    // Files. On failure, these functions return false, change nothing, and set errorString().
 
     bool open(const QString &fileName);
-    /// Starts a package without a file from a manifest's text.
+    /// Opens a package without a file from the text of a manifest.
     bool openTemplate(const QByteArray &manifest);
-    /// Writes the manifest, and "icon.png" beside it if the icon has changed, both or neither.
-    /// Fails if another program has changed the open file since checkDisk() last looked at it.
+    /// Writes the manifest and, if the icon has changed, "icon.png" beside it: both or neither.
+    /// Fails if another program has changed the open file since the last checkDisk().
     bool save(const QString &fileName);
-    /// Writes a copy for users: without texts in languages that are not offered, and as plain text.
+    /// Writes a copy for publication: without texts in unlisted languages, and with plain text
+    /// instead of scripts.
     bool publish(const QString &fileName);
     const QString &fileName() const { return m_fileName; }
-    /// The package as it was opened or last saved.
+    /// The package when it was opened or last saved.
     const Tano::PackageInfo &saved() const { return m_saved; }
-    /// The manifest that a package without a file was started from.
+    /// The template of a package without a file.
     const QByteArray &templateManifest() const { return m_template; }
-    /// The digest of the manifest that was last read or written, see UnsavedEdits.
+    /// The digest of the manifest when it was last read or written, see UnsavedEdits.
     QByteArray digest() const;
     const QString &errorString() const { return m_errorString; }
 
-    /// The package as publish() writes it.
+    /// The package as written by publish().
     std::unique_ptr<Zel::PackageInfoModel> published() const;
-    /// Reads the package that the file has now, which another program may have changed.
+    /// Reads the package that is in the file now.
     std::unique_ptr<Zel::PackageInfoModel> readAgain();
-    /// Merges what another program has written into the file with the edits since it was last read
-    /// or saved, as an undo step. Returns the conflicts, which the issues hold too; nothing if the
-    /// file cannot be merged.
+    /// Merges the file's current contents with the unsaved edits, as an undo step. Returns the
+    /// conflicts, which are also issues, or nullopt if the file cannot be merged.
     std::optional<QVector<Zel::PackageModel::MergeConflict>> mergeWithFile();
 
-    /// Compares the file with what was last read or written. Once for every difference, sends
-    /// fileDiffers().
+    /// Compares the file with its last known state. Emits fileDiffers() once per difference.
     DiskState checkDisk();
 
     // Edits.
 
-    /// Sets a field to a typed text. What is typed in one field is one undo step until the run is
-    /// closed, which a pause does too. Returns why the field cannot take the text; the field then
-    /// has what it had before the run.
+    /// Sets a field to typed text. Typing in one field is one undo step until the run is closed, by
+    /// closeRun() or by a pause. If the field cannot take the text, restores its value before the
+    /// run and returns the reason.
     QString type(const Tano::FieldPath &field, const QString &text);
-    /// Applies edits as an undo step, or changes nothing and sends editRefused(). Without a text,
-    /// the edits in words are the text of the step.
+    /// Applies edits as an undo step, or changes nothing and emits editRefused(). By default, the
+    /// text of the step describes the edits.
     void edit(const Zel::PackageModel::Edits &edits, const QString &text = {});
-    /// Pushes a command for what no edit changes: the icon.
+    /// Pushes a command for changes that edits cannot express, that is, of the icon.
     void push(QUndoCommand *command);
-    /// Ends the run, so that what is typed next is another step.
+    /// Ends the run, so that further typing is a new undo step.
     void closeRun();
-    /// Takes the run back, if one is open in that field.
+    /// Reverts the run if one is open in this field.
     void abandonRun(const Tano::FieldPath &field);
-    /// How long a pause in typing ends the run; a second unless set.
+    /// The length of a pause that ends the run, by default one second.
     void setTypingPause(std::chrono::milliseconds pause) { m_pause.setInterval(pause); }
 
-    /// The edits that lead from the package as it was opened or last saved to the present one; the
-    /// whole package if edits cannot lead there exactly. The icon is not among them.
+    /// The edits from the package as opened or last saved to the current one, or the whole package
+    /// if edits cannot express the change exactly. Excludes the icon.
     Zel::PackageModel::Edits pendingEdits() const;
 
-    // What is wrong, as it is right now.
+    // The current issues.
 
     const QVector<Zel::PackageModel::Issue> &issues() const { return m_tracker->issues(); }
     /// The ways to correct one of issues(), the most likely first.
     QVector<Zel::PackageModel::Fix> fixes(const Zel::PackageModel::Issue &issue) const {
         return m_tracker->fixes(issue);
     }
-    /// The worst issue of the field with that path.
+    /// The most severe issue of a field.
     std::optional<Zel::PackageModel::Issue> issueAt(const Tano::FieldPath &path) const;
-    /// The severity of the worst issue of a behavior.
+    /// The greatest severity among the issues of a behavior.
     std::optional<Zel::PackageModel::Severity> behaviorSeverity(const QString &behaviorPath) const;
 
-    // How far the package is translated. Counted when asked for, since there may be very many
-    // texts.
+    // Translation progress, computed on demand since there may be very many texts.
 
     const Zel::RobotLanguages &languages() const;
-    /// The coverage in one of languages(); nothing is expected in others.
+    /// The coverage of a language; nothing is expected in languages outside languages().
     Zel::PackageModel::LanguageCoverage coverage(const QString &languageCode) const;
 
 Q_SIGNALS:
     void packageReplaced();
     void edited();
-    /// An undo or redo has changed the field or entry with that path.
+    /// Undo or redo has changed this field or entry.
     void fieldChanged(const QString &path);
     void editRefused(const QString &reason);
     void issuesChanged();
@@ -144,10 +141,10 @@ private:
 
     std::unique_ptr<Zel::PackageInfoModel> m_package;
     QUndoStack m_undoStack;
-    Tano::FieldPath m_run; // the field that is being typed in; empty while no run is open
+    Tano::FieldPath m_run; // the field being typed in; empty if no run is open
     QTimer m_pause;
     int m_stackIndex = 0;
-    bool m_isReplayable = true; // whether a load of the saved file takes the edits that follow
+    bool m_isReplayable = true; // whether a reload can be followed by the pending edits
     bool m_isPushing = false;
     bool m_isReplacing = false;
 
@@ -155,7 +152,7 @@ private:
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
     QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
 
-    // Texts of behaviors and dialogs are edited in these languages only.
+    // The only languages in which texts of behaviors and dialogs can be edited.
     mutable std::optional<Zel::RobotLanguages> m_languages;
     mutable std::optional<std::vector<Zel::PackageModel::LanguageCoverage>> m_coverages;
 
@@ -164,7 +161,7 @@ private:
     QByteArray m_template;
     QString m_errorString;
     QFileSystemWatcher m_watcher;
-    Tano::FileFingerprint m_onDisk; // when last read or written
+    Tano::FileFingerprint m_onDisk; // when it was last read or written
     DiskState m_reported = DiskState::Same;
     Tano::FileFingerprint m_seenOnDisk; // by checkDisk()
     qint64 m_savedIcon = 0;

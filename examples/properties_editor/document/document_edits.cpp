@@ -18,20 +18,20 @@ using Zel::PackageModel::Edits;
 
 namespace {
 
-// The field that a command has set: a key that was set has another path.
+// The field that a command has set, whose path differs if it is a key.
 FieldPath fieldAfter(const PackageEditCommand &command) {
     const Edits &inverse = command.inverse();
     const bool isField = !inverse.isEmpty() && !inverse.front().path.isEmpty();
     return (isField ? inverse : command.edits()).front().path;
 }
 
-// Whether a run has inserted the item that it types in.
+// Whether the first edit of a run inserted the item.
 bool beganAsItem(const PackageEditCommand *run) {
     return run && !run->edits().isEmpty() && run->edits().front().action == Edit::Action::Insert;
 }
 
-// The field that the last edit of a command has changed: the item that it inserted into a list of
-// texts rather than the list.
+// The field changed by the last edit of a command; for an insertion into a list of texts, the
+// inserted item.
 FieldPath lastField(const PackageEditCommand &command) {
     const Edit &last = command.edits().back();
     const bool isItem = last.action == Edit::Action::Insert &&
@@ -59,7 +59,7 @@ QString Document::type(const FieldPath &field, const QString &text) {
     const int before = m_undoStack.index();
     pushCommand(command);
     closeRun();
-    // One that was typed back is gone.
+    // A run whose text was typed back is removed.
     if (const auto *run = commandAt(m_undoStack.index() - 1); run && m_undoStack.index() >= before)
         m_run = fieldAfter(*run);
     m_pause.start();
@@ -75,7 +75,7 @@ QString Document::refusalOf(const Edits &edits) const {
     }
     if (reason.isEmpty() || edits.size() == 1)
         return reason;
-    // It may depend on an edit before it.
+    // An edit may depend on earlier ones.
     m_package->syncRecord();
     PackageInfoModel scratch(m_package->packageInfo());
     return Zel::PackageModel::apply(&scratch, edits).error;
@@ -111,7 +111,7 @@ void Document::closeRun() {
 void Document::abandonRun(const FieldPath &field) {
     if (m_run.isEmpty() || m_run != field)
         return;
-    // The two dissolve.
+    // A run and its inverse cancel each other out.
     if (const PackageEditCommand *run = commandAt(m_undoStack.index() - 1))
         pushCommand(new PackageEditCommand(package(), run->inverse(), {}, false));
     closeRun();

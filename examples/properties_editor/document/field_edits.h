@@ -6,27 +6,27 @@
 
 namespace Editor {
 
-// The fields of a package as the texts that a form shows and takes, and edits of its lists.
+// Converts fields of a package to and from the texts in forms, and edits lists.
 
-/// The text of a field; empty where there is no such field.
+/// The text of a field, empty if it does not exist.
 QString fieldText(const Zel::PackageInfoModel *package, const Tano::FieldPath &path);
-/// The edit that sets a field to a typed text, which may be that of a version.
+/// The edit that sets a field, possibly a version, to typed text.
 Zel::PackageModel::Edit setText(const Tano::FieldPath &path, const QString &text);
-/// The edit that types a text into a field: setText(), or the insertion of a text that follows the
-/// last one of a list.
+/// The edit for typing a text into a field: setText() or, after the last item of a list of texts,
+/// an insertion.
 Zel::PackageModel::Edit typedEdit(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
                                   const QString &text);
-/// Why a text cannot be typed into a field, for people; empty if it can.
+/// The reason why a field cannot take a text, empty if it can.
 QString textRefusal(const Zel::PackageInfoModel *package, const Tano::FieldPath &path,
                     const QString &text);
-/// The edit that adds an entry at the end of a list.
+/// The edit that appends an entry to a list.
 Zel::PackageModel::Edit appended(const Tano::FieldPath &list,
                                  const Zel::PackageModel::FieldValue &entry);
 /// The edit that removes the entry at an index of a list.
 Zel::PackageModel::Edit removed(const Zel::PackageInfoModel *package, const Tano::FieldPath &list,
                                 int index);
 
-/// A name that no entry has yet: `stem`, or the stem with a number.
+/// An unused name: `stem`, or the stem with a number.
 template<typename IsTaken>
 QString freeName(const QString &stem, IsTaken isTaken) {
     QString name = stem;
@@ -35,17 +35,16 @@ QString freeName(const QString &stem, IsTaken isTaken) {
     return name;
 }
 
-// Parts of a path by which a page finds the widget of a field; empty where the path has no such
-// part.
+// Parts of a path, by which pages find the widget of a field; empty if the path lacks the part.
 
 QString fieldName(const Tano::FieldPath &path, std::size_t step = 0);
 /// The first selector of a step.
 QString fieldKey(const Tano::FieldPath &path, std::size_t step = 0);
-/// The last selector of the last step as an index; -1 if it is none.
+/// The last selector as an index, or -1.
 int itemIndex(const Tano::FieldPath &path);
 
-/// The index of the entry, such as a behavior, that the first step of a path selects by its key and
-/// by the number among entries with that key; -1 for none.
+/// The index of the entry selected by the first step of a path, by key and occurrence; -1 if there
+/// is none.
 template<typename Entries, typename Key>
 int entryIndex(const Entries &entries, Key key, const Tano::FieldPath &path) {
     const auto &selectors = path.steps().front().selectors;

@@ -39,9 +39,9 @@ QString Recovery::stateFolder() {
 }
 
 void Recovery::begin(const QString &adopted) {
-    discard(); // the user was asked about them
+    discard(); // the user has already decided about them
     m_spare.reset();
-    m_session.reset(); // its lock may be that of the same file
+    m_session.reset(); // it may hold the lock of the same file
     m_fileName = m_document.fileName();
     if (adopted.isEmpty())
         m_session.emplace(m_folder, m_fileName);
@@ -52,7 +52,7 @@ void Recovery::begin(const QString &adopted) {
         Q_EMIT noticed();
 }
 
-// After Save As, the file has this package, whatever edits were left for what it had before.
+// After Save As, the target has this package, so edits left for its earlier contents are dropped.
 void Recovery::moveToFile() {
     if (m_document.fileName() == m_fileName)
         return;

@@ -11,49 +11,48 @@
 
 namespace Editor {
 
-/// Keeps the unsaved edits of a document on disk, a few seconds after each edit, and finds those of
-/// an editor that ended without saving. Also locks the manifest, so that a second window notices
-/// the first.
+/// Stores unsaved edits on disk a few seconds after each edit, and finds those of an editor that
+/// crashed. Also locks the manifest, so that a second window notices the first.
 ///
-/// The icon is not among the edits.
+/// The icon is not included.
 class Recovery : public QObject {
     Q_OBJECT
 
 public:
-    /// Watches a document, which has to outlive this object.
+    /// `document` must outlive this object.
     Recovery(Document &document, const QString &folder, QObject *parent = nullptr);
-    /// Removes what was kept: the user was asked about unsaved changes before.
+    /// Removes the stored edits: the user has been asked about unsaved changes.
     ~Recovery() override;
 
-    /// The folder for the program's state, as the XDG Base Directory Specification has it.
+    /// The program's folder for state according to the XDG Base Directory Specification.
     static QString stateFolder();
 
-    /// How long after an edit it is kept; three seconds unless set.
+    /// The delay between an edit and its storage, by default three seconds.
     void setDelay(std::chrono::milliseconds delay) { m_timer.setInterval(delay); }
 
-    /// Who else has the document's file open.
+    /// The owner of the lock if the file is open elsewhere.
     std::optional<Zel::PackageModel::EditSession::Owner> otherOwner() const;
-    /// Unsaved edits of the document's file that were there when it was opened.
+    /// Unsaved edits of the file that were found when it was opened.
     const std::optional<Zel::PackageModel::UnsavedEdits> &leftover() const { return m_leftover; }
     /// Whether the file has changed since the leftover edits were made.
     bool isFileChanged() const;
-    /// Applies the leftover edits as one undo step. Returns why they cannot be applied; then they
-    /// stay on disk.
+    /// Applies the leftover edits as one undo step. On failure, returns the reason and keeps them
+    /// on disk.
     QString restore();
     /// Removes the leftover edits.
     void dismiss();
 
-    /// Unsaved edits of files that no window has open, the newest first.
+    /// Unsaved edits of files that are not open, newest first.
     QVector<Zel::PackageModel::Leftover> leftovers() const;
-    /// Opens the package of leftover edits, which is one without a file if it never had one.
-    /// Returns why it cannot be opened.
+    /// Opens the package of leftover edits, possibly one without a file. On failure, returns the
+    /// reason.
     QString open(const Zel::PackageModel::Leftover &leftover);
     void dismiss(const Zel::PackageModel::Leftover &leftover);
 
 Q_SIGNALS:
-    /// A package was opened whose file somebody else has open, or has leftover edits of.
+    /// The opened file is also open elsewhere, or has leftover edits.
     void noticed();
-    /// The edits cannot be kept.
+    /// The edits cannot be stored.
     void failed(const QString &reason);
 
 private:
@@ -68,10 +67,10 @@ private:
     QTimer m_timer;
     QString m_fileName; // of the session
     std::optional<Zel::PackageModel::EditSession> m_session;
-    // Keeps edits while the leftover ones, which could not be applied, keep their file.
+    // Stores edits while leftover ones that could not be applied remain on disk.
     std::optional<Zel::PackageModel::EditSession> m_spare;
     std::optional<Zel::PackageModel::UnsavedEdits> m_leftover;
-    QString m_adopted; // the id of the leftover that is being opened
+    QString m_adopted; // the id of the leftover being opened
     bool m_isKept = false;
 };
 

@@ -67,7 +67,7 @@ PastedRows entriesOf(FieldKind kind, const QMimeData &data) {
     return rows;
 }
 
-// A list of texts has each once.
+// Lists of texts have no duplicates.
 void dropKnownTexts(PastedRows &rows, QSet<QString> known) {
     QString repeated;
     const auto isKnown = [&](const FieldValue &entry) {
@@ -101,7 +101,7 @@ QString entryKey(const FieldValue &entry) {
     return {};
 }
 
-// From the last to the first, so that the paths of the others stay.
+// From last to first, so that the other paths stay valid.
 Edits removals(const PackageInfoModel *package, const FieldPath &list, const QVector<int> &rows) {
     Edits edits;
     for (auto row = rows.rbegin(); row != rows.rend(); ++row)
@@ -109,8 +109,8 @@ Edits removals(const PackageInfoModel *package, const FieldPath &list, const QVe
     return edits;
 }
 
-// In an order in which each row has the same entries before it as at the start when its turn comes,
-// so that its path is the one that it has now.
+// Ordered so that each row has the same predecessors when it is moved as now, and thus the same
+// path.
 Edits moves(const PackageInfoModel *package, const FieldPath &list, const QVector<int> &rows,
             int before) {
     Edits edits;

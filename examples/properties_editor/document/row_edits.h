@@ -8,42 +8,43 @@ class QMimeData;
 
 namespace Editor {
 
-// Edits of several rows of a list, and rows on the clipboard. Rows are valid, ascending and differ.
+// Edits of several rows of a list, and rows on the clipboard. Row numbers must be valid, ascending
+// and unique.
 
-/// What names an entry in its list: the text itself, the path of a behavior, the topic of a dialog,
-/// the name of a service. Empty for a requirement.
+/// The key of an entry in its list: a text itself, the path of a behavior, the topic name of a
+/// dialog, the name of a service. Empty for requirements.
 QString entryKey(const Zel::PackageModel::FieldValue &entry);
 
 /// The edits that remove rows.
 Zel::PackageModel::Edits removals(const Zel::PackageInfoModel *package, const Tano::FieldPath &list,
                                   const QVector<int> &rows);
-/// The edits that bring rows together before another row, or at the end; none where they are there.
+/// The edits that move rows before another row or to the end; empty if they are already there.
 Zel::PackageModel::Edits moves(const Zel::PackageInfoModel *package, const Tano::FieldPath &list,
                                const QVector<int> &rows, int before);
-/// The edits that insert entries before a row. A key that is taken gets a number.
+/// The edits that insert entries before a row. Duplicate keys get a number.
 Zel::PackageModel::Edits insertions(const Zel::PackageInfoModel *package,
                                     const Tano::FieldPath &list,
                                     const QVector<Zel::PackageModel::FieldValue> &entries,
                                     int before);
 
-/// Entries of a list as edits for other windows, and as lines for other programs. The caller owns
-/// the result.
+/// Entries as edits for other windows and as lines of text for other programs. The caller takes
+/// ownership.
 QMimeData *newRowData(const Tano::FieldPath &list,
                       const QVector<Zel::PackageModel::FieldValue> &entries,
                       const QStringList &lines);
 
-/// What can be pasted, or why nothing can.
+/// The entries to paste, or the reason why there are none.
 struct PastedRows {
     QVector<Zel::PackageModel::FieldValue> entries;
     QString error; ///< one sentence for people; empty on success
 };
 
-/// Reads what newRowData() wrote or, for a list of texts, the lines of a text. Texts that the list
-/// has already are left out, as long as others remain.
+/// Reads the output of newRowData() or, for a list of texts, lines of text. Omits texts that the
+/// list already has unless none would remain.
 PastedRows pastedRows(const Zel::PackageInfoModel *package, const Tano::FieldPath &list,
                       const QMimeData *data);
 
-/// The lines of a text without the empty ones.
+/// The non-empty lines of a text.
 QStringList linesOf(const QString &text);
 
 } // namespace Editor

@@ -65,7 +65,7 @@ BehaviorInfoModel *BehaviorsModel::behavior(int row) const {
 }
 
 int BehaviorsModel::rowOf(const BehaviorInfoModel *behavior) const {
-    // From the end, where entries come and go.
+    // Searches from the end, where most insertions and removals happen.
     return int(m_behaviors.lastIndexOf(const_cast<BehaviorInfoModel *>(behavior)));
 }
 
@@ -96,7 +96,7 @@ void BehaviorsModel::remove(BehaviorInfoModel *behavior) {
 }
 
 void BehaviorsModel::move(BehaviorInfoModel *, int from, int to) {
-    // Qt takes the row before which the moved one comes, counted before the move.
+    // Qt expects the destination before the move.
     beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
     m_behaviors.move(from, to);
     endMoveRows();

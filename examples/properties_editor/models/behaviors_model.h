@@ -7,8 +7,8 @@
 
 namespace Editor {
 
-/// The behaviors of the package, by path and name, made for very many: it follows the package's
-/// notifications, and each touches the row that it concerns.
+/// The behaviors of the package, by path and name. Made for very many: each notification of the
+/// package only updates the row that it concerns.
 class BehaviorsModel : public QAbstractTableModel {
     Q_OBJECT
 

@@ -67,7 +67,7 @@ QVariant TopicsModel::data(const QModelIndex &index, int role) const {
                                : fieldText(package(), field(index));
 }
 
-// Whether the file exists: one that is missing is an issue.
+// Marks missing files, which are issues.
 QVariant TopicsModel::fileData(const QModelIndex &index, int role) const {
     if (const auto mark = Mark::ofIssue(document().issueAt(field(index))))
         return markData(mark, role);

@@ -20,14 +20,14 @@ protected:
     QStringList titles() const override;
 };
 
-/// The topic files of one dialog: a row for each language that the package supports or the dialog
-/// has a file in.
+/// The topic files of one dialog: a row per language that the package supports or the dialog has a
+/// file for.
 class TopicsModel : public TableModel {
     Q_OBJECT
 
 public:
     explicit TopicsModel(Document &document, QObject *parent = nullptr);
-    /// Shows the dialog at a row of the package's list; none for -1.
+    /// Shows the dialog in a row of the package's list; -1 for none.
     void setDialog(int row);
 
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -61,7 +61,7 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    /// The column of the field of a service with that name in paths; the first one for others.
+    /// The column of a service's field, by its name in paths; the first one for other names.
     Column columnOf(const QString &field) const;
 
 protected:

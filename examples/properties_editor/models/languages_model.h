@@ -4,7 +4,7 @@
 
 namespace Editor {
 
-/// The matrix of the package's languages by its texts, in the order of PackageModel::languages().
+/// A table of the package's languages and their texts, in the order of PackageModel::languages().
 class LanguagesModel : public TableModel {
     Q_OBJECT
 
@@ -12,8 +12,7 @@ public:
     enum Column { Language, Supported, Described, Name, Description, Coverage };
     /// The ISO code of a row's language.
     static constexpr int CodeRole = Qt::UserRole;
-    /// How many of the texts that a row's language needs there are, in percent; invalid for a
-    /// language that needs none.
+    /// The percentage of required texts that a language has; invalid if it requires none.
     static constexpr int PercentRole = Qt::UserRole + 1;
 
     explicit LanguagesModel(Document &document, QObject *parent = nullptr);
@@ -22,11 +21,11 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    /// The list that the check boxes of a column put a language in.
+    /// The list that the check boxes of a column control.
     static Tano::FieldPath listOf(Column column);
-    /// Makes a language a supported one.
+    /// Adds a supported language.
     void add(const QString &code);
-    /// Removes the languages of rows with all texts in them.
+    /// Removes the languages of rows, with all their texts.
     void remove(const QVector<int> &rows);
 
     /// "Supported languages: 10. With a name: 9. With a description: 8."

@@ -11,7 +11,7 @@ using Zel::PackageModel::TextMatches;
 
 namespace {
 
-// A match with some words around it, in one line.
+// A match with surrounding words on one line.
 QString excerptOf(const TextMatch &match) {
     constexpr int before = 30;
     constexpr int after = 90;

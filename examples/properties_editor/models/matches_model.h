@@ -7,7 +7,7 @@
 
 namespace Editor {
 
-/// The places that a search has found so far, with the words around each.
+/// The matches that a search has found so far, with surrounding words.
 class MatchesModel : public QAbstractTableModel {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 namespace Editor {
 
-/// What is wrong with the package: one row for each issue, in the order of the checks.
+/// The issues of the package, one row each, in the order of the checks.
 class ProblemsModel : public TableModel {
     Q_OBJECT
 

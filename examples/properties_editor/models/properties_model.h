@@ -12,13 +12,13 @@ public:
     enum Column { Name, Value };
 
     explicit PropertiesModel(Document &document, QObject *parent = nullptr);
-    /// Shows the service at a row of the package's list; none for -1.
+    /// Shows the service in a row of the package's list; -1 for none.
     void setService(int row);
     bool hasService() const { return service() != nullptr; }
 
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    /// Renames a property too, unless the service has one with that name.
+    /// Also renames properties, unless the service already has the new name.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
     /// Adds an empty property and returns its name.

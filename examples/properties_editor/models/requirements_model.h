@@ -4,7 +4,7 @@
 
 namespace Editor {
 
-/// The robot or the Brio requirements of the package, one row each, with a column for each field.
+/// The robot or Brio requirements of the package, with a row each and a column per field.
 class RequirementsModel : public TableModel {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     QVector<QPair<QString, QString>> choices(const QModelIndex &index) const override;
 
     void add();
-    /// The column of the field of a requirement with that name in paths; -1 for none.
+    /// The column of a requirement's field, by its name in paths, or -1.
     int columnOf(const QString &field) const;
     /// The path of the list.
     Tano::FieldPath list() const;

@@ -11,8 +11,7 @@ class StringListModel : public TableModel {
     Q_OBJECT
 
 public:
-    /// `list` returns the path of the list; the empty path for none. When it returns another one,
-    /// call sync().
+    /// `list` returns the path of the list, or an empty path. Call sync() when it changes.
     StringListModel(Document &document, const QString &title, std::function<Tano::FieldPath()> list,
                     QObject *parent = nullptr);
 
@@ -21,9 +20,9 @@ public:
     QString refusal(const QModelIndex &index, const QString &text) const override;
 
     Tano::FieldPath list() const { return m_list(); }
-    /// Why a text cannot be added; empty when it can.
+    /// The reason why a text cannot be added, empty if it can.
     QString additionRefusal(const QString &text) const;
-    /// Adds texts that can be added, as one undo step.
+    /// Adds the texts that can be added, as one undo step.
     void add(const QStringList &texts);
 
 protected:

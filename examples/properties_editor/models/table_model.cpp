@@ -24,7 +24,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 }
 
 Qt::ItemFlags TableModel::flags(const QModelIndex &index) const {
-    // Rows are dragged in views of ordered lists, and dropped between others.
+    // In ordered lists, rows are dragged and dropped between other rows.
     return index.isValid()
                ? QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled | extraFlags(index)
                : Qt::ItemIsDropEnabled;

@@ -7,8 +7,8 @@
 
 namespace Editor {
 
-/// The base of the small tables over the package: after every edit it brings its rows up to date,
-/// with the insertions, removals and moves that lead there, so that views keep what is selected.
+/// The base of small table models over the package. After every edit, updates the rows by
+/// insertions, removals and moves, so that views keep their selection.
 class TableModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -22,38 +22,37 @@ public:
     /// Types a text into the field of an editable cell.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    /// The field of the package that a cell edits as a text; the empty path for other cells.
+    /// The field that a cell edits as text; empty for other cells.
     Tano::FieldPath field(const QModelIndex &index) const;
-    /// Why a cell cannot take a text; empty when it can.
+    /// The reason why a cell cannot take a text, empty if it can.
     virtual QString refusal(const QModelIndex &index, const QString &text) const;
-    /// What may be chosen for a cell, as pairs of the value and its text; empty where anything
-    /// goes.
+    /// The choices for a cell, as pairs of value and text; empty if any text is allowed.
     virtual QVector<QPair<QString, QString>> choices(const QModelIndex &index) const;
 
     const QStringList &keys() const { return m_keys; }
     QString key(const QModelIndex &index) const { return m_keys.value(index.row()); }
 
-    /// Brings rows and cells up to date.
+    /// Updates rows and cells.
     void sync();
 
 protected:
     explicit TableModel(Document &document, QObject *parent = nullptr);
 
-    /// What tells the rows apart, in order. Where entries have no key of their own, numbered().
+    /// The keys of the rows, in order. For entries without keys, use numbered().
     virtual QStringList currentKeys() const = 0;
     virtual QStringList titles() const = 0;
     /// field() of a valid index.
     virtual Tano::FieldPath fieldOf(const QModelIndex &index) const;
-    /// The flags of a cell beside those of any cell.
+    /// Additional flags of a cell.
     virtual Qt::ItemFlags extraFlags(const QModelIndex &index) const;
-    /// For a new package, before its rows are asked for.
+    /// Called for a new package before its rows are read.
     virtual void packageReplaced() {}
 
     static QStringList numbered(int count);
     Document &document() const { return m_document; }
     Zel::PackageInfoModel *package() const { return m_document.package(); }
 
-    /// To be called at the end of a subclass's constructor.
+    /// Must be called at the end of a subclass's constructor.
     void start() { reset(); }
 
 private:

@@ -40,7 +40,7 @@ QString inWords(const char *text) {
     return QCoreApplication::translate("Editor::TextCells", text);
 }
 
-// "Name" or "Tag 2": the owner is in the heading, the language in the header.
+// "Name" or "Tag 2", without owner and language, which are in the headings.
 QString fieldWords(const FieldPath &path) {
     const auto form = Zel::PackageModel::formOf(path);
     const QString label = form ? form->label : QString();
@@ -122,7 +122,7 @@ QVariant headingCell(const TextGroup &group, TextColumn column, int role) {
         font.setBold(true);
         return font;
     }
-    case Qt::ForegroundRole: // in spite of being disabled, so that the cursor passes it by
+    case Qt::ForegroundRole: // although it is disabled, so that the cursor skips it
         return palette.brush(QPalette::Active, QPalette::Text);
     case Qt::BackgroundRole:
         return palette.brush(QPalette::Active, QPalette::Window);

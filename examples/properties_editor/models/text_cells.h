@@ -6,7 +6,7 @@
 
 namespace Editor {
 
-// What the list of texts shows: how a TextGroup and its texts look in each column.
+// The appearance of a TextGroup and its texts in each column of the list of texts.
 
 enum class TextColumn { Field, Source, Target, State };
 inline constexpr int textColumnCount = 4;
@@ -16,9 +16,9 @@ QString columnTitle(TextColumn column, const LanguagePair &languages);
 /// A state in words.
 QString stateWords(Zel::PackageModel::TextState state);
 
-/// A cell of the heading of a group, which says how many of its texts are there.
+/// A cell in the heading of a group, which shows how many of its texts exist.
 QVariant headingCell(const TextGroup &group, TextColumn column, int role);
-/// A cell of a text; its state is marked as problems are.
+/// A cell of a text; its state is marked like problems.
 QVariant textCell(const Zel::PackageModel::TranslatableText &text,
                   Zel::PackageModel::TextState state, TextColumn column, int role);
 

@@ -4,10 +4,10 @@
 
 namespace Editor {
 
-/// Which texts a translator wants to see: those in a state, or all, that hold what is searched for.
+/// Selects texts by state, and by a search in them.
 struct TextFilter {
     std::optional<Zel::PackageModel::TextState> state = {};
-    QString search = {}; ///< in the source, the target, or the field in words; in any case
+    QString search = {}; ///< in the source, the target, or the field in words; case-insensitive
 
     bool passes(const TextGroup &group, int text) const;
 };

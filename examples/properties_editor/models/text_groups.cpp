@@ -22,7 +22,7 @@ FieldPath ownerOf(const FieldPath &path) {
     return owner;
 }
 
-// The paths of behaviors as fields.
+// The field paths of behaviors.
 std::vector<FieldPath> ownersOf(const std::vector<Tano::BehaviorInfo> &behaviors) {
     std::vector<FieldPath> owners;
     std::unordered_map<std::string, int> counts;
@@ -113,7 +113,7 @@ std::optional<Tano::BehaviorInfo> TextGroups::savedRecordOf(int group) {
     return behaviors[found->second];
 }
 
-// The texts as they were saved; none if they are the same as now.
+// The texts when they were saved; empty if they have not changed.
 QVector<TranslatableText> TextGroups::savedTextsOf(int group) {
     if (group == 0) {
         Tano::PackageInfo own = m_saved;
@@ -173,7 +173,7 @@ bool TextGroups::hasSameBehaviors() const {
 }
 
 bool TextGroups::followSave() {
-    // Records share their content with copies, so that an address identifies it.
+    // Copies of records share their content, so the address identifies it.
     if (&m_saved.behaviors() == &m_document.saved().behaviors())
         return false;
     m_saved = m_document.saved();
@@ -206,7 +206,7 @@ std::vector<int> TextGroups::outdated() {
 }
 
 std::optional<std::vector<TextGroups::Change>> TextGroups::update() {
-    constexpr std::size_t most = 100; // that are read at once
+    constexpr std::size_t most = 100; // read at once
     m_document.package()->syncRecord();
     if (!hasSameBehaviors())
         return std::nullopt;

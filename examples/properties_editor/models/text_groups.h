@@ -11,7 +11,7 @@
 
 namespace Editor {
 
-/// The languages of texts that are translated, as codes.
+/// The codes of the languages to translate from and into.
 struct LanguagePair {
     QString language;
     QString sourceLanguage;
@@ -27,21 +27,21 @@ Tano::FieldPath inLanguage(const Tano::FieldPath &path, const QString &code);
 /// The texts of the package itself, or of one behavior, in two languages.
 struct TextGroup {
     Tano::FieldPath owner;     ///< empty for the package
-    Tano::BehaviorInfo record; ///< as it was when the texts were read
+    Tano::BehaviorInfo record; ///< when the texts were read
     bool isRead = false;
     QVector<Zel::PackageModel::TranslatableText> texts;
-    std::vector<Zel::PackageModel::TextState> states; ///< one for each text
+    std::vector<Zel::PackageModel::TextState> states; ///< one per text
 
-    /// How many texts are not missing.
+    /// The number of texts that are not missing.
     int present() const;
-    /// The index of a text; -1 for none.
+    /// The index of a text, or -1.
     int find(const Tano::FieldPath &path) const;
 };
 
 /// All texts of the document in two languages, read group by group since there may be very many.
 class TextGroups {
 public:
-    /// What an edit has changed: a group, and the texts that it had before.
+    /// A group that an edit has changed, with its previous texts.
     struct Change {
         int group;
         QVector<Zel::PackageModel::TranslatableText> before;
@@ -49,22 +49,21 @@ public:
 
     explicit TextGroups(Document &document);
 
-    /// Starts with the groups of the package as it is now, none of which is read.
+    /// Starts with the current groups of the package, all of them unread.
     void start(const LanguagePair &languages);
     int size() const { return int(m_groups.size()); }
     const TextGroup &at(int group) const { return m_groups[std::size_t(group)]; }
-    /// The group of a text or an owner; -1 for none.
+    /// The group of a text or owner, or -1.
     int find(const Tano::FieldPath &path) const;
     void read(int group);
-    /// How many texts there are in the target language, of those that either language has, in the
-    /// first `count` groups.
+    /// Of the texts in either language in the first `count` groups, the number that exist in the
+    /// target language.
     Zel::PackageModel::Count total(int count) const;
 
-    /// Reads the groups again that an edit or a save has changed, if they have been read. Nothing
-    /// if there are other behaviors now, or very many changes: then start anew.
+    /// Rereads groups that an edit or a save has changed, if they were read. Returns nullopt if the
+    /// list of behaviors has changed, or after very many changes; then start again.
     std::optional<std::vector<Change>> update();
-    /// Keeps a text among those of its group even if it is empty in both languages, while it is
-    /// being edited.
+    /// Keeps a text in its group while it is edited, even if it is empty in both languages.
     void hold(const Tano::FieldPath &path) { m_held = path; }
 
 private:
@@ -82,10 +81,10 @@ private:
     Document &m_document;
     LanguagePair m_languages;
     Tano::FieldPath m_held;
-    QVector<Zel::BehaviorInfoModel *> m_behaviors; // as of the last start or update
+    QVector<Zel::BehaviorInfoModel *> m_behaviors; // at the last start or update
     std::vector<TextGroup> m_groups;               // the package's first
     Tano::PackageInfo m_saved;
-    std::unordered_map<std::string, std::size_t> m_savedIndexes; // by owner; made when needed
+    std::unordered_map<std::string, std::size_t> m_savedIndexes; // by owner; built on demand
 };
 
 } // namespace Editor

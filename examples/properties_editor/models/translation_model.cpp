@@ -25,7 +25,7 @@ TranslationModel::TranslationModel(Document &document, QObject *parent)
     , m_groups(document) {
     connect(&m_timer, &QTimer::timeout, this, &TranslationModel::advance);
     connect(&document, &Document::packageReplaced, this, [this] {
-        // The texts of the package before are gone, whether or not anybody looks.
+        // The previous package's texts no longer exist, even if the page is hidden.
         m_timer.stop();
         beginResetModel();
         m_rows.clear();
@@ -115,7 +115,7 @@ void TranslationModel::restart(bool isAnew) {
     Q_EMIT updated();
 }
 
-// Shows the first rows at once, so that small packages do not flicker.
+// Shows the first rows at once, to avoid flicker for small packages.
 void TranslationModel::goOn() {
     m_timer.stop();
     if (!m_isActive || m_languages.language.isEmpty() || m_next >= m_groups.size())
@@ -124,7 +124,7 @@ void TranslationModel::goOn() {
     advance();
 }
 
-// The next groups, for a short time.
+// Reads the next groups, for a short time.
 void TranslationModel::advance() {
     QElapsedTimer time;
     time.start();
@@ -201,7 +201,7 @@ void TranslationModel::insertRow(int row, Row content) {
     endInsertRows();
 }
 
-// Brings the rows of a group up to date, which had the texts `before`.
+// Updates the rows of a group, which had the texts `before`.
 void TranslationModel::refreshRows(int group, const QVector<TranslatableText> &before,
                                    bool keepsRows) {
     const TextGroup &texts = m_groups.at(group);

@@ -10,11 +10,11 @@
 
 namespace Editor {
 
-/// All texts of the package and its behaviors in two languages, a row each, below a heading for
+/// All texts of the package and its behaviors in two languages, one per row, with a heading for
 /// each owner.
 ///
-/// The rows come in short steps while the user works. A filter is applied to a row when it comes,
-/// and again when another row becomes the current one after an edit, so that a row stays while its
+/// Rows are added in short steps while the user works. The filter applies to a row when it is
+/// added, and again when another row becomes current after an edit, so that a row stays while its
 /// text is typed.
 class TranslationModel : public QAbstractTableModel {
     Q_OBJECT
@@ -29,11 +29,11 @@ public:
                         int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// Shows the texts in a pair of languages; none without a target.
+    /// Shows the texts of a language pair; none without a target.
     void setLanguages(const LanguagePair &languages);
-    /// Shows the texts that pass a filter.
+    /// Shows the texts that match a filter.
     void setFilter(const TextFilter &filter);
-    /// Follows the document while active; otherwise catches up when activated.
+    /// While active, follows the document; catches up on activation.
     void setActive(bool isActive);
     bool isLoading() const { return m_timer.isActive(); }
 
@@ -46,25 +46,24 @@ public:
     /// The target cell of the nearest missing text among the rows, after or before one, going on at
     /// the other end; invalid for none.
     QModelIndex nextMissing(const QModelIndex &from, int distance) const;
-    /// How many texts there are in the target language, of those that either language has. Texts
-    /// that are still to come do not count.
+    /// Of the texts in either language, the number that exist in the target language, counting only
+    /// rows added so far.
     Zel::PackageModel::Count total() const { return m_groups.total(m_next); }
 
-    /// Makes a row the current one: those that were edited before have to pass the filter again.
+    /// Sets the current row: rows edited before are filtered again.
     void setCurrent(const Tano::FieldPath &path);
-    /// The target cell of a field, which becomes the current one even if the filter does not pass
-    /// it; invalid if there is no such text in the language. Rows that are to come before it come
-    /// now.
+    /// The target cell of a field, which becomes current even if it does not match the filter;
+    /// invalid if there is no such text in the language. Adds all rows before it.
     QModelIndex reveal(const Tano::FieldPath &path);
 
 Q_SIGNALS:
-    /// Rows have come, or their texts have changed.
+    /// Rows were added, or their texts have changed.
     void updated();
 
 private:
     struct Row {
         int group;
-        int text; // -1 for the heading
+        int text; // -1 for a heading
     };
     struct Range {
         int begin;
@@ -92,8 +91,8 @@ private:
     LanguagePair m_languages;
     TextFilter m_filter;
     Tano::FieldPath m_current;
-    std::vector<int> m_touched; // groups that were edited while the current row was
-    int m_next = 0;             // the group to come next
+    std::vector<int> m_touched; // groups edited while the current row was current
+    int m_next = 0;             // the next group to add
     bool m_isActive = false;
     QTimer m_timer;
 };

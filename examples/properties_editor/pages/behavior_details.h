@@ -23,12 +23,11 @@ class BehaviorDetails : public QWidget {
 public:
     explicit BehaviorDetails(Document &document, QWidget *parent = nullptr);
 
-    /// Shows a behavior; none for a null pointer.
+    /// Shows a behavior; null for none.
     void setBehavior(Zel::BehaviorInfoModel *behavior);
-    /// Puts the focus on the path of a new behavior, which typing replaces.
+    /// Focuses the path of a new behavior, so that typing replaces it.
     void startTypingPath();
-    /// Shows what is at a path of the behavior that is shown, and gives the focus to all but text
-    /// fields.
+    /// Shows the field at a path of the current behavior, and focuses it unless it is a text field.
     void showField(const Tano::FieldPath &path);
 
 private:
@@ -45,11 +44,11 @@ private:
     void reload();
     void refresh();
     QString path() const;
-    /// The path of a field of the behavior; the empty path while none is shown.
+    /// The path of a field of the behavior, empty if none is shown.
     Tano::FieldPath field(const char *name) const;
-    /// The same for the language that is shown.
+    /// The same for the current language.
     Tano::FieldPath textField(const char *name) const;
-    /// The path of the list that is shown of one kind.
+    /// The path of the list of one kind in the current language or purpose.
     Tano::FieldPath listField(const char *name) const;
     Zel::PackageInfoModel *package() const { return m_document.package(); }
 

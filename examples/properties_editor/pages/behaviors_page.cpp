@@ -31,7 +31,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     , m_details(new BehaviorDetails(document, this)) {
     m_filtered->setSourceModel(m_model);
     m_filtered->setFilterKeyColumn(-1);
-    m_filtered->setDynamicSortFilter(false); // a behavior that is being renamed stays
+    m_filtered->setDynamicSortFilter(false); // keeps a behavior visible while it is renamed
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filter->setPlaceholderText(tr("Find a behavior"));
     m_filter->setAccessibleName(tr("Find a behavior"));
@@ -44,7 +44,7 @@ BehaviorsPage::BehaviorsPage(Document &document, QWidget *parent)
     explainWhenEmpty(m_view, tr("A behavior is something that the robot does. “Add” adds one; the "
                                 "search above may hide some."));
     m_view->setRootIsDecorated(false);
-    m_view->setUniformRowHeights(true); // or every row would be measured
+    m_view->setUniformRowHeights(true); // avoids measuring every row
     m_view->header()->setMinimumSectionSize(40);
     m_view->header()->setSectionResizeMode(BehaviorsModel::Name, QHeaderView::Stretch);
     m_view->header()->resizeSection(BehaviorsModel::Path, 125);

@@ -11,7 +11,7 @@ namespace Editor {
 class BehaviorDetails;
 class BehaviorsModel;
 
-/// The list of behaviors, and the fields of the one that is selected there.
+/// The list of behaviors, and the fields of the selected one.
 class BehaviorsPage : public Page {
     Q_OBJECT
 

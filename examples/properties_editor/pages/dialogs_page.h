@@ -10,7 +10,7 @@ namespace Editor {
 class DialogsModel;
 class TopicsModel;
 
-/// The list of dialogs, and the fields of the one that is selected there.
+/// The list of dialogs, and the fields of the selected one.
 class DialogsPage : public Page {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private:
     void showCurrent();
     void refresh();
     Zel::DialogInfoModel *current() const;
-    /// The path of a field of the dialog; the empty path while none is shown.
+    /// The path of a field of the dialog, empty if none is shown.
     Tano::FieldPath field(const char *name) const;
 
     DialogsModel *m_dialogs;

@@ -72,7 +72,7 @@ void IdentityPage::addText(QFormLayout *form, const QString &label, const QStrin
     addTextRow(form, label, document(), {[path] { return path; }}, placeholder);
 }
 
-// The fields that have no place of their own.
+// Adds rows for the fields that are not laid out explicitly.
 void IdentityPage::addOthers(QFormLayout *form) {
     for (const auto &field : Zel::PackageModel::plainFields(package())) {
         if (m_shown.count(field.path) == 0)

@@ -6,7 +6,7 @@
 
 namespace Editor {
 
-/// What identifies the package, who publishes it, and its icon.
+/// The identity of the package, its publisher, and its icon.
 class IdentityPage : public Page {
     Q_OBJECT
 

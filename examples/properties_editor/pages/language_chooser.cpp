@@ -32,7 +32,7 @@ QList<QStandardItem *> rowOf(const QString &name, const QString &nativeName, con
     return row;
 }
 
-// A language and, behind underscores or hyphens, what narrows it: "pt_BR".
+// A language, optionally with subtags after underscores or hyphens: "pt_BR".
 bool isCode(const QString &text) {
     static const QRegularExpression form(QRegularExpression::anchoredPattern(
         QStringLiteral("[A-Za-z]{2,8}([_-][A-Za-z0-9]{1,8})*")));

@@ -12,16 +12,16 @@ class QTreeView;
 
 namespace Editor {
 
-/// Asks for a language: one of those that are known, sorted by name and searched while one types,
-/// or another one by its code.
+/// Asks for a language: a known one, from a sorted list that is searched by typing, or another one
+/// by its code.
 class LanguageChooser : public QDialog {
     Q_OBJECT
 
 public:
-    /// Leaves out the languages with the codes in `present`.
+    /// Omits the languages with the codes in `present`.
     explicit LanguageChooser(const QSet<QString> &present, QWidget *parent = nullptr);
 
-    /// The code of the language that is chosen; empty for none.
+    /// The code of the chosen language, or empty.
     QString code() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

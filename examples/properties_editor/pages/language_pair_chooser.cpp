@@ -73,7 +73,7 @@ void LanguagePairChooser::fillTargets() {
 void LanguagePairChooser::chooseSource() {
     const LanguagePair chosen = languages();
     if (chosen.sourceLanguage == chosen.language)
-        m_lastTarget = m_lastSource; // they swap
+        m_lastTarget = m_lastSource; // swap them
     fillTargets();
     chooseTarget();
 }

@@ -9,15 +9,15 @@ class QComboBox;
 
 namespace Editor {
 
-/// The choosers of the language to translate from and of the one to translate into, which differ.
+/// Chooses the languages to translate from and into, which must differ.
 class LanguagePairChooser : public QWidget {
     Q_OBJECT
 
 public:
     explicit LanguagePairChooser(QWidget *parent = nullptr);
 
-    /// Offers the languages with these codes. Keeps what was chosen last as far as it is there;
-    /// otherwise the source is the default language.
+    /// Offers languages by code. Keeps the last choice if possible; the default source is the
+    /// default language.
     void offer(const QStringList &codes);
     /// The target is empty if there is only one language.
     LanguagePair languages() const;

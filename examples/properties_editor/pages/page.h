@@ -21,14 +21,13 @@ public:
     const QString &title() const { return m_title; }
     const QIcon &icon() const { return m_icon; }
 
-    /// Shows the field with that path and gives it the focus; returns false when it is on another
-    /// page.
+    /// Shows and focuses a field; returns false if it is on another page.
     virtual bool showField(const Tano::FieldPath &path) { return focusTextField(path); }
 
 protected:
     Page(Document &document, const QString &title, const QIcon &icon, QWidget *parent = nullptr);
 
-    /// Gives the focus to the text field below this page that shows the field with that path.
+    /// Focuses the text field on this page that shows the field.
     bool focusTextField(const Tano::FieldPath &path);
 
     Document &document() const { return m_document; }
@@ -40,23 +39,23 @@ private:
     QIcon m_icon;
 };
 
-/// Adds a row to a form: the widget of a field, and below it the note.
+/// Adds a form row with the widget of a field and, below, its note.
 void addFieldRow(QFormLayout *form, const QString &label, TextField *field);
 
-/// Adds a row with a line edit, bound to a text of the package.
+/// Adds a form row with a line edit for a text of the package.
 TextField *addTextRow(QFormLayout *form, const QString &label, Document &document,
                       TextBinding binding, const QString &placeholder = {});
 
-/// A button of a list: an icon, and a text that says what it does.
+/// A button beside a list, with an icon and a text for its action.
 QPushButton *newListButton(const QString &text, bool isAddition, QWidget *parent);
 
-/// Lets the Delete key press a button in a list, but not in the editor of one of its cells.
+/// Lets the Delete key click a button while the view, but no cell editor, has the focus.
 void removeWithDelete(QAbstractItemView *view, QAbstractButton *removal);
 
-/// Gives a line the focus with its text selected, so that typing replaces it.
+/// Focuses a line and selects its text, so that typing replaces it.
 void startTyping(QWidget *line);
 
-/// A line of text above a group of fields.
+/// A heading above a group of fields.
 QWidget *newHeading(const QString &text, QWidget *parent);
 
 } // namespace Editor

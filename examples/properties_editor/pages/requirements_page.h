@@ -8,7 +8,7 @@ class QVBoxLayout;
 
 namespace Editor {
 
-/// The robots and the middleware that the package runs on.
+/// The robots and middleware that the package requires.
 class RequirementsPage : public Page {
     Q_OBJECT
 

@@ -22,7 +22,7 @@ using Tano::FieldPath;
 
 namespace {
 
-// The published copy keeps the scripts as texts in languages of their own, which nobody reads.
+// Omits scripts, which the published copy keeps in private-use languages that nobody reads.
 ChangeList withoutScripts(const ChangeList &changes) {
     ChangeList kept;
     for (int i = 0; i < changes.lines.size(); ++i) {
@@ -96,7 +96,7 @@ void ReviewPage::fill(ChangesTab &tab, const ChangeList &changes, const QString 
     tab.lines->setStringList(changes.lines.isEmpty() ? QStringList(emptyText) : changes.lines);
 }
 
-// The field that the focus leaves for this page.
+// Remembers the last field with the focus.
 void ReviewPage::noteFocus(const QWidget *widget) {
     if (!widget || isAncestorOf(widget))
         return;
@@ -111,7 +111,7 @@ void ReviewPage::noteFocus(const QWidget *widget) {
 }
 
 bool ReviewPage::showField(const FieldPath &path) {
-    m_field = path; // another page has it
+    m_field = path; // the focus is on another page
     return false;
 }
 

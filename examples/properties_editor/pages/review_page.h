@@ -13,8 +13,8 @@ namespace Editor {
 class XmlView;
 struct ChangeList;
 
-/// The package before it is saved or published: what has changed since it was last saved, the
-/// manifest as XML at the field that had the focus last, and what publishing will change.
+/// The package before saving or publishing: the changes since it was last saved, the manifest as
+/// XML at the last focused field, and the changes by publishing.
 class ReviewPage : public Page {
     Q_OBJECT
 
@@ -24,14 +24,14 @@ public:
     bool showField(const Tano::FieldPath &path) override;
 
 Q_SIGNALS:
-    /// The user wants to see a field that has changed.
+    /// The user selected a changed field.
     void fieldWanted(const QString &path);
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    // A list of changes, whose lines lead to their fields.
+    // A list of changes; selecting a line shows its field.
     struct ChangesTab {
         QListView *view;
         QStringListModel *lines;

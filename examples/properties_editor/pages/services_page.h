@@ -9,7 +9,7 @@ namespace Editor {
 class PropertiesModel;
 class ServicesModel;
 
-/// The services that the package starts, and the properties of the one that is selected.
+/// The services that the package starts, and the properties of the selected one.
 class ServicesPage : public Page {
     Q_OBJECT
 

@@ -9,7 +9,7 @@ namespace Editor {
 
 class LanguagesModel;
 
-/// The matrix of languages by texts, and the texts of the language that is selected there.
+/// The table of languages, and the texts of the selected one.
 class TextsPage : public Page {
     Q_OBJECT
 

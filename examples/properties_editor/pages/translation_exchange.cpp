@@ -59,7 +59,7 @@ int countOf(const TextImport &result, TextOutcome outcome) {
                              [&](const auto &unit) { return unit.outcome == outcome; }));
 }
 
-// Beside the document; in the present folder for one without a file.
+// Beside the document, or in the current folder if it has no file.
 QString Exchange::proposal(const QString &name) const {
     return m_document.fileName().isEmpty()
                ? name
@@ -68,7 +68,7 @@ QString Exchange::proposal(const QString &name) const {
 
 void Exchange::show(QMessageBox::Icon icon, const QString &title, const QString &text,
                     const QStringList &lines) {
-    constexpr int most = 5; // the others are among the details
+    constexpr int most = 5; // others are in the details
     PlainMessageBox box(icon, title, text, QMessageBox::Ok, m_parent);
     if (lines.size() > most)
         box.setDetailedText(lines.join(u'\n'));
@@ -172,7 +172,7 @@ QString Exchange::fill(const LanguagePair &languages) {
         if (!text.target.isEmpty() || text.source.isEmpty())
             continue;
         text.target = text.source;
-        // A malformed one would keep all others from being imported.
+        // A malformed script would prevent the import of all texts.
         if (Zel::PackageModel::textState(text) != Zel::PackageModel::TextState::Malformed)
             units.append({text.path, {}, text.source, text.target});
     }

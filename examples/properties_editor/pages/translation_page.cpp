@@ -29,7 +29,7 @@ using Zel::PackageModel::TextState;
 
 namespace {
 
-// Why a text has no place in its list yet; empty if it has.
+// The reason why a text has no place in its list yet, else empty.
 QString gapRefusal(const Zel::PackageInfoModel *package, const FieldPath &path) {
     const bool isItem = !path.isEmpty() && path.steps().back().selectors.size() > 1;
     if (!isItem || itemIndex(path) <= Zel::PackageModel::entries(package, path.parent()).size())
@@ -214,7 +214,7 @@ void TranslationPage::applyFilter() {
     m_model->setFilter(filter);
 }
 
-// After a reset, the row that was the current one before, once it comes.
+// After a reset, restores the current row once it is added.
 void TranslationPage::restoreCurrent() {
     if (m_view->currentIndex().isValid() || m_model->rowCount() == 0)
         return;
@@ -233,7 +233,7 @@ void TranslationPage::showCurrent() {
     m_pair->show(text);
     for (QPushButton *button : std::as_const(m_rowButtons))
         button->setEnabled(!text.path.isEmpty());
-    // Rows may go, which a view does not expect while it moves to another one.
+    // Rows may disappear, which a view does not expect while it moves to another one.
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -289,7 +289,7 @@ bool TranslationPage::showText(const FieldPath &path) {
     return true;
 }
 
-// A translator who takes an edit back stays on this page.
+// Undo stays on this page.
 void TranslationPage::showChange(const QString &path) {
     const auto field = FieldPath::parse(Zel::toUtf8(path));
     const QWidget *focus = window()->focusWidget();

@@ -13,17 +13,18 @@ class LanguagePairChooser;
 class TextPair;
 class TranslationModel;
 
-/// All texts of the package and its behaviors in one list, the source beside the translation.
+/// All texts of the package and its behaviors in one list, with source and translation side by
+/// side.
 class TranslationPage : public Page {
     Q_OBJECT
 
 public:
     explicit TranslationPage(Document &document, QWidget *parent = nullptr);
 
-    /// False: each text has a field on another page.
+    /// Always false: each text has a field on another page.
     bool showField(const Tano::FieldPath &) override { return false; }
-    /// Shows a text in the language that is translated, and gives its translation the focus; false
-    /// if it is none.
+    /// Shows a text in the target language and focuses its translation; returns false if it is not
+    /// a translatable text.
     bool showText(const Tano::FieldPath &path);
 
 protected:
@@ -57,8 +58,8 @@ private:
     QLabel *m_summary;
     QVector<QPushButton *> m_rowButtons;  // for the current row
     QVector<QPushButton *> m_listButtons; // for two languages
-    Tano::FieldPath m_wanted;             // to be the current row when it comes
-    QString m_note;                       // about the last action
+    Tano::FieldPath m_wanted;             // will be current when it is added
+    QString m_note;                       // the result of the last action
 };
 
 } // namespace Editor

@@ -29,7 +29,7 @@ AdditionLine::AdditionLine(QLineEdit *line, Document &document, StringListModel 
 
 bool AdditionLine::eventFilter(QObject *watched, QEvent *event) {
     if (isUndoOrRedo(event) && m_line->text().isEmpty()) {
-        event->ignore(); // the window's actions get the key
+        event->ignore(); // leave the key to the window's actions
         return true;
     }
     return TypedText::eventFilter(watched, event);
@@ -58,7 +58,7 @@ void AdditionLine::leave() {
     take();
     const QString reason = refusal();
     discard();
-    // The caller is in the middle of showing another list.
+    // The caller is about to show another list.
     if (!reason.isEmpty() && !m_model.list().isEmpty())
         QMetaObject::invokeMethod(
             &m_document, [this, reason] { Q_EMIT m_document.editRefused(reason); },
@@ -71,7 +71,7 @@ QString AdditionLine::refusal() const {
 }
 
 void AdditionLine::discard() {
-    m_line->setText({}); // with the widget's own undo history
+    m_line->setText({}); // also clears the widget's own undo history
 }
 
 void AdditionLine::refresh() {

@@ -10,19 +10,19 @@ class Document;
 class FieldNote;
 class StringListModel;
 
-/// The line below a list whose text becomes a new entry with Return: each line of a pasted text
-/// becomes one, at once. Undo in it takes back what was typed, as long as there is any.
+/// The line below a list whose text is added by Return; pasted lines are added at once, each as an
+/// entry. Undo first reverts typing in the line.
 class AdditionLine : public TypedText {
     Q_OBJECT
 
 public:
     AdditionLine(QLineEdit *line, Document &document, StringListModel &model);
 
-    /// To be placed below the line.
+    /// Must be placed below the line.
     FieldNote *note() const { return m_note; }
     bool canTake() const;
-    /// Takes the text before the model shows another list. A text that is refused is dropped, and
-    /// the document sends editRefused().
+    /// Adds the text before the model shows another list. A refused text is dropped, and the
+    /// document emits editRefused().
     void leave();
 
     void take() override;
@@ -32,7 +32,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// The text, or whether it can be taken, has changed.
+    /// The text or its validity has changed.
     void changed();
     void added();
 

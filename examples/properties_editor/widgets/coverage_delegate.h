@@ -4,7 +4,7 @@
 
 namespace Editor {
 
-/// Draws how much of a language is there as a bar behind the figures.
+/// Draws the coverage of a language as a bar behind the figures.
 class CoverageDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -5,8 +5,8 @@ class QString;
 
 namespace Editor {
 
-/// Shows a text in the middle of a view while it has no rows: what its entries are for and how to
-/// add one. To be called after the view has its model.
+/// Shows a text in the middle of an empty view: what its entries are for and how to add one. Must
+/// be called after the view's model was set.
 void explainWhenEmpty(QAbstractItemView *view, const QString &text);
 
 } // namespace Editor

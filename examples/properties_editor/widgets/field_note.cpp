@@ -11,7 +11,7 @@
 namespace Editor {
 namespace {
 
-// The whole page, which scrolls along, or else the window.
+// The page, with which the note scrolls, or else the window.
 QWidget *pageOf(QWidget *field) {
     QWidget *page = field->parentWidget();
     while (!page->isWindow()) {

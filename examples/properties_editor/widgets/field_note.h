@@ -4,10 +4,10 @@
 
 namespace Editor {
 
-/// A line below a field that says why its text cannot be taken; hidden while there is no reason.
+/// A line below a field with the reason why its text was refused; hidden if there is none.
 ///
-/// It takes its place in a layout, or hovers below a field that has no room around it, such as the
-/// editor of a cell.
+/// It is part of a layout, or hovers below a field without space around it, such as the editor of a
+/// cell.
 class FieldNote : public QLabel {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
     explicit FieldNote(QWidget *field);
 
     void setReason(const QString &reason);
-    /// Places the note over whatever is below the field, and deletes it along with the field.
+    /// Shows the note over the widgets below the field, and deletes it along with the field.
     void hover();
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -6,7 +6,7 @@ namespace Editor {
 
 /// A line of explanation in a fainter color than other texts.
 ///
-/// The color comes from the texts' own, since palettes may lack one for hints.
+/// Derived from the text color, since palettes may lack a color for hints.
 class HintLabel : public QLabel {
     Q_OBJECT
 

@@ -17,7 +17,7 @@
 namespace Editor {
 namespace {
 
-// The file of a drag that holds a picture; empty when there is none.
+// The picture file in a drag, or empty.
 QString pictureOf(const QMimeData *data) {
     const auto urls = data->urls();
     for (const QUrl &url : urls) {

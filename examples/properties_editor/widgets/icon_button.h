@@ -9,18 +9,18 @@ class Document;
 /// Whether a file is an image, by its name and content.
 bool isPicture(const QString &fileName);
 
-/// The package's icon: a click chooses another file, a picture that is dropped becomes the icon.
+/// The package's icon. A click chooses another file; a dropped picture becomes the icon.
 class IconButton : public QToolButton {
     Q_OBJECT
 
 public:
     explicit IconButton(Document &document, QWidget *parent = nullptr);
 
-    /// Makes the picture in a file the icon; says so when it holds none.
+    /// Sets the icon from a file; reports an error if it is not a picture.
     void setIconFromFile(const QString &fileName);
     /// Asks for a file.
     void choose();
-    /// Whether the icon has a file beside the manifest.
+    /// Describes whether the icon has a file beside the manifest.
     QString fileState() const;
 
 Q_SIGNALS:

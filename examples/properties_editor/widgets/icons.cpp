@@ -43,7 +43,7 @@ void disk(QPainterPath &path) {
     line(path, {{8, 4}, {8, 9}, {15, 9}, {15, 4}});
 }
 
-// An arrow that turns back, mirrored for redo.
+// The arrow of undo, mirrored for redo.
 void turn(QPainterPath &path, qreal left, qreal direction) {
     const auto x = [=](qreal distance) { return left + direction * distance; };
     line(path, {{x(5), 4}, {x(0), 9}, {x(5), 14}});
@@ -179,7 +179,7 @@ constexpr std::array<Draw, std::size_t(Symbol::Question) + 1> drawings{
     },
 };
 
-// A sign has a color that means something, and is light on it.
+// Severity signs have a meaningful background color and a light foreground.
 QColor signColor(Symbol symbol) {
     switch (symbol) {
     case Symbol::Error:

@@ -35,7 +35,7 @@ enum class Symbol {
     Question,
 };
 
-/// An icon that is drawn at any size, in the colors that the palette has at that time.
+/// An icon that scales and uses the current palette.
 QIcon iconOf(Symbol symbol);
 
 } // namespace Editor

@@ -21,7 +21,7 @@ using Zel::PackageModel::Severity;
 
 const QString actionName = QStringLiteral("mark");
 
-// Keeps the tint of a field, which it belongs to.
+// Stores the tint of a field, its parent.
 class Tint : public QObject {
 public:
     explicit Tint(QWidget *field)
@@ -61,7 +61,7 @@ private:
     std::optional<Severity> m_severity;
 };
 
-// The icon at the end of a line edit.
+// Shows the icon at the end of a line edit.
 void showIcon(QLineEdit *edit, const std::optional<Mark> &mark) {
     auto *action = edit->findChild<QAction *>(actionName, Qt::FindDirectChildrenOnly);
     if (!mark) {

@@ -15,36 +15,36 @@ namespace Editor {
 
 class Document;
 
-/// What is shown at a field at fault.
+/// The mark of a field at fault.
 struct Mark {
     Zel::PackageModel::Severity severity;
-    QString text; ///< plain
+    QString text; ///< without markup
 
     static std::optional<Mark> ofIssue(const std::optional<Zel::PackageModel::Issue> &issue);
-    /// For a text that the model cannot take; none when `sentence` is empty.
+    /// For a text that the model refuses; nullopt if `sentence` is empty.
     static std::optional<Mark> ofRefusal(const QString &sentence);
 };
 
-/// The color between two, `share` of the way from `a` to `b`.
+/// Mixes two colors, `share` of the way from `a` to `b`.
 QColor mixed(const QColor &a, const QColor &b, double share);
 QIcon severityIcon(Zel::PackageModel::Severity severity);
 /// "Error" or "Warning".
 QString severityName(Zel::PackageModel::Severity severity);
-/// The background of a field at fault, in light and in dark.
+/// The background of a field at fault, for light and dark palettes.
 QColor severityColor(Zel::PackageModel::Severity severity);
 
-/// Tints a field, and shows the text as its tool tip and to assistive tools; without a mark it
-/// looks as usual. The tint follows the palette.
+/// Tints a field and shows the text as tool tip and to assistive tools; without a mark, resets the
+/// appearance. The tint follows the palette.
 void markField(QWidget *field, const std::optional<Mark> &mark);
-/// How a cell of an item model shows a mark; invalid for roles that it does not concern.
+/// The data of a mark for a cell of an item model; invalid for unrelated roles.
 QVariant markData(const std::optional<Mark> &mark, int role);
 
-/// A line of text that says what is wrong, and is hidden while nothing is.
+/// A line of text that describes an issue; hidden if there is none.
 class MarkLabel : public QWidget {
     Q_OBJECT
 
 public:
-    /// Shows the issue of the field whose path `path` returns.
+    /// Shows the issue of the field at the path that `path` returns.
     MarkLabel(Document &document, std::function<Tano::FieldPath()> path, QWidget *parent = nullptr);
     void refresh();
 

@@ -7,15 +7,14 @@ class QPushButton;
 
 namespace Editor {
 
-/// A line at the top of the window that shows a message and offers an answer, and is hidden
-/// otherwise.
+/// A bar at the top of the window that shows a message and offers an action; otherwise hidden.
 class MessageBar : public QFrame {
     Q_OBJECT
 
 public:
     explicit MessageBar(QWidget *parent = nullptr);
 
-    /// Shows `text`; without the text of an action there is only the button that dismisses it.
+    /// Shows `text`; without an action text, only the button to dismiss it.
     void showMessage(const QString &text, const QString &action, const QString &dismissal);
 
 protected:

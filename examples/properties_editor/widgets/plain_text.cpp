@@ -15,7 +15,7 @@ PlainMessageBox::PlainMessageBox(Icon icon, const QString &title, const QString 
     setText(text);
 }
 
-// The format applies to the main text only.
+// QMessageBox applies the text format to the main text only.
 void PlainMessageBox::setInformativeText(const QString &text) {
     QMessageBox::setInformativeText(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
 }

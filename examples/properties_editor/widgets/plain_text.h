@@ -4,13 +4,13 @@
 
 namespace Editor {
 
-// Qt guesses whether the text of a tool tip or message box is rich text. The values of packages and
-// file names are plain text, whatever they look like.
+// Qt guesses whether a tool tip or message is rich text. Values of packages and file names are
+// plain text, whatever they look like.
 
-/// The rich text that shows a plain text as a tool tip; empty for an empty text.
+/// Rich text that shows a plain text as a tool tip; empty if it is empty.
 QString toolTipOf(const QString &text);
 
-/// A message box whose texts are plain.
+/// A message box with plain texts.
 class PlainMessageBox : public QMessageBox {
     Q_OBJECT
 

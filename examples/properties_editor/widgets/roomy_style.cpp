@@ -36,7 +36,7 @@ void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
-    // The frame is a darker shade of the window, which cannot be seen in dark colors.
+    // The frame is a darker shade of the window color, which is invisible in dark palettes.
     QStyleOptionButton lighter = *box;
     lighter.palette.setColor(QPalette::Window, mixed(box->palette.color(QPalette::Base),
                                                      box->palette.color(QPalette::Text), 0.8));

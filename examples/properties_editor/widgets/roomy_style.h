@@ -4,8 +4,8 @@
 
 namespace Editor {
 
-/// The platform's style with more space around the texts of lists and tables, and with the editor's
-/// icons where Qt's own dialogs and fields show one.
+/// The platform's style with more space around texts in lists and tables, and with the editor's
+/// icons in Qt's own dialogs and fields.
 class RoomyStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -30,7 +30,7 @@ QPoint positionOf(const QDropEvent &event) {
 #endif
 }
 
-// The row of an index in the list, below a filter.
+// The source row of an index, below a filter.
 int sourceRow(const QModelIndex &index) {
     const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model());
     return (proxy ? proxy->mapToSource(index) : index).row();
@@ -42,7 +42,7 @@ QModelIndex viewIndex(const QAbstractItemView &view, int row) {
                  : view.model()->index(row, 0);
 }
 
-// What a row shows, for entries without a key.
+// The displayed text of a row, for entries without a key.
 QString shownText(const QModelIndex &first) {
     QStringList cells;
     for (int column = 0; column < first.model()->columnCount(); ++column)
@@ -53,8 +53,7 @@ QString shownText(const QModelIndex &first) {
 } // namespace
 
 void selectAlone(QAbstractItemView *view, const QModelIndex &index) {
-    // With Ctrl or Shift, as in the shortcut that leads here, a multiple selection would be
-    // extended.
+    // Extended selections would react to Ctrl or Shift in the current shortcut.
     const auto mode = view->selectionMode();
     view->setSelectionMode(QAbstractItemView::SingleSelection);
     view->setCurrentIndex(index);
@@ -110,7 +109,7 @@ QAction *RowActions::add(const QString &text, const QList<QKeySequence> &shortcu
                          void (RowActions::*act)()) {
     auto *action = new QAction(text, m_view);
     action->setShortcuts(shortcuts);
-    action->setShortcutContext(Qt::WidgetShortcut); // the editor of a cell has its own
+    action->setShortcutContext(Qt::WidgetShortcut); // cell editors have their own
     connect(action, &QAction::triggered, this, act);
     m_view->addAction(action);
     return action;
@@ -238,13 +237,13 @@ void RowActions::duplicate() {
     insert(copies);
 }
 
-// Below the selected rows.
+// Inserts below the selected rows.
 void RowActions::insert(const QVector<FieldValue> &entries) {
     const int sizeBefore = size();
     const QVector<int> selected = rows();
     const int row = selected.isEmpty() ? sizeBefore : selected.last() + 1;
     m_document.edit(insertions(m_document.package(), m_list.path(), entries, row));
-    if (size() > sizeBefore) // or it was refused
+    if (size() > sizeBefore) // false if the edit was refused
         select(row, int(entries.size()));
 }
 
@@ -281,7 +280,7 @@ bool RowActions::eventFilter(QObject *watched, QEvent *event) {
     }
 }
 
-// The view shows where the rows would go; the drop itself is an edit, and nothing for the model.
+// The view shows the drop position; the drop itself is an edit that bypasses the model.
 bool RowActions::handleDrag(QDropEvent &event, bool isDrop) {
     if (!canMove()) {
         event.ignore();
@@ -289,7 +288,7 @@ bool RowActions::handleDrag(QDropEvent &event, bool isDrop) {
     }
     if (!isDrop)
         return false;
-    event.setDropAction(Qt::CopyAction); // or the view would remove what was dragged
+    event.setDropAction(Qt::CopyAction); // keeps the view from removing the dragged rows
     event.accept();
     dropAt(positionOf(event));
     return true;

@@ -17,42 +17,42 @@ namespace Editor {
 
 class Document;
 
-/// Selects an item of a view and nothing else, whatever keys are held down.
+/// Selects only this item of a view, regardless of modifier keys.
 void selectAlone(QAbstractItemView *view, const QModelIndex &index);
 /// Selects a cell and opens its editor. Does nothing without one: its entry was refused.
 void editAlone(QAbstractItemView *view, const QModelIndex &cell);
 
-/// The list of a package whose entries are the rows of a view.
+/// The list of the package whose entries are the rows of a view.
 struct RowList {
     std::function<Tano::FieldPath()> path;
-    bool isOrdered = true; ///< rows can be moved
-    /// Removes rows whose entries are not all that goes with them, such as languages with their
-    /// texts. Such rows are neither cut nor duplicated.
+    bool isOrdered = true; ///< whether rows can be moved
+    /// Removes rows whose entries have dependent content, such as languages with their texts. Such
+    /// rows cannot be cut or duplicated.
     std::function<void(const QVector<int> &rows)> removal = {};
     /// False for rows that are only removed, and copied as text.
     bool hasEntries = true;
 };
 
 /// Cut, copy, paste, duplicate, delete and move for the selected rows of a view, by shortcut,
-/// context menu and drag; each is one undo step. The view owns it.
+/// context menu and drag; each is one undo step. Owned by the view.
 ///
-/// Rows of the view's model, or of the source model of its proxy, are entries of the list, in their
-/// order; a model may have more rows behind them. The model has to be set before.
+/// The rows of the view's model, or of its proxy's source model, correspond to the entries of the
+/// list; additional rows may follow. The model must be set before.
 class RowActions : public QObject {
     Q_OBJECT
 
 public:
     RowActions(QAbstractItemView *view, Document &document, RowList list);
 
-    /// Removes the selected rows; the current one while none is selected.
+    /// Removes the selected rows, or the current one if none is selected.
     void remove();
-    /// Moves the selected rows to a point of the viewport.
+    /// Moves the selected rows to a position in the viewport.
     void dropAt(const QPoint &position);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// A filter hides rows that are about to be selected.
+    /// Rows to be selected are hidden by a filter.
     void hiddenRowsWanted();
 
 private:
@@ -74,7 +74,7 @@ private:
     int size() const;
     QVector<Zel::PackageModel::FieldValue> entries() const;
     QVector<int> selectedRows() const;
-    /// Those of selectedRows() that are entries of the list.
+    /// The selected rows that are entries of the list.
     QVector<int> rows() const;
     bool canMove() const;
     void select(int first, int count);

@@ -47,7 +47,7 @@ StringListEditor::StringListEditor(Document &document, const QString &title,
 
     connect(m_add, &QPushButton::clicked, this, [this] {
         m_addition->take();
-        m_line->setFocus(Qt::OtherFocusReason); // for the next one
+        m_line->setFocus(Qt::OtherFocusReason); // for the next text
     });
     connect(m_addition, &AdditionLine::changed, this, &StringListEditor::refresh);
     connect(m_addition, &AdditionLine::added, this,

@@ -12,24 +12,23 @@ namespace Editor {
 
 class AdditionLine;
 
-/// Shows a list of texts, edits its items in place, and adds what is typed in the line below.
+/// Shows a list of texts, edits items in place, and adds texts that are typed in a line below.
 class StringListEditor : public QWidget {
     Q_OBJECT
 
 public:
-    /// `list` returns the path of the list; the empty path for none. Items of an ordered list can
-    /// be moved.
+    /// `list` returns the path of the list, or an empty path. Items of ordered lists can be moved.
     StringListEditor(Document &document, const QString &title, const QString &placeholder,
                      std::function<Tano::FieldPath()> list, bool isOrdered,
                      QWidget *parent = nullptr);
 
-    /// Texts that the line for additions offers while one types.
+    /// Completions for the line.
     void setSuggestions(const QStringList &suggestions);
-    /// Takes what is typed in the line into the list, which is about to be another one.
+    /// Adds the text in the line before another list is shown.
     void leave();
-    /// Shows the list whose path has changed.
+    /// Shows another list after the path has changed.
     void reload();
-    /// Gives the focus to an item; to the line for additions where there is no such item.
+    /// Focuses an item, or the line if there is no such item.
     void showItem(int row);
     QListView *view() const { return m_view; }
 

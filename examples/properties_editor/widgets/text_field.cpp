@@ -16,7 +16,7 @@ namespace {
 
 using Zel::PackageModel::Edit;
 
-// What two texts have in common at their beginning and at their end.
+// The common prefix and suffix of two texts.
 struct Common {
     Common(const QString &a, const QString &b) {
         const auto length = std::min(a.size(), b.size());
@@ -82,7 +82,7 @@ bool TextField::eventFilter(QObject *watched, QEvent *event) {
     if (m_plain && event->type() == QEvent::FocusOut)
         take();
     if (isUndoOrRedo(event)) {
-        // A widget that accepts the override of a shortcut keeps the key to itself.
+        // Accepting a shortcut override keeps the key in the widget.
         const bool dropsText = !m_refusal.isEmpty();
         event->setAccepted(dropsText);
         if (dropsText && event->type() == QEvent::KeyPress)
@@ -100,7 +100,7 @@ void TextField::reload() {
 }
 
 void TextField::refresh() {
-    // While its own edit is under way, the field shows what is being typed.
+    // During its own edit, the field keeps showing the typed text.
     if (!m_isBusy && read() != m_shown) {
         m_refusal.clear();
         m_shown = read();
@@ -129,7 +129,7 @@ void TextField::typed() {
 void TextField::take() {
     m_document.closeRun();
     if (m_refusal.isEmpty() && text() != read())
-        setText(read(), true); // as the package has put it
+        setText(read(), true); // as normalized by the package
 }
 
 void TextField::revert() {
@@ -156,7 +156,7 @@ QString TextField::text() const {
     return m_line ? m_line->text() : m_plain->toPlainText();
 }
 
-// A kept cursor goes to where the text has changed.
+// With `keepsCursor`, moves the cursor to the change.
 void TextField::setText(const QString &text, bool keepsCursor) {
     const QString old = this->text();
     if (text == old)

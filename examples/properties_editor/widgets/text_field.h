@@ -12,23 +12,23 @@ namespace Editor {
 
 class FieldNote;
 
-/// Which field of the package a widget shows.
+/// The field of the package that a widget shows.
 struct TextBinding {
-    /// The empty path while there is no such field.
+    /// Empty if there is no such field.
     std::function<Tano::FieldPath()> path;
-    /// Why the field cannot take a text that the package could take; left out where it can.
+    /// The reason why the field refuses a text that the package would accept; optional.
     std::function<QString(const QString &text)> refusal = {};
 };
 
-/// Refuses the empty text, with that reason.
+/// Refuses empty texts with this reason.
 std::function<QString(const QString &text)> refuseEmpty(const QString &reason);
 
-/// Keeps a text widget and a text of the package alike, in both directions.
+/// Synchronizes a text widget with a text of the package.
 ///
-/// What is typed is one undo step until the focus leaves, Return or a line break is typed, or a
-/// pause ends the run. A refused text stays in the field, with the reason in note(), while the
-/// package keeps what it had before the run. Undo and redo are those of the document; where the
-/// text is refused, undo drops it.
+/// Typing is one undo step until the focus leaves, Return or a line break is typed, or a pause ends
+/// the run. A refused text stays in the field with the reason in note(), while the package keeps
+/// its value from before the run. Undo and redo are those of the document; undo discards a refused
+/// text first.
 class TextField : public TypedText {
     Q_OBJECT
 
@@ -37,11 +37,11 @@ public:
     TextField(QPlainTextEdit *edit, Document &document, TextBinding binding);
 
     Tano::FieldPath path() const { return m_binding.path(); }
-    /// Shows the text of the package, for example because it is another entry's now.
+    /// Shows the package's text, for example after another entry was selected.
     void reload();
-    /// Restores what the field held when it was made: for a cell's editor that is left with Escape.
+    /// Restores the initial text, for leaving a cell's editor with Escape.
     void revert();
-    /// To be placed below the widget.
+    /// Must be placed below the widget.
     FieldNote *note() const { return m_note; }
 
     void take() override;
@@ -65,12 +65,12 @@ private:
     Document &m_document;
     TextBinding m_binding;
     std::optional<Zel::PackageModel::FieldValue> m_initial;
-    QString m_shown; // what the package held when the field was last brought up to date
+    QString m_shown; // the package's text at the last update
     QString m_refusal;
     bool m_isBusy = false;
 };
 
-/// Whether a key event is the shortcut of undo or redo, which the window's actions may do.
+/// Whether a key event is a shortcut for undo or redo, which the window's actions should handle.
 bool isUndoOrRedo(const QEvent *event);
 
 } // namespace Editor

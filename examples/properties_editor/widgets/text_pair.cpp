@@ -66,7 +66,7 @@ TextPair::TextPair(Document &document, TextBinding binding, QWidget *parent)
 
 void TextPair::show(const TranslatableText &text) {
     m_field->reload();
-    m_target->setReadOnly(text.path.isEmpty()); // disabled, it would lose the focus
+    m_target->setReadOnly(text.path.isEmpty()); // a disabled widget would lose the focus
     refresh(text);
     QTextCursor cursor = m_target->textCursor();
     cursor.movePosition(QTextCursor::End);

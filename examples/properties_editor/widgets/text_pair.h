@@ -8,20 +8,19 @@ class QLabel;
 
 namespace Editor {
 
-/// A text beside its translation, which is edited here. Speech scripts have a preview as plain text
-/// below them.
+/// A text and its editable translation. Speech scripts have a plain-text preview below.
 class TextPair : public QWidget {
     Q_OBJECT
 
 public:
-    /// Edits the field that `binding` leads to.
+    /// Edits the field of `binding`.
     TextPair(Document &document, TextBinding binding, QWidget *parent = nullptr);
 
-    /// Shows another text; one with the empty path cannot be edited.
+    /// Shows another text; it is read-only if its path is empty.
     void show(const Zel::PackageModel::TranslatableText &text);
-    /// Follows changes of the text that is shown.
+    /// Updates the text that is shown.
     void refresh(const Zel::PackageModel::TranslatableText &text);
-    /// Types the source as the translation, as an undo step of its own.
+    /// Sets the translation to the source, as a separate undo step.
     void copySource();
 
     TextField *field() const { return m_field; }

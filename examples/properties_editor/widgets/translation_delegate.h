@@ -5,8 +5,8 @@
 
 namespace Editor {
 
-/// Edits cells of a view in place with a TextField whose binding a function gives. Texts of several
-/// lines are left to other editors.
+/// Edits cells in place with a TextField whose binding a function provides, except for multi-line
+/// texts.
 class TranslationDelegate : public TypingDelegate {
     Q_OBJECT
 

@@ -4,18 +4,18 @@
 
 namespace Editor {
 
-/// A text that is typed into a widget, the parent, and that the package may be unable to take.
+/// A text typed into the parent widget, which the package may refuse.
 class TypedText : public QObject {
     Q_OBJECT
 
 public:
     QWidget *widget() const { return m_widget; }
 
-    /// Takes into the package what it can take.
+    /// Applies the text to the package, if possible.
     virtual void take() = 0;
-    /// Why the package cannot take the text; empty when it can.
+    /// The reason why the package refuses the text, else empty.
     virtual QString refusal() const = 0;
-    /// Drops the text that is refused.
+    /// Discards a refused text.
     virtual void discard() = 0;
 
 protected:

@@ -55,7 +55,7 @@ QWidget *TypingDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
 }
 
 void TypingDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const {
-    // A text field shows its text itself.
+    // A text field updates its text itself.
     if (auto *combo = qobject_cast<QComboBox *>(editor))
         combo->setCurrentIndex(combo->findData(index.data(Qt::EditRole)));
     else if (!fieldOf(editor))
@@ -71,7 +71,7 @@ void TypingDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         QStyledItemDelegate::setModelData(editor, model, index);
 }
 
-// A mark, which may go while one types, takes no room from the editor.
+// Gives the editor the space of the mark, which may disappear during typing.
 void TypingDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                                           const QModelIndex &) const {
     editor->setGeometry(option.rect);
@@ -94,7 +94,7 @@ bool TypingDelegate::eventFilter(QObject *watched, QEvent *event) {
     }
     if (field && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason)
-        return false; // not for the base class, which closes the editor
+        return false; // bypasses the base class, which would close the editor
     return QStyledItemDelegate::eventFilter(watched, event);
 }
 

@@ -8,10 +8,10 @@ namespace Editor {
 
 class Document;
 
-/// Edits the cells of a TableModel with a TextField or, where a cell has choices, with a list of
-/// them. A cell without a field, such as a name that is a key, is set when its editor closes.
-/// Escape restores what the cell held when its editor opened. A cell whose text is refused stays
-/// open on Return, and while another window is active.
+/// Edits cells of a TableModel with a TextField or, if a cell has choices, with a combo box. A cell
+/// without a field, such as a name that is a key, is set when its editor closes. Escape restores
+/// the value from before. If the text is refused, the editor stays open on Return and while another
+/// window is active.
 class TypingDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private:
     Document &m_document;
 };
 
-/// Gives a view the delegate, and the manners that the tables of the editor share.
+/// Sets the delegate of a view, and the behavior common to the editor's tables.
 void setUpTable(QAbstractItemView *view, Document &document, const QString &accessibleName);
 
 } // namespace Editor

@@ -34,7 +34,7 @@ void XmlHighlighter::setBackground(const QColor &color) {
 }
 
 void XmlHighlighter::highlightBlock(const QString &text) {
-    // One of these begins at each place where the color changes.
+    // A token starts at each position where the color changes.
     static const QRegularExpression token(
         QStringLiteral("(?<comment><!--)|(?<tag></?[^\\s/>]*)|(?<reference>&[^;\\s]+;)"));
     static const QRegularExpression tagToken(
@@ -47,7 +47,7 @@ void XmlHighlighter::highlightBlock(const QString &text) {
     int state = std::max(previousBlockState(), int(Text));
     int place = 0;
     const int length = int(text.size());
-    // The rest of the line, unless what has begun ends in it.
+    // Up to the end of the line, unless the token ends in it.
     const auto endAfter = [&](const QString &end) {
         const int found = int(text.indexOf(end, place));
         return found < 0 ? -1 : found + int(end.size());

@@ -4,15 +4,15 @@
 
 namespace Editor {
 
-/// Colors XML 1.0: tags, attributes, their values, references and comments. The colors follow the
-/// palette of the text's widget, light or dark.
+/// Highlights XML 1.0: tags, attributes, values, references and comments. Colors follow the palette
+/// of the text's widget.
 class XmlHighlighter : public QSyntaxHighlighter {
     Q_OBJECT
 
 public:
     explicit XmlHighlighter(QTextDocument *document);
 
-    /// Takes the colors for a background as light as that one.
+    /// Chooses the colors for this background.
     void setBackground(const QColor &color);
 
 protected:

@@ -11,13 +11,13 @@
 namespace Editor {
 namespace {
 
-// A text edit lays out this many lines without a pause.
+// QPlainTextEdit lays out this much text without a noticeable pause.
 constexpr int largestSize = 1 << 20;
 constexpr int linesAround = 500;
 
 struct Excerpt {
     QString text;
-    int line; // of the field within the text, from 0
+    int line; // of the field in the text, counted from 0
 };
 
 Excerpt excerptAround(const QString &xml, int line) {

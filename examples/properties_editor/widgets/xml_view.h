@@ -8,15 +8,15 @@ namespace Editor {
 
 class XmlHighlighter;
 
-/// Shows the manifest as it would be saved, read-only, at a field. Of a large manifest it shows the
-/// lines around the field.
+/// Shows the manifest as it would be saved, read-only, at a field. Of a large manifest, only shows
+/// the lines around the field.
 class XmlView : public QPlainTextEdit {
     Q_OBJECT
 
 public:
     explicit XmlView(Document &document, QWidget *parent = nullptr);
 
-    /// Brings the text up to date, scrolls to a field and marks its line.
+    /// Updates the text, scrolls to a field and marks its line.
     void showField(const Tano::FieldPath &path);
 
 protected:

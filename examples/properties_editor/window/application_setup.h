@@ -4,12 +4,12 @@
 
 namespace Editor {
 
-/// Gives the application its style, colors, names and texts: to be called once, before the first
-/// window.
+/// Sets up style, colors, names and translations of the application. Must be called once, before
+/// the first window is created.
 void setUpApplication(const QLocale &locale = QLocale::system());
 
-/// Installs the texts of the editor, the library and Qt in one language, the first of the locale's
-/// that the editor is translated into.
+/// Installs the translations of the editor, the library and Qt in one language, the first one of
+/// the locale that the editor supports.
 void installTexts(const QLocale &locale);
 
 } // namespace Editor

@@ -5,12 +5,12 @@ namespace Editor {
 /// The colors of the windows: the platform's or, where it has none, dark ones.
 enum class ColorScheme { Platform, Dark };
 
-/// Applies at once, to all windows.
+/// Applies a scheme to all windows immediately.
 void useColorScheme(ColorScheme scheme);
 
-/// The scheme that the user has chosen, kept in the settings.
+/// The user's choice, from the settings.
 ColorScheme chosenColorScheme();
-/// Keeps and applies a choice.
+/// Stores and applies a choice.
 void chooseColorScheme(ColorScheme scheme);
 
 } // namespace Editor

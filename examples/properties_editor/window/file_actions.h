@@ -13,7 +13,7 @@ namespace Editor {
 class MainWindow;
 class MessageBar;
 
-/// Opening, saving and publishing, with all that has to be asked and told.
+/// Opens, saves and publishes, with all questions and messages.
 class FileActions : public QObject {
     Q_OBJECT
 
@@ -23,13 +23,13 @@ public:
     void fillMenu(QMenu *menu);
     void fillToolBar(QToolBar *toolBar);
 
-    /// Asks about unsaved changes; returns whether the package may be left.
+    /// Asks about unsaved changes; returns whether the package may be closed.
     bool settle();
     bool open(const QString &fileName);
     bool save();
     bool saveAs();
     void chooseAndOpen();
-    /// Starts a package from a template.
+    /// Creates a package from a template.
     void newFrom(const QString &resource);
 
 private:
@@ -37,7 +37,7 @@ private:
     void showDiskState(Document::DiskState state);
     bool saveTo(const QString &fileName);
     bool mayOverwrite();
-    /// Explains why a file could not be written, and offers another one.
+    /// Reports that a file could not be written, and offers another one.
     bool saveElsewhere(const QString &fileName);
     void showFailure(const QString &title, const QString &fileName);
     void fillRecentMenu();

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace Editor {
 
-/// Takes manifests that are dropped anywhere in a window, also on fields that would take the text
-/// of their names. Pictures are left to the widget below the pointer.
+/// Opens manifests dropped anywhere in a window, even on fields that accept text. Pictures are left
+/// to the widget below the pointer.
 class FileDrop : public QObject {
     Q_OBJECT
 

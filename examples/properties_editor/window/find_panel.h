@@ -21,7 +21,7 @@ class MatchesModel;
 
 /// Finds text in all fields of the package, and replaces it as one undo step.
 ///
-/// The search goes on in short steps while the user works, and starts anew after each edit.
+/// Searches in short steps while the user works, and starts again after each edit.
 class FindPanel : public QWidget {
     Q_OBJECT
 
@@ -29,19 +29,19 @@ public:
     explicit FindPanel(Document &document, QWidget *parent = nullptr);
     ~FindPanel() override;
 
-    /// Whether the search is still going on.
+    /// Whether the search is still running.
     bool isSearching() const { return m_timer.isActive(); }
     const MatchesModel &found() const { return *m_found; }
 
 public Q_SLOTS:
-    /// Puts the focus into the line for the text to find.
+    /// Focuses the line for the search text.
     void start();
-    // Each selects a match and asks for its field to be shown.
+    // Each selects a match and requests its field.
     void showNext() { showBeside(1); }
     void showPrevious() { showBeside(-1); }
 
 Q_SIGNALS:
-    /// The user wants to see the field with a match.
+    /// The user wants to see the field of a match.
     void fieldWanted(const QString &path);
 
 protected:
@@ -72,8 +72,8 @@ private:
     QRegularExpression m_pattern;
     std::unique_ptr<Zel::PackageModel::FieldWalk> m_walk;
     QTimer m_timer;
-    QString m_note; // about the last replacement
-    int m_row = -1; // to be selected again after a replacement
+    QString m_note; // the result of the last replacement
+    int m_row = -1; // to be reselected after a replacement
 };
 
 } // namespace Editor

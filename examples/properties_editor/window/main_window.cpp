@@ -69,7 +69,7 @@ MainWindow::MainWindow(QWidget *parent)
 }
 
 MainWindow::~MainWindow() {
-    // An open cell editor would still write through the model of its view.
+    // An open cell editor would still write to its view's model.
     if (QWidget *focus = focusWidget())
         focus->clearFocus();
     m_document.closeRun();
@@ -210,7 +210,7 @@ void MainWindow::offerLeftovers() {
 void MainWindow::showField(const QString &path) {
     const auto field = Tano::FieldPath::parse(Zel::toUtf8(path));
     for (int i = 0; field && i < m_pages->pages().size(); ++i) {
-        // It has to be on show to take the focus.
+        // Only visible widgets can take the focus.
         const int previous = m_pages->current();
         showPage(i);
         if (m_pages->pages().at(i)->showField(*field))
@@ -224,7 +224,7 @@ bool MainWindow::takeEdits() {
     for (TypedText *text : findChildren<TypedText *>())
         texts.append(text);
     for (const auto &text : std::as_const(texts)) {
-        // The editor of a cell may close meanwhile.
+        // The editor of a cell may have been closed.
         if (!text || !text->widget()->isEnabled() || text->widget()->isHidden())
             continue;
         text->take();
@@ -285,7 +285,7 @@ void MainWindow::closeEvent(QCloseEvent *event) {
 }
 
 bool MainWindow::event(QEvent *event) {
-    // A file on a network drive may change without notice.
+    // Changes on network drives may go unnoticed.
     if (event->type() == QEvent::WindowActivate)
         m_document.checkDisk();
     // The tab bar of docks is made when the first two become tabs.

@@ -35,24 +35,24 @@ public:
 
     Document &document() { return m_document; }
 
-    /// Opens a manifest, once unsaved changes are settled; says so when it cannot be read.
+    /// Opens a manifest after asking about unsaved changes; reports errors.
     bool openFile(const QString &fileName);
-    /// Shows the field with a path as issues have it, and gives it the focus.
+    /// Shows and focuses the field at an issue's path.
     void showField(const QString &path);
     void showPage(int index);
-    /// Shows the start page until a package is opened or a page is chosen.
+    /// Shows the start page until a package is opened or a page is selected.
     void showStartPage();
-    /// Brings the window to where it was when the program ended last.
+    /// Restores the window's position from the last session.
     void restore();
-    /// Keeps unsaved edits in a folder until they are saved, and locks the open file there.
+    /// Stores unsaved edits in a folder until they are saved, and locks the open file.
     void keepEditsIn(const QString &folder);
     /// Null before keepEditsIn().
     Recovery *recovery() const { return m_recovery.get(); }
-    /// Offers to open the packages whose edits another window left there.
+    /// Offers to open packages with unsaved edits from other sessions.
     void offerLeftovers();
 
-    /// Takes into the package what is being typed anywhere. Asks where a text is refused; returns
-    /// false if the user prefers to fix it.
+    /// Applies typed text everywhere. If a text is refused, asks; returns false if the user wants
+    /// to fix it.
     bool takeEdits();
 
 protected:
@@ -80,7 +80,7 @@ private:
     PageStack *m_pages;
     QStackedWidget *m_stack;
     StartPage *m_start;
-    QVector<QWidget *> m_hiddenDocks; // by the start page
+    QVector<QWidget *> m_hiddenDocks; // hidden by the start page
     ProblemsModel *m_problems;
     ProblemsPanel *m_problemsPanel = nullptr;
     FindPanel *m_findPanel = nullptr;

@@ -53,7 +53,7 @@ void MainWindow::addFindActions(QMenu *menu) {
     auto *dock = findChild<QDockWidget *>(QStringLiteral("find"));
     const auto start = [this, dock] {
         leaveStartPage();
-        if (dock->isHidden()) // only now, or its tab would be there before
+        if (dock->isHidden()) // done here, since otherwise its tab would appear first
             tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("problems")), dock);
         dock->show();
         dock->raise();

@@ -10,7 +10,7 @@ namespace Editor {
 
 class Page;
 
-/// The pages of the window beside the list that one is chosen from.
+/// The pages of the window, beside the list that selects one.
 class PageStack : public QWidget {
     Q_OBJECT
 

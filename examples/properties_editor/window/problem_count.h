@@ -6,7 +6,7 @@ namespace Editor {
 
 class Document;
 
-/// How many problems there are, in the status bar.
+/// The number of problems, in the status bar.
 class ProblemCount : public QToolButton {
     Q_OBJECT
 

@@ -47,7 +47,7 @@ ProblemsPanel::ProblemsPanel(Document &document, ProblemsModel *problems, QWidge
     connect(m_details, &ProblemDetails::fixWanted, this, &ProblemsPanel::fix);
     connect(m_details, &ProblemDetails::ignoreWanted, this, &ProblemsPanel::ignoreSelected);
     connect(&document, &Document::issuesChanged, this, &ProblemsPanel::refresh,
-            Qt::QueuedConnection); // after the model
+            Qt::QueuedConnection); // after the model was updated
     refresh();
 }
 
@@ -95,7 +95,7 @@ void ProblemsPanel::setUpView() {
     header->setSortIndicatorShown(true);
     header->setSortIndicator(-1, Qt::AscendingOrder);
     connect(header, &QHeaderView::sortIndicatorChanged, this, &ProblemsPanel::sort);
-    // Activation is a double click or Return, or a single click where the platform has it so.
+    // Activation is a double click or Return or, on some platforms, a single click.
     const auto show = [this](const QModelIndex &index) {
         Q_EMIT fieldWanted(index.data(ProblemsModel::PathRole).toString());
     };

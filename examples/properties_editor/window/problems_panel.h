@@ -24,11 +24,11 @@ public:
     QTreeView *view() const { return m_view; }
 
 public Q_SLOTS:
-    // Each selects a problem and asks for its field to be shown.
+    // Each selects a problem and requests its field.
     void showNext() { showBeside(1); }
     void showPrevious() { showBeside(-1); }
 
-    /// Makes the safe fixes of all problems as one undo step.
+    /// Applies the safe fixes of all problems as one undo step.
     void fixAllSafe();
 
 Q_SIGNALS:

@@ -31,7 +31,7 @@ QStringList errorsOf(const Document &document) {
     return errors;
 }
 
-// The texts that are published and of which no plain text can be made.
+// The published texts that cannot be converted to plain text.
 QStringList malformedScripts(const Document &document) {
     document.package()->syncRecord();
     Zel::PackageInfoModel published(*document.package());
@@ -87,7 +87,7 @@ std::filesystem::path pathOf(const QString &fileName) {
     return QFile::encodeName(fileName).toStdString();
 }
 
-// Also by another name of the file.
+// Compares files, since the open one may have another name.
 bool isOpenFile(const Document &document, const QString &fileName) {
     std::error_code error;
     return !document.fileName().isEmpty() &&

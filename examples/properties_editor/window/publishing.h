@@ -7,8 +7,8 @@ namespace Editor {
 
 class Document;
 
-/// Publishes the open package into a file that the user chooses, once they have seen the errors
-/// that are left. Refuses a package with malformed speech scripts, and the open file as the target.
+/// Publishes the open package to a file chosen by the user, after showing remaining errors. Refuses
+/// packages with malformed speech scripts, and the open file as target.
 void publish(Document &document, QWidget *window);
 
 } // namespace Editor

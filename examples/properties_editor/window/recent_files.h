@@ -4,9 +4,9 @@
 
 namespace Editor {
 
-/// The manifests that were open last, the latest first; some may be gone.
+/// The recently opened manifests, latest first; some may no longer exist.
 QStringList recentFiles();
-/// Puts a file in front.
+/// Moves a file to the front.
 void rememberFile(const QString &fileName);
 
 } // namespace Editor

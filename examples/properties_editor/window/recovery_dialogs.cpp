@@ -28,7 +28,7 @@ QString timeOf(const UnsavedEdits &unsaved) {
     return QLocale().toString(unsaved.time.toLocalTime(), QLocale::ShortFormat);
 }
 
-// The first changes, and how many others there are.
+// The first changes, and the number of others.
 QString summaryOf(QStringList lines) {
     const int left = int(lines.size()) - shownLines;
     if (left > 1) {
@@ -47,7 +47,7 @@ RecoveryDialogs::RecoveryDialogs(Document &document, Recovery &recovery, Message
     , m_recovery(recovery)
     , m_messageBar(messageBar)
     , m_window(window) {
-    // The window shows the package first.
+    // Queued, so that the window shows the package first.
     connect(&recovery, &Recovery::noticed, this, &RecoveryDialogs::handleNotice,
             Qt::QueuedConnection);
     connect(&recovery, &Recovery::failed, this, [this](const QString &reason) {
@@ -85,7 +85,7 @@ void RecoveryDialogs::offerLeftover() {
     auto *recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
     auto *discard = box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
     box.setDefaultButton(recover);
-    box.setEscapeButton(recover); // nothing is lost
+    box.setEscapeButton(recover); // loses nothing
     box.exec();
     if (box.clickedButton() == discard)
         m_recovery.dismiss();

@@ -8,8 +8,8 @@ namespace Editor {
 
 class MessageBar;
 
-/// Asks what to do about unsaved edits that were found, and says when another window has the same
-/// file open.
+/// Asks what to do with unsaved edits that were found, and reports if another window has the file
+/// open.
 class RecoveryDialogs : public QObject {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ public:
     RecoveryDialogs(Document &document, Recovery &recovery, MessageBar &messageBar,
                     QWidget *window);
 
-    /// Offers to open the packages with unsaved edits, one after the other, until one is opened.
+    /// Offers to open packages with unsaved edits, one by one, until one is opened.
     void offerLeftovers();
 
 private:
@@ -29,7 +29,7 @@ private:
     Recovery &m_recovery;
     MessageBar &m_messageBar;
     QWidget *m_window;
-    bool m_isAccepted = false; // the user has asked for the edits of the package that is opened
+    bool m_isAccepted = false; // the user has accepted the edits of the package being opened
 };
 
 } // namespace Editor

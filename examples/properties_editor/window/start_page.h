@@ -6,13 +6,13 @@ class QTreeWidget;
 
 namespace Editor {
 
-/// What the window shows before a package is open: templates, and the files that were open last.
+/// Shown before a package is open: templates and recent files.
 class StartPage : public QWidget {
     Q_OBJECT
 
 public:
     explicit StartPage(QWidget *parent = nullptr);
-    /// Looks again which files there are.
+    /// Updates the list of files.
     void refresh();
 
 Q_SIGNALS:

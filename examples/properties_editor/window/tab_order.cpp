@@ -15,7 +15,7 @@
 namespace Editor {
 namespace {
 
-// The stops of the Tab key in the order in which one reads the screen.
+// The stops of the Tab key in reading order.
 class Stops {
 public:
     void add(QWidget *widget) {
@@ -25,7 +25,7 @@ public:
             const auto arrows = tabs->tabBar()->findChildren<QToolButton *>();
             for (QToolButton *arrow : arrows)
                 arrow->setFocusPolicy(Qt::NoFocus);
-            // It would be a stop beside its bar, to which it passes the focus on.
+            // Otherwise both the tab widget and its bar would be stops.
             tabs->setFocusProxy(nullptr);
             tabs->setFocusPolicy(Qt::NoFocus);
             add(tabs->tabBar());

@@ -4,7 +4,7 @@ class QMainWindow;
 
 namespace Editor {
 
-/// Makes the Tab key follow the layouts of a window: its central widget, its docks, its status bar.
+/// Makes the Tab key follow the layouts of a window: central widget, docks, status bar.
 void setTabOrderOf(QMainWindow &window);
 
 } // namespace Editor

@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-// A static library registers its resources here, which has to be outside of any namespace.
+// Registers the resources of a static library; must be outside of any namespace.
 static void initTemplates() {
     Q_INIT_RESOURCE(templates);
 }

@@ -6,7 +6,7 @@
 
 namespace Editor {
 
-/// A package to start from.
+/// A template for new packages.
 struct Template {
     QString name;
     QString resource;

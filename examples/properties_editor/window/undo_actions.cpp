@@ -26,7 +26,7 @@ QList<QAction *> newUndoActions(QUndoStack &stack, QObject *parent) {
     redo->setShortcuts(QKeySequence::Redo);
     redo->setIcon(iconOf(Symbol::Redo));
     for (QAction *action : {undo, redo}) {
-        // Its own tool tip is the text of the command, in which a value may look like markup.
+        // The default tool tip is the command's text, in which a value may look like markup.
         const auto update = [action] { action->setToolTip(toolTipOf(action->iconText())); };
         QObject::connect(action, &QAction::changed, action, update);
         update();

@@ -8,7 +8,7 @@ namespace Editor {
 // the settings.
 
 void saveWindowState(const QMainWindow &window, int page);
-/// Returns the page; -1 if nothing was saved. A window that would not be on a screen is moved and
+/// Returns the page, or -1 if nothing was stored. A window outside of all screens is moved and
 /// shrunk to fit.
 int restoreWindowState(QMainWindow &window);
 

@@ -96,7 +96,7 @@ bool keeps(const PackageInfo &package, IsLooked isLooked) {
            anyOf(package.dialogs());
 }
 
-/// Whether a piece of kept content is an element, or stands for attributes.
+/// Whether a piece of kept content is an element, or represents attributes.
 inline bool isElement(std::string_view piece) {
     return piece.size() > 1 && piece[0] == '<' && piece[1] != '!' && piece[1] != '?';
 }

@@ -70,19 +70,19 @@ bool hasConflictMarkers(const std::string &content) {
 // Reads a side of the merge. An empty file means an empty package: git passes one as the base of
 // files added in both branches.
 std::optional<Manifest> readSide(const Side &side, Console &console) {
-    ManifestTrouble trouble;
-    const auto content = readContent(side.file, trouble.text);
+    ManifestError error;
+    const auto content = readContent(side.file, error.text);
     if (content && content->empty())
         return Manifest();
     if (content && hasConflictMarkers(*content))
-        trouble.text = QCoreApplication::translate(
+        error.text = QCoreApplication::translate(
             "zel-package",
             "The file contains conflict markers of git; resolve these conflicts first.");
-    if (content && trouble.text.isEmpty()) {
-        if (auto manifest = manifestOf(*content, trouble))
+    if (content && error.text.isEmpty()) {
+        if (auto manifest = manifestOf(*content, error))
             return manifest;
     }
-    console.printMessage(side.name, trouble.position, trouble.text);
+    console.printMessage(side.name, error.position, error.text);
     return {};
 }
 

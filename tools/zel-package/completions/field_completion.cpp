@@ -32,8 +32,8 @@ QString additionTo(const FieldPath &list) {
 } // namespace
 
 QStringList fieldCompletions(const QString &file, const QString &typed, FieldUse use) {
-    ManifestTrouble trouble;
-    const auto manifest = isStandardStream(file) ? std::nullopt : readManifest(file, trouble);
+    ManifestError error;
+    const auto manifest = isStandardStream(file) ? std::nullopt : readManifest(file, error);
     const Zel::PackageInfoModel package(manifest ? manifest->package : Tano::PackageInfo());
 
     QStringList result;

@@ -26,7 +26,7 @@ QList<QCommandLineOption> options() {
 struct Formatted {
     enum State { Canonical, Different, Malformed, Unreadable };
     State state = Canonical;
-    ManifestTrouble trouble = {}; // if malformed or unreadable
+    ManifestError error = {}; // if malformed or unreadable
 };
 
 constexpr std::array stateWords{"canonical", "different", "malformed", "unreadable"};
@@ -62,21 +62,21 @@ Formatted rewrite(const QString &file, const Manifest &manifest, Console &consol
 }
 
 Formatted format(const QString &file, bool isCheck, Console &console) {
-    ManifestTrouble trouble;
-    const auto manifest = readManifest(file, trouble);
+    ManifestError error;
+    const auto manifest = readManifest(file, error);
     if (manifest)
         return isCheck ? check(*manifest) : rewrite(file, *manifest, console);
-    return {trouble.position.line == 0 ? Formatted::Unreadable : Formatted::Malformed, trouble};
+    return {error.position.line == 0 ? Formatted::Unreadable : Formatted::Malformed, error};
 }
 
 QJsonObject toJson(const QString &file, const Formatted &formatted) {
     QJsonObject object{{QStringLiteral("file"), withVisibleBytes(file)},
                        {QStringLiteral("state"), QLatin1String(stateWords[formatted.state])}};
-    if (!formatted.trouble.text.isEmpty())
-        object[QStringLiteral("text")] = formatted.trouble.text;
+    if (!formatted.error.text.isEmpty())
+        object[QStringLiteral("text")] = formatted.error.text;
     if (formatted.state == Formatted::Malformed) {
-        object[QStringLiteral("line")] = qint64(formatted.trouble.position.line);
-        object[QStringLiteral("column")] = qint64(formatted.trouble.position.column);
+        object[QStringLiteral("line")] = qint64(formatted.error.position.line);
+        object[QStringLiteral("column")] = qint64(formatted.error.position.column);
     }
     return object;
 }
@@ -90,8 +90,8 @@ ExitStatus formatAll(const QStringList &files, bool isCheck, JsonListForm *form,
             form->add(toJson(file, formatted));
         else if (formatted.state == Formatted::Different)
             console.print(console.shown(file) % u'\n');
-        if (!formatted.trouble.text.isEmpty())
-            console.printMessage(file, formatted.trouble.position, formatted.trouble.text);
+        if (!formatted.error.text.isEmpty())
+            console.printMessage(file, formatted.error.position, formatted.error.text);
     }
     return status;
 }

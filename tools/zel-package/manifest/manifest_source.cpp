@@ -56,53 +56,53 @@ bool isStandardStream(const QString &file) {
 }
 
 bool readPackage(const QString &file, Tano::ManifestReader &reader, Tano::PackageInfo &package,
-                 QString &trouble) {
+                 QString &reason) {
     QFile input;
-    if (const std::string reason = openSource(input, file); !reason.empty()) {
-        trouble = reasonSentence(reason);
+    if (const std::string failure = openSource(input, file); !failure.empty()) {
+        reason = reasonSentence(failure);
         return false;
     }
     const bool isRead = reader.readFile(input, package);
     if (!isRead && reader.errorPosition().line == 0)
-        trouble = translatedSentence(reader.errorMessage());
+        reason = translatedSentence(reader.errorMessage());
     return isRead;
 }
 
-std::optional<std::string> readContent(const QString &file, QString &trouble) {
+std::optional<std::string> readContent(const QString &file, QString &reason) {
     QFile input;
-    if (const std::string reason = openSource(input, file); !reason.empty()) {
-        trouble = reasonSentence(reason);
+    if (const std::string failure = openSource(input, file); !failure.empty()) {
+        reason = reasonSentence(failure);
         return {};
     }
     Tano::InputFile source(input, Tano::ManifestReader::maxFileSize);
     auto content = readAll(source);
     if (!content)
-        trouble = reasonSentence(source.error());
+        reason = reasonSentence(source.error());
     return content;
 }
 
-std::optional<Manifest> manifestOf(std::string content, ManifestTrouble &trouble) {
+std::optional<Manifest> manifestOf(std::string content, ManifestError &error) {
     Manifest manifest;
     manifest.content = std::move(content);
 
     Tano::ManifestReader reader;
     if (!reader.readContent(manifest.content, manifest.package)) {
-        trouble = {reader.errorPosition(), translatedSentence(reader.errorMessage())};
+        error = {reader.errorPosition(), translatedSentence(reader.errorMessage())};
         return {};
     }
     return manifest;
 }
 
-std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble) {
-    auto content = readContent(file, trouble.text);
-    return content ? manifestOf(std::move(*content), trouble) : std::nullopt;
+std::optional<Manifest> readManifest(const QString &file, ManifestError &error) {
+    auto content = readContent(file, error.text);
+    return content ? manifestOf(std::move(*content), error) : std::nullopt;
 }
 
 std::optional<Manifest> readManifest(const QString &file, Console &console) {
-    ManifestTrouble trouble;
-    auto manifest = readManifest(file, trouble);
+    ManifestError error;
+    auto manifest = readManifest(file, error);
     if (!manifest)
-        console.printMessage(file, trouble.position, trouble.text);
+        console.printMessage(file, error.position, error.text);
     return manifest;
 }
 

@@ -15,9 +15,9 @@ namespace ZelPackage {
 bool isStandardStream(const QString &file);
 
 /// Reads the manifest in `file`, "-" for standard input, without keeping its bytes. Returns false
-/// if it is malformed, as described by `reader`, or cannot be read for the reason in `trouble`.
+/// if it is malformed, as described by `reader`, or cannot be read; then `reason` is set.
 [[nodiscard]] bool readPackage(const QString &file, Tano::ManifestReader &reader,
-                               Tano::PackageInfo &package, QString &trouble);
+                               Tano::PackageInfo &package, QString &reason);
 
 /// A manifest and its bytes.
 struct Manifest {
@@ -25,20 +25,20 @@ struct Manifest {
     std::string content;
 };
 
-/// The bytes of `file`, "-" for standard input; if they cannot be read, sets `trouble`.
-[[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &trouble);
+/// The bytes of `file`, "-" for standard input; if they cannot be read, sets `reason`.
+[[nodiscard]] std::optional<std::string> readContent(const QString &file, QString &reason);
 
 /// The reason why a manifest could not be read.
-struct ManifestTrouble {
+struct ManifestError {
     Tano::SourcePosition position; ///< line 0 if the file is unreadable
     QString text;
 };
 
 /// Parses a manifest; returns nullopt if it is malformed.
-[[nodiscard]] std::optional<Manifest> manifestOf(std::string content, ManifestTrouble &trouble);
+[[nodiscard]] std::optional<Manifest> manifestOf(std::string content, ManifestError &error);
 
 /// Reads the manifest in `file`, "-" for standard input.
-[[nodiscard]] std::optional<Manifest> readManifest(const QString &file, ManifestTrouble &trouble);
+[[nodiscard]] std::optional<Manifest> readManifest(const QString &file, ManifestError &error);
 
 /// The same, but reports errors.
 [[nodiscard]] std::optional<Manifest> readManifest(const QString &file, Console &console);

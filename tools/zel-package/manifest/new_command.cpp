@@ -58,10 +58,10 @@ bool writeManifest(const QString &file, const Zel::PackageInfoModel &package, Co
         console.printBytes(content.toStdString());
         return true;
     }
-    const QString trouble = createFile(file, content.toStdString());
-    if (!trouble.isEmpty())
-        console.printMessage(file, trouble);
-    return trouble.isEmpty();
+    const QString reason = createFile(file, content.toStdString());
+    if (!reason.isEmpty())
+        console.printMessage(file, reason);
+    return reason.isEmpty();
 }
 
 bool checkUid(const Zel::PackageInfoModel &package, Console &console) {

@@ -73,10 +73,10 @@ QString createFile(const QString &file, const std::string &content) {
     const int created = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (created < 0)
         return systemSentence();
-    QString trouble = writeAll(created, content);
-    if (!trouble.isEmpty())
+    QString reason = writeAll(created, content);
+    if (!reason.isEmpty())
         static_cast<void>(::unlink(name.c_str()));
-    return trouble;
+    return reason;
 }
 
 QString writeToSpecialFile(const QString &file, const std::string &content) {
@@ -111,10 +111,10 @@ bool writeOutput(const QString &output, const std::string &content, Console &con
         return true;
     }
     if (isSpecialFile(output)) {
-        const QString trouble = writeToSpecialFile(output, content);
-        if (!trouble.isEmpty())
-            console.printMessage(output, trouble);
-        return trouble.isEmpty();
+        const QString reason = writeToSpecialFile(output, content);
+        if (!reason.isEmpty())
+            console.printMessage(output, reason);
+        return reason.isEmpty();
     }
     const Tano::SaveResult result = Tano::saveFile({nativeBytes(output), content});
     if (!result)

@@ -72,34 +72,34 @@ bool readArguments(const QStringList &arguments, Request &request, Console &cons
 }
 
 bool readEdits(const QString &file, Request &request, Console &console) {
-    QString trouble;
-    const auto content = readContent(file, trouble);
+    QString reason;
+    const auto content = readContent(file, reason);
     if (content) {
         auto parsed = Zel::PackageModel::editsFromJson(QByteArray::fromStdString(*content));
         request.edits = parsed.edits;
-        trouble = parsed.error;
+        reason = parsed.error;
     }
-    if (!trouble.isEmpty())
-        console.printMessage(file, trouble);
-    return trouble.isEmpty();
+    if (!reason.isEmpty())
+        console.printMessage(file, reason);
+    return reason.isEmpty();
 }
 
 bool checkRequest(const Request &request, bool hasEdits, Console &console) {
     const auto streams =
         std::count_if(request.files.begin(), request.files.end(), isStandardStream);
-    QString trouble;
+    QString reason;
     if (request.files.isEmpty())
-        trouble = QCoreApplication::translate("zel-package", "Missing argument FILE.");
+        reason = QCoreApplication::translate("zel-package", "Missing argument FILE.");
     else if (request.assignments.empty() && !hasEdits)
-        trouble =
+        reason =
             QCoreApplication::translate("zel-package", "'%1' is not of the form FIELD=VALUE, as in "
                                                        "author=Ines or names[en_US]=Tea.")
                 .arg(request.files.constLast());
     else if (streams > 1)
-        trouble = QCoreApplication::translate("zel-package", "'-' can be given only once.");
-    if (!trouble.isEmpty())
-        console.printMessage(trouble);
-    return trouble.isEmpty();
+        reason = QCoreApplication::translate("zel-package", "'-' can be given only once.");
+    if (!reason.isEmpty())
+        console.printMessage(reason);
+    return reason.isEmpty();
 }
 
 // Applies edits to one manifest.

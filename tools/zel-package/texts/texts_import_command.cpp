@@ -40,10 +40,10 @@ struct Units {
 };
 
 bool readUnits(const QString &file, Units &all, Console &console) {
-    QString trouble;
-    const auto content = readContent(file, trouble);
+    QString reason;
+    const auto content = readContent(file, reason);
     if (!content) {
-        console.printMessage(file, trouble);
+        console.printMessage(file, reason);
         return false;
     }
     const auto parsed = Zel::PackageModel::parseXliff(QByteArray::fromStdString(*content));

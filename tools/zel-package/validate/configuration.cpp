@@ -207,12 +207,12 @@ const Configuration &Configurations::of(const QString &folder) {
 Configurations::Pointer Configurations::read(const QString &file, bool &isFine) const {
     const QString folder = QFileInfo(file).absolutePath();
     std::vector<ConfigurationError> errors;
-    QString trouble;
+    QString reason;
     Configuration configuration{folder};
-    if (const auto content = readContent(file, trouble))
+    if (const auto content = readContent(file, reason))
         configuration = parseConfiguration(*content, folder, errors);
     else
-        errors.push_back({{}, trouble});
+        errors.push_back({{}, reason});
     for (const ConfigurationError &error : errors)
         m_report(file, error);
     isFine = errors.empty();

@@ -49,8 +49,8 @@ public:
         }
     }
 
-    void writeTrouble(const QString &file, const QString &trouble) override {
-        print(QLatin1String("error"), file, {}, trouble);
+    void writeError(const QString &file, const QString &reason) override {
+        print(QLatin1String("error"), file, {}, reason);
     }
 
     void writeTruncated(const QString &file, const QString &note) override {

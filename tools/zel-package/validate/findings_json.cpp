@@ -53,9 +53,9 @@ public:
         }
     }
 
-    void writeTrouble(const QString &file, const QString &trouble) override {
+    void writeError(const QString &file, const QString &reason) override {
         m_unreadable += QJsonObject{{QStringLiteral("file"), withVisibleBytes(file)},
-                                    {QStringLiteral("text"), trouble}};
+                                    {QStringLiteral("text"), reason}};
     }
 
     void finish(const Report &report) override {

@@ -143,8 +143,8 @@ public:
             m_results.add(resultObject(manifest.file, finding, changes));
     }
 
-    void writeTrouble(const QString &file, const QString &trouble) override {
-        notify(QStringLiteral("error"), file, trouble);
+    void writeError(const QString &file, const QString &reason) override {
+        notify(QStringLiteral("error"), file, reason);
     }
 
     void writeTruncated(const QString &file, const QString &note) override {

@@ -40,7 +40,7 @@ public:
     virtual void begin() {}
     virtual void write(const CheckedManifest &manifest) = 0;
     /// Reports a file that could not be read or written; also printed to standard error.
-    virtual void writeTrouble(const QString & /*file*/, const QString & /*trouble*/) {}
+    virtual void writeError(const QString & /*file*/, const QString & /*reason*/) {}
     /// Reports a file with more findings than listed; also printed to standard error.
     virtual void writeTruncated(const QString & /*file*/, const QString & /*note*/) {}
     virtual void finish(const Report & /*report*/) {}

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Report = std::function<void(const QString &folder, const QString &trouble)>;
+using Report = std::function<void(const QString &folder, const QString &reason)>;
 
 QString textOf(const fs::path &path) {
     return nativeText(QByteArray::fromStdString(path.lexically_normal().string()));
@@ -47,9 +47,9 @@ QStringList manifestsOf(const QStringList &arguments, const Report &report) {
         bool isFine = true;
         collect(
             nativeBytes(argument),
-            [&](const QString &folder, const QString &trouble) {
+            [&](const QString &folder, const QString &reason) {
                 isFine = false;
-                report(folder, trouble);
+                report(folder, reason);
             },
             files);
         files.sort();

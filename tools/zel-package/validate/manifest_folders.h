@@ -13,6 +13,6 @@ namespace ZelPackage {
 /// `report` receives folders that cannot be read or have no manifest, with the reason.
 QStringList
 manifestsOf(const QStringList &arguments,
-            const std::function<void(const QString &folder, const QString &trouble)> &report);
+            const std::function<void(const QString &folder, const QString &reason)> &report);
 
 } // namespace ZelPackage

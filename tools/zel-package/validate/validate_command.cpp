@@ -52,8 +52,8 @@ ExitStatus validate(const ValidateRequest &request, Console &results, Console &o
         return Failure;
     writer->begin();
     const QStringList files =
-        manifestsOf(request.arguments, [&](const QString &folder, const QString &trouble) {
-            validation.reportTrouble(folder, trouble);
+        manifestsOf(request.arguments, [&](const QString &folder, const QString &reason) {
+            validation.reportError(folder, reason);
         });
     checkAll(files, request.showsDiff, validation, results);
     const Report report = validation.finish();

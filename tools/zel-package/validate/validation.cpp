@@ -54,7 +54,7 @@ Validation::Validation(const ValidateRequest &request, FindingsWriter &writer, C
     , m_messages(messages)
     , m_output(output)
     , m_configurations([this](const QString &file, const ConfigurationError &error) {
-        reportTrouble(file, error.text, error.position);
+        reportError(file, error.text, error.position);
     }) {
     if (!request.newBaseline.isEmpty())
         m_newBaseline.emplace(request.newBaseline);
@@ -74,11 +74,11 @@ bool Validation::prepare() {
     return false;
 }
 
-void Validation::reportTrouble(const QString &file, const QString &trouble,
-                               Tano::SourcePosition position) {
-    m_hasTrouble = true;
-    m_writer.writeTrouble(file, trouble);
-    m_messages.printMessage(file, position, trouble);
+void Validation::reportError(const QString &file, const QString &reason,
+                             Tano::SourcePosition position) {
+    m_hasError = true;
+    m_writer.writeError(file, reason);
+    m_messages.printMessage(file, position, reason);
 }
 
 Validation::Target Validation::targetOf(const QString &file) {
@@ -101,12 +101,12 @@ void Validation::check(const QString &file, const QString &patchName) {
     target.patchName = patchName;
     CheckedManifest manifest{target.name};
     Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
-    QString trouble;
-    if (read(target, reader, manifest, trouble)) {
+    QString reason;
+    if (read(target, reader, manifest, reason)) {
         collect(target, reader, manifest);
-    } else if (trouble.isEmpty()) {
+    } else if (reason.isEmpty()) {
         ++m_report.malformed;
-        m_hasTrouble = true;
+        m_hasError = true;
         manifest.findings.push_back({reader.errorPosition(),
                                      malformedRuleId,
                                      Severity::Error,
@@ -114,7 +114,7 @@ void Validation::check(const QString &file, const QString &patchName) {
                                      translatedSentence(reader.errorMessage())});
     } else {
         ++m_report.unreadable;
-        reportTrouble(target.name, trouble);
+        reportError(target.name, reason);
         return;
     }
     write(target, manifest);
@@ -123,10 +123,10 @@ void Validation::check(const QString &file, const QString &patchName) {
 // A manifest's bytes take as much memory as everything else, so they are read and kept only if
 // needed.
 bool Validation::read(const Target &target, Tano::ManifestReader &reader, CheckedManifest &manifest,
-                      QString &trouble) {
+                      QString &reason) {
     if (!m_request.fixes && m_writer.neededContent() == 0)
-        return readPackage(target.file, reader, manifest.record, trouble);
-    auto content = readContent(target.file, trouble);
+        return readPackage(target.file, reader, manifest.record, reason);
+    auto content = readContent(target.file, reason);
     if (!content)
         return false;
     if (m_request.fixes)
@@ -151,7 +151,7 @@ void Validation::fix(const Target &target, std::string &content) {
     };
     const FixedManifest fixed = fixedManifest(record, *m_request.fixes, options);
     if (!fixed.error.isEmpty())
-        reportTrouble(target.name, fixed.error);
+        reportError(target.name, fixed.error);
     const bool isChanged = !fixed.content.empty() && fixed.content != content;
     if (isChanged && (m_request.showsDiff || isStandardStream(target.file) ||
                       save(target, content, fixed.record))) {
@@ -168,7 +168,7 @@ bool Validation::save(const Target &target, const std::string &content,
                       const Tano::PackageInfo &fixed) {
     if (saveIfUnchanged(target.file, {{}, content}, fixed))
         return true;
-    reportTrouble(target.name, translatedSentence(fixed.errorString()));
+    reportError(target.name, translatedSentence(fixed.errorString()));
     return false;
 }
 
@@ -316,14 +316,14 @@ Report Validation::finish() {
         reportMissingManifests();
     if (m_newBaseline) {
         if (const QString error = m_newBaseline->write(); !error.isEmpty())
-            reportTrouble(m_request.newBaseline, error);
+            reportError(m_request.newBaseline, error);
         else if (!m_request.isQuiet)
             m_messages.printMessage(m_request.newBaseline,
                                     QCoreApplication::translate("zel-package", "Known findings: %1")
                                         .arg(m_newBaseline->size()));
     }
     const bool hasFailed = m_hasFailed || (m_request.showsDiff && m_report.fixed > 0);
-    m_report.status = m_hasTrouble ? Failure : hasFailed ? Findings : Fine;
+    m_report.status = m_hasError ? Failure : hasFailed ? Findings : Fine;
     if (m_request.explains) {
         m_report.explained = reportRules();
         m_report.explained.erase(

@@ -24,8 +24,8 @@ public:
     /// `patchName` is the file's name in differences, see patchNames().
     void check(const QString &file, const QString &patchName);
     /// Reports a file or folder that could not be processed.
-    void reportTrouble(const QString &file, const QString &trouble,
-                       Tano::SourcePosition position = {});
+    void reportError(const QString &file, const QString &reason,
+                     Tano::SourcePosition position = {});
 
     /// Writes the requested baseline and returns the result.
     Report finish();
@@ -37,7 +37,7 @@ private:
     void fix(const Target &target, std::string &content);
     bool save(const Target &target, const std::string &content, const Tano::PackageInfo &fixed);
     bool read(const Target &target, Tano::ManifestReader &reader, CheckedManifest &manifest,
-              QString &trouble);
+              QString &reason);
     void collect(const Target &target, const Tano::ManifestReader &reader,
                  CheckedManifest &manifest);
     std::vector<ManifestFinding> unusedEntries(const QString &file) const;
@@ -54,7 +54,7 @@ private:
     std::optional<Baseline> m_baseline;
     std::optional<Baseline> m_newBaseline;
     Report m_report;
-    bool m_hasTrouble = false;
+    bool m_hasError = false;
     bool m_hasFailed = false;
     QSet<QString> m_found; // rule ids
 };

@@ -28,10 +28,15 @@ struct PACKAGEMODEL_NO_EXPORT PackageInfoModel::Data {
     explicit Data(PackageInfoModel *package, Tano::PackageInfo info = {});
 
     const Tano::PackageInfo &record() const { return m_record; }
-    Tano::PackageInfo &edit() { return m_record; }
+    Tano::PackageInfo &edit() {
+        ++m_revision;
+        return m_record;
+    }
+    /// Changes with every edit of the record, except for those that copy a child's record into it.
+    std::uint64_t revision() const { return m_revision; }
     template<typename Change>
     void editAnnounced(Change change) {
-        change(m_record);
+        change(edit());
     }
     /// Marks the record's lists as out of sync after the record was replaced.
     void setOutOfStep();
@@ -66,6 +71,7 @@ struct PACKAGEMODEL_NO_EXPORT PackageInfoModel::Data {
 
 private:
     Tano::PackageInfo m_record;
+    std::uint64_t m_revision = 0;
 };
 
 /// The package's children of one kind.

@@ -14,32 +14,36 @@ namespace Zel::PackageModel {
 
 /// The comments of a manifest that turn off rules:
 ///
-/// ```
+/// ```xml
 /// <!-- zel-package: ignore text-blank, nature-unknown -->
 /// <behavior path="greet" nature="solo"/>
 /// ```
 ///
-/// Such a comment applies to the element that follows it and to the content of that element; before
-/// the root element, to the whole manifest. One that no element follows applies to the element
-/// around it. Since a block of texts is no field, one before its first text applies to the block.
+/// A comment applies to the element that follows it, including its content; before the root
+/// element, to the whole manifest. If no element follows, it applies to its parent. Before the
+/// first text of a block, it applies to the block, which is not a field.
+///
+/// ```cpp
+/// PackageModel::IgnoreComments comments(record);
+/// comments.ignores(QStringLiteral("text-blank"), QStringLiteral("names[en_US]")); // -> false
+/// ```
 class PACKAGEMODEL_EXPORT IgnoreComments {
 public:
     /// A rule in a comment.
     struct Entry {
-        QString rule;            ///< as written, so that it may not exist
+        QString rule;            ///< as written; it may not exist
         Tano::FieldPath element; ///< the field that follows the comment
         bool isBlock;            ///< applies to all texts in the language of that field
         bool isUsed = false;     ///< has ignored something
     };
 
-    /// Reads the comments of a record, which takes time proportional to the manifest if there are
-    /// any.
+    /// Reads the comments of a record. If there are any, the time is proportional to the manifest.
     explicit IgnoreComments(const Tano::PackageInfo &record);
 
-    /// Whether a comment turns off the rule for the field, which counts as a use of it.
+    /// Whether a comment turns off the rule for the field; marks its entry as used.
     bool ignores(const QString &rule, const QString &field);
 
-    /// In the order of the comments.
+    /// The rules in the order of the comments.
     const std::vector<Entry> &entries() const { return m_entries; }
 
 private:
@@ -47,22 +51,21 @@ private:
     QHash<QString, std::vector<std::size_t>> m_byRule; // indexes
 };
 
-/// Accepts the issues that no comment of the package ignores; for IssueOptions::filterFor. The
-/// package has to hold its behaviors, which visitIssues() of a record does not ensure, and its
-/// record to be up to date, see PackageInfoModel::syncRecord().
+/// A filter for issues that no comment of the package ignores, for IssueOptions::filterFor. Call
+/// PackageInfoModel::syncRecord() before. Do not use it for visitIssues() of a record, whose
+/// filters get a package without behaviors.
 ///
-/// ```
-/// IssueOptions options;
+/// ```cpp
+/// PackageModel::IssueOptions options;
 /// options.filterFor = notIgnored;
 /// ```
 PACKAGEMODEL_EXPORT IssueFilter notIgnored(const PackageInfoModel &package);
 
-/// The edits that write comments which turn off the rules of issues for their fields; apply() makes
-/// them one step. A rule is added to the comment that is there already. The comment is before the
-/// element of the field or, where that is absent, before the smallest one around it in which the
-/// rule can be turned off: it may then ignore further issues of the same rule.
+/// The edits that turn off the rules of issues for their fields, by adding comments or extending
+/// existing ones. A comment precedes the element of the field. If that is absent, it precedes the
+/// nearest parent for which the rule can be turned off, and may ignore further issues of the rule.
 ///
-/// Empty if there is nothing left to ignore, or the package cannot be saved.
+/// Empty if all issues are ignored already or the package cannot be saved.
 PACKAGEMODEL_EXPORT Edits ignoringEdits(const PackageInfoModel *package,
                                         const QVector<Issue> &issues);
 

@@ -13,16 +13,25 @@ namespace Zel::PackageModel {
 /// "error", "warning" or "note", in every language.
 PACKAGEMODEL_EXPORT QLatin1String severityWord(Severity severity);
 
-/// The places of issues in a manifest.
+/// Finds the positions of issues in a manifest.
+///
+/// ```cpp
+/// Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
+/// if (!reader.readContent(manifest, record))
+///     return;
+/// PackageModel::IssuePlaces places(reader);
+/// for (const PackageModel::Issue &issue : PackageModel::issues(&package))
+///     out << PackageModel::reportLine(fileName, places.of(issue), issue) << '\n';
+/// ```
 class PACKAGEMODEL_EXPORT IssuePlaces {
 public:
-    /// The reader has read the manifest with Positions::Keep, and has to outlive this.
+    /// `reader` must have read the manifest with Positions::Keep, and must outlive this object.
     explicit IssuePlaces(const Tano::ManifestReader &reader);
     ~IssuePlaces();
     IssuePlaces(const IssuePlaces &) = delete;
     IssuePlaces &operator=(const IssuePlaces &) = delete;
 
-    /// Of a missing field, the place of the element that should hold it.
+    /// The position of an issue; for a missing field, that of the element that should contain it.
     Tano::SourcePosition of(const Issue &issue);
 
 private:
@@ -30,21 +39,12 @@ private:
     std::unique_ptr<Data> m_data;
 };
 
-/// A finding in the form that compilers use: "FILE:LINE:COLUMN: error: text [id]". The caller may
-/// have styled the severity and the rule, which has its brackets already.
+/// A finding in the format of compilers: "FILE:LINE:COLUMN: error: text [id]". `rule` includes the
+/// brackets; severity and rule may contain escape sequences for a terminal.
 PACKAGEMODEL_EXPORT QString reportLine(const QString &file, Tano::SourcePosition position,
                                        const QString &severity, const QString &text,
                                        const QString &rule);
 /// The line of an issue in plain text.
-///
-/// ```
-/// Tano::ManifestReader reader(Tano::ManifestReader::Positions::Keep);
-/// if (reader.readContent(content, record)) {
-///     IssuePlaces places(reader);
-///     for (const Issue &issue : issues(&package))
-///         print(reportLine(fileName, places.of(issue), issue));
-/// }
-/// ```
 PACKAGEMODEL_EXPORT QString reportLine(const QString &file, Tano::SourcePosition position,
                                        const Issue &issue);
 

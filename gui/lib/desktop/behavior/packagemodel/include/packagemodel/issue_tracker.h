@@ -6,37 +6,38 @@
 
 namespace Zel::PackageModel {
 
-/// The issues of a package that is being edited. They are the same as those of issues(), but an
-/// update after an edit costs what the edited behaviors cost, however many others there are.
+/// Keeps the issues() of a package up to date while it is edited. The time of an update depends on
+/// the edited behaviors, not on the size of the package.
 ///
-/// ```
+/// ```cpp
 /// PackageModel::IssueTracker tracker(&package);
-/// connect(&undoStack, &QUndoStack::indexChanged, this, [&] {
+/// QObject::connect(&stack, &QUndoStack::indexChanged, &window, [&] {
 ///     if (tracker.update())
-///         list->show(tracker.issues());
+///         showIssues(tracker.issues());
 /// });
 /// ```
 ///
-/// The issues have no fixes; fixes() makes those of one. If the package is deleted, there are no
-/// issues from the next update() on. The texts are in the language that the application had when
-/// they were made.
+/// The issues have no fixes; see fixes(). After the package is deleted, the next update() removes
+/// all issues. Texts are in the language of the application at the time of the check.
 class PACKAGEMODEL_EXPORT IssueTracker {
 public:
-    /// Checks the whole package. The options stay in force for updates; what they point to has to
-    /// live as long as the tracker, and their `withFixes` has no effect.
+    /// Checks the whole package. The options apply to updates too; pointers in them must be valid
+    /// as long as the tracker exists. `withFixes` has no effect. `filterFor` is called again when
+    /// findings or the package itself have changed.
     explicit IssueTracker(const PackageInfoModel *package, const IssueOptions &options = {});
     ~IssueTracker();
     IssueTracker(const IssueTracker &) = delete;
     IssueTracker &operator=(const IssueTracker &) = delete;
 
-    /// Checks the package itself, and the behaviors that were changed, added or moved since the
-    /// last call. Call it when an edit is complete. Returns whether the issues have changed.
+    /// Checks the package itself, and behaviors that were changed, added or moved since the last
+    /// call. Call it after a complete edit. Returns whether the issues have changed.
     bool update();
 
+    /// The issues as of the last update().
     const QVector<Issue> &issues() const;
 
-    /// The fixes of one of issues(), the most likely first. None if the package has changed since
-    /// so that the issue is gone.
+    /// The fixes of one of issues(), the most likely first. Empty if a later edit has removed the
+    /// issue.
     QVector<Fix> fixes(const Issue &issue) const;
 
 private:

@@ -247,7 +247,7 @@ Q_SIGNALS:
     /// @}
     /// @{
     /// A child was added at the end of its list, or removed. A removed child is deleted after the
-    /// notification.
+    /// notification, unless it was added to another package.
     void behaviorAdded(BehaviorInfoModel *addedBehavior);
     void behaviorRemoved(BehaviorInfoModel *removedBehavior);
     void dialogAdded(DialogInfoModel *dialog);

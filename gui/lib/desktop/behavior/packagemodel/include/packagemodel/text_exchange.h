@@ -115,7 +115,7 @@ struct TextImport {
         QString reason = {};                         ///< why not, in one sentence
     };
 
-    Edits edits;         ///< those that were applied
+    Edits edits;         ///< applied, unless this is a dry run
     QVector<Unit> units; ///< one for each given unit, in the same order
     QString error;       ///< why nothing was imported, in one sentence; empty on success
 };

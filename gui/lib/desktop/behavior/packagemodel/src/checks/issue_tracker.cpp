@@ -131,14 +131,14 @@ struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
     bool updateOrder();
     void updateOccurrences();
     bool updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior, bool isForced);
-    QVector<Issue> assembled(const IssueFilter &filter) const;
+    QVector<Issue> assembled() const;
 
     QPointer<const PackageInfoModel> package;
     IssueOptions options;
+    std::uint64_t revision = 0; // of the package's record
     std::vector<std::string> input;
     std::vector<SectionIssue> ofPackage;
     std::vector<CheckedBehavior> behaviors;
-    bool isFiltered = false;
     QVector<Issue> issues;
 };
 
@@ -183,7 +183,7 @@ bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBe
     return !areSame(behavior.issues, found);
 }
 
-QVector<Issue> IssueTracker::Data::assembled(const IssueFilter &filter) const {
+QVector<Issue> IssueTracker::Data::assembled() const {
     std::vector<const CheckedBehavior *> faulty;
     for (const CheckedBehavior &behavior : behaviors) {
         if (!behavior.issues.empty())
@@ -210,6 +210,7 @@ QVector<Issue> IssueTracker::Data::assembled(const IssueFilter &filter) const {
         }
     }
 
+    const IssueFilter filter = options.filterFor ? options.filterFor(*package) : IssueFilter();
     QVector<Issue> all;
     for (const auto &section : sections) {
         for (const Issue *issue : section) {
@@ -255,13 +256,12 @@ bool IssueTracker::update() {
     std::swap(m_data->ofPackage, ofPackage);
     isChanged |= !areSame(m_data->ofPackage, ofPackage);
 
-    // A filter may depend on anything.
-    const IssueFilter filter =
-        m_data->options.filterFor ? m_data->options.filterFor(package) : IssueFilter();
-    const bool wasFiltered = std::exchange(m_data->isFiltered, bool(filter));
-    if (!isChanged && !filter && !wasFiltered)
+    // To ask for a filter may take long: comments are looked for in the whole record.
+    const std::uint64_t revision = ChildAccess::data(package).revision();
+    const bool isEdited = std::exchange(m_data->revision, revision) != revision;
+    if (!isChanged && !(isEdited && m_data->options.filterFor))
         return false;
-    const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled(filter));
+    const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled());
     return !areSame(before, m_data->issues);
 }
 

@@ -81,7 +81,7 @@ QByteArray xliffOf(const QVector<TranslatableText> &texts, const XliffOptions &o
 }
 
 // The reason why XLIFF cannot represent a text, its path or the manifest's name; empty if it can.
-QString troubleIn(const QVector<TranslatableText> &texts, const XliffOptions &options) {
+QString xliffFault(const QVector<TranslatableText> &texts, const XliffOptions &options) {
     if (options.language == options.sourceLanguage)
         return inWords(
             QT_TRANSLATE_NOOP("Zel::PackageModel", "The language is the source language too."));
@@ -128,10 +128,10 @@ QString bcp47(const QString &code) {
 QByteArray exportXliff(const PackageInfoModel *package, const XliffOptions &options,
                        QString *error) {
     const auto texts = translatableTexts(package, options.language, options.sourceLanguage);
-    const QString trouble = troubleIn(texts, options);
+    const QString reason = xliffFault(texts, options);
     if (error)
-        *error = trouble;
-    return trouble.isEmpty() ? xliffOf(texts, options) : QByteArray();
+        *error = reason;
+    return reason.isEmpty() ? xliffOf(texts, options) : QByteArray();
 }
 
 } // namespace Zel::PackageModel
