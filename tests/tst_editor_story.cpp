@@ -64,7 +64,8 @@ private Q_SLOTS:
         const QByteArray saved = contentOf(file);
         QCOMPARE(saved.count("<texts language="), 8); // of the package and its behavior
         for (int i = 1; i <= 10; ++i)
-            QVERIFY2(saved.contains(">Text " + QByteArray::number(i) + '<'), saved.constData());
+            QVERIFY2(saved.contains(QByteArray(">Text " + QByteArray::number(i) + '<')),
+                     saved.constData());
     }
 
     // What a template is left without is for its author to choose.
