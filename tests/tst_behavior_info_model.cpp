@@ -13,6 +13,7 @@ private Q_SLOTS:
     void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
+    void otherLanguagesAreKnownAtOnce();
     void copies();
     void paths_data();
     void paths();
@@ -23,6 +24,17 @@ private:
     const RobotLanguage m_english = language("en_US");
     const RobotLanguage m_french = language("fr_FR");
 };
+
+// Although texts are decoded when they are first used.
+void TestBehaviorInfoModel::otherLanguagesAreKnownAtOnce() {
+    Tano::BehaviorInfo info;
+    info.setName("Hello", "qb_QA");
+    info.addTag("greeting", "qb_QB");
+    const BehaviorInfoModel model(info);
+    for (const char *code : {"qb_QA", "qb_QB"})
+        QCOMPARE(language(code).isoCode(), text(code));
+    QCOMPARE(model.tags(language("qb_QB")), QStringList(text("greeting")));
+}
 
 void TestBehaviorInfoModel::copies() {
     auto package = std::make_unique<PackageInfoModel>();
