@@ -82,7 +82,6 @@ void TextGroups::start(const LanguagePair &languages) {
         m_groups[i + 1].owner = owners[i];
         m_groups[i + 1].record = behaviors[i];
     }
-    m_behaviors = m_document.package()->behaviors();
 }
 
 int TextGroups::find(const FieldPath &path) const {
@@ -96,7 +95,10 @@ QVector<TranslatableText> TextGroups::textsOf(int group) const {
     if (group == 0)
         return Zel::PackageModel::ownTexts(*m_document.package(), m_languages.language,
                                            m_languages.sourceLanguage);
-    return Zel::PackageModel::textsOf(*m_behaviors.at(group - 1), at(group).owner,
+    const auto behaviors = m_document.package()->behaviors();
+    if (group > behaviors.size())
+        return {}; // removed since the last update
+    return Zel::PackageModel::textsOf(*behaviors.at(group - 1), at(group).owner,
                                       m_languages.language, m_languages.sourceLanguage);
 }
 
@@ -210,7 +212,6 @@ std::optional<std::vector<TextGroups::Change>> TextGroups::update() {
     m_document.package()->syncRecord();
     if (!hasSameBehaviors())
         return std::nullopt;
-    m_behaviors = m_document.package()->behaviors();
     const std::vector<int> groups = outdated();
     if (groups.size() > most)
         return std::nullopt;

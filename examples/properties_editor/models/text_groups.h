@@ -81,7 +81,6 @@ private:
     Document &m_document;
     LanguagePair m_languages;
     Tano::FieldPath m_held;
-    QVector<Zel::BehaviorInfoModel *> m_behaviors; // at the last start or update
     std::vector<TextGroup> m_groups;               // the package's first
     Tano::PackageInfo m_saved;
     std::unordered_map<std::string, std::size_t> m_savedIndexes; // by owner; built on demand

@@ -258,6 +258,8 @@ void TranslationModel::setCurrent(const FieldPath &path) {
 }
 
 QModelIndex TranslationModel::reveal(const FieldPath &path) {
+    if (!m_isActive || m_languages.language.isEmpty())
+        return {}; // the groups do not follow the package
     const int group = m_groups.find(path);
     if (group >= m_next)
         advanceWhile([&] { return group >= m_next; });
