@@ -4,12 +4,14 @@
 
 #include <packagemodel/ignore_comments.h>
 #include <packagemodel/issue_tracker.h>
+#include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
 
 #include <tano/kept_content.h>
 
 #include <QDir>
+#include <QUndoStack>
 
 #include <memory>
 
@@ -193,6 +195,43 @@ private Q_SLOTS:
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/ignored-") %
                                 QFileInfo(file).dir().dirName() % text(".txt"),
                             places + package.saveToManifestContent());
+    }
+
+    // Commands that fix, ignore and edit lead back and forth exactly.
+    void replayedCommands_data() { addSeeds(8); }
+
+    void replayedCommands() {
+        QFETCH(const unsigned, seed);
+        RandomEdits random(seed);
+        std::mt19937 choice(seed);
+        PackageInfoModel package;
+        QVERIFY(package.loadFromManifestFile(
+            text(ZEL_SOURCE_DIR "/examples/packages/faulty/manifest.xml")));
+        const auto bytes = [&] {
+            package.syncRecord();
+            return package.saveToManifestContent();
+        };
+        const QByteArray initial = bytes();
+        QUndoStack stack;
+        for (int i = 0; i < 25; ++i) {
+            const auto found = issues(&package);
+            const Issue issue =
+                found.value(found.isEmpty() ? 0 : int(choice() % unsigned(found.size())));
+            Edits edits{random.next(package)};
+            if (choice() % 3 == 0)
+                edits = ignoringEdits(&package, {issue});
+            else if (choice() % 3 == 0 && !issue.fixes.isEmpty())
+                edits = issue.fixes.first().edits;
+            PackageInfoModel scratch(package.packageInfo());
+            if (!edits.isEmpty() && apply(&scratch, edits).error.isEmpty())
+                stack.push(new PackageEditCommand(&package, edits));
+            const QByteArray present = bytes();
+            const int index = stack.index();
+            stack.setIndex(0);
+            QCOMPARE(bytes(), initial);
+            stack.setIndex(index);
+            QCOMPARE(bytes(), present);
+        }
     }
 
 private:
