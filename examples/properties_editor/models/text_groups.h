@@ -81,7 +81,7 @@ private:
     Document &m_document;
     LanguagePair m_languages;
     Tano::FieldPath m_held;
-    std::vector<TextGroup> m_groups;               // the package's first
+    std::vector<TextGroup> m_groups; // the package's first
     Tano::PackageInfo m_saved;
     std::unordered_map<std::string, std::size_t> m_savedIndexes; // by owner; built on demand
 };
