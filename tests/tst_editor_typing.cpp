@@ -288,6 +288,26 @@ private Q_SLOTS:
         QVERIFY(line("A new tag")->text().isEmpty());
     }
 
+    // An edit while the stack steps would drop the commands to redo.
+    void undoBesideAnAddition() {
+        startAddition("");
+        auto &document = m_window->document();
+        const auto *shown = document.package()->behaviors().first();
+        document.edit({{Edit::Action::Remove,
+                        FieldPath().field("behaviors").entry(shown->path().toStdString())}});
+        stack()->undo();
+        auto *list = view<QTreeView>("Behaviors");
+        list->setCurrentIndex(list->model()->index(0, 0));
+        line("A new tag")->setFocus();
+        type(QStringLiteral("half-ty"));
+        for (const int index : {1, 0}) { // removes the behavior that is shown, and restores it
+            stack()->setIndex(index);
+            QCOMPARE(stack()->count(), 1);
+            QCOMPARE(stack()->index(), index);
+            QCOMPARE(line("A new tag")->text(), QStringLiteral("half-ty"));
+        }
+    }
+
     void undoInAnAddition() {
         startAddition("word");
         press(Qt::Key_Return);

@@ -43,6 +43,9 @@ public:
     Zel::PackageInfoModel *package() const { return m_package.get(); }
     QUndoStack *undoStack() { return &m_undoStack; }
     bool isModified() const { return !m_undoStack.isClean(); }
+    /// Whether a command is being done, undone or redone, or an undo or redo is being announced. No
+    /// edit may be made meanwhile.
+    bool isStepping() const { return m_isStepping; }
 
     // Files. On failure, these functions return false, change nothing, and set errorString().
 
@@ -146,6 +149,7 @@ private:
     int m_stackIndex = 0;
     bool m_isReplayable = true; // whether a reload can be followed by the pending edits
     bool m_isPushing = false;
+    bool m_isStepping = false;
     bool m_isReplacing = false;
 
     std::unique_ptr<Zel::PackageModel::IssueTracker> m_tracker;

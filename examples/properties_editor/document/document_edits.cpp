@@ -18,6 +18,27 @@ using Zel::PackageModel::Edits;
 
 namespace {
 
+// Notes when it is done or undone, which the stack does on its own.
+class DocumentEdit : public PackageEditCommand {
+public:
+    DocumentEdit(bool &isStepping, PackageInfoModel *package, const Edits &edits,
+                 const QString &text = {}, bool isFinal = true)
+        : PackageEditCommand(package, edits, text, isFinal)
+        , m_isStepping(isStepping) {}
+
+    void undo() override {
+        const QScopedValueRollback<bool> stepping(m_isStepping, true);
+        PackageEditCommand::undo();
+    }
+    void redo() override {
+        const QScopedValueRollback<bool> stepping(m_isStepping, true);
+        PackageEditCommand::redo();
+    }
+
+private:
+    bool &m_isStepping;
+};
+
 // The field that a command has set, whose path differs if it is a key.
 FieldPath fieldAfter(const PackageEditCommand &command) {
     const Edits &inverse = command.inverse();
@@ -53,7 +74,7 @@ QString Document::type(const FieldPath &field, const QString &text) {
         return {};
     if (text.isEmpty() && m_run == field && beganAsItem(commandAt(m_undoStack.index() - 1)))
         edit = {Edit::Action::Remove, field};
-    auto *command = new PackageEditCommand(package(), {edit}, {}, false);
+    auto *command = new DocumentEdit(m_isStepping, package(), {edit}, {}, false);
     if (m_run != field)
         command->startRun();
     const int before = m_undoStack.index();
@@ -88,7 +109,7 @@ void Document::edit(const Edits &edits, const QString &text) {
         Q_EMIT editRefused(reason);
         return;
     }
-    auto *command = new PackageEditCommand(package(), edits, text);
+    auto *command = new DocumentEdit(m_isStepping, package(), edits, text);
     command->startRun();
     push(command);
 }
@@ -113,7 +134,7 @@ void Document::abandonRun(const FieldPath &field) {
         return;
     // A run and its inverse cancel each other out.
     if (const PackageEditCommand *run = commandAt(m_undoStack.index() - 1))
-        pushCommand(new PackageEditCommand(package(), run->inverse(), {}, false));
+        pushCommand(new DocumentEdit(m_isStepping, package(), run->inverse(), {}, false));
     closeRun();
 }
 
@@ -163,6 +184,7 @@ void Document::finishEdit() {
     const bool isStep = !m_isPushing && before != m_stackIndex;
     if (isStep)
         closeRun();
+    const QScopedValueRollback<bool> stepping(m_isStepping, isStep);
     m_coverages.reset();
     if (m_tracker->update())
         indexIssues();

@@ -55,6 +55,8 @@ void AdditionLine::take() {
 }
 
 void AdditionLine::leave() {
+    if (m_document.isStepping())
+        return; // the text stays in the line: an edit would drop the commands to redo
     take();
     const QString reason = refusal();
     discard();
