@@ -80,7 +80,7 @@ private Q_SLOTS:
         row("2026-11-21T", "soon", "time: The value has the wrong type.");
         row("\"set\"", "\"put\"",
             "edits[0].action: It must be 'set', 'insert', 'remove' or 'move'.");
-        row("\"sha256\"", "\"extra\": 1, \"sha256\"", "extra: There is no such member.");
+        row("\"xxh3\"", "\"extra\": 1, \"xxh3\"", "extra: There is no such member.");
     }
     void refusals() {
         QFETCH(QString, from);
