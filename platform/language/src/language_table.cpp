@@ -43,21 +43,21 @@ RobotLanguage makeLanguage(const QJsonObject &row) {
             SoftwareVersionUtils::fromString(text("version"))};
 }
 
-QString codeOf(const QJsonObject &row) {
-    return row.value(QLatin1String("isoCode")).toString();
-}
+using Row = std::pair<QString, QJsonObject>; // with the code
 
-std::vector<QJsonObject> readRows() {
+std::vector<Row> readRows() {
     QFile file(QStringLiteral(":/zel/language/languages.json"));
     const bool isOpen = file.open(QIODevice::ReadOnly);
     Q_ASSERT(isOpen);
     Q_UNUSED(isOpen)
-    std::vector<QJsonObject> rows;
+    std::vector<Row> rows;
     const auto content = QJsonDocument::fromJson(file.readAll()).object();
-    for (const auto &row : content.value(QLatin1String("languages")).toArray())
-        rows.push_back(row.toObject());
+    for (const auto &value : content.value(QLatin1String("languages")).toArray()) {
+        const QJsonObject row = value.toObject();
+        rows.emplace_back(row.value(QLatin1String("isoCode")).toString(), row);
+    }
     std::sort(rows.begin(), rows.end(),
-              [](const auto &a, const auto &b) { return codeOf(a) < codeOf(b); });
+              [](const Row &a, const Row &b) { return a.first < b.first; });
     return rows;
 }
 
@@ -70,8 +70,8 @@ LanguageTable &LanguageTable::instance() {
 
 // Most programs use few of the languages, and Qt's locale data are slow to read.
 LanguageTable::LanguageTable() {
-    for (const QJsonObject &row : readRows())
-        append({codeOf(row), {}, false, row});
+    for (const auto &[code, row] : readRows())
+        append({code, {}, false, row});
     m_builtIn = m_entries.size();
     m_forgetAt = m_builtIn + leastGrowth;
     m_default = find(QStringLiteral("en_US"));
