@@ -46,11 +46,12 @@ bool move(PackageInfoModel *package, ChildList<Child> &list, int from, int to) {
 template<typename Child>
 void insertOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child, int index) {
     const QPointer<PackageInfoModel> living(package);
+    const QPointer<Child> added(child);
     addOwn(package, list, child);
-    if (!living)
+    if (!living || !added || !list.contains(*added))
         return;
     const int size = static_cast<int>(list.children().size());
-    move(package, list, list.indexOf(child), std::clamp(index, 0, std::max(size - 1, 0)));
+    move(package, list, list.placeOf(*added), std::clamp(index, 0, size - 1));
 }
 
 // Releases a child from its package: updates the record and announces the removal. Returns false if
