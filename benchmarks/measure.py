@@ -135,23 +135,23 @@ class Samples:
         return self.folder / f"{size}.xml"
 
 
-def measure_cases(binaries, samples, figures):
-    environment = dict(os.environ, ZEL_BENCHMARK_SAMPLES=str(samples.folder),
-                       QT_QPA_PLATFORM="offscreen")
-    for size in SIZES:
-        for case in CASES:
-            printed = output_of(
-                [binaries / "benchmarks", f"--benchmark_filter=^{case}/{size}$",
-                 "--benchmark_min_time=0.02", "--benchmark_repetitions=8",
-                 "--benchmark_format=csv"], env=environment)
-            rows = [line for line in (printed or "").splitlines()
-                    if line.startswith(f'"{case}/{size}"')]
-            if rows:
-                figures[case, size] = min(float(row[3]) for row in csv.reader(rows))
-        figures["file", size] = samples.manifest(size).stat().st_size
-        memory = output_of([binaries / "load_memory", samples.manifest(size)], env=environment)
-        for name, value in zip(("heap", "resident", "models"), (memory or "").split()):
-            figures[name, size] = int(value)
+def measure_size(binaries, folder, size, cases, figures):
+    """Times of the cases and the memory for a package of one size."""
+    environment = dict(os.environ, ZEL_BENCHMARK_SAMPLES=str(folder), QT_QPA_PLATFORM="offscreen")
+    manifest = folder / f"{size}.xml"
+    for case in cases:
+        printed = output_of(
+            [binaries / "benchmarks", f"--benchmark_filter=^{case}/{size}$",
+             "--benchmark_min_time=0.02", "--benchmark_repetitions=8", "--benchmark_format=csv"],
+            env=environment)
+        rows = [line for line in (printed or "").splitlines()
+                if line.startswith(f'"{case}/{size}"')]
+        if rows:
+            figures[case, size] = min(float(row[3]) for row in csv.reader(rows))
+    figures["file", size] = manifest.stat().st_size
+    memory = output_of([binaries / "load_memory", manifest], env=environment)
+    for name, value in zip(("heap", "resident", "models"), (memory or "").split()):
+        figures[name, size] = int(value)
 
 
 def measure_program(binaries, samples, figures):
@@ -192,7 +192,8 @@ def measure_editor(binaries, figures):
 
 def measure(binaries, samples):
     figures = {}
-    measure_cases(binaries, samples, figures)
+    for size in SIZES:
+        measure_size(binaries, samples.folder, size, CASES, figures)
     measure_program(binaries, samples, figures)
     if (binaries / "editor").exists():
         measure_editor(binaries, figures)
