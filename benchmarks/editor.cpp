@@ -116,6 +116,29 @@ int main(int argc, char **argv) {
         removeFirst);
     undo();
 
+    // A text of each behavior, as replacing all or filling in translations does.
+    Zel::PackageModel::Edits changes;
+    for (int i = 0; i < count; ++i)
+        changes.push_back({Edit::Action::Set,
+                           Tano::FieldPath()
+                               .field("behaviors")
+                               .entry(SamplePackage::path(i))
+                               .field("names")
+                               .key("fr_FR"),
+                           QStringLiteral("x")});
+    const auto changeAll = [&] {
+        document.edit(changes);
+        QCoreApplication::processEvents();
+    };
+    const auto undoAll = [&] {
+        undo();
+        QCoreApplication::processEvents();
+    };
+    watch.measure("editorChangeAll", 3, changeAll, undoAll);
+    changeAll();
+    watch.measure("editorUndoAll", 3, undoAll, changeAll);
+    undoAll();
+
     auto *panel = window.findChild<Editor::FindPanel *>();
     panel->parentWidget()->show();
     panel->start();
