@@ -113,6 +113,7 @@ private Q_SLOTS:
     void switchNamesTheBehavior();
     void permissionsUndoBlindly();
     void listsByHand();
+    void listStepsThatFail();
     void selectorsOutsideTheTable();
 
 private:
@@ -413,10 +414,31 @@ void TestCommands::listsByHand() {
     QCOMPARE(command->add(text("y"), -1), 2);
     QCOMPARE(command->add(text("y"), 0), -1);
     QCOMPARE(command->add(text("z"), 1), 1);
+    taken();
+    QCOMPARE(command->add(text("w"), 4), 4);
+    QCOMPARE(taken(), lines(R"(b.tagAdded("w", fr_FR))"));
     command->redo();
     taken();
     command->undo();
-    QCOMPARE(taken(), lines("b.tagRemoved(4, fr_FR)"));
+    QCOMPARE(taken(), lines("b.tagRemoved(5, fr_FR)"));
+}
+
+// Removing an item outside the list, or adding one that it has, changes nothing; neither does
+// undoing that.
+void TestCommands::listStepsThatFail() {
+    for (const Commands::CommandClass &each : commandClasses()) {
+        if (!text(each.name).contains(QRegularExpression(text("AddRemove[TLC]"))))
+            continue;
+        for (const auto &[isAdd, index] : {std::pair(false, -1), {false, 3}, {true, 0}}) {
+            m_arguments.isAdd = isAdd;
+            m_arguments.index = index;
+            m_arguments.value = {text("b")};
+            const auto command = made(text(each.name), m_arguments);
+            command->redo();
+            command->undo();
+            QCOMPARE(taken(), QStringList());
+        }
+    }
 }
 
 void TestCommands::selectorsOutsideTheTable() {

@@ -8,7 +8,6 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
 
-#include <QSet>
 #include <QTest>
 #include <QUndoStack>
 
@@ -16,28 +15,6 @@ using namespace Zel;
 using namespace Zel::PackageModel;
 using namespace EditScript;
 using Tano::FieldPath;
-
-namespace {
-
-// The differences between the caches of a package and those of a new one with the same record.
-QByteArray cacheDifference(const PackageInfoModel &package) {
-    const PackageInfoModel fresh(package.packageInfo());
-    const auto lines = [](const PackageInfoModel &of) {
-        const QStringList all = QString::fromUtf8(listing(of)).split(u'\n');
-        return QSet<QString>(all.begin(), all.end());
-    };
-    const QSet<QString> live = lines(package);
-    const QSet<QString> made = lines(fresh);
-    // A new model uses every supported language for descriptions.
-    QStringList differing = ((live - made) + (made - live)).values();
-    for (const RobotLanguage &language : package.supportedLanguages())
-        differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language: "
-                                           "Description language “%2”")
-                                .arg(language.isoCode(), language.uiName()));
-    return differing.join(u'\n').toUtf8();
-}
-
-} // namespace
 
 class TestPackageEdits : public QObject {
     Q_OBJECT
