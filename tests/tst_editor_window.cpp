@@ -165,22 +165,13 @@ private Q_SLOTS:
         QCOMPARE(line->text(), QStringLiteral("lock"));
     }
 
-    void hintsAreVisible_data() {
-        QTest::addColumn<QPalette>("palette");
-        QTest::newRow("light") << QPalette();
-        QTest::newRow("dark") << QPalette(QColor(0x20, 0x20, 0x20));
-    }
-    void hintsAreVisible() {
-        QFETCH(QPalette, palette);
-        HintLabel hint(QStringLiteral("\u2588"));
-        QApplication::setPalette(palette);
-        hint.show();
-        QVERIFY(contrast(hint) > 4.5);
-    }
-
-    void checkBoxesAreVisibleInTheDark() {
-        QApplication::setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
-        QCheckBox box;
+    void hintsAndCheckBoxesAreVisible() {
+        for (const QPalette &palette : {QPalette(), QPalette(QColor(0x20, 0x20, 0x20))}) {
+            QApplication::setPalette(palette);
+            HintLabel hint(QStringLiteral("\u2588"));
+            QVERIFY(contrast(hint) > 4.5);
+        }
+        QCheckBox box; // in the dark
         QVERIFY(contrast(box) > 3);
     }
 
