@@ -302,11 +302,6 @@ private Q_SLOTS:
             drop(target, fileName);
             QCOMPARE(m_window->document().fileName(), fileName);
         }
-        const QString opened = m_window->document().fileName();
-        drop(m_window->findChild<IconButton *>(),
-             QStringLiteral(ZEL_SOURCE_DIR "/examples/packages/ten-languages/icon.png"));
-        QCOMPARE(m_window->document().fileName(), opened);
-        QCOMPARE(stack()->count(), 1);
     }
 
     void remembersTheWindow() {

@@ -108,8 +108,6 @@ private Q_SLOTS:
     void argumentsInTheModel_data();
     void argumentsInTheModel();
     void contentIsASlice();
-    void validatorGoesInAnyNotification_data();
-    void validatorGoesInAnyNotification();
     void validatorWithoutPackage();
     void removedChildrenStayRemoved();
     void commandsOfTwoPackages();
@@ -250,41 +248,6 @@ void TestLifetimes::contentIsASlice() {
     const Observer observer(package, [&](auto &&...) { content.fill('x'); });
     QVERIFY(package.loadFromManifestContent(content));
     QCOMPARE(package.saveToManifestContent(), m_manifest);
-}
-
-using Check = std::function<void(PackageInfoModel &, PackageInfoValidator &)>;
-Q_DECLARE_METATYPE(Check)
-
-void TestLifetimes::validatorGoesInAnyNotification_data() {
-    QTest::addColumn<Check>("check");
-    const auto row = [](const char *name, Check check) { QTest::newRow(name) << check; };
-    row("activated", [](auto &, auto &validator) { validator.activate(); });
-    row("all", [](auto &, auto &validator) { validator.validateAll(); });
-    row("UID", [](auto &, auto &validator) { validator.validateUID(); });
-    row("behaviors", [](auto &, auto &validator) { validator.validateBehaviorTriggerSentences(); });
-    row("language added", [](auto &package, auto &validator) {
-        validator.activate();
-        package.addSupportedLanguage(language("ja_JP"));
-    });
-}
-
-void TestLifetimes::validatorGoesInAnyNotification() {
-    QFETCH(Check, check);
-    bool isDeleted = true;
-    for (int number = 0; isDeleted; ++number) {
-        PackageInfoModel package(fullRecord());
-        auto *validator = new PackageInfoValidator(&package);
-        const QPointer<PackageInfoValidator> living(validator);
-        int left = number;
-        const Observer observer(*validator, [&](auto &&...) {
-            if (left-- == 0)
-                delete validator;
-        });
-        check(package, *validator);
-        isDeleted = !living;
-        delete living.data();
-        QVERIFY(number != 0 || isDeleted);
-    }
 }
 
 void TestLifetimes::validatorWithoutPackage() {

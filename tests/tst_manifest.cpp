@@ -464,22 +464,15 @@ private Q_SLOTS:
     }
 
     void unreadableFilesAreExplained() {
-        QTemporaryDir dir;
-        const QString large = dir.filePath(QStringLiteral("large.xml"));
-        QVERIFY(QFile(large).open(QIODevice::WriteOnly));
-        QVERIFY(QFile::resize(large, qint64(3) << 30)); // sparse, needs no disk space
-        const QString missing = QStringLiteral("/no/such/manifest.xml");
         for (const auto &[path, reason] :
-             {std::pair(missing, "opened: No such file or directory"),
-              std::pair(dir.path(), "opened: Is a directory"),
-              std::pair(QStringLiteral("/dev/zero"), "read: it is a device"),
-              std::pair(large, "read: it is larger than 1 GiB")}) {
-            QFile file(path);
+             {std::pair("/no/such/manifest.xml", "opened: No such file or directory"),
+              std::pair("/dev/zero", "read: it is a device")}) {
+            QFile file(QLatin1String{path});
             PackageInfo package;
             QVERIFY(!package.loadFromManifestFile(file));
-            QCOMPARE(
-                QString::fromStdString(package.errorString()),
-                QStringLiteral("The file \"%1\" cannot be %2.").arg(path, QLatin1String(reason)));
+            QCOMPARE(QString::fromStdString(package.errorString()),
+                     QStringLiteral("The file \"%1\" cannot be %2.")
+                         .arg(QLatin1String(path), QLatin1String(reason)));
         }
     }
 };
