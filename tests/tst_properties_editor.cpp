@@ -378,16 +378,11 @@ private Q_SLOTS:
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         const QByteArray before = manifest();
         m_window->showPage(4);
-        field("&Topic:")->setFocus();
-        replaceText(QStringLiteral("talk"));
         auto *topics = view<QTableView>("Topic files");
-        topics->setFocus();
-        topics->setCurrentIndex(topics->model()->index(1, 1));
-        press(Qt::Key_F2);
-        replaceText(QStringLiteral("talk.top"));
-        press(Qt::Key_Return);
+        const QModelIndex topic = topics->model()->index(1, 1);
+        topics->setCurrentIndex(topic);
         QTest::mouseClick(button("Remove Fi&le"), Qt::LeftButton);
-        QVERIFY(!manifest().contains("talk.top"));
+        QVERIFY(topic.data().toString().isEmpty());
 
         m_window->showPage(5);
         auto *services = view<QTableView>("Services");
@@ -395,7 +390,7 @@ private Q_SLOTS:
         services->setCurrentIndex(services->model()->index(2, 2));
         press(Qt::Key_Space);
         QVERIFY(m_window->document().package()->services().at(2)->isAutoRun());
-        QCOMPARE(stack()->count(), 4);
+        QCOMPARE(stack()->count(), 2);
         // Undo works from the history view as well as by keyboard.
         auto *history = m_window->findChild<QUndoView *>();
         QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
