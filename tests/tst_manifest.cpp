@@ -245,15 +245,6 @@ private Q_SLOTS:
         QCOMPARE(loaded(saved).saveToManifestContent(), saved);
     }
 
-    void emptyTextsAreNoTexts() {
-        PackageInfo package = loaded(inPackage(""));
-        const std::string before = package.saveToManifestContent();
-        package.setName("x", "fr_FR");
-        QVERIFY(package.saveToManifestContent() != before);
-        package.setName("", "fr_FR");
-        QCOMPARE(package.saveToManifestContent(), before);
-    }
-
     void whatXmlCannotHoldIsNotSaved_data() {
         QTest::addColumn<std::string>("text");
         QTest::addColumn<QString>("reason");
@@ -318,17 +309,6 @@ private Q_SLOTS:
 
         COMPARE_WITH_GOLDEN(pathOf("edited/kept.edited.xml"),
                             QByteArray::fromStdString(package.saveToManifestContent()));
-    }
-
-    void equalityMindsWhatIsKept() {
-        const std::string plain = inPackage("<behavior path=\"b\"/><dialog topicName=\"d\"/>");
-        for (const char *content :
-             {"<!--c--><behavior path=\"b\"/><dialog topicName=\"d\"/>",
-              "<behavior path=\"b\" x=\"\"/><dialog topicName=\"d\"/>",
-              "<behavior path=\"b\"/><dialog topicName=\"d\"><x/></dialog>"}) {
-            QVERIFY(loaded(plain) != loaded(inPackage(content)));
-            QCOMPARE(loaded(inPackage(content)), loaded(inPackage(content)));
-        }
     }
 
     // Each line of the file is the position of a field, "2:3 author".
