@@ -355,22 +355,6 @@ private Q_SLOTS:
         }
     }
 
-    void unknownNodesAreListed() {
-        ManifestReader reader(ManifestReader::Positions::Keep);
-        PackageInfo package;
-        QVERIFY(reader.readContent(testData("unknown.xml").toStdString(), package));
-        QByteArray nodes;
-        for (const Tano::UnknownNode &node : reader.unknownNodes()) {
-            const bool isElement = node.kind == Tano::UnknownNode::Kind::Element;
-            nodes += QByteArray::number(qulonglong(node.position.line)) + ':' +
-                     QByteArray::number(qulonglong(node.position.column)) +
-                     (isElement ? " <" : " @") + QByteArray::fromStdString(node.name) + " in " +
-                     QByteArray::fromStdString(node.parent + ' ' + node.parentPath.toString()) +
-                     '\n';
-        }
-        COMPARE_WITH_GOLDEN(pathOf("unknown.txt"), nodes);
-    }
-
     // Saves a behavior below another root element than the one that declares its prefixes.
     void prefixesFollowTheirRecords() {
         const auto package = [](const char *declaration, const char *content) {
