@@ -26,10 +26,14 @@
 using namespace Zel;
 
 // Registers a case for each size.
-#define MEASURE(function)                                                                          \
-    BENCHMARK(function)->RangeMultiplier(10)->Range(10, 10000)->Unit(benchmark::kMicrosecond)
+#define MEASURE(function) BENCHMARK(function)->Apply(addSizes)->Unit(benchmark::kMicrosecond)
 
 namespace {
+
+void addSizes(benchmark::internal::Benchmark *measured) {
+    for (int size = 10; size <= 100000; size *= 10)
+        measured->Arg(size)->Arg(3 * size);
+}
 
 [[noreturn]] void giveUp(const std::string &reason) {
     std::cerr << "benchmarks: " << reason << '\n';

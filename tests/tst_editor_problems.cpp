@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QProcess>
+#include <QStatusBar>
 #include <QToolButton>
 
 using Editor::ProblemsModel;
@@ -110,6 +111,17 @@ private Q_SLOTS:
         stack()->undo();
         QCOMPARE(manifest(), before);
         QCOMPARE(problemCount(), m_count);
+    }
+
+    void canBeFixedBesideTheStartPage() {
+        showWindow();
+        m_window->showStartPage();
+        m_window->findChild<QWidget *>(QStringLiteral("problems"))->show();
+        problems()->setCurrentIndex(problems()->model()->index(0, 0));
+        QTest::mouseClick(button("Ignore"), Qt::LeftButton);
+        QCOMPARE(stack()->count(), 1);
+        QVERIFY(m_window->isWindowModified());
+        QVERIFY(m_window->statusBar()->isVisible());
     }
 
 private:

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void lookingUpWhileChangesWait();
     void lookingUpAfterManyInsertions();
     void outlivingThePackage();
+    void packagesFollowTheirBehaviors_data();
+    void packagesFollowTheirBehaviors();
     void receiversMayEdit();
     void removalsAreAnnouncedOnce_data();
     void removalsAreAnnouncedOnce();
@@ -132,6 +134,39 @@ void TestPackageChildren::outlivingThePackage() {
     second.addBehavior(child);
     child->setPath(text("b"));
     QCOMPARE(second.packageInfo().behaviors().at(0), child->toBehaviorInfo());
+}
+
+void TestPackageChildren::packagesFollowTheirBehaviors_data() {
+    QTest::addColumn<bool>("isGiven"); // instead of made by the package
+    QTest::addColumn<QStringList>("beforeAndAfter");
+    QTest::newRow("made") << false << QStringList{text("new"), text("new")};
+    QTest::newRow("given") << true << QStringList{text("old"), text("new")};
+}
+
+// A package is notified in the order of connection: after the receivers that a behavior had when it
+// was added, and before the later ones.
+void TestPackageChildren::packagesFollowTheirBehaviors() {
+    QFETCH(bool, isGiven);
+    PackageInfoModel model;
+    QStringList seen;
+    const auto look = [&] { seen += recorded(model); };
+    auto *child = new BehaviorInfoModel(behavior("old"), nullptr);
+    if (isGiven) {
+        connect(child, &BehaviorInfoModel::pathUpdated, this, look);
+        model.addBehavior(child);
+    } else {
+        model.addBehavior(child->toBehaviorInfo());
+        delete std::exchange(child, model.behaviors().at(0));
+        connect(child, &BehaviorInfoModel::pathUpdated, this, look);
+    }
+    connect(child, &BehaviorInfoModel::pathUpdated, this, look);
+    child->setPath(text("new"));
+    QTEST(seen, "beforeAndAfter");
+
+    child->insertTag(text("t"), m_french, 0);
+    QVERIFY(model.packageInfo().behaviors().front().languagesToTags().empty());
+    Q_EMIT child->categoryAdded({});
+    QCOMPARE(model.packageInfo().behaviors().front().languagesToTags().size(), 1U);
 }
 
 void TestPackageChildren::receiversMayEdit() {

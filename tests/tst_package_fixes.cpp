@@ -154,6 +154,32 @@ private Q_SLOTS:
         QVERIFY(tracker.issues().isEmpty());
     }
 
+    // Those of some fields are the same as when all are checked.
+    void issuesAtPaths_data() { manifests_data(); }
+
+    void issuesAtPaths() {
+        QFETCH(QString, file);
+        QFile manifest(file);
+        Tano::PackageInfo record;
+        QVERIFY(record.loadFromManifestFile(manifest));
+        const PackageInfoModel package(record);
+        const auto all = issues(&package);
+        IssueOptions some;
+        for (int i = 0; i < all.size(); i += 3)
+            some.paths.insert(all.at(i).path);
+        some.paths.insert(text("author"));
+        QVector<Issue> expected;
+        std::copy_if(all.begin(), all.end(), std::back_inserter(expected),
+                     [&](const Issue &issue) { return some.paths.contains(issue.path); });
+        QCOMPARE(listing(issues(&package, some)), listing(expected));
+        QCOMPARE(IssueTracker(&package, some).issues().size(), expected.size());
+        int visited = 0;
+        some.withFixes = false;
+        visitIssues(
+            record, [&](const Issue &) { return ++visited, IssueVisit::Continue; }, some);
+        QCOMPARE(visited, int(expected.size()));
+    }
+
     // Each issue on its own, and all of them in turn.
     void ignoredIssues_data() { manifests_data(); }
 

@@ -57,8 +57,11 @@ MainWindow::MainWindow(QWidget *parent)
     addStatus();
     resize(1100, 780);
 
-    connect(m_document.undoStack(), &QUndoStack::cleanChanged, this,
-            [this](bool isClean) { setWindowModified(!isClean); });
+    connect(m_document.undoStack(), &QUndoStack::cleanChanged, this, [this](bool isClean) {
+        if (!isClean)
+            leaveStartPage(); // a problem can be fixed in a dock beside it
+        setWindowModified(!isClean);
+    });
     connect(&m_document, &Document::fileNameChanged, this, &MainWindow::refreshTitle);
     connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
         PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();

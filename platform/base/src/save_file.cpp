@@ -5,7 +5,6 @@
 #include "file_save.h"
 #include "file_writing.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 
 #include <algorithm>
@@ -16,8 +15,6 @@
 
 namespace Tano {
 namespace {
-
-constexpr std::size_t hashedPiece = std::size_t(1) << 20;
 
 std::string sentence(const std::string &path, const std::string &reason) {
     return "The file \"" + path + "\" cannot be saved: " + reason + '.';
@@ -68,27 +65,6 @@ bool appends(const QFile &file) {
 }
 
 } // namespace
-
-FileFingerprint FileFingerprint::ofContent(const std::string &content) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (std::size_t at = 0; at < content.size(); at += hashedPiece)
-        hash.addData(QByteArray::fromRawData(content.data() + at,
-                                             int(std::min(hashedPiece, content.size() - at))));
-    return {std::int64_t(content.size()), hash.result().toStdString()};
-}
-
-FileFingerprint FileFingerprint::ofFile(const std::string &path) {
-    const std::string name = nativeName(path);
-    struct stat status = {};
-    if (::stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) // a pipe would block open()
-        return {};
-    const FileDescriptor opened(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
-    QFile file;
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!opened || !file.open(opened.number(), QIODevice::ReadOnly) || !hash.addData(&file))
-        return {};
-    return {file.pos(), hash.result().toStdString()};
-}
 
 SaveResult saveFile(const FileToSave &file) {
     return saveFiles({file});

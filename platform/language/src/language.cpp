@@ -33,6 +33,10 @@ RobotLanguages builtInLanguages() {
     return LanguageTable::instance().builtInLanguages();
 }
 
+QStringList builtInCodes() {
+    return LanguageTable::instance().builtInCodes();
+}
+
 void addPartialLanguage(const RobotLanguage &language) {
     LanguageTable::instance().add(language);
 }

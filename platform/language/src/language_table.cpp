@@ -8,6 +8,7 @@
 #include <QStringBuilder>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zel {
 namespace {
@@ -23,7 +24,7 @@ QString territoryName(const QLocale &locale) {
 }
 
 /// A row only has the texts that Qt's locale data lack or that vary between Qt versions.
-RobotLanguage languageOf(const QJsonObject &row) {
+RobotLanguage makeLanguage(const QJsonObject &row) {
     const auto text = [&row](const char *key, const QString &fallback = {}) {
         return row.value(QLatin1String(key)).toString(fallback);
     };
@@ -42,19 +43,22 @@ RobotLanguage languageOf(const QJsonObject &row) {
             SoftwareVersionUtils::fromString(text("version"))};
 }
 
-RobotLanguages readLanguages() {
+using Row = std::pair<QString, QJsonObject>; // with the code
+
+std::vector<Row> readRows() {
     QFile file(QStringLiteral(":/zel/language/languages.json"));
     const bool isOpen = file.open(QIODevice::ReadOnly);
     Q_ASSERT(isOpen);
     Q_UNUSED(isOpen)
-    const auto rows = QJsonDocument::fromJson(file.readAll()).object();
-
-    RobotLanguages languages;
-    for (const auto &row : rows.value(QLatin1String("languages")).toArray())
-        languages.push_back(languageOf(row.toObject()));
-    std::sort(languages.begin(), languages.end(),
-              [](const auto &a, const auto &b) { return a.isoCode() < b.isoCode(); });
-    return languages;
+    std::vector<Row> rows;
+    const auto content = QJsonDocument::fromJson(file.readAll()).object();
+    for (const auto &value : content.value(QLatin1String("languages")).toArray()) {
+        const QJsonObject row = value.toObject();
+        rows.emplace_back(row.value(QLatin1String("isoCode")).toString(), row);
+    }
+    std::sort(rows.begin(), rows.end(),
+              [](const Row &a, const Row &b) { return a.first < b.first; });
+    return rows;
 }
 
 } // namespace
@@ -64,35 +68,43 @@ LanguageTable &LanguageTable::instance() {
     return table;
 }
 
+// Most programs use few of the languages, and Qt's locale data are slow to read.
 LanguageTable::LanguageTable() {
-    for (const RobotLanguage &language : readLanguages())
-        add(language);
+    for (const auto &[code, row] : readRows())
+        append({code, {}, false, row});
     m_builtIn = m_entries.size();
     m_forgetAt = m_builtIn + leastGrowth;
     m_default = find(QStringLiteral("en_US"));
 }
 
-RobotLanguages LanguageTable::builtInLanguages() const {
+RobotLanguages LanguageTable::builtInLanguages() {
     RobotLanguages languages;
     for (std::size_t i = 0; i < m_builtIn; ++i)
-        languages.push_back(m_entries[i].language);
+        languages.push_back(languageOf(m_entries[i]));
     return languages;
 }
 
-RobotLanguages LanguageTable::languages() const {
+QStringList LanguageTable::builtInCodes() const {
+    QStringList codes;
+    for (std::size_t i = 0; i < m_builtIn; ++i)
+        codes += m_entries[i].code;
+    return codes;
+}
+
+RobotLanguages LanguageTable::languages() {
     RobotLanguages languages;
-    for (const Entry &entry : m_entries) {
+    for (Entry &entry : m_entries) {
         if (entry.isKnown())
-            languages.push_back(entry.language);
+            languages.push_back(languageOf(entry));
     }
     return languages;
 }
 
-RobotLanguage LanguageTable::find(const QString &isoCode) const {
+RobotLanguage LanguageTable::find(const QString &isoCode) {
     const auto found = m_indexes.constFind(isoCode);
     if (found == m_indexes.constEnd() || !m_entries[*found].isKnown())
         return {};
-    return m_entries[*found].language;
+    return languageOf(m_entries[*found]);
 }
 
 void LanguageTable::add(const RobotLanguage &language) {
@@ -100,7 +112,7 @@ void LanguageTable::add(const RobotLanguage &language) {
         return;
     const auto found = m_indexes.constFind(language.isoCode());
     if (found == m_indexes.constEnd()) {
-        append(language, false);
+        append({language.isoCode(), language});
         return;
     }
     Entry &entry = m_entries[*found];
@@ -114,16 +126,22 @@ RobotLanguage LanguageTable::findOrLend(const QString &isoCode) {
         return {};
     const auto found = m_indexes.constFind(isoCode);
     if (found != m_indexes.constEnd())
-        return m_entries[*found].language;
+        return languageOf(m_entries[*found]);
     if (m_entries.size() >= m_forgetAt)
         forgetUnused();
-    append({ISOCode(isoCode), NuanceCode()}, true);
+    append({isoCode, {ISOCode(isoCode), NuanceCode()}, true});
     return m_entries.back().language;
 }
 
-void LanguageTable::append(const RobotLanguage &language, bool isLent) {
-    m_indexes.insert(language.isoCode(), m_entries.size());
-    m_entries.push_back({language, isLent});
+const RobotLanguage &LanguageTable::languageOf(Entry &entry) {
+    if (!entry.row.isEmpty())
+        entry.language = makeLanguage(std::exchange(entry.row, {}));
+    return entry.language;
+}
+
+void LanguageTable::append(Entry entry) {
+    m_indexes.insert(entry.code, m_entries.size());
+    m_entries.push_back(std::move(entry));
 }
 
 // Waits until the table has doubled, which keeps the amortized cost per registration constant.
@@ -132,7 +150,7 @@ void LanguageTable::forgetUnused() {
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isUnknown), m_entries.end());
     m_indexes.clear();
     for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_indexes.insert(m_entries[i].language.isoCode(), i);
+        m_indexes.insert(m_entries[i].code, i);
     m_forgetAt = 2 * m_entries.size() + leastGrowth;
 }
 

@@ -3,6 +3,7 @@
 #include "zel/robot_language.h"
 
 #include <QHash>
+#include <QJsonObject>
 
 #include <vector>
 
@@ -16,13 +17,14 @@ public:
     static LanguageTable &instance();
 
     /// In the order of knownLanguages().
-    RobotLanguages languages() const;
+    RobotLanguages languages();
 
     /// The built-in languages, ordered by code.
-    RobotLanguages builtInLanguages() const;
+    RobotLanguages builtInLanguages();
+    QStringList builtInCodes() const;
 
     /// The language with this code, or one with an empty code.
-    RobotLanguage find(const QString &isoCode) const;
+    RobotLanguage find(const QString &isoCode);
 
     /// Registers the language permanently. Ignores an empty code and codes that are already known.
     void add(const RobotLanguage &language);
@@ -36,15 +38,18 @@ public:
 
 private:
     struct Entry {
-        RobotLanguage language;
-        bool isLent = false; // known only while its descriptor has other copies
+        QString code;
+        RobotLanguage language = {};
+        bool isLent = false;  // known only while its descriptor has other copies
+        QJsonObject row = {}; // of a built-in language that was not used yet
 
         bool isKnown() const { return !isLent || language.hasCopies(); }
     };
 
     LanguageTable();
 
-    void append(const RobotLanguage &language, bool isLent);
+    static const RobotLanguage &languageOf(Entry &entry);
+    void append(Entry entry);
     void forgetUnused();
 
     std::vector<Entry> m_entries; // in order of registration

@@ -248,7 +248,7 @@ void ManifestParser::end() {
 // Called between the children of the root element. expat compares the name in its end tag with the
 // bytes of its start tag, so those stay.
 void ManifestParser::releaseBytes() {
-    constexpr std::uint64_t step = std::uint64_t(128) << 10;
+    constexpr std::uint64_t step = std::uint64_t(64) << 10;
     const std::uint64_t parsed = eventOffset();
     const std::uint64_t from = std::max({m_released, m_fed, m_rootEnd});
     if (parsed < from + step)

@@ -13,6 +13,9 @@
 namespace Tano {
 namespace {
 
+// The size of a longer list is estimated from this many entries, to copy less while it grows.
+constexpr int sampledEntries = 64;
+
 const std::string noKey;
 
 // An element being written: its position and its kept content.
@@ -133,7 +136,6 @@ Keys merged(Keys keys) {
 
 WrittenManifest Writer::package(const PackageData &package) {
     m_package = &package;
-    m_out.reserve(4096 + package.behaviors.size() * 2048);
     m_out = R"(<?xml version="1.0" encoding="UTF-8"?>)";
     const Extras *extras = package.extras.get();
     outside(extras, Element::Prolog);
@@ -243,7 +245,10 @@ void Writer::codes(const Node &parent, ExtrasWalk &walk, Element kind,
 template<typename Entry>
 void Writer::entries(const Node &parent, ExtrasWalk &walk, Element kind,
                      const std::vector<Entry> &entries) {
+    const std::size_t start = m_out.size();
     for (int i = 0; i < int(entries.size()); ++i) {
+        if (i == sampledEntries)
+            m_out.reserve(start + (m_out.size() - start) / sampledEntries * entries.size() / 8 * 9);
         const auto &data = dataOf(entries[std::size_t(i)]);
         using Data = std::decay_t<decltype(data)>;
         before(walk, kind, noKey, i);

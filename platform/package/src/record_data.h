@@ -17,9 +17,13 @@ namespace Tano {
 /// Moves the element at `from` so that its new index is `to`.
 template<typename Element>
 void moveWithin(std::vector<Element> &list, int from, int to) {
-    const auto first = list.begin() + std::min(from, to);
-    const auto last = list.begin() + std::max(from, to) + 1;
-    std::rotate(first, from < to ? first + 1 : last - 1, last);
+    Element moved = std::move(list[std::size_t(from)]);
+    const auto begin = list.begin();
+    if (from < to)
+        std::move(begin + from + 1, begin + to + 1, begin + from);
+    else
+        std::move_backward(begin + to, begin + from, begin + from + 1);
+    list[std::size_t(to)] = std::move(moved);
 }
 
 /// A list of distinct texts in insertion order. Removals from a long list are deferred until it is

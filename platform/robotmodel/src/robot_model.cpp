@@ -10,6 +10,8 @@
 #include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
+
 namespace Zel::RobotModel {
 namespace {
 
@@ -37,7 +39,12 @@ private:
 };
 
 QFileInfoList filesIn(const QString &directory) {
-    return QDir(directory).entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    QFileInfoList files = QDir(directory).entryInfoList(QDir::Files, QDir::Name);
+    const auto isOther = [](const QFileInfo &file) {
+        return file.suffix().compare(QLatin1String("json"), Qt::CaseInsensitive) != 0;
+    };
+    files.erase(std::remove_if(files.begin(), files.end(), isOther), files.end());
+    return files;
 }
 
 std::vector<std::string> dataDirectories() {

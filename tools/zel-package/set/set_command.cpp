@@ -15,7 +15,6 @@
 
 #include <tano/save_file.h>
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -135,14 +134,12 @@ private:
 // The findings in the edited fields of a package.
 QVector<FileEdit::Finding> FileEdit::findingsOn(const Zel::PackageInfoModel &package) const {
     using namespace Zel::PackageModel;
-    constexpr int mostOfARule = 10000;
-    QHash<QString, int> counts;
+    IssueOptions options;
+    options.paths = m_edited;
+    options.withFixes = false;
     QVector<Finding> found;
-    visitIssues(&package, [&](const Issue &issue) {
-        if (m_edited.contains(issue.path))
-            found.append({issue.path, issue.plainText()});
-        return ++counts[issue.id] < mostOfARule ? IssueVisit::Continue : IssueVisit::SkipRule;
-    });
+    for (const Issue &issue : issues(&package, options))
+        found.append({issue.path, issue.plainText()});
     return found;
 }
 

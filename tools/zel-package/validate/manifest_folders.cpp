@@ -24,7 +24,7 @@ void collect(const fs::path &folder, const Report &report, QStringList &files) {
     for (auto entry = fs::directory_iterator(folder, error);
          !error && entry != fs::directory_iterator(); entry.increment(error)) {
         std::error_code ignored; // the entry may be gone
-        if (fs::is_directory(entry->symlink_status(ignored)))
+        if (!entry->is_symlink(ignored) && entry->is_directory(ignored))
             collect(entry->path(), report, files);
         else if (entry->path().filename() == "manifest.xml" && !entry->is_directory(ignored))
             files += textOf(entry->path());

@@ -177,6 +177,8 @@ namespace {
 // The rules of comments that were not used and the ones that do not exist. They have no position;
 // their field is the one that follows the comment.
 std::vector<ManifestFinding> findingsOf(const IgnoreComments &comments) {
+    if (comments.entries().empty())
+        return {};
     const QStringList known = changeableRuleIds();
     std::vector<ManifestFinding> findings;
     for (const IgnoreComments::Entry &entry : comments.entries()) {

@@ -17,7 +17,7 @@ namespace Tano {
 /// fingerprint, while an edit that keeps size and time does.
 struct TANO_BASE_EXPORT FileFingerprint {
     std::int64_t size = -1; ///< in bytes; -1 for no file
-    std::string digest;     ///< SHA-256, 32 bytes
+    std::string digest;     ///< XXH3 with 128 bits: 16 bytes, the most significant first
 
     /// The fingerprint of a file with this content.
     static FileFingerprint ofContent(const std::string &content);

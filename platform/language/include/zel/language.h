@@ -27,6 +27,9 @@ ZEL_LANGUAGE_EXPORT RobotLanguages knownLanguages();
 /// The languages of the built-in table, in ascending order of their codes.
 ZEL_LANGUAGE_EXPORT RobotLanguages builtInLanguages();
 
+/// The codes of builtInLanguages(), whose other texts take longer to look up.
+ZEL_LANGUAGE_EXPORT QStringList builtInCodes();
+
 /// Registers a descriptor permanently, so that later lookups of its code find it. Empty and known
 /// codes are ignored.
 ZEL_LANGUAGE_EXPORT void addPartialLanguage(const RobotLanguage &language);

@@ -193,7 +193,7 @@ void BehaviorInfoModel::setPath(const QString &newPath) {
         return;
     const QString path = copyOf(newPath);
     m_data->editKey().setPath(toUtf8(path));
-    Q_EMIT pathUpdated(path);
+    m_data->announce(&BehaviorInfoModel::pathUpdated, path);
 }
 
 void BehaviorInfoModel::setNature(const QString &newNature) {
@@ -201,30 +201,30 @@ void BehaviorInfoModel::setNature(const QString &newNature) {
         return;
     const QString nature = copyOf(newNature);
     m_data->edit().setNature(toUtf8(nature));
-    Q_EMIT natureUpdated(nature);
+    m_data->announce(&BehaviorInfoModel::natureUpdated, nature);
 }
 
 void BehaviorInfoModel::setName(const QString &name, const RobotLanguage &lang) {
-    setText(this, *m_data, Data::nameField, name, lang);
+    setText(*m_data, Data::nameField, name, lang);
 }
 
 void BehaviorInfoModel::setDescription(const QString &desc, const RobotLanguage &lang) {
-    setText(this, *m_data, Data::descriptionField, desc, lang);
+    setText(*m_data, Data::descriptionField, desc, lang);
 }
 
 bool BehaviorInfoModel::removeName(const RobotLanguage &lang) {
-    return removeText(this, *m_data, Data::nameField, lang);
+    return removeText(*m_data, Data::nameField, lang);
 }
 
 bool BehaviorInfoModel::removeDescription(const RobotLanguage &lang) {
-    return removeText(this, *m_data, Data::descriptionField, lang);
+    return removeText(*m_data, Data::descriptionField, lang);
 }
 
 void BehaviorInfoModel::setUserRequestable(bool userRequestable) {
     if (isUserRequestable() == userRequestable)
         return;
     m_data->edit().setUserRequestable(userRequestable);
-    Q_EMIT userRequestableChanged(userRequestable);
+    m_data->announce(&BehaviorInfoModel::userRequestableChanged, userRequestable);
 }
 
 bool BehaviorInfoModel::addPermission(const QString &permType) {
@@ -236,7 +236,7 @@ bool BehaviorInfoModel::insertPermission(const QString &permType, int idx) {
     if (hasPermission(permission))
         return false;
     m_data->edit().insertPermission(toUtf8(permission), idx);
-    Q_EMIT permissionAdded(permission);
+    m_data->announce(&BehaviorInfoModel::permissionAdded, permission);
     return true;
 }
 
@@ -244,7 +244,7 @@ bool BehaviorInfoModel::removePermission(const QString &permType) {
     const QString permission = copyOf(permType);
     if (!hasPermission(permission) || !m_data->edit().removePermission(toUtf8(permission)))
         return false;
-    Q_EMIT permissionRemoved(permission);
+    m_data->announce(&BehaviorInfoModel::permissionRemoved, permission);
     return true;
 }
 

@@ -146,7 +146,7 @@ bool BehaviorInfoModel::Data::add(const ListKind<Key> &kind, const QString &newV
         [&](Tano::BehaviorInfo &record) { (record.*kind.add)(toUtf8(value), recordKey(key)); });
     editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).append(value); });
     noteAdded(kind, key);
-    Q_EMIT(model->*kind.added)(value, key);
+    announce(kind.added, value, key);
     return true;
 }
 
@@ -178,7 +178,7 @@ bool BehaviorInfoModel::Data::update(const ListKind<Key> &kind, int index, const
     });
     editCache<Key>(*this, kind, [&](auto &cache) { madeValue(cache, key).replace(index, value); });
     noteChanged(kind, key);
-    Q_EMIT(model->*kind.updated)(index, value, key);
+    announce(kind.updated, index, value, key);
     return true;
 }
 
@@ -196,7 +196,7 @@ bool BehaviorInfoModel::Data::remove(const ListKind<Key> &kind, int index, const
             cache.remove(key);
     });
     noteChanged(kind, key);
-    Q_EMIT(model->*kind.removed)(index, key);
+    announce(kind.removed, index, key);
     return true;
 }
 

@@ -20,7 +20,7 @@ namespace Zel {
 
 /// One kind of children: the operations on their list in the package's record, their lookup key,
 /// the package's notifications, and the child's notifications after which the record is
-/// synchronized.
+/// synchronized. `changes` are emitted by the child itself, `foreign` ones only by others.
 template<typename Child>
 struct ChildKind;
 
@@ -40,16 +40,18 @@ struct ChildKind<BehaviorInfoModel> {
     // Insertions are omitted deliberately: they wait for the next change.
     static constexpr auto changes = std::make_tuple(
         &BehaviorInfoModel::behaviorDescriptionUpdated, &BehaviorInfoModel::behaviorNameUpdated,
-        &BehaviorInfoModel::categoryAdded, &BehaviorInfoModel::categoryRemoved,
-        &BehaviorInfoModel::categoryUpdated, &BehaviorInfoModel::conditionAdded,
-        &BehaviorInfoModel::conditionRemoved, &BehaviorInfoModel::conditionUpdated,
-        &BehaviorInfoModel::loadingResponseAdded, &BehaviorInfoModel::loadingResponseRemoved,
-        &BehaviorInfoModel::loadingResponseUpdated, &BehaviorInfoModel::natureUpdated,
-        &BehaviorInfoModel::pathUpdated, &BehaviorInfoModel::permissionAdded,
-        &BehaviorInfoModel::permissionRemoved, &BehaviorInfoModel::tagAdded,
-        &BehaviorInfoModel::tagRemoved, &BehaviorInfoModel::tagUpdated,
-        &BehaviorInfoModel::triggerSentenceAdded, &BehaviorInfoModel::triggerSentenceRemoved,
-        &BehaviorInfoModel::triggerSentenceUpdated, &BehaviorInfoModel::userRequestableChanged);
+        &BehaviorInfoModel::conditionAdded, &BehaviorInfoModel::conditionRemoved,
+        &BehaviorInfoModel::conditionUpdated, &BehaviorInfoModel::loadingResponseAdded,
+        &BehaviorInfoModel::loadingResponseRemoved, &BehaviorInfoModel::loadingResponseUpdated,
+        &BehaviorInfoModel::natureUpdated, &BehaviorInfoModel::pathUpdated,
+        &BehaviorInfoModel::permissionAdded, &BehaviorInfoModel::permissionRemoved,
+        &BehaviorInfoModel::tagAdded, &BehaviorInfoModel::tagRemoved,
+        &BehaviorInfoModel::tagUpdated, &BehaviorInfoModel::triggerSentenceAdded,
+        &BehaviorInfoModel::triggerSentenceRemoved, &BehaviorInfoModel::triggerSentenceUpdated,
+        &BehaviorInfoModel::userRequestableChanged);
+    static constexpr auto foreign =
+        std::make_tuple(&BehaviorInfoModel::categoryAdded, &BehaviorInfoModel::categoryRemoved,
+                        &BehaviorInfoModel::categoryUpdated);
 };
 
 template<>
@@ -68,6 +70,7 @@ struct ChildKind<DialogInfoModel> {
     static constexpr auto changes =
         std::make_tuple(&DialogInfoModel::nameChanged, &DialogInfoModel::topicChanged,
                         &DialogInfoModel::topicRemoved, &DialogInfoModel::typeVersionChanged);
+    static constexpr auto foreign = std::make_tuple();
 };
 
 template<>
@@ -86,6 +89,7 @@ struct ChildKind<ServiceInfoModel> {
     static constexpr auto changes = std::make_tuple(
         &ServiceInfoModel::nameChanged, &ServiceInfoModel::execStartChanged,
         &ServiceInfoModel::autoRunChanged, &ServiceInfoModel::servicePropertyChanged);
+    static constexpr auto foreign = std::make_tuple();
 };
 
 /// For iterating while receivers of notifications may delete children.
@@ -151,6 +155,14 @@ public:
             m_list->replaceRecord(index, m_record);
     }
 
+    /// Emits one of the child's `changes` after the package has followed it.
+    template<typename... Parameters, typename... Arguments>
+    void announce(void (Child::*signal)(Parameters...), const Arguments &...arguments) {
+        if (m_list && m_isFollowedDirectly && !m_child->signalsBlocked())
+            m_list->resync();
+        Q_EMIT(m_child->*signal)(arguments...);
+    }
+
     /// Of the record; no other record has or will have the same, even at the same address.
     std::uint64_t revision() const { return m_revision; }
 
@@ -182,6 +194,7 @@ private:
     std::optional<typename ChildIndex<Child>::iterator> m_indexEntry;
     bool m_stale = false; // queued for the next resync
     bool m_leaving = false;
+    bool m_isFollowedDirectly = false;
 };
 
 /// Gives the lists access to the models' data.
@@ -218,19 +231,22 @@ public:
 
     void reserve(int count) { m_children.reserve(count); }
 
-    /// Appends a child that is in no list and tracks its changes.
-    void append(Child *child) {
+    /// How the package follows the changes of a child. It is notified as a receiver that connects
+    /// when the child is appended. A new child has no earlier receivers, so that it can call the
+    /// package directly instead, which saves two thirds of the time and memory of a model.
+    enum class Following { Directly, ByConnections };
+
+    /// Appends a child that is in no list and follows its changes.
+    void append(Child *child, Following following) {
         auto &data = ChildAccess::data(*child);
         data.m_list = this;
+        data.m_isFollowedDirectly = following == Following::Directly;
         data.m_label = m_children.isEmpty() ? labelGap : labelOf(*m_children.back()) + labelGap;
         m_children.append(child);
         if (m_isIndexed)
             addToIndex(child);
-        std::apply(
-            [&](auto... changes) {
-                (QObject::connect(child, changes, m_package, m_resyncSlot), ...);
-            },
-            Kind::changes);
+        forEachConnection(
+            data, [&](auto signal) { QObject::connect(child, signal, m_package, m_resyncSlot); });
     }
 
     /// Moves a child so that its new index is `to`, also in the record.
@@ -256,31 +272,29 @@ public:
     /// Allows a removed child to join another list.
     static void endLeaving(const Child &child) { ChildAccess::data(child).m_leaving = false; }
 
-    /// Removes a child from the list, stops tracking it and updates the record, without
+    /// Removes a child from the list, stops following it and updates the record, without
     /// notification.
     Child *takeAt(int index) {
         Child *child = m_children.at(index);
-        stopTracking(child);
+        stopFollowing(child);
         remove(index, ChildAccess::data(*child));
         resync();
         ChildAccess::data(*child).m_list = nullptr;
         return child;
     }
 
-    /// Stops tracking a child that leaves without being deleted. Keeps the application's
+    /// Stops following a child that leaves without being deleted. Keeps the application's
     /// connections.
-    void stopTracking(Child *child) {
-        std::apply(
-            [&](auto... changes) {
-                (QObject::disconnect(child, changes, m_package, m_resyncSlot), ...);
-            },
-            Kind::changes);
+    void stopFollowing(Child *child) {
+        forEachConnection(ChildAccess::data(*child), [&](auto signal) {
+            QObject::disconnect(child, signal, m_package, m_resyncSlot);
+        });
     }
 
     /// Empties the list permanently; the record is not changed.
     QVector<Child *> close() {
         for (Child *child : std::as_const(m_children)) {
-            stopTracking(child);
+            stopFollowing(child);
             ChildAccess::data(*child).leave();
         }
         m_isClosed = true;
@@ -426,6 +440,15 @@ private:
     static std::uint64_t labelOf(const Child &child) { return ChildAccess::data(child).m_label; }
     static bool isRecordOf(const Record &record, const Child *child) {
         return record == ChildAccess::data(*child).record();
+    }
+
+    // Calls `visit` with each signal by which the package is connected to a child.
+    template<typename Visit>
+    static void forEachConnection(const ChildData<Child> &data, Visit visit) {
+        const auto visitAll = [&](auto... signals) { (visit(signals), ...); };
+        std::apply(visitAll, Kind::foreign);
+        if (!data.m_isFollowedDirectly)
+            std::apply(visitAll, Kind::changes);
     }
 
     // Labels the child at an index between its neighbors' labels; relabels all if there is no gap.

@@ -63,7 +63,7 @@ void DialogInfoModel::setTopicName(const QString &newName) {
         return;
     const QString name = copyOf(newName);
     m_data->editKey().setTopicName(toUtf8(name));
-    Q_EMIT nameChanged(name);
+    m_data->announce(&DialogInfoModel::nameChanged, name);
 }
 
 void DialogInfoModel::setTypeVersion(const QString &newVersion) {
@@ -71,7 +71,7 @@ void DialogInfoModel::setTypeVersion(const QString &newVersion) {
         return;
     const QString version = copyOf(newVersion);
     m_data->edit().setTypeVersion(toUtf8(version));
-    Q_EMIT typeVersionChanged(version);
+    m_data->announce(&DialogInfoModel::typeVersionChanged, version);
 }
 
 void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) {
@@ -83,7 +83,7 @@ void DialogInfoModel::setTopic(const RobotLanguage &lang, const QString &topic) 
     const QString path = copyOf(topic);
     m_data->editAnnounced([&](Tano::DialogInfo &record) { record.setTopic(code, bytes); });
     madeValue(m_data->topics, language) = path;
-    Q_EMIT topicChanged(language, path);
+    m_data->announce(&DialogInfoModel::topicChanged, language, path);
 }
 
 bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
@@ -93,7 +93,7 @@ bool DialogInfoModel::removeTopic(const RobotLanguage &lang) {
         return false;
     m_data->editAnnounced([&](Tano::DialogInfo &record) { record.removeTopic(code); });
     const QPointer<DialogInfoModel> self(this);
-    Q_EMIT topicRemoved(language);
+    m_data->announce(&DialogInfoModel::topicRemoved, language);
     if (!self)
         return true;
     const bool isSetAgain = m_data->record().topics().count(code) != 0; // by a receiver

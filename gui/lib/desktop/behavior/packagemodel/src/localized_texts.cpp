@@ -18,8 +18,10 @@ RobotLanguages languagesFromCodes(const std::vector<std::string> &codes) {
 
 bool isBuiltIn(const std::string &code) {
     static const auto builtIn = [] {
-        const std::set<std::string> codes = codesOf(Language::builtInLanguages());
-        return std::unordered_set<std::string>(codes.begin(), codes.end());
+        std::unordered_set<std::string> codes;
+        for (const QString &code : Language::builtInCodes())
+            codes.insert(toUtf8(code));
+        return codes;
     }();
     return builtIn.count(code) != 0;
 }

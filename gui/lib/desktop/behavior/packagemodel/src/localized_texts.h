@@ -92,7 +92,7 @@ struct LocalizedField {
 
 /// Sets a text unless the record already has it.
 template<typename Model, typename Data, typename Record, typename Cache>
-void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
+void setText(Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
              const QString &newText, const RobotLanguage &inLanguage) {
     const std::string code = codeOf(inLanguage);
     const std::string bytes = toUtf8(newText);
@@ -103,12 +103,12 @@ void setText(Model *model, Data &data, const LocalizedField<Model, Data, Record,
     CachedTexts &cache = valuesOf(data.*field.cache);
     data.editAnnounced([&](Record &record) { (record.*field.setText)(bytes, code); });
     madeValue(cache, language) = text;
-    Q_EMIT(model->*field.updated)(text, language);
+    data.announce(field.updated, text, language);
 }
 
 /// Removes a text, announced as a change to the empty text. Returns false if there is none.
 template<typename Model, typename Data, typename Record, typename Cache>
-bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
+bool removeText(Data &data, const LocalizedField<Model, Data, Record, Cache> &field,
                 const RobotLanguage &inLanguage) {
     const RobotLanguage language = copyOf(inLanguage);
     const std::string code = codeOf(language);
@@ -117,7 +117,7 @@ bool removeText(Model *model, Data &data, const LocalizedField<Model, Data, Reco
     CachedTexts &cache = valuesOf(data.*field.cache);
     data.editAnnounced([&](Record &record) { (record.*field.removeText)(code); });
     cache.remove(language);
-    Q_EMIT(model->*field.updated)(QString(), language);
+    data.announce(field.updated, QString(), language);
     return true;
 }
 

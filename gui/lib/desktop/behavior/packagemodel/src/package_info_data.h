@@ -38,6 +38,10 @@ struct PACKAGEMODEL_NO_EXPORT PackageInfoModel::Data {
     void editAnnounced(Change change) {
         change(edit());
     }
+    template<typename... Parameters, typename... Arguments>
+    void announce(void (PackageInfoModel::*signal)(Parameters...), const Arguments &...arguments) {
+        Q_EMIT(behaviors.package()->*signal)(arguments...);
+    }
     /// Marks the record's lists as out of sync after the record was replaced.
     void setOutOfStep();
 

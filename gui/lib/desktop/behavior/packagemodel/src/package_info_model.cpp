@@ -275,11 +275,11 @@ bool PackageInfoModel::hasNameFor(const RobotLanguage &language) const {
 }
 
 void PackageInfoModel::setName(const QString &name, const RobotLanguage &language) {
-    Zel::setText(this, *m_data, Data::nameField, name, language);
+    Zel::setText(*m_data, Data::nameField, name, language);
 }
 
 bool PackageInfoModel::removeName(const RobotLanguage &language) {
-    return removeText(this, *m_data, Data::nameField, language);
+    return removeText(*m_data, Data::nameField, language);
 }
 
 void PackageInfoModel::clearNames() {
@@ -301,11 +301,11 @@ bool PackageInfoModel::hasDescriptionFor(const RobotLanguage &language) const {
 }
 
 void PackageInfoModel::setDescription(const QString &desc, const RobotLanguage &language) {
-    Zel::setText(this, *m_data, Data::descriptionField, desc, language);
+    Zel::setText(*m_data, Data::descriptionField, desc, language);
 }
 
 bool PackageInfoModel::removeDescription(const RobotLanguage &language) {
-    return removeText(this, *m_data, Data::descriptionField, language);
+    return removeText(*m_data, Data::descriptionField, language);
 }
 
 } // namespace Zel

@@ -19,13 +19,14 @@ void adopt(PackageInfoModel *package, QObject *child) {
 }
 
 // Adds a child whose parent is already the package.
-template<typename Child>
-void addOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
+template<typename Child, typename Following = typename ChildList<Child>::Following>
+void addOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child,
+            Following following = Following::Directly) {
     if (list.isClosed()) {
         delete child;
         return;
     }
-    list.append(child);
+    list.append(child, following);
     list.resync();
     Q_EMIT(package->*ChildKind<Child>::added)(child);
 }
@@ -45,11 +46,12 @@ bool move(PackageInfoModel *package, ChildList<Child> &list, int from, int to) {
 template<typename Child>
 void insertOwn(PackageInfoModel *package, ChildList<Child> &list, Child *child, int index) {
     const QPointer<PackageInfoModel> living(package);
+    const QPointer<Child> added(child);
     addOwn(package, list, child);
-    if (!living)
+    if (!living || !added || !list.contains(*added))
         return;
     const int size = static_cast<int>(list.children().size());
-    move(package, list, list.indexOf(child), std::clamp(index, 0, std::max(size - 1, 0)));
+    move(package, list, list.placeOf(*added), std::clamp(index, 0, size - 1));
 }
 
 // Releases a child from its package: updates the record and announces the removal. Returns false if
@@ -75,7 +77,7 @@ void add(PackageInfoModel *package, ChildList<Child> &list, Child *child) {
     if (!release<Child>(child, package))
         return;
     adopt(package, child);
-    addOwn(package, list, child);
+    addOwn(package, list, child, ChildList<Child>::Following::ByConnections);
 }
 
 // Announces the removal and deletes the child, unless receivers have deleted it.
@@ -167,7 +169,8 @@ void PackageInfoModel::createBehaviors(const Tano::PackageInfo &record) {
     ChildList<BehaviorInfoModel> &list = m_data->behaviors;
     list.reserve(static_cast<int>(original.behaviors().size()));
     for (const Tano::BehaviorInfo &info : original.behaviors())
-        list.append(new BehaviorInfoModel(info, this, nullptr));
+        list.append(new BehaviorInfoModel(info, this, nullptr),
+                    ChildList<BehaviorInfoModel>::Following::Directly);
     list.settle();
 }
 

@@ -56,7 +56,7 @@ void ServiceInfoModel::setAutoRun(bool value) {
     if (isAutoRun() == value)
         return;
     m_data->edit().autoRun = value;
-    Q_EMIT autoRunChanged(value);
+    m_data->announce(&ServiceInfoModel::autoRunChanged, value);
 }
 
 void ServiceInfoModel::setName(const QString &newName) {
@@ -64,7 +64,7 @@ void ServiceInfoModel::setName(const QString &newName) {
         return;
     const QString name = copyOf(newName);
     m_data->editKey().name = toUtf8(name);
-    Q_EMIT nameChanged(name);
+    m_data->announce(&ServiceInfoModel::nameChanged, name);
 }
 
 void ServiceInfoModel::setExecStart(const QString &newExecStart) {
@@ -72,7 +72,7 @@ void ServiceInfoModel::setExecStart(const QString &newExecStart) {
         return;
     const QString execStart = copyOf(newExecStart);
     m_data->edit().execStart = toUtf8(execStart);
-    Q_EMIT execStartChanged(execStart);
+    m_data->announce(&ServiceInfoModel::execStartChanged, execStart);
 }
 
 void ServiceInfoModel::setServiceProperty(const QString &property, const QString &value) {
@@ -83,7 +83,7 @@ void ServiceInfoModel::setServiceProperty(const QString &property, const QString
     if (found != properties.end() && found->second == bytes)
         return;
     m_data->edit().properties[name] = bytes;
-    Q_EMIT servicePropertyChanged(fromUtf8(name));
+    m_data->announce(&ServiceInfoModel::servicePropertyChanged, fromUtf8(name));
 }
 
 bool ServiceInfoModel::removeServiceProperty(const QString &property) {
@@ -91,7 +91,7 @@ bool ServiceInfoModel::removeServiceProperty(const QString &property) {
     if (m_data->record().properties.count(name) == 0)
         return false;
     m_data->edit().properties.erase(name);
-    Q_EMIT servicePropertyChanged(fromUtf8(name));
+    m_data->announce(&ServiceInfoModel::servicePropertyChanged, fromUtf8(name));
     return true;
 }
 

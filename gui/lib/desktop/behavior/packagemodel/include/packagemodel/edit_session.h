@@ -14,14 +14,14 @@ struct UnsavedEdits {
     QString fileName;
     /// The manifest that the edits apply to, if the package was never saved; otherwise empty.
     QByteArray manifest;
-    /// The SHA-256 digest of the manifest that the edits apply to, in hexadecimal digits. If the
-    /// file has a different one, it was changed since.
+    /// The digest of the manifest that the edits apply to, see manifestDigest(). If the file has a
+    /// different one, it was changed since.
     QByteArray digest;
     QDateTime time; ///< when the last edit was kept; UTC, in seconds
     Edits edits;    ///< in order
 };
 
-/// Unsaved edits as JSON: `{"format": 1, "manifest": "/.../manifest.xml", "sha256": "...", "time":
+/// Unsaved edits as JSON: `{"format": 1, "manifest": "/.../manifest.xml", "xxh3": "...", "time":
 /// "2026-11-21T12:00:00Z", "edits": [...]}`; see schema/unsaved-edits.schema.json.
 PACKAGEMODEL_EXPORT QByteArray toJson(const UnsavedEdits &unsaved);
 
@@ -34,7 +34,8 @@ struct ParsedUnsavedEdits {
 /// Reads what toJson() writes.
 PACKAGEMODEL_EXPORT ParsedUnsavedEdits unsavedEditsFromJson(const QByteArray &json);
 
-/// The digest of a manifest's bytes for UnsavedEdits.
+/// The digest of a manifest's bytes for UnsavedEdits: XXH3 with 128 bits, as 32 hexadecimal digits.
+/// The same as that of a Tano::FileFingerprint.
 PACKAGEMODEL_EXPORT QByteArray manifestDigest(const QByteArray &manifest);
 
 /// An editing session of one manifest: a lock that other editors respect, and a file that keeps the

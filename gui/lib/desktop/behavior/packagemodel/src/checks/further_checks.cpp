@@ -121,9 +121,7 @@ void checkNature(const CheckedPackage &, const BehaviorPlace &place, Findings &f
 }
 
 void checkLanguageCodes(const CheckedPackage &checked, Findings &findings) {
-    QStringList known;
-    for (const RobotLanguage &language : Language::builtInLanguages())
-        known += language.isoCode();
+    static const QStringList known = Language::builtInCodes();
     const auto check = [&](const RobotLanguages &languages, const char *list) {
         for (const RobotLanguage &language : languages) {
             const QString &code = language.isoCode();

@@ -214,7 +214,7 @@ QVector<Issue> IssueTracker::Data::assembled() const {
     QVector<Issue> all;
     for (const auto &section : sections) {
         for (const Issue *issue : section) {
-            if (!filter || filter(*issue))
+            if (isAmong(options.paths, *issue) && (!filter || filter(*issue)))
                 all.append(*issue);
         }
     }

@@ -25,6 +25,7 @@ public:
         : m_package(package)
         , m_fixes(package)
         , m_visit(visit)
+        , m_paths(options.paths)
         , m_filter(options.filterFor ? options.filterFor(package) : IssueFilter())
         , m_withFixes(options.withFixes) {}
 
@@ -34,7 +35,7 @@ public:
             if (skips(finding.rule) || !isNamed(finding))
                 continue;
             Issue issue = bareIssueOf(finding);
-            if (m_filter && !m_filter(issue))
+            if (!isAmong(m_paths, issue) || (m_filter && !m_filter(issue)))
                 continue;
             complete(issue, finding);
             if (m_withFixes)
@@ -61,16 +62,44 @@ private:
     const PackageInfoModel &m_package;
     FixMaker m_fixes;
     const std::function<IssueVisit(const Issue &issue)> &m_visit;
+    const QSet<QString> &m_paths;
     IssueFilter m_filter;
     bool m_withFixes;
     std::set<RuleId> m_skipped;
 };
 
-std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behaviors) {
+// The behaviors to check, by path.
+class BehaviorScope {
+public:
+    explicit BehaviorScope(const IssueOptions &options)
+        : m_isEverything(options.paths.isEmpty()) {
+        for (const QString &text : options.paths) {
+            const auto path = Tano::FieldPath::parse(toUtf8(text));
+            if (path && !path->isEmpty() && path->steps().front().field == "behaviors" &&
+                !path->steps().front().selectors.empty())
+                m_paths.insert(fromUtf8(path->steps().front().selectors.front().text));
+        }
+    }
+
+    bool contains(const QString &path) const { return m_isEverything || m_paths.contains(path); }
+    bool contains(const std::string &path) const {
+        return m_isEverything || m_paths.contains(fromUtf8(path));
+    }
+
+private:
+    bool m_isEverything;
+    QSet<QString> m_paths;
+};
+
+std::vector<BehaviorPlace> placesOf(const QVector<BehaviorInfoModel *> &behaviors,
+                                    const BehaviorScope &scope) {
     std::vector<BehaviorPlace> places;
     QHash<QString, int> counts;
-    for (const BehaviorInfoModel *behavior : behaviors)
-        places.push_back({behavior, counts[behavior->path()]++});
+    for (const BehaviorInfoModel *behavior : behaviors) {
+        const QString path = behavior->path();
+        if (scope.contains(path))
+            places.push_back({behavior, counts[path]++});
+    }
     return places;
 }
 
@@ -118,7 +147,8 @@ void visitIssues(const PackageInfoModel *package,
     if (!visitApplicationChecks(*package, findings))
         return;
     const CheckedPackage checked(*package, package->packageInfo(), options);
-    const std::vector<BehaviorPlace> places = placesOf(package->behaviors());
+    const std::vector<BehaviorPlace> places =
+        placesOf(package->behaviors(), BehaviorScope(options));
     for (const BehaviorPlace &place : inOrderOfMessages(places)) {
         if (findings.skips(RuleId::TriggerSentencesMissing))
             break;
@@ -157,8 +187,11 @@ void visitIssues(const Tano::PackageInfo &record,
         if (check.ofPackage)
             check.ofPackage(checked, found);
     }
+    const BehaviorScope scope(options);
     std::unordered_map<std::string_view, int> counts;
     for (const Tano::BehaviorInfo &behavior : record.behaviors()) {
+        if (!scope.contains(behavior.path()))
+            continue;
         const BehaviorInfoModel model(behavior, nullptr);
         const BehaviorPlace place{&model, counts[behavior.path()]++};
         for (const FurtherCheck &check : furtherChecks()) {

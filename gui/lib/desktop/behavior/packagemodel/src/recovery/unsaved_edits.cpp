@@ -3,15 +3,16 @@
 #include "../fields/edits_json.h"
 #include "../fields/field_words.h"
 
+#include <tano/save_file.h>
+
 #include <QCoreApplication>
-#include <QCryptographicHash>
 
 namespace Zel::PackageModel {
 namespace {
 
 const QLatin1String manifestMember("manifest");
 const QLatin1String contentMember("content");
-const QLatin1String digestMember("sha256");
+const QLatin1String digestMember("xxh3");
 const QLatin1String timeMember("time");
 
 } // namespace
@@ -50,7 +51,8 @@ ParsedUnsavedEdits unsavedEditsFromJson(const QByteArray &json) {
 }
 
 QByteArray manifestDigest(const QByteArray &manifest) {
-    return QCryptographicHash::hash(manifest, QCryptographicHash::Sha256).toHex();
+    const auto fingerprint = Tano::FileFingerprint::ofContent(manifest.toStdString());
+    return QByteArray::fromStdString(fingerprint.digest).toHex();
 }
 
 } // namespace Zel::PackageModel
