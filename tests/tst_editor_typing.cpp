@@ -8,7 +8,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
-#include <QListView>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTableView>

@@ -18,7 +18,6 @@
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QHeaderView>
-#include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMetaEnum>

@@ -4,7 +4,6 @@
 #include "widgets/icon_button.h"
 #include "widgets/message_bar.h"
 
-#include <QAccessible>
 #include <QListView>
 #include <QListWidget>
 #include <QMenu>

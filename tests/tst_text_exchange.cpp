@@ -10,7 +10,6 @@
 #include <tano/package_info.h>
 
 #include <QDirIterator>
-#include <QMetaEnum>
 #include <QRandomGenerator>
 
 #include <algorithm>
