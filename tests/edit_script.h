@@ -5,6 +5,7 @@
 #include <packagemodel/package_edits.h>
 #include <packagemodel/package_info_model.h>
 
+#include <QSet>
 #include <QStringBuilder>
 
 #include <algorithm>
@@ -29,6 +30,23 @@ inline QByteArray listing(const PackageInfoModel &package) {
         lines += fromUtf8(field.path.toString()) % u'=' % printed(field.value) % text("  # ") %
                  field.label % text(": ") % label(field.path) % u'\n';
     return lines.toUtf8();
+}
+
+// The differences between the caches of a package and those of a new one with the same record.
+inline QByteArray cacheDifference(const PackageInfoModel &package) {
+    const auto lines = [](const PackageInfoModel &of) {
+        const QStringList all = QString::fromUtf8(listing(of)).split(u'\n');
+        return QSet<QString>(all.begin(), all.end());
+    };
+    const QSet<QString> live = lines(package);
+    const QSet<QString> made = lines(PackageInfoModel(package.packageInfo()));
+    QStringList differing = ((live - made) + (made - live)).values();
+    // A new model uses every supported language for descriptions.
+    for (const RobotLanguage &language : package.supportedLanguages())
+        differing.removeAll(text("descriptionLanguages[%1]=%1  # Description language: "
+                                 "Description language “%2”")
+                                .arg(language.isoCode(), language.uiName()));
+    return differing.join(u'\n').toUtf8();
 }
 
 // The fields of a package without their order, except where differences preserve it: texts are

@@ -88,8 +88,6 @@ void fill(PackageInfoModel &package) {
 
 } // namespace
 
-Q_DECLARE_METATYPE(IsA)
-
 class TestCommands : public QObject {
     Q_OBJECT
 
@@ -99,7 +97,6 @@ private Q_SLOTS:
 
     void steps_data() { addRowsOf("commands/steps.json"); }
     void steps();
-    void derivation_data();
     void derivation();
     void merges_data();
     void merges();
@@ -113,6 +110,7 @@ private Q_SLOTS:
     void switchNamesTheBehavior();
     void permissionsUndoBlindly();
     void listsByHand();
+    void listStepsThatFail();
     void selectorsOutsideTheTable();
 
 private:
@@ -169,42 +167,35 @@ void TestCommands::steps() {
     QCOMPARE(translator.take(), QStringList());
 }
 
-void TestCommands::derivation_data() {
-    QTest::addColumn<QString>("classes");
-    QTest::addColumn<IsA>("isBase");
-    const auto row = [](const char *base, const char *classes, IsA isBase) {
-        QTest::newRow(base) << text(classes) << isBase;
-    };
-    row("package", ".", isA<PackageCommand>);
-    row("text of the package", "^Package.*String", isA<PackageGenericValueCommand<QString>>);
-    row("language", "^PackageLanguage", isA<PackageLanguageCommand>);
-    row("behavior", "^Behavior", isA<BehaviorCommand>);
-    row("text", "^Behavior(Path|Nature|Name|Desc|Set)", isA<BehaviorSetStringCommand>);
-    row("localized text", "^Behavior(Name|Desc)", isA<BehaviorSetLocalizedStringCommand>);
-    row("item", "^BehaviorSet", isA<BehaviorSetIndexedStringCommand>);
-    row("item by language", "^BehaviorSet[TL]",
-        isA<BehaviorSetTaggedIndexedStringCommand<RobotLanguage>>);
-    row("localized item", "^BehaviorSet[TL]", isA<BehaviorSetLocalizedIndexedStringCommand>);
-    row("item by text", "^BehaviorSetC", isA<BehaviorSetTaggedIndexedStringCommand<QString>>);
-    row("item by purpose", "^BehaviorSetC", isA<BehaviorSetPurposedIndexedStringCommand>);
-    row("list by language", "^BehaviorAddRemove[TL]",
-        isA<BehaviorAddRemoveTaggedStringCommand<RobotLanguage>>);
-    row("localized list", "^BehaviorAddRemove[TL]", isA<BehaviorAddRemoveLocalizedStringCommand>);
-    row("list by text", "^BehaviorAddRemoveC", isA<BehaviorAddRemoveTaggedStringCommand<QString>>);
-    row("list by purpose", "^BehaviorAddRemoveC", isA<BehaviorAddRemovePurposedStringCommand>);
-    row("dialog", "^Dialog", isA<DialogCommand>);
-    row("text of a dialog", "^DialogInfoModel[NT]", isA<DialogInfoModelCommand>);
-}
-
 // Checks the base classes at run time and from outside the library.
 void TestCommands::derivation() {
-    QFETCH(QString, classes);
-    QFETCH(IsA, isBase);
-    for (const Commands::CommandClass &each : commandClasses()) {
-        const auto command = made(text(each.name), m_arguments);
-        QVERIFY2(isBase(*command) == text(each.name).contains(QRegularExpression(classes)),
-                 each.name);
-        QCOMPARE(isA<MergeableCommand>(*command), each.id != -1);
+    const std::pair<const char *, IsA> bases[]{
+        {".", isA<PackageCommand>},
+        {"^Package.*String", isA<PackageGenericValueCommand<QString>>},
+        {"^PackageLanguage", isA<PackageLanguageCommand>},
+        {"^Behavior", isA<BehaviorCommand>},
+        {"^Behavior(Path|Nature|Name|Desc|Set)", isA<BehaviorSetStringCommand>},
+        {"^Behavior(Name|Desc)", isA<BehaviorSetLocalizedStringCommand>},
+        {"^BehaviorSet", isA<BehaviorSetIndexedStringCommand>},
+        {"^BehaviorSet[TL]", isA<BehaviorSetTaggedIndexedStringCommand<RobotLanguage>>},
+        {"^BehaviorSet[TL]", isA<BehaviorSetLocalizedIndexedStringCommand>},
+        {"^BehaviorSetC", isA<BehaviorSetTaggedIndexedStringCommand<QString>>},
+        {"^BehaviorSetC", isA<BehaviorSetPurposedIndexedStringCommand>},
+        {"^BehaviorAddRemove[TL]", isA<BehaviorAddRemoveTaggedStringCommand<RobotLanguage>>},
+        {"^BehaviorAddRemove[TL]", isA<BehaviorAddRemoveLocalizedStringCommand>},
+        {"^BehaviorAddRemoveC", isA<BehaviorAddRemoveTaggedStringCommand<QString>>},
+        {"^BehaviorAddRemoveC", isA<BehaviorAddRemovePurposedStringCommand>},
+        {"^Dialog", isA<DialogCommand>},
+        {"^DialogInfoModel[NT]", isA<DialogInfoModelCommand>},
+    };
+    for (const auto &[classes, isBase] : bases) {
+        for (const Commands::CommandClass &each : commandClasses()) {
+            const auto command = made(text(each.name), m_arguments);
+            QVERIFY2(isBase(*command) ==
+                         text(each.name).contains(QRegularExpression(text(classes))),
+                     each.name);
+            QCOMPARE(isA<MergeableCommand>(*command), each.id != -1);
+        }
     }
 }
 
@@ -413,10 +404,31 @@ void TestCommands::listsByHand() {
     QCOMPARE(command->add(text("y"), -1), 2);
     QCOMPARE(command->add(text("y"), 0), -1);
     QCOMPARE(command->add(text("z"), 1), 1);
+    taken();
+    QCOMPARE(command->add(text("w"), 4), 4);
+    QCOMPARE(taken(), lines(R"(b.tagAdded("w", fr_FR))"));
     command->redo();
     taken();
     command->undo();
-    QCOMPARE(taken(), lines("b.tagRemoved(4, fr_FR)"));
+    QCOMPARE(taken(), lines("b.tagRemoved(5, fr_FR)"));
+}
+
+// Removing an item outside the list, or adding one that it has, changes nothing; neither does
+// undoing that.
+void TestCommands::listStepsThatFail() {
+    for (const Commands::CommandClass &each : commandClasses()) {
+        if (!text(each.name).contains(QRegularExpression(text("AddRemove[TLC]"))))
+            continue;
+        for (const auto &[isAdd, index] : {std::pair(false, -1), {false, 3}, {true, 0}}) {
+            m_arguments.isAdd = isAdd;
+            m_arguments.index = index;
+            m_arguments.value = {text("b")};
+            const auto command = made(text(each.name), m_arguments);
+            command->redo();
+            command->undo();
+            QCOMPARE(taken(), QStringList());
+        }
+    }
 }
 
 void TestCommands::selectorsOutsideTheTable() {

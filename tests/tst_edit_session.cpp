@@ -1,3 +1,4 @@
+#include "table_file.h"
 #include "warning_guard.h"
 
 #include <packagemodel/edit_session.h>
@@ -67,21 +68,7 @@ private Q_SLOTS:
             QVERIFY(isSame(unsavedEditsFromJson(toJson(each)).unsaved, each));
     }
 
-    void refusals_data() {
-        QTest::addColumn<QString>("from");
-        QTest::addColumn<QString>("to");
-        QTest::addColumn<QString>("error");
-        const auto row = [](const char *from, const char *to, const char *error) {
-            QTest::newRow(error) << QString::fromUtf8(from) << QString::fromUtf8(to)
-                                 << QString::fromUtf8(error);
-        };
-        row("\"format\": 1", "\"format\": 2", "format: Format 2 is not supported.");
-        row("\"manifest\"", "\"package\"", "content: It is missing.");
-        row("2026-11-21T", "soon", "time: The value has the wrong type.");
-        row("\"set\"", "\"put\"",
-            "edits[0].action: It must be 'set', 'insert', 'remove' or 'move'.");
-        row("\"xxh3\"", "\"extra\": 1, \"xxh3\"", "extra: There is no such member.");
-    }
+    void refusals_data() { addRowsOf("fields/refused-unsaved-edits.json"); }
     void refusals() {
         QFETCH(QString, from);
         QFETCH(QString, to);

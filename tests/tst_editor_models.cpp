@@ -256,25 +256,6 @@ private Q_SLOTS:
         QVERIFY(document.behaviorSeverity(QStringLiteral("other")));
     }
 
-    void typingMerges() {
-        Document document;
-        QVERIFY(document.open(sample("small")));
-        LanguagesModel languages(document);
-        const QModelIndex cell = languages.index(0, LanguagesModel::Name);
-        const QString before = cell.data().toString();
-        for (const char *text : {"W", "Wa", "Wav"})
-            languages.setData(cell, QLatin1String(text));
-        QCOMPARE(document.undoStack()->count(), 1);
-        document.closeRun();
-        languages.setData(cell, QStringLiteral("Wave"));
-        QCOMPARE(document.undoStack()->count(), 2);
-        document.abandonRun(languages.field(cell));
-        QCOMPARE(document.undoStack()->count(), 1);
-        QCOMPARE(cell.data().toString(), QStringLiteral("Wav"));
-        document.undoStack()->undo();
-        QCOMPARE(cell.data().toString(), before);
-    }
-
     // The package is unchanged, and the reason is shown.
     void refusals() {
         Document document;

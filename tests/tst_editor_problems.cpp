@@ -1,5 +1,6 @@
 #include "editor_test.h"
 #include "models/problems_model.h"
+#include "table_file.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -23,23 +24,10 @@ private Q_SLOTS:
     }
     void cleanup() { closeWindow(); }
 
-    void filters_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("hidden"); // severities
-        QTest::addColumn<QStringList>("rules");
-        const auto row = [](const char *text, const QStringList &hidden, const QStringList &rules) {
-            QTest::newRow(text) << QString::fromUtf8(text) << hidden << rules;
-        };
-        row("NOT A DATE", {}, {QStringLiteral("date-invalid")});
-        row("behaviors[listen].nature", {}, {QStringLiteral("nature-unknown")});
-        row("german", {QStringLiteral("Errors")}, {QStringLiteral("description-missing")});
-        row("-duplicate", {QStringLiteral("Errors")}, {QStringLiteral("permission-duplicate")});
-        row("", {QStringLiteral("Errors"), QStringLiteral("Warnings"), QStringLiteral("Notes")},
-            {});
-    }
+    void filters_data() { addRowsOf("editor/problem-filters.json"); }
     void filters() {
         QFETCH(QString, text);
-        QFETCH(QStringList, hidden);
+        QFETCH(QStringList, hidden); // severities
         line("Filter problems")->setFocus();
         type(text);
         for (const QString &severity : std::as_const(hidden))

@@ -1,5 +1,6 @@
 #include "document/row_edits.h"
 #include "editor_test.h"
+#include "table_file.h"
 #include "widgets/row_actions.h"
 
 #include <packagemodel/package_json.h>
@@ -23,34 +24,12 @@ private Q_SLOTS:
     void init() { openAgain(); }
     void cleanup() { closeWindow(); }
 
-    // Lists of three entries.
-    void keyboard_data() {
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("duplicates"); // empty if duplicates are impossible
-        QTest::addColumn<bool>("isOrdered");
-        const auto row = [](const char *list, const char *lines, const char *duplicates,
-                            bool isOrdered = true) {
-            QTest::newRow(list) << list << lines << duplicates << isOrdered;
-        };
-        row("behaviors", "a\nb", "a-2\nb-2");
-        row("behaviors[a].triggerSentences[en_US]", "hello\ngood morning",
-            "hello-2\ngood morning-2");
-        row("behaviors[a].loadingResponses[en_US]", "Soon.\nWait.", "Soon.-2\nWait.-2");
-        row("behaviors[a].tags[en_US]", "one\ntwo", "one-2\ntwo-2");
-        row("behaviors[a].conditions[launch]", "one\ntwo", "one-2\ntwo-2");
-        row("behaviors[a].permissions", "camera\nmotion", "camera-2\nmotion-2", false);
-        row("robotRequirements", "Plover P1\t1.0\t\t\t\nHeron H1\t\t\t\t",
-            "Plover P1\t1.0\t\t\t\nHeron H1\t\t\t\t");
-        row("brioRequirements", "1.0\t\n2.0\t2.5", "1.0\t\n2.0\t2.5");
-        row("dialogs", "tea\nmilk", "tea-2\nmilk-2");
-        row("services", "clock\nradio", "clock-2\nradio-2");
-        row("supportedLanguages", "en_US\nfr_FR", "");
-    }
+    // Lists of three entries. A list without duplicates does not allow them.
+    void keyboard_data() { addRowsOf("editor/row-keys.json"); }
     void keyboard() {
         QFETCH(QString, list);
         QFETCH(QString, duplicates);
-        QFETCH(bool, isOrdered);
+        const bool isOrdered = !list.endsWith(QStringLiteral("permissions"));
         const Entries before = entries(list);
         QCOMPARE(before.size(), 3);
         const QByteArray bytes = manifest();
@@ -111,33 +90,12 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
     }
 
-    void pastesBesideOthers_data() {
-        QTest::addColumn<QString>("text"); // empty for two copied behaviors
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("refusal");
-        const auto row = [](const char *name, const char *text, const char *list, const char *keys,
-                            const char *refusal = "") {
-            QTest::newRow(name) << QString::fromUtf8(text) << list << keys
-                                << QString::fromUtf8(refusal);
-        };
-        const char *tags = "behaviors[a].tags[en_US]";
-        row("lines", "four\r\n\ntwo\nfive\nfive", tags, "one two four five three");
-        row("known line", "three\n", tags, "one two three", "The list has “three” already.");
-        row("nothing", "", tags, "one two three", "The clipboard has nothing for this list.");
-        row("bad character", "four\nfive\x01", tags, "one two three", "U+0001");
-        row("languages", "de_DE\nfr_FR", "supportedLanguages", "en_US fr_FR de_DE ja_JP");
-        row("no entries", "four", "services", "clock radio lamp",
-            "The clipboard has nothing for this list.");
-        row("taken paths", nullptr, "behaviors", "a b a-2 b-2 c");
-        row("another kind", nullptr, "dialogs", "tea milk bread",
-            "This list takes entries of another kind.");
-    }
+    void pastesBesideOthers_data() { addRowsOf("editor/pasted-rows.json"); }
     void pastesBesideOthers() {
         QFETCH(QString, text);
         QFETCH(QString, list);
         QFETCH(QString, refusal);
-        if (text.isNull()) {
+        if (text == QStringLiteral("two behaviors")) {
             selectTwo(QStringLiteral("behaviors"));
             press(Qt::Key_C, Qt::ControlModifier);
         } else {

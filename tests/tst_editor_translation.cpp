@@ -2,6 +2,7 @@
 #include "editor_test.h"
 #include "models/translation_model.h"
 #include "random_edits.h"
+#include "table_file.h"
 #include "widgets/field_note.h"
 #include "widgets/text_pair.h"
 
@@ -76,48 +77,19 @@ private Q_SLOTS:
     void initTestCase() { prepare(); }
     void cleanup() { closeWindow(); }
 
-    void rows_data() {
-        QTest::addColumn<int>("state"); // -1 for all
-        QTest::addColumn<QString>("search");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *name, int state, const char *search,
-                            const QStringList &expected) {
-            QTest::newRow(name) << state << text(search) << expected;
-        };
-        const QString package = text("Package|||1 of 1");
-        const QString greet = text("Behavior “greet”|||2 of 5");
-        row("all", -1, "",
-            {package, text("Name|Tea|Tea|Same as source"), greet, text("Name|Greet||Missing"),
-             text("Tag 1|hi|salut|Translated"), text("Tag 2|hello||Missing"),
-             text("Tag 3|hey||Missing"),
-             text("Loading response 1|Hi|<emphasis>Salut|Malformed script"),
-             text("Behavior “rest”|||1 of 1"), text("Name||Dormir|Translated")});
-        row("missing", int(TextState::Missing), "",
-            {greet, text("Name|Greet||Missing"), text("Tag 2|hello||Missing"),
-             text("Tag 3|hey||Missing")});
-        row("same", int(TextState::SameAsSource), "",
-            {package, text("Name|Tea|Tea|Same as source")});
-        row("malformed", int(TextState::Malformed), "",
-            {greet, text("Loading response 1|Hi|<emphasis>Salut|Malformed script")});
-        row("changed", int(TextState::SourceChanged), "", {});
-        row("source", -1, "GREE",
-            {greet, text("Name|Greet||Missing"), text("Tag 1|hi|salut|Translated"),
-             text("Tag 2|hello||Missing"), text("Tag 3|hey||Missing"),
-             text("Loading response 1|Hi|<emphasis>Salut|Malformed script")});
-        row("target", -1, "dormir",
-            {text("Behavior “rest”|||1 of 1"), text("Name||Dormir|Translated")});
-        row("field", int(TextState::Missing), "tag 3", {greet, text("Tag 3|hey||Missing")});
-    }
+    void rows_data() { addRowsOf("editor/text-rows.json"); }
     void rows() {
-        QFETCH(int, state);
+        QFETCH(QString, state); // empty for all
         QFETCH(QString, search);
         Document document;
         QVERIFY(document.openTemplate(sample));
         TranslationModel model(document);
         TextFilter filter;
         filter.search = search;
-        if (state >= 0)
-            filter.state = TextState(state);
+        const auto index =
+            text("Missing Malformed SourceChanged SameAsSource").split(u' ').indexOf(state);
+        if (index >= 0)
+            filter.state = TextState(index);
         model.setFilter(filter);
         load(model);
         QTEST(rowsOf(model), "expected");
@@ -319,25 +291,7 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 2);
     }
 
-    void imports_data() {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<QString>("said");
-        QTest::newRow("new") << "Greet"
-                             << "Saluer"
-                             << "Texts imported: 1. Unchanged: 0. Not translated: 0. Skipped: 0.";
-        QTest::newRow("other source")
-            << "Welcome"
-            << "Saluer"
-            << "Texts imported: 0. Unchanged: 0. Not translated: 0. Skipped: 1.";
-        QTest::newRow("malformed")
-            << "Greet"
-            << "&lt;p>"
-            << "Nothing was imported: some texts are malformed speech scripts.";
-        QTest::newRow("no XML") << "Greet"
-                                << "<"
-                                << "Line 1, column 194: Unexpected '<'.";
-    }
+    void imports_data() { addRowsOf("editor/imports.json"); }
     void imports() {
         QFETCH(QString, source);
         QFETCH(QString, target);

@@ -1,5 +1,6 @@
 #include "document/field_edits.h"
 #include "editor_test.h"
+#include "table_file.h"
 #include "widgets/field_note.h"
 #include "widgets/marks.h"
 
@@ -7,7 +8,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
-#include <QListView>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -110,25 +110,7 @@ private Q_SLOTS:
         QCOMPARE(manifest(), before);
     }
 
-    void refusedTexts_data() {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("version") << 0 << "&Version:"
-                                 << "3.x"
-                                 << "'3.x' is not a version";
-        QTest::newRow("control character") << 0 << "&Author:"
-                                           << "a\vb"
-                                           << "U+000B";
-        QTest::newRow("path that is taken") << 3 << "&Path:"
-                                            << "goodbye"
-                                            << "'goodbye' is already in use.";
-        QTest::newRow("path") << 3 << "&Path:" << QString() << "A behavior needs a path.";
-        QTest::newRow("cell") << 2 << "Robots"
-                              << "3.x"
-                              << "'3.x' is not a version";
-    }
+    void refusedTexts_data() { addRowsOf("editor/refused-texts.json"); }
     // The package is unchanged by the run, and the reason is shown.
     void refusedTexts() {
         QFETCH(int, page);
@@ -154,6 +136,7 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 0);
         QVERIFY(!stack()->canRedo());
         QCOMPARE(manifest(), before);
+        QVERIFY2(!edit->toolTip().isEmpty(), "no mark");
         const FieldNote *shown = note();
         QVERIFY(shown);
         QVERIFY2(shown->text().contains(reason), qPrintable(shown->text()));
@@ -341,35 +324,7 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
     }
 
-    void undoShowsTheField_data() {
-        QTest::addColumn<QString>("at");
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("content");
-        const auto row = [](const char *at, int page, const char *name, const char *content) {
-            QTest::newRow(at) << at << page << name << QString::fromUtf8(content);
-        };
-        row("author", 0, "Author:", "Ines Moreau");
-        row("names[ja_JP]", 1, "Name:", "読書コーナー");
-        row("supportedLanguages[de_DE]", 1, "Languages and texts", "German (Germany)");
-        row("brioRequirements[0].minVersion", 2, "Brio middleware", "2.5");
-        row("robotRequirements[1]", 2, "Robots", "Heron H1");
-        row("behaviors[stories/fable]", 3, "Behaviors", "stories/fable");
-        row("behaviors[stories/fable].path", 3, "Path:", "stories/fable");
-        row("behaviors[stories/fable].nature", 3, "Interactive: it reacts to people",
-            "Interactive: it reacts to people");
-        row("behaviors[stories/fable].names[fr_FR]", 3, "Name:", "Fable");
-        row("behaviors[stories/fable].triggerSentences[fr_FR][1]", 3, "Trigger sentences",
-            "raconte-moi une histoire d'animaux");
-        row("behaviors[stories/fable].tags[en_US][0]", 3, "Tags", "story");
-        row("behaviors[greet-visitor].conditions[suggestion][0]", 3, "Conditions", "people.new");
-        row("behaviors[stories/fable].permissions[0]", 3, "Permissions", "speech");
-        row("dialogs[reading-talk].topicName", 4, "Topic:", "reading-talk");
-        row("dialogs[reading-talk].topics[fr_FR]", 4, "Topic files",
-            "dialogs/reading-talk/reading-talk_frf.top");
-        row("services[noise-meter].execStart", 5, "Services", "bin/noise-meter --window 5s");
-        row("services[noise-meter]", 5, "Services", "noise-meter");
-    }
+    void undoShowsTheField_data() { addRowsOf("editor/shown-fields.json"); }
     // Undoing an edit shows its page, entry, language and tab, whatever is shown before.
     void undoShowsTheField() {
         QFETCH(QString, at);

@@ -1,6 +1,6 @@
-#include <tano/field_path.h>
+#include "table_file.h"
 
-#include <QTest>
+#include <tano/field_path.h>
 
 #include <algorithm>
 #include <limits>
@@ -34,28 +34,7 @@ class TestFieldPath : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void roundTrips_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("parts");
-        const auto row = [](const char *text, const char *parts) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(parts);
-        };
-        row("", "");
-        row("uid", "uid\n");
-        row("names[fr_FR]", "names\n=fr_FR\n");
-        row("robotRequirements[0].maxBodyVersion", "robotRequirements\n=0\nmaxBodyVersion\n");
-        row("behaviors[greet].triggerSentences[ja_JP][0]",
-            "behaviors\n=greet\ntriggerSentences\n=ja_JP\n=0\n");
-        row("behaviors[greet][1]", "behaviors\n=greet\n=1\n");
-        row("behaviors[]", "behaviors\n=\n");
-        row("behaviors[a.b[c].d", "behaviors\n=a.b[c\nd\n");
-        row("behaviors[né 日本]", "behaviors\n=né 日本\n");
-        row("behaviors[\\]\\\\].nature", "behaviors\n=]\\\nnature\n");
-        row("behaviors[+].path", "behaviors\n>+\npath\n");
-        row("behaviors[\\+].path", "behaviors\n=+\npath\n");
-        row("behaviors[a+]", "behaviors\n=a+\n");
-    }
-
+    void roundTrips_data() { addRowsOf("base/paths.json"); }
     void roundTrips() {
         QFETCH(QString, text);
         QFETCH(QString, parts);
@@ -65,27 +44,7 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(path->toString()), text);
     }
 
-    void errors_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("position");
-        QTest::addColumn<QString>("message");
-        const auto row = [](const char *text, int position, const char *message) {
-            QTest::newRow(text) << QString::fromUtf8(text) << position
-                                << QString::fromUtf8(message);
-        };
-        const char *missing = "The name of a field is missing.";
-        row(".uid", 0, missing);
-        row("[a]", 0, missing);
-        row("names.", 6, missing);
-        row("names..a", 6, missing);
-        row("names]", 5, "The name of a field cannot contain \"]\" or \"\\\".");
-        row("na\\mes", 2, "The name of a field cannot contain \"]\" or \"\\\".");
-        row("names[a", 5, "The \"]\" of this selector is missing.");
-        row("names[é\\]", 5, "The \"]\" of this selector is missing.");
-        row("names[a]b", 8, "A \".\" or \"[\" is missing after the selector.");
-        row("names[a\\b]", 8, "A \"\\\" must precede \"]\", \"\\\" or \"+\".");
-    }
-
+    void errors_data() { addRowsOf("base/malformed-paths.json"); }
     void errors() {
         QFETCH(QString, text);
         FieldPath::Error error;

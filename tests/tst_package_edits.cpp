@@ -1,6 +1,7 @@
 #include "edit_script.h"
 #include "golden.h"
 #include "random_edits.h"
+#include "table_file.h"
 #include "text.h"
 
 #include <packagemodel/package_difference.h>
@@ -8,7 +9,6 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_json.h>
 
-#include <QSet>
 #include <QTest>
 #include <QUndoStack>
 
@@ -17,42 +17,20 @@ using namespace Zel::PackageModel;
 using namespace EditScript;
 using Tano::FieldPath;
 
-namespace {
-
-// The differences between the caches of a package and those of a new one with the same record.
-QByteArray cacheDifference(const PackageInfoModel &package) {
-    const PackageInfoModel fresh(package.packageInfo());
-    const auto lines = [](const PackageInfoModel &of) {
-        const QStringList all = QString::fromUtf8(listing(of)).split(u'\n');
-        return QSet<QString>(all.begin(), all.end());
-    };
-    const QSet<QString> live = lines(package);
-    const QSet<QString> made = lines(fresh);
-    // A new model uses every supported language for descriptions.
-    QStringList differing = ((live - made) + (made - live)).values();
-    for (const RobotLanguage &language : package.supportedLanguages())
-        differing.removeAll(QStringLiteral("descriptionLanguages[%1]=%1  # Description language: "
-                                           "Description language “%2”")
-                                .arg(language.isoCode(), language.uiName()));
-    return differing.join(u'\n').toUtf8();
-}
-
-} // namespace
-
 class TestPackageEdits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
     void listed();
-    void refused_data();
+    void refused_data() { addRowsOf("fields/refused-edits.json"); }
     void refused();
     void allOrNone();
     void inversesRestoreEverything_data();
     void inversesRestoreEverything();
     void differences_data() { inversesRestoreEverything_data(); }
     void differences();
-    void fewEdits_data();
+    void fewEdits_data() { addRowsOf("fields/few-edits.json"); }
     void fewEdits();
     void repeatedPermissions();
     void otherModelsStay();
@@ -95,47 +73,16 @@ void TestPackageEdits::listed() {
         QCOMPARE(label(*of ? path(of) : FieldPath()), text(expected));
 }
 
-void TestPackageEdits::refused_data() {
-    QTest::addColumn<int>("action");
-    QTest::addColumn<QString>("at");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("error");
-    using A = Edit::Action;
-    const auto row = [](A action, const char *at, const char *value, const char *error) {
-        QTest::addRow("%d %s %s", int(action), at, value)
-            << int(action) << text(at) << QString::fromUtf8(value) << text(error);
-    };
-    row(A::Set, "autor", "x", "autor: There is no field 'autor'; did you mean 'author'?");
-    row(A::Set, "version", "1.0", "version: The value has the wrong type.");
-    row(A::Set, "behaviors[greet]", "x", "behaviors[greet]: The value has the wrong type.");
-    row(A::Set, "behaviors", "x", "behaviors: The field does not allow this change.");
-    row(A::Set, "author", "a\x01",
-        "author: The text contains the character U+0001, which a manifest "
-        "cannot represent.");
-    row(A::Set, "behaviors[odd\\]\\\\path].path", "greet",
-        "behaviors[odd\\]\\\\path].path: 'greet' is already in use.");
-    row(A::Set, "supportedLanguages[en_US]", "de_DE",
-        "supportedLanguages[en_US]: The value has the wrong type.");
-    row(A::Insert, "supportedLanguages", "en_US", "supportedLanguages: 'en_US' already exists.");
-    row(A::Insert, "behaviors[greet].permissions", "camera",
-        "behaviors[greet].permissions: 'camera' already exists.");
-    row(A::Insert, "author", "x", "author: The field does not allow this change.");
-    row(A::Remove, "author", "", "author: The field does not allow this change.");
-    row(A::Remove, "names[fr_FR]", "", "names[fr_FR]: It does not exist.");
-    row(A::Move, "dialogs[talk]", "", "dialogs[talk]: The list has no such index.");
-    row(A::Move, "names[en_US]", "", "names[en_US]: The field does not allow this change.");
-}
-
 void TestPackageEdits::refused() {
-    QFETCH(int, action);
+    QFETCH(QString, action);
     QFETCH(QString, at);
     QFETCH(QString, text);
+    QFETCH(QString, error);
     const QByteArray before = bytes();
-    const Edit edit{Edit::Action(action), path(at.toUtf8().constData()), text, 1};
-    const QString reason = refusal(m_package.get(), edit);
-    QVERIFY(!reason.isEmpty());
-    QTEST(QString(at % QStringLiteral(": ") % reason), "error");
-    QTEST(error(edit), "error");
+    const Edit edit{Edit::Action(actions().indexOf(action)), path(at.toUtf8().constData()), text,
+                    1};
+    QCOMPARE(refusal(m_package.get(), edit), error);
+    QCOMPARE(apply(m_package.get(), edit).error, at % QStringLiteral(": ") % error);
     QCOMPARE(bytes(), before);
 }
 
@@ -221,72 +168,20 @@ void TestPackageEdits::differences() {
     }
 }
 
-void TestPackageEdits::fewEdits_data() {
-    QTest::addColumn<QString>("setup");
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("found");
-    const auto row = [](const char *name, const char *setup, const char *change,
-                        const char *found = nullptr) {
-        QTest::newRow(name) << text(setup) << text(change) << text(found ? found : change);
-    };
-    row("nothing", "", "");
-    row("values", "",
-        "set version 4.5.6\nset author B\nset robotRequirements[1].maxBodyVersion 3.0\n"
-        "set behaviors[greet].nature x\nset services[clock].properties[zone] CET\n");
-    row("texts", "",
-        "remove names[en_US]\nset names[fr_FR] \nset dialogs[talk].topics[xx_YY] x\n"
-        "remove services[clock].properties[zone]\nset services[clock].properties[b] \n");
-    row("first to last", "insert behaviors 0 a\ninsert behaviors 1 b\n",
-        "move supportedLanguages[en_US] 2\nmove behaviors[a] 4\n");
-    row("last to first", "",
-        "move robotRequirements[0] 1\nmove behaviors[odd\\]\\\\path] 0\n"
-        "move behaviors[greet].permissions[0] 1\n");
-    row("moves of several", "insert behaviors 0 a\ninsert behaviors 1 b\n",
-        "move behaviors[b] 4\nmove behaviors[a] 4\n");
-    row("insertions", "",
-        "insert behaviors[greet].conditions[launch] 1 c\n"
-        "insert behaviors[greet].tags[en_US] 1 new\n"
-        "insert behaviors[greet].tags[en_US] 4 y\n"
-        "insert behaviors 1 b\n");
-    row("removals", "",
-        "remove behaviors[greet].tags[en_US][0]\n"
-        "remove behaviors[greet].loadingResponses[fr_FR][0]\nremove dialogs[talk]\n");
-    row("items replaced", "",
-        "set behaviors[greet].permissions[1] light\nset behaviors[greet].tags[en_US][1] z\n");
-    row("renamed and moved", "insert behaviors 0 a\n",
-        "set behaviors[a].path b\nmove behaviors[b] 3\nset dialogs[talk].topicName x\n");
-    row("swapped paths", "insert behaviors 0 a\nset behaviors[a].nature x\ninsert behaviors 1 b\n",
-        "set behaviors[a].path c\nset behaviors[b].path a\nset behaviors[c].path b\n",
-        "move behaviors[a] 1\nset behaviors[b].nature x\nset behaviors[a].nature \n");
-    row("equal paths", "set behaviors[greet][1].nature x\ninsert behaviors 3 greet\n",
-        "move behaviors[greet] 3\nremove behaviors[greet]\n",
-        "remove behaviors[greet][1]\nmove behaviors[greet] 2\n");
-    row("a path that several have", "", "set behaviors[greet][1].path a\n");
-    row("a path that others take",
-        "insert behaviors 0 a\ninsert behaviors 1 b\ninsert behaviors 2 d\n"
-        "set behaviors[d].nature x\n",
-        "remove behaviors[d]\nremove behaviors[b]\nset behaviors[a].path c\n"
-        "insert behaviors 1 c\ninsert behaviors 5 greet\nset behaviors[greet][2].nature x\n",
-        "remove behaviors[d]\nremove behaviors[b]\nset behaviors[a].path c\n"
-        "insert behaviors 1 c\ninsert behaviors 5 greet\n");
-    row("language added", "", "insert supportedLanguages 1 de_DE\n");
-    row("language added without descriptions", "",
-        "insert supportedLanguages 1 de_DE\nremove descriptionLanguages[de_DE]\n");
-    row("language removed", "", "remove supportedLanguages[fr_FR]\n");
-    row("language removed except for its topic", "",
-        "remove supportedLanguages[fr_FR]\nset dialogs[talk].topics[fr_FR] talk_fr.top\n");
-}
-
+// The edits that are found, if they differ from those that changed the target, are in the last
+// column.
 void TestPackageEdits::fewEdits() {
-    QFETCH(QString, setup);
-    QFETCH(QString, change);
-    QCOMPARE(apply(m_package.get(), editsOf(setup)).error, QString());
+    QFETCH(QStringList, setup);
+    QFETCH(QStringList, change);
+    QFETCH(QStringList, found);
+    QCOMPARE(apply(m_package.get(), editsOf(setup.join(u'\n'))).error, QString());
     PackageInfoModel target(*m_package);
-    QCOMPARE(apply(&target, editsOf(change)).error, QString());
-    const Edits found = edits(m_package.get(), &target);
-    QTEST(script(found), "found");
+    QCOMPARE(apply(&target, editsOf(change.join(u'\n'))).error, QString());
+    const Edits difference = edits(m_package.get(), &target);
+    const QStringList expected = found.isEmpty() ? change : found;
+    QCOMPARE(script(difference).split(u'\n', Qt::SkipEmptyParts), expected);
     const QByteArray before = bytes();
-    const Applied applied = apply(m_package.get(), found);
+    const Applied applied = apply(m_package.get(), difference);
     QCOMPARE(applied.error, QString());
     QCOMPARE(orderedListing(*m_package), orderedListing(target));
     QCOMPARE(apply(m_package.get(), applied.inverse).error, QString());

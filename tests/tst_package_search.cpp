@@ -1,3 +1,4 @@
+#include "table_file.h"
 #include "warning_guard.h"
 
 #include <packagemodel/package_info_model.h>
@@ -70,26 +71,7 @@ private Q_SLOTS:
         QVERIFY(left.size() < all.size());
     }
 
-    void search_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *text, const char *options, const QStringList &expected) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(options)
-                                << expected;
-        };
-        const QString sentence = QStringLiteral("behaviors[%1.triggerSentences[en_US][0]@0+3");
-        row("tea", "",
-            {QStringLiteral("uid@0+3"), QStringLiteral("names[en_US]@0+3"),
-             QStringLiteral("names[en_US]@10+3"), QStringLiteral("behaviors[tea].path@0+3"),
-             sentence.arg(QStringLiteral("tea]")), QStringLiteral("behaviors[tea][1].path@0+3"),
-             sentence.arg(QStringLiteral("tea][1]")), sentence.arg(QStringLiteral("coffee]"))});
-        row("Tea", "cw", {QStringLiteral("names[en_US]@0+3")});
-        row("1.2", "", {QStringLiteral("version@0+3")});
-        row("t.*?e,", "r", {QStringLiteral("names[en_US]@0+9")});
-        row("x*", "r", {});
-        row("(", "", {});
-    }
+    void search_data() { addRowsOf("search/matches.json"); }
     void search() {
         QFETCH(QString, text);
         QFETCH(QString, options);
@@ -102,30 +84,7 @@ private Q_SLOTS:
         QVERIFY(!pattern.isValid() && !pattern.errorString().isEmpty());
     }
 
-    void replace_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("by");
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QStringList>("paths");
-        const QStringList paths{QStringLiteral("tea"), QStringLiteral("tea"),
-                                QStringLiteral("coffee")};
-        const auto row = [](const char *text, const char *by, const char *options, int count,
-                            const char *name, const QStringList &expected) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(by)
-                                << QString::fromUtf8(options) << count << QString::fromUtf8(name)
-                                << expected;
-        };
-        row("time", "\\1", "", 1, "Tea \\1, tea!", paths);
-        row("(T)ea (.)", "\\2\\1", "rc", 1, "tTime, tea!", paths);
-        row("coffee", "Kaffee", "", 1, "Tea time, tea!",
-            {paths.at(0), paths.at(1), QStringLiteral("Kaffee")});
-        row("tea", "chai", "c", 3, "Tea time, chai!",
-            {QStringLiteral("chai"), paths.at(1), paths.at(2)});
-        row("en_US", "fr_FR", "", 0, "Tea time, tea!", paths);
-        row("1.2.0", "x", "", 0, "Tea time, tea!", paths);
-    }
+    void replace_data() { addRowsOf("search/replacements.json"); }
     void replace() {
         QFETCH(QString, text);
         QFETCH(QString, by);

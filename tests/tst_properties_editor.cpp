@@ -4,7 +4,6 @@
 #include "widgets/icon_button.h"
 #include "widgets/message_bar.h"
 
-#include <QAccessible>
 #include <QListView>
 #include <QListWidget>
 #include <QMenu>
@@ -83,29 +82,6 @@ private Q_SLOTS:
         QCOMPARE(stack()->count(), 1);
         stack()->undo();
         QCOMPARE(problemCount(), found);
-    }
-
-    void typingIsOneStepUntilTheFocusLeaves() {
-        QVERIFY(m_window->openFile(copyOf("small")));
-        QLineEdit *author = field("&Author:");
-        author->setFocus();
-        replaceText(QStringLiteral("Ada"));
-        QCOMPARE(stack()->count(), 1);
-        press(Qt::Key_Return);
-        type(QStringLiteral("!"));
-        QCOMPARE(stack()->count(), 2);
-        press(Qt::Key_Tab);
-        press(Qt::Key_Backtab, Qt::ShiftModifier);
-        press(Qt::Key_End);
-        type(QStringLiteral("?"));
-        QCOMPARE(stack()->count(), 3);
-        QCOMPARE(author->text(), QStringLiteral("Ada!?"));
-        press(Qt::Key_Z, Qt::ControlModifier);
-        press(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(author->text(), QStringLiteral("Ada"));
-        QVERIFY(m_window->isWindowModified());
-        press(Qt::Key_Z, Qt::ControlModifier);
-        QVERIFY(!m_window->isWindowModified());
     }
 
     void savesWhileAFieldHasTheFocus_data() {
@@ -355,21 +331,10 @@ private Q_SLOTS:
         QVERIFY(uid->toolTip().isEmpty());
 
         QLineEdit *version = field("Ve&rsion:");
-        const QString before = version->text();
         version->setFocus();
-        replaceText(QStringLiteral("2.x"));
-        QVERIFY(version->toolTip().contains(QStringLiteral("2.x")));
-        Answer mend{std::function<void(QMessageBox *)>(
-            [](QMessageBox *box) { box->buttons().last()->click(); })};
-        press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(mend.isGiven());
-        QCOMPARE(focus(), version);
-        QVERIFY(m_window->isWindowModified());
         replaceText(QStringLiteral("2.5"));
         press(Qt::Key_Return);
         QCOMPARE(version->text(), QStringLiteral("2.5.0"));
-        press(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(version->text(), before);
 
         m_window->showPage(2);
         auto *robots = view<QTableView>("Robots");
@@ -383,27 +348,9 @@ private Q_SLOTS:
         const QWidget *editor = QApplication::focusWidget();
         QVERIFY(editor != robots);
         QVERIFY(!editor->toolTip().isEmpty());
-        type(QStringLiteral("x"));
-        QVERIFY(editor->toolTip().contains(QStringLiteral("1.4x")));
-        press(Qt::Key_Escape);
-        QCOMPARE(problemCount(), 0);
     }
 
-    void refusesAPathThatIsTaken() {
-        QVERIFY(m_window->openFile(copyOf("ten-languages")));
-        m_window->showPage(3);
-        QLineEdit *path = field("Pa&th:");
-        path->setFocus();
-        replaceText(QStringLiteral("goodbye"));
-        QVERIFY(!path->toolTip().isEmpty());
-        const auto all = m_window->document().package()->behaviors();
-        QCOMPARE(all.at(0)->path(), QStringLiteral("greet-visitor"));
-        type(QStringLiteral("2"));
-        QCOMPARE(all.at(0)->path(), QStringLiteral("goodbye2"));
-        QCOMPARE(stack()->count(), 1);
-    }
-
-    void addsAndRemovesLanguages() {
+    void addsLanguages() {
         QVERIFY(m_window->openFile(copyOf("small")));
         const QByteArray before = manifest();
         m_window->showPage(1);
@@ -414,14 +361,7 @@ private Q_SLOTS:
         QTest::mouseClick(button("&Add Language…"), Qt::LeftButton);
         QVERIFY(choice.isGiven());
         QCOMPARE(problemCount(), 3);
-        auto *table = view<QTableView>("Languages and texts");
-        QCOMPARE(table->currentIndex().row(), 2);
-        QTest::mouseClick(button("&Remove Language"), Qt::LeftButton);
-        QCOMPARE(stack()->count(), 2);
-        QCOMPARE(problemCount(), 0);
-        QCOMPARE(table->model()->rowCount(), 2);
-        stack()->undo();
-        QCOMPARE(problemCount(), 3);
+        QCOMPARE(view<QTableView>("Languages and texts")->currentIndex().row(), 2);
         stack()->undo();
         QCOMPARE(manifest(), before);
 
@@ -433,51 +373,15 @@ private Q_SLOTS:
         QCOMPARE(answer.text, QStringLiteral("'en_US' already exists."));
     }
 
-    void editsTheListsOfABehavior() {
-        QVERIFY(m_window->openFile(copyOf("small")));
-        m_window->showPage(3);
-        tabs()->setCurrentIndex(3);
-        line("A new tag")->setFocus();
-        type(QStringLiteral("greeting"));
-        QVERIFY(!line("A new tag")->toolTip().isEmpty());
-        type(QStringLiteral("s"));
-        press(Qt::Key_Return);
-        const auto *behavior = m_window->document().package()->behaviors().first();
-        const auto english = Zel::Language::defaultLanguage();
-        const QStringList added{QStringLiteral("greeting"), QStringLiteral("greetings")};
-        QCOMPARE(behavior->tags(english), added);
-
-        auto *tags = view<QListView>("Tags");
-        tags->setFocus();
-        tags->setCurrentIndex(tags->model()->index(0, 0));
-        press(Qt::Key_F2);
-        replaceText(QStringLiteral("hello"));
-        press(Qt::Key_Return);
-        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
-        QCoreApplication::processEvents(); // the editor closes asynchronously
-        press(Qt::Key_F2);
-        replaceText(QStringLiteral("never"));
-        press(Qt::Key_Escape);
-        QCOMPARE(behavior->tags(english).first(), QStringLiteral("hello"));
-        stack()->undo();
-        stack()->undo();
-        QCOMPARE(behavior->tags(english), added.mid(0, 1));
-    }
-
     void editsDialogsAndServices() {
         QVERIFY(m_window->openFile(copyOf("ten-languages")));
         const QByteArray before = manifest();
         m_window->showPage(4);
-        field("&Topic:")->setFocus();
-        replaceText(QStringLiteral("talk"));
         auto *topics = view<QTableView>("Topic files");
-        topics->setFocus();
-        topics->setCurrentIndex(topics->model()->index(1, 1));
-        press(Qt::Key_F2);
-        replaceText(QStringLiteral("talk.top"));
-        press(Qt::Key_Return);
+        const QModelIndex topic = topics->model()->index(1, 1);
+        topics->setCurrentIndex(topic);
         QTest::mouseClick(button("Remove Fi&le"), Qt::LeftButton);
-        QVERIFY(!manifest().contains("talk.top"));
+        QVERIFY(topic.data().toString().isEmpty());
 
         m_window->showPage(5);
         auto *services = view<QTableView>("Services");
@@ -485,7 +389,7 @@ private Q_SLOTS:
         services->setCurrentIndex(services->model()->index(2, 2));
         press(Qt::Key_Space);
         QVERIFY(m_window->document().package()->services().at(2)->isAutoRun());
-        QCOMPARE(stack()->count(), 4);
+        QCOMPARE(stack()->count(), 2);
         // Undo works from the history view as well as by keyboard.
         auto *history = m_window->findChild<QUndoView *>();
         QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
@@ -509,54 +413,26 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().fileName(), first);
     }
 
-    void speaksTheUsersLanguage_data() {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("French") << "fr_FR.UTF-8"
-                                << "Le manifeste à ouvrir.";
-        QTest::newRow("Japanese") << "ja_JP.UTF-8"
-                                  << "開くマニフェスト。";
-    }
     void speaksTheUsersLanguage() {
-        QFETCH(QString, locale);
-        QFETCH(QString, expected);
-        QProcess program;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("LC_ALL"), locale);
-        program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(ZEL_EDITOR_PROGRAM), {QStringLiteral("--help")});
-        QVERIFY(program.waitForFinished());
-        const QString shown = QString::fromUtf8(program.readAllStandardOutput());
-        QVERIFY2(shown.contains(expected), qPrintable(shown));
-    }
-
-    // Shows a behavior that reappears.
-    void showsTheBehaviorThatComesAndGoes() {
-        QVERIFY(m_window->openFile(copyOf("ten-languages")));
-        m_window->showPage(3);
-        auto *list = view<QTreeView>("Behaviors");
-        list->setCurrentIndex(list->model()->index(2, 0));
-        const QString path = field("Pa&th:")->text();
-        auto *remove = list->parentWidget()->findChildren<QPushButton *>().last();
-        QTest::mouseClick(remove, Qt::LeftButton);
-        QVERIFY(field("Pa&th:")->text() != path);
-        stack()->undo();
-        QCOMPARE(field("Pa&th:")->text(), path);
-        QCOMPARE(list->currentIndex().data().toString(), path);
+        for (const auto &[locale, expected] : {std::pair("fr_FR.UTF-8", "Le manifeste à ouvrir."),
+                                               {"ja_JP.UTF-8", "開くマニフェスト。"}}) {
+            QProcess program;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("LC_ALL"), QLatin1String(locale));
+            program.setProcessEnvironment(environment);
+            program.start(QStringLiteral(ZEL_EDITOR_PROGRAM), {QStringLiteral("--help")});
+            QVERIFY(program.waitForFinished());
+            const QByteArray shown = program.readAllStandardOutput();
+            QVERIFY2(shown.contains(expected), shown.constData());
+        }
     }
 
     void tenThousandBehaviors() {
         const QString fileName = m_directory.filePath(QStringLiteral("many.xml"));
-        {
-            Tano::PackageInfo info;
-            Zel::PackageInfoModel package;
-            for (int i = 0; i < 10000; ++i) {
-                Tano::BehaviorInfo behavior;
-                behavior.setPath("behavior-" + std::to_string(i));
-                package.addBehavior(behavior);
-            }
-            QVERIFY(package.saveToManifestFile(fileName));
-        }
+        Zel::PackageInfoModel package;
+        for (int i = 0; i < 10000; ++i)
+            package.addBehavior(QStringLiteral("behavior-%1").arg(i));
+        QVERIFY(package.saveToManifestFile(fileName));
         QVERIFY(m_window->openFile(fileName));
         m_window->showPage(3);
         auto *list = view<QTreeView>("Behaviors");
@@ -586,21 +462,6 @@ private Q_SLOTS:
             for (const auto *area : m_window->findChildren<QScrollArea *>())
                 QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
                          area->widget()->metaObject()->className());
-        }
-    }
-
-    // Every field has an accessible name, for keyboard and screen reader users.
-    void fieldsAreNamed() {
-        for (const auto *edit : m_window->findChildren<QWidget *>()) {
-            if (!(edit->focusPolicy() & Qt::TabFocus) || qobject_cast<const QScrollArea *>(edit) ||
-                edit->objectName().startsWith(QLatin1String("qt_")) ||
-                edit->inherits("QAbstractButton") || edit->inherits("QTabBar") ||
-                edit->inherits("QComboBoxListView") || edit->inherits("QHeaderView") ||
-                (edit->focusProxy() != nullptr))
-                continue;
-            const QString name = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(edit))
-                                     ->text(QAccessible::Name);
-            QVERIFY2(!name.isEmpty(), edit->metaObject()->className());
         }
     }
 

@@ -1,12 +1,15 @@
-// Detects unnoticed faults: a manifest with one fault that the schema rejects must be rejected by
-// the reader or have one more finding than without the fault. Exceptions are listed in a table
-// below.
+// Compares the reader with the schema, which xmllint applies. A manifest with one fault that the
+// schema rejects must be rejected by the reader or have one more finding than without the fault.
+// The reader accepts what the schema accepts, and saves it in a form that the schema accepts.
+// Exceptions are listed in a table below.
 
 #include "text.h"
 #include "xml_tree.h"
 
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_issues.h>
+
+#include <tano/kept_content.h>
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -50,6 +53,7 @@ private:
                 continue;
             replaceChild(parent, i, {}, "removed");
             replaceChild(parent, i, {parent.children[i], parent.children[i]}, "duplicated");
+            move(parent, i);
             change(parent.children[i]);
             visitChildren(parent.children[i]);
         }
@@ -61,6 +65,21 @@ private:
         const auto at = parent.children.erase(parent.children.begin() + std::ptrdiff_t(index));
         parent.children.insert(at, others.begin(), others.end());
         m_visit(before[index].name % u' ' % text(fault), m_root);
+        parent.children = before;
+    }
+
+    // Moves a child behind the next one, and into it.
+    void move(Element &parent, std::size_t index) {
+        const auto before = parent.children;
+        if (index + 1 == before.size())
+            return;
+        std::swap(parent.children[index], parent.children[index + 1]);
+        m_visit(before[index].name % text(" moved"), m_root);
+        if (!parent.children[index].name.isEmpty()) {
+            parent.children[index].children.push_back(before[index]);
+            parent.children.erase(parent.children.begin() + std::ptrdiff_t(index + 1));
+            m_visit(before[index].name % text(" misplaced"), m_root);
+        }
         parent.children = before;
     }
 
@@ -84,6 +103,18 @@ private:
         }
         for (int i = 0; i < before.attributes.size(); ++i)
             changeAttribute(element, i, visit);
+        const QString xml = text("http://www.w3.org/XML/1998/namespace");
+        for (const auto &[name, value] : {std::pair("odd", text("1")),
+                                          {"language", text("1")},
+                                          {"x:language", text("1")},
+                                          {"xml:space", text("1")},
+                                          {"xmlns", text("urn:x")},
+                                          {"xmlns:x", text("urn:x")},
+                                          {"xmlns:x", xml},
+                                          {"xmlns:xml", xml}}) {
+            element.attributes.append({text(name), value});
+            visit(text(name) % text(" added"));
+        }
     }
 
     static void changeAttribute(Element &element, int index,
@@ -109,10 +140,7 @@ private:
     Visit m_visit;
 };
 
-std::map<QString, int> countsOfIssues(const QByteArray &content) {
-    Tano::PackageInfo record;
-    if (!record.loadFromManifestContent(content.toStdString()))
-        return {{text("refused"), 1}};
+std::map<QString, int> countsOfIssues(const Tano::PackageInfo &record) {
     const Zel::PackageInfoModel package(record);
     Zel::PackageModel::IssueOptions options{{}, &record};
     options.withFixes = false;
@@ -131,6 +159,20 @@ struct Mutant {
     QString fault;
     QString path;
     const std::map<QString, int> *before; // the findings without the fault
+    QByteArray content{};
+    Tano::PackageInfo record{};
+    bool isAccepted = false;
+
+    QString canonicalPath() const { return path % text(".canonical"); }
+
+    // Writes the manifest and, if the reader accepts it, its canonical form.
+    void writeFiles(const Element &root) {
+        content = written(root).toUtf8();
+        write(path, content);
+        isAccepted = record.loadFromManifestContent(content.toStdString());
+        if (isAccepted)
+            write(canonicalPath(), QByteArray::fromStdString(record.saveToManifestContent()));
+    }
 };
 
 // A change that the schema rejects although it is valid.
@@ -150,11 +192,19 @@ bool isException(const Mutant &mutant) {
     });
 }
 
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    return file.readAll();
+// How reader, checks and schema disagree about a mutant, if they do.
+QString disagreement(const Mutant &mutant, const QSet<QString> &valid) {
+    const bool isValid = valid.contains(mutant.path);
+    const bool isCanonicalValid = valid.contains(mutant.canonicalPath());
+    if (!mutant.isAccepted)
+        return isValid ? text("refused: ") % Zel::fromUtf8(mutant.record.errorString()) : QString();
+    if (isException(mutant))
+        return {};
+    if (!isCanonicalValid && Tano::unknownNodes(mutant.record).empty())
+        return text("saved in an invalid form");
+    const bool isOnlyMoved = isCanonicalValid && mutant.fault.endsWith(text(" moved"));
+    const bool isReported = hasMore(countsOfIssues(mutant.record), *mutant.before);
+    return isValid || isOnlyMoved || isReported ? QString() : text("unnoticed");
 }
 
 } // namespace
@@ -189,51 +239,40 @@ private Q_SLOTS:
     void oneFault() {
         // Tests one of so many; 1 tests all, which takes minutes.
         const int wanted = qEnvironmentVariableIntValue("ZEL_FAULT_STEP");
-        const int step = wanted > 0 ? wanted : 19;
+        const int step = wanted > 0 ? wanted : 37;
         const QDir dir(m_dir.filePath(text("mutants")));
         dir.mkpath(text("."));
         std::map<QString, std::map<QString, int>> before;
         std::vector<Mutant> mutants;
         int number = 0;
         for (const QString &seed : std::as_const(m_seeds)) {
-            const auto &counts = before[seed] = countsOfIssues(contentOf(seed));
+            Mutant none{{}, seed, nullptr};
+            none.writeFiles(treeOf(seed));
+            const auto &counts = before[seed] = countsOfIssues(none.record);
             Faults(treeOf(seed), [&](const QString &fault, const Element &root) {
                 if (number++ % step != 0)
                     return;
-                const QString path = dir.filePath(QString::number(number));
-                mutants.push_back({fault, path, &counts});
-                write(path, written(root).toUtf8());
+                mutants.push_back({fault, dir.filePath(QString::number(number)), &counts});
+                mutants.back().writeFiles(root);
             }).visitAll();
         }
-        checkMutants(mutants, acceptedBySchema(dir));
+
+        const QSet<QString> valid = acceptedBySchema(dir);
+        int accepted = 0;
+        QStringList disagreements;
+        for (const Mutant &mutant : mutants) {
+            accepted += mutant.isAccepted ? 1 : 0;
+            const QString found = disagreement(mutant, valid);
+            if (!found.isEmpty())
+                disagreements += mutant.fault % text(": ") % found % u'\n' %
+                                 QString::fromUtf8(mutant.content).left(500);
+        }
+        qInfo("%d mutants, %d accepted", int(mutants.size()), accepted);
+        QVERIFY2(disagreements.isEmpty(), qPrintable(disagreements.join(u'\n')));
+        QVERIFY(accepted > int(mutants.size()) / 10 && accepted < int(mutants.size()) * 9 / 10);
     }
 
 private:
-    static void checkMutants(const std::vector<Mutant> &mutants, const QSet<QString> &valid) {
-        QStringList unnoticed;
-        int refused = 0;
-        int reported = 0;
-        int excepted = 0;
-        for (const Mutant &mutant : mutants) {
-            if (valid.contains(mutant.path))
-                continue;
-            const QByteArray content = contentOf(mutant.path);
-            const auto counts = countsOfIssues(content);
-            if (counts.count(text("refused")) != 0)
-                ++refused;
-            else if (hasMore(counts, *mutant.before))
-                ++reported;
-            else if (isException(mutant))
-                ++excepted;
-            else
-                unnoticed += mutant.fault % u'\n' % QString::fromUtf8(content).left(500);
-        }
-        qInfo("%d mutants: %d valid, %d refused, %d reported, %d exceptions", int(mutants.size()),
-              int(valid.size()), refused, reported, excepted);
-        QVERIFY(refused > 0 && reported > 0);
-        QVERIFY2(unnoticed.isEmpty(), qPrintable(unnoticed.join(u'\n')));
-    }
-
     QTemporaryDir m_dir;
     QStringList m_seeds;
 };

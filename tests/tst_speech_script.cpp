@@ -78,14 +78,10 @@ private Q_SLOTS:
         for (int i = 0; i < 64; ++i)
             attributes += " a" + std::to_string(i) + "=''";
         const std::string mebibyte(std::size_t(1) << 20, 'x');
-        row("64 within each other", repeated("<s>", 64) + "a", repeated("</s>", 64), "a");
         row("65 within each other", repeated("<s>", 65) + "a", repeated("</s>", 65),
-            "error: Line 1, column 193: More than 64 elements are nested.");
-        row("a million within each other", repeated("<s>", 1000000), repeated("</s>", 1000000),
             "error: Line 1, column 193: More than 64 elements are nested.");
         row("a million, never closed", repeated("<item>", 1000000), "",
             "error: Line 1, column 385: More than 64 elements are nested.");
-        row("64 attributes", "<w" + attributes + ">", "a</w>", "a");
         row("65 attributes", "<w" + attributes + " b=''>", "a</w>",
             "error: Line 1, column 1: The element <w> has more than 64 attributes.");
         row("long tag", "<w a='" + mebibyte + "'>", "a</w>",
