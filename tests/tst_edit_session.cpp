@@ -34,7 +34,7 @@ QByteArray sampleFile() {
 
 bool isSame(const UnsavedEdits &a, const UnsavedEdits &b) {
     return a.fileName == b.fileName && a.manifest == b.manifest && a.digest == b.digest &&
-           a.time == b.time && a.edits == b.edits;
+           a.time == b.time && a.edits == b.edits && a.icon == b.icon;
 }
 
 int runEditor(const QString &folder, const QString &manifest) {
@@ -64,6 +64,7 @@ private Q_SLOTS:
         QCOMPARE(fromFile.unsaved.edits.size(), 2);
         UnsavedEdits unsavedPackage = sample({}, QStringLiteral("Ada"));
         unsavedPackage.manifest = "<package uid=\"\xC3\xA9\"/>\n";
+        unsavedPackage.icon = QByteArray();
         for (const UnsavedEdits &each : {fromFile.unsaved, unsavedPackage})
             QVERIFY(isSame(unsavedEditsFromJson(toJson(each)).unsaved, each));
     }

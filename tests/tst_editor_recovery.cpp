@@ -1,7 +1,9 @@
 #include "document/field_edits.h"
 #include "document/recovery.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -48,6 +50,37 @@ private Q_SLOTS:
         QCOMPARE(next.document.undoStack()->count(), 1);
         QVERIFY(next.document.isModified());
         QVERIFY(next.document.save(m_manifest));
+        QCOMPARE(kept(), 0);
+    }
+
+    void keepsTheIcon_data() {
+        QTest::addColumn<bool>("isRemoved");
+        QTest::newRow("new") << false;
+        QTest::newRow("removed") << true;
+    }
+    void keepsTheIcon() {
+        QFETCH(const bool, isRemoved);
+        const auto sizes = [](const Session &session) {
+            return session.document.package()->icon().availableSizes();
+        };
+        QImage picture(3, 2, QImage::Format_ARGB32);
+        picture.fill(Qt::red);
+        QByteArray png;
+        QBuffer buffer(&png);
+        picture.save(&buffer, "PNG");
+        if (isRemoved)
+            picture.save(m_folder->filePath(QStringLiteral("icon.png")));
+        crashWith({}, [&](Session &session) {
+            session.document.setIcon(isRemoved ? QByteArray() : png);
+        });
+        Session next(state());
+        QVERIFY(next.document.open(m_manifest));
+        const auto before = sizes(next);
+        QCOMPARE(next.recovery->restore(), QString());
+        QCOMPARE(sizes(next), isRemoved ? QList<QSize>() : QList<QSize>{picture.size()});
+        QCOMPARE(next.document.undoStack()->count(), 1);
+        next.document.undoStack()->undo();
+        QCOMPARE(sizes(next), before);
         QCOMPARE(kept(), 0);
     }
 

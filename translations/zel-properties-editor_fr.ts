@@ -1034,6 +1034,10 @@ Version %1</translation>
         <source>Later</source>
         <translation>Plus tard</translation>
     </message>
+    <message>
+        <source>The icon</source>
+        <translation>L&apos;icône</translation>
+    </message>
 </context>
 <context>
     <name>Editor::Reloading</name>

@@ -1034,6 +1034,10 @@ Version %1</source>
         <source>Later</source>
         <translation>後で</translation>
     </message>
+    <message>
+        <source>The icon</source>
+        <translation>アイコン</translation>
+    </message>
 </context>
 <context>
     <name>Editor::Reloading</name>

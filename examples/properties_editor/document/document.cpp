@@ -1,6 +1,7 @@
 #include "document.h"
 
 #include <packagemodel/edit_session.h>
+#include <packagemodel/set_command.h>
 
 #include <tano/kept_content.h>
 
@@ -26,12 +27,18 @@ void connectAll(const Sender *sender, const QObject *context, Function function,
     (QObject::connect(sender, signals, context, function), ...);
 }
 
-QPixmap largest(const QIcon &icon) {
+// The largest size as PNG, empty for a null icon; nullopt on failure.
+std::optional<QByteArray> pngOf(const QIcon &icon) {
+    if (icon.isNull())
+        return QByteArray();
     QSize size(256, 256);
     const auto available = icon.availableSizes();
     if (!available.isEmpty())
         size = available.last();
-    return icon.pixmap(size);
+    QBuffer buffer;
+    if (!icon.pixmap(size).save(&buffer, "PNG"))
+        return {};
+    return buffer.data();
 }
 
 // Whether loading the written manifest gives the same package for edits. Loading places comments
@@ -141,16 +148,26 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
     Tano::FileToSave file;
     file.path = Zel::toUtf8(directory.filePath(QStringLiteral("icon.png")));
     file.links = Tano::FileToSave::Links::Refuse;
-    if (!icon.isNull()) {
-        QBuffer buffer;
-        if (!largest(icon).save(&buffer, "PNG")) {
-            m_errorString = tr("The icon cannot be converted to PNG.");
-            return false;
-        }
-        file.bytes = buffer.data().toStdString();
+    const auto png = pngOf(icon);
+    if (!png) {
+        m_errorString = tr("The icon cannot be converted to PNG.");
+        return false;
     }
+    if (!icon.isNull())
+        file.bytes = png->toStdString();
     files.push_back(std::move(file));
     return true;
+}
+
+std::optional<QByteArray> Document::pendingIcon() const {
+    const QIcon icon = m_package->icon();
+    return keyOf(icon) == m_savedIcon ? std::nullopt : pngOf(icon);
+}
+
+void Document::setIcon(const QByteArray &png) {
+    QPixmap picture;
+    picture.loadFromData(png, "PNG");
+    push(new Zel::PackageGenericValueCommand<QIcon>(m_package.get(), QIcon(picture)));
 }
 
 bool Document::publish(const QString &fileName) {

@@ -99,6 +99,10 @@ public:
     /// The edits from the package as opened or last saved to the current one, or the whole package
     /// if edits cannot express the change exactly. Excludes the icon.
     Zel::PackageModel::Edits pendingEdits() const;
+    /// The icon as PNG if it has changed since, empty if there is none any more.
+    std::optional<QByteArray> pendingIcon() const;
+    /// Sets the icon from a PNG file's content, as an undo step.
+    void setIcon(const QByteArray &png);
 
     // The current issues.
 

@@ -80,6 +80,7 @@ void Recovery::keep() {
     unsaved.digest = m_document.digest();
     unsaved.time = QDateTime::currentDateTimeUtc();
     unsaved.edits = m_document.pendingEdits();
+    unsaved.icon = m_document.pendingIcon();
     if (m_leftover && !m_spare)
         m_spare.emplace(m_folder);
     const QString error = (m_leftover ? m_spare : m_session)->keep(unsaved);
@@ -105,13 +106,15 @@ bool Recovery::isFileChanged() const {
 QString Recovery::restore() {
     if (!m_leftover)
         return {};
-    const auto edits = m_leftover->edits;
-    const QString error = changesOf(m_document.package(), edits).error;
+    const QString error = changesOf(m_document.package(), m_leftover->edits).error;
     if (!error.isEmpty())
         return error;
-    m_leftover.reset();
+    const UnsavedEdits unsaved = *std::exchange(m_leftover, std::nullopt);
     m_isKept = true; // until they are saved or undone
-    m_document.edit(edits, tr("Recovered edits"));
+    if (!unsaved.edits.isEmpty())
+        m_document.edit(unsaved.edits, tr("Recovered edits"));
+    if (unsaved.icon)
+        m_document.setIcon(*unsaved.icon);
     return {};
 }
 

@@ -13,8 +13,6 @@ namespace Editor {
 
 /// Stores unsaved edits on disk a few seconds after each edit, and finds those of an editor that
 /// crashed. Also locks the manifest, so that a second window notices the first.
-///
-/// The icon is not included.
 class Recovery : public QObject {
     Q_OBJECT
 
@@ -36,8 +34,8 @@ public:
     const std::optional<Zel::PackageModel::UnsavedEdits> &leftover() const { return m_leftover; }
     /// Whether the file has changed since the leftover edits were made.
     bool isFileChanged() const;
-    /// Applies the leftover edits as one undo step. On failure, returns the reason and keeps them
-    /// on disk.
+    /// Applies the leftover edits as one undo step, and a leftover icon as another. On failure,
+    /// returns the reason and keeps them on disk.
     QString restore();
     /// Removes the leftover edits.
     void dismiss();

@@ -28,6 +28,10 @@ QString timeOf(const UnsavedEdits &unsaved) {
     return QLocale().toString(unsaved.time.toLocalTime(), QLocale::ShortFormat);
 }
 
+QStringList iconLine(const UnsavedEdits &unsaved) {
+    return unsaved.icon ? QStringList{RecoveryDialogs::tr("The icon")} : QStringList();
+}
+
 // The first changes, and the number of others.
 QString summaryOf(QStringList lines) {
     const int left = int(lines.size()) - shownLines;
@@ -76,7 +80,7 @@ void RecoveryDialogs::offerLeftover() {
         QMessageBox::Question, tr("Recovery"),
         tr("The editor ended before the edits of %1 were saved.").arg(timeOf(unsaved)),
         QMessageBox::NoButton, m_window);
-    QString details = summaryOf(changes.lines);
+    QString details = summaryOf(changes.lines + iconLine(unsaved));
     if (m_recovery.isFileChanged())
         details.prepend(tr("The file has changed since. The edits are made in the file as it is "
                            "now.") +
@@ -111,9 +115,10 @@ void RecoveryDialogs::offerLeftovers() {
             QMessageBox::Question, tr("Recovery"),
             tr("The editor ended before the edits of %1 were saved.").arg(timeOf(leftover.unsaved)),
             QMessageBox::NoButton, m_window);
-        box.setInformativeText(tr("Edits: %1, in %2")
-                                   .arg(leftover.unsaved.edits.size())
-                                   .arg(nameOf(leftover.unsaved)));
+        box.setInformativeText(
+            tr("Edits: %1, in %2")
+                .arg(leftover.unsaved.edits.size() + iconLine(leftover.unsaved).size())
+                .arg(nameOf(leftover.unsaved)));
         auto *recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
         auto *discard = box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
         auto *later = box.addButton(tr("Later"), QMessageBox::RejectRole);

@@ -5,6 +5,7 @@
 #include <QDateTime>
 
 #include <memory>
+#include <optional>
 
 namespace Zel::PackageModel {
 
@@ -19,10 +20,13 @@ struct UnsavedEdits {
     QByteArray digest;
     QDateTime time; ///< when the last edit was kept; UTC, in seconds
     Edits edits;    ///< in order
+    /// The icon as PNG, empty if it was removed; nullopt if it was not changed.
+    std::optional<QByteArray> icon = {};
 };
 
 /// Unsaved edits as JSON: `{"format": 1, "manifest": "/.../manifest.xml", "xxh3": "...", "time":
-/// "2026-11-21T12:00:00Z", "edits": [...]}`; see schema/unsaved-edits.schema.json.
+/// "2026-11-21T12:00:00Z", "edits": [...]}`, with the icon in Base64; see
+/// schema/unsaved-edits.schema.json.
 PACKAGEMODEL_EXPORT QByteArray toJson(const UnsavedEdits &unsaved);
 
 /// The outcome of reading unsaved edits.

@@ -58,7 +58,7 @@ QJsonValue JsonMembers::take(QLatin1String name, QJsonValue::Type type) {
 }
 
 QString JsonMembers::takeOptionalText(QLatin1String name) {
-    return m_object.contains(name) ? take(name, QJsonValue::String).toString() : QString();
+    return has(name) ? take(name, QJsonValue::String).toString() : QString();
 }
 
 int JsonMembers::takeNumber(QLatin1String name) {

@@ -20,6 +20,7 @@ public:
     /// Takes a required member. QJsonValue::Undefined accepts any type.
     QJsonValue take(QLatin1String name, QJsonValue::Type type);
     /// Takes an optional text.
+    bool has(QLatin1String name) const { return m_object.contains(name); }
     QString takeOptionalText(QLatin1String name);
     int takeNumber(QLatin1String name);
     void fail(const QString &name, const QString &reason);

@@ -14,6 +14,17 @@ const QLatin1String manifestMember("manifest");
 const QLatin1String contentMember("content");
 const QLatin1String digestMember("xxh3");
 const QLatin1String timeMember("time");
+const QLatin1String iconMember("icon");
+
+std::optional<QByteArray> takeIcon(JsonMembers &members) {
+    if (!members.has(iconMember))
+        return {};
+    const QByteArray text = members.take(iconMember, QJsonValue::String).toString().toLatin1();
+    const auto icon = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    if (members.error.isEmpty() && !icon)
+        members.fail(iconMember, misfit());
+    return icon.decoded;
+}
 
 } // namespace
 
@@ -27,6 +38,8 @@ QByteArray toJson(const UnsavedEdits &unsaved) {
         object.insert(contentMember, QString::fromUtf8(unsaved.manifest));
     else
         object.insert(manifestMember, unsaved.fileName);
+    if (unsaved.icon)
+        object.insert(iconMember, QString::fromLatin1(unsaved.icon->toBase64()));
     insertEdits(object, unsaved.edits);
     return toText(object);
 }
@@ -43,6 +56,7 @@ ParsedUnsavedEdits unsavedEditsFromJson(const QByteArray &json) {
         QDateTime::fromString(members.take(timeMember, QJsonValue::String).toString(), Qt::ISODate);
     if (members.error.isEmpty() && !unsaved.time.isValid())
         members.fail(timeMember, misfit());
+    unsaved.icon = takeIcon(members);
     unsaved.edits = takeEdits(members);
     members.refuseOthers();
     if (!members.error.isEmpty())
