@@ -216,11 +216,42 @@ private Q_SLOTS:
         }
         if (all.isEmpty())
             return;
+        PackageInfoModel inTurn(package.packageInfo());
+        for (const Issue &issue : all)
+            QCOMPARE(apply(&inTurn, ignoringEdits(&inTurn, {issue})).error, QString());
         QCOMPARE(apply(&package, ignoringEdits(&package, all)).error, QString());
+        QCOMPARE(package.saveToManifestContent(), inTurn.saveToManifestContent());
         QCOMPARE(listing(issues(&package, options)), QByteArray());
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/ignored-") %
                                 QFileInfo(file).dir().dirName() % text(".txt"),
                             places + package.saveToManifestContent());
+    }
+
+    // The comments of many behaviors with the same path, added and read at once, also those of
+    // texts that do not reach the record before it is synchronized.
+    void ignoredInsertions() {
+        const RobotLanguage english = Zel::robotLanguage(text("en_US"));
+        PackageInfoModel package;
+        Tano::BehaviorInfo behavior;
+        behavior.setPath("greet");
+        behavior.addTag(" ", "en_US");
+        for (int i = 0; i < 50; ++i) {
+            package.addBehavior(behavior);
+            package.behaviors().last()->insertTag(text("  "), english, 0);
+            package.behaviors().last()->insertTriggerSentence(text(" "), english, 0);
+        }
+        IssueOptions options;
+        options.filterFor = notIgnored;
+        auto blank = issues(&package, options);
+        const auto isOther = [](const Issue &issue) { return issue.id != text("text-blank"); };
+        blank.erase(std::remove_if(blank.begin(), blank.end(), isOther), blank.end());
+        QCOMPARE(blank.size(), 150);
+        for (const Issue &issue : {blank.first(), blank.at(70), blank.last()})
+            QCOMPARE(apply(&package, ignoringEdits(&package, {issue})).error, QString());
+        QCOMPARE(package.behaviors().last()->tags(english).size(), 2);
+        QCOMPARE(apply(&package, ignoringEdits(&package, blank)).error, QString());
+        const auto left = issues(&package, options);
+        QVERIFY(std::all_of(left.begin(), left.end(), isOther));
     }
 
     // Commands that fix, ignore and edit lead back and forth exactly.
