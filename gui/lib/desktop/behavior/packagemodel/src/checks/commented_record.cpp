@@ -12,11 +12,12 @@ bool hasIgnoreComments(const Tano::BehaviorInfo &behavior) {
     return Tano::hasComment(package, ignoreMark);
 }
 
-Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
+namespace {
+
+// The record without behaviors.
+Tano::PackageInfo ownRecordOf(const PackageInfoModel &package) {
     Tano::PackageInfo record = package.packageInfo();
     record.clearBehaviors();
-    for (const BehaviorInfoModel *behavior : package.behaviors())
-        record.addBehavior(behavior->toBehaviorInfo());
     record.clearDialogs();
     for (const DialogInfoModel *dialog : package.dialogs())
         record.addDialog(dialog->toDialogInfo());
@@ -24,6 +25,18 @@ Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
     for (const ServiceInfoModel *service : package.services())
         record.addService(service->toPackageService());
     return record;
+}
+
+Tano::PackageInfo withBehaviors(Tano::PackageInfo record, const PackageInfoModel &package) {
+    for (const BehaviorInfoModel *behavior : package.behaviors())
+        record.addBehavior(behavior->toBehaviorInfo());
+    return record;
+}
+
+} // namespace
+
+Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
+    return withBehaviors(ownRecordOf(package), package);
 }
 
 Tano::PackageInfo
@@ -41,11 +54,11 @@ withContentOf(const Tano::PackageInfo &record,
     return reduced;
 }
 
-Tano::PackageInfo ownOutline(const Tano::PackageInfo &record) {
+Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package) {
     static const std::string placeholder = "x";
     using Own = Tano::PackageInfo;
+    const Own record = ownRecordOf(package);
     Own outline = record;
-    outline.clearBehaviors();
     for (const auto &[get, set] :
          {std::pair(&Own::uuid, &Own::setUuid), std::pair(&Own::version, &Own::setVersion),
           std::pair(&Own::typeVersion, &Own::setTypeVersion),
@@ -61,6 +74,10 @@ Tano::PackageInfo ownOutline(const Tano::PackageInfo &record) {
     for (const auto &[code, description] : record.descriptions())
         outline.setDescription(description.empty() ? description : placeholder, code);
     return outline;
+}
+
+Tano::PackageInfo outlineOf(const PackageInfoModel &package) {
+    return withContentOf(withBehaviors(ownOutlineOf(package), package), &hasIgnoreComments);
 }
 
 } // namespace Zel::PackageModel

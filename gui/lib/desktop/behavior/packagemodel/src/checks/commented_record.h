@@ -25,9 +25,13 @@ Tano::PackageInfo
 withContentOf(const Tano::PackageInfo &record,
               const std::function<bool(const Tano::BehaviorInfo &behavior)> &isWanted);
 
-/// The record without behaviors, and with the same placeholder for all texts of the package.
-/// Comments depend on whether such a text exists, but not on what it says.
-Tano::PackageInfo ownOutline(const Tano::PackageInfo &record);
+/// The package's own part of outlineOf(): without behaviors.
+Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package);
+
+/// What comments that turn off rules depend on: the record as syncRecord() would make it, with the
+/// same placeholder for all texts of the package, and without the content of behaviors that have no
+/// such comments.
+Tano::PackageInfo outlineOf(const PackageInfoModel &package);
 
 } // namespace PackageModel
 } // namespace Zel

@@ -178,7 +178,7 @@ bool IgnoreComments::ignores(const QString &rule, const QString &field) {
 }
 
 IssueFilter notIgnored(const PackageInfoModel &package) {
-    const auto comments = std::make_shared<IgnoreComments>(syncedRecord(package));
+    const auto comments = std::make_shared<IgnoreComments>(outlineOf(package));
     if (comments->entries().empty())
         return {};
     return [comments](const Issue &issue) { return !comments->ignores(issue.id, issue.path); };
