@@ -4,6 +4,8 @@
 
 #include <tano/kept_content.h>
 
+#include <utility>
+
 namespace Zel::PackageModel {
 
 bool hasIgnoreComments(const Tano::BehaviorInfo &behavior) {
@@ -27,37 +29,9 @@ Tano::PackageInfo ownRecordOf(const PackageInfoModel &package) {
     return record;
 }
 
-Tano::PackageInfo withBehaviors(Tano::PackageInfo record, const PackageInfoModel &package) {
-    for (const BehaviorInfoModel *behavior : package.behaviors())
-        record.addBehavior(behavior->toBehaviorInfo());
-    return record;
-}
-
-} // namespace
-
-Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
-    return withBehaviors(ownRecordOf(package), package);
-}
-
-Tano::PackageInfo
-withContentOf(const Tano::PackageInfo &record,
-              const std::function<bool(const Tano::BehaviorInfo &behavior)> &isWanted) {
-    Tano::PackageInfo reduced = record;
-    for (std::size_t i = 0; i < record.behaviors().size(); ++i) {
-        const Tano::BehaviorInfo &behavior = record.behaviors()[i];
-        if (isWanted(behavior))
-            continue;
-        Tano::BehaviorInfo bare;
-        bare.setPath(behavior.path());
-        reduced.replaceBehavior(int(i), bare);
-    }
-    return reduced;
-}
-
-Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package) {
+Tano::PackageInfo withPlaceholders(const Tano::PackageInfo &record) {
     static const std::string placeholder = "x";
     using Own = Tano::PackageInfo;
-    const Own record = ownRecordOf(package);
     Own outline = record;
     for (const auto &[get, set] :
          {std::pair(&Own::uuid, &Own::setUuid), std::pair(&Own::version, &Own::setVersion),
@@ -76,8 +50,36 @@ Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package) {
     return outline;
 }
 
-Tano::PackageInfo outlineOf(const PackageInfoModel &package) {
-    return withContentOf(withBehaviors(ownOutlineOf(package), package), &hasIgnoreComments);
+} // namespace
+
+Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
+    Tano::PackageInfo record = ownRecordOf(package);
+    for (const BehaviorInfoModel *behavior : package.behaviors())
+        record.addBehavior(behavior->toBehaviorInfo());
+    return record;
+}
+
+Tano::PackageInfo
+withContentOf(const Tano::PackageInfo &record,
+              const std::function<bool(const Tano::BehaviorInfo &behavior)> &isWanted) {
+    Tano::PackageInfo reduced = record;
+    for (std::size_t i = 0; i < record.behaviors().size(); ++i) {
+        const Tano::BehaviorInfo &behavior = record.behaviors()[i];
+        if (isWanted(behavior))
+            continue;
+        Tano::BehaviorInfo bare;
+        bare.setPath(behavior.path());
+        reduced.replaceBehavior(int(i), bare);
+    }
+    return reduced;
+}
+
+Tano::PackageInfo outlineOf(const Tano::PackageInfo &record) {
+    return withContentOf(withPlaceholders(record), &hasIgnoreComments);
+}
+
+Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package) {
+    return withPlaceholders(ownRecordOf(package));
 }
 
 } // namespace Zel::PackageModel

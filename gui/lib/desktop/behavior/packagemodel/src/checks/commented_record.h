@@ -25,13 +25,12 @@ Tano::PackageInfo
 withContentOf(const Tano::PackageInfo &record,
               const std::function<bool(const Tano::BehaviorInfo &behavior)> &isWanted);
 
-/// The package's own part of outlineOf(): without behaviors.
-Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package);
+/// What comments that turn off rules depend on: the record with the same placeholder for all texts
+/// of the package, and without the content of behaviors that have no such comments.
+Tano::PackageInfo outlineOf(const Tano::PackageInfo &record);
 
-/// What comments that turn off rules depend on: the record as syncRecord() would make it, with the
-/// same placeholder for all texts of the package, and without the content of behaviors that have no
-/// such comments.
-Tano::PackageInfo outlineOf(const PackageInfoModel &package);
+/// The outline of the package itself, without behaviors.
+Tano::PackageInfo ownOutlineOf(const PackageInfoModel &package);
 
 } // namespace PackageModel
 } // namespace Zel

@@ -178,7 +178,10 @@ bool IgnoreComments::ignores(const QString &rule, const QString &field) {
 }
 
 IssueFilter notIgnored(const PackageInfoModel &package) {
-    const auto comments = std::make_shared<IgnoreComments>(outlineOf(package));
+    const Tano::PackageInfo record = syncedRecord(package);
+    if (!Tano::hasComment(record, ignoreMark))
+        return {};
+    const auto comments = std::make_shared<IgnoreComments>(outlineOf(record));
     if (comments->entries().empty())
         return {};
     return [comments](const Issue &issue) { return !comments->ignores(issue.id, issue.path); };
@@ -266,7 +269,7 @@ private:
     };
     std::vector<Pending> pendingOf(const QVector<Issue> &issues);
     void addAt(const Pending &pending, const Spots &spots);
-    Tano::PackageInfo withAdditions(const Tano::PackageInfo &record) const;
+    std::optional<Tano::PackageInfo> withAdditions(const Tano::PackageInfo &record) const;
 
     const Tano::PackageInfo &m_record;
     TextBlocks m_blocks;
@@ -312,7 +315,8 @@ void Ignoring::addAt(const Pending &pending, const Spots &spots) {
     }
 }
 
-Tano::PackageInfo Ignoring::withAdditions(const Tano::PackageInfo &record) const {
+// Nothing if a comment cannot be written.
+std::optional<Tano::PackageInfo> Ignoring::withAdditions(const Tano::PackageInfo &record) const {
     std::vector<Tano::KeptComment> removed;
     std::vector<Tano::KeptComment> added;
     for (const auto &[element, addition] : m_additions) {
@@ -322,8 +326,9 @@ Tano::PackageInfo Ignoring::withAdditions(const Tano::PackageInfo &record) const
         const QStringList before = extended ? rulesIn(*extended) : QStringList();
         added.push_back({commentText(before + rules), {}, element, 0});
     }
-    return Tano::withComments(removed.empty() ? record : Tano::withoutComments(record, removed),
-                              added);
+    const auto base = removed.empty() ? record : Tano::withoutComments(record, removed);
+    const auto changed = Tano::withComments(base, added);
+    return changed == base ? std::nullopt : std::optional(changed);
 }
 
 std::optional<Tano::PackageInfo> Ignoring::operator()(const QVector<Issue> &issues) {
@@ -338,12 +343,10 @@ std::optional<Tano::PackageInfo> Ignoring::operator()(const QVector<Issue> &issu
     const Spots spots = spotsOf(reduced, places);
     for (const Pending &pending : all)
         addAt(pending, spots);
-    if (m_additions.empty())
-        return {};
-    Tano::PackageInfo changed = withAdditions(reduced);
-    for (std::size_t i = 0; i < m_record.behaviors().size(); ++i) {
+    auto changed = withAdditions(reduced);
+    for (std::size_t i = 0; changed && i < m_record.behaviors().size(); ++i) {
         if (!isWanted(m_record.behaviors()[i]))
-            changed.replaceBehavior(int(i), m_record.behaviors()[i]);
+            changed->replaceBehavior(int(i), m_record.behaviors()[i]);
     }
     return changed;
 }
