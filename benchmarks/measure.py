@@ -91,12 +91,16 @@ BYTES = {"heap", "resident", "models", "file"}
 
 def output_of(command, **options):
     """The output of a command, or None if this build lacks it."""
+    if not Path(command[0]).exists():
+        return None
     done = subprocess.run(command, capture_output=True, text=True, check=False, **options)
     return done.stdout if done.returncode == 0 else None
 
 
 def processor_time(command, runs=1, **options):
-    """Microseconds of processor time per run; None if the command fails."""
+    """Microseconds of processor time per run; None if the command fails or does not exist."""
+    if not shutil.which(command[0]):
+        return None
     def used():
         usage = resource.getrusage(resource.RUSAGE_CHILDREN)
         return usage.ru_utime + usage.ru_stime

@@ -1,5 +1,6 @@
 #include "random_input.h"
 
+#include "document/change_list.h"
 #include "document/problem_report.h"
 
 #include <packagemodel/package_edits.h>
@@ -175,9 +176,13 @@ void RandomInput::step() {
     auto choice = choices().begin();
     for (; at >= choice->weight; ++choice)
         at -= choice->weight;
-    log(QStringLiteral("%1 %2 in %3")
+    const QWidget *focus = QApplication::focusWidget();
+    log(QStringLiteral("%1 %2 in %3, focus in %4")
             .arg(m_left)
-            .arg(QLatin1String(choice->name), QLatin1String(target()->metaObject()->className())));
+            .arg(QLatin1String(choice->name), QLatin1String(target()->metaObject()->className()),
+                 focus ? QLatin1String(focus->metaObject()->className()) % u' ' %
+                             focus->accessibleName()
+                       : QString()));
     (this->*choice->event)();
 }
 
@@ -203,6 +208,7 @@ void RandomInput::check() {
     stack->setIndex(0);
     stack->setIndex(index);
     compare(present, "Redo leads to a different package:");
+    Editor::changesBetween(Zel::PackageInfoModel(document.saved()), *document.package());
     const auto issues =
         Zel::PackageModel::issues(document.package(), Editor::issueOptions(document.fileName()));
     const QStringList expected = inWords(issues);

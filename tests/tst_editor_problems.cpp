@@ -3,8 +3,10 @@
 #include "table_file.h"
 
 #include <QAction>
+#include <QBuffer>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QImage>
 #include <QProcess>
 #include <QStatusBar>
 #include <QToolButton>
@@ -111,6 +113,39 @@ private Q_SLOTS:
         stack()->undo();
         QCOMPARE(manifest(), before);
         QCOMPARE(problemCount(), m_count);
+    }
+
+    void followFilesThatAreSaved() {
+        auto &document = m_window->document();
+        QImage icon(2, 2, QImage::Format_ARGB32);
+        icon.fill(Qt::red);
+        QBuffer png;
+        icon.save(&png, "PNG");
+        QVERIFY(column(ProblemsModel::RuleRole).contains(QStringLiteral("icon-invalid")));
+        document.setIcon(png.data());
+        QVERIFY(document.save(m_file));
+        QVERIFY(!column(ProblemsModel::RuleRole).contains(QStringLiteral("icon-invalid")));
+
+        QVERIFY(m_window->openFile(copyOf("faulty")));
+        QVERIFY(document.save(m_directory.filePath(QStringLiteral("elsewhere.xml"))));
+        QCOMPARE(problemCount(), m_count - 1); // there is no icon
+    }
+
+    // Issues of a rule in one element, whose number changes.
+    void equalProblems() {
+        int added = 0;
+        for (const char *elements : {"<foo/>", "<foo/><bar/><baz/>"}) {
+            Tano::PackageInfo record;
+            QVERIFY(record.loadFromManifestContent(
+                contentOf(m_file)
+                    .replace("</package>", elements + QByteArray("</package>"))
+                    .toStdString()));
+            m_window->document().edit({{Zel::PackageModel::Edit::Action::Set, {}, record}});
+            added = added == 0 ? 1 : 3;
+            QCOMPARE(problemCount(), m_count + added);
+        }
+        stack()->undo();
+        QCOMPARE(problemCount(), m_count + 1);
     }
 
     void canBeFixedBesideTheStartPage() {

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
     void keepsThePackage_data() {
         QTest::addColumn<quint32>("seed");
-        for (const quint32 seed : {1U, 2U, 3U})
+        for (const quint32 seed : {1U, 2U, 3U, 2008U, 2037U, 2045U})
             QTest::addRow("seed %u", seed) << seed;
     }
     void keepsThePackage() {

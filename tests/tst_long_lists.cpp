@@ -91,6 +91,20 @@ private Q_SLOTS:
     void init() { m_warnings.watch(); }
     void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
 
+    // The writer estimates the size of a list from its first entries.
+    void unevenListsTakeLittleMemory() {
+        Tano::PackageInfo record;
+        for (int i = 0; i < 3000; ++i) {
+            Tano::BehaviorInfo behavior;
+            behavior.setPath(std::to_string(i));
+            if (i == 0)
+                behavior.setDescription(std::string(std::size_t(4) << 20, 'x'), "en_US");
+            record.addBehavior(behavior);
+        }
+        const std::string written = record.saveToManifestContent();
+        QVERIFY(written.capacity() - written.size() <= std::size_t(64) << 20);
+    }
+
     // Additions, removals and lookups in random order, with occasional reads of the whole list.
     void languagesInOrder() {
         std::mt19937 random(1);

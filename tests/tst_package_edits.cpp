@@ -4,6 +4,7 @@
 #include "table_file.h"
 #include "text.h"
 
+#include <packagemodel/change_words.h>
 #include <packagemodel/package_difference.h>
 #include <packagemodel/package_edit_command.h>
 #include <packagemodel/package_info_model.h>
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void differences();
     void fewEdits_data() { addRowsOf("fields/few-edits.json"); }
     void fewEdits();
+    void descriptionsOfRefusedEdits();
     void repeatedPermissions();
     void otherModelsStay();
     void typedRuns();
@@ -158,6 +160,8 @@ void TestPackageEdits::differences() {
         const Edits found = edits(m_package.get(), &target);
         const ParsedEdits read = editsFromJson(toJson(found));
         QVERIFY2(read.error.isEmpty() && read.edits == found, qPrintable(read.error));
+        PackageInfoModel described(*m_package);
+        visitChanges(&described, found, [](const QString &line) { QVERIFY(!line.isEmpty()); });
         const Applied applied = apply(m_package.get(), found);
         QVERIFY2(applied.error.isEmpty(), qPrintable(applied.error + u'\n' + script(found)));
         QCOMPARE(orderedListing(*m_package), orderedListing(target));
@@ -187,6 +191,13 @@ void TestPackageEdits::fewEdits() {
     QCOMPARE(apply(m_package.get(), applied.inverse).error, QString());
     QCOMPARE(bytes(), before);
     QVERIFY(edits(nullptr, &target).isEmpty() && edits(&target, nullptr).isEmpty());
+}
+
+void TestPackageEdits::descriptionsOfRefusedEdits() {
+    QStringList lines;
+    visitChanges(m_package.get(), {{Edit::Action::Remove, path("descriptions[de_DE]")}},
+                 [&](const QString &line) { lines += line; });
+    QCOMPARE(lines, QStringList{text("Description in German (Germany) removed")});
 }
 
 void TestPackageEdits::repeatedPermissions() {

@@ -10,17 +10,18 @@ using Zel::PackageInfoModel;
 
 ChangeList changesBetween(const PackageInfoModel &from, const PackageInfoModel &to) {
     ChangeList changes;
-    const auto edits = Zel::PackageModel::edits(&from, &to);
+    PackageInfoModel scratch(from); // lacks empty texts
+    const auto edits = Zel::PackageModel::edits(&scratch, &to);
     for (const auto &edit : edits)
         changes.paths.append(edit.path);
-    PackageInfoModel scratch(from);
     Zel::PackageModel::visitChanges(
         &scratch, edits, [&](const QString &line) { changes.lines.append(line.simplified()); });
     return changes;
 }
 
-ChangeList changesOf(const PackageInfoModel *package, const Zel::PackageModel::Edits &edits) {
-    PackageInfoModel after(*package);
+ChangeList changesOf(PackageInfoModel *package, const Zel::PackageModel::Edits &edits) {
+    package->syncRecord();
+    PackageInfoModel after(package->packageInfo()); // an assigned copy would lack empty texts
     const auto applied = Zel::PackageModel::apply(&after, edits);
     ChangeList changes;
     if (applied.error.isEmpty())

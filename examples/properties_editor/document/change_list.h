@@ -14,7 +14,7 @@ struct ChangeList {
 };
 
 /// The net changes of edits, in manifest order.
-ChangeList changesOf(const Zel::PackageInfoModel *package, const Zel::PackageModel::Edits &edits);
+ChangeList changesOf(Zel::PackageInfoModel *package, const Zel::PackageModel::Edits &edits);
 /// The changes from one package to another.
 ChangeList changesBetween(const Zel::PackageInfoModel &from, const Zel::PackageInfoModel &to);
 

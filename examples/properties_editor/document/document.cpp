@@ -134,6 +134,8 @@ bool Document::save(const QString &fileName) {
     m_undoStack.setClean();
     if (isElsewhere)
         trackIssues(); // the files that the package names may not be there
+    else
+        updateIssues(); // the icon is there now
     Q_EMIT fileNameChanged();
     return true;
 }

@@ -142,6 +142,7 @@ private:
     QString refusalOf(const Zel::PackageModel::Edits &edits) const;
     void finishEdit();
     void trackIssues();
+    void updateIssues();
     void indexIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);

@@ -35,6 +35,11 @@ void Document::trackIssues() {
     indexIssues();
 }
 
+void Document::updateIssues() {
+    if (m_tracker->update())
+        indexIssues();
+}
+
 void Document::indexIssues() {
     m_issueByPath.clear();
     m_behaviorSeverity.clear();

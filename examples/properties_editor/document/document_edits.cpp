@@ -186,8 +186,7 @@ void Document::finishEdit() {
         closeRun();
     const QScopedValueRollback<bool> stepping(m_isStepping, isStep);
     m_coverages.reset();
-    if (m_tracker->update())
-        indexIssues();
+    updateIssues();
     Q_EMIT edited();
     if (const auto field = isStep ? changedField(before) : FieldPath(); !field.isEmpty())
         Q_EMIT fieldChanged(Zel::fromUtf8(field.toString()));

@@ -3,6 +3,7 @@
 #include "widgets/marks.h"
 #include "widgets/plain_text.h"
 
+#include <QHash>
 #include <QStringBuilder>
 
 namespace Editor {
@@ -20,6 +21,7 @@ QString fieldLabel(const QString &printedPath) {
 
 ProblemsModel::ProblemsModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
+    connect(&document, &Document::issuesChanged, this, &ProblemsModel::sync); // also by saving
     start();
 }
 
@@ -58,8 +60,11 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
 
 QStringList ProblemsModel::currentKeys() const {
     QStringList keys;
-    for (const Issue &issue : document().issues())
-        keys.append(issue.id % u' ' % issue.path);
+    QHash<QString, int> counts; // an element can have several unknown children
+    for (const Issue &issue : document().issues()) {
+        const QString key = issue.id % u' ' % issue.path % u' ';
+        keys.append(key % QString::number(counts[key]++));
+    }
     return keys;
 }
 

@@ -12,7 +12,9 @@ namespace Editor {
 
 ListMenu::ListMenu(QMenu *menu)
     : QObject(menu)
-    , m_menu(menu) {
+    , m_menu(menu)
+    , m_separator(new QAction(this)) {
+    m_separator->setSeparator(true);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *focus) {
         // Alt gives the focus to the menu bar, and another window takes it.
         if (focus && focus->window() == m_menu->parentWidget()->window() &&
@@ -27,11 +29,12 @@ void ListMenu::follow(const QWidget *focus) {
     const auto *list = qobject_cast<const QAbstractItemView *>(focus);
     if (!list || list->actions().isEmpty())
         return;
-    m_actions.append(m_menu->addSeparator());
+    m_actions.append(m_separator);
     const auto actions = list->actions();
     for (QAction *action : actions)
         m_actions.append(action);
-    m_menu->addActions(actions);
+    for (const auto &action : std::as_const(m_actions))
+        m_menu->addAction(action);
 }
 
 } // namespace Editor

@@ -20,6 +20,7 @@ private:
     void follow(const QWidget *focus);
 
     QMenu *m_menu;
+    QAction *m_separator;
     QVector<QPointer<QAction>> m_actions; // of the list and a separator above them
 };
 

@@ -3,6 +3,7 @@
 #include "file_actions.h"
 #include "file_drop.h"
 #include "find_panel.h"
+#include "history_view.h"
 #include "models/problems_model.h"
 #include "page_stack.h"
 #include "pages/behaviors_page.h"
@@ -153,7 +154,7 @@ void MainWindow::addDocks() {
     connect(m_findPanel, &FindPanel::fieldWanted, this, &MainWindow::showField);
     QDockWidget *find = addDock(tr("Find and Replace"), "find", m_findPanel);
 
-    auto *history = new QUndoView(m_document.undoStack(), this);
+    auto *history = new HistoryView(m_document.undoStack(), this);
     history->setEmptyLabel(tr("As opened"));
     history->setAccessibleName(tr("History"));
     QDockWidget *historyDock = addDock(tr("History"), "history", history);

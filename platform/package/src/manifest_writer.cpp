@@ -61,6 +61,7 @@ private:
                   const TextsRow<Data> &row);
     void codes(const Node &parent, ExtrasWalk &walk, Element kind,
                const std::vector<std::string> &codes);
+    void reserveFor(std::size_t size);
     template<typename Entry>
     void entries(const Node &parent, ExtrasWalk &walk, Element kind,
                  const std::vector<Entry> &entries);
@@ -242,13 +243,19 @@ void Writer::codes(const Node &parent, ExtrasWalk &walk, Element kind,
     }
 }
 
+// The first entries of a list can be much longer than the others.
+void Writer::reserveFor(std::size_t size) {
+    constexpr std::size_t mostSpare = std::size_t(64) << 20;
+    m_out.reserve(m_out.size() + std::min(size, std::max(mostSpare, 2 * m_out.size())));
+}
+
 template<typename Entry>
 void Writer::entries(const Node &parent, ExtrasWalk &walk, Element kind,
                      const std::vector<Entry> &entries) {
     const std::size_t start = m_out.size();
     for (int i = 0; i < int(entries.size()); ++i) {
         if (i == sampledEntries)
-            m_out.reserve(start + (m_out.size() - start) / sampledEntries * entries.size() / 8 * 9);
+            reserveFor((m_out.size() - start) / sampledEntries * entries.size() / 8 * 9);
         const auto &data = dataOf(entries[std::size_t(i)]);
         using Data = std::decay_t<decltype(data)>;
         before(walk, kind, noKey, i);

@@ -15,7 +15,7 @@ namespace Zel::PackageModel {
 ///
 /// ```cpp
 /// PackageInfoModel scratch(opened);
-/// visitChanges(&scratch, edits(&opened, &edited), [&](const QString &line) { list += line; });
+/// visitChanges(&scratch, edits(&scratch, &edited), [&](const QString &line) { list += line; });
 /// ```
 PACKAGEMODEL_EXPORT void visitChanges(PackageInfoModel *package, const Edits &edits,
                                       const std::function<void(const QString &line)> &visit);

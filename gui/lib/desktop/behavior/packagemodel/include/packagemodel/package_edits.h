@@ -9,8 +9,9 @@ namespace Zel::PackageModel {
 /// | action | path | value | index |
 /// |---|---|---|---|
 /// | Set | a field or an entry | the new value | |
-/// | Insert | a list, such as `behaviors` or `behaviors[greet].tags[en_US]` | the entry | the index
-/// | | Remove | an entry or an optional field | | | | Move | an entry | | its new index |
+/// | Insert | a list: `behaviors` or `behaviors[greet].tags[en_US]` | the entry | its index |
+/// | Remove | an entry or an optional field | | |
+/// | Move | an entry | | its new index |
 ///
 /// Setting the empty path replaces the whole package: the differences are edited through the slots,
 /// and comments and unknown content follow. Insert clamps its index to the list. A language is

@@ -77,8 +77,9 @@ struct IssueOptions {
     /// Returns the filter for the issues of a package; null for no filter. fixIssues() calls it
     /// again after each change of the package, since paths with indexes change.
     std::function<IssueFilter(const PackageInfoModel &package)> filterFor = {};
-    /// The paths of the fields whose issues are wanted; empty for all. Behaviors without such a
-    /// field are not checked, so that the result of an edit in a large package is known at once.
+    /// If not empty, only issues with exactly these paths are wanted; the path of an entry does not
+    /// include its fields. Other behaviors are not checked, so that the effect of an edit in a large
+    /// package is known at once.
     QSet<QString> paths = {};
     /// Whether issues get their fixes, which take longer to make than the rest.
     bool withFixes = true;

@@ -51,9 +51,10 @@ QString addition(const FieldPath &path, const FieldValue &value) {
                      shownValue(path, value));
 }
 
-QString removal(const FieldPath &path, const FieldValue &value) {
+// The value is unknown if the edit cannot be made in this package.
+QString removal(const FieldPath &path, const std::optional<FieldValue> &value) {
     return withValue(lineOf(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 removed"), path),
-                     shownValue(path, value));
+                     value ? shownValue(path, *value) : QString());
 }
 
 QString setting(const Edit &edit, const std::optional<FieldValue> &old) {
@@ -86,7 +87,7 @@ QString changeLine(PackageInfoModel *package, const Edit &edit) {
     case Edit::Action::Insert:
         return addition(itemPath(package, edit.path, edit.index), *edit.value);
     case Edit::Action::Remove:
-        return removal(edit.path, *old);
+        return removal(edit.path, old);
     case Edit::Action::Move:
         return inWords(QT_TRANSLATE_NOOP("Zel::PackageModel", "%1 moved to position %2"))
             .arg(label(edit.path), QString::number(edit.index + 1));
