@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QUndoStack>
 
+#include <functional>
 #include <memory>
 
 using namespace Zel;
@@ -134,10 +135,18 @@ private Q_SLOTS:
             options.filterFor = [](const PackageInfoModel &) {
                 return [](const Issue &issue) { return issue.id != text("uid-invalid"); };
             };
+        if (seed % 3 == 1) {
+            options.filterFor = notIgnored;
+            const auto all = issues(package.get(), options);
+            for (int i = 0; i < all.size(); i += 2)
+                apply(package.get(), ignoringEdits(package.get(), {all.at(i)}));
+        }
         IssueTracker tracker(package.get(), options);
         for (int i = 0; i < 60; ++i) {
-            const Edit edit = random.next(*package);
-            apply(package.get(), {edit});
+            Edits edits{random.next(*package)};
+            if (seed % 3 == 1 && i % 15 == 14)
+                edits = ignoringEdits(package.get(), tracker.issues().mid(i % 4, 1));
+            apply(package.get(), edits);
             const QByteArray before = listing(tracker.issues());
             const bool isChanged = tracker.update();
             QVector<Issue> expected = issues(package.get(), options);
@@ -152,6 +161,62 @@ private Q_SLOTS:
         package.reset();
         tracker.update();
         QVERIFY(tracker.issues().isEmpty());
+    }
+
+    // A tracker asks for the filter again only after edits on which comments depend.
+    void keptFilter() {
+        const RobotLanguage english = Zel::robotLanguage(text("en_US"));
+        PackageInfoModel package;
+        QVERIFY(package.loadFromManifestContent(R"(
+<package format="1" uid="u" version="1">
+  <author>a</author>
+  <supportedLanguage code="en_US"/>
+  <behavior path="commented">
+    <texts language="en_US">
+      <!-- zel-package: ignore text-blank -->
+      <triggerSentence> </triggerSentence>
+      <triggerSentence>a</triggerSentence>
+      <triggerSentence>  </triggerSentence>
+    </texts>
+  </behavior>
+  <!-- zel-package: ignore nature-unknown -->
+  <behavior path="plain" nature="x"/>
+</package>)"));
+        IssueOptions options;
+        options.withFixes = false;
+        options.filterFor = notIgnored;
+        int calls = 0;
+        IssueOptions counting = options;
+        counting.filterFor = [&](const PackageInfoModel &changed) {
+            ++calls;
+            return notIgnored(changed);
+        };
+        IssueTracker tracker(&package, counting);
+        BehaviorInfoModel *commented = package.behaviors().first();
+        BehaviorInfoModel *plain = package.behaviors().last();
+        PackageInfoModel moved(package);
+        const std::pair<int, std::function<void()>> edits[]{
+            {1, [&] { commented->addTag(text("x"), english); }},
+            {1, [&] { commented->insertTag(text("y"), english, 0); }},
+            {1, [&] { commented->removeTag(0, english); }},
+            {0, [&] { package.setAuthor(text("b")); }},
+            {1, [&] { package.setDescription(text("a"), english); }},
+            {0, [&] { package.setDescription(text("b\x01"), english); }},
+            {0, [&] { plain->setName(text("a\x01"), english); }},
+            {0, [&] { plain->setNature(text("y")); }},
+            {1, [&] { package.setAuthor({}); }},
+            {1, [&] { plain->setPath(text("other")); }},
+            {1, [&] { package.moveBehavior(0, 1); }},
+            {1, [&] { package = moved; }},
+            {1, [&] { package.removeBehavior(text("commented")); }},
+        };
+        for (const auto &[expected, edit] : edits) {
+            calls = 0;
+            edit();
+            tracker.update();
+            QCOMPARE(calls, expected);
+            QCOMPARE(listing(tracker.issues()), listing(issues(&package, options)));
+        }
     }
 
     // Those of some fields are the same as when all are checked.
@@ -216,11 +281,42 @@ private Q_SLOTS:
         }
         if (all.isEmpty())
             return;
+        PackageInfoModel inTurn(package.packageInfo());
+        for (const Issue &issue : all)
+            QCOMPARE(apply(&inTurn, ignoringEdits(&inTurn, {issue})).error, QString());
         QCOMPARE(apply(&package, ignoringEdits(&package, all)).error, QString());
+        QCOMPARE(package.saveToManifestContent(), inTurn.saveToManifestContent());
         QCOMPARE(listing(issues(&package, options)), QByteArray());
         COMPARE_WITH_GOLDEN(text(ZEL_TEST_DATA "/fixes/ignored-") %
                                 QFileInfo(file).dir().dirName() % text(".txt"),
                             places + package.saveToManifestContent());
+    }
+
+    // The comments of many behaviors with the same path, added and read at once, also those of
+    // texts that do not reach the record before it is synchronized.
+    void ignoredInsertions() {
+        const RobotLanguage english = Zel::robotLanguage(text("en_US"));
+        PackageInfoModel package;
+        Tano::BehaviorInfo behavior;
+        behavior.setPath("greet");
+        behavior.addTag(" ", "en_US");
+        for (int i = 0; i < 50; ++i) {
+            package.addBehavior(behavior);
+            package.behaviors().last()->insertTag(text("  "), english, 0);
+            package.behaviors().last()->insertTriggerSentence(text(" "), english, 0);
+        }
+        IssueOptions options;
+        options.filterFor = notIgnored;
+        auto blank = issues(&package, options);
+        const auto isOther = [](const Issue &issue) { return issue.id != text("text-blank"); };
+        blank.erase(std::remove_if(blank.begin(), blank.end(), isOther), blank.end());
+        QCOMPARE(blank.size(), 150);
+        for (const Issue &issue : {blank.first(), blank.at(70), blank.last()})
+            QCOMPARE(apply(&package, ignoringEdits(&package, {issue})).error, QString());
+        QCOMPARE(package.behaviors().last()->tags(english).size(), 2);
+        QCOMPARE(apply(&package, ignoringEdits(&package, blank)).error, QString());
+        const auto left = issues(&package, options);
+        QVERIFY(std::all_of(left.begin(), left.end(), isOther));
     }
 
     // Commands that fix, ignore and edit lead back and forth exactly.

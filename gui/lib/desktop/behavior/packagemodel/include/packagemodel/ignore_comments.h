@@ -7,7 +7,8 @@
 #include <QHash>
 #include <QString>
 
-#include <string>
+#include <cstddef>
+#include <unordered_map>
 #include <vector>
 
 namespace Zel::PackageModel {
@@ -48,12 +49,11 @@ public:
 
 private:
     std::vector<Entry> m_entries;
-    QHash<QString, std::vector<std::size_t>> m_byRule; // indexes
+    QHash<QString, std::unordered_map<Tano::FieldPath, std::size_t>> m_byRule; // indexes of entries
 };
 
-/// A filter for issues that no comment of the package ignores, for IssueOptions::filterFor. Call
-/// PackageInfoModel::syncRecord() before. Do not use it for visitIssues() of a record, whose
-/// filters get a package without behaviors.
+/// A filter for issues that no comment of the package ignores, for IssueOptions::filterFor. Do not
+/// use it for visitIssues() of a record, whose filters get a package without behaviors.
 ///
 /// ```cpp
 /// PackageModel::IssueOptions options;

@@ -6,8 +6,9 @@
 
 namespace Zel::PackageModel {
 
-/// Keeps the issues() of a package up to date while it is edited. The time of an update depends on
-/// the edited behaviors, not on the size of the package.
+/// Keeps the issues() of a package up to date while it is edited. An update checks the package
+/// itself and edited behaviors again; for other behaviors and their issues, it makes only a few
+/// comparisons each.
 ///
 /// ```cpp
 /// PackageModel::IssueTracker tracker(&package);
@@ -22,8 +23,12 @@ namespace Zel::PackageModel {
 class PACKAGEMODEL_EXPORT IssueTracker {
 public:
     /// Checks the whole package. The options apply to updates too; pointers in them must be valid
-    /// as long as the tracker exists. `withFixes` has no effect. `filterFor` is called again when
-    /// findings or the package itself have changed.
+    /// as long as the tracker exists. `withFixes` has no effect.
+    ///
+    /// `filterFor` must depend only on comments and where they are, as notIgnored() does. It is
+    /// called again when that may have changed: after edits of behaviors with comments that contain
+    /// `zel-package:`, of the order and paths of behaviors, and of the package itself except for
+    /// the wording of its texts.
     explicit IssueTracker(const PackageInfoModel *package, const IssueOptions &options = {});
     ~IssueTracker();
     IssueTracker(const IssueTracker &) = delete;

@@ -42,6 +42,8 @@ std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record);
 
 /// A check without a message in the validator: of the package without its behaviors, and of one
 /// behavior, which need not belong to the package. Each appends its findings; both may be null.
+/// `ofBehavior` may read the behavior and, of the package, only its two lists of languages, unless
+/// commonInput() in issue_tracker.cpp lists what else it reads.
 struct FurtherCheck {
     void (*ofPackage)(const CheckedPackage &checked, Findings &findings);
     void (*ofBehavior)(const CheckedPackage &checked, const BehaviorPlace &place,

@@ -1,5 +1,7 @@
 #include <packagemodel/ignore_comments.h>
 
+#include "commented_record.h"
+
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/text_conversion.h>
 
@@ -12,8 +14,13 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace Zel::PackageModel {
@@ -40,49 +47,73 @@ QStringList rulesIn(const Tano::KeptComment &comment) {
     return rules;
 }
 
-// Whether the block of the last step's language has such texts.
-template<typename Owner>
-std::array<bool, 2> ownTexts(const Owner &owner, const std::string &code) {
-    return {owner.names().count(code) > 0, owner.descriptions().count(code) > 0};
+FieldPath withoutLastStep(const FieldPath &path) {
+    FieldPath outer = path;
+    while (outer.steps().size() == path.steps().size())
+        outer = outer.parent();
+    return outer;
 }
 
-std::array<bool, textFields.size()> textsOf(const Tano::PackageInfo &record, const FieldPath &path,
-                                            const std::string &code) {
-    if (path.steps().size() == 1) {
-        const auto [hasName, hasDescription] = ownTexts(record, code);
-        return {hasName, hasDescription};
+bool isText(const FieldPath::Step &step) {
+    return !step.selectors.empty() &&
+           std::find(textFields.begin(), textFields.end(), step.field) != textFields.end();
+}
+
+// Finds the first text of each block.
+class TextBlocks {
+public:
+    explicit TextBlocks(const Tano::PackageInfo &record)
+        : m_record(record) {
+        for (const Tano::BehaviorInfo &behavior : record.behaviors())
+            m_behaviors[behavior.path()].push_back(&behavior);
     }
+
+    // Of a text, the first one in its block; nothing for another field.
+    std::optional<FieldPath> firstIn(const FieldPath &path) const;
+    bool beginsAt(const FieldPath &path) const;
+
+private:
+    using Present = std::array<bool, textFields.size()>;
+
+    // The fields with texts in a language, in the package or behavior that a path leads to.
+    Present textsOf(const FieldPath &path, const std::string &code) const;
+
+    const Tano::PackageInfo &m_record;
+    std::unordered_map<std::string_view, std::vector<const Tano::BehaviorInfo *>> m_behaviors;
+};
+
+TextBlocks::Present TextBlocks::textsOf(const FieldPath &path, const std::string &code) const {
+    const auto ownTexts = [&](const auto &owner) {
+        return Present{owner.names().count(code) > 0, owner.descriptions().count(code) > 0};
+    };
+    if (path.steps().size() == 1)
+        return ownTexts(m_record);
     const auto &entry = path.steps().front().selectors;
-    int occurrence = entry.size() > 1 ? entry[1].toIndex().value_or(0) : 0;
-    for (const Tano::BehaviorInfo &behavior : record.behaviors()) {
-        if (behavior.path() != entry.front().text || occurrence-- > 0)
-            continue;
-        const auto [hasName, hasDescription] = ownTexts(behavior, code);
-        return {hasName, hasDescription, behavior.languagesToTags().count(code) > 0,
-                behavior.languagesToTriggerSentences().count(code) > 0, true};
-    }
-    return {};
+    const auto equal = entry.empty() ? m_behaviors.end() : m_behaviors.find(entry.front().text);
+    const int occurrence = entry.size() > 1 ? entry[1].toIndex().value_or(0) : 0;
+    if (equal == m_behaviors.end() || std::size_t(occurrence) >= equal->second.size())
+        return {};
+    const Tano::BehaviorInfo &behavior = *equal->second[std::size_t(occurrence)];
+    Present texts = ownTexts(behavior);
+    texts[2] = behavior.languagesToTags().count(code) > 0;
+    texts[3] = behavior.languagesToTriggerSentences().count(code) > 0;
+    texts[4] = true;
+    return texts;
 }
 
-// Of a text, the first one in its block; nothing for another field.
-std::optional<FieldPath> firstInBlock(const Tano::PackageInfo &record, const FieldPath &path) {
-    if (path.isEmpty() || path.steps().back().selectors.empty())
+std::optional<FieldPath> TextBlocks::firstIn(const FieldPath &path) const {
+    if (path.isEmpty() || !isText(path.steps().back()))
         return {};
-    const auto &[field, selectors] = path.steps().back();
-    if (std::find(textFields.begin(), textFields.end(), field) == textFields.end())
-        return {};
-    const auto texts = textsOf(record, path, selectors.front().text);
+    const std::string &code = path.steps().back().selectors.front().text;
+    const auto texts = textsOf(path, code);
     const auto first = std::find(texts.begin(), texts.end(), true) - texts.begin();
     if (std::size_t(first) == texts.size())
         return {};
-    FieldPath text = path;
-    while (text.steps().size() == path.steps().size())
-        text = text.parent();
-    return text.field(textFields[std::size_t(first)]).key(selectors.front().text);
+    return withoutLastStep(path).field(textFields[std::size_t(first)]).key(code);
 }
 
-bool beginsBlock(const Tano::PackageInfo &record, const FieldPath &path) {
-    const auto first = firstInBlock(record, path);
+bool TextBlocks::beginsAt(const FieldPath &path) const {
+    const auto first = firstIn(path);
     if (!first)
         return false;
     const auto &[field, selectors] = path.steps().back();
@@ -90,59 +121,67 @@ bool beginsBlock(const Tano::PackageInfo &record, const FieldPath &path) {
            (selectors.size() == 1 || selectors[1].toIndex() == 0);
 }
 
-// The selectors of the first step are the key of an entry and its number among equal ones; those of
-// others may lead further into a list.
-bool covers(const IgnoreComments::Entry &entry, const FieldPath &field) {
-    const auto &outer = entry.element.steps();
-    const auto &inner = field.steps();
-    if (outer.empty())
-        return true;
-    if (inner.size() < outer.size() || !std::equal(outer.begin(), outer.end() - 1, inner.begin()))
-        return false;
-    const auto &[name, selectors] = outer.back();
-    const auto &[innerName, innerSelectors] = inner[outer.size() - 1];
-    if (entry.isBlock)
-        return std::count(textFields.begin(), textFields.end(), innerName) > 0 &&
-               !innerSelectors.empty() && innerSelectors.front() == selectors.front();
-    const bool isExact = outer.size() == 1 || inner.size() > outer.size();
-    return name == innerName && innerSelectors.size() >= selectors.size() &&
-           std::equal(selectors.begin(), selectors.end(), innerSelectors.begin()) &&
-           (!isExact || innerSelectors.size() == selectors.size());
+// The key of a block, which is not a field.
+FieldPath blockOf(const FieldPath &text) {
+    return withoutLastStep(text).field("texts").key(text.steps().back().selectors.front().text);
+}
+
+// The keys of the entries that cover a field. The selectors of the first step are the key of an
+// entry and its number among equal ones; those of the last one may lead further into a list.
+std::vector<FieldPath> keysCovering(const FieldPath &field) {
+    const std::size_t size = field.steps().size();
+    std::vector<FieldPath> keys;
+    for (FieldPath outer = field; !outer.isEmpty(); outer = outer.parent()) {
+        const std::size_t last = outer.steps().size() - 1;
+        const bool isWhole = outer.steps()[last] == field.steps()[last];
+        if (isWhole || (last > 0 && last + 1 == size))
+            keys.push_back(outer);
+        if (isWhole && isText(outer.steps()[last]))
+            keys.push_back(blockOf(outer));
+    }
+    keys.emplace_back();
+    return keys;
+}
+
+FieldPath keyOf(const IgnoreComments::Entry &entry) {
+    return entry.isBlock ? blockOf(entry.element) : entry.element;
 }
 
 } // namespace
 
 IgnoreComments::IgnoreComments(const Tano::PackageInfo &record) {
-    if (!Tano::hasComment(record, "zel-package:"))
+    if (!Tano::hasComment(record, ignoreMark))
         return;
+    const TextBlocks blocks(record);
     for (const Tano::KeptComment &comment : Tano::comments(record)) {
-        const QStringList rules = rulesIn(comment);
-        if (rules.isEmpty())
-            continue;
-        const bool isBlock = beginsBlock(record, comment.before);
-        for (const QString &rule : rules) {
-            m_byRule[rule].push_back(m_entries.size());
-            m_entries.push_back({rule, comment.before, isBlock});
+        for (const QString &rule : rulesIn(comment)) {
+            m_entries.push_back({rule, comment.before, blocks.beginsAt(comment.before)});
+            m_byRule[rule].emplace(keyOf(m_entries.back()), m_entries.size() - 1);
         }
     }
 }
 
 bool IgnoreComments::ignores(const QString &rule, const QString &field) {
-    const auto indexes = m_byRule.constFind(rule);
-    if (indexes == m_byRule.constEnd())
+    const auto entries = m_byRule.constFind(rule);
+    if (entries == m_byRule.constEnd())
         return false;
     const FieldPath path = FieldPath::parse(toUtf8(field)).value_or(FieldPath());
-    const auto found = std::find_if(indexes->begin(), indexes->end(), [&](std::size_t index) {
-        return covers(m_entries[index], path);
-    });
-    if (found == indexes->end())
+    std::size_t first = m_entries.size();
+    for (const FieldPath &key : keysCovering(path)) {
+        if (const auto found = entries->find(key); found != entries->end())
+            first = std::min(first, found->second);
+    }
+    if (first == m_entries.size())
         return false;
-    m_entries[*found].isUsed = true;
+    m_entries[first].isUsed = true;
     return true;
 }
 
 IssueFilter notIgnored(const PackageInfoModel &package) {
-    const auto comments = std::make_shared<IgnoreComments>(package.packageInfo());
+    const Tano::PackageInfo record = syncedRecord(package);
+    if (!Tano::hasComment(record, ignoreMark))
+        return {};
+    const auto comments = std::make_shared<IgnoreComments>(outlineOf(record));
     if (comments->entries().empty())
         return {};
     return [comments](const Issue &issue) { return !comments->ignores(issue.id, issue.path); };
@@ -150,10 +189,12 @@ IssueFilter notIgnored(const PackageInfoModel &package) {
 
 namespace {
 
+using Places = std::vector<FieldPath>;
+
 // Where a comment may ignore a field, the narrowest place first.
-std::vector<FieldPath> placesFor(const Tano::PackageInfo &record, const FieldPath &field) {
-    std::vector<FieldPath> places{field};
-    if (const auto text = firstInBlock(record, field))
+Places placesFor(const TextBlocks &blocks, const FieldPath &field) {
+    Places places{field};
+    if (const auto text = blocks.firstIn(field))
         places.push_back(*text);
     for (FieldPath around = field; !around.isEmpty();) {
         around = around.parent();
@@ -167,32 +208,147 @@ std::string commentText(const QStringList &rules) {
                   u' ');
 }
 
-// With one comment where a comment for a rule follows another one before the same element.
-Tano::PackageInfo joined(const Tano::PackageInfo &record, const QString &rule) {
-    std::vector<Tano::KeptComment> comments = Tano::comments(record);
-    const auto isOther = [](const auto &comment) { return rulesIn(comment).isEmpty(); };
-    comments.erase(std::remove_if(comments.begin(), comments.end(), isOther), comments.end());
-    const auto pair = std::adjacent_find(
-        comments.begin(), comments.end(), [&](const auto &first, const auto &second) {
-            return first.before == second.before && second.text == commentText({rule});
-        });
-    if (pair == comments.end())
-        return record;
-    return Tano::withComment(Tano::withoutComments(record, {*pair, *(pair + 1)}), pair->before,
-                             commentText(rulesIn(*pair) + QStringList{rule}));
+// Where a comment for a place is written.
+struct Spot {
+    FieldPath element;                         // the one that follows
+    std::optional<Tano::KeptComment> extended; // the comment that it extends
+};
+using Spots = std::map<FieldPath, Spot>;
+
+// The spots of places; empty if the record cannot be saved. Finds all at once by adding a comment
+// for each place.
+Spots spotsOf(const Tano::PackageInfo &record, const std::set<FieldPath> &places) {
+    std::string mark = "place ";
+    while (Tano::hasComment(record, mark))
+        mark += ' ';
+    std::vector<Tano::KeptComment> markers;
+    std::unordered_map<std::string, FieldPath> placeOf;
+    for (const FieldPath &place : places) {
+        markers.push_back({mark + std::to_string(markers.size()), {}, place, 0});
+        placeOf.emplace(markers.back().text, place);
+    }
+    Spots spots;
+    std::optional<Tano::KeptComment> last;
+    for (Tano::KeptComment &comment : Tano::comments(Tano::withComments(record, markers))) {
+        const auto place = placeOf.find(comment.text);
+        if (place != placeOf.end()) {
+            const bool isExtended = last && last->before == comment.before;
+            spots[place->second] = {comment.before, isExtended ? last : std::nullopt};
+        } else if (!rulesIn(comment).isEmpty()) {
+            last = std::move(comment);
+        }
+    }
+    return spots;
 }
 
-// Nothing if the issue is ignored already, or the record cannot be saved.
-std::optional<Tano::PackageInfo> ignoring(const Tano::PackageInfo &record, const Issue &issue) {
-    if (IgnoreComments(record).ignores(issue.id, issue.path))
-        return {};
-    const auto field = FieldPath::parse(toUtf8(issue.path));
-    for (const FieldPath &place : placesFor(record, field.value_or(FieldPath()))) {
-        const auto changed = Tano::withComment(record, place, commentText({issue.id}));
-        if (IgnoreComments(changed).ignores(issue.id, issue.path))
-            return joined(changed, issue.id);
+// The comment for the rules at a spot.
+struct Addition {
+    QStringList rules;
+    std::optional<Tano::KeptComment> extended;
+};
+using Additions = std::map<FieldPath, Addition>; // by the element that follows
+
+// Adds comments for issues. Only behaviors with issues are written and read again.
+class Ignoring {
+public:
+    explicit Ignoring(const Tano::PackageInfo &record)
+        : m_record(record)
+        , m_blocks(record)
+        , m_comments(record) {}
+
+    // The record with comments; nothing if all issues are ignored already.
+    std::optional<Tano::PackageInfo> operator()(const QVector<Issue> &issues);
+
+private:
+    using TurnedOff = std::pair<QString, FieldPath>; // the rule, and the key of an entry
+
+    struct Pending {
+        QString rule;
+        std::vector<FieldPath> covering;
+        Places places;
+    };
+    std::vector<Pending> pendingOf(const QVector<Issue> &issues);
+    void addAt(const Pending &pending, const Spots &spots);
+    std::optional<Tano::PackageInfo> withAdditions(const Tano::PackageInfo &record) const;
+
+    const Tano::PackageInfo &m_record;
+    TextBlocks m_blocks;
+    IgnoreComments m_comments;
+    std::unordered_set<std::string> m_behaviors; // the paths of those with issues
+    std::set<TurnedOff> m_off;
+    Additions m_additions;
+};
+
+std::vector<Ignoring::Pending> Ignoring::pendingOf(const QVector<Issue> &issues) {
+    std::vector<Pending> all;
+    for (const Issue &issue : issues) {
+        if (m_comments.ignores(issue.id, issue.path))
+            continue;
+        const FieldPath field = FieldPath::parse(toUtf8(issue.path)).value_or(FieldPath());
+        all.push_back({issue.id, keysCovering(field), placesFor(m_blocks, field)});
+        if (!field.isEmpty() && !field.steps().front().selectors.empty())
+            m_behaviors.insert(field.steps().front().selectors.front().text);
     }
-    return {};
+    return all;
+}
+
+// Adds to the comment at the narrowest place that covers the field, unless a wider one was added.
+void Ignoring::addAt(const Pending &pending, const Spots &spots) {
+    const auto &[rule, covering, places] = pending;
+    for (const FieldPath &key : covering) {
+        if (m_off.count({rule, key}) > 0)
+            return;
+    }
+    for (const FieldPath &place : places) {
+        const auto spot = spots.find(place);
+        if (spot == spots.end())
+            continue;
+        const FieldPath &element = spot->second.element;
+        const FieldPath key = keyOf({rule, element, m_blocks.beginsAt(element)});
+        if (std::find(covering.begin(), covering.end(), key) == covering.end())
+            continue;
+        m_off.emplace(rule, key);
+        Addition &addition = m_additions[element];
+        addition.rules += rule;
+        addition.extended = spot->second.extended;
+        return;
+    }
+}
+
+// Nothing if a comment cannot be written.
+std::optional<Tano::PackageInfo> Ignoring::withAdditions(const Tano::PackageInfo &record) const {
+    std::vector<Tano::KeptComment> removed;
+    std::vector<Tano::KeptComment> added;
+    for (const auto &[element, addition] : m_additions) {
+        const auto &[rules, extended] = addition;
+        if (extended)
+            removed.push_back(*extended);
+        const QStringList before = extended ? rulesIn(*extended) : QStringList();
+        added.push_back({commentText(before + rules), {}, element, 0});
+    }
+    const auto base = removed.empty() ? record : Tano::withoutComments(record, removed);
+    const auto changed = Tano::withComments(base, added);
+    return changed == base ? std::nullopt : std::optional(changed);
+}
+
+std::optional<Tano::PackageInfo> Ignoring::operator()(const QVector<Issue> &issues) {
+    const auto all = pendingOf(issues);
+    std::set<FieldPath> places;
+    for (const Pending &pending : all)
+        places.insert(pending.places.begin(), pending.places.end());
+    if (all.empty() || m_record.saveToManifestContent().empty())
+        return {};
+    const auto isWanted = [&](const auto &each) { return m_behaviors.count(each.path()) > 0; };
+    const Tano::PackageInfo reduced = withContentOf(m_record, isWanted);
+    const Spots spots = spotsOf(reduced, places);
+    for (const Pending &pending : all)
+        addAt(pending, spots);
+    auto changed = withAdditions(reduced);
+    for (std::size_t i = 0; changed && i < m_record.behaviors().size(); ++i) {
+        if (!isWanted(m_record.behaviors()[i]))
+            changed->replaceBehavior(int(i), m_record.behaviors()[i]);
+    }
+    return changed;
 }
 
 } // namespace
@@ -200,15 +356,9 @@ std::optional<Tano::PackageInfo> ignoring(const Tano::PackageInfo &record, const
 Edits ignoringEdits(const PackageInfoModel *package, const QVector<Issue> &issues) {
     if (!package)
         return {};
-    Tano::PackageInfo record = package->packageInfo();
-    bool isChanged = false;
-    for (const Issue &issue : issues) {
-        if (auto changed = ignoring(record, issue)) {
-            record = std::move(*changed);
-            isChanged = true;
-        }
-    }
-    return isChanged ? Edits{{Edit::Action::Set, {}, record}} : Edits();
+    const Tano::PackageInfo record = syncedRecord(*package);
+    const auto changed = Ignoring(record)(issues);
+    return changed ? Edits{{Edit::Action::Set, {}, *changed}} : Edits();
 }
 
 } // namespace Zel::PackageModel

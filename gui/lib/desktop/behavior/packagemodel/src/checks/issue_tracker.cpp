@@ -1,5 +1,6 @@
 #include <packagemodel/issue_tracker.h>
 
+#include "commented_record.h"
 #include "finding_issues.h"
 #include "further_checks.h"
 #include "package_fixes.h"
@@ -126,17 +127,23 @@ struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
         QString path = {};
         int occurrence = 0;
         std::vector<SectionIssue> issues = {};
+        bool hasIgnoreComments = false;
     };
 
     bool updateOrder();
     void updateOccurrences();
+    bool updatePaths();
     bool updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior, bool isForced);
+    bool updateFilter();
     QVector<Issue> assembled() const;
 
     QPointer<const PackageInfoModel> package;
     IssueOptions options;
-    std::uint64_t revision = 0; // of the package's record
     std::vector<std::string> input;
+    IssueFilter filter;
+    bool isFilterStale = true;
+    Tano::PackageInfo outline;      // of the package itself when the filter was made
+    std::uint64_t wholeChanges = 0; // likewise
     std::vector<SectionIssue> ofPackage;
     std::vector<CheckedBehavior> behaviors;
     QVector<Issue> issues;
@@ -162,6 +169,18 @@ bool IssueTracker::Data::updateOrder() {
     return true;
 }
 
+// Returns whether the path of a behavior has changed.
+bool IssueTracker::Data::updatePaths() {
+    bool isChanged = false;
+    for (CheckedBehavior &behavior : behaviors) {
+        if (behavior.revision == ChildAccess::data(*behavior.model).revision())
+            continue;
+        const QString path = behavior.model->path();
+        isChanged |= std::exchange(behavior.path, path) != path;
+    }
+    return isChanged;
+}
+
 // Behaviors with the same path are counted; one whose number changes is checked again.
 void IssueTracker::Data::updateOccurrences() {
     QHash<QString, int> counts;
@@ -178,9 +197,29 @@ bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBe
     const std::uint64_t revision = ChildAccess::data(*behavior.model).revision();
     if (std::exchange(behavior.revision, revision) == revision && !isForced)
         return false;
+    if (options.filterFor) {
+        const bool has = hasIgnoreComments(ChildAccess::data(*behavior.model).record());
+        isFilterStale |= std::exchange(behavior.hasIgnoreComments, has) || has;
+    }
     auto found = issuesOf(checkBehavior(checked, {behavior.model, behavior.occurrence}));
     std::swap(behavior.issues, found);
     return !areSame(behavior.issues, found);
+}
+
+// To make a filter may take long: comments are looked for in the whole record. Returns whether
+// there is a new one.
+bool IssueTracker::Data::updateFilter() {
+    if (!options.filterFor)
+        return false;
+    auto present = ownOutlineOf(*package);
+    isFilterStale |= std::exchange(wholeChanges, ChildAccess::data(*package).wholeChanges) !=
+                     ChildAccess::data(*package).wholeChanges;
+    isFilterStale |= present != outline;
+    if (!std::exchange(isFilterStale, false))
+        return false;
+    outline = std::move(present);
+    filter = options.filterFor(*package);
+    return true;
 }
 
 QVector<Issue> IssueTracker::Data::assembled() const {
@@ -210,7 +249,6 @@ QVector<Issue> IssueTracker::Data::assembled() const {
         }
     }
 
-    const IssueFilter filter = options.filterFor ? options.filterFor(*package) : IssueFilter();
     QVector<Issue> all;
     for (const auto &section : sections) {
         for (const Issue *issue : section) {
@@ -236,17 +274,13 @@ bool IssueTracker::update() {
         return !std::exchange(m_data->issues, {}).isEmpty();
     }
     const PackageInfoModel &package = *m_data->package;
-    bool isChanged = m_data->updateOrder();
-    bool arePathsChanged = isChanged;
-    for (auto &behavior : m_data->behaviors) {
-        if (behavior.revision == ChildAccess::data(*behavior.model).revision())
-            continue;
-        const QString path = behavior.model->path();
-        arePathsChanged |= std::exchange(behavior.path, path) != path;
-    }
-    if (arePathsChanged)
+    const bool isOrderChanged = m_data->updateOrder();
+    if (m_data->updatePaths() || isOrderChanged) {
         m_data->updateOccurrences();
+        m_data->isFilterStale = true;
+    }
 
+    bool isChanged = isOrderChanged;
     const CheckedPackage checked(package, package.packageInfo(), m_data->options);
     auto input = commonInput(package);
     const bool isForced = std::exchange(m_data->input, input) != input;
@@ -256,10 +290,8 @@ bool IssueTracker::update() {
     std::swap(m_data->ofPackage, ofPackage);
     isChanged |= !areSame(m_data->ofPackage, ofPackage);
 
-    // To ask for a filter may take long: comments are looked for in the whole record.
-    const std::uint64_t revision = ChildAccess::data(package).revision();
-    const bool isEdited = std::exchange(m_data->revision, revision) != revision;
-    if (!isChanged && !(isEdited && m_data->options.filterFor))
+    isChanged |= m_data->updateFilter();
+    if (!isChanged)
         return false;
     const QVector<Issue> before = std::exchange(m_data->issues, m_data->assembled());
     return !areSame(before, m_data->issues);
