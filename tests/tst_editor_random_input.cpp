@@ -45,6 +45,7 @@ private Q_SLOTS:
 private:
     void run(quint32 seed) {
         const QTemporaryDir folder;
+        QDir::setCurrent(folder.path()); // also for names that are typed into file dialogs
         for (const char *sample : {"small", "faulty", "ten-languages", "unfinished"}) {
             const QString copy = QFileInfo(copyOf(sample)).path();
             QVERIFY(QFile::rename(copy, QDir(folder.path()).filePath(QLatin1String(sample))));
