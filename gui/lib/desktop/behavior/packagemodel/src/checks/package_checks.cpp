@@ -3,9 +3,9 @@
 #include <packagemodel/package_info_model.h>
 
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
+#include <vector>
 
 namespace Zel::PackageModel {
 namespace {
@@ -119,18 +119,26 @@ void checkTriggerSentences(const PackageInfoModel &package, const BehaviorInfoMo
     if (!isTriggered)
         return;
 
-    QSet<QString> present;
+    const auto isLess = [](const QString *a, const QString *b) { return *a < *b; };
+    std::vector<const QString *> present;
+    present.reserve(all.size());
     for (const auto &[sentences, language] : all) {
         if (!sentences.isEmpty())
-            present.insert(language.isoCode());
+            present.push_back(&language.isoCode());
     }
-    const QString path = behavior.path();
-    const FieldPath field =
-        fieldNamed("behaviors").entry(toUtf8(path), occurrence).field("triggerSentences");
-    const QStringList arguments{path};
+    std::sort(present.begin(), present.end(), isLess);
+    QStringList arguments;
+    FieldPath field;
     for (const RobotLanguage &language : package.supportedLanguages()) {
-        if (!present.contains(language.isoCode()))
-            findings.push_back({RuleId::TriggerSentencesMissing, field, arguments, language});
+        if (std::binary_search(present.begin(), present.end(), &language.isoCode(), isLess))
+            continue;
+        if (arguments.isEmpty()) {
+            arguments = QStringList{behavior.path()};
+            field = fieldNamed("behaviors")
+                        .entry(toUtf8(behavior.path()), occurrence)
+                        .field("triggerSentences");
+        }
+        findings.push_back({RuleId::TriggerSentencesMissing, field, arguments, language});
     }
 }
 
