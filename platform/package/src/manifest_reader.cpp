@@ -20,7 +20,7 @@ constexpr std::size_t savingPiece = std::size_t(1) << 20;
 constexpr std::size_t smallPiece = std::size_t(8) << 10;
 // From this size on, memory matters more than the time to get pages from the system again at the
 // next load.
-constexpr qint64 releasedFrom = qint64(1) << 20;
+constexpr qint64 releasedFrom = qint64(8) << 20;
 
 // Sources of a manifest's bytes. read() returns the number of bytes read: fewer than requested at
 // the end, negative on errors.
