@@ -79,6 +79,8 @@ private Q_SLOTS:
         QCOMPARE(next.recovery->restore(), QString());
         QCOMPARE(sizes(next), isRemoved ? QList<QSize>() : QList<QSize>{picture.size()});
         QCOMPARE(next.document.undoStack()->count(), 1);
+        next.document.setIcon("not a picture");
+        QCOMPARE(next.document.undoStack()->count(), 1);
         next.document.undoStack()->undo();
         QCOMPARE(sizes(next), before);
         QCOMPARE(kept(), 0);

@@ -168,7 +168,8 @@ std::optional<QByteArray> Document::pendingIcon() const {
 
 void Document::setIcon(const QByteArray &png) {
     QPixmap picture;
-    picture.loadFromData(png, "PNG");
+    if (!picture.loadFromData(png, "PNG") && !png.isEmpty())
+        return; // damaged
     push(new Zel::PackageGenericValueCommand<QIcon>(m_package.get(), QIcon(picture)));
 }
 

@@ -101,7 +101,8 @@ public:
     Zel::PackageModel::Edits pendingEdits() const;
     /// The icon as PNG if it has changed since, empty if there is none any more.
     std::optional<QByteArray> pendingIcon() const;
-    /// Sets the icon from a PNG file's content, as an undo step.
+    /// Sets the icon from a PNG file's content, as an undo step; removes it if there is none.
+    /// Ignores other content.
     void setIcon(const QByteArray &png);
 
     // The current issues.

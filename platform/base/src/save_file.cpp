@@ -1,17 +1,13 @@
 #include <tano/save_file.h>
 
-#include "file_descriptor.h"
-#include "file_name.h"
 #include "file_save.h"
 #include "file_writing.h"
 
 #include <QFile>
 
-#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
 
 namespace Tano {
 namespace {

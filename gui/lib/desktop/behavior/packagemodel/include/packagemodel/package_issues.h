@@ -78,8 +78,8 @@ struct IssueOptions {
     /// again after each change of the package, since paths with indexes change.
     std::function<IssueFilter(const PackageInfoModel &package)> filterFor = {};
     /// If not empty, only issues with exactly these paths are wanted; the path of an entry does not
-    /// include its fields. Other behaviors are not checked, so that the effect of an edit in a large
-    /// package is known at once.
+    /// include its fields. Other behaviors are not checked, so that the effect of an edit in a
+    /// large package is known at once.
     QSet<QString> paths = {};
     /// Whether issues get their fixes, which take longer to make than the rest.
     bool withFixes = true;
