@@ -241,10 +241,11 @@ private Q_SLOTS:
         QStringList paths;
         for (int row = 0; row < problems.rowCount(); ++row)
             paths.append(problems.index(row, 0).data(ProblemsModel::PathRole).toString());
-        QCOMPARE(paths,
-                 (QStringList{QStringLiteral("names[ja_JP]"), QStringLiteral("descriptions[ja_JP]"),
-                              QStringLiteral("behaviors[%1].triggerSentences[ja_JP]").arg(path)}));
-        QCOMPARE(problems.index(2, ProblemsModel::Field).data().toString(),
+        QCOMPARE(
+            paths,
+            (QStringList{QStringLiteral("behaviors[%1].triggerSentences[ja_JP]").arg(path),
+                         QStringLiteral("names[ja_JP]"), QStringLiteral("descriptions[ja_JP]")}));
+        QCOMPARE(problems.index(0, ProblemsModel::Field).data().toString(),
                  QStringLiteral("Trigger sentences of “%1” in Japanese (Japan)").arg(path));
         QVERIFY(document.behaviorSeverity(path));
         remove("behaviors", 0)(document, models);

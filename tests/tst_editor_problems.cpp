@@ -1,4 +1,5 @@
 #include "editor_test.h"
+#include "golden.h"
 #include "models/problems_model.h"
 #include "table_file.h"
 
@@ -41,7 +42,19 @@ private Q_SLOTS:
         QCOMPARE(problemCount(), m_count);
     }
 
-    // A third click restores the order of the checks.
+    // Errors first, then in the order of the pages; entries in the order of their lists.
+    void readLikeThePages() {
+        QString shown;
+        for (int row = 0; row < problemCount(); ++row)
+            shown += QStringLiteral("%1 %2\n").arg(column(Qt::DisplayRole).at(row), shownPath(row));
+        COMPARE_WITH_GOLDEN(QStringLiteral(ZEL_TEST_DATA "/editor/problem-order.txt"),
+                            shown.toUtf8());
+        press(Qt::Key_F8);
+        press(Qt::Key_F8, Qt::ShiftModifier);
+        QCOMPARE(problems()->currentIndex().row(), problemCount() - 1);
+    }
+
+    // A third click restores the usual order.
     void sorts_data() {
         QTest::addColumn<int>("role");
         QTest::addColumn<int>("section");
@@ -52,7 +65,7 @@ private Q_SLOTS:
     void sorts() {
         QFETCH(int, role);
         QFETCH(int, section);
-        const QStringList checks = column(ProblemsModel::PathRole);
+        const QStringList usual = column(ProblemsModel::PathRole);
         QStringList expected = column(role, section);
         std::sort(expected.begin(), expected.end(), [](const QString &a, const QString &b) {
             return QString::localeAwareCompare(a.toLower(), b.toLower()) < 0;
@@ -68,9 +81,9 @@ private Q_SLOTS:
         press(Qt::Key_F8); // in the order of the list
         QCOMPARE(problems()->currentIndex().data(ProblemsModel::PathRole).toString(), path);
         clickHeader(section);
-        QCOMPARE(column(ProblemsModel::PathRole), checks);
+        QCOMPARE(column(ProblemsModel::PathRole), usual);
         clickHeader(section);
-        QVERIFY(column(ProblemsModel::PathRole) != checks);
+        QCOMPARE(column(role, section).first(), expected.last());
     }
 
     // As the program reports the file that is open or, after an edit, the one that is saved.
@@ -131,6 +144,63 @@ private Q_SLOTS:
         QCOMPARE(problemCount(), m_count - 1); // there is no icon
     }
 
+    // Another program writes files beside the manifest while the window is in the background.
+    void followFilesOfOtherPrograms() {
+        const QDir folder(QFileInfo(m_file).dir());
+        folder.mkpath(QStringLiteral("dialogs"));
+        const auto &document = m_window->document();
+        const auto rules = [&] {
+            QEvent activation(QEvent::WindowActivate);
+            QApplication::sendEvent(m_window.get(), &activation);
+            return column(ProblemsModel::RuleRole);
+        };
+        QVERIFY(rules().contains(QStringLiteral("topic-file-missing")));
+        writeTo(folder.filePath(QStringLiteral("night-talk_enu.top")), "topic: ~night-talk()");
+        QVERIFY(!rules().contains(QStringLiteral("topic-file-missing")));
+        QImage icon(2, 2, QImage::Format_ARGB32);
+        for (const QColor &color : {QColor(Qt::red), QColor(Qt::blue)}) {
+            icon.fill(color);
+            QVERIFY(icon.save(folder.filePath(QStringLiteral("icon.png"))));
+            QFile file(folder.filePath(QStringLiteral("icon.png")));
+            QVERIFY(file.open(QIODevice::ReadWrite)); // in the same millisecond
+            QVERIFY(file.setFileTime(QDateTime(QDate(2026, 9, color.blue() / 255 + 1), QTime()),
+                                     QFileDevice::FileModificationTime));
+            QVERIFY(!rules().contains(QStringLiteral("icon-invalid")));
+            QCOMPARE(document.package()->icon().pixmap(2).toImage().pixelColor(0, 0), color);
+        }
+        QVERIFY(!document.pendingIcon());
+        QVERIFY(!document.isModified());
+        QVERIFY(QFile::remove(folder.filePath(QStringLiteral("icon.png"))));
+        rules();
+        QVERIFY(document.package()->icon().isNull());
+
+        icon.fill(Qt::green); // edited here, so that one of another program is not shown
+        QBuffer png;
+        icon.save(&png, "PNG");
+        m_window->document().setIcon(png.data());
+        icon.fill(Qt::red);
+        QVERIFY(icon.save(folder.filePath(QStringLiteral("icon.png"))));
+        rules();
+        QCOMPARE(document.package()->icon().pixmap(2).toImage().pixelColor(0, 0),
+                 QColor(Qt::green));
+    }
+
+    // The number in the status bar, the hint in the list and that beside it.
+    void areSummarized() {
+        const auto *count = m_window->statusBar()->findChild<QToolButton *>();
+        QCOMPARE(count->text(), QStringLiteral("Errors: 19, warnings: 13, notes: 1"));
+        QVERIFY(label("The explanation of the selected"));
+        press(Qt::Key_F8);
+        QVERIFY(!label("The explanation of the selected"));
+        QVERIFY(label("Application UID is not defined correctly."));
+        line("Filter problems")->setText(QStringLiteral("nothing"));
+        QVERIFY(label("The filter above hides all problems."));
+        QVERIFY(label("The explanation of the selected"));
+        QVERIFY(m_window->openFile(copyOf("small")));
+        QTRY_VERIFY(label("The package has no problems."));
+        QCOMPARE(count->text(), QStringLiteral("No problems"));
+    }
+
     // Issues of a rule in one element, whose number changes.
     void equalProblems() {
         int added = 0;
@@ -160,6 +230,14 @@ private Q_SLOTS:
     }
 
 private:
+    // A visible label that begins with a text.
+    const QLabel *label(const char *start) {
+        for (const QLabel *candidate : m_window->findChildren<QLabel *>()) {
+            if (candidate->isVisible() && candidate->text().startsWith(QLatin1String(start)))
+                return candidate;
+        }
+        return nullptr;
+    }
     QString shownPath(int row) {
         return problems()->model()->index(row, 0).data(ProblemsModel::PathRole).toString();
     }

@@ -136,7 +136,9 @@ bool Document::save(const QString &fileName) {
         trackIssues(); // the files that the package names may not be there
     else
         updateIssues(); // the icon is there now
+    m_iconOnDisk = iconOnDisk();
     Q_EMIT fileNameChanged();
+    Q_EMIT edited();
     return true;
 }
 
@@ -265,6 +267,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     m_fileName = fileName;
     m_saved = m_package->packageInfo();
     m_savedIcon = keyOf(m_package->icon());
+    m_iconOnDisk = iconOnDisk();
     rememberDisk(content);
     watchPackage();
     m_languages.reset();

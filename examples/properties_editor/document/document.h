@@ -8,6 +8,7 @@
 
 #include <tano/save_file.h>
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QObject>
@@ -28,7 +29,8 @@ namespace Editor {
 /// The open package: its model, file, undo stack and issues.
 ///
 /// All edits go through type(), edit() or push(). After an edit, an undo or a redo, the issues are
-/// updated, then edited() is emitted, and after undo and redo fieldChanged().
+/// updated, then edited() is emitted, and after undo and redo fieldChanged(). edited() also follows
+/// a save and changes of files beside the manifest.
 class Document : public QObject {
     Q_OBJECT
 
@@ -77,6 +79,9 @@ public:
 
     /// Compares the file with its last known state. Emits fileDiffers() once per difference.
     DiskState checkDisk();
+    /// Updates the issues and the icon to the files beside the manifest; an icon that was edited
+    /// stays. Takes as long as an edit.
+    void checkFiles();
 
     // Edits.
 
@@ -143,7 +148,9 @@ private:
     QString refusalOf(const Zel::PackageModel::Edits &edits) const;
     void finishEdit();
     void trackIssues();
-    void updateIssues();
+    bool updateIssues();
+    QPair<QDateTime, qint64> iconOnDisk() const;
+    bool followIcon();
     void indexIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);
@@ -175,6 +182,7 @@ private:
     DiskState m_reported = DiskState::Same;
     Tano::FileFingerprint m_seenOnDisk; // by checkDisk()
     qint64 m_savedIcon = 0;
+    QPair<QDateTime, qint64> m_iconOnDisk; // time and size when it was last read or written
 };
 
 } // namespace Editor

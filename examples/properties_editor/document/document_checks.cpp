@@ -3,6 +3,10 @@
 #include "field_edits.h"
 #include "problem_report.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+
 #include <algorithm>
 
 namespace Editor {
@@ -35,9 +39,37 @@ void Document::trackIssues() {
     indexIssues();
 }
 
-void Document::updateIssues() {
-    if (m_tracker->update())
+bool Document::updateIssues() {
+    const bool isChanged = m_tracker->update();
+    if (isChanged)
         indexIssues();
+    return isChanged;
+}
+
+QPair<QDateTime, qint64> Document::iconOnDisk() const {
+    const QFileInfo icon(QFileInfo(m_fileName).absoluteDir(), QStringLiteral("icon.png"));
+    return icon.isFile() ? qMakePair(icon.lastModified(), icon.size()) : QPair<QDateTime, qint64>();
+}
+
+// Returns whether the file has changed. While the manifest is gone, its folder may be too.
+bool Document::followIcon() {
+    if (!QFileInfo::exists(m_fileName) || iconOnDisk() == m_iconOnDisk)
+        return false;
+    m_iconOnDisk = iconOnDisk();
+    const bool isEdited = pendingIcon().has_value();
+    if (const auto present = isEdited ? nullptr : readAgain()) {
+        m_package->setIcon(present->icon());
+        m_savedIcon = m_package->icon().isNull() ? 0 : m_package->icon().cacheKey();
+    }
+    return true;
+}
+
+void Document::checkFiles() {
+    if (m_fileName.isEmpty())
+        return;
+    const bool isIconNew = followIcon();
+    if (updateIssues() || isIconNew)
+        Q_EMIT edited();
 }
 
 void Document::indexIssues() {
@@ -48,15 +80,15 @@ void Document::indexIssues() {
             entry = candidate;
     };
     for (const Issue &issue : issues()) {
-        const bool isError = issue.severity == Severity::Error;
         const bool isFirst = !m_issueByPath.contains(issue.path);
         keepWorst(m_issueByPath[issue.path], issue,
-                  isFirst || (isError && m_issueByPath[issue.path].severity != Severity::Error));
+                  isFirst || issue.severity > m_issueByPath[issue.path].severity);
         const auto path = FieldPath::parse(Zel::toUtf8(issue.path));
         if (path && fieldName(*path) == QLatin1String("behaviors")) {
             const QString key = fieldKey(*path);
             const bool isNew = !m_behaviorSeverity.contains(key);
-            keepWorst(m_behaviorSeverity[key], issue.severity, isNew || isError);
+            keepWorst(m_behaviorSeverity[key], issue.severity,
+                      isNew || issue.severity > m_behaviorSeverity[key]);
         }
     }
     Q_EMIT issuesChanged();

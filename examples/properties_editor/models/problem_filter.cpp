@@ -42,7 +42,7 @@ bool ProblemFilter::filterAcceptsRow(int row, const QModelIndex &) const {
            holds(ProblemsModel::Field, ProblemsModel::RuleRole);
 }
 
-// The worst severity first; equal ones stay in the order of the checks.
+// The worst severity first; equal ones stay in the order of the model.
 bool ProblemFilter::lessThan(const QModelIndex &left, const QModelIndex &right) const {
     if (left.column() != ProblemsModel::Severity)
         return QSortFilterProxyModel::lessThan(left, right);

@@ -8,7 +8,7 @@
 namespace Editor {
 
 /// The problems of a ProblemsModel that the user wants to see, in the order of a column or, with
-/// sort(-1), of the checks.
+/// sort(-1), of the model.
 class ProblemFilter : public QSortFilterProxyModel {
     Q_OBJECT
 

@@ -1,9 +1,9 @@
 #include "problems_model.h"
 
+#include "document/problem_order.h"
 #include "widgets/marks.h"
 #include "widgets/plain_text.h"
 
-#include <QHash>
 #include <QStringBuilder>
 
 namespace Editor {
@@ -21,8 +21,32 @@ QString fieldLabel(const QString &printedPath) {
 
 ProblemsModel::ProblemsModel(Document &document, QObject *parent)
     : TableModel(document, parent) {
-    connect(&document, &Document::issuesChanged, this, &ProblemsModel::sync); // also by saving
+    connect(&document, &Document::issuesChanged, this, [this] { // also by saving
+        order();
+        sync();
+    });
+    order();
     start();
+}
+
+void ProblemsModel::order() {
+    m_ordered.clear();
+    m_indexes.clear();
+    QHash<QString, int> counts; // an element can have several unknown children
+    const auto &issues = document().issues();
+    for (const int index : problemOrder(*package(), issues)) {
+        const Issue &issue = issues.at(index);
+        QString key = issue.id % u' ' % issue.path % u' ';
+        key += QString::number(counts[key]++);
+        m_ordered.append(key);
+        m_indexes.insert(key, index);
+    }
+}
+
+const Issue *ProblemsModel::issueAt(int row) const {
+    const int index = m_indexes.value(keys().value(row), -1);
+    return index >= 0 && index < document().issues().size() ? &document().issues().at(index)
+                                                            : nullptr;
 }
 
 int ProblemsModel::columnCount(const QModelIndex &parent) const {
@@ -30,9 +54,10 @@ int ProblemsModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
-    if (!index.isValid() || !checkIndex(index) || index.row() >= document().issues().size())
+    const Issue *shown = index.isValid() && checkIndex(index) ? issueAt(index.row()) : nullptr;
+    if (!shown)
         return {};
-    const Issue &issue = document().issues().at(index.row());
+    const Issue &issue = *shown;
     switch (role) {
     case Qt::DisplayRole:
         switch (index.column()) {
@@ -56,16 +81,6 @@ QVariant ProblemsModel::data(const QModelIndex &index, int role) const {
     default:
         return {};
     }
-}
-
-QStringList ProblemsModel::currentKeys() const {
-    QStringList keys;
-    QHash<QString, int> counts; // an element can have several unknown children
-    for (const Issue &issue : document().issues()) {
-        const QString key = issue.id % u' ' % issue.path % u' ';
-        keys.append(key % QString::number(counts[key]++));
-    }
-    return keys;
 }
 
 QStringList ProblemsModel::titles() const {

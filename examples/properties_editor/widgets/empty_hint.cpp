@@ -38,8 +38,8 @@ private:
 
 } // namespace
 
-void explainWhenEmpty(QAbstractItemView *view, const QString &text) {
-    new EmptyHint(view, text);
+QLabel *explainWhenEmpty(QAbstractItemView *view, const QString &text) {
+    return new EmptyHint(view, text);
 }
 
 } // namespace Editor

@@ -289,9 +289,10 @@ void MainWindow::closeEvent(QCloseEvent *event) {
 }
 
 bool MainWindow::event(QEvent *event) {
-    // Changes on network drives may go unnoticed.
-    if (event->type() == QEvent::WindowActivate)
-        m_document.checkDisk();
+    if (event->type() == QEvent::WindowActivate) {
+        m_document.checkDisk(); // changes on network drives may go unnoticed
+        m_document.checkFiles();
+    }
     // The tab bar of docks is made when the first two become tabs.
     if (event->type() == QEvent::ChildPolished &&
         qobject_cast<QTabBar *>(static_cast<QChildEvent *>(event)->child()))

@@ -4,6 +4,8 @@
 #include "widgets/icons.h"
 #include "widgets/marks.h"
 
+#include <QMap>
+
 namespace Editor {
 
 ProblemCount::ProblemCount(const Document &document, QWidget *parent)
@@ -17,17 +19,22 @@ ProblemCount::ProblemCount(const Document &document, QWidget *parent)
 
 void ProblemCount::refresh() {
     using Zel::PackageModel::Severity;
-    int errors = 0;
-    int warnings = 0;
-    for (const auto &issue : m_document.issues())
-        ++(issue.severity == Severity::Error ? errors : warnings);
-    if (errors + warnings == 0) {
+    if (m_document.issues().isEmpty()) {
         setText(tr("No problems"));
         setIcon(iconOf(Symbol::Check));
         return;
     }
-    setText(tr("Errors: %1, warnings: %2").arg(errors).arg(warnings));
-    setIcon(severityIcon(errors > 0 ? Severity::Error : Severity::Warning));
+    QMap<Severity, int> counts;
+    for (const auto &issue : m_document.issues())
+        ++counts[issue.severity];
+    QString text = counts.contains(Severity::Note) ? tr("Errors: %1, warnings: %2, notes: %3")
+                                                   : tr("Errors: %1, warnings: %2");
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+        if (severity != Severity::Note || counts.contains(severity))
+            text = text.arg(counts.value(severity));
+    }
+    setText(text);
+    setIcon(severityIcon(counts.lastKey()));
 }
 
 } // namespace Editor

@@ -1,5 +1,7 @@
 #include "problem_details.h"
 
+#include "widgets/hint_label.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QStringBuilder>
@@ -15,13 +17,21 @@ using Zel::PackageModel::Issue;
 
 ProblemDetails::ProblemDetails(QWidget *parent)
     : QScrollArea(parent)
+    , m_hint(new HintLabel(
+          tr("The explanation of the selected problem and ways to correct it appear here."), this))
+    , m_text(new QLabel(this))
     , m_explanation(new QLabel(this))
     , m_buttons(new QVBoxLayout) {
-    m_explanation->setWordWrap(true);
-    m_explanation->setTextFormat(Qt::PlainText);
-    m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_hint->setWordWrap(true);
+    for (QLabel *label : {m_text, m_explanation}) {
+        label->setWordWrap(true);
+        label->setTextFormat(Qt::PlainText);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    }
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_text);
     layout->addLayout(m_buttons);
     layout->addWidget(m_explanation);
     layout->addStretch();
@@ -37,9 +47,12 @@ void ProblemDetails::show(const Issue *issue, const QVector<Fix> &fixes, QWidget
         const std::unique_ptr<QLayoutItem> item(m_buttons->takeAt(0));
         item->widget()->deleteLater();
     }
-    m_explanation->clear();
+    m_hint->setVisible(!issue);
+    m_text->setVisible(issue);
+    m_explanation->setVisible(issue);
     if (!issue)
         return;
+    m_text->setText(issue->plainText());
     const auto rules = Zel::PackageModel::rules();
     const auto rule = std::find_if(rules.begin(), rules.end(),
                                    [&](const auto &each) { return each.id == issue->id; });

@@ -9,15 +9,14 @@ class QVBoxLayout;
 
 namespace Editor {
 
-/// The explanation and the remedy of one problem, and a button for each way to deal with it.
+/// The text, explanation and remedy of one problem, and a button for each way to deal with it.
 class ProblemDetails : public QScrollArea {
     Q_OBJECT
 
 public:
     explicit ProblemDetails(QWidget *parent = nullptr);
 
-    /// Empty for null, in the same place, so that the list beside it does not move. The buttons
-    /// follow `previous` in the order of the Tab key.
+    /// Shows a hint for null. The buttons follow `previous` in the order of the Tab key.
     void show(const Zel::PackageModel::Issue *issue, const QVector<Zel::PackageModel::Fix> &fixes,
               QWidget *previous);
 
@@ -26,6 +25,8 @@ Q_SIGNALS:
     void ignoreWanted();
 
 private:
+    QLabel *m_hint;
+    QLabel *m_text;
     QLabel *m_explanation;
     QVBoxLayout *m_buttons;
 };

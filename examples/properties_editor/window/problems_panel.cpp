@@ -32,6 +32,7 @@ using Zel::PackageModel::Severity;
 ProblemsPanel::ProblemsPanel(Document &document, ProblemsModel *problems, QWidget *parent)
     : QWidget(parent)
     , m_document(document)
+    , m_problems(problems)
     , m_filter(new ProblemFilter(problems, this))
     , m_view(new QTreeView(this))
     , m_details(new ProblemDetails(this)) {
@@ -85,7 +86,7 @@ void ProblemsPanel::setUpView() {
     m_view->setAllColumnsShowFocus(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setAccessibleName(tr("Problems"));
-    explainWhenEmpty(m_view, tr("No problems, or the filter above hides them."));
+    m_emptiness = explainWhenEmpty(m_view);
     QHeaderView *header = m_view->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(ProblemsModel::Text, QHeaderView::Stretch);
@@ -119,7 +120,7 @@ void ProblemsPanel::addActions() {
     add(tr("&Ignore"), &ProblemsPanel::ignoreSelected);
 }
 
-// Another click on a column that is sorted in descending order restores the order of the checks.
+// Another click on a column that is sorted in descending order restores the usual order.
 void ProblemsPanel::sort(int column, Qt::SortOrder order) {
     const bool isThird = column >= 0 && column == std::exchange(m_sortedColumn, column) &&
                          m_sortOrder == Qt::DescendingOrder;
@@ -131,8 +132,7 @@ void ProblemsPanel::sort(int column, Qt::SortOrder order) {
 }
 
 const Issue *ProblemsPanel::issueOf(const QModelIndex &index) const {
-    const int row = m_filter->mapToSource(index).row();
-    return row >= 0 && row < m_document.issues().size() ? &m_document.issues().at(row) : nullptr;
+    return m_problems->issueAt(m_filter->mapToSource(index).row());
 }
 
 QVector<Issue> ProblemsPanel::selected() const {
@@ -151,6 +151,9 @@ QVector<Issue> ProblemsPanel::selected() const {
 void ProblemsPanel::refresh() {
     const Issue *issue = issueOf(m_view->currentIndex());
     m_details->show(issue, issue ? m_document.fixes(*issue) : QVector<Fix>(), m_view);
+    m_emptiness->setText(m_document.issues().isEmpty()
+                             ? tr("The package has no problems.")
+                             : tr("The filter above hides all problems."));
 }
 
 // An edit elsewhere may have changed what the fix has to do.

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QBoxLayout;
+class QLabel;
 class QTreeView;
 
 namespace Editor {
@@ -52,8 +53,10 @@ private:
     const Zel::PackageModel::Issue *issueOf(const QModelIndex &index) const;
 
     Document &m_document;
+    ProblemsModel *m_problems;
     ProblemFilter *m_filter;
     QTreeView *m_view;
+    QLabel *m_emptiness;
     ProblemDetails *m_details;
     int m_sortedColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
