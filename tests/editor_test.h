@@ -147,9 +147,9 @@ protected:
     int problemCount() { return problems()->model()->rowCount(); }
 
     template<typename Widget>
-    Widget *visible() const {
+    Widget *visible(bool (Widget::*condition)() const = &Widget::isVisible) const {
         for (Widget *candidate : m_window->findChildren<Widget *>()) {
-            if (candidate->isVisible())
+            if (candidate->isVisible() && (candidate->*condition)())
                 return candidate;
         }
         return nullptr;

@@ -247,14 +247,14 @@ private Q_SLOTS:
                          QStringLiteral("names[ja_JP]"), QStringLiteral("descriptions[ja_JP]")}));
         QCOMPARE(problems.index(0, ProblemsModel::Field).data().toString(),
                  QStringLiteral("Trigger sentences of “%1” in Japanese (Japan)").arg(path));
-        QVERIFY(document.behaviorSeverity(path));
+        QVERIFY(document.entrySeverity(QStringLiteral("behaviors"), path));
         remove("behaviors", 0)(document, models);
         QCOMPARE(problems.rowCount(), 2);
         document.undoStack()->undo();
         QCOMPARE(problems.rowCount(), 3);
         document.type(behaviorField(path, "path"), QStringLiteral("other"));
-        QVERIFY(!document.behaviorSeverity(path));
-        QVERIFY(document.behaviorSeverity(QStringLiteral("other")));
+        QVERIFY(!document.entrySeverity(QStringLiteral("behaviors"), path));
+        QVERIFY(document.entrySeverity(QStringLiteral("behaviors"), QStringLiteral("other")));
     }
 
     // The package is unchanged, and the reason is shown.

@@ -2,14 +2,17 @@
 #include "golden.h"
 #include "models/problems_model.h"
 #include "table_file.h"
+#include "widgets/icon_button.h"
 
 #include <QAction>
 #include <QBuffer>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QImage>
+#include <QListView>
 #include <QProcess>
 #include <QStatusBar>
+#include <QTableView>
 #include <QToolButton>
 
 using Editor::ProblemsModel;
@@ -138,10 +141,38 @@ private Q_SLOTS:
         document.setIcon(png.data());
         QVERIFY(document.save(m_file));
         QVERIFY(!column(ProblemsModel::RuleRole).contains(QStringLiteral("icon-invalid")));
+        const QString written = QFileInfo(m_file).dir().filePath(QStringLiteral("icon.png"));
+        QVERIFY(QFile::remove(written));
+        QVERIFY(document.save(m_file));
+        QVERIFY(QFile::exists(written));
 
         QVERIFY(m_window->openFile(copyOf("faulty")));
         QVERIFY(document.save(m_directory.filePath(QStringLiteral("elsewhere.xml"))));
         QCOMPARE(problemCount(), m_count - 1); // there is no icon
+    }
+
+    // The lists and tabs in which the fields at fault are.
+    void areMarkedInPlace() {
+        m_window->showField(QStringLiteral("behaviors[patrol].permissions[1]"));
+        enum { Sentences = 1, Tags = 3, Permissions = 5 };
+        QVERIFY(!tabs()->tabIcon(Sentences).isNull());
+        QVERIFY(tabs()->tabIcon(Tags).isNull());
+        QVERIFY(!tabs()->tabIcon(Permissions).isNull());
+        m_window->showField(QStringLiteral("behaviors[listen].nature"));
+        QVERIFY(tabs()->tabIcon(Sentences).isNull());
+        const auto *services = view<QTableView>("Services")->model();
+        QVERIFY(services->index(0, 0).data(Qt::BackgroundRole).isNull());
+        QVERIFY(!services->index(1, 0).data(Qt::BackgroundRole).isNull());
+        const auto *dialogs = view<QListView>("Dialogs")->model();
+        QVERIFY(!dialogs->index(0, 0).data(Qt::DecorationRole).isNull());
+    }
+
+    // The next problem is shown above another dock in the same place.
+    void comeToTheFront() {
+        press(Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(problems()->visibleRegion().isEmpty());
+        press(Qt::Key_F8);
+        QTRY_VERIFY(!problems()->visibleRegion().isEmpty());
     }
 
     // Another program writes files beside the manifest while the window is in the background.
@@ -183,6 +214,8 @@ private Q_SLOTS:
         rules();
         QCOMPARE(document.package()->icon().pixmap(2).toImage().pixelColor(0, 0),
                  QColor(Qt::green));
+        QVERIFY(m_window->findChild<Editor::IconButton *>()->fileState().startsWith(
+            QStringLiteral("Saving writes")));
     }
 
     // The number in the status bar, the hint in the list and that beside it.

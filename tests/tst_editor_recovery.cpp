@@ -1,12 +1,15 @@
 #include "document/field_edits.h"
 #include "document/recovery.h"
+#include "window/main_window.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Editor;
 
@@ -120,6 +123,28 @@ private Q_SLOTS:
         QVERIFY(next.document.package()
                     ->name(Zel::Language::defaultLanguage())
                     .startsWith(QStringLiteral("Evening")));
+    }
+
+    // Nothing is offered for a file that has the edits already.
+    void savedByAnotherProgram() {
+        crashWith({"Ada"});
+        {
+            Session other(m_folder->filePath(QStringLiteral("other")));
+            QVERIFY(other.document.open(m_manifest));
+            setAuthor(other, "Ada");
+            QVERIFY(other.document.save(m_manifest));
+        }
+        MainWindow window;
+        window.keepEditsIn(state());
+        QTimer refusal;
+        connect(&refusal, &QTimer::timeout, [] {
+            if (QWidget *dialog = QApplication::activeModalWidget())
+                dialog->close(); // recovers
+        });
+        refusal.start(0);
+        QVERIFY(window.openFile(m_manifest));
+        QTRY_COMPARE(kept(), 0);
+        QVERIFY(!window.document().isModified());
     }
 
     // Edits that do not fit the file stay on disk, even if the user continues editing.

@@ -2,6 +2,8 @@
 #include "pages/review_page.h"
 #include "widgets/xml_view.h"
 
+#include <tano/kept_content.h>
+
 #include <QListView>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -44,6 +46,11 @@ private Q_SLOTS:
         QCOMPARE(wanted.first().first().toString(), QStringLiteral("names[fr_FR]"));
         QVERIFY(m_document->save(m_manifest));
         QTRY_COMPARE(lines(), QStringList(QStringLiteral("Nothing has changed.")));
+
+        const auto record = Tano::withComment(m_document->package()->packageInfo(),
+                                              FieldPath().field("author"), " who ");
+        m_document->edit({{Zel::PackageModel::Edit::Action::Set, {}, record}});
+        QTRY_COMPARE(lines(), QStringList(QStringLiteral("\"<!-- who -->\" added")));
     }
 
     void xmlAtTheField_data() {

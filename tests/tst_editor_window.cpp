@@ -226,7 +226,7 @@ private Q_SLOTS:
             {{Zel::PackageModel::Edit::Action::Set, *Tano::FieldPath::parse("names[fr_FR]"),
               QStringLiteral("<speak>")}});
         QStringList shown;
-        answerInTurn({pressButton(shown, QMessageBox::RejectRole)});
+        answerInTurn({pressButton(shown, QMessageBox::AcceptRole)});
         press(Qt::Key_E, Qt::ControlModifier);
         QVERIFY2(shown.value(0).startsWith(QStringLiteral("A package with malformed")),
                  qPrintable(shown.value(0)));
@@ -343,6 +343,11 @@ private Q_SLOTS:
         showWindow();
         m_window->showStartPage();
         QVERIFY(dock("problems")->isHidden());
+        const auto actions = m_window->findChildren<QAction *>();
+        const auto save = std::find_if(actions.begin(), actions.end(), [](const QAction *each) {
+            return each->shortcut() == QKeySequence(QKeySequence::Save);
+        });
+        QVERIFY(!(*save)->isEnabled()); // no package is shown
         auto *recent = view<QTreeWidget>("Recent packages");
         QCOMPARE(recent->topLevelItemCount(), 2);
         QVERIFY(recent->topLevelItem(0)->isDisabled());
@@ -350,6 +355,7 @@ private Q_SLOTS:
                           recent->visualItemRect(recent->topLevelItem(1)).center());
         QCOMPARE(m_window->document().fileName(), present);
         QVERIFY(!dock("problems")->isHidden());
+        QVERIFY((*save)->isEnabled());
         QVERIFY(field("&UID:")->isVisible());
 
         m_window->showStartPage();
@@ -363,6 +369,26 @@ private Q_SLOTS:
         QVERIFY(!hint->isHidden() && !hint->text().isEmpty());
         QVERIFY(m_window->openFile(copyOf("small")));
         QVERIFY(hint->isHidden());
+    }
+
+    // Choosing a language keeps the purpose, and the list of purposes follows edits.
+    void purposesOfConditions() {
+        QVERIFY(m_window->openFile(copyOf("ten-languages")));
+        m_window->showField(QStringLiteral("behaviors[greet-visitor].conditions[suggestion][0]"));
+        auto *purpose = visible<QComboBox>(&QComboBox::isEditable);
+        QCOMPARE(purpose->currentText(), QStringLiteral("suggestion"));
+        view<QComboBox>("Language of the texts")->setCurrentIndex(1);
+        QCOMPARE(purpose->currentText(), QStringLiteral("suggestion"));
+        purpose->setEditText(QStringLiteral("evening"));
+        line("A new condition for this purpose")->setFocus();
+        type(QStringLiteral("clock.hour > 18"));
+        press(Qt::Key_Return);
+        QVERIFY(purpose->findText(QStringLiteral("evening")) >= 0);
+        QCOMPARE(purpose->currentText(), QStringLiteral("evening"));
+        stack()->undo();
+        QCOMPARE(purpose->findText(QStringLiteral("evening")), -1);
+        m_window->showField(QStringLiteral("behaviors[goodbye]"));
+        QCOMPARE(purpose->currentText(), QStringLiteral("launch"));
     }
 
     void choosesTopicFiles() {

@@ -68,6 +68,7 @@ private Q_SLOTS:
         QTest::mouseClick(buttons.first(), Qt::LeftButton);
         QCOMPARE(field("&UID:")->text(), QStringLiteral("night-watch"));
         QVERIFY(problemCount() < found);
+        QCOMPARE(stack()->undoText(), QStringLiteral("Set UID"));
         stack()->undo();
         QCOMPARE(problemCount(), found);
 
@@ -292,9 +293,15 @@ private Q_SLOTS:
         QVERIFY(cancel.isGiven());
         QCOMPARE(contentOf(fileName), content);
 
-        Answer discard(click(QStringLiteral("Discard Yours")));
+        QString usual; // the default button
+        Answer discard(std::function<void(QDialog *)>([&usual](QDialog *dialog) {
+            for (const auto *each : dialog->findChildren<QPushButton *>())
+                usual += each->isDefault() ? each->text() : QString();
+            click(QStringLiteral("Discard Yours"))(dialog);
+        }));
         QTest::mouseClick(bar->findChild<QPushButton *>(), Qt::LeftButton);
         QVERIFY(discard.isGiven());
+        QCOMPARE(usual, QStringLiteral("Keep Both"));
         QCOMPARE(manifest(), content);
         QVERIFY(!bar->isVisible());
     }

@@ -146,8 +146,8 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
     const QIcon icon = m_package->icon();
     const QDir directory = QFileInfo(manifest).absoluteDir();
     const bool isElsewhere = directory != QFileInfo(m_fileName).absoluteDir();
-    const bool isSame = keyOf(icon) == m_savedIcon;
-    if (isElsewhere ? icon.isNull() : isSame)
+    const bool isThere = icon.isNull() || directory.exists(QStringLiteral("icon.png"));
+    if (isElsewhere ? icon.isNull() : isThere && !isIconEdited())
         return true;
     Tano::FileToSave file;
     file.path = Zel::toUtf8(directory.filePath(QStringLiteral("icon.png")));
@@ -164,8 +164,11 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
 }
 
 std::optional<QByteArray> Document::pendingIcon() const {
-    const QIcon icon = m_package->icon();
-    return keyOf(icon) == m_savedIcon ? std::nullopt : pngOf(icon);
+    return isIconEdited() ? pngOf(m_package->icon()) : std::nullopt;
+}
+
+bool Document::isIconEdited() const {
+    return keyOf(m_package->icon()) != m_savedIcon;
 }
 
 void Document::setIcon(const QByteArray &png) {

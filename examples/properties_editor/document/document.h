@@ -106,6 +106,8 @@ public:
     Zel::PackageModel::Edits pendingEdits() const;
     /// The icon as PNG if it has changed since, empty if there is none any more.
     std::optional<QByteArray> pendingIcon() const;
+    /// Whether the icon has changed since.
+    bool isIconEdited() const;
     /// Sets the icon from a PNG file's content, as an undo step; removes it if there is none.
     /// Ignores other content.
     void setIcon(const QByteArray &png);
@@ -119,8 +121,11 @@ public:
     }
     /// The most severe issue of a field.
     std::optional<Zel::PackageModel::Issue> issueAt(const Tano::FieldPath &path) const;
-    /// The greatest severity among the issues of a behavior.
-    std::optional<Zel::PackageModel::Severity> behaviorSeverity(const QString &behaviorPath) const;
+    /// The greatest severity among the issues of the entries of a list with this key.
+    std::optional<Zel::PackageModel::Severity> entrySeverity(const QString &list,
+                                                             const QString &key) const;
+    /// The greatest severity among the issues of a field, and of what it contains if it is a list.
+    std::optional<Zel::PackageModel::Severity> fieldSeverity(const Tano::FieldPath &path) const;
 
     // Translation progress, computed on demand since there may be very many texts.
 
@@ -167,7 +172,7 @@ private:
 
     std::unique_ptr<Zel::PackageModel::IssueTracker> m_tracker;
     QHash<QString, Zel::PackageModel::Issue> m_issueByPath;
-    QHash<QString, Zel::PackageModel::Severity> m_behaviorSeverity;
+    QHash<QPair<QString, QString>, Zel::PackageModel::Severity> m_entrySeverity; // by list and key
 
     // The only languages in which texts of behaviors and dialogs can be edited.
     mutable std::optional<Zel::RobotLanguages> m_languages;

@@ -56,8 +56,7 @@ bool Document::followIcon() {
     if (!QFileInfo::exists(m_fileName) || iconOnDisk() == m_iconOnDisk)
         return false;
     m_iconOnDisk = iconOnDisk();
-    const bool isEdited = pendingIcon().has_value();
-    if (const auto present = isEdited ? nullptr : readAgain()) {
+    if (const auto present = isIconEdited() ? nullptr : readAgain()) {
         m_package->setIcon(present->icon());
         m_savedIcon = m_package->icon().isNull() ? 0 : m_package->icon().cacheKey();
     }
@@ -74,7 +73,7 @@ void Document::checkFiles() {
 
 void Document::indexIssues() {
     m_issueByPath.clear();
-    m_behaviorSeverity.clear();
+    m_entrySeverity.clear();
     const auto keepWorst = [](auto &entry, const auto &candidate, bool isWorse) {
         if (isWorse)
             entry = candidate;
@@ -84,11 +83,11 @@ void Document::indexIssues() {
         keepWorst(m_issueByPath[issue.path], issue,
                   isFirst || issue.severity > m_issueByPath[issue.path].severity);
         const auto path = FieldPath::parse(Zel::toUtf8(issue.path));
-        if (path && fieldName(*path) == QLatin1String("behaviors")) {
-            const QString key = fieldKey(*path);
-            const bool isNew = !m_behaviorSeverity.contains(key);
-            keepWorst(m_behaviorSeverity[key], issue.severity,
-                      isNew || issue.severity > m_behaviorSeverity[key]);
+        if (path && !fieldKey(*path).isEmpty()) {
+            const auto key = qMakePair(fieldName(*path), fieldKey(*path));
+            const bool isNew = !m_entrySeverity.contains(key);
+            keepWorst(m_entrySeverity[key], issue.severity,
+                      isNew || issue.severity > m_entrySeverity[key]);
         }
     }
     Q_EMIT issuesChanged();
@@ -101,9 +100,22 @@ std::optional<Issue> Document::issueAt(const FieldPath &path) const {
     return found == m_issueByPath.cend() ? std::nullopt : std::optional<Issue>(*found);
 }
 
-std::optional<Severity> Document::behaviorSeverity(const QString &behaviorPath) const {
-    const auto found = m_behaviorSeverity.constFind(behaviorPath);
-    return found == m_behaviorSeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
+std::optional<Severity> Document::entrySeverity(const QString &list, const QString &key) const {
+    const auto found = m_entrySeverity.constFind({list, key});
+    return found == m_entrySeverity.cend() ? std::nullopt : std::optional<Severity>(*found);
+}
+
+std::optional<Severity> Document::fieldSeverity(const FieldPath &path) const {
+    const QString start = Zel::fromUtf8(path.toString());
+    std::optional<Severity> worst;
+    for (const Issue &issue : issues()) {
+        const bool isInside =
+            !path.isEmpty() && issue.path.startsWith(start) &&
+            (issue.path.size() == start.size() || issue.path[start.size()] == u'[');
+        if (isInside && (!worst || *worst < issue.severity))
+            worst = issue.severity;
+    }
+    return worst;
 }
 
 } // namespace Editor

@@ -41,7 +41,9 @@ QVariant BehaviorsModel::data(const QModelIndex &index, int role) const {
         return role == Qt::ToolTipRole ? toolTipOf(text) : text;
     }
     const auto severity =
-        index.column() == Path ? m_document.behaviorSeverity(behavior->path()) : std::nullopt;
+        index.column() == Path
+            ? m_document.entrySeverity(QStringLiteral("behaviors"), behavior->path())
+            : std::nullopt;
     if (role == Qt::DecorationRole && severity)
         return severityIcon(*severity);
     if (role == Qt::AccessibleDescriptionRole && severity)

@@ -27,9 +27,15 @@ int DialogsModel::columnCount(const QModelIndex &parent) const {
 
 QVariant DialogsModel::data(const QModelIndex &index, int role) const {
     const DialogInfoModel *dialog = package()->dialogs().value(index.row());
-    if (!index.isValid() || !checkIndex(index) || !dialog || role != Qt::DisplayRole)
+    if (!index.isValid() || !checkIndex(index) || !dialog)
         return {};
-    return dialog->topicName();
+    if (role == Qt::DisplayRole)
+        return dialog->topicName();
+    const auto severity =
+        role == Qt::DecorationRole
+            ? document().entrySeverity(QStringLiteral("dialogs"), dialog->topicName())
+            : std::nullopt;
+    return severity ? severityIcon(*severity) : QVariant();
 }
 
 QStringList DialogsModel::currentKeys() const {
@@ -140,14 +146,11 @@ QVariant ServicesModel::data(const QModelIndex &index, int role) const {
     const Zel::ServiceInfoModel *service = package()->services().value(index.row());
     if (!index.isValid() || !checkIndex(index) || !service)
         return {};
-    if (index.column() == AutoRun) {
-        if (role != Qt::CheckStateRole)
-            return {};
+    if (index.column() == AutoRun && role == Qt::CheckStateRole)
         return service->isAutoRun() ? Qt::Checked : Qt::Unchecked;
-    }
     if (role != Qt::DisplayRole && role != Qt::EditRole)
-        return {};
-    return fieldText(package(), field(index));
+        return markData(Mark::ofIssue(document().issueAt(field(index))), role);
+    return index.column() == AutoRun ? QVariant() : fieldText(package(), field(index));
 }
 
 ServicesModel::Column ServicesModel::columnOf(const QString &field) const {

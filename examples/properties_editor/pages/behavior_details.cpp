@@ -1,5 +1,6 @@
 #include "behavior_details.h"
 
+#include "behavior_lists.h"
 #include "document/field_edits.h"
 #include "models/languages_model.h"
 #include "widgets/empty_hint.h"
@@ -14,7 +15,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace Editor {
 namespace {
@@ -22,37 +22,6 @@ namespace {
 using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 using Zel::PackageModel::Edit;
-
-struct ListTab {
-    const char *field;
-    const char *title;
-    const char *placeholder;
-    const char *purpose; // shown while the list is empty
-};
-
-constexpr std::array listTabs{
-    ListTab{"triggerSentences", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Trigger sentences"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A sentence that starts the behavior"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
-                              "What people say to start the behavior. Type a sentence below.")},
-    ListTab{
-        "loadingResponses", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Responses"),
-        QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "What the robot says while it loads"),
-        QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
-                          "What the robot says until the behavior starts. Type a sentence below.")},
-    ListTab{"tags", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Tags"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new tag"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
-                              "Words that group behaviors. Type a tag below.")},
-    ListTab{"conditions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Conditions"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new condition for this purpose"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
-                              "What has to hold for the behavior to run. Type a condition below.")},
-    ListTab{"permissions", QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "Permissions"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails", "A new permission"),
-            QT_TRANSLATE_NOOP("Editor::BehaviorDetails",
-                              "What the behavior uses of the robot. Type a permission below.")},
-};
 
 enum Tab { Texts, Sentences, Responses, Tags, Conditions, Permissions };
 
@@ -171,10 +140,6 @@ StringListEditor *BehaviorDetails::list(int tab) const {
     return m_lists.at(tab - Sentences);
 }
 
-QString BehaviorDetails::path() const {
-    return m_behavior ? m_behavior->path() : QString();
-}
-
 FieldPath BehaviorDetails::field(const char *name) const {
     const FieldPath list = FieldPath().field("behaviors");
     const int row = int(package()->behaviors().indexOf(m_behavior));
@@ -204,6 +169,10 @@ void BehaviorDetails::setBehavior(BehaviorInfoModel *behavior) {
     leaveLists();
     m_behavior = behavior;
     setEnabled(behavior != nullptr);
+    if (!purposes().contains(m_purpose->currentText())) {
+        const QSignalBlocker blocker(m_purpose);
+        m_purpose->setEditText(purposes().first());
+    }
     reload();
 }
 
@@ -224,20 +193,27 @@ void BehaviorDetails::changePurpose() {
     list(Conditions)->reload();
 }
 
-void BehaviorDetails::fillPurposes() {
-    const QSignalBlocker blocker(m_purpose);
+QStringList BehaviorDetails::purposes() const {
     QStringList purposes = m_behavior ? m_behavior->purposes() : QStringList();
     for (const QString &usual : {QStringLiteral("launch"), QStringLiteral("suggestion")}) {
         if (!purposes.contains(usual))
             purposes.append(usual);
     }
-    m_purpose->clear();
-    m_purpose->addItems(purposes);
+    return purposes;
+}
+
+// Keeps the shown purpose, which may be a new one.
+void BehaviorDetails::fillPurposes() {
+    const QSignalBlocker blocker(m_purpose);
     m_shownPurpose = m_purpose->currentText();
+    m_purpose->clear();
+    m_purpose->addItems(purposes());
+    m_purpose->setCurrentIndex(m_purpose->findText(m_shownPurpose));
+    m_purpose->setEditText(m_shownPurpose);
 }
 
 void BehaviorDetails::reload() {
-    fillPurposes();
+    m_shownPurpose = m_purpose->currentText();
     for (TextField *field : std::as_const(m_fields))
         field->reload();
     for (StringListEditor *editor : std::as_const(m_lists))
@@ -246,9 +222,21 @@ void BehaviorDetails::reload() {
     refresh();
 }
 
+QIcon BehaviorDetails::tabIcon(int tab) const {
+    auto severity = tab == Texts ? m_document.fieldSeverity(field("names"))
+                                 : m_document.fieldSeverity(field(listTabs.at(tab - 1).field));
+    if (tab == Texts)
+        severity = std::max(severity, m_document.fieldSeverity(field("descriptions")));
+    return severity ? severityIcon(*severity) : QIcon();
+}
+
 void BehaviorDetails::refresh() {
+    for (int tab = Texts; tab <= Permissions; ++tab)
+        m_tabs->setTabIcon(tab, tabIcon(tab));
     if (!m_behavior)
         return;
+    if (m_purpose->count() != purposes().size())
+        fillPurposes();
     int nature = m_nature->findData(m_behavior->nature());
     if (m_behavior->nature().isEmpty())
         nature = 0;
@@ -258,9 +246,6 @@ void BehaviorDetails::refresh() {
     }
     m_nature->setCurrentIndex(nature);
     m_userRequestable->setChecked(m_behavior->isUserRequestable());
-
-    const auto severity = m_document.behaviorSeverity(path());
-    m_tabs->setTabIcon(Sentences, severity ? severityIcon(*severity) : QIcon());
 }
 
 void BehaviorDetails::startTypingPath() {

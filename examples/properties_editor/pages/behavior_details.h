@@ -40,10 +40,11 @@ private:
     void leaveLists();
     void changeLanguage();
     void changePurpose();
+    QStringList purposes() const;
     void fillPurposes();
+    QIcon tabIcon(int tab) const;
     void reload();
     void refresh();
-    QString path() const;
     /// The path of a field of the behavior, empty if none is shown.
     Tano::FieldPath field(const char *name) const;
     /// The same for the current language.

@@ -49,7 +49,11 @@ ServicesPage::ServicesPage(Document &document, QWidget *parent)
     layout->addWidget(newHeading(tr("Properties"), this));
     layout->addWidget(newProperties(), 2);
 
-    const auto showService = [this] { m_properties->setService(m_table->currentIndex().row()); };
+    const auto showService = [this] {
+        if (!m_table->currentIndex().isValid() && m_model->rowCount() > 0)
+            selectAlone(m_table, m_model->index(0, ServicesModel::Name));
+        m_properties->setService(m_table->currentIndex().row());
+    };
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this, showService);
     connect(m_model, &QAbstractItemModel::modelReset, this, showService);
     for (const QTableView *table : {m_table, m_propertyTable}) {

@@ -42,9 +42,9 @@ IconButton::IconButton(Document &document, QWidget *parent)
     setAccessibleName(tr("Icon"));
     setToolTip(tr("Click to choose an icon, or drop a picture here."));
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto *removal = new QAction(tr("Use the Default Icon"), this);
-    connect(removal, &QAction::triggered, this, [this] { setIconOf(QPixmap()); });
-    addAction(removal);
+    m_removal = new QAction(tr("Use the Default Icon"), this);
+    connect(m_removal, &QAction::triggered, this, [this] { setIconOf(QPixmap()); });
+    addAction(m_removal);
     connect(this, &QToolButton::clicked, this, &IconButton::choose);
     connect(&document, &Document::edited, this, &IconButton::refresh);
     connect(&document, &Document::fileNameChanged, this, &IconButton::refresh);
@@ -54,6 +54,7 @@ IconButton::IconButton(Document &document, QWidget *parent)
 void IconButton::refresh() {
     const QIcon icon = m_document.package()->icon();
     setIcon(icon.isNull() ? Zel::PackageInfoModel::defaultIcon() : icon);
+    m_removal->setEnabled(!icon.isNull());
     Q_EMIT refreshed();
 }
 
@@ -61,7 +62,7 @@ QString IconButton::fileState() const {
     if (m_document.package()->icon().isNull())
         return tr("Robots show the default icon.");
     const QDir folder = QFileInfo(m_document.fileName()).absoluteDir();
-    return !m_document.fileName().isEmpty() && folder.exists(QStringLiteral("icon.png"))
+    return !m_document.isIconEdited() && folder.exists(QStringLiteral("icon.png"))
                ? tr("The file icon.png is beside the manifest.")
                : tr("Saving writes the file icon.png beside the manifest.");
 }

@@ -35,6 +35,7 @@ private:
     void setIconOf(const QPixmap &pixmap);
 
     Document &m_document;
+    QAction *m_removal;
 };
 
 } // namespace Editor

@@ -22,6 +22,8 @@ public:
 
     void fillMenu(QMenu *menu);
     void fillToolBar(QToolBar *toolBar);
+    /// The actions that write the shown package.
+    QList<QAction *> savingActions() const { return {m_save, m_saveAs, m_publish}; }
 
     /// Asks about unsaved changes; returns whether the package may be closed.
     bool settle();

@@ -2,8 +2,6 @@
 
 #include "file_actions.h"
 #include "file_drop.h"
-#include "find_panel.h"
-#include "history_view.h"
 #include "models/problems_model.h"
 #include "page_stack.h"
 #include "pages/behaviors_page.h"
@@ -14,7 +12,6 @@
 #include "pages/services_page.h"
 #include "pages/texts_page.h"
 #include "pages/translation_page.h"
-#include "problem_count.h"
 #include "problems_panel.h"
 #include "recovery_dialogs.h"
 #include "start_page.h"
@@ -35,8 +32,6 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolButton>
-#include <QTreeView>
 #include <QUndoView>
 #include <QVBoxLayout>
 
@@ -124,6 +119,7 @@ void MainWindow::showStartPage() {
         dock->hide();
     }
     refreshTitle();
+    enablePackageActions(false);
 }
 
 void MainWindow::leaveStartPage() {
@@ -135,44 +131,12 @@ void MainWindow::leaveStartPage() {
         dock->show();
     m_hiddenDocks.clear();
     refreshTitle();
+    enablePackageActions(true);
 }
 
-QDockWidget *MainWindow::addDock(const QString &title, const char *name, QWidget *content) {
-    auto *dock = new QDockWidget(title, this);
-    dock->setObjectName(QLatin1String(name));
-    dock->setWidget(content);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
-    return dock;
-}
-
-void MainWindow::addDocks() {
-    m_problemsPanel = new ProblemsPanel(m_document, m_problems, this);
-    connect(m_problemsPanel, &ProblemsPanel::fieldWanted, this, &MainWindow::showField);
-    QDockWidget *problems = addDock(tr("Problems"), "problems", m_problemsPanel);
-
-    m_findPanel = new FindPanel(m_document, this);
-    connect(m_findPanel, &FindPanel::fieldWanted, this, &MainWindow::showField);
-    QDockWidget *find = addDock(tr("Find and Replace"), "find", m_findPanel);
-
-    auto *history = new HistoryView(m_document.undoStack(), this);
-    history->setEmptyLabel(tr("As opened"));
-    history->setAccessibleName(tr("History"));
-    QDockWidget *historyDock = addDock(tr("History"), "history", history);
-
-    resizeDocks({problems, historyDock}, {820, 260}, Qt::Horizontal);
-    resizeDocks({problems}, {190}, Qt::Vertical);
-    find->hide();
-}
-
-void MainWindow::addStatus() {
-    auto *count = new ProblemCount(m_document, this);
-    connect(count, &QToolButton::clicked, this, [this] {
-        auto *dock = findChild<QDockWidget *>(QStringLiteral("problems"));
-        dock->show();
-        dock->raise();
-        m_problemsPanel->view()->setFocus();
-    });
-    statusBar()->addPermanentWidget(count);
+void MainWindow::enablePackageActions(bool isPackageShown) {
+    for (QAction *action : std::as_const(m_packageActions))
+        action->setEnabled(isPackageShown);
 }
 
 void MainWindow::refreshTitle() {

@@ -65,6 +65,7 @@ private:
     void addViewMenu();
     void addHelpMenu();
     void leaveStartPage();
+    void enablePackageActions(bool isPackageShown);
     QDockWidget *addDock(const QString &title, const char *name, QWidget *content);
     void addDocks();
     void addFindActions(QMenu *menu);
@@ -80,7 +81,8 @@ private:
     PageStack *m_pages;
     QStackedWidget *m_stack;
     StartPage *m_start;
-    QVector<QWidget *> m_hiddenDocks; // hidden by the start page
+    QVector<QWidget *> m_hiddenDocks;  // hidden by the start page
+    QList<QAction *> m_packageActions; // of no use there
     ProblemsModel *m_problems;
     ProblemsPanel *m_problemsPanel = nullptr;
     FindPanel *m_findPanel = nullptr;

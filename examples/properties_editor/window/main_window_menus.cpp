@@ -37,6 +37,9 @@ void MainWindow::addMenus() {
     problems->addSeparator();
     problems->addAction(tr("&Fix All Safe Problems"), m_problemsPanel, &ProblemsPanel::fixAllSafe);
 
+    m_packageActions = m_files->savingActions();
+    m_packageActions += problems->menuAction();
+
     addViewMenu();
     addHelpMenu();
 

@@ -19,19 +19,15 @@ ProblemDetails::ProblemDetails(QWidget *parent)
     : QScrollArea(parent)
     , m_hint(new HintLabel(
           tr("The explanation of the selected problem and ways to correct it appear here."), this))
-    , m_text(new QLabel(this))
     , m_explanation(new QLabel(this))
     , m_buttons(new QVBoxLayout) {
     m_hint->setWordWrap(true);
-    for (QLabel *label : {m_text, m_explanation}) {
-        label->setWordWrap(true);
-        label->setTextFormat(Qt::PlainText);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    }
+    m_explanation->setWordWrap(true);
+    m_explanation->setTextFormat(Qt::PlainText);
+    m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(m_hint);
-    layout->addWidget(m_text);
     layout->addLayout(m_buttons);
     layout->addWidget(m_explanation);
     layout->addStretch();
@@ -48,15 +44,14 @@ void ProblemDetails::show(const Issue *issue, const QVector<Fix> &fixes, QWidget
         item->widget()->deleteLater();
     }
     m_hint->setVisible(!issue);
-    m_text->setVisible(issue);
     m_explanation->setVisible(issue);
     if (!issue)
         return;
-    m_text->setText(issue->plainText());
     const auto rules = Zel::PackageModel::rules();
     const auto rule = std::find_if(rules.begin(), rules.end(),
                                    [&](const auto &each) { return each.id == issue->id; });
-    m_explanation->setText(rule->explanation % u' ' % rule->remedy);
+    m_explanation->setText(issue->plainText() % QLatin1String("\n\n") % rule->explanation % u' ' %
+                           rule->remedy);
     const auto add = [&](QPushButton *button) {
         m_buttons->addWidget(button, 0, Qt::AlignLeft);
         if (previous->window() == button->window())

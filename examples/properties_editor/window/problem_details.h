@@ -26,7 +26,6 @@ Q_SIGNALS:
 
 private:
     QLabel *m_hint;
-    QLabel *m_text;
     QLabel *m_explanation;
     QVBoxLayout *m_buttons;
 };

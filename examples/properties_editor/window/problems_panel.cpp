@@ -161,7 +161,7 @@ void ProblemsPanel::fix(const QString &title) {
     const Issue *issue = issueOf(m_view->currentIndex());
     for (const Fix &fix : issue ? m_document.fixes(*issue) : QVector<Fix>()) {
         if (fix.title == title)
-            return m_document.edit(fix.edits, title);
+            return m_document.edit(fix.edits);
     }
 }
 

@@ -63,7 +63,7 @@ bool isAccepted(const Document &document, QWidget *window) {
             QMessageBox::Critical, title,
             text(QT_TRANSLATE_NOOP("Editor::Publishing", "A package with malformed speech scripts "
                                                          "cannot be published.")),
-            QMessageBox::Cancel, window);
+            QMessageBox::Ok, window);
         box.setInformativeText(listed(scripts));
         box.exec();
         return false;

@@ -76,6 +76,8 @@ void RecoveryDialogs::handleNotice() {
 void RecoveryDialogs::offerLeftover() {
     const UnsavedEdits &unsaved = *m_recovery.leftover();
     const ChangeList changes = changesOf(m_document.package(), unsaved.edits);
+    if (changes.lines.isEmpty() && changes.error.isEmpty() && !unsaved.icon)
+        return m_recovery.dismiss(); // the file has these changes already
     PlainMessageBox box(
         QMessageBox::Question, tr("Recovery"),
         tr("The editor ended before the edits of %1 were saved.").arg(timeOf(unsaved)),

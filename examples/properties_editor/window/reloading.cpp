@@ -52,8 +52,8 @@ Choice ask(const ChangeList &ours, const ChangeList &theirs, QWidget *window) {
     auto *reload = buttons->addButton(text(QT_TRANSLATE_NOOP("Editor::Reloading", "Discard Yours")),
                                       QDialogButtonBox::DestructiveRole);
     merge->setEnabled(!theirs.lines.isEmpty());
-    (merge->isEnabled() ? merge : buttons->button(QDialogButtonBox::Cancel))->setDefault(true);
     layout->addWidget(buttons);
+    (merge->isEnabled() ? merge : buttons->button(QDialogButtonBox::Cancel))->setDefault(true);
     Choice choice = Choice::Cancel;
     const auto choose = [&](Choice chosen) {
         choice = chosen;
