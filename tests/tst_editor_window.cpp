@@ -362,6 +362,8 @@ private Q_SLOTS:
         const auto choices = m_window->findChildren<QCommandLinkButton *>();
         QTest::mouseClick(choices.at(1), Qt::LeftButton);
         QCOMPARE(field("&UID:")->text(), QStringLiteral("new-package"));
+        type(QStringLiteral("own"));
+        QCOMPARE(field("&UID:")->text(), QStringLiteral("own"));
     }
 
     void explainsEmptyLists() {

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <numeric>
 #include <tuple>
-#include <unordered_map>
 #include <vector>
 
 namespace Editor {
@@ -34,48 +33,53 @@ int rankOf(const FieldPath &path, std::size_t step) {
     return step < path.steps().size() ? 1 + int(order.indexOf(fieldName(path, step))) : 0;
 }
 
-// The rows of entries that are selected by key.
+// The rows of the entries that have issues.
 class EntryRows {
 public:
-    explicit EntryRows(const PackageInfoModel &package) {
-        add("behaviors", package.behaviors(), &Zel::BehaviorInfoModel::path);
-        add("dialogs", package.dialogs(), &Zel::DialogInfoModel::topicName);
-        add("services", package.services(), &Zel::ServiceInfoModel::name);
+    EntryRows(const PackageInfoModel &package, const std::vector<FieldPath> &paths) {
+        for (const FieldPath &path : paths)
+            m_rows.insert(keyOf(path), {});
+        find(QStringLiteral("behaviors"), package.behaviors(), &Zel::BehaviorInfoModel::path);
+        find(QStringLiteral("dialogs"), package.dialogs(), &Zel::DialogInfoModel::topicName);
+        find(QStringLiteral("services"), package.services(), &Zel::ServiceInfoModel::name);
     }
     // Of other lists, the index in the path.
     int of(const FieldPath &path) const {
         if (path.isEmpty() || path.steps().front().selectors.empty())
             return 0;
-        const auto &[field, selectors] = path.steps().front();
-        FieldPath entry;
-        entry.field(field).entry(selectors[0].text,
-                                 selectors.size() > 1 ? selectors[1].toIndex().value_or(0) : 0);
-        const auto found = m_rows.find(entry);
-        return found == m_rows.end() ? selectors[0].toIndex().value_or(0) : found->second;
+        const auto &selectors = path.steps().front().selectors;
+        const int occurrence = selectors.size() > 1 ? selectors[1].toIndex().value_or(0) : 0;
+        return m_rows.value(keyOf(path)).value(occurrence, selectors.front().toIndex().value_or(0));
     }
 
 private:
+    using Key = QPair<QString, QString>; // list and key
+
+    static Key keyOf(const FieldPath &path) { return {fieldName(path), fieldKey(path)}; }
+
     template<typename Entry>
-    void add(const char *list, const QVector<Entry *> &entries, QString (Entry::*key)() const) {
-        QHash<QString, int> counts;
+    void find(const QString &list, const QVector<Entry *> &entries, QString (Entry::*key)() const) {
         for (int row = 0; row < entries.size(); ++row) {
-            const QString name = (entries.at(row)->*key)();
-            m_rows.emplace(FieldPath().field(list).entry(Zel::toUtf8(name), counts[name]++), row);
+            const auto rows = m_rows.find({list, (entries.at(row)->*key)()});
+            if (rows != m_rows.end())
+                rows->append(row);
         }
     }
 
-    std::unordered_map<FieldPath, int> m_rows;
+    QHash<Key, QVector<int>> m_rows;
 };
 
 } // namespace
 
 QVector<int> problemOrder(const PackageInfoModel &package, const QVector<Issue> &issues) {
-    const EntryRows rows(package);
+    std::vector<FieldPath> paths;
+    for (const Issue &issue : issues)
+        paths.push_back(FieldPath::parse(Zel::toUtf8(issue.path)).value_or(FieldPath()));
+    const EntryRows rows(package, paths);
     std::vector<std::tuple<int, int, int, int>> places;
-    for (const Issue &issue : issues) {
-        const auto path = FieldPath::parse(Zel::toUtf8(issue.path)).value_or(FieldPath());
-        places.emplace_back(-int(issue.severity), rankOf(path, 0), rows.of(path), rankOf(path, 1));
-    }
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        places.emplace_back(-int(issues.at(int(i)).severity), rankOf(paths[i], 0),
+                            rows.of(paths[i]), rankOf(paths[i], 1));
     QVector<int> order(issues.size());
     std::iota(order.begin(), order.end(), 0);
     std::stable_sort(order.begin(), order.end(),

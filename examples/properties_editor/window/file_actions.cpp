@@ -1,6 +1,7 @@
 #include "file_actions.h"
 
 #include "main_window.h"
+#include "pages/page.h"
 #include "publishing.h"
 #include "recent_files.h"
 #include "reloading.h"
@@ -159,8 +160,13 @@ void FileActions::newFrom(const QString &resource) {
     QFile file(resource);
     if (!settle() || !file.open(QIODevice::ReadOnly))
         return;
-    if (!m_document.openTemplate(file.readAll()))
+    if (!m_document.openTemplate(file.readAll())) {
         showFailure(tr("New"), resource);
+        return;
+    }
+    m_window.showField(QStringLiteral("uid"));
+    if (QWidget *uid = m_window.focusWidget())
+        startTyping(uid); // each package needs its own
 }
 
 bool FileActions::save() {

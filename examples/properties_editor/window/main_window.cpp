@@ -207,7 +207,8 @@ bool MainWindow::askAboutRefusal(const QPointer<TypedText> &text) {
                         this);
     box.setInformativeText(tr("The package keeps what was there before."));
     box.addButton(tr("Go On Without It"), QMessageBox::AcceptRole);
-    const QAbstractButton *fix = box.addButton(tr("Fix"), QMessageBox::RejectRole);
+    QPushButton *fix = box.addButton(tr("Fix"), QMessageBox::RejectRole);
+    box.setDefaultButton(fix);
     box.exec();
     const bool goesOn = box.clickedButton() != fix;
     if (text && goesOn)
