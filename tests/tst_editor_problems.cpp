@@ -165,6 +165,12 @@ private Q_SLOTS:
         QVERIFY(!services->index(1, 0).data(Qt::BackgroundRole).isNull());
         const auto *dialogs = view<QListView>("Dialogs")->model();
         QVERIFY(!dialogs->index(0, 0).data(Qt::DecorationRole).isNull());
+        const auto *languages = view<QTableView>("Languages and texts")->model();
+        QVERIFY(languages->index(0, 0).data(Qt::BackgroundRole).isNull());
+        QVERIFY(!languages->index(3, 0).data(Qt::BackgroundRole).isNull()); // unknown
+        QVERIFY(m_window->openFile(copyOf("unfinished")));
+        m_window->showField(QStringLiteral("supportedLanguages"));
+        QVERIFY(label("No supported language is defined."));
     }
 
     // The next problem is shown above another dock in the same place.

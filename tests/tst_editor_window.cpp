@@ -1,5 +1,6 @@
 #include "editor_test.h"
 #include "golden.h"
+#include "pages/behavior_details.h"
 #include "pages/language_chooser.h"
 #include "pages/page.h"
 #include "table_file.h"
@@ -371,6 +372,12 @@ private Q_SLOTS:
         QVERIFY(!hint->isHidden() && !hint->text().isEmpty());
         QVERIFY(m_window->openFile(copyOf("small")));
         QVERIFY(hint->isHidden());
+        const auto *details = m_window->findChild<BehaviorDetails *>();
+        QVERIFY(details->findChild<QCheckBox *>()->isChecked());
+        m_window->document().edit(
+            {{Zel::PackageModel::Edit::Action::Remove, *Tano::FieldPath::parse("behaviors[.]")}});
+        QVERIFY(!details->findChild<QCheckBox *>()->isChecked());
+        QCOMPARE(details->findChild<QComboBox *>()->currentIndex(), 0);
     }
 
     // Choosing a language keeps the purpose, and the list of purposes follows edits.

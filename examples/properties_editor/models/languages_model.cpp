@@ -98,7 +98,9 @@ QVariant LanguagesModel::data(const QModelIndex &index, int role) const {
     default:
         break;
     }
-    const QVariant mark = markData(Mark::ofIssue(document().issueAt(field(index))), role);
+    const FieldPath marked =
+        index.column() == Language ? listOf(Supported).key(Zel::toUtf8(key(index))) : field(index);
+    const QVariant mark = markData(Mark::ofIssue(document().issueAt(marked)), role);
     if (!mark.isValid() && role == Qt::ToolTipRole)
         return toolTipOf(index.column() == Language ? key(index) : display(index).toString());
     return mark;

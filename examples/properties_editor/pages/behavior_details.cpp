@@ -233,8 +233,11 @@ QIcon BehaviorDetails::tabIcon(int tab) const {
 void BehaviorDetails::refresh() {
     for (int tab = Texts; tab <= Permissions; ++tab)
         m_tabs->setTabIcon(tab, tabIcon(tab));
-    if (!m_behavior)
+    if (!m_behavior) {
+        m_nature->setCurrentIndex(0);
+        m_userRequestable->setChecked(false);
         return;
+    }
     if (m_purpose->count() != purposes().size())
         fillPurposes();
     int nature = m_nature->findData(m_behavior->nature());

@@ -7,6 +7,7 @@
 #include "widgets/empty_hint.h"
 #include "widgets/hint_label.h"
 #include "widgets/icons.h"
+#include "widgets/marks.h"
 #include "widgets/row_actions.h"
 #include "widgets/typing_delegate.h"
 
@@ -65,6 +66,7 @@ TextsPage::TextsPage(Document &document, QWidget *parent)
     auto *tableLayout = new QVBoxLayout(tablePart);
     tableLayout->setContentsMargins(0, 0, 0, 0);
     tableLayout->addWidget(m_summary);
+    tableLayout->addWidget(new MarkLabel(document, list, tablePart));
     tableLayout->addWidget(m_table);
     tableLayout->addLayout(buttons);
 
