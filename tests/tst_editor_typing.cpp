@@ -157,7 +157,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("button");
         QTest::addColumn<bool>("isSaved");
         QTest::newRow("fix") << "Fix" << false;
-        QTest::newRow("go on") << "Go On Without It" << true;
+        QTest::newRow("go on") << "Continue Without It" << true;
     }
     void savingARefusedCell() {
         QFETCH(QString, button);

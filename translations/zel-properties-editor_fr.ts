@@ -155,6 +155,17 @@
     </message>
 </context>
 <context>
+    <name>Editor::ChangeList</name>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1&#xa0;: suppression</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1&#xa0;: ajout</translation>
+    </message>
+</context>
+<context>
     <name>Editor::DialogsModel</name>
     <message>
         <source>Topic</source>
@@ -377,11 +388,11 @@
         <translation>Un autre programme a modifié le fichier.</translation>
     </message>
     <message>
-        <source>Keep What Is Here</source>
+        <source>Keep This Version</source>
         <translation>Garder ce qui est ici</translation>
     </message>
     <message>
-        <source>The file is not there any more.</source>
+        <source>The file no longer exists.</source>
         <translation>Le fichier n&apos;est plus là.</translation>
     </message>
     <message>
@@ -424,7 +435,7 @@
         <translation>Texte à rechercher</translation>
     </message>
     <message>
-        <source>Replace by</source>
+        <source>Replace with</source>
         <translation>Remplacer par</translation>
     </message>
     <message>
@@ -456,8 +467,12 @@
         <translation>Remplacés : %1, impossibles : %2.</translation>
     </message>
     <message>
-        <source>Replace “%1” by “%2”</source>
+        <source>Replace “%1” with “%2”</source>
         <translation>Remplacer « %1 » par « %2 »</translation>
+    </message>
+    <message>
+        <source>Matches in the texts and fields of the package appear here.</source>
+        <translation>Les occurrences trouvées dans les textes et les champs du paquet apparaissent ici.</translation>
     </message>
 </context>
 <context>
@@ -738,7 +753,7 @@ Version %1</translation>
         <translation>Le paquet garde ce qui s&apos;y trouvait avant.</translation>
     </message>
     <message>
-        <source>Go On Without It</source>
+        <source>Continue Without It</source>
         <translation>Continuer sans</translation>
     </message>
     <message>
@@ -833,6 +848,10 @@ Version %1</translation>
         <source>Errors: %1, warnings: %2</source>
         <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Errors: %1, warnings: %2, notes: %3</source>
+        <translation>Erreurs&#xa0;: %1, avertissements&#xa0;: %2, remarques&#xa0;: %3</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ProblemDetails</name>
@@ -843,6 +862,10 @@ Version %1</translation>
     <message>
         <source>Writes a comment that turns off the rule here</source>
         <translation>Écrit un commentaire qui désactive la règle ici</translation>
+    </message>
+    <message>
+        <source>The explanation of the selected problem and ways to correct it appear here.</source>
+        <translation>L&apos;explication du problème sélectionné et les façons de le corriger apparaissent ici.</translation>
     </message>
 </context>
 <context>
@@ -895,10 +918,6 @@ Version %1</translation>
         <translation>Remarques</translation>
     </message>
     <message>
-        <source>No problems, or the filter above hides them.</source>
-        <translation>Aucun problème, ou le filtre ci-dessus les masque.</translation>
-    </message>
-    <message>
         <source>&amp;Ignore</source>
         <translation>&amp;Ignorer</translation>
     </message>
@@ -909,6 +928,14 @@ Version %1</translation>
     <message>
         <source>Ignore %1 problems</source>
         <translation>Ignorer %1 problèmes</translation>
+    </message>
+    <message>
+        <source>The package has no problems.</source>
+        <translation>Le paquet n&apos;a aucun problème.</translation>
+    </message>
+    <message>
+        <source>The filter above hides all problems.</source>
+        <translation>Le filtre ci-dessus masque tous les problèmes.</translation>
     </message>
 </context>
 <context>

@@ -155,6 +155,17 @@
     </message>
 </context>
 <context>
+    <name>Editor::ChangeList</name>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1を削除</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1を追加</translation>
+    </message>
+</context>
+<context>
     <name>Editor::DialogsModel</name>
     <message>
         <source>Topic</source>
@@ -377,11 +388,11 @@
         <translation>別のプログラムがファイルを変更しました。</translation>
     </message>
     <message>
-        <source>Keep What Is Here</source>
+        <source>Keep This Version</source>
         <translation>現在の内容を保持</translation>
     </message>
     <message>
-        <source>The file is not there any more.</source>
+        <source>The file no longer exists.</source>
         <translation>ファイルがなくなりました。</translation>
     </message>
     <message>
@@ -424,7 +435,7 @@
         <translation>検索する文字列</translation>
     </message>
     <message>
-        <source>Replace by</source>
+        <source>Replace with</source>
         <translation>置換後の文字列</translation>
     </message>
     <message>
@@ -456,8 +467,12 @@
         <translation>置換: %1件、置換できないもの: %2件。</translation>
     </message>
     <message>
-        <source>Replace “%1” by “%2”</source>
+        <source>Replace “%1” with “%2”</source>
         <translation>「%1」を「%2」に置換</translation>
+    </message>
+    <message>
+        <source>Matches in the texts and fields of the package appear here.</source>
+        <translation>パッケージのテキストと項目で見つかった箇所がここに表示されます。</translation>
     </message>
 </context>
 <context>
@@ -738,7 +753,7 @@ Version %1</source>
         <translation>パッケージには以前の内容が残ります。</translation>
     </message>
     <message>
-        <source>Go On Without It</source>
+        <source>Continue Without It</source>
         <translation>このまま続ける</translation>
     </message>
     <message>
@@ -833,6 +848,10 @@ Version %1</source>
         <source>Errors: %1, warnings: %2</source>
         <translation>エラー: %1、警告: %2</translation>
     </message>
+    <message>
+        <source>Errors: %1, warnings: %2, notes: %3</source>
+        <translation>エラー: %1、警告: %2、注記: %3</translation>
+    </message>
 </context>
 <context>
     <name>Editor::ProblemDetails</name>
@@ -843,6 +862,10 @@ Version %1</source>
     <message>
         <source>Writes a comment that turns off the rule here</source>
         <translation>この場所で規則を無効にするコメントを書き込みます</translation>
+    </message>
+    <message>
+        <source>The explanation of the selected problem and ways to correct it appear here.</source>
+        <translation>選択した問題の説明と修正方法がここに表示されます。</translation>
     </message>
 </context>
 <context>
@@ -895,10 +918,6 @@ Version %1</source>
         <translation>注記</translation>
     </message>
     <message>
-        <source>No problems, or the filter above hides them.</source>
-        <translation>問題はありません。または上の絞り込みで非表示になっています。</translation>
-    </message>
-    <message>
         <source>&amp;Ignore</source>
         <translation>無視(&amp;I)</translation>
     </message>
@@ -909,6 +928,14 @@ Version %1</source>
     <message>
         <source>Ignore %1 problems</source>
         <translation>%1 件の問題を無視</translation>
+    </message>
+    <message>
+        <source>The package has no problems.</source>
+        <translation>パッケージに問題はありません。</translation>
+    </message>
+    <message>
+        <source>The filter above hides all problems.</source>
+        <translation>上のフィルターにより、すべての問題が非表示になっています。</translation>
     </message>
 </context>
 <context>

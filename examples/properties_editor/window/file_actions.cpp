@@ -224,10 +224,10 @@ void FileActions::showDiskState(Document::DiskState state) {
         break;
     case Document::DiskState::Changed:
         m_messageBar.showMessage(tr("Another program has changed the file."), tr("Reload"),
-                                 tr("Keep What Is Here"));
+                                 tr("Keep This Version"));
         break;
     case Document::DiskState::Vanished:
-        m_messageBar.showMessage(tr("The file is not there any more."), tr("Save It Again"),
+        m_messageBar.showMessage(tr("The file no longer exists."), tr("Save It Again"),
                                  tr("Dismiss"));
         break;
     }

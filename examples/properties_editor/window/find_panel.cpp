@@ -1,6 +1,7 @@
 #include "find_panel.h"
 
 #include "models/matches_model.h"
+#include "widgets/empty_hint.h"
 #include "widgets/marks.h"
 
 #include <QCheckBox>
@@ -41,14 +42,15 @@ FindPanel::FindPanel(Document &document, QWidget *parent)
         line->setClearButtonEnabled(true);
     m_text->setPlaceholderText(tr("Text to find"));
     m_text->setAccessibleName(tr("Text to find"));
-    m_replacement->setPlaceholderText(tr("Replace by"));
-    m_replacement->setAccessibleName(tr("Replace by"));
+    m_replacement->setPlaceholderText(tr("Replace with"));
+    m_replacement->setAccessibleName(tr("Replace with"));
     m_isExpression->setToolTip(tr("In the replacement, \\1 is the first captured text."));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
     m_view->setModel(m_found);
     m_view->setAccessibleName(tr("Matches"));
+    explainWhenEmpty(m_view, tr("Matches in the texts and fields of the package appear here."));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAlternatingRowColors(true);
@@ -196,7 +198,7 @@ void FindPanel::replace(const TextMatches &matches) {
                      .arg(replacement.fixed.size());
     if (!replacement.edits.isEmpty())
         m_document.edit(replacement.edits,
-                        tr("Replace “%1” by “%2”").arg(m_text->text(), m_replacement->text()));
+                        tr("Replace “%1” with “%2”").arg(m_text->text(), m_replacement->text()));
     refresh();
 }
 

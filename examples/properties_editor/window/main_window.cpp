@@ -206,7 +206,7 @@ bool MainWindow::askAboutRefusal(const QPointer<TypedText> &text) {
     PlainMessageBox box(QMessageBox::Warning, tr("Save"), text->refusal(), QMessageBox::NoButton,
                         this);
     box.setInformativeText(tr("The package keeps what was there before."));
-    box.addButton(tr("Go On Without It"), QMessageBox::AcceptRole);
+    box.addButton(tr("Continue Without It"), QMessageBox::AcceptRole);
     QPushButton *fix = box.addButton(tr("Fix"), QMessageBox::RejectRole);
     box.setDefaultButton(fix);
     box.exec();
