@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QBuffer>
 #include <QClipboard>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QImage>
 #include <QListView>
@@ -160,6 +161,12 @@ private Q_SLOTS:
         QVERIFY(!tabs()->tabIcon(Permissions).isNull());
         m_window->showField(QStringLiteral("behaviors[listen].nature"));
         QVERIFY(tabs()->tabIcon(Sentences).isNull());
+        QVERIFY(label("Unknown nature 'solitry'"));
+        auto *nature = qobject_cast<QComboBox *>(QApplication::focusWidget());
+        QCOMPARE(nature->currentText(), QStringLiteral("solitry"));
+        m_window->showField(QStringLiteral("behaviors[all-clear].nature"));
+        QVERIFY(!label("Unknown nature 'solitry'"));
+        QCOMPARE(nature->count(), 3);
         const auto *services = view<QTableView>("Services")->model();
         QVERIFY(services->index(0, 0).data(Qt::BackgroundRole).isNull());
         QVERIFY(!services->index(1, 0).data(Qt::BackgroundRole).isNull());

@@ -23,6 +23,8 @@ using Tano::FieldPath;
 using Zel::BehaviorInfoModel;
 using Zel::PackageModel::Edit;
 
+constexpr int knownNatures = 3;
+
 enum Tab { Texts, Sentences, Responses, Tags, Conditions, Permissions };
 
 bool isOneOf(const QString &name, std::initializer_list<const char *> names) {
@@ -51,6 +53,9 @@ BehaviorDetails::BehaviorDetails(Document &document, QWidget *parent)
     m_nature->addItem(tr("Solitary: the robot runs it on its own"),
                       BehaviorInfoModel::natureSolitary());
     form->addRow(tr("Nat&ure:"), m_nature);
+    m_natureMark = new MarkLabel(
+        document, [this] { return field("nature"); }, this);
+    form->addRow(QString(), m_natureMark);
     form->addRow(QString(), m_userRequestable);
     connect(m_nature, qOverload<int>(&QComboBox::activated), this, [this](int index) {
         const QString nature = m_nature->itemData(index).toString();
@@ -218,6 +223,7 @@ void BehaviorDetails::reload() {
         field->reload();
     for (StringListEditor *editor : std::as_const(m_lists))
         editor->reload();
+    m_natureMark->refresh();
     m_sentencesMark->refresh();
     refresh();
 }
@@ -240,6 +246,8 @@ void BehaviorDetails::refresh() {
     }
     if (m_purpose->count() != purposes().size())
         fillPurposes();
+    while (m_nature->count() > knownNatures)
+        m_nature->removeItem(knownNatures); // of another behavior
     int nature = m_nature->findData(m_behavior->nature());
     if (m_behavior->nature().isEmpty())
         nature = 0;

@@ -63,6 +63,7 @@ private:
     LanguagesModel *m_languages;
     QComboBox *m_language;
     QTabWidget *m_tabs;
+    MarkLabel *m_natureMark = nullptr;
     MarkLabel *m_sentencesMark = nullptr;
     QComboBox *m_purpose;
     QVector<StringListEditor *> m_lists;
