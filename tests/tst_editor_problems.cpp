@@ -159,6 +159,9 @@ private Q_SLOTS:
         QVERIFY(!tabs()->tabIcon(Sentences).isNull());
         QVERIFY(tabs()->tabIcon(Tags).isNull());
         QVERIFY(!tabs()->tabIcon(Permissions).isNull());
+        const auto *permissions = view<QListView>("Permissions")->model();
+        QVERIFY(permissions->index(0, 0).data(Qt::BackgroundRole).isNull());
+        QVERIFY(!permissions->index(1, 0).data(Qt::BackgroundRole).isNull());
         m_window->showField(QStringLiteral("behaviors[listen].nature"));
         QVERIFY(tabs()->tabIcon(Sentences).isNull());
         QVERIFY(label("Unknown nature 'solitry'"));

@@ -1,6 +1,7 @@
 #include "string_list_model.h"
 
 #include "document/field_edits.h"
+#include "widgets/marks.h"
 
 #include <utility>
 
@@ -28,8 +29,10 @@ int StringListModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant StringListModel::data(const QModelIndex &index, int role) const {
-    if (!index.isValid() || !checkIndex(index) || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid() || !checkIndex(index))
         return {};
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return markData(Mark::ofIssue(document().issueAt(field(index))), role);
     return items().value(index.row());
 }
 

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
 #include <QTableView>
 
 namespace Editor {
@@ -105,6 +106,8 @@ void setUpTable(QAbstractItemView *view, Document &document, const QString &acce
                           QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
     view->setTabKeyNavigation(false);
     view->setAlternatingRowColors(true);
+    const int extent = view->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    view->setIconSize(QSize(extent, extent)); // larger by default in lists
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     if (auto *table = qobject_cast<QTableView *>(view)) {
         table->verticalHeader()->hide();
