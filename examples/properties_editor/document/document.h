@@ -124,7 +124,7 @@ public:
     /// The greatest severity among the issues of the entries of a list with this key.
     std::optional<Zel::PackageModel::Severity> entrySeverity(const QString &list,
                                                              const QString &key) const;
-    /// The greatest severity among the issues of a field, and of what it contains if it is a list.
+    /// The greatest severity among the issues of a field and, for a list, of its entries.
     std::optional<Zel::PackageModel::Severity> fieldSeverity(const Tano::FieldPath &path) const;
 
     // Translation progress, computed on demand since there may be very many texts.
