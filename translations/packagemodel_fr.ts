@@ -560,8 +560,8 @@
         <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no entry with its fields.</source>
-        <translation>&apos;%1&apos; n&apos;est pas une entrée avec ses champs.</translation>
+        <source>&apos;%1&apos; is not an entry; set the fields of the entry instead.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une entrée ; définissez plutôt les champs de l&apos;entrée.</translation>
     </message>
     <message>
         <source>; available: %1.</source>

@@ -560,8 +560,8 @@
         <translation>&apos;%1&apos; はバージョンではありません。2.1 のように数字を点で区切ります。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no entry with its fields.</source>
-        <translation>&apos;%1&apos; はフィールドを持つ項目ではありません。</translation>
+        <source>&apos;%1&apos; is not an entry; set the fields of the entry instead.</source>
+        <translation>&apos;%1&apos; は項目ではありません。項目のフィールドを設定してください。</translation>
     </message>
     <message>
         <source>; available: %1.</source>
