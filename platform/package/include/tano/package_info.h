@@ -33,7 +33,8 @@ struct PackageData;
 /// if (!record.loadFromManifestFile(file))
 ///     showMessage(QString::fromStdString(record.errorString()));
 /// record.setAuthor("Ines");
-/// record.saveToManifestFile(fileName.toStdString());
+/// if (!record.saveToManifestFile(fileName.toStdString()))
+///     showMessage(QString::fromStdString(record.errorString()));
 /// ```
 class TANO_PACKAGE_EXPORT PackageInfo {
 public:
@@ -193,19 +194,20 @@ public:
 
     /// Reads a manifest, from the current position of `file` if it is open. On failure, returns
     /// false, sets errorString() and leaves the record unchanged.
-    bool loadFromManifestFile(QFile &file);
+    [[nodiscard]] bool loadFromManifestFile(QFile &file);
     /// Reads a manifest from its text; failures as above.
-    bool loadFromManifestContent(const std::string &content);
+    [[nodiscard]] bool loadFromManifestContent(const std::string &content);
 
     /// Saves to the file at `path` atomically, see saveFile(). On failure, returns false, sets
     /// errorString() and leaves an existing file unchanged. Symbolic links are followed.
-    bool saveToManifestFile(const std::string &path) const;
+    [[nodiscard]] bool saveToManifestFile(const std::string &path) const;
     /// Like the above, but fails if the file does not have the `expected` content, so that no edit
     /// of another program is lost.
-    bool saveToManifestFile(const std::string &path, const FileFingerprint &expected) const;
+    [[nodiscard]] bool saveToManifestFile(const std::string &path,
+                                          const FileFingerprint &expected) const;
     /// Saves to `file`, in place if the caller has opened it, otherwise as above. A file opened for
     /// appending is refused.
-    bool saveToManifestFile(QFile &file) const;
+    [[nodiscard]] bool saveToManifestFile(QFile &file) const;
     /// The text of the manifest; empty, with errorString() set, if a field contains characters that
     /// XML cannot represent.
     [[nodiscard]] std::string saveToManifestContent() const;
