@@ -38,14 +38,14 @@ inline void writeTo(const QString &fileName, const QByteArray &content) {
 class Answer {
 public:
     template<typename Dialog>
-    explicit Answer(std::function<void(Dialog *)> give) {
-        QTimer::singleShot(0, &m_context, [this, give] {
-            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            m_isGiven = true;
-            give(dialog);
-        });
+    explicit Answer(std::function<void(Dialog *)> give)
+        : m_give([give](QWidget *widget) {
+            auto *dialog = qobject_cast<Dialog *>(widget);
+            if (dialog)
+                give(dialog);
+            return dialog != nullptr;
+        }) {
+        poll();
     }
     explicit Answer(QMessageBox::StandardButton button)
         : Answer(std::function<void(QMessageBox *)>([this, button](QMessageBox *box) {
@@ -57,6 +57,16 @@ public:
     QString text;
 
 private:
+    // In posted events: timers fire while a dialog is being shown, when it cannot be closed yet.
+    void poll() {
+        QTimer::singleShot(0, &m_context, [this] {
+            m_isGiven = m_give(QApplication::activeModalWidget());
+            if (!m_isGiven)
+                QTimer::singleShot(1, &m_context, [this] { poll(); });
+        });
+    }
+
+    std::function<bool(QWidget *)> m_give;
     QObject m_context;
     bool m_isGiven = false;
 };

@@ -138,7 +138,7 @@ private Q_SLOTS:
             Tano::PackageInfo record;
             QVERIFY(record.loadFromManifestContent(
                 contentOf(m_file)
-                    .replace("</package>", elements + QByteArray("</package>"))
+                    .replace("</package>", QByteArray(elements).append("</package>"))
                     .toStdString()));
             m_window->document().edit({{Zel::PackageModel::Edit::Action::Set, {}, record}});
             added = added == 0 ? 1 : 3;

@@ -369,7 +369,7 @@ private Q_SLOTS:
         m_window->document().edit(
             {appended(Tano::FieldPath().field("supportedLanguages"), QStringLiteral("en_US"))},
             QStringLiteral("Add language"));
-        QVERIFY(answer.isGiven());
+        QTRY_VERIFY(answer.isGiven());
         QCOMPARE(answer.text, QStringLiteral("'en_US' already exists."));
     }
 

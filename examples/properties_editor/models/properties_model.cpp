@@ -57,16 +57,20 @@ bool PropertiesModel::setData(const QModelIndex &index, const QVariant &value, i
     else if (keys().contains(name))
         reason = tr("The service has “%1” already.").arg(name);
     if (reason.isEmpty())
-        rename(key(index), name);
+        rename(index.row(), name);
     else
         Q_EMIT document().editRefused(reason);
     return reason.isEmpty();
 }
 
-void PropertiesModel::rename(const QString &from, const QString &to) {
-    const QString value = fieldText(package(), property(from));
-    document().edit({{Edit::Action::Remove, property(from)}, setText(property(to), value)},
-                    tr("Rename property “%1”").arg(from));
+void PropertiesModel::rename(int row, const QString &name) {
+    const QString previous = keys().at(row);
+    const FieldPath from = property(previous);
+    const QString value = fieldText(package(), from);
+    expectKey(row, name);
+    document().edit({{Edit::Action::Remove, from}, setText(property(name), value)},
+                    tr("Rename property “%1”").arg(previous));
+    sync();
 }
 
 QString PropertiesModel::add() {

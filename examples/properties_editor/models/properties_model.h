@@ -34,7 +34,7 @@ protected:
 private:
     const Zel::ServiceInfoModel *service() const;
     Tano::FieldPath property(const QString &name) const;
-    void rename(const QString &from, const QString &to);
+    void rename(int row, const QString &name);
 
     int m_serviceRow = -1;
 };

@@ -49,6 +49,9 @@ protected:
     virtual void packageReplaced() {}
 
     static QStringList numbered(int count);
+    /// Announces that the next edit gives a row another key, so that its cells stay the same. Call
+    /// sync() after the edit, which may have been refused.
+    void expectKey(int row, const QString &key) { m_keys[row] = key; }
     Document &document() const { return m_document; }
     Zel::PackageInfoModel *package() const { return m_document.package(); }
 

@@ -62,9 +62,7 @@ void AdditionLine::leave() {
     discard();
     // The caller is about to show another list.
     if (!reason.isEmpty() && !m_model.list().isEmpty())
-        QMetaObject::invokeMethod(
-            &m_document, [this, reason] { Q_EMIT m_document.editRefused(reason); },
-            Qt::QueuedConnection);
+        Q_EMIT m_document.editRefused(reason);
 }
 
 QString AdditionLine::refusal() const {

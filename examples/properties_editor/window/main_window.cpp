@@ -64,9 +64,13 @@ MainWindow::MainWindow(QWidget *parent)
         setWindowModified(!isClean);
     });
     connect(&m_document, &Document::fileNameChanged, this, &MainWindow::refreshTitle);
-    connect(&m_document, &Document::editRefused, this, [this](const QString &reason) {
-        PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
-    });
+    // Queued, since what edits may be a cell, which would not survive all that happens meanwhile.
+    connect(
+        &m_document, &Document::editRefused, this,
+        [this](const QString &reason) {
+            PlainMessageBox(QMessageBox::Warning, tr("Edit"), reason, QMessageBox::Ok, this).exec();
+        },
+        Qt::QueuedConnection);
     setTabOrderOf(*this);
     connect(&m_document, &Document::fieldChanged, this, &MainWindow::showChange);
     refreshTitle();

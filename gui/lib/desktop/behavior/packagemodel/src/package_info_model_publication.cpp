@@ -177,6 +177,10 @@ void genPlainTextLists(const QPointer<BehaviorInfoModel> &behavior, const RobotL
 
 using Tano::FieldPath;
 
+bool mayBeScript(const QString &text) {
+    return text.contains(u'<');
+}
+
 class ScriptErrors {
 public:
     template<typename Model>
@@ -209,8 +213,8 @@ private:
     }
     template<typename Path>
     void check(const QString &text, Path path) {
-        if (!text.contains(u'<'))
-            return; // already plain
+        if (!mayBeScript(text))
+            return;
         if (const PackageModel::PlainText plain = PackageModel::plainTextOf(text);
             !plain.error.isEmpty())
             m_errors.append({fromUtf8(path().toString()), plain.error});
@@ -271,9 +275,17 @@ QVector<ScriptError> BehaviorScripts::errorsIn(const BehaviorInfoModel &behavior
                                                const FieldPath &path) const {
     ScriptErrors errors;
     errors.checkTexts(behavior, path);
-    SpokenLanguages languages(m_order->languages);
-    while (const RobotLanguage *language = languages.next(&behavior))
-        errors.checkLists(behavior, path, *language);
+    const LanguageOrder &order = m_order->languages;
+    std::set<int> places; // of the languages that have scripts
+    for (const ScriptList &kind : scriptLists) {
+        for (const auto &[texts, language] : (behavior.*kind.lists)()) {
+            if (std::any_of(texts.begin(), texts.end(), mayBeScript))
+                places.insert(order.placeOf(language));
+        }
+    }
+    places.erase(-1);
+    for (const int place : places)
+        errors.checkLists(behavior, path, order.at(place));
     return errors.all();
 }
 

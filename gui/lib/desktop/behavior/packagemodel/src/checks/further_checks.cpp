@@ -195,7 +195,8 @@ void checkDate(const CheckedPackage &checked, Findings &findings) {
 }
 
 bool isBlank(const QString &text) {
-    return !text.isEmpty() && text.trimmed().isEmpty();
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar each) { return each.isSpace(); });
 }
 
 // Checks the texts of one owner. Its path is only built when something is found.
