@@ -31,7 +31,7 @@ bool startsWith(const FieldPath &path, const FieldPath &start) {
 QString linesOf(const FieldPath &path, const QVector<Field> &fields) {
     QString lines;
     for (const Field &field : fields) {
-        const QString value = Zel::PackageModel::printed(field.value) % u'\n';
+        QString value = Zel::PackageModel::printed(field.value) % u'\n';
         if (field.path == path)
             return value;
         if (startsWith(field.path, path))
