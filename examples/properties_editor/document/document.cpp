@@ -119,7 +119,8 @@ bool Document::save(const QString &fileName) {
         manifest.expected = m_seenOnDisk;
     const auto written = Tano::FileFingerprint::ofContent(*manifest.bytes);
     const bool isReplayable = m_undoStack.index() == 0 || loadsAsItIs(*m_package, *manifest.bytes);
-    std::vector<Tano::FileToSave> files{std::move(manifest)};
+    std::vector<Tano::FileToSave> files;
+    files.push_back(std::move(manifest)); // an initializer list would copy it
     if (!addIcon(fileName, files))
         return false;
     if (const auto result = Tano::saveFiles(files); !result) {

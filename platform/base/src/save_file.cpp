@@ -28,6 +28,23 @@ SaveResult runEach(const FileSaves &saves, std::string (FileSave::*step)()) {
     return {};
 }
 
+SaveResult saveAll(const FileToSave *files, std::size_t count) {
+    const FileSizeSignalBlock block;
+    FileSaves saves;
+    for (const FileToSave *file = files; file != files + count; ++file)
+        saves.push_back(std::make_unique<FileSave>(*file));
+    SaveResult result = runEach(saves, &FileSave::prepare);
+    if (result)
+        result = runEach(saves, &FileSave::commit);
+    for (const auto &save : saves) {
+        if (result)
+            save->finish();
+        else if (const std::string reason = save->rollBack(); !reason.empty())
+            result.error += " The old content of \"" + save->path() + "\" is lost: " + reason + '.';
+    }
+    return result;
+}
+
 std::string writeThroughQt(QFile &file, const std::string &bytes) {
     std::size_t done = 0;
     while (done < bytes.size()) {
@@ -63,24 +80,11 @@ bool appends(const QFile &file) {
 } // namespace
 
 SaveResult saveFile(const FileToSave &file) {
-    return saveFiles({file});
+    return saveAll(&file, 1);
 }
 
 SaveResult saveFiles(const std::vector<FileToSave> &files) {
-    const FileSizeSignalBlock block;
-    FileSaves saves;
-    for (const FileToSave &file : files)
-        saves.push_back(std::make_unique<FileSave>(file));
-    SaveResult result = runEach(saves, &FileSave::prepare);
-    if (result)
-        result = runEach(saves, &FileSave::commit);
-    for (const auto &save : saves) {
-        if (result)
-            save->finish();
-        else if (const std::string reason = save->rollBack(); !reason.empty())
-            result.error += " The old content of \"" + save->path() + "\" is lost: " + reason + '.';
-    }
-    return result;
+    return saveAll(files.data(), files.size());
 }
 
 SaveResult saveToOpenFile(QFile &file, const std::string &bytes) {
