@@ -1210,5 +1210,9 @@
         <source>&apos;--%1&apos; requires a file name.</source>
         <translation>&apos;--%1&apos; exige un nom de fichier.</translation>
     </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>Le nom d&apos;un fichier est vide.</translation>
+    </message>
 </context>
 </TS>

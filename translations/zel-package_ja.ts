@@ -1210,5 +1210,9 @@
         <source>&apos;--%1&apos; requires a file name.</source>
         <translation>&apos;--%1&apos; にはファイル名が必要です。</translation>
     </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>ファイル名が空です。</translation>
+    </message>
 </context>
 </TS>

@@ -180,11 +180,13 @@ bool checkTexts(const ProgramCommand &command, const QList<QCommandLineOption> &
                        [&](const QString &text) { return checkText(text, console); });
 }
 
-// Options need the name of a file, and standard input can be read only once.
+// Files have names, and standard input can be read only once.
 bool checkFiles(const ProgramCommand &command, const QList<QCommandLineOption> &options,
                 const QCommandLineParser &parser, Console &console) {
     QStringList inputs = parser.positionalArguments().mid(0, command.fileArguments);
     QString reason;
+    if (inputs.contains(QString()))
+        reason = QCoreApplication::translate("zel-package", "The name of a file is empty.");
     for (const QCommandLineOption &option : options) {
         const QStringList files = namesFile(option) ? parser.values(option) : QStringList();
         if (files.contains(QString()))
