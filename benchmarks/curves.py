@@ -1,4 +1,4 @@
-"""Measures time and memory per behavior in packages of 10 to 100,000 behaviors (220 MB).
+"""Measures time and memory per behavior in packages of 10 to 100,000 behaviors (230 MB).
 
 Usage: curves.py BIN
 

@@ -10,13 +10,11 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeView>
 
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <iostream>
-#include <vector>
 
 // Usage: editor COUNT LANGUAGES
 //

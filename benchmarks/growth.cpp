@@ -8,7 +8,6 @@
 #include <packagemodel/package_info_model.h>
 #include <packagemodel/package_info_utils.h>
 
-#include <QFile>
 #include <QString>
 
 #include <algorithm>

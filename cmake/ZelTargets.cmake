@@ -49,16 +49,16 @@ target_compile_definitions(zel_strict INTERFACE
 # position-independent, as Qt requires.
 add_library(zel_hardened INTERFACE)
 if(ZEL_HARDEN)
-    set(optimised "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
+    set(optimized "$<CONFIG:Release,RelWithDebInfo,MinSizeRel>")
     foreach(flag IN ITEMS -fstack-protector-strong -fstack-clash-protection -fcf-protection)
         string(MAKE_C_IDENTIFIER "ZEL_HAS${flag}" is_known)
         check_cxx_compiler_flag(${flag} ${is_known})
         if(${is_known})
-            target_compile_options(zel_hardened INTERFACE $<${optimised}:${flag}>)
+            target_compile_options(zel_hardened INTERFACE $<${optimized}:${flag}>)
         endif()
     endforeach()
     target_compile_options(zel_hardened INTERFACE
-        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+        "$<${optimized}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
     target_link_options(zel_hardened INTERFACE
         LINKER:-z,relro LINKER:-z,now $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
 endif()
@@ -97,9 +97,8 @@ function(zel_add_library target)
 
     set(outside ${arg_DEPENDS} ${arg_PRIVATE_DEPENDS})
     list(FILTER outside EXCLUDE REGEX "^(Zel|Tano)::")
-    set_target_properties(${target} PROPERTIES ZEL_OUTSIDE_DEPENDS "${outside}")
-
     set_target_properties(${target} PROPERTIES
+        ZEL_OUTSIDE_DEPENDS "${outside}"
         ZEL_NAME ${arg_NAMESPACE}::${arg_EXPORT_NAME}
         ZEL_DEPENDS "${arg_DEPENDS}"
         ZEL_PRIVATE_DEPENDS "${arg_PRIVATE_DEPENDS}")
@@ -178,8 +177,8 @@ if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     set(ZEL_TEST_TIMEOUT 1200)
 endif()
 
-# zel_add_test(<name> DEPENDS ...): a Qt Test program from <name>.cpp, run without a display.
-# ZEL_TEST_DATA is the folder of the test data.
+# zel_add_test(<name> [SOURCES ...] DEPENDS ...): a Qt Test program from <name>.cpp and further
+# sources, run without a display. ZEL_TEST_DATA is the folder of the test data.
 function(zel_add_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${name}.cpp ${arg_SOURCES})

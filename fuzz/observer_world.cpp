@@ -5,7 +5,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <numeric>
 
 namespace Observers {
 

@@ -130,8 +130,6 @@ public:
     /// Allows the packages' records to wait for syncRecord().
     void expectLag() { m_isLagging = true; }
 
-    bool isLagging() const { return m_isLagging; }
-
     /// Expects the package's record to be this one after a step in which observers only read, or
     /// that of another load if observers load as well. Has no effect on other steps.
     void expectRecord(PackageInfoModel *package, const Tano::PackageInfo &record);

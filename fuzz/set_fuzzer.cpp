@@ -10,8 +10,6 @@
 
 #include <packagemodel/package_json.h>
 
-#include <QFile>
-
 namespace {
 
 using namespace Zel;

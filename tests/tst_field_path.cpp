@@ -2,7 +2,6 @@
 
 #include <tano/field_path.h>
 
-#include <algorithm>
 #include <limits>
 
 using Tano::FieldPath;

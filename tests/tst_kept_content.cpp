@@ -8,7 +8,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <tuple>
 
 using Tano::FieldPath;
 using Tano::KeptComment;

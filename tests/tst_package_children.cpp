@@ -2,7 +2,6 @@
 #include "text.h"
 #include "warning_guard.h"
 
-#include <QPointer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>

@@ -11,7 +11,6 @@
 
 #include <array>
 #include <map>
-#include <memory>
 
 using namespace Zel;
 

@@ -180,7 +180,7 @@ private Q_SLOTS:
     }
 
     void documentDescribesTheFields() {
-        QFile file(QStringLiteral(ZEL_SOURCE "/docs/manifest-format.md"));
+        QFile file(QStringLiteral(ZEL_SOURCE_DIR "/docs/manifest-format.md"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString document = QString::fromUtf8(file.readAll());
         for (const Tano::ElementRule &rule : rules) {

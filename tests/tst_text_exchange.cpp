@@ -12,8 +12,6 @@
 #include <QDirIterator>
 #include <QRandomGenerator>
 
-#include <algorithm>
-
 using namespace Zel;
 using namespace Zel::PackageModel;
 
@@ -79,7 +77,7 @@ private:
 
     static void addManifests() {
         QTest::addColumn<QString>("file");
-        for (const char *folder : {ZEL_TEST_DATA "/manifest/valid", ZEL_EXAMPLES}) {
+        for (const char *folder : {ZEL_TEST_DATA "/manifest/valid", ZEL_SOURCE_DIR "/examples"}) {
             QDirIterator files(text(folder), {text("*.xml")}, QDir::Files,
                                QDirIterator::Subdirectories);
             while (files.hasNext()) {

@@ -560,8 +560,8 @@
         <translation>&apos;%1&apos; n&apos;est pas une version : des nombres séparés par des points, comme 2.1.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no entry with its fields.</source>
-        <translation>&apos;%1&apos; n&apos;est pas une entrée avec ses champs.</translation>
+        <source>&apos;%1&apos; is not an entry; set the fields of the entry instead.</source>
+        <translation>&apos;%1&apos; n&apos;est pas une entrée ; définissez plutôt les champs de l&apos;entrée.</translation>
     </message>
     <message>
         <source>; available: %1.</source>
@@ -632,8 +632,8 @@
         <translation>Script vocal mal formé (ligne %1, colonne %2) : %3</translation>
     </message>
     <message>
-        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so publishing keeps its markup and users see the tags.</source>
-        <translation>Un texte avec des balises est un script vocal. D&apos;un script mal formé, on ne peut pas tirer de texte brut : la publication y laisse les balises et les utilisateurs les lisent.</translation>
+        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so &apos;zel-package publish&apos; refuses the package.</source>
+        <translation>Un texte avec des balises est un script vocal. Un script mal formé ne peut pas être converti en texte brut : &apos;zel-package publish&apos; refuse le paquet.</translation>
     </message>
     <message>
         <source>Correct the markup, or write &amp;lt; for a &lt; that does not start a tag.</source>

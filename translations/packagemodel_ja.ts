@@ -560,8 +560,8 @@
         <translation>&apos;%1&apos; はバージョンではありません。2.1 のように数字を点で区切ります。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no entry with its fields.</source>
-        <translation>&apos;%1&apos; はフィールドを持つ項目ではありません。</translation>
+        <source>&apos;%1&apos; is not an entry; set the fields of the entry instead.</source>
+        <translation>&apos;%1&apos; は項目ではありません。項目のフィールドを設定してください。</translation>
     </message>
     <message>
         <source>; available: %1.</source>
@@ -632,8 +632,8 @@
         <translation>音声スクリプトの形式が正しくありません (%1 行 %2 列): %3</translation>
     </message>
     <message>
-        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so publishing keeps its markup and users see the tags.</source>
-        <translation>マークアップのあるテキストは音声スクリプトです。形式が正しくないとプレーンテキストを作れず、公開してもタグが残り、利用者に見えてしまいます。</translation>
+        <source>A text with markup is a speech script. A malformed script cannot be converted to plain text, so &apos;zel-package publish&apos; refuses the package.</source>
+        <translation>マークアップのあるテキストは音声スクリプトです。形式が正しくないとプレーンテキストに変換できず、&apos;zel-package publish&apos; はパッケージを受け付けません。</translation>
     </message>
     <message>
         <source>Correct the markup, or write &amp;lt; for a &lt; that does not start a tag.</source>

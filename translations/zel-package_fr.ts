@@ -1206,5 +1206,13 @@
         <source>The baseline lists findings in &apos;%1&apos;, which no longer exists.</source>
         <translation>La référence mentionne des constats dans &apos;%1&apos;, qui n&apos;existe plus.</translation>
     </message>
+    <message>
+        <source>&apos;--%1&apos; requires a file name.</source>
+        <translation>&apos;--%1&apos; exige un nom de fichier.</translation>
+    </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>Le nom d&apos;un fichier est vide.</translation>
+    </message>
 </context>
 </TS>

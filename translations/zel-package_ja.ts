@@ -1206,5 +1206,13 @@
         <source>The baseline lists findings in &apos;%1&apos;, which no longer exists.</source>
         <translation>基準ファイルは &apos;%1&apos; の検出結果を挙げていますが、このファイルはもう存在しません。</translation>
     </message>
+    <message>
+        <source>&apos;--%1&apos; requires a file name.</source>
+        <translation>&apos;--%1&apos; にはファイル名が必要です。</translation>
+    </message>
+    <message>
+        <source>The name of a file is empty.</source>
+        <translation>ファイル名が空です。</translation>
+    </message>
 </context>
 </TS>

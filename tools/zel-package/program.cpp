@@ -4,6 +4,7 @@
 #include "completions/completion.h"
 #include "console/labeled_list.h"
 #include "console/text_layout.h"
+#include "manifest/manifest_source.h"
 #include "program_command.h"
 
 #include <QRegularExpression>
@@ -179,6 +180,28 @@ bool checkTexts(const ProgramCommand &command, const QList<QCommandLineOption> &
                        [&](const QString &text) { return checkText(text, console); });
 }
 
+// Files have names, and standard input can be read only once.
+bool checkFiles(const ProgramCommand &command, const QList<QCommandLineOption> &options,
+                const QCommandLineParser &parser, Console &console) {
+    QStringList inputs = parser.positionalArguments().mid(0, command.fileArguments);
+    QString reason;
+    if (inputs.contains(QString()))
+        reason = QCoreApplication::translate("zel-package", "The name of a file is empty.");
+    for (const QCommandLineOption &option : options) {
+        const QStringList files = namesFile(option) ? parser.values(option) : QStringList();
+        if (files.contains(QString()))
+            reason = QCoreApplication::translate("zel-package", "'--%1' requires a file name.")
+                         .arg(option.names().constLast());
+        if (option.valueName() == QLatin1String("FILE"))
+            inputs += files;
+    }
+    if (std::count_if(inputs.begin(), inputs.end(), isStandardStream) > 1)
+        reason = QCoreApplication::translate("zel-package", "'-' can be given only once.");
+    if (!reason.isEmpty())
+        console.printMessage(reason);
+    return reason.isEmpty();
+}
+
 ExitStatus runCommand(const ProgramCommand &command, const QStringList &arguments,
                       Console &console) {
     QCommandLineParser parser;
@@ -192,7 +215,8 @@ ExitStatus runCommand(const ProgramCommand &command, const QStringList &argument
         return Fine;
     }
     const bool isFine = checkCount(parser.positionalArguments(), command, console) &&
-                        checkTexts(command, options, parser, console);
+                        checkTexts(command, options, parser, console) &&
+                        checkFiles(command, options, parser, console);
     return isFine ? command.run(parser, console) : Failure;
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <set>
+#include <string>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -215,13 +217,36 @@ Element parentOf(const UnknownNode &node) {
     return Element::None;
 }
 
-bool isSame(const KeptComment &a, const KeptComment &b) {
-    return a.index == b.index && a.text == b.text && a.parent == b.parent && a.before == b.before;
+auto identityOf(const KeptComment &comment) {
+    return std::make_tuple(comment.index, comment.text, comment.parent, comment.before);
 }
 
-bool isSame(const UnknownNode &a, const UnknownNode &b) {
-    return a.index == b.index && a.kind == b.kind && a.name == b.name && a.parent == b.parent &&
-           a.parentPath == b.parentPath;
+auto identityOf(const UnknownNode &node) {
+    return std::make_tuple(node.index, node.kind, node.name, node.parent, node.parentPath);
+}
+
+struct Replacement {
+    std::size_t offset;
+    std::size_t size; // of the replaced text
+    std::string text;
+};
+
+// Texts that are inserted at the same place keep their order. Of overlapping replacements, the
+// first one is made.
+std::string replaced(const std::string &manifest, std::vector<Replacement> replacements) {
+    std::stable_sort(replacements.begin(), replacements.end(),
+                     [](const auto &a, const auto &b) { return a.offset < b.offset; });
+    std::string changed;
+    std::size_t done = 0;
+    for (const auto &[offset, size, text] : replacements) {
+        if (offset < done)
+            continue;
+        changed.append(manifest, done, offset - done);
+        changed += text;
+        done = offset + size;
+    }
+    changed.append(manifest, done, std::string::npos);
+    return changed;
 }
 
 bool isComment(std::string_view piece) {
@@ -247,18 +272,18 @@ PackageInfo withoutComment(const PackageInfo &package, const KeptComment &commen
 
 PackageInfo withoutComments(const PackageInfo &package, const std::vector<KeptComment> &removed) {
     CommentFinder finder;
-    std::string manifest = write(package, finder).text;
-    auto all = finder.take();
-    bool isChanged = false;
-    for (auto found = all.rbegin(); found != all.rend() && !manifest.empty(); ++found) {
-        const bool isRemoved = std::any_of(removed.begin(), removed.end(), [&](const auto &each) {
-            return isSame(found->comment, each);
-        });
-        if (isRemoved)
-            manifest.erase(found->offset, found->size);
-        isChanged = isChanged || isRemoved;
+    const std::string manifest = write(package, finder).text;
+    std::set<decltype(identityOf(KeptComment()))> identities;
+    for (const KeptComment &comment : removed)
+        identities.insert(identityOf(comment));
+    std::vector<Replacement> replacements;
+    for (const auto &found : finder.take()) {
+        if (identities.count(identityOf(found.comment)) > 0)
+            replacements.push_back({found.offset, found.size, {}});
     }
-    return isChanged ? read(manifest).value_or(package) : package;
+    if (manifest.empty() || replacements.empty())
+        return package;
+    return read(replaced(manifest, std::move(replacements))).value_or(package);
 }
 
 PackageInfo withComment(const PackageInfo &package, const FieldPath &before,
@@ -271,22 +296,11 @@ PackageInfo withComments(const PackageInfo &package, const std::vector<KeptComme
     const std::string manifest = write(package, finder).text;
     if (manifest.empty())
         return package;
-    std::vector<std::pair<std::size_t, std::string>> places;
-    places.reserve(added.size());
+    std::vector<Replacement> insertions;
+    insertions.reserve(added.size());
     for (const KeptComment &comment : added)
-        places.emplace_back(finder.offsetOf(comment.before), commentOf(comment.text));
-    std::stable_sort(places.begin(), places.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
-
-    std::string changed;
-    std::size_t done = 0;
-    for (const auto &[offset, comment] : places) {
-        changed.append(manifest, done, offset - done);
-        changed += comment;
-        done = offset;
-    }
-    changed.append(manifest, done, std::string::npos);
-    return read(changed).value_or(package);
+        insertions.push_back({finder.offsetOf(comment.before), 0, commentOf(comment.text)});
+    return read(replaced(manifest, std::move(insertions))).value_or(package);
 }
 
 bool hasComment(const PackageInfo &package, const std::string &part) {
@@ -327,29 +341,20 @@ std::optional<PackageInfo>
 withRenamedNodes(const PackageInfo &package,
                  const std::vector<std::pair<UnknownNode, std::string>> &renamed) {
     NodeFinder finder;
-    std::string manifest = write(package, finder).text;
-    const auto nodes = finder.takeNodes();
-    struct Replacement {
-        std::size_t offset;
-        std::size_t size;
-        const std::string *name;
-    };
+    const std::string manifest = write(package, finder).text;
+    std::map<decltype(identityOf(UnknownNode())), std::size_t> places;
+    for (const UnknownNode &node : finder.takeNodes())
+        places.emplace(identityOf(node), places.size());
     std::vector<Replacement> replacements;
     for (const auto &[node, name] : renamed) {
         const auto known = knownNames(node);
-        const auto found =
-            std::find_if(nodes.begin(), nodes.end(),
-                         [&node = node](const auto &candidate) { return isSame(candidate, node); });
-        if (std::find(known.begin(), known.end(), name) == known.end() || found == nodes.end())
+        const auto found = places.find(identityOf(node));
+        if (std::find(known.begin(), known.end(), name) == known.end() || found == places.end())
             return {};
-        for (const std::size_t offset : finder.offsets()[std::size_t(found - nodes.begin())])
-            replacements.push_back({offset, node.name.size(), &name});
+        for (const std::size_t offset : finder.offsets()[found->second])
+            replacements.push_back({offset, node.name.size(), name});
     }
-    std::sort(replacements.begin(), replacements.end(),
-              [](const auto &a, const auto &b) { return a.offset > b.offset; });
-    for (const auto &[offset, size, name] : replacements)
-        manifest.replace(offset, size, *name);
-    return read(manifest);
+    return read(replaced(manifest, std::move(replacements)));
 }
 
 } // namespace Tano

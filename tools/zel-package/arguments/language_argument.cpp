@@ -8,8 +8,6 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-#include <algorithm>
-
 namespace ZelPackage {
 namespace {
 

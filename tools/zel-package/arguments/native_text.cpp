@@ -1,7 +1,5 @@
 #include "native_text.h"
 
-#include <algorithm>
-
 namespace ZelPackage {
 namespace {
 

@@ -57,11 +57,6 @@ ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     const QStringList files = arguments.positionalArguments();
     if (!format)
         return Failure;
-    if (isStandardStream(files.at(0)) && isStandardStream(files.at(1))) {
-        console.printMessage(
-            QCoreApplication::translate("zel-package", "'-' can be given only once."));
-        return Failure;
-    }
     const auto from = readManifest(files.at(0), console);
     const auto to = readManifest(files.at(1), console);
     return from && to ? compare(from->package, to->package, *format, console) : Failure;

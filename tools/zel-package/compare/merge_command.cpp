@@ -11,8 +11,6 @@
 
 #include <tano/save_file.h>
 
-#include <algorithm>
-
 namespace ZelPackage {
 namespace {
 
@@ -141,12 +139,6 @@ ExitStatus merge(const Request &request, Console &console) {
 }
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
-    const QStringList files = arguments.positionalArguments();
-    if (std::count_if(files.begin(), files.end(), isStandardStream) > 1) {
-        console.printMessage(
-            QCoreApplication::translate("zel-package", "'-' can be given only once."));
-        return Failure;
-    }
     return merge(requestOf(arguments), console);
 }
 

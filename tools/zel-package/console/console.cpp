@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cstdio>
 #include <limits>
 #include <sys/ioctl.h>
 #include <unistd.h>

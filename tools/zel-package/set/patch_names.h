@@ -11,7 +11,6 @@ namespace ZelPackage {
 ///
 /// Like git and GNU diff, quotes names with control characters, quotation marks, backslashes or
 /// invalid UTF-8 as in C, and appends a tab to names with spaces.
-/// that are not UTF-8 are quoted as in C, and a tab follows a name with spaces.
 QStringList patchNames(const QStringList &files);
 
 } // namespace ZelPackage

@@ -17,8 +17,6 @@
 
 #include <QSet>
 
-#include <algorithm>
-
 namespace ZelPackage {
 namespace {
 
@@ -84,8 +82,6 @@ bool readEdits(const QString &file, Request &request, Console &console) {
 }
 
 bool checkRequest(const Request &request, bool hasEdits, Console &console) {
-    const auto streams =
-        std::count_if(request.files.begin(), request.files.end(), isStandardStream);
     QString reason;
     if (request.files.isEmpty())
         reason = QCoreApplication::translate("zel-package", "Missing argument FILE.");
@@ -94,8 +90,6 @@ bool checkRequest(const Request &request, bool hasEdits, Console &console) {
             QCoreApplication::translate("zel-package", "'%1' is not of the form FIELD=VALUE, as in "
                                                        "author=Ines or names[en_US]=Tea.")
                 .arg(request.files.constLast());
-    else if (streams > 1)
-        reason = QCoreApplication::translate("zel-package", "'-' can be given only once.");
     if (!reason.isEmpty())
         console.printMessage(reason);
     return reason.isEmpty();

@@ -31,7 +31,7 @@ bool startsWith(const FieldPath &path, const FieldPath &start) {
 QString linesOf(const FieldPath &path, const QVector<Field> &fields) {
     QString lines;
     for (const Field &field : fields) {
-        const QString value = Zel::PackageModel::printed(field.value) % u'\n';
+        QString value = Zel::PackageModel::printed(field.value) % u'\n';
         if (field.path == path)
             return value;
         if (startsWith(field.path, path))
@@ -43,9 +43,11 @@ QString linesOf(const FieldPath &path, const QVector<Field> &fields) {
 ExitStatus get(const QString &argument, const Zel::PackageInfoModel &package,
                const QVector<Field> &fields, const QString &file, Console &console) {
     FieldPath::Error error;
-    const auto path = FieldPath::parse(Zel::toUtf8(argument), &error);
+    // The empty path is that of the package, which is no field.
+    const auto path = argument.isEmpty() ? FieldPath().field({})
+                                         : FieldPath::parse(Zel::toUtf8(argument), &error);
     QString reason = translatedSentence(error.message);
-    if (path && !path->isEmpty()) {
+    if (path) {
         const QString lines = linesOf(*path, fields);
         console.print(lines);
         // An empty list exists although it has no lines.

@@ -58,13 +58,6 @@ bool readUnits(const QString &file, Units &all, Console &console) {
     return true;
 }
 
-bool checkStreams(const QStringList &files, Console &console) {
-    if (std::count_if(files.begin(), files.end(), isStandardStream) <= 1)
-        return true;
-    console.printMessage(QCoreApplication::translate("zel-package", "'-' can be given only once."));
-    return false;
-}
-
 int countOf(const TextImport &import, TextOutcome outcome) {
     return int(std::count_if(import.units.begin(), import.units.end(),
                              [&](const auto &unit) { return unit.outcome == outcome; }));
@@ -139,8 +132,6 @@ ExitStatus importUnits(const QString &file, const Manifest &manifest, const Unit
 
 ExitStatus run(const QCommandLineParser &arguments, Console &console) {
     QStringList files = arguments.positionalArguments();
-    if (!checkStreams(files, console))
-        return Failure;
     const QString file = files.takeFirst();
     const auto manifest = readManifest(file, console);
     bool isFine = manifest.has_value();

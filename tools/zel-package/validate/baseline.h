@@ -2,7 +2,6 @@
 
 #include <tano/manifest_reader.h>
 
-#include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QStringList>

@@ -64,6 +64,7 @@ const ProgramCommand explainCommand{
     1,
     options,
     run,
+    0,
 };
 
 } // namespace ZelPackage

@@ -2,7 +2,6 @@
 
 #include <packagemodel/package_issues.h>
 
-#include <optional>
 #include <string>
 
 namespace ZelPackage {

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <array>
 
 namespace ZelPackage {

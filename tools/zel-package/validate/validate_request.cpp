@@ -178,6 +178,12 @@ std::optional<ValidateRequest> validateRequest(const QCommandLineParser &argumen
                                  .arg(stdinNameOption));
         return {};
     }
+    if (isStandardStream(arguments.value(writeBaselineOption))) {
+        console.printMessage(
+            QCoreApplication::translate("zel-package", "'--%1' requires a file name.")
+                .arg(writeBaselineOption));
+        return {};
+    }
     return ValidateRequest{files,
                            *makeWriter,
                            *color,

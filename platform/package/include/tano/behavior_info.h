@@ -59,7 +59,7 @@ public:
     const std::string &name(const std::string &code) const;
     /// Sets the name in a language; an empty one is kept as such.
     void setName(const std::string &name, const std::string &code);
-    /// Returns false if there is no name in that language.
+    /// Removes the name in a language; returns false if there is none.
     bool removeName(const std::string &code);
 
     /// The descriptions by language code.
@@ -68,7 +68,7 @@ public:
     const std::string &description(const std::string &code) const;
     /// Sets the description in a language; an empty one is kept as such.
     void setDescription(const std::string &description, const std::string &code);
-    /// Returns false if there is no description in that language.
+    /// Removes the description in a language; returns false if there is none.
     bool removeDescription(const std::string &code);
 
     /// The permissions that the behavior needs, in the author's order.

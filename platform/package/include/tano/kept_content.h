@@ -43,11 +43,10 @@ struct KeptComment {
 };
 
 /// The comments of a package in the order of the written manifest.
-[[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptComment> comments(const PackageInfo &package);
+TANO_PACKAGE_EXPORT std::vector<KeptComment> comments(const PackageInfo &package);
 
 /// Whether any comment contains `part`; faster than comments().
-[[nodiscard]] TANO_PACKAGE_EXPORT bool hasComment(const PackageInfo &package,
-                                                  const std::string &part);
+TANO_PACKAGE_EXPORT bool hasComment(const PackageInfo &package, const std::string &part);
 
 /// Removes a comment; returns the package unchanged if it has no such comment or cannot be saved.
 [[nodiscard]] TANO_PACKAGE_EXPORT PackageInfo withoutComment(const PackageInfo &package,
@@ -76,7 +75,7 @@ withoutComments(const PackageInfo &package, const std::vector<KeptComment> &remo
 /// The unknown elements and attributes without a namespace, in the order of the written manifest
 /// and without those inside other unknown elements. They have no positions; see
 /// ManifestReader::unknownNodes() for those of a file.
-[[nodiscard]] TANO_PACKAGE_EXPORT std::vector<UnknownNode> unknownNodes(const PackageInfo &package);
+TANO_PACKAGE_EXPORT std::vector<UnknownNode> unknownNodes(const PackageInfo &package);
 
 /// An element or attribute beyond the format, in any namespace, as it is written.
 struct KeptNode {
@@ -90,7 +89,7 @@ struct KeptNode {
 
 /// All elements and attributes beyond the format, in the order of the written manifest and without
 /// those inside others.
-[[nodiscard]] TANO_PACKAGE_EXPORT std::vector<KeptNode> keptNodes(const PackageInfo &package);
+TANO_PACKAGE_EXPORT std::vector<KeptNode> keptNodes(const PackageInfo &package);
 
 /// The outcome of withKeptNodes().
 struct ChangedNodes {
@@ -106,7 +105,7 @@ struct ChangedNodes {
 
 /// The names of elements or attributes, depending on the kind of the node, that the format defines
 /// for its parent. Empty if the format has no such parent.
-[[nodiscard]] TANO_PACKAGE_EXPORT std::vector<std::string> knownNames(const UnknownNode &node);
+TANO_PACKAGE_EXPORT std::vector<std::string> knownNames(const UnknownNode &node);
 
 /// Gives an unknown node one of its known names: `<behaviour path="x"/>` becomes a behavior,
 /// `minversion="2.1"` a bound of a requirement. Comments and other unknown content are kept, also

@@ -52,7 +52,7 @@ class TANO_PACKAGE_EXPORT ManifestReader {
 public:
     static constexpr int maxDepth = 64;      ///< of nested elements
     static constexpr int maxAttributes = 64; ///< on one element
-    /// The length of a tag, in bytes.
+    /// The length of a tag, a comment or a processing instruction, in bytes.
     static constexpr std::size_t maxTagLength = std::size_t(1) << 20;
     /// The size of a file, in bytes.
     static constexpr std::int64_t maxFileSize = std::int64_t(1) << 30;

@@ -20,8 +20,8 @@ namespace Tano {
 struct FileFingerprint;
 struct PackageData;
 
-/// The record of one application package: the content of its manifest. All texts are UTF-8 and
-/// keyed by language code.
+/// The record of one application package: the content of its manifest. All texts are UTF-8; names
+/// and descriptions are keyed by language code.
 ///
 /// An implicitly shared value: a copy increments a reference count, a change detaches. Comments,
 /// and elements and attributes that this version does not know, are kept in the record and saved
@@ -33,7 +33,8 @@ struct PackageData;
 /// if (!record.loadFromManifestFile(file))
 ///     showMessage(QString::fromStdString(record.errorString()));
 /// record.setAuthor("Ines");
-/// record.saveToManifestFile(fileName.toStdString());
+/// if (!record.saveToManifestFile(fileName.toStdString()))
+///     showMessage(QString::fromStdString(record.errorString()));
 /// ```
 class TANO_PACKAGE_EXPORT PackageInfo {
 public:
@@ -50,10 +51,15 @@ public:
     /// @}
 
     /// @{
-    /// One of the package's plain texts.
+    /// The version of the package's type, a dotted number; empty if it is not set.
     const std::string &typeVersion() const;
     void setTypeVersion(const std::string &typeVersion);
+    /// @}
 
+    /// @{
+    /// A plain text; empty if it is not set. The date is in ISO 8601 ("2026-09-14"), the channel is
+    /// that of the release ("stable"), and the path is where the package is on the robot; none of
+    /// them is checked.
     const std::string &installer() const;
     void setInstaller(const std::string &installer);
 
@@ -79,7 +85,7 @@ public:
     const std::string &name(const std::string &code) const;
     /// Sets the name in a language; an empty one is kept as such.
     void setName(const std::string &name, const std::string &code);
-    /// Returns false if there is no name in that language.
+    /// Removes the name in a language; returns false if there is none.
     bool removeName(const std::string &code);
     /// Removes the names in all languages.
     void clearNames();
@@ -90,7 +96,7 @@ public:
     const std::string &description(const std::string &code) const;
     /// Sets the description in a language; an empty one is kept as such.
     void setDescription(const std::string &description, const std::string &code);
-    /// Returns false if there is no description in that language.
+    /// Removes the description in a language; returns false if there is none.
     bool removeDescription(const std::string &code);
 
     /// The codes of the languages that the package runs in, in the author's order.
@@ -188,19 +194,20 @@ public:
 
     /// Reads a manifest, from the current position of `file` if it is open. On failure, returns
     /// false, sets errorString() and leaves the record unchanged.
-    bool loadFromManifestFile(QFile &file);
+    [[nodiscard]] bool loadFromManifestFile(QFile &file);
     /// Reads a manifest from its text; failures as above.
-    bool loadFromManifestContent(const std::string &content);
+    [[nodiscard]] bool loadFromManifestContent(const std::string &content);
 
     /// Saves to the file at `path` atomically, see saveFile(). On failure, returns false, sets
     /// errorString() and leaves an existing file unchanged. Symbolic links are followed.
-    bool saveToManifestFile(const std::string &path) const;
+    [[nodiscard]] bool saveToManifestFile(const std::string &path) const;
     /// Like the above, but fails if the file does not have the `expected` content, so that no edit
     /// of another program is lost.
-    bool saveToManifestFile(const std::string &path, const FileFingerprint &expected) const;
-    /// Saves to `file`, in place if the caller has opened it. A file opened for appending is
-    /// refused.
-    bool saveToManifestFile(QFile &file) const;
+    [[nodiscard]] bool saveToManifestFile(const std::string &path,
+                                          const FileFingerprint &expected) const;
+    /// Saves to `file`, in place if the caller has opened it, otherwise as above. A file opened for
+    /// appending is refused.
+    [[nodiscard]] bool saveToManifestFile(QFile &file) const;
     /// The text of the manifest; empty, with errorString() set, if a field contains characters that
     /// XML cannot represent.
     [[nodiscard]] std::string saveToManifestContent() const;

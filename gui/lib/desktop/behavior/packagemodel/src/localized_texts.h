@@ -9,8 +9,6 @@
 #include <tano/text_maps.h>
 #include <zel/language.h>
 
-#include <QObject>
-
 #include <algorithm>
 #include <set>
 #include <string>

@@ -1,7 +1,6 @@
 #include <packagemodel/package_info_model.h>
 
 #include "checks/script_checks.h"
-#include "copies.h"
 #include "log_category.h"
 #include "package_info_data.h"
 

@@ -325,9 +325,8 @@ public:
 ///
 /// ```cpp
 /// const QString condition = QStringLiteral("battery > 30");
-/// stack.push(new BehaviorSetConditionCommand(&package, path, condition, QStringLiteral("start"),
-/// 0,
-///                                            true));
+/// const QString purpose = QStringLiteral("start");
+/// stack.push(new BehaviorSetConditionCommand(&package, path, condition, purpose, 0, true));
 /// ```
 class PACKAGEMODEL_EXPORT BehaviorSetConditionCommand
     : public BehaviorSetPurposedIndexedStringCommand {

@@ -7,8 +7,8 @@
 
 /// @file
 /// Suggestions for messages such as "did you mean 'author'?". Case is ignored. A word may have one
-/// typo for every three characters: a character that is inserted, missing, replaced or swapped with
-/// its neighbor.
+/// typo, or one for every three characters: a character that is inserted, missing, replaced or
+/// swapped with its neighbor.
 
 namespace Zel {
 

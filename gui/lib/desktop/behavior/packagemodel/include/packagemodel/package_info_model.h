@@ -137,7 +137,7 @@ public:
     const Tano::PackageInfo &packageInfo() const;
 
     /// @{
-    /// One of the package's plain texts; empty if it is not set.
+    /// One of the package's plain texts, as in Tano::PackageInfo; empty if it is not set.
     QString installer() const;
     QString uid() const;
     QString typeVersion() const;

@@ -16,9 +16,10 @@ namespace Zel {
 ///
 /// ```cpp
 /// RecordEditor editor(record);
-/// const PackageModel::Applied applied = editor.apply(changes);
-/// if (applied.error.isEmpty())
-///     editor.record().saveToManifestFile(fileName.toStdString());
+/// const QString error = editor.apply(changes).error;
+/// const Tano::PackageInfo edited = editor.record();
+/// if (error.isEmpty() && !edited.saveToManifestFile(fileName.toStdString()))
+///     showMessage(QString::fromStdString(edited.errorString()));
 /// ```
 class PACKAGEMODEL_EXPORT RecordEditor {
 public:

@@ -3,7 +3,6 @@
 #include <tano/package_info.h>
 
 #include <functional>
-#include <string>
 
 namespace Zel {
 

@@ -6,7 +6,7 @@
 
 namespace Zel::PackageModel {
 
-/// Whether a finding becomes an issue: a message about an unnamed language would say nothing.
+/// Whether the message of a finding names its language, so that the finding becomes an issue.
 bool isNamed(const Finding &finding);
 
 /// The issue of a finding without its text, for filters.

@@ -32,7 +32,7 @@ using Tano::FieldPath;
 constexpr std::array<const char *, 5> textFields{"names", "descriptions", "tags",
                                                  "triggerSentences", "loadingResponses"};
 
-// The ids in a comment; nothing for a comment of another kind.
+// The rules in a comment; empty for a comment of another kind.
 QStringList rulesIn(const Tano::KeptComment &comment) {
     static const QRegularExpression form(
         QRegularExpression::anchoredPattern(QStringLiteral("\\s*zel-package:\\s*ignore\\b(.*)")),
@@ -68,7 +68,7 @@ public:
             m_behaviors[behavior.path()].push_back(&behavior);
     }
 
-    // Of a text, the first one in its block; nothing for another field.
+    // The first text in the block of a text; nullopt for other fields.
     std::optional<FieldPath> firstIn(const FieldPath &path) const;
     bool beginsAt(const FieldPath &path) const;
 
@@ -191,7 +191,7 @@ namespace {
 
 using Places = std::vector<FieldPath>;
 
-// Where a comment may ignore a field, the narrowest place first.
+// The fields before which a comment covers this one, the narrowest first.
 Places placesFor(const TextBlocks &blocks, const FieldPath &field) {
     Places places{field};
     if (const auto text = blocks.firstIn(field))
@@ -208,7 +208,7 @@ std::string commentText(const QStringList &rules) {
                   u' ');
 }
 
-// Where a comment for a place is written.
+// The position of a comment for a place.
 struct Spot {
     FieldPath element;                         // the one that follows
     std::optional<Tano::KeptComment> extended; // the comment that it extends
@@ -256,7 +256,7 @@ public:
         , m_blocks(record)
         , m_comments(record) {}
 
-    // The record with comments; nothing if all issues are ignored already.
+    // The record with comments; nullopt if all issues are ignored already.
     std::optional<Tano::PackageInfo> operator()(const QVector<Issue> &issues);
 
 private:
@@ -315,7 +315,7 @@ void Ignoring::addAt(const Pending &pending, const Spots &spots) {
     }
 }
 
-// Nothing if a comment cannot be written.
+// Returns nullopt if a comment cannot be written.
 std::optional<Tano::PackageInfo> Ignoring::withAdditions(const Tano::PackageInfo &record) const {
     std::vector<Tano::KeptComment> removed;
     std::vector<Tano::KeptComment> added;

@@ -120,7 +120,7 @@ std::vector<std::string> commonInput(const PackageInfoModel &package) {
 } // namespace
 
 struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
-    // What a behavior was like when it was checked last, and what was found.
+    // The state of a behavior at its last check, and its issues.
     struct CheckedBehavior {
         const BehaviorInfoModel *model; // may be dangling
         std::uint64_t revision = 0;
@@ -149,7 +149,7 @@ struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
     QVector<Issue> issues;
 };
 
-// Brings the list of behaviors up to date, keeping what was found in those that stay.
+// Updates the list of behaviors; those that remain keep their issues.
 bool IssueTracker::Data::updateOrder() {
     const QVector<BehaviorInfoModel *> &present =
         childrenOf<BehaviorInfoModel>(*package).children();
@@ -181,7 +181,7 @@ bool IssueTracker::Data::updatePaths() {
     return isChanged;
 }
 
-// Behaviors with the same path are counted; one whose number changes is checked again.
+// Counts behaviors with the same path; one whose number changes is checked again.
 void IssueTracker::Data::updateOccurrences() {
     QHash<QString, int> counts;
     counts.reserve(int(behaviors.size()));
@@ -206,7 +206,7 @@ bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBe
     return !areSame(behavior.issues, found);
 }
 
-// To make a filter may take long: comments are looked for in the whole record. Returns whether
+// Makes a filter only if needed, since that searches the whole record for comments. Returns whether
 // there is a new one.
 bool IssueTracker::Data::updateFilter() {
     if (!options.filterFor)

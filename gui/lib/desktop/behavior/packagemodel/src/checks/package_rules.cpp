@@ -79,7 +79,7 @@ const std::array table{
      "<supportedLanguage code=\"en_US\"/>\n<supportedLanguage code=\"fr_FR\"/>\n<behavior path=\"greet\">\n  <texts language=\"en_US\">\n    <triggerSentence>hello</triggerSentence>\n  </texts>\n</behavior>"},
     RuleRow{"script-malformed", Severity::Error,
      QT_TRANSLATE_NOOP("Zel::PackageModel", "Malformed speech script (line %1, column %2): %3"),
-     QT_TRANSLATE_NOOP("Zel::PackageModel", "A text with markup is a speech script. A malformed script cannot be converted to plain text, so publishing keeps its markup and users see the tags."),
+     QT_TRANSLATE_NOOP("Zel::PackageModel", "A text with markup is a speech script. A malformed script cannot be converted to plain text, so 'zel-package publish' refuses the package."),
      QT_TRANSLATE_NOOP("Zel::PackageModel", "Correct the markup, or write &lt; for a < that does not start a tag."),
      "<texts language=\"en_US\">\n  <name>Tea&lt;break&gt;time</name>\n</texts>"},
     RuleRow{"behavior-path-duplicate", Severity::Error,

@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 
 namespace Zel::PackageModel {
 namespace {

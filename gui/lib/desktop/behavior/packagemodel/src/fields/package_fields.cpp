@@ -158,8 +158,8 @@ std::optional<FieldValue> parsedValue(FieldKind kind, const QString &text, QStri
                 "Zel::PackageModel",
                 "'%1' is not a version, that is, numbers separated by dots as in 2.1.");
     } else {
-        reason =
-            QCoreApplication::translate("Zel::PackageModel", "'%1' is no entry with its fields.");
+        reason = QCoreApplication::translate(
+            "Zel::PackageModel", "'%1' is not an entry; set the fields of the entry instead.");
     }
     if (error)
         *error = reason.isEmpty() ? QString() : reason.arg(text);

@@ -124,8 +124,8 @@ bool mayUse(const KeptNode &node, const std::string &prefix) {
            node.xml.find(' ' + prefix + ':') != std::string::npos;
 }
 
-// Merges their changes to a group of unknown elements and attributes. What theirs only removed is
-// kept, since its whole parent may be gone.
+// Merges their changes to a group of unknown elements and attributes. Nodes that theirs removed
+// without a replacement are kept, since their whole parent may be gone.
 class NodeMerge {
 public:
     NodeMerge(const PackageInfo &base, const PackageInfo &merged, FieldMerge &merge)

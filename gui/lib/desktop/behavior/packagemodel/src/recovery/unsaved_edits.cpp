@@ -5,8 +5,6 @@
 
 #include <tano/save_file.h>
 
-#include <QCoreApplication>
-
 namespace Zel::PackageModel {
 namespace {
 
