@@ -130,14 +130,13 @@ bool Document::save(const QString &fileName) {
     m_fileName = path;
     m_isReplayable = isReplayable;
     m_saved = m_package->packageInfo();
-    m_savedIcon = keyOf(m_package->icon());
+    rememberIcon();
     rememberDisk(written);
     m_undoStack.setClean();
     if (isElsewhere)
         trackIssues(); // the files that the package names may not be there
     else
         updateIssues(); // the icon is there now
-    m_iconOnDisk = iconOnDisk();
     Q_EMIT fileNameChanged();
     Q_EMIT edited();
     return true;
@@ -166,6 +165,11 @@ bool Document::addIcon(const QString &manifest, std::vector<Tano::FileToSave> &f
 
 std::optional<QByteArray> Document::pendingIcon() const {
     return isIconEdited() ? pngOf(m_package->icon()) : std::nullopt;
+}
+
+void Document::rememberIcon() {
+    m_savedIcon = keyOf(m_package->icon());
+    m_iconOnDisk = iconOnDisk();
 }
 
 bool Document::isIconEdited() const {
@@ -270,8 +274,7 @@ void Document::replacePackage(std::unique_ptr<PackageInfoModel> package, const Q
     const std::unique_ptr<PackageInfoModel> old = std::exchange(m_package, std::move(package));
     m_fileName = fileName;
     m_saved = m_package->packageInfo();
-    m_savedIcon = keyOf(m_package->icon());
-    m_iconOnDisk = iconOnDisk();
+    rememberIcon();
     rememberDisk(content);
     watchPackage();
     m_languages.reset();

@@ -156,6 +156,7 @@ private:
     bool updateIssues();
     QPair<QDateTime, qint64> iconOnDisk() const;
     bool followIcon();
+    void rememberIcon();
     void indexIssues();
     void rememberDisk(const Tano::FileFingerprint &content);
     bool addIcon(const QString &manifest, std::vector<Tano::FileToSave> &files);

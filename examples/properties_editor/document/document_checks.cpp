@@ -55,11 +55,13 @@ QPair<QDateTime, qint64> Document::iconOnDisk() const {
 bool Document::followIcon() {
     if (!QFileInfo::exists(m_fileName) || iconOnDisk() == m_iconOnDisk)
         return false;
-    m_iconOnDisk = iconOnDisk();
-    if (const auto present = isIconEdited() ? nullptr : readAgain()) {
-        m_package->setIcon(present->icon());
-        m_savedIcon = m_package->icon().isNull() ? 0 : m_package->icon().cacheKey();
+    if (isIconEdited()) {
+        m_iconOnDisk = iconOnDisk();
+        return true;
     }
+    if (const auto present = readAgain())
+        m_package->setIcon(present->icon());
+    rememberIcon();
     return true;
 }
 
