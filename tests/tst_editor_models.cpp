@@ -257,6 +257,49 @@ private Q_SLOTS:
         QVERIFY(document.entrySeverity(QStringLiteral("behaviors"), QStringLiteral("other")));
     }
 
+    // Sorted views take time proportional to all rows for each announced step.
+    void announcesFewSteps() {
+        using Zel::PackageModel::Edit;
+        using Zel::PackageModel::Edits;
+        constexpr int count = 90;
+        Tano::PackageInfo record;
+        for (int i = 0; i < count; ++i) {
+            Tano::BehaviorInfo behavior;
+            behavior.setPath(std::to_string(i));
+            behavior.setNature("solitry");
+            record.addBehavior(behavior);
+        }
+        Document document;
+        QVERIFY(document.openTemplate(QByteArray::fromStdString(record.saveToManifestContent())));
+        AllModels models(document);
+        const ProblemsModel &problems = models.problems;
+        const int before = problems.rowCount();
+        QSignalSpy removed(&problems, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy inserted(&problems, &QAbstractItemModel::rowsInserted);
+        QSignalSpy moved(&problems, &QAbstractItemModel::rowsMoved);
+
+        const auto path = [](int i) {
+            return FieldPath().field("behaviors").entry(std::to_string(i));
+        };
+        Edits corrections;
+        for (int i = 0; i < count; i += 2)
+            corrections.append(
+                {Edit::Action::Set, path(i).field("nature"), QStringLiteral("interactive")});
+        Edits half;
+        for (int i = 0; i < count / 2; ++i)
+            half.append({Edit::Action::Remove, path(i)});
+        for (const Edits &edits :
+             {corrections, half, Edits{{Edit::Action::Move, path(0), {}, 89}}}) {
+            document.edit(edits);
+            QCOMPARE(models.state(), AllModels(document).state());
+            document.undoStack()->undo();
+            QCOMPARE(models.state(), AllModels(document).state());
+            QCOMPARE(problems.rowCount(), before);
+        }
+        QVERIFY(removed.size() + inserted.size() + moved.size() < 20);
+        QVERIFY(removed.size() > 0); // half of them in one run
+    }
+
     // The package is unchanged, and the reason is shown.
     void refusals() {
         Document document;

@@ -5,6 +5,42 @@
 #include <QSet>
 
 namespace Editor {
+namespace {
+
+// The number of keys in a row, from an index on, that are not in a set.
+int runAt(int index, const QStringList &keys, const QSet<QString> &others) {
+    int end = index;
+    while (end < keys.size() && !others.contains(keys.at(end)))
+        ++end;
+    return end - index;
+}
+
+int runsBeyond(const QSet<QString> &others, const QStringList &keys) {
+    int runs = 0;
+    for (int i = 0; i < keys.size(); ++i) {
+        const int count = runAt(i, keys, others);
+        runs += count > 0 ? 1 : 0;
+        i += count;
+    }
+    return runs;
+}
+
+// The number of keys that are in both lists at different places among these.
+int moved(const QStringList &before, const QSet<QString> &present, const QStringList &after,
+          const QSet<QString> &wanted) {
+    int count = 0;
+    for (int from = 0, to = 0;; ++from, ++to) {
+        while (from < before.size() && !wanted.contains(before.at(from)))
+            ++from;
+        while (to < after.size() && !present.contains(after.at(to)))
+            ++to;
+        if (from == before.size() || to == after.size())
+            return count;
+        count += before.at(from) != after.at(to) ? 1 : 0;
+    }
+}
+
+} // namespace
 
 TableModel::TableModel(Document &document, QObject *parent)
     : QAbstractTableModel(parent)
@@ -79,14 +115,18 @@ void TableModel::sync() {
 
 void TableModel::setKeys(const QStringList &keys) {
     const QSet<QString> wanted(keys.begin(), keys.end());
-    for (int row = int(m_keys.size()) - 1; row >= 0; --row) {
-        if (wanted.contains(m_keys.at(row)))
-            continue;
-        beginRemoveRows({}, row, row);
-        m_keys.removeAt(row);
-        endRemoveRows();
-    }
     const QSet<QString> present(m_keys.begin(), m_keys.end());
+    // A sorted view takes time proportional to its rows for each step.
+    constexpr int manySteps = 20;
+    if (runsBeyond(wanted, m_keys) + runsBeyond(present, keys) +
+            moved(m_keys, present, keys, wanted) >
+        manySteps) {
+        beginResetModel();
+        m_keys = keys;
+        endResetModel();
+        return;
+    }
+    removeRowsBeyond(wanted);
     for (int row = 0; row < keys.size(); ++row) {
         const QString &key = keys.at(row);
         if (m_keys.value(row) == key && row < m_keys.size())
@@ -97,10 +137,26 @@ void TableModel::setKeys(const QStringList &keys) {
             m_keys.move(from, row);
             endMoveRows();
         } else {
-            beginInsertRows({}, row, row);
-            m_keys.insert(row, key);
+            const int count = runAt(row, keys, present);
+            beginInsertRows({}, row, row + count - 1);
+            m_keys = m_keys.mid(0, row) + keys.mid(row, count) + m_keys.mid(row);
             endInsertRows();
+            row += count - 1;
         }
+    }
+}
+
+void TableModel::removeRowsBeyond(const QSet<QString> &wanted) {
+    for (int last = int(m_keys.size()) - 1; last >= 0; --last) {
+        if (wanted.contains(m_keys.at(last)))
+            continue;
+        int first = last;
+        while (first > 0 && !wanted.contains(m_keys.at(first - 1)))
+            --first;
+        beginRemoveRows({}, first, last);
+        m_keys.erase(m_keys.begin() + first, m_keys.begin() + last + 1);
+        endRemoveRows();
+        last = first;
     }
 }
 

@@ -61,6 +61,7 @@ protected:
 private:
     void reset();
     void setKeys(const QStringList &keys);
+    void removeRowsBeyond(const QSet<QString> &wanted);
 
     Document &m_document;
     QStringList m_keys;
