@@ -8,7 +8,10 @@
 #include <QHash>
 
 #include <algorithm>
+#include <map>
 #include <numeric>
+#include <sstream>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -27,36 +30,49 @@ constexpr char fieldOrder[] =
     "properties model minHeadVersion maxHeadVersion minBodyVersion maxBodyVersion minVersion "
     "maxVersion robotRequirements brioRequirements behaviors dialogs services";
 
-int rankOf(const FieldPath &path, std::size_t step) {
-    static const QStringList order = QString::fromLatin1(fieldOrder).split(u' ');
-    // The path of a whole package or entry precedes its fields.
-    return step < path.steps().size() ? 1 + int(order.indexOf(fieldName(path, step))) : 0;
+std::map<std::string, int> rankTable() {
+    std::map<std::string, int> ranks;
+    std::istringstream names(fieldOrder);
+    for (std::string name; names >> name;)
+        ranks.emplace(name, int(ranks.size()));
+    return ranks;
 }
+
+// The path of a whole package or entry precedes its fields.
+int rankOf(const FieldPath &path, std::size_t step) {
+    static const auto all = rankTable();
+    const auto found = step < path.steps().size() ? all.find(path.steps()[step].field) : all.end();
+    return found == all.end() ? -1 : found->second;
+}
+
+using Key = QPair<QString, QString>; // of an entry: its list and its key there
+
+struct Place {
+    FieldPath path;
+    Key key;
+};
 
 // The rows of the entries that have issues.
 class EntryRows {
 public:
-    EntryRows(const PackageInfoModel &package, const std::vector<FieldPath> &paths) {
-        for (const FieldPath &path : paths)
-            m_rows.insert(keyOf(path), {});
+    EntryRows(const PackageInfoModel &package, const std::vector<Place> &places) {
+        for (const Place &place : places)
+            m_rows.insert(place.key, {});
         find(QStringLiteral("behaviors"), package.behaviors(), &Zel::BehaviorInfoModel::path);
         find(QStringLiteral("dialogs"), package.dialogs(), &Zel::DialogInfoModel::topicName);
         find(QStringLiteral("services"), package.services(), &Zel::ServiceInfoModel::name);
     }
     // Of other lists, the index in the path.
-    int of(const FieldPath &path) const {
+    int of(const Place &place) const {
+        const FieldPath &path = place.path;
         if (path.isEmpty() || path.steps().front().selectors.empty())
             return 0;
         const auto &selectors = path.steps().front().selectors;
         const int occurrence = selectors.size() > 1 ? selectors[1].toIndex().value_or(0) : 0;
-        return m_rows.value(keyOf(path)).value(occurrence, selectors.front().toIndex().value_or(0));
+        return m_rows.value(place.key).value(occurrence, selectors.front().toIndex().value_or(0));
     }
 
 private:
-    using Key = QPair<QString, QString>; // list and key
-
-    static Key keyOf(const FieldPath &path) { return {fieldName(path), fieldKey(path)}; }
-
     template<typename Entry>
     void find(const QString &list, const QVector<Entry *> &entries, QString (Entry::*key)() const) {
         for (int row = 0; row < entries.size(); ++row) {
@@ -72,18 +88,22 @@ private:
 } // namespace
 
 QVector<int> problemOrder(const PackageInfoModel &package, const QVector<Issue> &issues) {
-    std::vector<FieldPath> paths;
-    for (const Issue &issue : issues)
-        paths.push_back(FieldPath::parse(Zel::toUtf8(issue.path)).value_or(FieldPath()));
-    const EntryRows rows(package, paths);
-    std::vector<std::tuple<int, int, int, int>> places;
-    for (std::size_t i = 0; i < paths.size(); ++i)
-        places.emplace_back(-int(issues.at(int(i)).severity), rankOf(paths[i], 0),
-                            rows.of(paths[i]), rankOf(paths[i], 1));
+    std::vector<Place> places;
+    for (const Issue &issue : issues) {
+        const auto path = FieldPath::parse(Zel::toUtf8(issue.path)).value_or(FieldPath());
+        places.push_back({path, {fieldName(path), fieldKey(path)}});
+    }
+    const EntryRows rows(package, places);
+    std::vector<std::tuple<int, int, int, int>> ranks;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const FieldPath &path = places[i].path;
+        ranks.emplace_back(-int(issues.at(int(i)).severity), rankOf(path, 0), rows.of(places[i]),
+                           rankOf(path, 1));
+    }
     QVector<int> order(issues.size());
     std::iota(order.begin(), order.end(), 0);
     std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return places[std::size_t(a)] < places[std::size_t(b)]; });
+                     [&](int a, int b) { return ranks[std::size_t(a)] < ranks[std::size_t(b)]; });
     return order;
 }
 
