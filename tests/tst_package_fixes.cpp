@@ -163,7 +163,8 @@ private Q_SLOTS:
         QVERIFY(tracker.issues().isEmpty());
     }
 
-    // A tracker asks for the filter again only after edits on which comments depend.
+    // A tracker asks for the filter again only after edits on which comments depend, and follows
+    // unknown content.
     void keptFilter() {
         const RobotLanguage english = Zel::robotLanguage(text("en_US"));
         PackageInfoModel package;
@@ -176,11 +177,13 @@ private Q_SLOTS:
       <!-- zel-package: ignore text-blank -->
       <triggerSentence> </triggerSentence>
       <triggerSentence>a</triggerSentence>
-      <triggerSentence>  </triggerSentence>
+      <triggerSentence mood="x">  </triggerSentence>
+      <tag mood="x">z</tag>
     </texts>
   </behavior>
   <!-- zel-package: ignore nature-unknown -->
   <behavior path="plain" nature="x"/>
+  <moods/>
 </package>)"));
         IssueOptions options;
         options.withFixes = false;
@@ -198,12 +201,12 @@ private Q_SLOTS:
         const std::pair<int, std::function<void()>> edits[]{
             {1, [&] { commented->addTag(text("x"), english); }},
             {1, [&] { commented->insertTag(text("y"), english, 0); }},
+            {0, [&] { plain->setNature(text("y")); }},
             {1, [&] { commented->removeTag(0, english); }},
             {0, [&] { package.setAuthor(text("b")); }},
             {1, [&] { package.setDescription(text("a"), english); }},
             {0, [&] { package.setDescription(text("b\x01"), english); }},
             {0, [&] { plain->setName(text("a\x01"), english); }},
-            {0, [&] { plain->setNature(text("y")); }},
             {1, [&] { package.setAuthor({}); }},
             {1, [&] { plain->setPath(text("other")); }},
             {1, [&] { package.moveBehavior(0, 1); }},

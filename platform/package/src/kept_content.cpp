@@ -310,7 +310,7 @@ bool hasComment(const PackageInfo &package, const std::string &part) {
 }
 
 std::vector<UnknownNode> unknownNodes(const PackageInfo &package) {
-    if (!keeps(package, isElement))
+    if (!hasKeptNodes(package))
         return {};
     NodeFinder finder;
     write(package, finder);

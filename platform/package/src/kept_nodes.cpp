@@ -170,8 +170,12 @@ private:
 
 } // namespace
 
+bool hasKeptNodes(const PackageInfo &package) {
+    return keeps(package, isElement);
+}
+
 std::vector<KeptNode> keptNodes(const PackageInfo &package) {
-    if (!keeps(package, isElement))
+    if (!hasKeptNodes(package))
         return {};
     KeptNodeFinder finder;
     write(package, finder);

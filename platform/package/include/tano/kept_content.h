@@ -91,6 +91,9 @@ struct KeptNode {
 /// those inside others.
 TANO_PACKAGE_EXPORT std::vector<KeptNode> keptNodes(const PackageInfo &package);
 
+/// Whether there are any; faster than keptNodes().
+TANO_PACKAGE_EXPORT bool hasKeptNodes(const PackageInfo &package);
+
 /// The outcome of withKeptNodes().
 struct ChangedNodes {
     PackageInfo package;        ///< with the changes

@@ -8,13 +8,13 @@
 
 namespace Zel::PackageModel {
 
-bool hasIgnoreComments(const Tano::BehaviorInfo &behavior) {
+namespace {
+
+Tano::PackageInfo packageOf(const Tano::BehaviorInfo &behavior) {
     Tano::PackageInfo package;
     package.addBehavior(behavior);
-    return Tano::hasComment(package, ignoreMark);
+    return package;
 }
-
-namespace {
 
 // The record without behaviors.
 Tano::PackageInfo ownRecordOf(const PackageInfoModel &package) {
@@ -51,6 +51,14 @@ Tano::PackageInfo withPlaceholders(const Tano::PackageInfo &record) {
 }
 
 } // namespace
+
+bool hasIgnoreComments(const Tano::BehaviorInfo &behavior) {
+    return Tano::hasComment(packageOf(behavior), ignoreMark);
+}
+
+bool hasUnknownContent(const Tano::BehaviorInfo &behavior) {
+    return Tano::hasKeptNodes(packageOf(behavior));
+}
 
 Tano::PackageInfo syncedRecord(const PackageInfoModel &package) {
     Tano::PackageInfo record = ownRecordOf(package);

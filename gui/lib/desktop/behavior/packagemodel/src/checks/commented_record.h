@@ -16,6 +16,9 @@ constexpr const char *ignoreMark = "zel-package:";
 /// Whether a behavior has comments that may turn off rules.
 bool hasIgnoreComments(const Tano::BehaviorInfo &behavior);
 
+/// Whether a behavior has elements or attributes beyond the format.
+bool hasUnknownContent(const Tano::BehaviorInfo &behavior);
+
 /// The record as syncRecord() would make it.
 Tano::PackageInfo syncedRecord(const PackageInfoModel &package);
 

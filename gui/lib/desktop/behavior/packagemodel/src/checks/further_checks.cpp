@@ -306,7 +306,7 @@ void checkSupport(const CheckedPackage &checked, Findings &findings) {
 }
 
 void checkUnknownNodes(const CheckedPackage &checked, Findings &findings) {
-    for (const Tano::UnknownNode &node : checked.unknownNodes) {
+    for (const Tano::UnknownNode &node : checked.unknownNodes()) {
         const QString name = fromUtf8(node.name);
         QStringList arguments{name, nearest(name, namesBeside(node))};
         const bool isElement = node.kind == Tano::UnknownNode::Kind::Element;
@@ -345,6 +345,12 @@ std::vector<Tano::KeptComment> conflicts(const Tano::PackageInfo &record) {
     return all;
 }
 
+const CheckedPackage::UnknownNodes &CheckedPackage::unknownNodes() const {
+    if (!knownNodes)
+        knownNodes = std::make_shared<const UnknownNodes>(Tano::unknownNodes(record));
+    return *knownNodes;
+}
+
 FieldPath BehaviorPlace::path() const {
     return fieldNamed("behaviors").entry(toUtf8(behavior->path()), occurrence);
 }
@@ -355,7 +361,6 @@ CheckedPackage::CheckedPackage(const PackageInfoModel &checked,
     : package(checked)
     , record(checkedRecord)
     , options(checkedWith)
-    , unknownNodes(Tano::unknownNodes(checkedRecord))
     , scripts(checked) {
     for (const RobotLanguages &list :
          {checked.supportedLanguages(), checked.descriptionLanguages()}) {

@@ -9,6 +9,9 @@
 
 #include <QSet>
 
+#include <memory>
+#include <vector>
+
 namespace Zel::PackageModel {
 
 /// A behavior and its index among those with the same path.
@@ -28,8 +31,12 @@ struct CheckedPackage {
     const Tano::PackageInfo &record;
     const IssueOptions &options;
     QSet<QString> languages; // the codes of the package's languages
-    std::vector<Tano::UnknownNode> unknownNodes;
     BehaviorScripts scripts;
+
+    using UnknownNodes = std::vector<Tano::UnknownNode>;
+    /// The unknown nodes of the record, which take as long as a save.
+    const UnknownNodes &unknownNodes() const;
+    mutable std::shared_ptr<const UnknownNodes> knownNodes; // of an earlier check, if still true
 };
 
 /// The known names at the position of an unknown node.

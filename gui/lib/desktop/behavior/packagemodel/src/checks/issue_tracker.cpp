@@ -128,12 +128,16 @@ struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
         int occurrence = 0;
         std::vector<SectionIssue> issues = {};
         bool hasIgnoreComments = false;
+        bool hasKeptNodes = false;
     };
 
     bool updateOrder();
     void updateOccurrences();
     bool updatePaths();
     bool updateBehavior(const CheckedPackage &checked, CheckedBehavior &behavior, bool isForced);
+    void updateOutline(const Tano::PackageInfo &record);
+    bool isInStep(const Tano::PackageInfo &record) const;
+    void updateNodes(const Tano::PackageInfo &record);
     bool updateFilter();
     QVector<Issue> assembled() const;
 
@@ -141,8 +145,10 @@ struct PACKAGEMODEL_NO_EXPORT IssueTracker::Data {
     IssueOptions options;
     std::vector<std::string> input;
     IssueFilter filter;
+    std::shared_ptr<const CheckedPackage::UnknownNodes> unknownNodes;
     bool isFilterStale = true;
-    Tano::PackageInfo outline;      // of the package itself when the filter was made
+    bool areNodesStale = true;
+    Tano::PackageInfo outline;      // of the package itself when the above were made
     std::uint64_t wholeChanges = 0; // likewise
     std::vector<SectionIssue> ofPackage;
     std::vector<CheckedBehavior> behaviors;
@@ -197,27 +203,60 @@ bool IssueTracker::Data::updateBehavior(const CheckedPackage &checked, CheckedBe
     const std::uint64_t revision = ChildAccess::data(*behavior.model).revision();
     if (std::exchange(behavior.revision, revision) == revision && !isForced)
         return false;
+    const Tano::BehaviorInfo &record = ChildAccess::data(*behavior.model).record();
     if (options.filterFor) {
-        const bool has = hasIgnoreComments(ChildAccess::data(*behavior.model).record());
+        const bool has = hasIgnoreComments(record);
         isFilterStale |= std::exchange(behavior.hasIgnoreComments, has) || has;
     }
+    const bool hasNodes = hasUnknownContent(record);
+    areNodesStale |= std::exchange(behavior.hasKeptNodes, hasNodes) || hasNodes;
     auto found = issuesOf(checkBehavior(checked, {behavior.model, behavior.occurrence}));
     std::swap(behavior.issues, found);
     return !areSame(behavior.issues, found);
 }
 
-// Makes a filter only if needed, since that searches the whole record for comments. Returns whether
-// there is a new one.
-bool IssueTracker::Data::updateFilter() {
-    if (!options.filterFor)
-        return false;
+// Comments and unknown nodes are looked for in the whole record, which may take long.
+void IssueTracker::Data::updateOutline(const Tano::PackageInfo &record) {
+    if (!options.filterFor && !Tano::hasKeptNodes(record))
+        return;
     auto present = ownOutlineOf(*package);
-    isFilterStale |= std::exchange(wholeChanges, ChildAccess::data(*package).wholeChanges) !=
-                     ChildAccess::data(*package).wholeChanges;
-    isFilterStale |= present != outline;
-    if (!std::exchange(isFilterStale, false))
-        return false;
+    const std::uint64_t changes = ChildAccess::data(*package).wholeChanges;
+    const bool isWhole = std::exchange(wholeChanges, changes) != changes;
+    if (!isWhole && present == outline)
+        return;
     outline = std::move(present);
+    isFilterStale = true;
+    areNodesStale = true;
+}
+
+// Insertions into a behavior's lists reach the package's record with the next change.
+bool IssueTracker::Data::isInStep(const Tano::PackageInfo &record) const {
+    if (record.behaviors().size() != behaviors.size())
+        return false;
+    for (std::size_t i = 0; i < behaviors.size(); ++i) {
+        if (behaviors[i].hasKeptNodes &&
+            record.behaviors()[i] != ChildAccess::data(*behaviors[i].model).record())
+            return false;
+    }
+    return true;
+}
+
+void IssueTracker::Data::updateNodes(const Tano::PackageInfo &record) {
+    using Nodes = CheckedPackage::UnknownNodes;
+    if (!Tano::hasKeptNodes(record)) {
+        unknownNodes = std::make_shared<const Nodes>();
+        areNodesStale = true;
+    } else if (areNodesStale) {
+        unknownNodes = std::make_shared<const Nodes>(
+            Tano::unknownNodes(withContentOf(record, &hasUnknownContent)));
+        areNodesStale = !isInStep(record);
+    }
+}
+
+// Returns whether there is a new one.
+bool IssueTracker::Data::updateFilter() {
+    if (!options.filterFor || !std::exchange(isFilterStale, false))
+        return false;
     filter = options.filterFor(*package);
     return true;
 }
@@ -278,6 +317,7 @@ bool IssueTracker::update() {
     if (m_data->updatePaths() || isOrderChanged) {
         m_data->updateOccurrences();
         m_data->isFilterStale = true;
+        m_data->areNodesStale = true;
     }
 
     bool isChanged = isOrderChanged;
@@ -286,6 +326,9 @@ bool IssueTracker::update() {
     const bool isForced = std::exchange(m_data->input, input) != input;
     for (auto &behavior : m_data->behaviors)
         isChanged |= m_data->updateBehavior(checked, behavior, isForced);
+    m_data->updateOutline(checked.record);
+    m_data->updateNodes(checked.record);
+    checked.knownNodes = m_data->unknownNodes;
     auto ofPackage = issuesOf(checkPackage(checked));
     std::swap(m_data->ofPackage, ofPackage);
     isChanged |= !areSame(m_data->ofPackage, ofPackage);
