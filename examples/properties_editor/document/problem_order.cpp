@@ -23,7 +23,7 @@ using Zel::PackageInfoModel;
 using Zel::PackageModel::Issue;
 
 // Fields as the pages show them. Those of entries are compared only with fields of the same entry.
-constexpr char fieldOrder[] =
+constexpr const char *fieldOrder =
     "topicName name uid version typeVersion path installer author organization date channel "
     "nature userRequestable supportedLanguages descriptionLanguages names descriptions "
     "triggerSentences loadingResponses tags conditions permissions topics execStart autoRun "

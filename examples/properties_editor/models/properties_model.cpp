@@ -74,8 +74,8 @@ void PropertiesModel::rename(int row, const QString &name) {
 }
 
 QString PropertiesModel::add() {
-    const QString name = freeName(QStringLiteral("property"),
-                                  [this](const QString &taken) { return keys().contains(taken); });
+    QString name = freeName(QStringLiteral("property"),
+                            [this](const QString &taken) { return keys().contains(taken); });
     document().edit({setText(property(name), {})});
     return name;
 }
