@@ -12,7 +12,7 @@ class StringListModel;
 
 /// The line below a list whose text is added by Return; pasted lines are added at once, each as an
 /// entry. Undo first reverts typing in the line.
-class AdditionLine : public TypedText {
+class AdditionLine final : public TypedText {
     Q_OBJECT
 
 public:
