@@ -155,8 +155,7 @@ void RandomInput::step() {
     m_left = qMax(0, m_left - 1);
     QWidget *modal = QApplication::activeModalWidget();
     QWidget *popup = QApplication::activePopupWidget();
-    if (m_left > 0 || modal || popup)
-        schedule();
+    schedule(); // also after the last event: a dialog may open later
     // Random keys in a file dialog could rename or delete files of others.
     if (modal && (chance(15) || m_left == 0 || qobject_cast<QFileDialog *>(modal)))
         return answerDialog();
